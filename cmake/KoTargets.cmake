@@ -1,0 +1,54 @@
+# What every target shares: toolkit, language, warnings, and the way a room becomes a library.
+
+if(NOT KO_QT MATCHES "^[56]$")
+    message(FATAL_ERROR "KO_QT is '${KO_QT}'; it takes 5 or 6")
+endif()
+set(QT_DEFAULT_MAJOR_VERSION ${KO_QT})
+set(KO_QT_COMPONENTS Core Gui Widgets Sql)
+if(KO_QT EQUAL 6)
+    list(APPEND KO_QT_COMPONENTS Core5Compat)
+endif()
+if(KO_TESTS)
+    list(APPEND KO_QT_COMPONENTS Test)
+endif()
+find_package(Qt${KO_QT} REQUIRED COMPONENTS ${KO_QT_COMPONENTS})
+
+include(GNUInstallDirs)
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+
+add_library(ko_flags INTERFACE)
+target_compile_options(ko_flags INTERFACE -Wall -Wextra -Wpedantic -Werror)
+# Qt 6.4 marks API that Qt 4.8 and 5.15 need as deprecated; what is gone does not compile anyway.
+target_compile_definitions(ko_flags INTERFACE QT_NO_DEPRECATED_WARNINGS)
+if(KO_SANITIZE)
+    target_compile_options(ko_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
+    target_link_options(ko_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# ko_library(NAME SOURCES... [LINK PUBLIC-LIBRARIES...] [PRIVATE PRIVATE-LIBRARIES...])
+# A room of the house: libko<name>, target KoNodeUI::<name>, its own folder as include root.
+function(ko_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE" ${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES})
+    add_library(KoNodeUI::${name} ALIAS ${name})
+    string(TOUPPER ${name} upper)
+    set_target_properties(${name} PROPERTIES
+        OUTPUT_NAME ko${name}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+    target_compile_definitions(${name} PRIVATE KO_BUILD_${upper})
+    target_include_directories(${name} PUBLIC
+        $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/konodeui>)
+    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE} $<BUILD_INTERFACE:ko_flags>)
+endfunction()

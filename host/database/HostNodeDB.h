@@ -1,0 +1,108 @@
+#ifndef KO_HOSTNODEDB_H
+#define KO_HOSTNODEDB_H
+
+#include "HostExport.h"
+#include "database/NodeData.h"
+#include "ko/NodeDB.h"
+#include "store/StoreError.h"
+
+#include <memory>
+
+namespace ko {
+
+class AuditLog;
+
+/// The node database of this host, on a SQLite file.
+///
+/// Reading: nodes handed out are unchanging snapshots. Id, type, name, location and recording usage of
+/// all nodes are in memory; other properties are read when they are first needed and kept.
+///
+/// Writing: a change is visible at once and announced before the call returns. All changes of one turn
+/// of the event loop share one transaction, which is on disk before the event loop waits again; with
+/// the audit entries that belong to it. When that fails, storeFailed() is emitted, nothing is lost from
+/// memory, and the same changes are tried again with the next ones, by flush() or, given up, thrown away
+/// by discardUnstoredChanges().
+///
+/// Other processes may use the same file. What they change arrives as the same three signals, within
+/// half a second; beginUpdateNode() looks for it first. Only properties that really differ are stored,
+/// so two processes that change different properties of one node both keep their work.
+class KO_HOST_EXPORT HostNodeDB : public NodeDB
+{
+    Q_OBJECT
+
+public:
+    /// Opens \a file, creating or migrating it as needed; null and \a error when that cannot be done,
+    /// with the file unchanged. The folder must exist.
+    static std::unique_ptr<HostNodeDB> open(const QString& file, StoreError* error);
+
+    /// Stores what is not stored yet.
+    ~HostNodeDB() override;
+
+    QString fileName() const;
+
+    // NodeDB
+    kom::smart<const Node> node(const QString& id) const override;
+    Node* beginUpdateNode(const QString& id, int limit) override;
+    void endUpdateNode(Node* node) override;
+    void newNodeHint(const NodeHint& hint) override;
+    QString lookupHint(const NodeHint& hint) const override;
+    void removeNode(const QString& id) override;
+    QStringList nodeIdList(ENodeType type) const override;
+    QString readableNodeTypeName(ENodeType type) const override;
+    TypeNames readableNodeTypeNames(const QList<ENodeType>* types, bool sorted) const override;
+    kom::smart<INodeDriverComponent> nodeDriver(ENodeType type) const override;
+    void addNodeRelation(const QString& from, const QString& to, ENodeRelationType type) override;
+    void removeNodeRelation(const QString& from, const QString& to, ENodeRelationType type) override;
+    QStringList relatedNodes(const QString& id, ENodeRelationType type) const override;
+    bool isDestinationOfNodeRelation(const QString& id, ENodeRelationType type) const override;
+    void startScanners(const std::string& name, unsigned interfaces, int limit) override;
+    void stopScanners(const std::string& name) override;
+    QString globalRecordingFolderPath() const override;
+    QString defaultRecordingTransponderIP() const override;
+    int bandwidth() const override;
+    GlobalNetworkProxy& globalProxy() override;
+    Environments& environments() override;
+    QString activeEnvironment() const override;
+    void setActiveEnvironment(const QString& id) override;
+
+    // What the contract only reads.
+    void setGlobalRecordingFolderPath(const QString& path);
+    void setDefaultRecordingTransponderIP(const QString& address);
+    void setBandwidth(int bandwidth);
+
+    /// Summaries of all nodes, oldest first, without touching the disk.
+    QVector<NodeSummary> summaries() const;
+
+    /// The summary of one node; its id is empty when there is no such node.
+    NodeSummary summary(const QString& id) const;
+
+    /// The audit log kept in the same file and the same transactions.
+    AuditLog& auditLog();
+
+    /// Stores all changes now. False when that failed; storeFailed() has been emitted then.
+    bool flush();
+    bool hasUnstoredChanges() const;
+
+    /// Goes back to what is stored, announcing every node that thereby changes, comes back or goes.
+    void discardUnstoredChanges();
+
+    /// Takes in what other processes stored since the last look.
+    void syncForeignChanges();
+
+signals:
+    /// Changes could not be stored; emitted once for each failed attempt.
+    void storeFailed(const ko::StoreError& error);
+    /// Changes that could not be stored before are stored now.
+    void storeRecovered();
+    /// Another process changed the active environment, the environments, or other settings.
+    void settingsChanged();
+
+private:
+    class Private;
+    explicit HostNodeDB(std::unique_ptr<Private> d);
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace ko
+
+#endif

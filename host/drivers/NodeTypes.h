@@ -1,0 +1,51 @@
+#ifndef KO_NODETYPES_H
+#define KO_NODETYPES_H
+
+#include "HostExport.h"
+#include "database/NodeData.h"
+#include "kom/smart.h"
+
+#include <QIcon>
+#include <QList>
+
+#include <memory>
+
+namespace ko {
+
+class INodeDriverComponent;
+class Node;
+class NodeHint;
+
+/// The node types this host knows, as free functions over one table.
+namespace NodeTypes {
+
+/// All types, in the order of their numbers.
+KO_HOST_EXPORT QList<ENodeType> all();
+
+/// Translated name, for an unknown type a generic one with its number.
+KO_HOST_EXPORT QString readableName(ENodeType type);
+KO_HOST_EXPORT QIcon icon(ENodeType type);
+
+/// Whether a user may add nodes of this type (its driver makes hints).
+KO_HOST_EXPORT bool canBeAdded(ENodeType type);
+
+/// The driver, or a null handle for an unknown type. One instance for each type.
+KO_HOST_EXPORT kom::smart<INodeDriverComponent> driver(ENodeType type);
+
+/// A node over \a data; an unknown type gives a plain node. \a data.id is kept as it is.
+KO_HOST_EXPORT std::unique_ptr<Node> createNode(const NodeData& data);
+
+/// The data of the node that a hint describes: all its properties, no id.
+KO_HOST_EXPORT NodeData dataOf(const NodeHint& hint);
+
+/// What lists show.
+KO_HOST_EXPORT NodeSummary summaryOf(const NodeData& data);
+
+/// Two nodes with the same key are the same node; an empty key equals none (see docs/lookup.md).
+KO_HOST_EXPORT QString lookupKey(const NodeData& data);
+
+} // namespace NodeTypes
+
+} // namespace ko
+
+#endif

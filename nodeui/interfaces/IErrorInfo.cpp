@@ -1,0 +1,12 @@
+#include "interfaces/IErrorInfo.h"
+
+namespace ko {
+
+IErrorInfo::~IErrorInfo() = default;
+
+const char* IErrorInfo::ID()
+{
+    return "ko::IErrorInfo";
+}
+
+} // namespace ko

@@ -1,0 +1,7 @@
+#include "interfaces/IEventRetrievalInterface.h"
+
+namespace ko {
+
+IEventRetrievalInterface::~IEventRetrievalInterface() = default;
+
+} // namespace ko

@@ -1,0 +1,7 @@
+#include "interfaces/ILayoutAdapter.h"
+
+namespace ko {
+
+ILayoutAdapter::~ILayoutAdapter() = default;
+
+} // namespace ko

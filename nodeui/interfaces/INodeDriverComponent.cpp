@@ -1,0 +1,12 @@
+#include "interfaces/INodeDriverComponent.h"
+
+namespace ko {
+
+INodeDriverComponent::~INodeDriverComponent() = default;
+
+const char* INodeDriverComponent::ID()
+{
+    return "ko::INodeDriverComponent";
+}
+
+} // namespace ko

@@ -1,0 +1,7 @@
+#include "interfaces/IStorageObject.h"
+
+namespace ko {
+
+IStorageObject::~IStorageObject() = default;
+
+} // namespace ko

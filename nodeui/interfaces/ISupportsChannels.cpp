@@ -1,0 +1,12 @@
+#include "interfaces/ISupportsChannels.h"
+
+namespace ko {
+
+ISupportsChannels::~ISupportsChannels() = default;
+
+const char* ISupportsChannels::ID()
+{
+    return "ko::ISupportsChannels";
+}
+
+} // namespace ko

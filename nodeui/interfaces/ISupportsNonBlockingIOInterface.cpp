@@ -1,0 +1,7 @@
+#include "interfaces/ISupportsNonBlockingIOInterface.h"
+
+namespace ko {
+
+ISupportsNonBlockingIOInterface::~ISupportsNonBlockingIOInterface() = default;
+
+} // namespace ko

@@ -1,0 +1,7 @@
+#include "interfaces/InterfaceStub.h"
+
+namespace ko {
+
+InterfaceStub::~InterfaceStub() = default;
+
+} // namespace ko

@@ -1,0 +1,7 @@
+#include "ko/Environments.h"
+
+namespace ko {
+
+Environments::~Environments() = default;
+
+} // namespace ko

@@ -1,0 +1,10 @@
+#include "ko/IPDeviceNode.h"
+
+namespace ko {
+
+IPDeviceNode::IPDeviceNode(ENodeType nodeType)
+    : Node(nodeType)
+{
+}
+
+} // namespace ko

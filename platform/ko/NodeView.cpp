@@ -1,0 +1,89 @@
+#include "ko/NodeView.h"
+
+namespace ko {
+
+NodeView::NodeView(const QString& name)
+    : m_root(new SubViewEntry(0, name))
+{
+}
+
+NodeView::~NodeView() = default;
+
+QString NodeView::name() const
+{
+    return m_root->name();
+}
+
+kom::smart<NodeViewEntry> NodeView::entryFromInternalId(unsigned internalId) const
+{
+    return m_entries.value(internalId);
+}
+
+QList<kom::smart<NodeEntry>> NodeView::entriesOf(const NodeID& id) const
+{
+    QList<kom::smart<NodeEntry>> entries;
+    const QList<unsigned> internalIds = m_entriesByNode.values(id);
+    for (const unsigned internalId : internalIds)
+        entries.append(m_entries.value(internalId).cast<NodeEntry>());
+    return entries;
+}
+
+kom::smart<SubViewEntry> NodeView::addSubView(const QString& name)
+{
+    const kom::smart<SubViewEntry> list = kom::makeSmart<SubViewEntry>(++m_lastInternalId, name);
+    append(*m_root, list);
+    return list;
+}
+
+void NodeView::addNodeTo(SubViewEntry& list, const NodeID& id)
+{
+    const QList<kom::smart<NodeEntry>> entries = entriesOf(id);
+    for (const kom::smart<NodeEntry>& entry : entries) {
+        if (entry->m_parent == &list)
+            return;
+    }
+    if (&list != m_root.get() && list.m_parent != m_root.get())
+        return;
+    const kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
+    m_entriesByNode.insert(id, entry->internalId());
+    append(list, entry);
+}
+
+void NodeView::addNode(ko::NodeID id)
+{
+    addNodeTo(*m_root, id);
+}
+
+void NodeView::append(SubViewEntry& list, const kom::smart<NodeViewEntry>& entry)
+{
+    emit entryAboutToBeInserted(list.internalId(), list.count());
+    m_entries.insert(entry->internalId(), entry);
+    list.append(entry);
+    emit entryInserted();
+}
+
+void NodeView::removeNode(const QString& id, bool everywhere)
+{
+    const QList<kom::smart<NodeEntry>> entries = entriesOf(id);
+    for (const kom::smart<NodeEntry>& entry : entries) {
+        SubViewEntry* list = entry->m_parent;
+        if (!list || (list != m_root.get() && !everywhere))
+            continue;
+        emit entryAboutToBeRemoved(list->internalId(), list->rowOf(*entry));
+        m_entriesByNode.remove(id, entry->internalId());
+        m_entries.remove(entry->internalId());
+        list->remove(*entry);
+        emit entryRemoved();
+    }
+}
+
+void NodeView::removeAll()
+{
+    emit aboutToBeCleared();
+    m_entries.clear();
+    m_entriesByNode.clear();
+    m_root->clear();
+    emit cleared();
+}
+
+} // namespace ko

@@ -1,0 +1,78 @@
+#include "ko/NodeViewEntry.h"
+
+namespace ko {
+
+NodeViewEntry::NodeViewEntry(unsigned internalId)
+    : m_internalId(internalId)
+{
+}
+
+NodeViewEntry::~NodeViewEntry() = default;
+
+NodeEntry::NodeEntry(unsigned internalId, const NodeID& id)
+    : NodeViewEntry(internalId)
+    , m_id(id)
+{
+}
+
+SubViewEntry::SubViewEntry(unsigned internalId, const QString& name)
+    : NodeViewEntry(internalId)
+    , m_name(name)
+{
+}
+
+SubViewEntry::~SubViewEntry()
+{
+    clear();
+}
+
+kom::smart<NodeViewEntry> SubViewEntry::entryAt(int row) const
+{
+    if (row < 0 || row >= count())
+        return kom::smart<NodeViewEntry>();
+    return m_slots.at(m_rows.slotAt(row));
+}
+
+void SubViewEntry::append(const kom::smart<NodeViewEntry>& entry)
+{
+    entry->m_parent = this;
+    entry->m_slot = m_rows.append();
+    m_slots.append(entry);
+}
+
+void SubViewEntry::remove(NodeViewEntry& entry)
+{
+    const int slot = entry.m_slot;
+    m_rows.remove(slot);
+    entry.m_parent = nullptr;
+    m_slots[slot].reset(); // may delete the entry
+    if (m_slots.size() > 64 && m_slots.size() > 2 * count())
+        compact();
+}
+
+void SubViewEntry::clear()
+{
+    // Somebody may still hold an entry's handle.
+    for (const kom::smart<NodeViewEntry>& entry : std::as_const(m_slots)) {
+        if (!entry.null())
+            entry->m_parent = nullptr;
+    }
+    m_slots.clear();
+    m_rows.clear();
+}
+
+void SubViewEntry::compact()
+{
+    QVector<kom::smart<NodeViewEntry>> kept;
+    kept.reserve(count());
+    m_rows.clear();
+    for (const kom::smart<NodeViewEntry>& entry : std::as_const(m_slots)) {
+        if (!entry.null()) {
+            entry->m_slot = m_rows.append();
+            kept.append(entry);
+        }
+    }
+    m_slots.swap(kept);
+}
+
+} // namespace ko

@@ -1,0 +1,213 @@
+#include "ko/NodeViewModel.h"
+
+#include "ko/IPDeviceNode.h"
+#include "ko/NodeDB.h"
+#include "ko/connect.h"
+
+#include <QMimeData>
+
+namespace ko {
+
+NodeViewModel::NodeViewModel(kom::smart<NodeView> view, QObject* parent)
+    : QAbstractItemModel(parent)
+    , m_view(view)
+{
+    const NodeView* source = m_view.get();
+    ko::connect(source, SIGNAL(entryAboutToBeInserted(uint,int)), this, SLOT(entryAboutToBeInserted(uint,int)));
+    ko::connect(source, SIGNAL(entryInserted()), this, SLOT(entryInserted()));
+    ko::connect(source, SIGNAL(entryAboutToBeRemoved(uint,int)), this, SLOT(entryAboutToBeRemoved(uint,int)));
+    ko::connect(source, SIGNAL(entryRemoved()), this, SLOT(entryRemoved()));
+    ko::connect(source, SIGNAL(aboutToBeCleared()), this, SLOT(aboutToBeCleared()));
+    ko::connect(source, SIGNAL(cleared()), this, SLOT(cleared()));
+    ko::connect(NodeDB::getDB(), SIGNAL(nodeUpdated(ko::NodeID)), this, SLOT(nodeChanged(ko::NodeID)));
+    ko::connect(NodeDB::getDB(), SIGNAL(nodeRemoved(ko::NodeID)), this, SLOT(nodeChanged(ko::NodeID)));
+}
+
+NodeViewModel::~NodeViewModel() = default;
+
+kom::smart<NodeViewEntry> NodeViewModel::entry(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return kom::smart<NodeViewEntry>();
+    return m_view->entryFromInternalId(unsigned(index.internalId()));
+}
+
+const SubViewEntry* NodeViewModel::list(const QModelIndex& parent) const
+{
+    if (!parent.isValid())
+        return &m_view->root();
+    return parent.column() == 0 ? dynamic_cast<const SubViewEntry*>(entry(parent).get()) : nullptr;
+}
+
+QModelIndex NodeViewModel::index(int row, int column, const QModelIndex& parent) const
+{
+    const SubViewEntry* entries = list(parent);
+    if (!entries || column < 0 || column >= columnCount(parent))
+        return QModelIndex();
+    const kom::smart<NodeViewEntry> child = entries->entryAt(row);
+    return child.null() ? QModelIndex() : createIndex(row, column, quintptr(child->internalId()));
+}
+
+QModelIndex NodeViewModel::parent(const QModelIndex& child) const
+{
+    const kom::smart<NodeViewEntry> childEntry = entry(child);
+    const SubViewEntry* parent = childEntry.null() ? nullptr : m_view->parentOf(*childEntry);
+    return parent ? indexOf(*parent, 0) : QModelIndex();
+}
+
+int NodeViewModel::rowCount(const QModelIndex& parent) const
+{
+    const SubViewEntry* entries = list(parent);
+    return entries ? entries->count() : 0;
+}
+
+int NodeViewModel::columnCount(const QModelIndex&) const
+{
+    return ColumnCount;
+}
+
+QVariant NodeViewModel::data(const QModelIndex& index, int role) const
+{
+    const kom::smart<NodeViewEntry> shown = entry(index);
+    if (shown.null())
+        return QVariant();
+    if (!shown->isNode()) {
+        const bool named = index.column() == NameColumn && (role == Qt::DisplayRole || role == Qt::EditRole);
+        return named ? QVariant(static_cast<const SubViewEntry*>(shown.get())->name()) : QVariant();
+    }
+    const kom::smart<const Node> node =
+        NodeDB::getDB()->node(static_cast<const NodeEntry*>(shown.get())->id());
+    if (node.null())
+        return QVariant();
+    if (role == Qt::DecorationRole && index.column() == NameColumn)
+        return QVariant(node->icon());
+    if (role != Qt::DisplayRole)
+        return QVariant();
+    switch (index.column()) {
+    case NameColumn:
+        return node->name();
+    case TypeColumn:
+        return NodeDB::getDB()->readableNodeTypeName(node->type);
+    case AddressColumn: {
+        const kom::smart<const IPDeviceNode> device = node.cast<const IPDeviceNode>();
+        return device.null() ? QVariant() : QVariant(device->address());
+    }
+    default:
+        return QVariant();
+    }
+}
+
+bool NodeViewModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    const kom::smart<SubViewEntry> renamed = entry(index).cast<SubViewEntry>();
+    if (renamed.null() || index.column() != NameColumn || role != Qt::EditRole)
+        return false;
+    m_view->renameSubView(*renamed, value.toString());
+    emit dataChanged(index, index);
+    return true;
+}
+
+QVariant NodeViewModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return QVariant();
+    switch (section) {
+    case NameColumn:
+        return tr("Name");
+    case TypeColumn:
+        return tr("Type");
+    case AddressColumn:
+        return tr("Address");
+    default:
+        return QVariant();
+    }
+}
+
+Qt::ItemFlags NodeViewModel::flags(const QModelIndex& index) const
+{
+    const kom::smart<NodeViewEntry> shown = entry(index);
+    if (shown.null())
+        return Qt::NoItemFlags;
+    const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    if (shown->isNode())
+        return flags | Qt::ItemIsDragEnabled;
+    return index.column() == NameColumn ? flags | Qt::ItemIsEditable : flags;
+}
+
+QString NodeViewModel::mimeType()
+{
+    return QLatin1String("application/x-ko-nodeids");
+}
+
+QStringList NodeViewModel::mimeTypes() const
+{
+    return QStringList(mimeType());
+}
+
+QMimeData* NodeViewModel::mimeData(const QModelIndexList& indexes) const
+{
+    QStringList ids;
+    for (const QModelIndex& index : indexes) {
+        const kom::smart<NodeEntry> node = entry(index).cast<NodeEntry>();
+        if (index.column() == 0 && !node.null())
+            ids.append(node->id());
+    }
+    if (ids.isEmpty())
+        return nullptr;
+    QMimeData* data = new QMimeData;
+    data->setData(mimeType(), ids.join(QString(QLatin1Char('\n'))).toUtf8());
+    return data;
+}
+
+void NodeViewModel::entryAboutToBeInserted(unsigned listId, int row)
+{
+    beginInsertRows(indexOfList(listId), row, row);
+}
+
+void NodeViewModel::entryInserted()
+{
+    endInsertRows();
+}
+
+void NodeViewModel::entryAboutToBeRemoved(unsigned listId, int row)
+{
+    beginRemoveRows(indexOfList(listId), row, row);
+}
+
+void NodeViewModel::entryRemoved()
+{
+    endRemoveRows();
+}
+
+void NodeViewModel::aboutToBeCleared()
+{
+    beginResetModel();
+}
+
+void NodeViewModel::cleared()
+{
+    endResetModel();
+}
+
+void NodeViewModel::nodeChanged(ko::NodeID id)
+{
+    const QList<kom::smart<NodeEntry>> entries = m_view->entriesOf(id);
+    for (const kom::smart<NodeEntry>& changed : entries) {
+        const QModelIndex first = indexOf(*changed, 0);
+        emit dataChanged(first, indexOf(*changed, columnCount(first) - 1));
+    }
+}
+
+QModelIndex NodeViewModel::indexOf(const NodeViewEntry& entry, int column) const
+{
+    const SubViewEntry* parent = m_view->parentOf(entry);
+    return parent ? createIndex(parent->rowOf(entry), column, quintptr(entry.internalId())) : QModelIndex();
+}
+
+QModelIndex NodeViewModel::indexOfList(unsigned listId) const
+{
+    const kom::smart<NodeViewEntry> entry = m_view->entryFromInternalId(listId);
+    return entry.null() ? QModelIndex() : indexOf(*entry, 0);
+}
+
+} // namespace ko

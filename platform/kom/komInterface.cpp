@@ -1,0 +1,5 @@
+#include "kom/komInterface.h"
+
+komInterface::~komInterface() = default;
+komEventRetrievalInterface::~komEventRetrievalInterface() = default;
+komEventStorageStatusInterface::~komEventStorageStatusInterface() = default;
