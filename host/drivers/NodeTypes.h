@@ -29,13 +29,19 @@ KO_HOST_EXPORT QIcon icon(ENodeType type);
 /// Whether a user may add nodes of this type (its driver makes hints).
 KO_HOST_EXPORT bool canBeAdded(ENodeType type);
 
-/// The driver, or a null handle for an unknown type. One instance for each type.
+/// Whether nodes of this type are reached over the network (they are IPDeviceNodes).
+KO_HOST_EXPORT bool isDevice(ENodeType type);
+
+/// The driver, or a null handle for an unknown type. One driver serves all types.
 KO_HOST_EXPORT kom::smart<INodeDriverComponent> driver(ENodeType type);
 
 /// A node over \a data; an unknown type gives a plain node. \a data.id is kept as it is.
 KO_HOST_EXPORT std::unique_ptr<Node> createNode(const NodeData& data);
 
-/// The data of the node that a hint describes: all its properties, no id.
+/// What a hint says: its name and the properties it carries or stands for, no id.
+KO_HOST_EXPORT NodeData described(const NodeHint& hint);
+
+/// The data of the node that a hint describes: what it says on top of the type's defaults, no id.
 KO_HOST_EXPORT NodeData dataOf(const NodeHint& hint);
 
 /// What lists show.

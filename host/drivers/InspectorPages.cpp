@@ -1,0 +1,77 @@
+#include "drivers/InspectorPages.h"
+
+#include "drivers/GeneralPage.h"
+#include "drivers/PropertyFormPage.h"
+#include "drivers/PropertyKeys.h"
+
+#include <QCoreApplication>
+
+namespace ko {
+
+namespace {
+
+template <class Widget>
+std::unique_ptr<InspectorPage> create(QWidget* parent)
+{
+    return std::make_unique<PageOf<Widget>>(new Widget(parent));
+}
+
+std::unique_ptr<InspectorPage> createLayoutOptions(QWidget* parent)
+{
+    LayoutOptionsWidget* page = new LayoutOptionsWidget(parent);
+    page->setObjectName(QLatin1String("layoutOptionsWidget")); // the edit dialog looks for it
+    return std::make_unique<PageOf<LayoutOptionsWidget>>(page);
+}
+
+typedef PropertyFormPage::Field Field;
+
+const Field folderFields[] = {
+    {PropertyKeys::Path, Field::Folder, QT_TRANSLATE_NOOP("PropertyFormPage", "Path:")},
+    {PropertyKeys::UseGlobalPath, Field::Flag,
+     QT_TRANSLATE_NOOP("PropertyFormPage", "Path is below the default file server path")},
+    {PropertyKeys::User, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "User name:")},
+    {PropertyKeys::Password, Field::Password, QT_TRANSLATE_NOOP("PropertyFormPage", "Password:")},
+};
+
+const Field urlFields[] = {
+    {"UrlPTZStream", Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Live (M-JPEG):")},
+};
+
+template <const auto& fields>
+std::unique_ptr<InspectorPage> createForm(QWidget* parent)
+{
+    QVector<Field> list;
+    for (const Field& field : fields)
+        list.append(field);
+    return std::make_unique<PageOf<PropertyFormPage>>(new PropertyFormPage(list, parent));
+}
+
+const PageSpec general = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
+                          create<GeneralPage>};
+const PageSpec connection = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
+                             create<UserDataWidget>};
+const PageSpec layoutOptions = {"layoutOptions", QT_TRANSLATE_NOOP("NodeInspector", "Layout options"), false,
+                                createLayoutOptions};
+const PageSpec folder = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
+                         createForm<folderFields>};
+const PageSpec urls = {"urls", QT_TRANSLATE_NOOP("NodeInspector", "URLs"), true, createForm<urlFields>};
+
+} // namespace
+
+QVector<PageSpec> pagesOf(ENodeType type)
+{
+    switch (type) {
+    case IPDeviceType:
+    case ChannelDeviceType:
+        return {general, connection, layoutOptions};
+    case UrlCameraType:
+        return {general, connection, urls, layoutOptions};
+    case RecordingFolderType:
+    case InternalRecorderType:
+        return {general, folder};
+    default:
+        return {general};
+    }
+}
+
+} // namespace ko

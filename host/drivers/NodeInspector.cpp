@@ -1,0 +1,112 @@
+#include "drivers/NodeInspector.h"
+
+#include "drivers/NodeTypes.h"
+#include "drivers/PageStack.h"
+#include "inspector/IPDeviceInspectorWidget.h"
+#include "ko/Node.h"
+#include "ko/NodeDB.h"
+#include "ko/NodeHint.h"
+
+#include <QVBoxLayout>
+
+namespace ko {
+
+namespace {
+
+/// The inspector of this host over either base of the library. It needs no meta-object of its own: the
+/// base's slots are virtual.
+template <class Base>
+class StackInspector : public Base
+{
+public:
+    StackInspector(const NodeID& id, const QVector<PageSpec>& pages, bool readOnly, unsigned flags)
+        : Base(id, readOnly, nullptr, flags)
+        , m_id(id)
+        , m_readOnly(readOnly)
+        , m_stack(addStack(pages))
+    {
+        m_stack->init(id, readOnly);
+    }
+
+    StackInspector(NodeHint& hint, const QVector<PageSpec>& pages, unsigned flags)
+        : Base(hint, nullptr, flags)
+        , m_hint(&hint)
+        , m_stack(addStack(pages))
+    {
+        m_stack->init(hint);
+    }
+
+    void ok() override
+    {
+        if (m_hint)
+            m_stack->accept(m_hint);
+        else if (!m_readOnly)
+            store();
+    }
+
+    void updateNode() override
+    {
+        if (!m_hint)
+            m_stack->refresh();
+    }
+
+    void nodeUpdated(ko::NodeID id) override
+    {
+        if (id == m_id)
+            updateNode();
+    }
+
+private:
+    PageStack* addStack(const QVector<PageSpec>& pages)
+    {
+        PageStack* stack = new PageStack(pages, this);
+        QVBoxLayout* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(stack);
+        this->setFocusProxy(stack);
+        return stack;
+    }
+
+    void store()
+    {
+        InspectorWidget::ok(); // also for devices, whose base records no name
+        if (Node* node = NodeDB::getDB()->beginUpdateNode(m_id, -1)) {
+            m_stack->accept(node);
+            NodeDB::getDB()->endUpdateNode(node);
+        }
+        this->logPropertyChange();
+    }
+
+    const NodeID m_id;
+    NodeHint* const m_hint = nullptr;
+    const bool m_readOnly = false;
+    PageStack* const m_stack;
+};
+
+template <class... Args>
+InspectorWidget* create(ENodeType type, Args&&... args)
+{
+    if (NodeTypes::isDevice(type))
+        return new StackInspector<IPDeviceInspectorWidget>(std::forward<Args>(args)...);
+    return new StackInspector<InspectorWidget>(std::forward<Args>(args)...);
+}
+
+} // namespace
+
+InspectorWidget* createNodeInspector(const NodeID& id, ENodeType type, bool readOnly, unsigned flags)
+{
+    return create(type, id, pagesOf(type), readOnly, flags);
+}
+
+InspectorWidget* createHintInspector(NodeHint& hint, unsigned flags)
+{
+    QVector<PageSpec> pages;
+    const QVector<PageSpec> all = pagesOf(hint.type);
+    for (const PageSpec& page : all) {
+        if (page.forNewNodes)
+            pages.append(page);
+    }
+    return create(hint.type, hint, pages, flags);
+}
+
+} // namespace ko

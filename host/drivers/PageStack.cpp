@@ -1,0 +1,139 @@
+#include "drivers/PageStack.h"
+
+#include "drivers/GeneralPage.h"
+#include "ko/NodeDB.h"
+#include "ko/connect.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace ko {
+
+namespace {
+
+const int httpPort = 80;
+const int httpsPort = 443;
+
+} // namespace
+
+PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
+    : QWidget(parent)
+    , m_goneLabel(new QLabel(tr("This node has been removed meanwhile. Changes cannot be stored."), this))
+{
+    QTabWidget* tabs = new QTabWidget(this);
+    tabs->setObjectName(QLatin1String("tabWidget"));
+    m_goneLabel->setObjectName(QLatin1String("goneLabel"));
+    m_goneLabel->setWordWrap(true);
+    m_goneLabel->hide();
+
+    QWidget* tab = nullptr;
+    for (const PageSpec& spec : specs) {
+        if (!tab || tab->objectName() != QLatin1String(spec.tab)) {
+            tab = new QWidget;
+            tab->setObjectName(QLatin1String(spec.tab));
+            new QVBoxLayout(tab);
+            tabs->addTab(tab, QCoreApplication::translate("NodeInspector", spec.title));
+        }
+        m_pages.push_back(Page{spec, spec.create(tab), EditorState()});
+        tab->layout()->addWidget(m_pages.back().page->widget());
+    }
+    for (int i = 0; i < tabs->count(); ++i)
+        static_cast<QVBoxLayout*>(tabs->widget(i)->layout())->addStretch();
+
+    QVBoxLayout* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_goneLabel);
+    layout->addWidget(tabs);
+
+    // Typing starts in the first field, which is the name.
+    if (!m_pages.empty())
+        setFocusProxy(m_pages.front().page->widget()->findChild<QWidget*>(QLatin1String("nameLineEdit")));
+}
+
+PageStack::~PageStack() = default;
+
+void PageStack::init(const NodeID& id, bool readOnly)
+{
+    m_id = id;
+    forEach([&id](InspectorPage& page) { page.init(id); });
+    if (readOnly)
+        forEach([](InspectorPage& page) { page.setReadOnly(true); });
+    connectConnectionPage(false);
+    capture();
+    ko::connect(NodeDB::getDB(), SIGNAL(nodeRemoved(ko::NodeID)), this, SLOT(nodeRemoved(ko::NodeID)));
+}
+
+void PageStack::init(const NodeHint& hint)
+{
+    forEach([&hint](InspectorPage& page) { page.init(&hint); });
+    connectConnectionPage(true);
+}
+
+void PageStack::accept(Node* node)
+{
+    forEach([node](InspectorPage& page) { page.accept(node); });
+}
+
+void PageStack::accept(NodeHint* hint)
+{
+    forEach([hint](InspectorPage& page) { page.accept(hint); });
+}
+
+void PageStack::refresh()
+{
+    for (Page& page : m_pages) {
+        // A second page is filled and compared, for filling the one that is shown again would lose what
+        // was typed, and some pages add to their lists each time.
+        QWidget nursery;
+        const std::unique_ptr<InspectorPage> fresh = page.spec.create(&nursery);
+        fresh->init(m_id);
+        fresh->fillLike(*page.page);
+        page.state.refresh(page.page->widget(), fresh->widget());
+    }
+}
+
+void PageStack::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // Dialogs fill some lists after init(); nobody has typed anything before the first showing.
+    if (!m_shown)
+        capture();
+    m_shown = true;
+}
+
+void PageStack::capture()
+{
+    for (Page& page : m_pages)
+        page.state.capture(page.page->widget());
+}
+
+void PageStack::connectConnectionPage(bool proposeNames)
+{
+    const UserDataWidget* connection = findChild<UserDataWidget*>();
+    if (!connection)
+        return;
+    // Made after the pages were filled, so that a stored port is not taken for a default.
+    ko::connect(connection, SIGNAL(sslChanged(int)), this, SLOT(sslChanged(int)));
+    if (proposeNames)
+        ko::connect(connection, SIGNAL(nameProposal(QString)), findChild<GeneralPage*>(),
+                    SLOT(proposeName(QString)));
+}
+
+void PageStack::sslChanged(int state)
+{
+    UserDataWidget* connection = findChild<UserDataWidget*>();
+    const int port = connection->findChild<QSpinBox*>(QLatin1String("portSpinBox"))->value();
+    const bool ssl = state == Qt::Checked;
+    if (port == (ssl ? httpPort : httpsPort))
+        connection->setPort(ssl ? httpsPort : httpPort);
+}
+
+void PageStack::nodeRemoved(ko::NodeID id)
+{
+    m_goneLabel->setVisible(m_goneLabel->isVisible() || id == m_id);
+}
+
+} // namespace ko

@@ -1,0 +1,64 @@
+#ifndef KO_PAGESTACK_H
+#define KO_PAGESTACK_H
+
+#include "drivers/EditorState.h"
+#include "drivers/InspectorPages.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QLabel;
+
+namespace ko {
+
+/// The pages of an inspector in a tab widget "tabWidget", and what is done with all of them.
+class PageStack : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PageStack(const QVector<PageSpec>& specs, QWidget* parent);
+    ~PageStack() override;
+
+    void init(const NodeID& id, bool readOnly);
+    void init(const NodeHint& hint);
+    void accept(Node* node);
+    void accept(NodeHint* hint);
+
+    /// Brings what the user has not touched up to date with the node.
+    void refresh();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private slots:
+    void nodeRemoved(ko::NodeID id);
+    void sslChanged(int state);
+
+private:
+    struct Page
+    {
+        PageSpec spec;
+        std::unique_ptr<InspectorPage> page;
+        EditorState state;
+    };
+
+    template <class Each>
+    void forEach(Each each)
+    {
+        for (Page& page : m_pages)
+            each(*page.page);
+    }
+    void connectConnectionPage(bool proposeNames);
+    void capture();
+
+    std::vector<Page> m_pages;
+    QLabel* const m_goneLabel;
+    NodeID m_id;
+    bool m_shown = false;
+};
+
+} // namespace ko
+
+#endif

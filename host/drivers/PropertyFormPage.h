@@ -1,0 +1,46 @@
+#ifndef KO_PROPERTYFORMPAGE_H
+#define KO_PROPERTYFORMPAGE_H
+
+#include <QVector>
+#include <QWidget>
+
+namespace ko {
+
+class Node;
+class NodeHint;
+class PropertyAccess;
+
+/// A page made from a table: one field for each property, of nodes whose settings need no rules.
+class PropertyFormPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Field
+    {
+        enum Kind { Text, Password, Flag, Folder };
+
+        const char* key;     ///< also the object name of the editor
+        Kind kind;           ///< Flag: a bool property, the others strings
+        const char* caption; ///< in the translation context "PropertyFormPage"
+    };
+
+    PropertyFormPage(const QVector<Field>& fields, QWidget* parent);
+
+    void init(const QString& nodeId);
+    void init(const NodeHint* hint);
+    void accept(Node* node);
+    void accept(NodeHint* hint);
+    void setReadOnly(bool readOnly);
+
+private:
+    void load(const PropertyAccess& properties);
+    void store(PropertyAccess& properties) const;
+    void chooseFolder(const char* key);
+
+    const QVector<Field> m_fields;
+};
+
+} // namespace ko
+
+#endif
