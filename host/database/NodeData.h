@@ -25,7 +25,7 @@ struct NodeSummary
     NodeID id;
     ENodeType type = AllNodeTypes;
     QString name;
-    QString location;       ///< a device's address, a folder's path, else empty
+    QString location;        ///< a device's address, a folder's path, else empty
     int recordingUsage = -1; ///< "RecordingStorageUsage" of a node that has it, else -1
 };
 

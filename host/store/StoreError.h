@@ -10,14 +10,14 @@ struct StoreError
 {
     enum Kind {
         None,
-        NotADatabase,   ///< the file is something else
-        OtherProgram,   ///< a database, but not a node database
+        NotADatabase, ///< the file is something else
+        OtherProgram, ///< a database, but not a node database
         Damaged,
-        NewerVersion,   ///< written by a newer version of this program
-        ReadOnly,       ///< file or folder may not be written
-        Locked,         ///< held by another program longer than we wait
+        NewerVersion, ///< written by a newer version of this program
+        ReadOnly,     ///< file or folder may not be written
+        Locked,       ///< held by another program longer than we wait
         DiskFull,
-        CannotOpen,     ///< no such folder, no permission to read, ...
+        CannotOpen, ///< no such folder, no permission to read, ...
         Other
     };
 

@@ -7,7 +7,10 @@
 namespace ko {
 
 /// Retrieval of stored events.
-class KO_NODEUI_EXPORT IEventRetrievalInterface : public virtual ::komEventRetrievalInterface, public virtual ::komEventStorageStatusInterface, public virtual ::komInterface, public virtual IInterface
+class KO_NODEUI_EXPORT IEventRetrievalInterface : public virtual ::komEventRetrievalInterface,
+                                                  public virtual ::komEventStorageStatusInterface,
+                                                  public virtual ::komInterface,
+                                                  public virtual IInterface
 {
 public:
     ~IEventRetrievalInterface() override;

@@ -6,7 +6,8 @@
 namespace ko {
 
 /// Input and output.
-class KO_NODEUI_EXPORT IIOInterface : public virtual ISupportsNonBlockingIOInterface, public virtual IInterface
+class KO_NODEUI_EXPORT IIOInterface : public virtual ISupportsNonBlockingIOInterface,
+                                      public virtual IInterface
 {
 public:
     ~IIOInterface() override;

@@ -6,7 +6,11 @@
 namespace ko {
 
 /// A storage object with events.
-class KO_NODEUI_EXPORT IStorageObject : public virtual IEventRetrievalInterface, public virtual ::komEventRetrievalInterface, public virtual ::komEventStorageStatusInterface, public virtual ::komInterface, public virtual IInterface
+class KO_NODEUI_EXPORT IStorageObject : public virtual IEventRetrievalInterface,
+                                        public virtual ::komEventRetrievalInterface,
+                                        public virtual ::komEventStorageStatusInterface,
+                                        public virtual ::komInterface,
+                                        public virtual IInterface
 {
 public:
     ~IStorageObject() override;

@@ -45,9 +45,7 @@ void NetworkProxy::setSaveProxyPassword(bool save)
         changed();
 }
 
-void NetworkProxy::changed()
-{
-}
+void NetworkProxy::changed() {}
 
 bool operator==(const NetworkProxy& a, const NetworkProxy& b)
 {

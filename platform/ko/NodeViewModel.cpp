@@ -13,9 +13,11 @@ NodeViewModel::NodeViewModel(kom::smart<NodeView> view, QObject* parent)
     , m_view(view)
 {
     const NodeView* source = m_view.get();
-    ko::connect(source, SIGNAL(entryAboutToBeInserted(uint,int)), this, SLOT(entryAboutToBeInserted(uint,int)));
+    ko::connect(source, SIGNAL(entryAboutToBeInserted(uint, int)), this,
+                SLOT(entryAboutToBeInserted(uint, int)));
     ko::connect(source, SIGNAL(entryInserted()), this, SLOT(entryInserted()));
-    ko::connect(source, SIGNAL(entryAboutToBeRemoved(uint,int)), this, SLOT(entryAboutToBeRemoved(uint,int)));
+    ko::connect(source, SIGNAL(entryAboutToBeRemoved(uint, int)), this,
+                SLOT(entryAboutToBeRemoved(uint, int)));
     ko::connect(source, SIGNAL(entryRemoved()), this, SLOT(entryRemoved()));
     ko::connect(source, SIGNAL(aboutToBeCleared()), this, SLOT(aboutToBeCleared()));
     ko::connect(source, SIGNAL(cleared()), this, SLOT(cleared()));

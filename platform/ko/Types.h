@@ -14,8 +14,8 @@ enum ENodeType : int {
     RecordingFolderType = 0,
     ViewType = 1,
     IPDeviceType = 2,
-    UrlCameraType = 3,      ///< generic camera driven by URLs
-    ChannelDeviceType = 5,  ///< device with several video channels
+    UrlCameraType = 3,     ///< generic camera driven by URLs
+    ChannelDeviceType = 5, ///< device with several video channels
     InternalRecorderType = 11,
     RecordingTransponderType = 12
 };
