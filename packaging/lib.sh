@@ -62,8 +62,8 @@ ko_install()
     fi
     ko_say "installing ${missing[*]}"
     as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get)
-    "${as_root[@]}" -q update || printf 'The package lists could not be renewed; going on with the old ones.\n' >&2
-    "${as_root[@]}" -q install -y --no-install-recommends "${missing[@]}" ||
+    "${as_root[@]}" -qq update || printf 'The package lists could not be renewed; going on with the old ones.\n' >&2
+    "${as_root[@]}" -qq install -y --no-install-recommends "${missing[@]}" ||
         ko_die "apt-get could not install: ${missing[*]}. The packages are those of Debian 12."
 }
 
