@@ -4,10 +4,11 @@ if(NOT KO_QT MATCHES "^[56]$")
     message(FATAL_ERROR "KO_QT is '${KO_QT}'; it takes 5 or 6")
 endif()
 set(QT_DEFAULT_MAJOR_VERSION ${KO_QT})
-set(KO_QT_COMPONENTS Core Gui Widgets Sql)
+set(KO_QT_PUBLIC_COMPONENTS Core Gui Widgets Sql)
 if(KO_QT EQUAL 6)
-    list(APPEND KO_QT_COMPONENTS Core5Compat)
+    list(APPEND KO_QT_PUBLIC_COMPONENTS Core5Compat)
 endif()
+set(KO_QT_COMPONENTS ${KO_QT_PUBLIC_COMPONENTS})
 if(KO_TESTS)
     list(APPEND KO_QT_COMPONENTS Test)
 endif()
@@ -31,7 +32,8 @@ target_compile_options(ko_flags INTERFACE -Wall -Wextra -Wpedantic -Werror)
 # Qt 6.4 marks API that Qt 4.8 and 5.15 need as deprecated; what is gone does not compile anyway.
 target_compile_definitions(ko_flags INTERFACE QT_NO_DEPRECATED_WARNINGS)
 if(KO_SANITIZE)
-    target_compile_options(ko_flags INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
+    target_compile_options(ko_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                           -fno-omit-frame-pointer)
     target_link_options(ko_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
@@ -45,10 +47,14 @@ function(ko_library name)
     set_target_properties(${name} PROPERTIES
         OUTPUT_NAME ko${name}
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR})
+        SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
+        INSTALL_RPATH "$ORIGIN")
     target_compile_definitions(${name} PRIVATE KO_BUILD_${upper})
     target_include_directories(${name} PUBLIC
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/konodeui>)
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE} $<BUILD_INTERFACE:ko_flags>)
+    install(TARGETS ${name} EXPORT KoNodeUITargets)
+    install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/konodeui
+            FILES_MATCHING PATTERN "*.h" PATTERN "resources" EXCLUDE)
 endfunction()
