@@ -1,0 +1,50 @@
+#include "inspector/NodeChangeLogEntry.h"
+
+#include "ko/LogEntryFactory.h"
+
+namespace ko {
+
+namespace {
+
+const char titleText[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Changed device properties");
+
+LogEntry* create()
+{
+    return new NodeChangeLogEntry(QString());
+}
+
+// While the library is loaded, so that a host can rebuild what it stored.
+const bool registered = (logEntryFactory().registerCreator("NChg", create, QLatin1String(titleText)), true);
+
+} // namespace
+
+NodeChangeLogEntry::NodeChangeLogEntry(const QString& name)
+    : m_name("Name", QLatin1String("name"), name)
+{
+    Q_UNUSED(registered);
+    append(m_name);
+}
+
+NodeChangeLogEntry::~NodeChangeLogEntry() = default;
+
+FourChars NodeChangeLogEntry::typeCode() const
+{
+    return "NChg";
+}
+
+LogCategory NodeChangeLogEntry::category() const
+{
+    return LogCategoryDevices;
+}
+
+QString NodeChangeLogEntry::description() const
+{
+    return LogEntry::tr("Changed properties of device with name %1.");
+}
+
+QString NodeChangeLogEntry::title() const
+{
+    return LogEntry::tr(titleText);
+}
+
+} // namespace ko

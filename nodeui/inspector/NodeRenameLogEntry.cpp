@@ -1,0 +1,52 @@
+#include "inspector/NodeRenameLogEntry.h"
+
+#include "ko/LogEntryFactory.h"
+
+namespace ko {
+
+namespace {
+
+const char titleText[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Changed device name");
+
+LogEntry* create()
+{
+    return new NodeRenameLogEntry(QString(), QString());
+}
+
+// While the library is loaded, so that a host can rebuild what it stored.
+const bool registered = (logEntryFactory().registerCreator("NRen", create, QLatin1String(titleText)), true);
+
+} // namespace
+
+NodeRenameLogEntry::NodeRenameLogEntry(const QString& oldName, const QString& newName)
+    : m_oldName("ONam", QLatin1String("oldname"), oldName)
+    , m_newName("NNam", QLatin1String("newname"), newName)
+{
+    Q_UNUSED(registered);
+    append(m_oldName);
+    append(m_newName);
+}
+
+NodeRenameLogEntry::~NodeRenameLogEntry() = default;
+
+FourChars NodeRenameLogEntry::typeCode() const
+{
+    return "NRen";
+}
+
+LogCategory NodeRenameLogEntry::category() const
+{
+    return LogCategoryDevices;
+}
+
+QString NodeRenameLogEntry::description() const
+{
+    return LogEntry::tr("Changed name of device from %1 to %2.");
+}
+
+QString NodeRenameLogEntry::title() const
+{
+    return LogEntry::tr(titleText);
+}
+
+} // namespace ko
