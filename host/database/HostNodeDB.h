@@ -11,6 +11,7 @@
 namespace ko {
 
 class AuditLog;
+class LogStore;
 
 /// The node database of this host, on a SQLite file.
 ///
@@ -49,8 +50,11 @@ public:
     void removeNode(const QString& id) override;
     QStringList nodeIdList(ENodeType type) const override;
     QString readableNodeTypeName(ENodeType type) const override;
+    /// Without \a types: those of which a user may add nodes.
     TypeNames readableNodeTypeNames(const QList<ENodeType>* types, bool sorted) const override;
     kom::smart<INodeDriverComponent> nodeDriver(ENodeType type) const override;
+    /// Relations between nodes that are not there are not added. Both nodes are announced as updated
+    /// when a relation comes or goes, here and in other processes.
     void addNodeRelation(const QString& from, const QString& to, ENodeRelationType type) override;
     void removeNodeRelation(const QString& from, const QString& to, ENodeRelationType type) override;
     QStringList relatedNodes(const QString& id, ENodeRelationType type) const override;
@@ -63,6 +67,7 @@ public:
     GlobalNetworkProxy& globalProxy() override;
     Environments& environments() override;
     QString activeEnvironment() const override;
+    /// An unknown environment is not made the active one.
     void setActiveEnvironment(const QString& id) override;
 
     // What the contract only reads.
@@ -79,6 +84,9 @@ public:
     /// The audit log kept in the same file and the same transactions.
     AuditLog& auditLog();
 
+    /// Where a ProgramLog for this database keeps its lines.
+    LogStore& logStore();
+
     /// Stores all changes now. False when that failed; storeFailed() has been emitted then.
     bool flush();
     bool hasUnstoredChanges() const;
@@ -94,6 +102,9 @@ signals:
     void storeFailed(const ko::StoreError& error);
     /// Changes that could not be stored before are stored now.
     void storeRecovered();
+    /// Something could not be read: what is affected looks as if it were not there. Nothing is
+    /// overwritten. Emitted from the event loop, once for each different error.
+    void storeDamaged(const ko::StoreError& error);
     /// Another process changed the active environment, the environments, or other settings.
     void settingsChanged();
 

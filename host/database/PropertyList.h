@@ -30,13 +30,17 @@ public:
     /// The value, or an invalid variant.
     QVariant value(const QString& name) const;
 
-    /// Adds or replaces; an invalid value removes. Names are shared between all lists of the process.
+    /// Adds or replaces; an invalid value removes, one of another type than the five changes nothing.
+    /// Names are shared between all lists of the process.
     void set(const QString& name, const QVariant& value);
 
     /// What turns \a from into \a to; a removed property stands with an invalid value.
     static QVector<Entry> difference(const PropertyList& from, const PropertyList& to);
 
+    /// Same type and value, nested sets included; numbers exactly, "not a number" equal to itself.
     static bool sameValue(const QVariant& a, const QVariant& b);
+
+    /// The property that \a value stands for, or a null handle if it is of none of the five types.
     static kom::smart<kogen::BaseProperty> toProperty(const QString& name, const QVariant& value);
 
 private:

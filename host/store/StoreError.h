@@ -1,6 +1,9 @@
 #ifndef KO_STOREERROR_H
 #define KO_STOREERROR_H
 
+#include "HostExport.h"
+
+#include <QMetaType>
 #include <QString>
 
 namespace ko {
@@ -26,8 +29,19 @@ struct StoreError
     QString detail;  ///< what the database engine said, untranslated
 
     explicit operator bool() const { return kind != None; }
+
+    /// The error with its message for the database file \a file.
+    KO_HOST_EXPORT static StoreError make(Kind kind, const QString& file, const QString& detail);
+};
+
+/// Thrown inside the store, caught by whoever uses it; never leaves the host.
+struct StoreFailure
+{
+    StoreError error;
 };
 
 } // namespace ko
+
+Q_DECLARE_METATYPE(ko::StoreError)
 
 #endif

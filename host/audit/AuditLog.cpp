@@ -1,0 +1,92 @@
+#include "audit/AuditLog.h"
+
+#include "audit/GenericLogEntry.h"
+#include "audit/LogStore.h"
+#include "ko/LogEntryFactory.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSysInfo>
+
+#include <pwd.h>
+#include <unistd.h>
+
+namespace ko {
+
+namespace {
+
+/// Not from the environment, which anyone can set for himself.
+QString operatingSystemUser()
+{
+    const passwd* entry = ::getpwuid(::getuid());
+    return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(::getuid());
+}
+
+FourChars fourChars(const QString& text)
+{
+    quint32 value = 0;
+    for (int i = 0; i < 4; ++i)
+        value = value << 8 | quint8(i < text.size() ? text.at(i).toLatin1() : ' ');
+    return FourChars(value);
+}
+
+std::unique_ptr<LogEntry> genericEntry(FourChars code, const QJsonObject& values)
+{
+    GenericLogEntry::Values list;
+    for (auto it = values.begin(); it != values.end(); ++it)
+        list.append({fourChars(it.key()), it.value().toString()});
+    return std::make_unique<GenericLogEntry>(code, list);
+}
+
+std::unique_ptr<LogEntry> rebuilt(const AuditRow& row)
+{
+    const FourChars code(row.code);
+    const QJsonObject values = QJsonDocument::fromJson(row.data.toUtf8()).object();
+    std::unique_ptr<LogEntry> entry = logEntryFactory().create(code);
+    if (!entry)
+        return genericEntry(code, values);
+    for (LogValue* value : entry->values())
+        value->fromString(values.value(value->key().toString()).toString());
+    return entry;
+}
+
+} // namespace
+
+AuditLog::AuditLog(LogStore& store)
+    : m_store(store)
+    , m_user(operatingSystemUser())
+    , m_host(QSysInfo::machineHostName())
+{
+}
+
+void AuditLog::log(const LogEntry& entry)
+{
+    QJsonObject values;
+    for (const LogValue* value : entry.values())
+        values.insert(value->key().toString(), value->toString());
+    AuditRow row;
+    row.time = QDateTime::currentMSecsSinceEpoch();
+    row.user = m_user;
+    row.host = m_host;
+    row.code = entry.typeCode().value();
+    row.data = QString::fromUtf8(QJsonDocument(values).toJson(QJsonDocument::Compact));
+    m_store.append(row);
+}
+
+std::vector<AuditRecord> AuditLog::entries(qint64 from, qint64 count, bool newestFirst) const
+{
+    std::vector<AuditRecord> records;
+    const QVector<AuditRow> rows = m_store.auditRows({from, count, newestFirst});
+    records.reserve(std::size_t(rows.size()));
+    for (const AuditRow& row : rows)
+        records.push_back({row.seq, QDateTime::fromMSecsSinceEpoch(row.time, Qt::UTC), row.user, row.host,
+                           FourChars(row.code), rebuilt(row)});
+    return records;
+}
+
+qint64 AuditLog::count() const
+{
+    return m_store.auditCount();
+}
+
+} // namespace ko

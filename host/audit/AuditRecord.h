@@ -1,0 +1,25 @@
+#ifndef KO_AUDITRECORD_H
+#define KO_AUDITRECORD_H
+
+#include "ko/LogEntry.h"
+
+#include <QDateTime>
+
+#include <memory>
+
+namespace ko {
+
+/// One stored record of a log, read back.
+struct AuditRecord
+{
+    qint64 seq;     ///< larger than that of every older record of the same log
+    QDateTime time; ///< UTC
+    QString user;   ///< of the operating system; empty in the program log
+    QString host;
+    FourChars code;
+    std::unique_ptr<LogEntry> entry; ///< never null; a GenericLogEntry where the code is unknown
+};
+
+} // namespace ko
+
+#endif

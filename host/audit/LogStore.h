@@ -1,0 +1,28 @@
+#ifndef KO_LOGSTORE_H
+#define KO_LOGSTORE_H
+
+#include "store/LogRows.h"
+
+#include <QVector>
+
+namespace ko {
+
+/// Where the logs keep their records: in the database and in its transactions.
+class LogStore
+{
+public:
+    virtual ~LogStore() = default;
+
+    virtual void append(const AuditRow& row) = 0;
+    virtual void append(const ProgramRow& row) = 0;
+
+    // Reading stores first what is not stored yet; empty or 0 when the store cannot be read.
+    virtual QVector<AuditRow> auditRows(const LogRange& range) = 0;
+    virtual qint64 auditCount() = 0;
+    virtual QVector<ProgramRow> programRows(const LogRange& range) = 0;
+    virtual qint64 programCount() = 0;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,729 @@
+#include "database/HostNodeDB.h"
+
+#include "audit/AuditLog.h"
+#include "audit/LogStore.h"
+#include "database/NodeMemory.h"
+#include "database/ProxySettings.h"
+#include "database/StoreWriter.h"
+#include "database/StoredEnvironments.h"
+#include "database/StoredNode.h"
+#include "drivers/NodeTypes.h"
+#include "ko/GlobalNetworkProxy.h"
+#include "ko/LogQt.h"
+#include "ko/NodeHint.h"
+
+#include <QRandomGenerator>
+#include <QTimer>
+#include <QUuid>
+
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+
+namespace ko {
+
+namespace {
+
+constexpr int PollInterval = 200;      // ms; how soon changes of other processes are seen
+constexpr int RetryInterval = 5000;    // ms; between tries to store what could not be stored
+constexpr int ProgramLineDelay = 1000; // ms; a line of the program log alone is worth no commit at once
+
+constexpr char ActiveEnvironment[] = "environment.active";
+constexpr char RecordingFolderPath[] = "recording.globalFolderPath";
+constexpr char TransponderAddress[] = "recording.defaultTransponderAddress";
+constexpr char Bandwidth[] = "bandwidth";
+
+/// 16 characters, of which 75 bits are random: unique among processes that do not know of each other.
+/// Begins with a letter and holds no character that a spreadsheet, a URL or a file name would mind.
+NodeID newNodeId()
+{
+    static constexpr char alphabet[] = "abcdefghijkmnpqrstuvwxyz23456789";
+    quint64 random[2];
+    QRandomGenerator::system()->fillRange(random);
+    NodeID id(16, QLatin1Char('n'));
+    for (int i = 1; i < id.size(); ++i)
+        id[i] = QLatin1Char(alphabet[random[i / 8] >> 5 * (i % 8) & 31]);
+    return id;
+}
+
+} // namespace
+
+class HostNodeDB::Private : public LogStore
+{
+public:
+    explicit Private(std::unique_ptr<SqliteStore> openedStore);
+
+    void start(HostNodeDB* database);
+
+    // LogStore
+    void append(const AuditRow& row) override;
+    void append(const ProgramRow& row) override;
+    QVector<AuditRow> auditRows(const LogRange& range) override;
+    qint64 auditCount() override;
+    QVector<ProgramRow> programRows(const LogRange& range) override;
+    qint64 programCount() override;
+
+    kom::smart<const Node> snapshot(NodeRecord* record);
+    bool readLookupKeys();
+    StoreState readState(const StoreQuery& query);
+    StoreState readForeignChanges();
+    void announce(const Notices& notices);
+    void scheduleFlush();
+    bool flush();
+    bool writeFailed(const StoreError& error);
+    void written(const StoreWriter& writer, qint64 lastChange);
+    void readFailed(const StoreError& error);
+    template <class Read>
+    auto reading(Read read) -> decltype(read());
+
+    void createDefaultEnvironment();
+    void settingsTaken();
+    void set(const QString& key, const QString& value);
+    QString get(const char* key) const { return memory.settings.value(QLatin1String(key)); }
+    void proxyChanged();
+    void environmentsChanged();
+    void environmentRemoved(const QString& id);
+    void changeRelation(const RelationRow& relation, bool add);
+
+    struct Copy
+    {
+        std::unique_ptr<Node> node;
+        NodeData base; ///< what the copy was made from
+    };
+
+    HostNodeDB* q = nullptr;
+    const std::unique_ptr<SqliteStore> store;
+    NodeTables tables;
+    NodeMemory memory;
+    StoredEnvironments environments;
+    GlobalNetworkProxy proxy;
+    AuditLog audit;
+    std::unordered_map<const Node*, Copy> copies;
+    std::set<std::string> scanners;
+    const qint64 writerId;
+    qint64 dataVersion = 0;
+    QTimer poll;
+    QTimer retry;
+    QTimer programLineTimer;
+    bool flushScheduled = false;
+    bool failing = false;
+    QString lastDamage;
+};
+
+HostNodeDB::Private::Private(std::unique_ptr<SqliteStore> openedStore)
+    : store(std::move(openedStore))
+    , tables(*store)
+    , environments([this] { environmentsChanged(); }, [this](const QString& id) { environmentRemoved(id); })
+    , audit(*this)
+    , writerId(qint64(QRandomGenerator::system()->generate64() >> 1))
+{
+    const Transaction transaction(*store, Transaction::Read);
+    dataVersion = store->dataVersion();
+    memory.load(tables);
+}
+
+void HostNodeDB::Private::start(HostNodeDB* database)
+{
+    q = database;
+    settingsTaken();
+    QObject::connect(&proxy, &GlobalNetworkProxy::globalProxyDataChanged, q, [this] { proxyChanged(); });
+    QObject::connect(&poll, &QTimer::timeout, q, &HostNodeDB::syncForeignChanges);
+    retry.setSingleShot(true);
+    QObject::connect(&retry, &QTimer::timeout, q, &HostNodeDB::flush);
+    programLineTimer.setSingleShot(true);
+    QObject::connect(&programLineTimer, &QTimer::timeout, q, &HostNodeDB::flush);
+    poll.start(PollInterval);
+}
+
+/// A new database has one environment; another process may be making it at the same time.
+void HostNodeDB::Private::createDefaultEnvironment()
+{
+    if (!memory.environments.isEmpty() || memory.settings.contains(QLatin1String(ActiveEnvironment)))
+        return;
+    Transaction transaction(*store, Transaction::Write);
+    if (tables.environments().isEmpty()) {
+        const QString id = QUuid::createUuid().toString();
+        tables.setEnvironments({{id, HostNodeDB::tr("Default")}});
+        tables.setSetting(QLatin1String(ActiveEnvironment), id);
+    }
+    memory.environments = tables.environments();
+    memory.settings = tables.settings();
+    transaction.commit();
+}
+
+std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error)
+{
+    qRegisterMetaType<ko::StoreError>("ko::StoreError");
+    std::unique_ptr<SqliteStore> store = SqliteStore::open(file, error);
+    if (!store)
+        return nullptr;
+    try {
+        auto d = std::make_unique<Private>(std::move(store));
+        d->createDefaultEnvironment();
+        return std::unique_ptr<HostNodeDB>(new HostNodeDB(std::move(d)));
+    } catch (const StoreFailure& failure) {
+        *error = failure.error;
+        return nullptr;
+    }
+}
+
+HostNodeDB::HostNodeDB(std::unique_ptr<Private> opened)
+    : d(std::move(opened))
+{
+    d->start(this);
+}
+
+HostNodeDB::~HostNodeDB()
+{
+    blockSignals(true);
+    flush();
+}
+
+QString HostNodeDB::fileName() const
+{
+    return d->store->fileName();
+}
+
+// Reading
+
+/// What \a read gives, or an empty result after the failure was made known.
+template <class Read>
+auto HostNodeDB::Private::reading(Read read) -> decltype(read())
+{
+    try {
+        return read();
+    } catch (const StoreFailure& failure) {
+        readFailed(failure.error);
+        return decltype(read())();
+    }
+}
+
+void HostNodeDB::Private::readFailed(const StoreError& error)
+{
+    if (error.kind == StoreError::Locked || error.detail == lastDamage)
+        return;
+    lastDamage = error.detail;
+    LogQt::line(LogQt::Error, QString::fromLatin1("Reading the node database failed: %1").arg(error.detail));
+    QMetaObject::invokeMethod(
+        q, [this, error] { emit q->storeDamaged(error); }, Qt::QueuedConnection);
+}
+
+kom::smart<const Node> HostNodeDB::Private::snapshot(NodeRecord* record)
+{
+    if (!record || !record->snapshot.null())
+        return record ? record->snapshot : kom::smart<const Node>();
+    return reading([this, record] {
+        NodeData data;
+        data.id = record->summary.id;
+        data.type = record->summary.type;
+        data.name = record->summary.name;
+        // False: another process removed it, which will be announced.
+        if (tables.readProperties(record->order, &data.properties))
+            memory.setData(*record, data);
+        return record->snapshot;
+    });
+}
+
+kom::smart<const Node> HostNodeDB::node(const QString& id) const
+{
+    return d->snapshot(d->memory.cache.find(id));
+}
+
+QVector<NodeSummary> HostNodeDB::summaries() const
+{
+    QVector<NodeSummary> result;
+    result.reserve(d->memory.cache.count());
+    for (const auto& entry : d->memory.cache)
+        result.append(entry.second.summary);
+    return result;
+}
+
+NodeSummary HostNodeDB::summary(const QString& id) const
+{
+    const NodeRecord* record = d->memory.cache.find(id);
+    return record ? record->summary : NodeSummary();
+}
+
+QStringList HostNodeDB::nodeIdList(ENodeType type) const
+{
+    QStringList ids;
+    for (const auto& entry : d->memory.cache) {
+        if (type == AllNodeTypes || entry.second.summary.type == type)
+            ids.append(entry.second.summary.id);
+    }
+    return ids;
+}
+
+bool HostNodeDB::Private::readLookupKeys()
+{
+    NodeCache& cache = memory.cache;
+    if (cache.lookupReady())
+        return true;
+    return reading([this, &cache] {
+        tables.forEachLookupKey([&cache](qint64 n, const QString& key) {
+            if (NodeRecord* record = cache.findOrder(n))
+                cache.setLookupKey(*record, key);
+        });
+        for (auto it = memory.pending.nodes.begin(); it != memory.pending.nodes.end(); ++it) {
+            if (NodeRecord* record = cache.find(it.key()))
+                cache.setLookupKey(*record, NodeTypes::lookupKey(record->data()));
+        }
+        cache.setLookupReady();
+        return true;
+    });
+}
+
+QString HostNodeDB::lookupHint(const NodeHint& hint) const
+{
+    const QString key = NodeTypes::lookupKey(NodeTypes::dataOf(hint));
+    if (key.isEmpty() || !d->readLookupKeys())
+        return QString();
+    const NodeRecord* record = d->memory.cache.findLookupKey(key);
+    return record ? record->summary.id : QString();
+}
+
+// Types
+
+QString HostNodeDB::readableNodeTypeName(ENodeType type) const
+{
+    return NodeTypes::readableName(type);
+}
+
+NodeDB::TypeNames HostNodeDB::readableNodeTypeNames(const QList<ENodeType>* types, bool sorted) const
+{
+    TypeNames names;
+    const QList<ENodeType> offered = types ? *types : NodeTypes::all();
+    for (const ENodeType type : offered) {
+        if (types || NodeTypes::canBeAdded(type))
+            names.append({type, NodeTypes::readableName(type)});
+    }
+    if (sorted)
+        std::stable_sort(names.begin(), names.end(), [](const auto& a, const auto& b) {
+            return QString::localeAwareCompare(a.second, b.second) < 0;
+        });
+    return names;
+}
+
+kom::smart<INodeDriverComponent> HostNodeDB::nodeDriver(ENodeType type) const
+{
+    return NodeTypes::driver(type);
+}
+
+// Changing nodes
+
+Node* HostNodeDB::beginUpdateNode(const QString& id, int)
+{
+    syncForeignChanges();
+    NodeRecord* record = d->memory.cache.find(id);
+    if (d->snapshot(record).null())
+        return nullptr;
+    Private::Copy copy;
+    copy.base = record->data();
+    copy.node = NodeTypes::createNode(copy.base);
+    Node* node = copy.node.get();
+    d->copies.emplace(node, std::move(copy));
+    return node;
+}
+
+void HostNodeDB::endUpdateNode(Node* node)
+{
+    const auto found = d->copies.find(node);
+    if (found == d->copies.end())
+        return;
+    const Private::Copy copy = std::move(found->second);
+    d->copies.erase(found);
+    const NodeData edited = dynamic_cast<const StoredNode&>(*copy.node).nodeData();
+    NodeRecord* record = d->memory.cache.find(copy.base.id);
+    if (!record) {
+        LogQt::line(LogQt::Debug, QLatin1String("A node was removed while it was edited"));
+        return;
+    }
+    // What the user changed, on top of what others changed meanwhile.
+    const NodeData current = record->data();
+    NodeData merged = current;
+    if (edited.name != copy.base.name)
+        merged.name = edited.name;
+    const auto changes = PropertyList::difference(copy.base.properties, edited.properties);
+    for (const PropertyList::Entry& change : changes)
+        merged.properties.set(change.name, change.value);
+    const auto difference = PropertyList::difference(current.properties, merged.properties);
+    const bool renamed = merged.name != current.name;
+    if (difference.isEmpty() && !renamed)
+        return;
+    d->memory.setData(*record, merged);
+    d->memory.pending.nodeUpdated(merged.id, difference, renamed);
+    d->scheduleFlush();
+    emit nodeUpdated(merged.id);
+}
+
+void HostNodeDB::newNodeHint(const NodeHint& hint)
+{
+    NodeData data = NodeTypes::dataOf(hint);
+    data.id = newNodeId();
+    NodeRecord& record = d->memory.cache.append(NodeTypes::summaryOf(data));
+    record.context = data.context;
+    record.hasContext = data.hasContext;
+    d->memory.setData(record, data);
+    d->memory.pending.nodeInserted(data.id);
+    d->scheduleFlush();
+    emit nodeInserted(data.id);
+}
+
+void HostNodeDB::removeNode(const QString& id)
+{
+    NodeRecord* record = d->memory.cache.find(id);
+    if (!record)
+        return;
+    const NodeID removed = record->summary.id; // the caller's may be a part of what goes
+    const bool stored = record->isStored();
+    d->memory.removeNode(*record);
+    if (stored)
+        d->memory.pending.nodeRemoved(removed);
+    d->scheduleFlush();
+    emit nodeRemoved(removed);
+}
+
+// Relations
+
+void HostNodeDB::Private::changeRelation(const RelationRow& relation, bool add)
+{
+    if (!(add ? memory.relations.add(relation) : memory.relations.remove(relation)))
+        return;
+    memory.pending.relations.append({add, relation});
+    scheduleFlush();
+    Notices notices;
+    notices.updated(relation.source);
+    notices.updated(relation.destination);
+    announce(notices);
+}
+
+void HostNodeDB::addNodeRelation(const QString& from, const QString& to, ENodeRelationType type)
+{
+    if (d->memory.cache.find(from) && d->memory.cache.find(to))
+        d->changeRelation({from, to, type}, true);
+}
+
+void HostNodeDB::removeNodeRelation(const QString& from, const QString& to, ENodeRelationType type)
+{
+    d->changeRelation({from, to, type}, false);
+}
+
+QStringList HostNodeDB::relatedNodes(const QString& id, ENodeRelationType type) const
+{
+    return d->memory.relations.destinations(id, type);
+}
+
+bool HostNodeDB::isDestinationOfNodeRelation(const QString& id, ENodeRelationType type) const
+{
+    return d->memory.relations.isDestination(id, type);
+}
+
+// Scanners
+
+void HostNodeDB::startScanners(const std::string& name, unsigned, int)
+{
+    if (d->scanners.insert(name).second)
+        LogQt::line(LogQt::Info, QString::fromLatin1("No scanner named \"%1\" is available in this build")
+                                     .arg(QString::fromStdString(name)));
+}
+
+void HostNodeDB::stopScanners(const std::string& name)
+{
+    d->scanners.erase(name);
+}
+
+// Settings
+
+void HostNodeDB::Private::set(const QString& key, const QString& value)
+{
+    if (memory.setSetting(key, value))
+        scheduleFlush();
+}
+
+QString HostNodeDB::globalRecordingFolderPath() const
+{
+    return d->get(RecordingFolderPath);
+}
+
+void HostNodeDB::setGlobalRecordingFolderPath(const QString& path)
+{
+    d->set(QLatin1String(RecordingFolderPath), path);
+}
+
+QString HostNodeDB::defaultRecordingTransponderIP() const
+{
+    return d->get(TransponderAddress);
+}
+
+void HostNodeDB::setDefaultRecordingTransponderIP(const QString& address)
+{
+    d->set(QLatin1String(TransponderAddress), address);
+}
+
+int HostNodeDB::bandwidth() const
+{
+    bool isSet = false;
+    const int bandwidth = d->get(Bandwidth).toInt(&isSet);
+    return isSet ? bandwidth : int(FastLocal);
+}
+
+void HostNodeDB::setBandwidth(int bandwidth)
+{
+    d->set(QLatin1String(Bandwidth), QString::number(bandwidth));
+}
+
+GlobalNetworkProxy& HostNodeDB::globalProxy()
+{
+    return d->proxy;
+}
+
+void HostNodeDB::Private::proxyChanged()
+{
+    // Also called when the settings of another process are taken over: then nothing differs.
+    const NodeTables::Settings defaults = ProxySettings::fromProxy(GlobalNetworkProxy());
+    const NodeTables::Settings values = ProxySettings::fromProxy(proxy);
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        if (memory.settings.value(it.key(), defaults.value(it.key())) != it.value())
+            set(it.key(), it.value());
+    }
+}
+
+Environments& HostNodeDB::environments()
+{
+    return d->environments;
+}
+
+void HostNodeDB::Private::environmentsChanged()
+{
+    memory.environments = environments.getList();
+    memory.pending.environments = memory.environments;
+    scheduleFlush();
+}
+
+void HostNodeDB::Private::environmentRemoved(const QString& id)
+{
+    if (get(ActiveEnvironment) == id)
+        set(QLatin1String(ActiveEnvironment), q->activeEnvironment());
+}
+
+/// The first one stands in for one that is gone.
+QString HostNodeDB::activeEnvironment() const
+{
+    const QString active = d->get(ActiveEnvironment);
+    if (d->environments.contains(active) || d->memory.environments.isEmpty())
+        return d->environments.contains(active) ? active : QString();
+    return d->memory.environments.first().first;
+}
+
+void HostNodeDB::setActiveEnvironment(const QString& id)
+{
+    if (d->environments.contains(id))
+        d->set(QLatin1String(ActiveEnvironment), id);
+}
+
+/// Brings the objects that were handed out up to what is in memory.
+void HostNodeDB::Private::settingsTaken()
+{
+    environments.reload(memory.environments);
+    ProxySettings::toProxy(memory.settings, proxy);
+}
+
+// Logs
+
+AuditLog& HostNodeDB::auditLog()
+{
+    return d->audit;
+}
+
+LogStore& HostNodeDB::logStore()
+{
+    return *d;
+}
+
+void HostNodeDB::Private::append(const AuditRow& row)
+{
+    memory.pending.audit.append(row);
+    scheduleFlush();
+}
+
+void HostNodeDB::Private::append(const ProgramRow& row)
+{
+    QVector<ProgramRow>& lines = memory.pending.programLines;
+    if (lines.size() >= NodeTables::MaxProgramLines)
+        lines.removeFirst(); // the store cannot be written, and would not keep it either
+    lines.append(row);
+    if (!programLineTimer.isActive())
+        programLineTimer.start(ProgramLineDelay);
+}
+
+QVector<AuditRow> HostNodeDB::Private::auditRows(const LogRange& range)
+{
+    flush();
+    return reading([&] { return tables.audit(range); });
+}
+
+qint64 HostNodeDB::Private::auditCount()
+{
+    flush();
+    return reading([&] { return tables.auditCount(); });
+}
+
+QVector<ProgramRow> HostNodeDB::Private::programRows(const LogRange& range)
+{
+    flush();
+    return reading([&] { return tables.programLines(range); });
+}
+
+qint64 HostNodeDB::Private::programCount()
+{
+    flush();
+    return reading([&] { return tables.programLineCount(); });
+}
+
+// Storing
+
+/// A queued call runs before the event loop waits again, whatever else is in the queue; what is posted
+/// before it goes into the same commit.
+void HostNodeDB::Private::scheduleFlush()
+{
+    if (flushScheduled)
+        return;
+    flushScheduled = true;
+    QMetaObject::invokeMethod(
+        q,
+        [this] {
+            flushScheduled = false;
+            flush();
+        },
+        Qt::QueuedConnection);
+}
+
+bool HostNodeDB::Private::flush()
+{
+    if (memory.pending.isEmpty())
+        return true;
+    Notices notices;
+    StoreError error;
+    try {
+        Transaction transaction(*store, Transaction::Write);
+        // Now nobody else can write, so what is brought in here is what is written upon.
+        notices = memory.take(readForeignChanges(), true);
+        StoreWriter writer(tables, memory.cache, writerId);
+        writer.write(memory.pending);
+        const qint64 lastChange = tables.lastChange();
+        transaction.commit();
+        written(writer, lastChange);
+    } catch (const StoreFailure& failure) {
+        error = failure.error;
+    }
+    announce(notices);
+    if (error)
+        return writeFailed(error);
+    if (failing) {
+        failing = false;
+        emit q->storeRecovered();
+    }
+    return true;
+}
+
+void HostNodeDB::Private::written(const StoreWriter& writer, qint64 lastChange)
+{
+    for (const auto& inserted : writer.insertedNodes())
+        memory.cache.setStored(*inserted.first, inserted.second);
+    memory.pending = PendingChanges();
+    memory.lastChange = lastChange;
+    retry.stop();
+    programLineTimer.stop();
+}
+
+bool HostNodeDB::Private::writeFailed(const StoreError& error)
+{
+    if (!failing)
+        LogQt::line(LogQt::Error,
+                    QString::fromLatin1("Writing the node database failed: %1").arg(error.detail));
+    failing = true;
+    retry.start(RetryInterval);
+    emit q->storeFailed(error);
+    return false;
+}
+
+bool HostNodeDB::flush()
+{
+    return d->flush();
+}
+
+bool HostNodeDB::hasUnstoredChanges() const
+{
+    return d->memory.pending.hasChanges();
+}
+
+void HostNodeDB::discardUnstoredChanges()
+{
+    const PendingChanges dropped = std::exchange(d->memory.pending, PendingChanges());
+    StoreQuery query;
+    query.everything = true;
+    query.settings = true;
+    Notices notices;
+    try {
+        const Transaction transaction(*d->store, Transaction::Read);
+        notices = d->memory.take(d->readState(query), false);
+    } catch (const StoreFailure& failure) {
+        d->memory.pending = dropped;
+        d->readFailed(failure.error);
+        return;
+    }
+    d->failing = false;
+    d->retry.stop();
+    d->announce(notices);
+}
+
+// Changes of other processes
+
+StoreState HostNodeDB::Private::readState(const StoreQuery& query)
+{
+    return StoreState::read(tables, query, [this](const NodeID& id) {
+        const NodeRecord* record = memory.cache.find(id);
+        return record && !record->snapshot.null();
+    });
+}
+
+StoreState HostNodeDB::Private::readForeignChanges()
+{
+    return readState(StoreQuery::changesSince(tables, memory.lastChange, writerId));
+}
+
+void HostNodeDB::syncForeignChanges()
+{
+    Notices notices;
+    try {
+        const qint64 version = d->store->dataVersion();
+        if (version == d->dataVersion)
+            return;
+        const Transaction transaction(*d->store, Transaction::Read);
+        notices = d->memory.take(d->readForeignChanges(), true);
+        d->dataVersion = version;
+    } catch (const StoreFailure& failure) {
+        d->readFailed(failure.error);
+    }
+    d->announce(notices);
+}
+
+/// Receivers may change the database; what is no longer true is not announced.
+void HostNodeDB::Private::announce(const Notices& notices)
+{
+    if (notices.settings) {
+        settingsTaken();
+        emit q->settingsChanged();
+    }
+    for (const auto& notice : notices.nodes()) {
+        const bool exists = memory.cache.find(notice.second);
+        if (notice.first == Notices::Removed && !exists)
+            emit q->nodeRemoved(notice.second);
+        else if (notice.first == Notices::Inserted && exists)
+            emit q->nodeInserted(notice.second);
+        else if (notice.first == Notices::Updated && exists)
+            emit q->nodeUpdated(notice.second);
+    }
+}
+
+} // namespace ko

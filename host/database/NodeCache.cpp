@@ -1,0 +1,81 @@
+#include "database/NodeCache.h"
+
+#include "database/StoredNode.h"
+
+namespace ko {
+
+bool NodeRecord::isStored() const
+{
+    return order < NodeCache::FirstUnstored;
+}
+
+NodeData NodeRecord::data() const
+{
+    return dynamic_cast<const StoredNode&>(*snapshot).nodeData();
+}
+
+NodeRecord& NodeCache::insert(qint64 order, const NodeSummary& summary)
+{
+    // Nearly always behind all others.
+    NodeRecord& record = m_nodes.emplace_hint(m_nodes.end(), order, NodeRecord())->second;
+    record.order = order;
+    record.summary = summary;
+    m_byId.insert(summary.id, &record);
+    return record;
+}
+
+NodeRecord& NodeCache::append(const NodeSummary& summary)
+{
+    return insert(m_nextUnstored++, summary);
+}
+
+void NodeCache::remove(NodeRecord& record)
+{
+    setLookupKey(record, QString());
+    m_byId.remove(record.summary.id);
+    m_nodes.erase(record.order);
+}
+
+void NodeCache::setStored(NodeRecord& record, qint64 order)
+{
+    Map::node_type node = m_nodes.extract(record.order);
+    node.key() = order;
+    record.order = order;
+    m_nodes.insert(std::move(node));
+}
+
+void NodeCache::clearLookup()
+{
+    m_byLookupKey.clear();
+    for (auto& node : m_nodes)
+        node.second.lookupKey.clear();
+    m_lookupReady = false;
+}
+
+void NodeCache::setLookupKey(NodeRecord& record, const QString& key)
+{
+    if (!record.lookupKey.isEmpty())
+        m_byLookupKey.remove(record.lookupKey, &record);
+    record.lookupKey = key;
+    if (!key.isEmpty())
+        m_byLookupKey.insert(key, &record);
+}
+
+NodeRecord* NodeCache::findOrder(qint64 order)
+{
+    const auto found = m_nodes.find(order);
+    return found == m_nodes.end() ? nullptr : &found->second;
+}
+
+const NodeRecord* NodeCache::findLookupKey(const QString& key) const
+{
+    const NodeRecord* oldest = nullptr;
+    const auto range = m_byLookupKey.equal_range(key);
+    for (auto it = range.first; it != range.second; ++it) {
+        if (!oldest || it.value()->order < oldest->order)
+            oldest = it.value();
+    }
+    return oldest;
+}
+
+} // namespace ko

@@ -1,0 +1,76 @@
+#ifndef KO_NODECACHE_H
+#define KO_NODECACHE_H
+
+#include "database/NodeData.h"
+#include "ko/Node.h"
+#include "kom/smart.h"
+
+#include <QHash>
+
+#include <map>
+
+namespace ko {
+
+/// What is in memory of one node.
+struct NodeRecord
+{
+    qint64 order = 0; ///< its number in the store; larger than all of these while it is not stored yet
+    NodeSummary summary;
+    kom::smart<const Node> snapshot; ///< null until somebody needs the properties
+    QString lookupKey;               ///< kept once NodeCache::lookupReady()
+    void* context = nullptr;
+    bool hasContext = false;
+
+    bool isStored() const;
+
+    /// Of the snapshot, which must be there.
+    NodeData data() const;
+};
+
+/// All nodes of the database, oldest first. Finding, adding and removing one take the same time however
+/// many there are.
+class NodeCache
+{
+public:
+    typedef std::map<qint64, NodeRecord> Map;
+
+    static constexpr qint64 FirstUnstored = qint64(1) << 62;
+
+    Map::const_iterator begin() const { return m_nodes.begin(); }
+    Map::const_iterator end() const { return m_nodes.end(); }
+    int count() const { return int(m_nodes.size()); }
+    void reserve(int count) { m_byId.reserve(count); }
+
+    NodeRecord* find(const NodeID& id) const { return m_byId.value(id); }
+
+    /// Adds a node of the store.
+    NodeRecord& insert(qint64 order, const NodeSummary& summary);
+
+    /// Adds a node that is not stored yet.
+    NodeRecord& append(const NodeSummary& summary);
+    void remove(NodeRecord& record);
+
+    /// The node is stored now under this number.
+    void setStored(NodeRecord& record, qint64 order);
+
+    // The lookup index is filled by its user, on first use.
+    bool lookupReady() const { return m_lookupReady; }
+    void setLookupReady() { m_lookupReady = true; }
+    void clearLookup();
+    void setLookupKey(NodeRecord& record, const QString& key);
+    NodeRecord* findOrder(qint64 order);
+
+    /// The oldest node with this key.
+    const NodeRecord* findLookupKey(const QString& key) const;
+
+private:
+    Map m_nodes;
+    QHash<NodeID, NodeRecord*> m_byId;
+    QMultiHash<QString, NodeRecord*> m_byLookupKey;
+    qint64 m_nextUnstored = FirstUnstored;
+    bool m_lookupReady = false;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,60 @@
+#include "database/ProxySettings.h"
+
+#include "ko/GlobalNetworkProxy.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QStringList>
+
+namespace ko {
+
+namespace ProxySettings {
+
+namespace {
+
+constexpr char Use[] = "proxy.use";
+constexpr char Address[] = "proxy.address";
+constexpr char Port[] = "proxy.port";
+constexpr char User[] = "proxy.user";
+constexpr char Password[] = "proxy.password";
+constexpr char SavePassword[] = "proxy.savePassword";
+constexpr char Exceptions[] = "proxy.exceptions";
+
+} // namespace
+
+NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy)
+{
+    const QJsonArray exceptions = QJsonArray::fromStringList(proxy.exceptions());
+    NodeTables::Settings settings;
+    const auto set = [&settings](const char* key, const QString& value) {
+        settings.insert(QLatin1String(key), value);
+    };
+    set(Use, QString::number(proxy.useProxy()));
+    set(Address, proxy.proxyAddress());
+    set(Port, QString::number(proxy.proxyPort()));
+    set(User, proxy.proxyUser());
+    set(Password, proxy.saveProxyPassword() ? proxy.proxyPassword() : QString());
+    set(SavePassword, QString::number(proxy.saveProxyPassword()));
+    set(Exceptions, QString::fromUtf8(QJsonDocument(exceptions).toJson(QJsonDocument::Compact)));
+    return settings;
+}
+
+void toProxy(const NodeTables::Settings& settings, GlobalNetworkProxy& proxy)
+{
+    const auto get = [&settings](const char* key) { return settings.value(QLatin1String(key)); };
+    const bool savePassword = get(SavePassword).toInt() != 0;
+    NetworkProxy stored;
+    stored.setUseProxy(get(Use).toInt() != 0);
+    stored.setProxyAddress(get(Address), get(Port).toInt());
+    stored.setProxyUser(get(User), savePassword ? get(Password) : proxy.proxyPassword());
+    stored.setSaveProxyPassword(savePassword);
+    QStringList patterns;
+    const QJsonArray exceptions = QJsonDocument::fromJson(get(Exceptions).toUtf8()).array();
+    for (const QJsonValue& pattern : exceptions)
+        patterns.append(pattern.toString());
+    proxy.assign(stored, patterns);
+}
+
+} // namespace ProxySettings
+
+} // namespace ko

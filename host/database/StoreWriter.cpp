@@ -1,0 +1,81 @@
+#include "database/StoreWriter.h"
+
+#include "drivers/NodeTypes.h"
+
+namespace ko {
+
+StoreWriter::StoreWriter(NodeTables& tables, const NodeCache& cache, qint64 writer)
+    : m_tables(tables)
+    , m_cache(cache)
+    , m_writer(writer)
+{
+}
+
+void StoreWriter::write(const PendingChanges& pending)
+{
+    for (const NodeID& id : pending.order) {
+        const auto change = pending.nodes.find(id);
+        if (change != pending.nodes.end())
+            writeNode(id, *change);
+    }
+    for (const PendingChanges::RelationChange& change : pending.relations)
+        writeRelation(change);
+    for (auto it = pending.settings.begin(); it != pending.settings.end(); ++it)
+        m_tables.setSetting(it.key(), it.value());
+    if (pending.environments)
+        m_tables.setEnvironments(*pending.environments);
+    if (pending.environments || !pending.settings.isEmpty())
+        note(ChangeRow::SettingChange, NodeID());
+    for (const AuditRow& row : pending.audit)
+        m_tables.addAudit(row);
+    for (const ProgramRow& row : pending.programLines)
+        m_tables.addProgramLine(row);
+    if (!pending.programLines.isEmpty())
+        m_tables.trimProgramLines();
+    if (m_noted)
+        m_tables.trimChanges();
+}
+
+void StoreWriter::writeNode(const NodeID& id, const PendingChanges::Change& change)
+{
+    if (change.kind == PendingChanges::Change::Insert)
+        insertNode(m_cache.find(id));
+    else if (change.kind == PendingChanges::Change::Update)
+        updateNode(*m_cache.find(id), change);
+    else
+        m_tables.removeNode(id);
+    note(ChangeRow::NodeChange, id);
+}
+
+void StoreWriter::insertNode(NodeRecord* record)
+{
+    const NodeData data = record->data();
+    const qint64 n = m_tables.insertNode(record->summary, NodeTypes::lookupKey(data));
+    for (const PropertyList::Entry& entry : data.properties)
+        m_tables.setProperty(n, entry.name, entry.value);
+    m_inserted.append({record, n});
+}
+
+void StoreWriter::updateNode(const NodeRecord& record, const PendingChanges::Change& change)
+{
+    m_tables.updateNode(record.order, record.summary, NodeTypes::lookupKey(record.data()));
+    for (auto it = change.properties.begin(); it != change.properties.end(); ++it)
+        m_tables.setProperty(record.order, it.key(), it.value());
+}
+
+void StoreWriter::writeRelation(const PendingChanges::RelationChange& change)
+{
+    if (change.add)
+        m_tables.addRelation(change.relation);
+    else
+        m_tables.removeRelation(change.relation);
+    note(ChangeRow::RelationChange, change.relation.source);
+}
+
+void StoreWriter::note(ChangeRow::Kind kind, const NodeID& id)
+{
+    m_tables.addChange({kind, id}, m_writer);
+    m_noted = true;
+}
+
+} // namespace ko

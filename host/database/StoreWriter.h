@@ -1,0 +1,37 @@
+#ifndef KO_STOREWRITER_H
+#define KO_STOREWRITER_H
+
+#include "database/NodeCache.h"
+#include "database/PendingChanges.h"
+
+namespace ko {
+
+/// Writes what waits into the tables, with a note of each change for the other processes. Belongs into a
+/// transaction that began with a look at what the others changed; changes nothing in memory.
+class StoreWriter
+{
+public:
+    StoreWriter(NodeTables& tables, const NodeCache& cache, qint64 writer);
+
+    void write(const PendingChanges& pending);
+
+    /// The numbers of the nodes that write() inserted; to be given to the cache after the commit.
+    const QVector<QPair<NodeRecord*, qint64>>& insertedNodes() const { return m_inserted; }
+
+private:
+    void writeNode(const NodeID& id, const PendingChanges::Change& change);
+    void insertNode(NodeRecord* record);
+    void updateNode(const NodeRecord& record, const PendingChanges::Change& change);
+    void writeRelation(const PendingChanges::RelationChange& change);
+    void note(ChangeRow::Kind kind, const NodeID& id);
+
+    NodeTables& m_tables;
+    const NodeCache& m_cache;
+    const qint64 m_writer;
+    QVector<QPair<NodeRecord*, qint64>> m_inserted;
+    bool m_noted = false;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,7 @@
+#include "database/StoredNode.h"
+
+namespace ko {
+
+StoredNode::~StoredNode() = default;
+
+} // namespace ko

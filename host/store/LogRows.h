@@ -1,0 +1,38 @@
+#ifndef KO_LOGROWS_H
+#define KO_LOGROWS_H
+
+#include <QString>
+
+namespace ko {
+
+/// One record of the audit log as it is stored.
+struct AuditRow
+{
+    qint64 seq = 0;  ///< given by the store
+    qint64 time = 0; ///< milliseconds since 1970, UTC
+    QString user;
+    QString host;
+    quint32 code = 0;
+    QString data; ///< JSON object: key to value
+};
+
+/// One line of the program log as it is stored.
+struct ProgramRow
+{
+    qint64 seq = 0;
+    qint64 time = 0;
+    int level = 0;
+    QString line;
+};
+
+/// Some rows of a log, counted from one of its ends.
+struct LogRange
+{
+    qint64 skip;
+    qint64 count;
+    bool newestFirst;
+};
+
+} // namespace ko
+
+#endif

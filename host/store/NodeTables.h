@@ -1,0 +1,101 @@
+#ifndef KO_NODETABLES_H
+#define KO_NODETABLES_H
+
+#include "database/NodeData.h"
+#include "ko/Environments.h"
+#include "store/LogRows.h"
+#include "store/SqliteStore.h"
+
+#include <QMap>
+
+#include <functional>
+
+namespace ko {
+
+/// One node as lists need it, with its place in the order of all nodes.
+struct NodeRow
+{
+    qint64 n = 0; ///< 0: there is no such node
+    NodeSummary summary;
+    QString lookupKey;
+};
+
+struct RelationRow
+{
+    NodeID source;
+    NodeID destination;
+    ENodeRelationType type;
+
+    bool operator==(const RelationRow& row) const
+    {
+        return type == row.type && source == row.source && destination == row.destination;
+    }
+};
+
+/// What other connections look through to learn what changed.
+struct ChangeRow
+{
+    enum Kind : char { NodeChange = 'N', RelationChange = 'R', SettingChange = 'S' };
+
+    Kind kind;
+    NodeID id; ///< of the node, or of the source of the relations
+};
+
+/// The tables of the store as structures. Everything throws StoreFailure; nothing opens transactions.
+class NodeTables
+{
+public:
+    typedef QMap<QString, QString> Settings;
+
+    /// Rows kept in the tables that would grow for ever.
+    static constexpr int MaxChanges = 20000;
+    static constexpr int MaxProgramLines = 10000;
+
+    explicit NodeTables(SqliteStore& store);
+
+    void forEachNode(const std::function<void(const NodeRow&)>& visit);
+    NodeRow node(const NodeID& id);
+
+    /// Key and number of all nodes that have a key.
+    void forEachLookupKey(const std::function<void(qint64, const QString&)>& visit);
+
+    /// False if the node is gone.
+    bool readProperties(qint64 n, PropertyList* properties);
+
+    qint64 insertNode(const NodeSummary& summary, const QString& lookupKey);
+    void updateNode(qint64 n, const NodeSummary& summary, const QString& lookupKey);
+    void removeNode(const NodeID& id);
+    void setProperty(qint64 n, const QString& name, const QVariant& value);
+
+    QVector<RelationRow> relations();
+    QVector<RelationRow> relationsFrom(const NodeID& source);
+    void addRelation(const RelationRow& relation);
+    void removeRelation(const RelationRow& relation);
+
+    Settings settings();
+    void setSetting(const QString& key, const QString& value);
+    Environments::List environments();
+    void setEnvironments(const Environments::List& list);
+
+    void addAudit(const AuditRow& row);
+    QVector<AuditRow> audit(const LogRange& range);
+    qint64 auditCount();
+    void addProgramLine(const ProgramRow& row);
+    QVector<ProgramRow> programLines(const LogRange& range);
+    qint64 programLineCount();
+
+    qint64 lastChange();
+    /// False if changes after \a seq have been trimmed already.
+    bool hasChangesSince(qint64 seq);
+    QVector<ChangeRow> foreignChanges(qint64 since, qint64 writer);
+    void addChange(const ChangeRow& change, qint64 writer);
+    void trimChanges();
+    void trimProgramLines();
+
+private:
+    SqliteStore& m_store;
+};
+
+} // namespace ko
+
+#endif

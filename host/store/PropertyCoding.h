@@ -1,0 +1,29 @@
+#ifndef KO_PROPERTYCODING_H
+#define KO_PROPERTYCODING_H
+
+#include "HostExport.h"
+
+#include <QVariant>
+
+namespace ko {
+
+/// How the value of a property stands in the store: a number for its type and something SQLite keeps.
+namespace PropertyCoding {
+
+struct Stored
+{
+    int type;
+    QVariant value;
+};
+
+/// \a value is one of the five types of a PropertyList.
+KO_HOST_EXPORT Stored encode(const QVariant& value);
+
+/// The value again, or an invalid one if nothing that encode() gave.
+KO_HOST_EXPORT QVariant decode(int type, const QVariant& value);
+
+} // namespace PropertyCoding
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,281 @@
+#include "store/SqliteStore.h"
+
+#include "store/StoreFile.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlError>
+
+#include <atomic>
+
+namespace ko {
+
+namespace {
+
+/// Result codes of SQLite; the extended ones carry more in their higher bytes.
+StoreError::Kind kindOf(int code)
+{
+    switch (code & 0xff) {
+    case 5: // busy
+    case 6: // locked
+        return StoreError::Locked;
+    case 8:
+        return StoreError::ReadOnly;
+    case 11:
+        return StoreError::Damaged;
+    case 13:
+        return StoreError::DiskFull;
+    case 14:
+        return StoreError::CannotOpen;
+    case 26:
+        return StoreError::NotADatabase;
+    default:
+        return StoreError::Other;
+    }
+}
+
+QString newConnectionName()
+{
+    static std::atomic<int> counter{0};
+    return QString::fromLatin1("ko-store-%1").arg(++counter);
+}
+
+} // namespace
+
+SqliteStore::Rows::Rows(const SqliteStore& store, QSqlQuery& query)
+    : m_store(store)
+    , m_query(&query)
+{
+}
+
+SqliteStore::Rows::Rows(Rows&& other) noexcept
+    : m_store(other.m_store)
+    , m_query(other.m_query)
+{
+    other.m_query = nullptr;
+}
+
+SqliteStore::Rows::~Rows()
+{
+    if (m_query)
+        m_query->finish();
+}
+
+bool SqliteStore::Rows::next()
+{
+    if (m_query->next())
+        return true;
+    if (m_query->lastError().isValid())
+        m_store.fail(m_query->lastError());
+    return false;
+}
+
+std::unique_ptr<SqliteStore> SqliteStore::open(const QString& file, StoreError* error, int version)
+{
+    bool created = false;
+    try {
+        created = StoreFile::create(file);
+        check(file, version);
+        std::unique_ptr<SqliteStore> store(new SqliteStore(file, ReadWrite));
+        store->prepare(version);
+        *error = StoreError();
+        return store;
+    } catch (const StoreFailure& failure) {
+        *error = failure.error;
+    }
+    // Whoever opened the file meanwhile has written to it.
+    if (created && QFileInfo(file).size() == 0)
+        QFile::remove(file);
+    return nullptr;
+}
+
+SqliteStore::SqliteStore(const QString& file, Mode mode)
+    : m_file(file)
+    , m_connection(newConnectionName())
+    , m_database(QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), m_connection))
+{
+    QString options = QString::fromLatin1("QSQLITE_BUSY_TIMEOUT=%1").arg(BusyTimeout);
+    if (mode == ReadOnly)
+        options += QLatin1String(";QSQLITE_OPEN_READONLY");
+    m_database.setConnectOptions(options);
+    m_database.setDatabaseName(file);
+    if (m_database.open())
+        return;
+    const QSqlError error = m_database.lastError();
+    m_database = QSqlDatabase();
+    QSqlDatabase::removeDatabase(m_connection);
+    fail(error);
+}
+
+SqliteStore::~SqliteStore()
+{
+    m_statements.clear();
+    m_database.close();
+    m_database = QSqlDatabase();
+    QSqlDatabase::removeDatabase(m_connection);
+}
+
+void SqliteStore::check(const QString& file, int version)
+{
+    StoreFile::check(file, version);
+    // What a crash left in the write-ahead log would go into the file when the last connection closes,
+    // unless that may only read.
+    const bool hasLog = QFile::exists(file + QLatin1String("-wal"));
+    SqliteStore probe(file, hasLog ? ReadOnly : ReadWrite);
+    if (probe.userVersion() > version)
+        throw StoreFailure{StoreError::make(StoreError::NewerVersion, file, QLatin1String("in its log"))};
+    const QString result = probe.value("PRAGMA quick_check(1)").toString();
+    if (result != QLatin1String("ok"))
+        throw StoreFailure{StoreError::make(StoreError::Damaged, file, result)};
+}
+
+void SqliteStore::prepare(int version)
+{
+    execute(QLatin1String("PRAGMA foreign_keys = ON"));
+    if (userVersion() == 0)
+        create(version);
+    execute(QLatin1String("PRAGMA journal_mode = WAL"));
+    execute(QLatin1String("PRAGMA synchronous = FULL"));
+    const int found = userVersion();
+    if (found < version)
+        migrate(found, version);
+    const Transaction attempt(*this, Transaction::Write); // finds out now whether writing is possible
+}
+
+void SqliteStore::create(int version)
+{
+    // Before the write-ahead log is switched on, so that the header of the file tells whose it is from
+    // the first commit on.
+    Transaction transaction(*this, Transaction::Exclusive);
+    if (userVersion() != 0)
+        return; // another process was faster
+    execute(QString::fromLatin1("PRAGMA application_id = %1").arg(StoreSchema::ApplicationId));
+    applySteps(0, version);
+    transaction.commit();
+}
+
+void SqliteStore::migrate(int from, int to)
+{
+    const QString copy = backUp(from);
+    try {
+        Transaction transaction(*this, Transaction::Write);
+        if (userVersion() == from) {
+            applySteps(from, to);
+            transaction.commit();
+            return;
+        }
+    } catch (const StoreFailure&) {
+        QFile::remove(copy); // nothing has changed, and the next try makes its own
+        throw;
+    }
+    QFile::remove(copy); // another process has migrated, and kept its own
+}
+
+QString SqliteStore::backUp(int version)
+{
+    const QString time = QDateTime::currentDateTimeUtc().toString(QLatin1String("yyyyMMdd'T'HHmmss'Z'"));
+    const QString name = QString::fromLatin1("%1.backup-v%2-%3").arg(m_file).arg(version).arg(time);
+    QString copy = name;
+    for (int i = 2; !StoreFile::create(copy); ++i)
+        copy = name + QString::fromLatin1("-%1").arg(i);
+    try {
+        run("VACUUM INTO ?", {copy});
+    } catch (const StoreFailure&) {
+        QFile::remove(copy);
+        throw;
+    }
+    return copy;
+}
+
+int SqliteStore::userVersion()
+{
+    return value("PRAGMA user_version").toInt();
+}
+
+void SqliteStore::applySteps(int from, int to)
+{
+    for (int version = from; version < to; ++version) {
+        const QVector<const char*> statements = StoreSchema::stepFrom(version);
+        for (const char* statement : statements)
+            execute(QLatin1String(statement));
+    }
+    execute(QString::fromLatin1("PRAGMA user_version = %1").arg(to));
+}
+
+SqliteStore::Rows SqliteStore::run(const char* sql, const QVariantList& values)
+{
+    auto found = m_statements.find(sql);
+    if (found == m_statements.end()) {
+        found = m_statements.try_emplace(sql, m_database).first;
+        found->second.setForwardOnly(true);
+        if (!found->second.prepare(QLatin1String(sql))) {
+            const QSqlError error = found->second.lastError();
+            m_statements.erase(found);
+            fail(error);
+        }
+    }
+    QSqlQuery& query = found->second;
+    for (int i = 0; i < values.size(); ++i)
+        query.bindValue(i, values.at(i));
+    if (!query.exec())
+        fail(query.lastError());
+    return Rows(*this, query);
+}
+
+QVariant SqliteStore::value(const char* sql, const QVariantList& values)
+{
+    Rows rows = run(sql, values);
+    return rows.next() ? rows.value(0) : QVariant();
+}
+
+void SqliteStore::execute(const QString& sql)
+{
+    QSqlQuery query(m_database);
+    if (!query.exec(sql))
+        fail(query.lastError());
+}
+
+qint64 SqliteStore::dataVersion()
+{
+    return value("PRAGMA data_version").toLongLong();
+}
+
+void SqliteStore::fail(const QSqlError& error) const
+{
+    StoreError::Kind kind = kindOf(error.nativeErrorCode().toInt());
+    if (kind != StoreError::DiskFull && kind != StoreError::Locked && StoreFile::isDiskFull(m_file))
+        kind = StoreError::DiskFull; // a file that cannot grow shows as an I/O error, too
+    throw StoreFailure{StoreError::make(
+        kind, m_file, QString::fromLatin1("%1 (%2)").arg(error.databaseText(), error.nativeErrorCode()))};
+}
+
+Transaction::Transaction(SqliteStore& store, Kind kind)
+    : m_store(store)
+{
+    if (kind == Read)
+        store.run("BEGIN");
+    else if (kind == Write)
+        store.run("BEGIN IMMEDIATE");
+    else
+        store.run("BEGIN EXCLUSIVE");
+}
+
+Transaction::~Transaction()
+{
+    if (!m_open)
+        return;
+    try {
+        m_store.run("ROLLBACK");
+    } catch (const StoreFailure&) {
+        // SQLite has rolled back by itself, as it does after some errors.
+    }
+}
+
+void Transaction::commit()
+{
+    m_store.run("COMMIT");
+    m_open = false;
+}
+
+} // namespace ko

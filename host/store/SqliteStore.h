@@ -1,0 +1,111 @@
+#ifndef KO_SQLITESTORE_H
+#define KO_SQLITESTORE_H
+
+#include "store/StoreError.h"
+#include "store/StoreSchema.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QVariant>
+
+#include <memory>
+#include <unordered_map>
+
+namespace ko {
+
+/// One connection to a node database file.
+///
+/// Everything but open() throws StoreFailure when it fails. A value of a statement never stands in the
+/// text of an error.
+class KO_HOST_EXPORT SqliteStore
+{
+public:
+    /// How long a call waits for another process, in milliseconds.
+    static constexpr int BusyTimeout = 2000;
+
+    /// Opens \a file after looking whether it may be opened; a missing or empty file becomes an empty
+    /// database of mode 0600. An older version is migrated, with a copy of the file kept beside it. On
+    /// failure null and \a error, and the file is as it was. \a version serves the tests of migration.
+    static std::unique_ptr<SqliteStore> open(const QString& file, StoreError* error,
+                                             int version = StoreSchema::latest());
+    ~SqliteStore();
+
+    const QString& fileName() const { return m_file; }
+
+    /// The rows of a statement that was run; ends the statement when it goes, so keep it short.
+    class KO_HOST_EXPORT Rows
+    {
+    public:
+        Rows(const SqliteStore& store, QSqlQuery& query);
+        Rows(Rows&& other) noexcept;
+        ~Rows();
+
+        bool next();
+        QVariant value(int column) const { return m_query->value(column); }
+        QString text(int column) const { return value(column).toString(); }
+        qint64 number(int column) const { return value(column).toLongLong(); }
+        qint64 insertedId() const { return m_query->lastInsertId().toLongLong(); }
+
+    private:
+        Q_DISABLE_COPY(Rows)
+        const SqliteStore& m_store;
+        QSqlQuery* m_query;
+    };
+
+    /// Runs a statement. It is prepared once and found again by its address, so \a sql is a literal.
+    Rows run(const char* sql, const QVariantList& values = QVariantList());
+
+    /// The first column of the first row, or an invalid value.
+    QVariant value(const char* sql, const QVariantList& values = QVariantList());
+
+    /// Runs a statement that is not worth keeping.
+    void execute(const QString& sql);
+
+    /// Changes whenever another connection, of this or another process, has committed.
+    qint64 dataVersion();
+
+private:
+    enum Mode { ReadOnly, ReadWrite };
+
+    SqliteStore(const QString& file, Mode mode);
+    Q_DISABLE_COPY(SqliteStore)
+
+    static void check(const QString& file, int version);
+    void prepare(int version);
+    void create(int version);
+    void migrate(int from, int to);
+    QString backUp(int version);
+    int userVersion();
+    void applySteps(int from, int to);
+    [[noreturn]] void fail(const QSqlError& error) const;
+
+    const QString m_file;
+    const QString m_connection;
+    QSqlDatabase m_database;
+    std::unordered_map<const char*, QSqlQuery> m_statements;
+};
+
+/// Rolled back unless commit() was reached.
+class KO_HOST_EXPORT Transaction
+{
+public:
+    enum Kind {
+        Read,     ///< one unchanging view of the database
+        Write,    ///< keeps other writers out from the start
+        Exclusive ///< also keeps other readers out
+    };
+
+    Transaction(SqliteStore& store, Kind kind);
+    ~Transaction();
+
+    void commit();
+
+private:
+    Q_DISABLE_COPY(Transaction)
+    SqliteStore& m_store;
+    bool m_open = true;
+};
+
+} // namespace ko
+
+#endif

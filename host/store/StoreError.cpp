@@ -1,0 +1,72 @@
+#include "store/StoreError.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+namespace ko {
+
+namespace {
+
+/// %1 is the file. What happened comes first, then what to do about it.
+const char* pattern(StoreError::Kind kind)
+{
+    switch (kind) {
+    case StoreError::None:
+        return "";
+    case StoreError::NotADatabase:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "\"%1\" is not a node database but some other kind of file. It was left as it "
+                              "is. Choose your database file, or a new file name to start an empty one.");
+    case StoreError::OtherProgram:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "\"%1\" is a database of another program and holds no nodes. It was left as "
+                              "it is. Choose your node database, or a new file name to start an empty one.");
+    case StoreError::Damaged:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "The node database \"%1\" is damaged. It was left as it is. Move it to a safe "
+                              "place and put a backup copy of it here; copies that this program made lie in "
+                              "the same folder, with \".backup\" in their names.");
+    case StoreError::NewerVersion:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "The node database \"%1\" was written by a newer version of this program. "
+                              "Install that version on this computer, or open the backup copy that it made "
+                              "in the same folder.");
+    case StoreError::ReadOnly:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "The node database \"%1\" cannot be changed, because the file or its folder is "
+                              "write-protected for you. Ask your administrator for the right to write there, "
+                              "or copy the database into a folder of your own and open the copy.");
+    case StoreError::Locked:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "The node database \"%1\" is held by another program. Close that program, or "
+                              "wait until its backup or copy is finished, and try again.");
+    case StoreError::DiskFull:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "There is no space left for the node database \"%1\". Delete files that you do "
+                              "not need from this disk, and try again.");
+    case StoreError::CannotOpen:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "The node database \"%1\" cannot be opened. Check that its folder exists, that "
+                              "the disk or network drive is connected, and that you may read the file.");
+    case StoreError::Other:
+        break;
+    }
+    return QT_TRANSLATE_NOOP(
+        "ko::StoreError",
+        "The node database \"%1\" cannot be read or written. Check that its disk or network "
+        "drive is connected, and try again.");
+}
+
+} // namespace
+
+StoreError StoreError::make(Kind kind, const QString& file, const QString& detail)
+{
+    StoreError error;
+    error.kind = kind;
+    error.message =
+        QCoreApplication::translate("ko::StoreError", pattern(kind)).arg(QDir::toNativeSeparators(file));
+    error.detail = detail;
+    return error;
+}
+
+} // namespace ko

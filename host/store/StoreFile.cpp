@@ -1,0 +1,102 @@
+#include "store/StoreFile.h"
+
+#include "store/StoreError.h"
+#include "store/StoreSchema.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
+#include <QtEndian>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ko {
+
+namespace StoreFile {
+
+namespace {
+
+// Places in the header of an SQLite file.
+constexpr int HeaderSize = 100;
+constexpr int VersionOffset = 60;
+constexpr int ApplicationOffset = 68;
+constexpr char Magic[] = "SQLite format 3"; // with its final zero
+
+[[noreturn]] void fail(StoreError::Kind kind, const QString& file, const QString& detail)
+{
+    throw StoreFailure{StoreError::make(kind, file, detail)};
+}
+
+StoreError::Kind kindOf(int code)
+{
+    if (code == EACCES || code == EPERM || code == EROFS)
+        return StoreError::ReadOnly;
+    return code == ENOSPC || code == EDQUOT ? StoreError::DiskFull : StoreError::CannotOpen;
+}
+
+QByteArray readHeader(const QString& file)
+{
+    QFile reader(file);
+    if (QFileInfo(file).isDir() || !reader.open(QIODevice::ReadOnly))
+        fail(StoreError::CannotOpen, file, reader.errorString());
+    return reader.read(HeaderSize);
+}
+
+quint32 numberAt(const QByteArray& header, int offset)
+{
+    return qFromBigEndian<quint32>(header.constData() + offset);
+}
+
+void checkHeader(const QString& file, const QByteArray& header, int version)
+{
+    if (!header.startsWith(QByteArray(Magic, sizeof Magic)))
+        fail(StoreError::NotADatabase, file, QLatin1String("no SQLite header"));
+    if (header.size() < HeaderSize)
+        fail(StoreError::Damaged, file, QLatin1String("the header is cut off"));
+    if (numberAt(header, ApplicationOffset) != StoreSchema::ApplicationId)
+        fail(StoreError::OtherProgram, file, QLatin1String("application id"));
+    if (numberAt(header, VersionOffset) > quint32(version))
+        fail(StoreError::NewerVersion, file,
+             QString::fromLatin1("version %1").arg(numberAt(header, VersionOffset)));
+}
+
+} // namespace
+
+bool create(const QString& file)
+{
+    const int descriptor =
+        ::open(QFile::encodeName(file).constData(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (descriptor < 0 && errno == EEXIST)
+        return false;
+    if (descriptor < 0)
+        fail(kindOf(errno), file, QString::fromLocal8Bit(std::strerror(errno)));
+    ::fchmod(descriptor, S_IRUSR | S_IWUSR); // an odd umask takes bits away
+    ::close(descriptor);
+    return true;
+}
+
+void check(const QString& file, int version)
+{
+    const QByteArray header = readHeader(file);
+    if (!header.isEmpty())
+        checkHeader(file, header, version);
+    const QFileInfo info(file);
+    if (!info.isWritable() || !QFileInfo(info.absolutePath()).isWritable())
+        fail(StoreError::ReadOnly, file, QLatin1String("no permission to write"));
+}
+
+bool isDiskFull(const QString& file)
+{
+    // The smallest thing a store asks for is a 32 KB index of its write-ahead log.
+    const QStorageInfo storage(QFileInfo(file).absolutePath());
+    return storage.isValid() && storage.bytesAvailable() < 64 * 1024;
+}
+
+} // namespace StoreFile
+
+} // namespace ko

@@ -1,0 +1,24 @@
+#ifndef KO_STOREFILE_H
+#define KO_STOREFILE_H
+
+#include <QString>
+
+namespace ko {
+
+/// What can be told about a database file without opening it as one. Failures are thrown as StoreFailure.
+namespace StoreFile {
+
+/// Makes an empty file that only its owner may read. False if \a file was there before.
+bool create(const QString& file);
+
+/// Throws unless \a file is empty or a node database of \a version or older that may be written.
+void check(const QString& file, int version);
+
+/// Whether the disk under \a file is as good as full.
+bool isDiskFull(const QString& file);
+
+} // namespace StoreFile
+
+} // namespace ko
+
+#endif
