@@ -1,0 +1,34 @@
+#ifndef KO_NETWORKPROXYDIALOG_H
+#define KO_NETWORKPROXYDIALOG_H
+
+#include "NodeUIExport.h"
+
+#include <QDialog>
+#include <QScopedPointer>
+
+namespace Ui {
+class NetworkProxyDialog;
+}
+
+namespace ko {
+
+/// Dialog around NetworkProxyWidget: reads when it is made, writes on OK.
+class KO_NODEUI_EXPORT NetworkProxyDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit NetworkProxyDialog(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
+    ~NetworkProxyDialog() override;
+
+private:
+    Q_DISABLE_COPY(NetworkProxyDialog)
+
+    void accept() override;
+
+    const QScopedPointer<Ui::NetworkProxyDialog> m_ui;
+};
+
+} // namespace ko
+
+#endif

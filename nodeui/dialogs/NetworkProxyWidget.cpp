@@ -1,0 +1,61 @@
+#include "dialogs/NetworkProxyWidget.h"
+
+#include "ko/GlobalNetworkProxy.h"
+#include "ko/NodeDB.h"
+#include "ko/connect.h"
+
+#include "ui_NetworkProxyWidget.h"
+
+#include <QCoreApplication>
+
+namespace ko {
+
+namespace {
+
+const QLatin1Char separator(';');
+
+} // namespace
+
+NetworkProxyWidget::NetworkProxyWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_ui(new Ui::NetworkProxyWidget)
+{
+    m_ui->setupUi(this);
+    // In the context of the form, so that translators find its texts in one place.
+    m_ui->exceptionsLineEdit->setToolTip(QCoreApplication::translate(
+        "NetworkProxyWidget",
+        "Enter hosts and domains for which proxy settings should not be used.<br>Use semicolon (;) as "
+        "separator and asterisk (*) for wildcards, e.g.:<br><b>*.example.org; 10.*; 192.168.*</b>"));
+}
+
+NetworkProxyWidget::~NetworkProxyWidget() = default;
+
+void NetworkProxyWidget::setup()
+{
+    const GlobalNetworkProxy& proxy = NodeDB::getDB()->globalProxy();
+    m_ui->proxyGroupBox->setChecked(proxy.useProxy());
+    m_ui->proxyLineEdit->setText(proxy.proxyAddress());
+    m_ui->proxySpinBox->setValue(proxy.proxyPort());
+    m_ui->userNameLineEdit->setText(proxy.proxyUser());
+    m_ui->passWordLineEdit->setText(proxy.proxyPassword());
+    m_ui->exceptionsLineEdit->setText(proxy.exceptionsAssembled(separator));
+
+    ko::connect(m_ui->proxyGroupBox, SIGNAL(toggled(bool)), this, SIGNAL(setDirty()));
+    ko::connect(m_ui->proxyLineEdit, SIGNAL(textChanged(QString)), this, SIGNAL(setDirty()));
+    ko::connect(m_ui->proxySpinBox, SIGNAL(valueChanged(int)), this, SIGNAL(setDirty()));
+    ko::connect(m_ui->exceptionsLineEdit, SIGNAL(textChanged(QString)), this, SIGNAL(setDirty()));
+}
+
+void NetworkProxyWidget::apply()
+{
+    GlobalNetworkProxy& proxy = NodeDB::getDB()->globalProxy();
+    proxy.setUseProxy(m_ui->proxyGroupBox->isChecked());
+    proxy.setProxyAddress(m_ui->proxyLineEdit->text(), m_ui->proxySpinBox->value());
+    proxy.setProxyUser(m_ui->userNameLineEdit->text(), m_ui->passWordLineEdit->text());
+    proxy.setSaveProxyPassword(true);
+    proxy.setExceptions(m_ui->exceptionsLineEdit->text(), separator);
+}
+
+void NetworkProxyWidget::setApplicationProxy() {}
+
+} // namespace ko
