@@ -1,6 +1,7 @@
 #ifndef KO_INSPECTORPAGES_H
 #define KO_INSPECTORPAGES_H
 
+#include "HostExport.h"
 #include "drivers/InspectorPage.h"
 #include "ko/Types.h"
 
@@ -18,7 +19,7 @@ struct PageSpec
 };
 
 /// The pages of a type, in the order in which they are shown and accepted.
-QVector<PageSpec> pagesOf(ENodeType type);
+KO_HOST_EXPORT QVector<PageSpec> pagesOf(ENodeType type);
 
 } // namespace ko
 

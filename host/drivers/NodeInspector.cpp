@@ -21,8 +21,6 @@ class StackInspector : public Base
 public:
     StackInspector(const NodeID& id, const QVector<PageSpec>& pages, bool readOnly, unsigned flags)
         : Base(id, readOnly, nullptr, flags)
-        , m_id(id)
-        , m_readOnly(readOnly)
         , m_stack(addStack(pages))
     {
         m_stack->init(id, readOnly);
@@ -30,7 +28,6 @@ public:
 
     StackInspector(NodeHint& hint, const QVector<PageSpec>& pages, unsigned flags)
         : Base(hint, nullptr, flags)
-        , m_hint(&hint)
         , m_stack(addStack(pages))
     {
         m_stack->init(hint);
@@ -38,21 +35,21 @@ public:
 
     void ok() override
     {
-        if (m_hint)
-            m_stack->accept(m_hint);
-        else if (!m_readOnly)
+        if (this->nodeHint())
+            m_stack->accept(this->nodeHint());
+        else if (!this->isReadOnly())
             store();
     }
 
     void updateNode() override
     {
-        if (!m_hint)
+        if (!this->nodeHint())
             m_stack->refresh();
     }
 
     void nodeUpdated(ko::NodeID id) override
     {
-        if (id == m_id)
+        if (id == this->nodeId())
             updateNode();
     }
 
@@ -70,16 +67,13 @@ private:
     void store()
     {
         InspectorWidget::ok(); // also for devices, whose base records no name
-        if (Node* node = NodeDB::getDB()->beginUpdateNode(m_id, -1)) {
+        if (Node* node = NodeDB::getDB()->beginUpdateNode(this->nodeId(), -1)) {
             m_stack->accept(node);
             NodeDB::getDB()->endUpdateNode(node);
         }
         this->logPropertyChange();
     }
 
-    const NodeID m_id;
-    NodeHint* const m_hint = nullptr;
-    const bool m_readOnly = false;
     PageStack* const m_stack;
 };
 

@@ -1,4 +1,4 @@
-#include "support/FormCheck.h"
+#include "support/PageForm.h"
 #include "support/SmallHost.h"
 #include "support/TestMain.h"
 

@@ -1,0 +1,23 @@
+#include "dialogs/FilterDialog.h"
+
+#include "ko/NodeDB.h"
+
+#include "ui_FilterDialog.h"
+
+namespace ko {
+
+FilterDialog::FilterDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(new Ui::FilterDialog)
+{
+    m_ui->setupUi(this);
+    const NodeDB::TypeNames types = NodeDB::getDB()->readableNodeTypeNames(nullptr, true);
+    for (const auto& type : types) {
+        QListWidgetItem* item = new QListWidgetItem(type.second, m_ui->listWidget);
+        item->setCheckState(Qt::Checked);
+    }
+}
+
+FilterDialog::~FilterDialog() = default;
+
+} // namespace ko

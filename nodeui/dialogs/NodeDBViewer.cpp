@@ -1,0 +1,102 @@
+#include "dialogs/NodeDBViewer.h"
+
+#include "dialogs/GenericNodeViewer.h"
+#include "ko/Node.h"
+#include "ko/NodeDB.h"
+#include "ko/connect.h"
+
+#include "ui_NodeDBViewer.h"
+
+#include <QSortFilterProxyModel>
+
+namespace ko {
+
+namespace {
+
+enum ViewerColumn { SymbolCell, NameCell, TypeCell, CellCount };
+
+} // namespace
+
+NodeDBViewer::ViewerModel::ViewerModel(kom::smart<NodeView> view, QObject* parent)
+    : NodeViewModel(view, parent)
+{
+}
+
+int NodeDBViewer::ViewerModel::columnCount(const QModelIndex&) const
+{
+    return CellCount;
+}
+
+QVariant NodeDBViewer::ViewerModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid())
+        return QVariant();
+    const kom::smart<NodeViewEntry> entry = view()->entryFromInternalId(unsigned(index.internalId()));
+    if (entry.null() || !entry->isNode())
+        return QVariant();
+    const kom::smart<const Node> node =
+        NodeDB::getDB()->node(static_cast<const NodeEntry*>(entry.get())->id());
+    if (node.null())
+        return QVariant();
+    if (index.column() == SymbolCell && role == Qt::DecorationRole)
+        return QVariant(node->icon());
+    if (index.column() == NameCell && role == Qt::DisplayRole)
+        return node->name();
+    if (index.column() == TypeCell && role == Qt::DisplayRole)
+        return NodeDB::getDB()->readableNodeTypeName(node->type);
+    return QVariant();
+}
+
+QVariant NodeDBViewer::ViewerModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return QVariant();
+    switch (section) {
+    case SymbolCell:
+        return tr("Symbol");
+    case NameCell:
+        return tr("Name");
+    case TypeCell:
+        return tr("Node type");
+    default:
+        return QVariant();
+    }
+}
+
+Qt::ItemFlags NodeDBViewer::ViewerModel::flags(const QModelIndex& index) const
+{
+    return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled : Qt::NoItemFlags;
+}
+
+NodeDBViewer::NodeDBViewer(QWidget* parent)
+    : QWidget(parent)
+    , m_ui(new Ui::NodeDBViewer)
+    , m_view(kom::makeSmart<NodeView>(QLatin1String("NodeDBOverview")))
+    , m_model(new ViewerModel(m_view, nullptr))
+    , m_proxy(new QSortFilterProxyModel)
+{
+    m_ui->setupUi(this);
+    m_proxy->setSourceModel(m_model);
+    m_ui->nodesTableView->setModel(m_proxy);
+
+    ko::connect(NodeDB::getDB(), SIGNAL(nodeInserted(ko::NodeID)), m_view.get(), SLOT(addNode(ko::NodeID)));
+    ko::connect(m_ui->nodesTableView, SIGNAL(doubleClicked(QModelIndex)), this,
+                SLOT(openPropertyWindow(QModelIndex)));
+
+    const QStringList ids = NodeDB::getDB()->nodeIdList(AllNodeTypes);
+    for (const QString& id : ids)
+        m_view->addNode(id);
+}
+
+NodeDBViewer::~NodeDBViewer() = default;
+
+void NodeDBViewer::openPropertyWindow(const QModelIndex index)
+{
+    const kom::smart<NodeEntry> node = m_model->entry(m_proxy->mapToSource(index)).cast<NodeEntry>();
+    if (node.null())
+        return;
+    GenericNodeViewer* viewer = new GenericNodeViewer(node->id(), this);
+    viewer->show();
+}
+
+} // namespace ko
