@@ -1,0 +1,21 @@
+#ifndef KO_CSVFORMULA_H
+#define KO_CSVFORMULA_H
+
+#include <QString>
+
+namespace ko {
+
+/// Whether a spreadsheet would take the cell for a formula, not counting apostrophes in front.
+/// CsvWriter puts one more apostrophe before such a cell and CsvReader takes one off, so that cells
+/// that really begin with apostrophes come back as they were.
+inline bool isCsvFormula(const QString& cell)
+{
+    int i = 0;
+    while (i < cell.size() && cell.at(i) == QLatin1Char('\''))
+        ++i;
+    return i < cell.size() && QLatin1String("=+-@\t\r").contains(cell.at(i));
+}
+
+} // namespace ko
+
+#endif
