@@ -28,6 +28,17 @@ const QVector<Default>& noDefaults()
     return none;
 }
 
+const QVector<Default>& folderDefaults()
+{
+    static const QVector<Default> defaults = {
+        {PropertyKeys::Path, QString()},
+        {PropertyKeys::UseGlobalPath, false},
+        {PropertyKeys::User, QString()},
+        {PropertyKeys::Password, QString()},
+    };
+    return defaults;
+}
+
 const QVector<Default>& cameraDefaults()
 {
     static const QVector<Default> defaults = {
@@ -73,14 +84,14 @@ struct TypeInfo
 
 const TypeInfo types[] = {
     {RecordingFolderType, QT_TRANSLATE_NOOP("NodeTypes", "Recording Folder"), "folder", true, false,
-     noDefaults},
+     folderDefaults},
     {ViewType, QT_TRANSLATE_NOOP("NodeTypes", "View"), "view", true, false, noDefaults},
     {IPDeviceType, QT_TRANSLATE_NOOP("NodeTypes", "IP Camera"), "camera", true, true, cameraDefaults},
     {UrlCameraType, QT_TRANSLATE_NOOP("NodeTypes", "URL Camera"), "urlCamera", true, true, urlCameraDefaults},
     {ChannelDeviceType, QT_TRANSLATE_NOOP("NodeTypes", "Multi-Channel Device"), "channelDevice", true, true,
      cameraDefaults},
     {InternalRecorderType, QT_TRANSLATE_NOOP("NodeTypes", "Internal Recorder"), "recorder", false, false,
-     noDefaults},
+     folderDefaults},
     {RecordingTransponderType, QT_TRANSLATE_NOOP("NodeTypes", "Remote Preview Server"), "transponder", false,
      false, noDefaults},
 };

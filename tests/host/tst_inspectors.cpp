@@ -115,7 +115,7 @@ void tst_Inspectors::changeElsewhere(const QString& id, const std::function<void
 QStringList tst_Inspectors::loggedCodes()
 {
     QStringList codes;
-    const auto records = m_db->auditLog().entries(0, 100);
+    const auto records = m_db->auditLog().entries(0, 100, true);
     for (const AuditRecord& record : records)
         codes.prepend(record.code.toString()); // newest first
     return codes;
@@ -159,7 +159,7 @@ void tst_Inspectors::renameIsLoggedBeforeChange()
     child<QLineEdit>(inspector.get(), "nameLineEdit")->setText(text("Yard"));
     inspector->ok();
     QCOMPARE(loggedCodes(), QStringList({text("NChg"), text("NRen"), text("NChg")}));
-    const auto records = m_db->auditLog().entries(0, 2);
+    const auto records = m_db->auditLog().entries(0, 2, true);
     QCOMPARE(records.at(1).entry->text(), text("Changed name of device from Gate to Yard."));
     QCOMPARE(records.at(0).entry->text(), text("Changed properties of device with name Yard."));
     QCOMPARE(m_db->node(id)->name(), text("Yard"));
