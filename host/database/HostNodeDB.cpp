@@ -607,7 +607,7 @@ bool HostNodeDB::Private::flush()
     try {
         Transaction transaction(*store, Transaction::Write);
         // Now nobody else can write, so what is brought in here is what is written upon.
-        notices = memory.take(readForeignChanges(), true);
+        notices = memory.take(readForeignChanges());
         StoreWriter writer(tables, memory.cache, writerId);
         writer.write(memory.pending);
         const qint64 lastChange = tables.lastChange();
@@ -666,7 +666,7 @@ void HostNodeDB::discardUnstoredChanges()
     Notices notices;
     try {
         const Transaction transaction(*d->store, Transaction::Read);
-        notices = d->memory.take(d->readState(query), false);
+        notices = d->memory.take(d->readState(query));
     } catch (const StoreFailure& failure) {
         d->memory.pending = dropped;
         d->readFailed(failure.error);
@@ -700,7 +700,7 @@ void HostNodeDB::syncForeignChanges()
         if (version == d->dataVersion)
             return;
         const Transaction transaction(*d->store, Transaction::Read);
-        notices = d->memory.take(d->readForeignChanges(), true);
+        notices = d->memory.take(d->readForeignChanges());
         d->dataVersion = version;
     } catch (const StoreFailure& failure) {
         d->readFailed(failure.error);

@@ -23,11 +23,11 @@ void NodeMemory::load(NodeTables& tables)
     environments = tables.environments();
 }
 
-Notices NodeMemory::take(const StoreState& state, bool always)
+Notices NodeMemory::take(const StoreState& state)
 {
     Notices notices;
     for (const StoreState::NodeState& node : state.nodes)
-        takeNode(node, always, &notices);
+        takeNode(node, !state.everything, &notices);
     if (state.everything) {
         removeMissing(state, &notices);
         cache.clearLookup(); // its keys were not read

@@ -46,9 +46,10 @@ public:
     /// Fills an empty memory. Belongs into a transaction.
     void load(NodeTables& tables);
 
-    /// Brings in what the store has now. \a always announces a node also when nothing is seen to differ:
-    /// its properties may not have been read yet.
-    Notices take(const StoreState& state, bool always);
+    /// Brings in what the store has now. A node that is said to have changed is announced also when
+    /// nothing is seen to differ, since its properties may not have been read; not so when everything was
+    /// looked at.
+    Notices take(const StoreState& state);
 
     /// The node from now on; name and properties are those of \a data.
     void setData(NodeRecord& record, NodeData data);
