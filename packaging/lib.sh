@@ -67,7 +67,8 @@ ko_install()
         ko_die "apt-get could not install: ${missing[*]}. The packages are those of Debian 12."
 }
 
-# ko_build PRESET [TARGET]: configures and builds, with ccache when it is there.
+# ko_build PRESET [TARGET]: configures and builds, with ccache when it is there. Errors do not stop the build, so
+# that all of them are seen.
 ko_build()
 {
     local preset=$1 target=${2:-all} version
@@ -78,5 +79,6 @@ ko_build()
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache
     fi
     ko_say "building $target in build/$preset"
-    (cd "$ko_root" && cmake --preset "$preset" --log-level=WARNING && cmake --build --preset "$preset" --target "$target")
+    (cd "$ko_root" && cmake --preset "$preset" --log-level=WARNING &&
+        cmake --build --preset "$preset" --target "$target" -- -k 0)
 }
