@@ -59,7 +59,7 @@ QStringList cutOff(const QWidget* window)
         const bool showsText = qobject_cast<const QLabel*>(widget) ||
                                qobject_cast<const QAbstractButton*>(widget) ||
                                qobject_cast<const QGroupBox*>(widget);
-        const QSize needed = widget->minimumSizeHint();
+        const QSize needed = widget->minimumSizeHint().boundedTo(widget->maximumSize());
         if (showsText && widget->isVisible() &&
             (widget->width() < needed.width() || widget->height() < needed.height()))
             names.append(nameOf(widget));

@@ -16,7 +16,7 @@ QStringList tabOrder(QWidget* window);
 /// Slots that the class itself declares, with types and parameter names: "nodeAdded(ko::NodeID id)".
 QStringList declaredSlots(const QMetaObject& metaObject);
 
-/// Names of the visible children that have less room than their content needs.
+/// Names of the visible children that have less room than their content needs, where the form lets them.
 QStringList cutOff(const QWidget* window);
 
 /// A language in which every text is twice as long, from construction to destruction.

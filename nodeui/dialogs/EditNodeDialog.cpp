@@ -1,0 +1,81 @@
+#include "dialogs/EditNodeDialog.h"
+
+#include "inspector/InspectorWidget.h"
+#include "ko/Node.h"
+#include "ko/NodeDB.h"
+#include "ko/connect.h"
+#include "ko/dialogFlags.h"
+#include "pages/LayoutOptionsWidget.h"
+
+#include "ui_EditNodeDialog.h"
+
+#include <QTabWidget>
+
+namespace ko {
+
+EditNodeDialog::EditNodeDialog(const QString& id, QWidget* parent, bool readOnly, unsigned flags,
+                               const ILayoutAdapter* layoutAdapter)
+    : NodeDialog(parent, dialogFlags(false) & ~Qt::WindowMinimizeButtonHint)
+    , m_ui(new Ui::EditNodeDialog)
+{
+    m_ui->setupUi(this);
+    QPushButton* okButton = m_ui->buttonBox->button(QDialogButtonBox::Ok);
+    okButton->setDefault(true);
+    okButton->setAutoDefault(true);
+    if (readOnly) {
+        // removeButton() would leave them to us
+        delete m_ui->buttonBox->button(QDialogButtonBox::Apply);
+        delete m_ui->buttonBox->button(QDialogButtonBox::Cancel);
+    }
+    const kom::smart<const Node> node = NodeDB::getDB()->node(id);
+    if (!node.null()) {
+        const QString name = node->name();
+        setTitle(tr("Properties of %1"),
+                 name.isEmpty() ? NodeDB::getDB()->readableNodeTypeName(node->type) : name);
+    }
+    setEnvironmentRow(m_ui->environmentLabel, m_ui->environmentComboBox, m_ui->proxyPushButton, flags);
+    setInspectorWidget(id, readOnly, flags, layoutAdapter);
+    adjustSize();
+}
+
+EditNodeDialog::~EditNodeDialog() = default;
+
+void EditNodeDialog::setInspectorWidget(const QString& id, bool readOnly, unsigned flags,
+                                        const ILayoutAdapter* layoutAdapter)
+{
+    const kom::smart<const Node> node = NodeDB::getDB()->node(id);
+    if (node.null())
+        return;
+    InspectorWidget* inspector = node->createInspectorWidget(readOnly, flags);
+    if (!inspector)
+        return;
+    embed(inspector, m_ui->containerWidget, m_ui->buttonBox);
+    ko::connect(m_ui->buttonBox, SIGNAL(accepted()), inspector, SLOT(ok()));
+    if (!readOnly) {
+        ko::connect(m_ui->buttonBox->button(QDialogButtonBox::Apply), SIGNAL(clicked()), inspector,
+                    SLOT(ok()));
+        ko::connect(m_ui->buttonBox->button(QDialogButtonBox::Cancel), SIGNAL(clicked()), inspector,
+                    SLOT(cancel()));
+    }
+    inspector->setFocus(Qt::OtherFocusReason);
+    if (flags & FillLayoutLists)
+        fillLayoutLists(layoutAdapter);
+}
+
+void EditNodeDialog::fillLayoutLists(const ILayoutAdapter* layoutAdapter)
+{
+    const QTabWidget* tabs = findChild<QTabWidget*>(QLatin1String("tabWidget"));
+    for (int i = 0; tabs && i < tabs->count(); ++i) {
+        const QWidget* tab = tabs->widget(i);
+        if (tab->objectName() != QLatin1String("layoutOptions"))
+            continue;
+        LayoutOptionsWidget* page =
+            tab->findChild<LayoutOptionsWidget*>(QLatin1String("layoutOptionsWidget"));
+        if (!page)
+            continue;
+        page->fillLayoutComboBox(layoutAdapter);
+        page->fillAudioPathIdComboBox();
+    }
+}
+
+} // namespace ko
