@@ -11,10 +11,13 @@ LogEntry* create()
     return new ProgramLogEntry;
 }
 
-const bool registered = [] {
+bool registerEntry()
+{
     logEntryFactory().registerCreator(ProgramLogEntry::code(), create, QLatin1String("Program log"));
     return true;
-}();
+}
+
+const bool registered = registerEntry();
 
 } // namespace
 

@@ -105,7 +105,7 @@ void NodeMemory::takeRelations(const StoreState& state, Notices* notices)
     if (state.everything)
         sources += relations.sources();
     sources.removeDuplicates();
-    for (const NodeID& source : sources) {
+    for (const NodeID& source : std::as_const(sources)) {
         QVector<RelationRow> rows = state.relations.value(source);
         pending.applyTo(rows, source);
         const QStringList changed = relations.replaceFrom(source, rows);

@@ -35,7 +35,7 @@ private slots:
     void removeEnvironment();
     void itemChanged(QListWidgetItem* item);
     void itemSelectionChanged();
-    void accepted();
+    void accepted(); // clazy:exclude=overridden-signal
 
 private:
     Q_DISABLE_COPY(EnvironmentDialog)

@@ -13,8 +13,14 @@ LogEntry* create()
     return new NodeChangeLogEntry(QString());
 }
 
+bool registerEntry()
+{
+    logEntryFactory().registerCreator("NChg", create, QLatin1String(titleText));
+    return true;
+}
+
 // While the library is loaded, so that a host can rebuild what it stored.
-const bool registered = (logEntryFactory().registerCreator("NChg", create, QLatin1String(titleText)), true);
+const bool registered = registerEntry();
 
 } // namespace
 

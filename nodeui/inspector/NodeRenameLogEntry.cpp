@@ -13,8 +13,14 @@ LogEntry* create()
     return new NodeRenameLogEntry(QString(), QString());
 }
 
+bool registerEntry()
+{
+    logEntryFactory().registerCreator("NRen", create, QLatin1String(titleText));
+    return true;
+}
+
 // While the library is loaded, so that a host can rebuild what it stored.
-const bool registered = (logEntryFactory().registerCreator("NRen", create, QLatin1String(titleText)), true);
+const bool registered = registerEntry();
 
 } // namespace
 

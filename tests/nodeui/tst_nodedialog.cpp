@@ -78,7 +78,11 @@ QStringList texts(const QComboBox& comboBox)
     return texts;
 }
 
-const QStringList filled = {"Office", "Home", "Site", "---", "Edit Environments..."};
+QStringList filled()
+{
+    return {"Office", "Home", "Site", "---", "Edit Environments..."};
+}
+
 const int editEntry = 4;
 
 } // namespace
@@ -129,7 +133,7 @@ private slots:
     void environmentsAndTheActiveOne()
     {
         Shown shown;
-        QCOMPARE(texts(shown.comboBox), filled);
+        QCOMPARE(texts(shown.comboBox), filled());
         QCOMPARE(shown.comboBox.currentIndex(), 1);
         QCOMPARE(shown.comboBox.itemData(0), QVariant(QString("{o}")));
         QCOMPARE(shown.comboBox.itemData(1), QVariant(QString("{h}")));
@@ -154,7 +158,7 @@ private slots:
         QSignalSpy changed(&shown.comboBox, SIGNAL(currentIndexChanged(int)));
         shown.db.environment = "{s}";
         shown.dialog.setEnvironmentMenu();
-        QCOMPARE(texts(shown.comboBox), filled);
+        QCOMPARE(texts(shown.comboBox), filled());
         QCOMPARE(shown.comboBox.currentIndex(), 2);
         QCOMPARE(changed.count(), 0);
         QVERIFY(shown.db.calls.isEmpty());
@@ -264,7 +268,7 @@ private slots:
         shown.db.environmentStore.list.removeLast(); // a refill would show it
         shown.comboBox.setCurrentIndex(editEntry);
         QVERIFY(answer.fired());
-        QCOMPARE(texts(shown.comboBox), filled);
+        QCOMPARE(texts(shown.comboBox), filled());
     }
 
     void proxyButton_data()

@@ -156,7 +156,7 @@ void tst_PTZRotorControlWidget::loadsWhatTheNodeHas()
     QVERIFY(child<QCheckBox>(m_page.get(), "fastPatchCheckBox")->isChecked());
     QVERIFY(child<QCheckBox>(m_page.get(), "invertHorizontalCheckBox")->isChecked());
     QVERIFY(!child<QCheckBox>(m_page.get(), "invertVerticalCheckBox")->isChecked());
-    QCOMPARE(accept("cam").first(), QString("setIntProperty(RotorControl,8)"));
+    QCOMPARE(accept("cam").at(0), QString("setIntProperty(RotorControl,8)"));
 }
 
 void tst_PTZRotorControlWidget::lackingPropertiesAreDisabled()
