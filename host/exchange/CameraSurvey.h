@@ -1,0 +1,69 @@
+#ifndef KO_CAMERASURVEY_H
+#define KO_CAMERASURVEY_H
+
+#include "HostExport.h"
+
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+
+namespace ko {
+
+/// Lists of cameras as tables of text, read into and written from NodeDB::getDB(); see docs/survey.md.
+///
+/// Messages never repeat what stands in a cell, which may be a password in the wrong column.
+namespace CameraSurvey {
+
+/// Called between lines, after at most 20 ms or 100 lines, with how far the work is. It may run the
+/// event loop and so show progress and store what was done; false cancels. What was done stays.
+typedef std::function<bool(qint64 done, qint64 total)> Progress;
+
+struct BadLine
+{
+    qint64 line; ///< as an editor counts, from 1; where the record begins
+    QString reason;
+};
+
+/// A file with so many bad lines is not taken for a list of cameras.
+enum { MaximumBadLines = 10000 };
+
+struct ImportResult
+{
+    int added = 0;
+    int updated = 0;
+    int unchanged = 0;
+    QVector<BadLine> badLines; ///< these lines changed nothing; without an error all others were taken
+    QStringList ignoredColumns;
+    bool cancelled = false;
+
+    /// Why the import stopped, empty if it did not. The file is checked as a whole before the first
+    /// change, so nothing was changed unless the file was changed or removed meanwhile.
+    QString error;
+};
+
+struct ExportResult
+{
+    int written = 0;
+    int skipped = 0; ///< devices with neither a name nor an address, which an import could not tell apart
+    bool cancelled = false;
+    QString error;
+};
+
+enum class Passwords { Write, LeaveOut };
+
+/// Adds and changes devices as the file says. All changes of a line are made in one turn of the event
+/// loop. Changes go into the audit log: "NRen" and "NChg" for each device that was changed, and one
+/// "NImp" at the end if there was any change.
+KO_HOST_EXPORT ImportResult importCameras(const QString& fileName, const Progress& progress = Progress());
+
+/// Writes all devices, readable by the user alone. A file of this name is replaced when all is written,
+/// and stays as it is on an error and when cancelled.
+KO_HOST_EXPORT ExportResult exportCameras(const QString& fileName, Passwords passwords,
+                                          const Progress& progress = Progress());
+
+} // namespace CameraSurvey
+
+} // namespace ko
+
+#endif

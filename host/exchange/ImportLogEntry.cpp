@@ -1,0 +1,56 @@
+#include "exchange/ImportLogEntry.h"
+
+#include "ko/LogEntryFactory.h"
+
+namespace ko {
+
+namespace {
+
+const char Title[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Imported devices");
+
+LogEntry* createEntry()
+{
+    return new ImportLogEntry(QString(), 0, 0, 0);
+}
+
+const bool registered = [] {
+    logEntryFactory().registerCreator(FourChars("NImp"), createEntry, QString::fromLatin1(Title));
+    return true;
+}();
+
+} // namespace
+
+ImportLogEntry::ImportLogEntry(const QString& fileName, int added, int changed, int refused)
+    : m_fileName("File", QString::fromLatin1("file"), fileName)
+    , m_added("NAdd", QString::fromLatin1("added"), QString::number(added))
+    , m_changed("NUpd", QString::fromLatin1("changed"), QString::number(changed))
+    , m_refused("NBad", QString::fromLatin1("refused"), QString::number(refused))
+{
+    Q_UNUSED(registered);
+    append(m_fileName);
+    append(m_added);
+    append(m_changed);
+    append(m_refused);
+}
+
+FourChars ImportLogEntry::typeCode() const
+{
+    return FourChars("NImp");
+}
+
+LogCategory ImportLogEntry::category() const
+{
+    return LogCategory(LogCategoryDevices);
+}
+
+QString ImportLogEntry::description() const
+{
+    return tr("Imported devices from %1: %2 added, %3 changed, %4 lines refused.");
+}
+
+QString ImportLogEntry::title() const
+{
+    return tr(Title);
+}
+
+} // namespace ko

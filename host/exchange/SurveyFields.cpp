@@ -1,0 +1,231 @@
+#include "exchange/SurveyFields.h"
+
+#include "interfaces/ISupportsChannels.h"
+#include "ko/IPDeviceNode.h"
+#include "ko/NodeHintIPDevice.h"
+
+#include <QCoreApplication>
+
+namespace ko {
+
+namespace {
+
+const int MaximumTextLength = 1024;
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("ko::CameraSurvey", text);
+}
+
+QString checkedText(const QString& text, QString* reason)
+{
+    for (const QChar c : text) {
+        if (c.category() == QChar::Other_Control && c != QLatin1Char('\n'))
+            *reason = say("it holds control characters");
+    }
+    if (text.size() > MaximumTextLength)
+        *reason = say("it is longer than 1024 characters");
+    return text;
+}
+
+QString lineOfText(const QString& cell, QString* reason)
+{
+    if (cell.contains(QLatin1Char('\n')))
+        *reason = say("it holds a line break");
+    return checkedText(cell, reason);
+}
+
+QString text(const QString& cell, QString* reason)
+{
+    return cell.trimmed().isEmpty() ? QString() : lineOfText(cell, reason);
+}
+
+/// Names may go over several lines; programs that save a table again change the kind of line break.
+QString name(const QString& cell, QString* reason)
+{
+    QString lines = cell;
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return lines.trimmed().isEmpty() ? QString() : checkedText(lines, reason);
+}
+
+QString address(const QString& cell, QString* reason)
+{
+    return lineOfText(cell.trimmed(), reason);
+}
+
+QString number(const QString& cell, int from, int to, const char* rule, QString* reason)
+{
+    const QString digits = cell.trimmed();
+    if (digits.isEmpty())
+        return QString();
+    bool good = true;
+    const int value = digits.toInt(&good);
+    for (const QChar c : digits)
+        good = good && c >= QLatin1Char('0') && c <= QLatin1Char('9');
+    if (!good || value < from || value > to)
+        *reason = say(rule);
+    return QString::number(value);
+}
+
+QString port(const QString& cell, QString* reason)
+{
+    return number(cell, 0, 65535, QT_TRANSLATE_NOOP("ko::CameraSurvey", "it is no number from 0 to 65535"),
+                  reason);
+}
+
+QString channel(const QString& cell, QString* reason)
+{
+    return number(cell, 1, 4, QT_TRANSLATE_NOOP("ko::CameraSurvey", "it is no number from 1 to 4"), reason);
+}
+
+QString yesOrNo(bool value)
+{
+    return QLatin1String(value ? "yes" : "no");
+}
+
+QString ssl(const QString& cell, QString* reason)
+{
+    static const struct
+    {
+        const char* word;
+        bool value;
+    } words[] = {{"yes", true}, {"no", false}, {"true", true}, {"false", false}, {"1", true}, {"0", false}};
+
+    const QString given = cell.trimmed();
+    if (given.isEmpty())
+        return QString();
+    for (const auto& word : words) {
+        if (given.compare(QLatin1String(word.word), Qt::CaseInsensitive) == 0)
+            return yesOrNo(word.value);
+    }
+    *reason = say("it is not one of yes, no, true, false, 1, 0");
+    return QString();
+}
+
+QString mac(const QString& cell, QString* reason)
+{
+    if (cell.trimmed().isEmpty())
+        return QString();
+    const MACAddress address(cell);
+    if (address.isNull())
+        *reason = say("it is no MAC address (twelve hexadecimal digits)");
+    return address.toString(true);
+}
+
+const struct
+{
+    const char* word;
+    ENodeType type;
+} typeWords[] = {
+    {"IP device", IPDeviceType}, {"URL camera", UrlCameraType}, {"channel device", ChannelDeviceType}};
+
+QString type(const QString& cell, QString* reason)
+{
+    const QString given = cell.simplified();
+    for (const auto& word : typeWords) {
+        if (given.compare(QLatin1String(word.word), Qt::CaseInsensitive) == 0)
+            return QString::number(int(word.type));
+    }
+    return number(given, 0, 0x7fffffff,
+                  QT_TRANSLATE_NOOP("ko::CameraSurvey",
+                                    "it is not one of IP device, URL camera, channel device, and no number"),
+                  reason);
+}
+
+QString channelOf(const IPDeviceNode& node)
+{
+    const auto* channels = dynamic_cast<const ISupportsChannels*>(&node);
+    return channels ? QString::number(channels->channel()) : QString();
+}
+
+void setChannel(IPDeviceNode& node, const QString& value)
+{
+    if (auto* channels = dynamic_cast<ISupportsChannels*>(&node))
+        channels->setChannel(value.toInt());
+}
+
+void setAddress(IPDeviceNode& node, const QString& value)
+{
+    node.setAddress(value);
+    node.notifyChange(IPDeviceNode::AddressChanged);
+}
+
+void setCredentials(IPDeviceNode& node, const QString& user, const QString& password)
+{
+    node.setUser(user, password);
+    node.setCredentialsEntered(true);
+}
+
+typedef const IPDeviceNode& Device;
+typedef IPDeviceNode& WritableDevice;
+typedef NodeHintIPDevice& Hint;
+typedef const QString& Value;
+
+const SurveyField fields[] = {
+    {SurveyColumn::Name, "name", name, [](Device node) { return node.name(); },
+     [](WritableDevice node, Value value) { node.setStringProperty(QLatin1String("Name"), value); },
+     [](Hint hint, Value value) { hint.setName(value); }},
+
+    {SurveyColumn::Address, "address", address, [](Device node) { return node.address(); }, setAddress,
+     [](Hint hint, Value value) { hint.address = value; }},
+
+    {SurveyColumn::Port, "port", port, [](Device node) { return QString::number(node.port()); },
+     [](WritableDevice node, Value value) { node.setPort(value.toInt()); },
+     [](Hint hint, Value value) { hint.port = value.toInt(); }},
+
+    {SurveyColumn::Ssl, "SSL", ssl, [](Device node) { return yesOrNo(node.useSSL()); },
+     [](WritableDevice node, Value value) { node.setUseSSL(value == yesOrNo(true)); },
+     [](Hint hint, Value value) { hint.useSSL = value == yesOrNo(true); }},
+
+    {SurveyColumn::User, "user", text, [](Device node) { return node.user(0); },
+     [](WritableDevice node, Value value) { setCredentials(node, value, node.password(0)); },
+     [](Hint hint, Value value) {
+         hint.user = value;
+         hint.credentialsEntered = true;
+     }},
+
+    {SurveyColumn::Password, "password", lineOfText, [](Device node) { return node.password(0); },
+     [](WritableDevice node, Value value) { setCredentials(node, node.user(0), value); },
+     [](Hint hint, Value value) {
+         hint.password = value;
+         hint.credentialsEntered = true;
+     }},
+
+    {SurveyColumn::Channel, "channel", channel, channelOf, setChannel,
+     [](Hint hint, Value value) { hint.channel = value.toInt(); }},
+
+    {SurveyColumn::Model, "model", text, [](Device node) { return node.model(); },
+     [](WritableDevice node, Value value) { node.setModel(value); },
+     [](Hint hint, Value value) { hint.model = value; }},
+
+    {SurveyColumn::Mac, "MAC", mac, [](Device node) { return node.macAddress().toString(true); },
+     [](WritableDevice node, Value value) { node.setMacAddress(MACAddress(value)); },
+     [](Hint hint, Value value) { hint.macAddress = MACAddress(value); }},
+
+    {SurveyColumn::RecordingPath, "recording path", text, nullptr, nullptr, nullptr},
+    {SurveyColumn::Type, "type", type, nullptr, nullptr, nullptr},
+};
+
+static_assert(sizeof(fields) / sizeof(fields[0]) == SurveyFields::Count, "one field for each column");
+
+} // namespace
+
+namespace SurveyFields {
+
+const SurveyField& field(int column)
+{
+    return fields[column];
+}
+
+QString typeText(int type)
+{
+    for (const auto& word : typeWords) {
+        if (word.type == type)
+            return QLatin1String(word.word);
+    }
+    return QString::number(type);
+}
+
+} // namespace SurveyFields
+
+} // namespace ko

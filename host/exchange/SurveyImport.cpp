@@ -1,0 +1,245 @@
+#include "exchange/SurveyImport.h"
+
+#include "exchange/CsvReader.h"
+#include "exchange/ImportLogEntry.h"
+#include "exchange/RecordingPath.h"
+#include "inspector/NodeChangeLogEntry.h"
+#include "inspector/NodeRenameLogEntry.h"
+#include "interfaces/INodeDriverComponent.h"
+#include "interfaces/ISupportsChannels.h"
+#include "ko/ActionLog.h"
+#include "ko/IPDeviceNode.h"
+#include "ko/NodeDB.h"
+#include "ko/NodeHintIPDevice.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace ko {
+
+namespace {
+
+const int SslPort = 443;
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("ko::CameraSurvey", text);
+}
+
+ENodeType typeOf(const SurveyRow& row)
+{
+    if (row.has(SurveyColumn::Type))
+        return ENodeType(row.value(SurveyColumn::Type).toInt());
+    return row.has(SurveyColumn::Channel) ? ChannelDeviceType : IPDeviceType;
+}
+
+/// A hint filled from the row, or null if there is no driver for such a device.
+kom::smart<NodeHintIPDevice> describe(const SurveyRow& row)
+{
+    const auto driver = NodeDB::getDB()->nodeDriver(typeOf(row));
+    if (driver.null())
+        return kom::smart<NodeHintIPDevice>();
+    const auto hint = driver->createNodeHint(typeOf(row)).cast<NodeHintIPDevice>();
+    for (int column = 0; column < SurveyFields::Count && !hint.null(); ++column) {
+        const SurveyField& field = SurveyFields::field(column);
+        if (field.describe && row.has(field.column))
+            field.describe(*hint, row.value(column));
+    }
+    if (!hint.null() && hint->useSSL && !row.has(SurveyColumn::Port))
+        hint->port = SslPort;
+    return hint;
+}
+
+/// Creates the node of a hint and answers its id, an empty one on failure.
+QString create(NodeHint& hint)
+{
+    QString id;
+    NodeDB* db = NodeDB::getDB();
+    hint.context = &id;
+    const auto connection = QObject::connect(db, &NodeDB::nodeInserted, db, [&](const NodeID& inserted) {
+        const auto node = db->node(inserted);
+        if (!node.null() && node->hasCreationContext() && node->creationContext() == &id)
+            id = inserted;
+    });
+    db->newNodeHint(hint);
+    QObject::disconnect(connection);
+    return id;
+}
+
+bool differs(const IPDeviceNode& node, const SurveyRow& row, const SurveyField& field)
+{
+    return field.read && row.has(field.column) && row.value(field.column) != field.read(node);
+}
+
+bool differs(const IPDeviceNode& node, const SurveyRow& row)
+{
+    for (int column = 0; column < SurveyFields::Count; ++column) {
+        if (differs(node, row, SurveyFields::field(column)))
+            return true;
+    }
+    return false;
+}
+
+bool write(const QString& id, const SurveyRow& row)
+{
+    Node* node = NodeDB::getDB()->beginUpdateNode(id, -1);
+    auto* device = dynamic_cast<IPDeviceNode*>(node);
+    for (int column = 0; column < SurveyFields::Count && device; ++column) {
+        const SurveyField& field = SurveyFields::field(column);
+        if (differs(*device, row, field))
+            field.write(*device, row.value(column));
+    }
+    NodeDB::getDB()->endUpdateNode(node);
+    return device;
+}
+
+void logChange(const QString& id, const QString& oldName)
+{
+    const auto node = NodeDB::getDB()->node(id);
+    if (node.null())
+        return;
+    if (node->name() != oldName)
+        ActionLog::getInstance()->log(NodeRenameLogEntry(oldName, node->name()));
+    ActionLog::getInstance()->log(NodeChangeLogEntry(node->name()));
+}
+
+} // namespace
+
+SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress& progress)
+    : m_file(fileName)
+    , m_progress(progress)
+{
+}
+
+CameraSurvey::ImportResult SurveyImport::run()
+{
+    if (open() && readFile(Pass::Check))
+        readFile(Pass::Apply);
+    if (m_result.added + m_result.updated > 0) {
+        ActionLog::getInstance()->log(ImportLogEntry(QFileInfo(m_file).fileName(), m_result.added,
+                                                     m_result.updated, m_result.badLines.size()));
+    }
+    return m_result;
+}
+
+bool SurveyImport::open()
+{
+    const QFileInfo info(m_file);
+    // A pipe cannot be read twice, and opening one may wait for ever.
+    if (!NodeDB::getDB())
+        m_result.error = say("There is no database.");
+    else if (info.exists() && !info.isFile())
+        m_result.error = say("%1 is not a regular file.").arg(m_file.fileName());
+    else if (!m_file.open(QIODevice::ReadOnly))
+        m_result.error = say("%1 cannot be read: %2").arg(m_file.fileName(), m_file.errorString());
+    return m_result.error.isEmpty();
+}
+
+/// Reads all lines, and imports them in the second pass; false when the import must not go on.
+bool SurveyImport::readFile(Pass pass)
+{
+    m_file.seek(0);
+    m_result.badLines.clear();
+    CsvReader reader(&m_file);
+    SurveyHeader header;
+    if (!readHeader(reader, &header))
+        return false;
+
+    const qint64 doneBefore = pass == Pass::Apply ? m_file.size() : 0;
+    QStringList cells;
+    while (m_progress.goOn(doneBefore + reader.bytesRead(), 2 * m_file.size())) {
+        if (!reader.readRecord(&cells)) {
+            m_result.error = reader.error();
+            return m_result.error.isEmpty();
+        }
+        QString reason = reader.recordError();
+        const SurveyRow row = reason.isEmpty() ? SurveyRow::read(header, cells, &reason) : SurveyRow();
+        if (reason.isEmpty() && !row.isEmpty() && pass == Pass::Apply)
+            import(row, &reason);
+        if (!reason.isEmpty())
+            m_result.badLines.append({reader.line(), reason});
+        if (m_result.badLines.size() >= CameraSurvey::MaximumBadLines) {
+            m_result.error =
+                say("%1 lines are bad; this is no list of cameras.").arg(int(CameraSurvey::MaximumBadLines));
+            return false;
+        }
+    }
+    m_result.cancelled = true;
+    return false;
+}
+
+bool SurveyImport::readHeader(CsvReader& reader, SurveyHeader* header)
+{
+    QStringList titles;
+    if (!reader.readRecord(&titles)) {
+        m_result.error = reader.error().isEmpty() ? say("The file is empty.") : reader.error();
+    } else if (!reader.recordError().isEmpty()) {
+        m_result.error = say("The first line cannot be read: %1").arg(reader.recordError());
+    } else {
+        *header = SurveyHeader::read(titles, &m_result.error);
+        m_result.ignoredColumns = header->ignoredColumns();
+    }
+    return m_result.error.isEmpty();
+}
+
+void SurveyImport::import(const SurveyRow& row, QString* reason)
+{
+    const kom::smart<NodeHintIPDevice> hint = describe(row);
+    if (hint.null()) {
+        *reason = say("devices of this type cannot be added here");
+        return;
+    }
+    if (row.has(SurveyColumn::RecordingPath) && !RecordingPath::canBeAssigned()) {
+        *reason = say("recording folders cannot be added here");
+        return;
+    }
+    const QString id = m_finder.find(row, *hint, reason);
+    if (!reason->isEmpty())
+        return;
+    if (id.isEmpty())
+        add(row, *hint, reason);
+    else
+        update(id, row, reason);
+}
+
+void SurveyImport::add(const SurveyRow& row, NodeHint& hint, QString* reason)
+{
+    const QString id = create(hint);
+    if (id.isEmpty()) {
+        *reason = say("the device could not be added");
+        return;
+    }
+    m_finder.added(id, row);
+    if (row.has(SurveyColumn::RecordingPath))
+        RecordingPath::assign(id, row.value(SurveyColumn::RecordingPath));
+    ++m_result.added;
+}
+
+void SurveyImport::update(const QString& id, const SurveyRow& row, QString* reason)
+{
+    const auto node = NodeDB::getDB()->node(id).cast<const IPDeviceNode>();
+    if (node.null()) {
+        *reason = say("what is at this address is no device");
+        return;
+    }
+    if (row.has(SurveyColumn::Channel) && !dynamic_cast<const ISupportsChannels*>(node.get())) {
+        *reason = say("the device at this address has no channels");
+        return;
+    }
+    const QString path = row.value(SurveyColumn::RecordingPath);
+    const bool otherPath = !path.isEmpty() && path != RecordingPath::of(id);
+    if (!otherPath && !differs(*node, row)) {
+        ++m_result.unchanged;
+        return;
+    }
+    if (differs(*node, row) && !write(id, row)) {
+        *reason = say("the device could not be changed");
+        return;
+    }
+    if (otherPath)
+        RecordingPath::assign(id, path);
+    logChange(id, node->name());
+    ++m_result.updated;
+}
+
+} // namespace ko

@@ -1,0 +1,84 @@
+#include "exchange/SurveyRow.h"
+
+#include "ko/Types.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace ko {
+
+namespace {
+
+QString say(const char* text)
+{
+    return QCoreApplication::translate("ko::CameraSurvey", text);
+}
+
+int columnOf(const QString& title)
+{
+    for (int column = 0; column < SurveyFields::Count; ++column) {
+        const QLatin1String known(SurveyFields::field(column).title);
+        if (title.simplified().compare(known, Qt::CaseInsensitive) == 0)
+            return column;
+    }
+    return -1;
+}
+
+} // namespace
+
+SurveyHeader SurveyHeader::read(const QStringList& titles, QString* error)
+{
+    SurveyHeader header;
+    for (const QString& title : titles) {
+        const int column = columnOf(title);
+        if (column >= 0 && header.m_columns.contains(column))
+            *error =
+                say("There are two columns \"%1\".").arg(QLatin1String(SurveyFields::field(column).title));
+        if (column < 0 && !title.trimmed().isEmpty())
+            header.m_ignored.append(title.simplified());
+        header.m_columns.append(column);
+    }
+    // The titles are not repeated: without a header they would be the first camera with its password.
+    if (!header.m_columns.contains(int(SurveyColumn::Address)))
+        *error = say("There is no column \"address\". The first line must name the columns.");
+    return header;
+}
+
+SurveyRow SurveyRow::read(const SurveyHeader& header, const QStringList& cells, QString* reason)
+{
+    SurveyRow row;
+    for (int i = 0; i < cells.size(); ++i) {
+        const int column = i < header.m_columns.size() ? header.m_columns.at(i) : -1;
+        if (i >= header.m_columns.size() && !cells.at(i).trimmed().isEmpty())
+            *reason = say("there are more cells than columns");
+        if (column < 0)
+            continue;
+        const SurveyField& field = SurveyFields::field(column);
+        QString badCell;
+        row.m_values[size_t(column)] = field.normalised(cells.at(i), &badCell);
+        if (!badCell.isEmpty() && reason->isEmpty())
+            *reason = say("bad %1: %2").arg(QLatin1String(field.title), badCell);
+    }
+    if (reason->isEmpty() && !row.isEmpty())
+        *reason = row.contradiction();
+    return row;
+}
+
+bool SurveyRow::isEmpty() const
+{
+    return std::all_of(m_values.begin(), m_values.end(),
+                       [](const QString& value) { return value.isEmpty(); });
+}
+
+QString SurveyRow::contradiction() const
+{
+    if (!has(SurveyColumn::Address) && !has(SurveyColumn::Name))
+        return say("there is neither a name nor an address");
+    const int type = has(SurveyColumn::Type) ? value(SurveyColumn::Type).toInt() : int(ChannelDeviceType);
+    if (has(SurveyColumn::Channel) && (type == IPDeviceType || type == UrlCameraType))
+        return say("a device of this type has no channels");
+    return QString();
+}
+
+} // namespace ko
