@@ -3,6 +3,11 @@
 #include "drivers/GeneralPage.h"
 #include "drivers/PropertyFormPage.h"
 #include "drivers/PropertyKeys.h"
+#include "pages/ControlDataWidget.h"
+#include "pages/CustomNetworkProxyWidget.h"
+#include "pages/InfoWidget.h"
+#include "pages/PTZRotorControlWidget.h"
+#include "pages/PTZUrlsWidget.h"
 
 #include <QCoreApplication>
 
@@ -33,10 +38,6 @@ const Field folderFields[] = {
     {PropertyKeys::Password, Field::Password, QT_TRANSLATE_NOOP("PropertyFormPage", "Password:")},
 };
 
-const Field urlFields[] = {
-    {"UrlPTZStream", Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Live (M-JPEG):")},
-};
-
 template <const auto& fields>
 std::unique_ptr<InspectorPage> createForm(QWidget* parent)
 {
@@ -50,11 +51,19 @@ const PageSpec general = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General
                           create<GeneralPage>};
 const PageSpec connection = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
                              create<UserDataWidget>};
-const PageSpec layoutOptions = {"layoutOptions", QT_TRANSLATE_NOOP("NodeInspector", "Layout options"), false,
-                                createLayoutOptions};
 const PageSpec folder = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
                          createForm<folderFields>};
-const PageSpec urls = {"urls", QT_TRANSLATE_NOOP("NodeInspector", "URLs"), true, createForm<urlFields>};
+const PageSpec information = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device"), true,
+                              create<InfoWidget>};
+const PageSpec control = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device"), false,
+                          create<ControlDataWidget>};
+const PageSpec layoutOptions = {"layoutOptions", QT_TRANSLATE_NOOP("NodeInspector", "Layout options"), false,
+                                createLayoutOptions};
+const PageSpec rotor = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "PTZ"), false,
+                        create<PTZRotorControlWidget>};
+const PageSpec urls = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "URLs"), false, create<PTZUrlsWidget>};
+const PageSpec proxy = {"proxy", QT_TRANSLATE_NOOP("NodeInspector", "Proxy"), true,
+                        create<CustomNetworkProxyWidget>};
 
 } // namespace
 
@@ -63,9 +72,9 @@ QVector<PageSpec> pagesOf(ENodeType type)
     switch (type) {
     case IPDeviceType:
     case ChannelDeviceType:
-        return {general, connection, layoutOptions};
+        return {general, connection, information, control, layoutOptions, rotor, proxy};
     case UrlCameraType:
-        return {general, connection, urls, layoutOptions};
+        return {general, connection, urls, information, control, layoutOptions, proxy};
     case RecordingFolderType:
     case InternalRecorderType:
         return {general, folder};
