@@ -5,6 +5,8 @@
 #include "ko/connect.h"
 
 #include <QCoreApplication>
+#include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -48,12 +50,37 @@ PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
     layout->addWidget(m_goneLabel);
     layout->addWidget(tabs);
 
+    alignCaptions();
     // Typing starts in the first field, which is the name.
     if (!m_pages.empty())
         setFocusProxy(m_pages.front().page->widget()->findChild<QWidget*>(QLatin1String("nameLineEdit")));
 }
 
 PageStack::~PageStack() = default;
+
+void PageStack::alignCaptions()
+{
+    QList<QLabel*> captions;
+    const auto add = [&captions](QLayoutItem* item) {
+        if (QLabel* caption = item ? qobject_cast<QLabel*>(item->widget()) : nullptr)
+            captions.append(caption);
+    };
+    const QList<QGridLayout*> grids = findChildren<QGridLayout*>();
+    for (const QGridLayout* grid : grids) {
+        for (int row = 0; row < grid->rowCount(); ++row)
+            add(grid->itemAtPosition(row, 0));
+    }
+    const QList<QFormLayout*> forms = findChildren<QFormLayout*>();
+    for (const QFormLayout* form : forms) {
+        for (int row = 0; row < form->rowCount(); ++row)
+            add(form->itemAt(row, QFormLayout::LabelRole));
+    }
+    int width = 0;
+    for (const QLabel* caption : std::as_const(captions))
+        width = qMax(width, qMax(caption->sizeHint().width(), caption->minimumWidth()));
+    for (QLabel* caption : std::as_const(captions))
+        caption->setMinimumWidth(width);
+}
 
 void PageStack::init(const NodeID& id, bool readOnly)
 {

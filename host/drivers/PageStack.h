@@ -53,6 +53,9 @@ private:
     void connectConnectionPage(bool proposeNames);
     void capture();
 
+    /// Captions line up across pages, also when another tab comes to the front.
+    void alignCaptions();
+
     std::vector<Page> m_pages;
     QLabel* const m_goneLabel;
     NodeID m_id;
