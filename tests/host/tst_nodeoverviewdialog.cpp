@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/PassThroughNodeDB.h"
 #include "support/TestMain.h"
 
 #include "dialogs/AddNodeDialog.h"
@@ -24,55 +25,18 @@ using testsupport::ModalAnswer;
 namespace {
 
 /// Watches the scanners of a database that has none of its own.
-class ScannerDB : public NodeDB
+class ScannerDB : public testsupport::PassThroughNodeDB
 {
 public:
-    explicit ScannerDB(NodeDB* real)
-        : m_real(real)
-    {
-        connect(real, SIGNAL(nodeInserted(ko::NodeID)), this, SIGNAL(nodeInserted(ko::NodeID)));
-        connect(real, SIGNAL(nodeUpdated(ko::NodeID)), this, SIGNAL(nodeUpdated(ko::NodeID)));
-        connect(real, SIGNAL(nodeRemoved(ko::NodeID)), this, SIGNAL(nodeRemoved(ko::NodeID)));
-    }
+    using PassThroughNodeDB::PassThroughNodeDB;
 
-    QStringList calls;
+    mutable QStringList calls;
 
-    kom::smart<const Node> node(const QString& id) const override { return m_real->node(id); }
-    Node* beginUpdateNode(const QString& id, int limit) override
-    {
-        return m_real->beginUpdateNode(id, limit);
-    }
-    void endUpdateNode(Node* node) override { m_real->endUpdateNode(node); }
-    void newNodeHint(const NodeHint& hint) override { m_real->newNodeHint(hint); }
-    QString lookupHint(const NodeHint& hint) const override { return m_real->lookupHint(hint); }
-    void removeNode(const QString& id) override { m_real->removeNode(id); }
-    QStringList nodeIdList(ENodeType type) const override { return m_real->nodeIdList(type); }
-    QString readableNodeTypeName(ENodeType type) const override { return m_real->readableNodeTypeName(type); }
     TypeNames readableNodeTypeNames(const QList<ENodeType>* types, bool sorted) const override
     {
-        const_cast<ScannerDB*>(this)->calls.append(
+        calls.append(
             QString("readableNodeTypeNames(%1,%2)").arg(types ? "list" : "null", sorted ? "true" : "false"));
-        return m_real->readableNodeTypeNames(types, sorted);
-    }
-    kom::smart<INodeDriverComponent> nodeDriver(ENodeType type) const override
-    {
-        return m_real->nodeDriver(type);
-    }
-    void addNodeRelation(const QString& from, const QString& to, ENodeRelationType type) override
-    {
-        m_real->addNodeRelation(from, to, type);
-    }
-    void removeNodeRelation(const QString& from, const QString& to, ENodeRelationType type) override
-    {
-        m_real->removeNodeRelation(from, to, type);
-    }
-    QStringList relatedNodes(const QString& id, ENodeRelationType type) const override
-    {
-        return m_real->relatedNodes(id, type);
-    }
-    bool isDestinationOfNodeRelation(const QString& id, ENodeRelationType type) const override
-    {
-        return m_real->isDestinationOfNodeRelation(id, type);
+        return PassThroughNodeDB::readableNodeTypeNames(types, sorted);
     }
     void startScanners(const std::string& name, unsigned interfaces, int limit) override
     {
@@ -83,16 +47,6 @@ public:
     {
         calls.append(QString("stop %1").arg(QString::fromStdString(name)));
     }
-    QString globalRecordingFolderPath() const override { return m_real->globalRecordingFolderPath(); }
-    QString defaultRecordingTransponderIP() const override { return m_real->defaultRecordingTransponderIP(); }
-    int bandwidth() const override { return m_real->bandwidth(); }
-    GlobalNetworkProxy& globalProxy() override { return m_real->globalProxy(); }
-    Environments& environments() override { return m_real->environments(); }
-    QString activeEnvironment() const override { return m_real->activeEnvironment(); }
-    void setActiveEnvironment(const QString& id) override { m_real->setActiveEnvironment(id); }
-
-private:
-    NodeDB* const m_real;
 };
 
 } // namespace
