@@ -23,8 +23,6 @@ using namespace testsupport;
 namespace {
 
 const unsigned environmentControls = 0x80;
-const QList<ko::ENodeType> twoTypes = {ko::IPDeviceType, ko::ChannelDeviceType};
-const QList<ko::ENodeType> oneType = {ko::IPDeviceType};
 
 class KeptLines : public ko::LogSink
 {
@@ -87,6 +85,9 @@ QComboBox* typeBox(const QDialog& dialog)
 class TestAddNodeDialog : public QObject
 {
     Q_OBJECT
+
+    const QList<ko::ENodeType> twoTypes = {ko::IPDeviceType, ko::ChannelDeviceType};
+    const QList<ko::ENodeType> oneType = {ko::IPDeviceType};
 
 private slots:
     void metaObject()
@@ -257,7 +258,7 @@ private slots:
         press(*dialog, QDialogButtonBox::Ok);
         db.blockSignals(false);
         QVERIFY(dialog->nodeId().isEmpty());
-        const QString id = db.nodeIdList(ko::AllNodeTypes).first();
+        const QString id = db.nodeIdList(ko::AllNodeTypes).value(0);
         emit db.nodeInserted(id);
         QCOMPARE(dialog->nodeId(), id);
     }
@@ -463,10 +464,12 @@ private slots:
     {
         SmallNodeDB db;
         db.addEnvironment("{h}", "Home");
-        const auto dialog = open(this, &twoTypes, ~environmentControls);
+        const auto dialog = open(this, &oneType, ~environmentControls);
         for (const char* name : {"environmentLabel", "environmentComboBox", "proxyPushButton"})
             QVERIFY2(child<QWidget>(dialog.get(), name)->isHidden(), name);
         QCOMPARE(child<QComboBox>(dialog.get(), "environmentComboBox")->count(), 0);
+        QCOMPARE(child<QWidget>(dialog.get(), "containerWidget")->y(),
+                 dialog->layout()->contentsMargins().top()); // no gap is left
     }
 
     void environmentRowIsLive()

@@ -285,6 +285,8 @@ private slots:
             QVERIFY2(child<QWidget>(dialog.get(), name)->isHidden(), name);
         QCOMPARE(child<QComboBox>(dialog.get(), "environmentComboBox")->count(), 0);
         QCOMPARE(dialog->findChild<SmallInspector*>()->flags(), ~environmentControls);
+        QCOMPARE(child<QWidget>(dialog.get(), "containerWidget")->y(),
+                 dialog->layout()->contentsMargins().top()); // the row leaves no gap
     }
 
     void environmentRowIsLive()
