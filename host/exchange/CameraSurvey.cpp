@@ -96,9 +96,9 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
         file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     const bool complete = opened && writeDevices(&file, passwords, progress, &result);
     if (!complete || !file.commit()) {
-        file.cancelWriting();
         if (!result.cancelled)
             result.error = say("%1 cannot be written: %2").arg(fileName, file.errorString());
+        file.cancelWriting();
     }
     return result;
 }

@@ -13,10 +13,14 @@ LogEntry* createEntry()
     return new ImportLogEntry(QString(), 0, 0, 0);
 }
 
-const bool registered = [] {
-    logEntryFactory().registerCreator(FourChars("NImp"), createEntry, QString::fromLatin1(Title));
+bool registerEntry()
+{
+    logEntryFactory().registerCreator("NImp", createEntry, QLatin1String(Title));
     return true;
-}();
+}
+
+// While the library is loaded, so that a stored entry can be rebuilt.
+const bool registered = registerEntry();
 
 } // namespace
 
@@ -26,7 +30,6 @@ ImportLogEntry::ImportLogEntry(const QString& fileName, int added, int changed, 
     , m_changed("NUpd", QString::fromLatin1("changed"), QString::number(changed))
     , m_refused("NBad", QString::fromLatin1("refused"), QString::number(refused))
 {
-    Q_UNUSED(registered);
     append(m_fileName);
     append(m_added);
     append(m_changed);

@@ -56,11 +56,12 @@ QString create(NodeHint& hint)
     QString id;
     NodeDB* db = NodeDB::getDB();
     hint.context = &id;
-    const auto connection = QObject::connect(db, &NodeDB::nodeInserted, db, [&](const NodeID& inserted) {
-        const auto node = db->node(inserted);
-        if (!node.null() && node->hasCreationContext() && node->creationContext() == &id)
-            id = inserted;
-    });
+    const auto connection =
+        QObject::connect(db, &NodeDB::nodeInserted, db, [db, target = &id](const NodeID& inserted) {
+            const auto node = db->node(inserted);
+            if (!node.null() && node->hasCreationContext() && node->creationContext() == target)
+                *target = inserted;
+        });
     db->newNodeHint(hint);
     QObject::disconnect(connection);
     return id;

@@ -14,15 +14,19 @@
 #include <QDir>
 #include <QRandomGenerator>
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace ko;
 using namespace ko::CameraSurvey;
 
 namespace {
 
-const QByteArray Header = "name,address,port,SSL,user,password,channel,model,MAC,recording path\n";
+QByteArray header()
+{
+    return "name,address,port,SSL,user,password,channel,model,MAC,recording path\n";
+}
 
 QString text(const PropertyAccess& object, const char* key)
 {
@@ -50,7 +54,7 @@ public:
     QStringList changes() const
     {
         QStringList changes;
-        for (const QString& call : calls) {
+        for (const QString& call : std::as_const(calls)) {
             if (!call.startsWith("createNodeHint(") && !call.startsWith("setName(") && call != "~hint()")
                 changes.append(call);
         }
@@ -196,6 +200,7 @@ private slots:
     void exportErrors_data();
     void exportErrors();
     void cancelledExportKeepsTheOldFile();
+    void fullDiskKeepsTheOldFile();
     void formulasAreWrittenSafely();
 
     void exampleSurvey();
@@ -246,8 +251,9 @@ QByteArray tst_CameraSurvey::read(const QString& fileName) const
 
 void tst_CameraSurvey::addsDevices()
 {
-    const ImportResult result = import(Header + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,00-11-22-aa-bb-cc,\n"
-                                                "Hall,10.0.0.2,81,no,joe,p,3,Encoder,0011.22AA.BBCD,\n");
+    const ImportResult result =
+        import(header() + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,00-11-22-aa-bb-cc,\n"
+                          "Hall,10.0.0.2,81,no,joe,p,3,Encoder,0011.22AA.BBCD,\n");
     QCOMPARE(counts(result), QString("2 added, 0 updated, 0 unchanged, 0 bad"));
     QCOMPARE(result.error, QString());
     QVERIFY(!result.cancelled);
@@ -261,7 +267,7 @@ void tst_CameraSurvey::addsDevices()
 
 void tst_CameraSurvey::newDeviceTakesDefaults()
 {
-    import(Header + ",10.0.0.1,,,,,,,,\n,10.0.0.2,,yes,,,,,,\nX,10.0.0.3,0,,,,,,,\n");
+    import(header() + ",10.0.0.1,,,,,,,,\n,10.0.0.2,,yes,,,,,,\nX,10.0.0.3,0,,,,,,,\n");
     QCOMPARE(valuesOf("new1"), QStringList({"2", "", "10.0.0.1", "80", "no", "", "", "", "", ""}));
     QCOMPARE(valuesOf("new2"), QStringList({"2", "", "10.0.0.2", "443", "yes", "", "", "", "", ""}));
     QCOMPARE(valuesOf("new3"), QStringList({"2", "X", "10.0.0.3", "0", "no", "", "", "", "", ""}));
@@ -281,7 +287,7 @@ void tst_CameraSurvey::refusedFilesChangeNothing_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("error");
-    const QByteArray good = Header + "Gate,10.0.0.1,,,,,,,,\n";
+    const QByteArray good = header() + "Gate,10.0.0.1,,,,,,,,\n";
     const QString binary = "This is no text file (line %1 holds binary data). Save the file as UTF-8 text.";
     QTest::newRow("empty") << QByteArray() << "The file is empty.";
     QTest::newRow("only line breaks") << QByteArray("\n\r\n\n") << "The file is empty.";
@@ -346,7 +352,7 @@ void tst_CameraSurvey::refusedPlaces()
 
 void tst_CameraSurvey::tooManyBadLines()
 {
-    QByteArray bytes = Header + "Gate,10.0.0.1,,,,,,,,\n";
+    QByteArray bytes = header() + "Gate,10.0.0.1,,,,,,,,\n";
     for (int i = 0; i < 3 * MaximumBadLines; ++i)
         bytes += "some,line,of,another,table\n";
     const ImportResult result = import(bytes);
@@ -407,7 +413,7 @@ void tst_CameraSurvey::badLinesAreNamed()
     QFETCH(QByteArray, line);
     QFETCH(QString, reason);
     const ImportResult result =
-        import(Header + "\"two\nlines\",10.0.0.1,,,,,,,,\n" + line + "\nHall,10.0.0.2,,,,,,,,\n");
+        import(header() + "\"two\nlines\",10.0.0.1,,,,,,,,\n" + line + "\nHall,10.0.0.2,,,,,,,,\n");
     QCOMPARE(badLines(result), "4: " + reason);
     QCOMPARE(counts(result), QString("2 added, 0 updated, 0 unchanged, 1 bad"));
     QCOMPARE(db->changes(),
@@ -429,7 +435,7 @@ void tst_CameraSurvey::nothingOfACellIsRepeated()
                                  "x,10.0.0.9,,,,s3c\tret,,,,",
                                  "T,,,,,s3cret,,,,",
                                  "x,10.9.9.9,,,,s3cret,4,,,"};
-    QByteArray bytes = Header;
+    QByteArray bytes = header();
     for (const char* line : lines)
         bytes += QByteArray(line) + "\n";
     const ImportResult result = import(bytes);
@@ -441,8 +447,8 @@ void tst_CameraSurvey::nothingOfACellIsRepeated()
 
 void tst_CameraSurvey::goodLinesAroundBadOnesAreTaken()
 {
-    const ImportResult result = import(Header + "A,10.0.0.1,x,,,,,,,\nB,10.0.0.2,,,,,,,,\n"
-                                                "C,10.0.0.3,,,,,9,,,\nD,10.0.0.4\nE,10.0.0.5,,,,,,,,,,,\n");
+    const ImportResult result = import(header() + "A,10.0.0.1,x,,,,,,,\nB,10.0.0.2,,,,,,,,\n"
+                                                  "C,10.0.0.3,,,,,9,,,\nD,10.0.0.4\nE,10.0.0.5,,,,,,,,,,,\n");
     QCOMPARE(badLines(result), QString("2: bad port: it is no number from 0 to 65535\n"
                                        "4: bad channel: it is no number from 1 to 4"));
     QCOMPARE(db->changes(), QStringList({"newNodeHint(B)", "newNodeHint(D)", "newNodeHint(E)",
@@ -451,24 +457,26 @@ void tst_CameraSurvey::goodLinesAroundBadOnesAreTaken()
 
 void tst_CameraSurvey::quotesAndLineBreaksInCells()
 {
-    import(Header + "\"The \"\"old\"\" gate,\r\nsouth\",10.0.0.1,,,,\" a\"\"b,c; \",,,,\r\n");
+    import(header() + "\"The \"\"old\"\" gate,\r\nsouth\",10.0.0.1,,,,\" a\"\"b,c; \",,,,\r\n");
     QCOMPARE(valuesOf("new1").at(1), QString("The \"old\" gate,\nsouth"));
     QCOMPARE(valuesOf("new1").at(6), QString(" a\"b,c; "));
 }
 
 void tst_CameraSurvey::linesOfDelimitersAreNothing()
 {
-    const ImportResult result = import(Header + ",,,,,,,,,\nA,10.0.0.1,,,,,,,,\n\n,,,,,,,,,\n , ,,,,,,,,\n");
+    const ImportResult result =
+        import(header() + ",,,,,,,,,\nA,10.0.0.1,,,,,,,,\n\n,,,,,,,,,\n , ,,,,,,,,\n");
     QCOMPARE(counts(result), QString("1 added, 0 updated, 0 unchanged, 0 bad"));
 }
 
 void tst_CameraSurvey::importingTwiceAddsNothing()
 {
-    const QByteArray bytes = Header + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,00-11-22-aa-bb-cc,//srv/gate\n"
-                                      "Hall,10.0.0.2,81,no,joe,p,3,Encoder,,\n"
-                                      "Roof,10.0.0.3,,1,,,,,,\n"
-                                      "Nowhere,,,,,,,,,\n"
-                                      ",10.0.0.4,,,,,,,,\n";
+    const QByteArray bytes = header() +
+                             "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,00-11-22-aa-bb-cc,//srv/gate\n"
+                             "Hall,10.0.0.2,81,no,joe,p,3,Encoder,,\n"
+                             "Roof,10.0.0.3,,1,,,,,,\n"
+                             "Nowhere,,,,,,,,,\n"
+                             ",10.0.0.4,,,,,,,,\n";
     QCOMPARE(counts(import(bytes)), QString("5 added, 0 updated, 0 unchanged, 0 bad"));
     const QList<QStringList> devices = allDevices();
     db->clearCalls();
@@ -479,8 +487,8 @@ void tst_CameraSurvey::importingTwiceAddsNothing()
 
 void tst_CameraSurvey::sameDeviceTwiceInAFile()
 {
-    const ImportResult result = import(Header + "Gate,10.0.0.1,,,root,,,,,\nGate,10.0.0.1,80,,,pw,,,,\n"
-                                                "Nowhere,,,,root,,,,,\nNowhere,,,,,pw,,,,\n");
+    const ImportResult result = import(header() + "Gate,10.0.0.1,,,root,,,,,\nGate,10.0.0.1,80,,,pw,,,,\n"
+                                                  "Nowhere,,,,root,,,,,\nNowhere,,,,,pw,,,,\n");
     QCOMPARE(counts(result), QString("2 added, 2 updated, 0 unchanged, 0 bad"));
     QCOMPARE(valuesOf("new1"), QStringList({"2", "Gate", "10.0.0.1", "80", "no", "root", "pw", "", "", ""}));
     QCOMPARE(valuesOf("new2"), QStringList({"2", "Nowhere", "", "80", "no", "root", "pw", "", "", ""}));
@@ -493,7 +501,7 @@ void tst_CameraSurvey::onlyWhatDiffersIsWrittenAndLogged()
     gate.setModel("old");
     gate.setUser("root", "old");
     db->clearCalls();
-    const ImportResult result = import(Header + "Main gate,10.0.0.1,80,yes,root,new,,M 2,001122aabbcc,\n");
+    const ImportResult result = import(header() + "Main gate,10.0.0.1,80,yes,root,new,,M 2,001122aabbcc,\n");
     QCOMPARE(counts(result), QString("0 added, 1 updated, 0 unchanged, 0 bad"));
     QCOMPARE(db->changes(),
              QStringList({"beginUpdateNode(gate,-1)", "setStringProperty(Name,Main gate)", "setUseSSL(true)",
@@ -502,7 +510,7 @@ void tst_CameraSurvey::onlyWhatDiffersIsWrittenAndLogged()
                           "log(NRen,Gate,Main gate)", "log(NChg,Main gate)", "log(NImp,survey.csv,0,1,0)"}));
 
     db->clearCalls();
-    import(Header + ",10.0.0.1,80,no,,,,,,\n");
+    import(header() + ",10.0.0.1,80,no,,,,,,\n");
     QCOMPARE(db->changes(),
              QStringList({"beginUpdateNode(gate,-1)", "setUseSSL(false)", "endUpdateNode(gate)",
                           "log(NChg,Main gate)", "log(NImp,survey.csv,0,1,0)"}));
@@ -512,19 +520,19 @@ void tst_CameraSurvey::changedAddressIsNotified()
 {
     db->addCamera("gate", "Gate").setAddress("CAM.example.net");
     db->clearCalls();
-    import(Header + ",cam.example.net,80,,,,,,,\n");
+    import(header() + ",cam.example.net,80,,,,,,,\n");
     QCOMPARE(db->changes().mid(0, 4), QStringList({"beginUpdateNode(gate,-1)", "setAddress(cam.example.net)",
                                                    "notifyChange(2)", "endUpdateNode(gate)"}));
 }
 
 void tst_CameraSurvey::emptyCellsLeaveAsItIs()
 {
-    import(Header + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,00-11-22-aa-bb-cc,//srv/gate\n");
+    import(header() + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,00-11-22-aa-bb-cc,//srv/gate\n");
     const QStringList before = valuesOf("new1");
     db->clearCalls();
-    QCOMPARE(counts(import(Header + ",10.0.0.1,8080,,,,,,,\n")),
+    QCOMPARE(counts(import(header() + ",10.0.0.1,8080,,,,,,,\n")),
              QString("0 added, 0 updated, 1 unchanged, 0 bad"));
-    QCOMPARE(counts(import(Header + "\"\",10.0.0.1,8080,\"\",\"\",\"\",\"\",\"\",\"\",\"\"\n")),
+    QCOMPARE(counts(import(header() + "\"\",10.0.0.1,8080,\"\",\"\",\"\",\"\",\"\",\"\",\"\"\n")),
              QString("0 added, 0 updated, 1 unchanged, 0 bad"));
     QCOMPARE(counts(import("address,port\n10.0.0.1,8080\n")),
              QString("0 added, 0 updated, 1 unchanged, 0 bad"));
@@ -535,7 +543,7 @@ void tst_CameraSurvey::emptyCellsLeaveAsItIs()
 
 void tst_CameraSurvey::userAndPasswordAreKeptFromEachOther()
 {
-    import(Header + "Gate,10.0.0.1,,,root,s3cret,,,,\n");
+    import(header() + "Gate,10.0.0.1,,,root,s3cret,,,,\n");
     import("address,user\n10.0.0.1,joe\n");
     QCOMPARE(valuesOf("new1").mid(5, 2), QStringList({"joe", "s3cret"}));
     import("address,password\n10.0.0.1, \n");
@@ -632,7 +640,7 @@ void tst_CameraSurvey::missingDrivers()
     db->defineType(RecordingFolderType, "Recording folder", SmallDB::NoDriver);
     db->defineType(ChannelDeviceType, "Channel device", SmallDB::DriverWithoutHint);
     const ImportResult result =
-        import(Header + "A,10.0.0.1,,,,,,,,//srv/a\nB,10.0.0.2,,,,,2,,,\nC,10.0.0.3,,,,,,,,\n");
+        import(header() + "A,10.0.0.1,,,,,,,,//srv/a\nB,10.0.0.2,,,,,2,,,\nC,10.0.0.3,,,,,,,,\n");
     QCOMPARE(badLines(result), QString("2: recording folders cannot be added here\n"
                                        "3: devices of this type cannot be added here"));
     QCOMPARE(db->changes(), QStringList({"newNodeHint(C)", "log(NImp,survey.csv,1,0,2)"}));
@@ -647,14 +655,14 @@ void tst_CameraSurvey::databaseThatAddsNothing()
     };
     db.reset();
     db = std::make_unique<Full>();
-    const ImportResult result = import(Header + "A,10.0.0.1,,,,,,,,\n");
+    const ImportResult result = import(header() + "A,10.0.0.1,,,,,,,,\n");
     QCOMPARE(badLines(result), QString("2: the device could not be added"));
     QCOMPARE(db->changes(), QStringList());
 }
 
 void tst_CameraSurvey::recordingPathOfANewCamera()
 {
-    import(Header + "Gate,10.0.0.1,,,,,,,,//srv/gate\n");
+    import(header() + "Gate,10.0.0.1,,,,,,,,//srv/gate\n");
     QCOMPARE(folderOf("new1"), QStringList({"//srv/gate", "", "", "new1", "individual", "//srv/gate"}));
     QCOMPARE(db->node("new1")->intProperty("RecordingStorageUsage", 0), 2);
     QCOMPARE(db->node("new1")->boolProperty("UseRecordingTransponder", true), false);
@@ -662,11 +670,11 @@ void tst_CameraSurvey::recordingPathOfANewCamera()
 
 void tst_CameraSurvey::recordingPathKeepsCredentials()
 {
-    import(Header + "Gate,10.0.0.1,,,,,,,,//srv/gate\n");
+    import(header() + "Gate,10.0.0.1,,,,,,,,//srv/gate\n");
     QString folder = db->relatedNodes("new1", RecordingFolderRelation).value(0);
     NodeDBUtils::configurePlayerSource("new1", 2, false, folder, "//srv/gate", "joe", "f0lder");
     db->clearCalls();
-    QCOMPARE(counts(import(Header + ",10.0.0.1,,,,,,,,//new/gate\n")),
+    QCOMPARE(counts(import(header() + ",10.0.0.1,,,,,,,,//new/gate\n")),
              QString("0 added, 1 updated, 0 unchanged, 0 bad"));
     QCOMPARE(folderOf("new1"),
              QStringList({"//new/gate", "joe", "f0lder", "new1", "individual", "//new/gate"}));
@@ -734,7 +742,7 @@ void tst_CameraSurvey::recordingPathKeepsTheTransponder()
 
 static QByteArray manyCameras(int count)
 {
-    QByteArray bytes = Header;
+    QByteArray bytes = header();
     for (int i = 0; i < count; ++i)
         bytes += QString("Camera %1,cam%1,80,no,u,p,,M,,//srv/%1\n").arg(i).toUtf8();
     return bytes;
@@ -742,7 +750,7 @@ static QByteArray manyCameras(int count)
 
 void tst_CameraSurvey::cancelledBetweenLines()
 {
-    const QByteArray bytes = manyCameras(1000);
+    const QByteArray bytes = manyCameras(300);
     const ImportResult result =
         import(bytes, [this](qint64, qint64) { return db->nodeIdList(IPDeviceType).isEmpty(); });
     QVERIFY(result.cancelled);
@@ -756,7 +764,7 @@ void tst_CameraSurvey::cancelledBetweenLines()
 
     const ImportResult rest = import(bytes);
     QCOMPARE(rest.unchanged, result.added);
-    QCOMPARE(rest.added, 1000 - result.added);
+    QCOMPARE(rest.added, 300 - result.added);
 }
 
 void tst_CameraSurvey::cancelledWhileChecking()
@@ -773,20 +781,21 @@ void tst_CameraSurvey::progressIsNotAskedTooOften()
 {
     QList<QPair<qint64, qint64>> reports;
     const QByteArray bytes = manyCameras(500);
-    import(bytes, [&](qint64 done, qint64 total) {
+    const Progress note = [&](qint64 done, qint64 total) {
         reports.append(qMakePair(done, total));
-    return true;
-});
-// Both passes together have 1,000 lines; a slow machine adds one report for every 20 ms.
-QVERIFY(reports.size() >= 39);
-QVERIFY(reports.size() < 2000);
-qint64 last = 0;
-for (const auto& report : reports) {
-    QCOMPARE(report.second, qint64(2 * bytes.size()));
-    QVERIFY(report.first >= last && report.first <= report.second);
-    last = report.first;
-}
-QVERIFY(last > bytes.size());
+        return true;
+    };
+    import(bytes, note);
+    // Both passes together have 1,000 lines; a slow machine adds one report for every 20 ms.
+    QVERIFY(reports.size() >= 10);
+    QVERIFY(reports.size() < 500);
+    qint64 last = 0;
+    for (const auto& report : std::as_const(reports)) {
+        QCOMPARE(report.second, qint64(2 * bytes.size()));
+        QVERIFY(report.first >= last && report.first <= report.second);
+        last = report.first;
+    }
+    QVERIFY(last > bytes.size());
 }
 
 void tst_CameraSurvey::databaseClosedMeanwhile()
@@ -804,9 +813,9 @@ void tst_CameraSurvey::databaseClosedMeanwhile()
 
 void tst_CameraSurvey::importIsAudited()
 {
-    import(Header + "A,10.0.0.1,x,,,,,,,\n");
+    import(header() + "A,10.0.0.1,x,,,,,,,\n");
     QCOMPARE(db->actionLog.texts, QStringList());
-    import(Header + "A,10.0.0.1,x,,,,,,,\nB,10.0.0.2,,,,,,,,\nC,10.0.0.2,,,,,,,,\n");
+    import(header() + "A,10.0.0.1,x,,,,,,,\nB,10.0.0.2,,,,,,,,\nC,10.0.0.2,,,,,,,,\n");
     QCOMPARE(db->actionLog.texts.last(),
              QString("Imported devices from survey.csv: 1 added, 1 changed, 1 lines refused."));
 
@@ -834,8 +843,8 @@ void tst_CameraSurvey::otherEncodings()
 
 void tst_CameraSurvey::exportWritesAllColumns()
 {
-    import(Header + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,001122aabbcc,//srv/gate\n"
-                    "\"a \"\"b\"\",\nc\",10.0.0.2,,,,,3,,,\n");
+    import(header() + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,001122aabbcc,//srv/gate\n"
+                      "\"a \"\"b\"\",\nc\",10.0.0.2,,,,,3,,,\n");
     db->addNode(ViewType, "view", "View");
     db->addCamera("nameless", "");
     db->addNode(UrlCameraType, "url", "Url");
@@ -868,7 +877,7 @@ void tst_CameraSurvey::exportIsForTheOwnerAlone()
 
 void tst_CameraSurvey::exportWithoutPasswords()
 {
-    import(Header + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,001122aabbcc,//srv/gate\n");
+    import(header() + "Gate,10.0.0.1,8080,yes,root,s3cret,,M 1,001122aabbcc,//srv/gate\n");
     exportCameras(path("out.csv"), Passwords::LeaveOut);
     QVERIFY(!read(path("out.csv")).contains("s3cret"));
     QVERIFY(read(path("out.csv")).contains("root"));
@@ -906,6 +915,24 @@ void tst_CameraSurvey::cancelledExportKeepsTheOldFile()
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList("survey.csv"));
 }
 
+void tst_CameraSurvey::fullDiskKeepsTheOldFile()
+{
+    import(manyCameras(500));
+    write("old");
+    rlimit unlimited;
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &unlimited), 0);
+    rlimit limited = unlimited;
+    limited.rlim_cur = 10000;
+    const auto oldHandler = signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limited), 0);
+    const ExportResult result = exportCameras(path("survey.csv"), Passwords::Write);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &unlimited), 0);
+    signal(SIGXFSZ, oldHandler);
+    QCOMPARE(result.error, QString(path("survey.csv") + " cannot be written: File too large"));
+    QCOMPARE(read(path("survey.csv")), QByteArray("old"));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList("survey.csv"));
+}
+
 void tst_CameraSurvey::formulasAreWrittenSafely()
 {
     const QStringList dangerous = {"=1+1", "+x", "-x", "@x", "'=x", "''+"};
@@ -920,7 +947,8 @@ void tst_CameraSurvey::formulasAreWrittenSafely()
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QList<QByteArray> lines = file.readAll().mid(3).split('\n');
     for (const QByteArray& line : lines) {
-        for (const QByteArray& cell : line.split(','))
+        const QList<QByteArray> cells = line.split(',');
+        for (const QByteArray& cell : cells)
             QVERIFY2(!QByteArray("=+-@\t\r").contains(cell.left(1)) || cell == "\r" || cell.isEmpty(),
                      cell.constData());
     }
@@ -979,7 +1007,7 @@ static void addRandomDevices(HostNodeDB* db, int count)
         db->newNodeHint(*hint);
         QString folder;
         if (random.bounded(2)) {
-            NodeDBUtils::configurePlayerSource(db->nodeIdList(type).last(), 2, false, folder,
+            NodeDBUtils::configurePlayerSource(db->nodeIdList(type).constLast(), 2, false, folder,
                                                "//srv/" + randomText(6), QString(), QString());
         }
     }
@@ -992,7 +1020,8 @@ void tst_CameraSurvey::exportThenImportGivesEqualDevices()
     QList<QStringList> properties;
     const auto allProperties = [](HostNodeDB* database) {
         QList<QStringList> all;
-        for (const NodeSummary& summary : database->summaries()) {
+        const QVector<NodeSummary> summaries = database->summaries();
+        for (const NodeSummary& summary : summaries) {
             QStringList list;
             for (const auto& entry : database->node(summary.id)->properties()) {
                 if (entry.first != "CameraID")
@@ -1044,8 +1073,8 @@ void tst_CameraSurvey::realDatabaseLogsInOrder()
 {
     db.reset();
     testsupport::HostFixture host;
-    import(Header + "Gate,10.0.0.1,,,root,s3cret,,,,\n");
-    import(Header + "Main gate,10.0.0.1,,,,,,M,,\n");
+    import(header() + "Gate,10.0.0.1,,,root,s3cret,,,,\n");
+    import(header() + "Main gate,10.0.0.1,,,,,,M,,\n");
     QStringList codes;
     QStringList texts;
     for (const AuditRecord& record : host.db()->auditLog().entries(0, 100, false)) {
