@@ -96,6 +96,9 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
         file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     const bool complete = opened && writeDevices(&file, passwords, progress, &result);
     if (!complete || !file.commit()) {
+        // After half a write the toolkit knows no reason yet; the next one gets it from the system.
+        if (file.isOpen())
+            file.flush();
         if (!result.cancelled)
             result.error = say("%1 cannot be written: %2").arg(fileName, file.errorString());
         file.cancelWriting();
