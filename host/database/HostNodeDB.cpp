@@ -100,7 +100,6 @@ public:
     AuditLog audit;
     std::unordered_map<const Node*, Copy> copies;
     std::set<std::string> scanners;
-    const qint64 writerId;
     qint64 dataVersion = 0;
     QTimer poll;
     QTimer retry;
@@ -115,7 +114,6 @@ HostNodeDB::Private::Private(std::unique_ptr<SqliteStore> openedStore)
     , tables(*store)
     , environments([this] { environmentsChanged(); }, [this](const QString& id) { environmentRemoved(id); })
     , audit(*this)
-    , writerId(qint64(QRandomGenerator::system()->generate64() >> 1))
 {
     const Transaction transaction(*store, Transaction::Read);
     dataVersion = store->dataVersion();
@@ -328,8 +326,11 @@ Node* HostNodeDB::beginUpdateNode(const QString& id, int)
 void HostNodeDB::endUpdateNode(Node* node)
 {
     const auto found = d->copies.find(node);
-    if (found == d->copies.end())
+    if (found == d->copies.end()) {
+        if (node)
+            LogQt::line(LogQt::Error, QLatin1String("endUpdateNode() without its beginUpdateNode()"));
         return;
+    }
     const Private::Copy copy = std::move(found->second);
     d->copies.erase(found);
     const NodeData edited = dynamic_cast<const StoredNode&>(*copy.node).nodeData();
@@ -608,7 +609,7 @@ bool HostNodeDB::Private::flush()
         Transaction transaction(*store, Transaction::Write);
         // Now nobody else can write, so what is brought in here is what is written upon.
         notices = memory.take(readForeignChanges());
-        StoreWriter writer(tables, memory.cache, writerId);
+        StoreWriter writer(tables, memory.cache);
         writer.write(memory.pending);
         const qint64 lastChange = tables.lastChange();
         transaction.commit();
@@ -672,6 +673,7 @@ void HostNodeDB::discardUnstoredChanges()
         d->readFailed(failure.error);
         return;
     }
+    d->memory.pending.programLines = dropped.programLines; // they tell why
     d->failing = false;
     d->retry.stop();
     d->announce(notices);
@@ -687,9 +689,10 @@ StoreState HostNodeDB::Private::readState(const StoreQuery& query)
     });
 }
 
+/// What this process stored itself lies before memory.lastChange.
 StoreState HostNodeDB::Private::readForeignChanges()
 {
-    return readState(StoreQuery::changesSince(tables, memory.lastChange, writerId));
+    return readState(StoreQuery::changesSince(tables, memory.lastChange));
 }
 
 void HostNodeDB::syncForeignChanges()

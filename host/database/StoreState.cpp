@@ -15,23 +15,23 @@ void appendOnce(QVector<T>& list, QSet<T>& seen, const T& value)
 
 } // namespace
 
-StoreQuery StoreQuery::changesSince(NodeTables& tables, qint64 since, qint64 writer)
+StoreQuery StoreQuery::changesSince(NodeTables& tables, qint64 change)
 {
     StoreQuery query;
-    if (!tables.hasChangesSince(since)) {
+    if (!tables.hasChangesSince(change)) {
         query.everything = true;
         query.settings = true;
         return query;
     }
     QSet<NodeID> nodes;
     QSet<NodeID> sources;
-    const QVector<ChangeRow> changes = tables.foreignChanges(since, writer);
-    for (const ChangeRow& change : changes) {
-        if (change.kind == ChangeRow::NodeChange)
-            appendOnce(query.nodes, nodes, change.id);
-        else if (change.kind == ChangeRow::RelationChange)
-            appendOnce(query.relationSources, sources, change.id);
-        else if (change.kind == ChangeRow::SettingChange)
+    const QVector<ChangeRow> changes = tables.changesSince(change);
+    for (const ChangeRow& row : changes) {
+        if (row.kind == ChangeRow::NodeChange)
+            appendOnce(query.nodes, nodes, row.id);
+        else if (row.kind == ChangeRow::RelationChange)
+            appendOnce(query.relationSources, sources, row.id);
+        else if (row.kind == ChangeRow::SettingChange)
             query.settings = true;
     }
     return query;

@@ -19,8 +19,8 @@ struct StoreQuery
     QVector<NodeID> relationSources;
     bool settings = false;
 
-    /// Asks for everything if \a since lies too far back. \a writer is the one that asks.
-    static StoreQuery changesSince(NodeTables& tables, qint64 since, qint64 writer);
+    /// Asks for everything if \a change lies too far back.
+    static StoreQuery changesSince(NodeTables& tables, qint64 change);
 };
 
 /// What was found there: read in one go, so that a failure leaves memory as it is.

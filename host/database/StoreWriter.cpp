@@ -4,10 +4,9 @@
 
 namespace ko {
 
-StoreWriter::StoreWriter(NodeTables& tables, const NodeCache& cache, qint64 writer)
+StoreWriter::StoreWriter(NodeTables& tables, const NodeCache& cache)
     : m_tables(tables)
     , m_cache(cache)
-    , m_writer(writer)
 {
 }
 
@@ -74,7 +73,7 @@ void StoreWriter::writeRelation(const PendingChanges::RelationChange& change)
 
 void StoreWriter::note(ChangeRow::Kind kind, const NodeID& id)
 {
-    m_tables.addChange({kind, id}, m_writer);
+    m_tables.addChange({kind, id});
     m_noted = true;
 }
 

@@ -11,7 +11,7 @@ namespace ko {
 class StoreWriter
 {
 public:
-    StoreWriter(NodeTables& tables, const NodeCache& cache, qint64 writer);
+    StoreWriter(NodeTables& tables, const NodeCache& cache);
 
     void write(const PendingChanges& pending);
 
@@ -27,7 +27,6 @@ private:
 
     NodeTables& m_tables;
     const NodeCache& m_cache;
-    const qint64 m_writer;
     QVector<QPair<NodeRecord*, qint64>> m_inserted;
     bool m_noted = false;
 };

@@ -104,7 +104,8 @@ void NodeTables::setProperty(qint64 n, const QString& name, const QVariant& valu
         return;
     }
     const PropertyCoding::Stored stored = PropertyCoding::encode(value);
-    m_store.run("INSERT OR REPLACE INTO properties (node, key, type, value) VALUES (?, ?, ?, ?)",
+    m_store.run("INSERT INTO properties (node, key, type, value) VALUES (?, ?, ?, ?)"
+                " ON CONFLICT (node, key) DO UPDATE SET type = excluded.type, value = excluded.value",
                 {n, notNull(name), stored.type, stored.value});
 }
 
@@ -233,11 +234,10 @@ bool NodeTables::hasChangesSince(qint64 seq)
     return lastChange() == seq || m_store.value("SELECT 1 FROM changes WHERE seq = ?", {seq + 1}).isValid();
 }
 
-QVector<ChangeRow> NodeTables::foreignChanges(qint64 since, qint64 writer)
+QVector<ChangeRow> NodeTables::changesSince(qint64 seq)
 {
     QVector<ChangeRow> result;
-    SqliteStore::Rows rows = m_store.run(
-        "SELECT kind, id FROM changes WHERE seq > ? AND writer <> ? ORDER BY seq", {since, writer});
+    SqliteStore::Rows rows = m_store.run("SELECT kind, id FROM changes WHERE seq > ? ORDER BY seq", {seq});
     while (rows.next()) {
         const QString kind = rows.text(0);
         if (!kind.isEmpty())
@@ -246,10 +246,10 @@ QVector<ChangeRow> NodeTables::foreignChanges(qint64 since, qint64 writer)
     return result;
 }
 
-void NodeTables::addChange(const ChangeRow& change, qint64 writer)
+void NodeTables::addChange(const ChangeRow& change)
 {
-    m_store.run("INSERT INTO changes (kind, id, writer) VALUES (?, ?, ?)",
-                {QString(QLatin1Char(change.kind)), notNull(change.id), writer});
+    m_store.run("INSERT INTO changes (kind, id) VALUES (?, ?)",
+                {QString(QLatin1Char(change.kind)), notNull(change.id)});
 }
 
 void NodeTables::trimChanges()

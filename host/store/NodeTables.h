@@ -65,6 +65,7 @@ public:
     qint64 insertNode(const NodeSummary& summary, const QString& lookupKey);
     void updateNode(qint64 n, const NodeSummary& summary, const QString& lookupKey);
     void removeNode(const NodeID& id);
+    /// Adds or replaces; an invalid value removes.
     void setProperty(qint64 n, const QString& name, const QVariant& value);
 
     QVector<RelationRow> relations();
@@ -87,8 +88,8 @@ public:
     qint64 lastChange();
     /// False if changes after \a seq have been trimmed already.
     bool hasChangesSince(qint64 seq);
-    QVector<ChangeRow> foreignChanges(qint64 since, qint64 writer);
-    void addChange(const ChangeRow& change, qint64 writer);
+    QVector<ChangeRow> changesSince(qint64 seq);
+    void addChange(const ChangeRow& change);
     void trimChanges();
     void trimProgramLines();
 

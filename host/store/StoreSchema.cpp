@@ -31,7 +31,7 @@ const QVector<QVector<const char*>>& steps()
             "CREATE TABLE program_log (seq INTEGER PRIMARY KEY, time INTEGER NOT NULL,"
             " level INTEGER NOT NULL, line TEXT NOT NULL)",
             "CREATE TABLE changes (seq INTEGER PRIMARY KEY AUTOINCREMENT, kind TEXT NOT NULL,"
-            " id TEXT NOT NULL, writer INTEGER NOT NULL)",
+            " id TEXT NOT NULL)",
         },
         {
             "CREATE INDEX nodes_lookup ON nodes (lookup) WHERE lookup <> ''",

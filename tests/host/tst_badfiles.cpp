@@ -43,6 +43,7 @@ private slots:
     void damageFoundWhileReading();
     void fullDiskWhileInUse();
     void fullDiskAtTheFirstStart();
+    void fullDiskAtALaterStart();
     void limitedFileWhileInUse();
 
 private:
@@ -402,6 +403,27 @@ void TestBadFiles::fullDiskAtTheFirstStart()
         QVERIFY(QFile::remove(m_mounted + QLatin1String("/filler")));
     }
     QVERIFY(openDatabase(m_file));
+}
+
+/// The write-ahead log's index finds no room, which SQLite reports as an I/O error.
+void TestBadFiles::fullDiskAtALaterStart()
+{
+    if (!mountSmallDisk(m_folder->path())) {
+        QVERIFY2(::geteuid() != 0, "root could not mount a small disk");
+        return;
+    }
+    m_mounted = m_folder->path();
+    makeDatabase(3);
+    fillDisk(m_mounted, 0);
+    const QByteArray before = digest(m_file);
+    StoreError error;
+    QVERIFY(!HostNodeDB::open(m_file, &error));
+    QCOMPARE(error.kind, StoreError::DiskFull);
+    QCOMPARE(digest(m_file), before);
+    QVERIFY(QFile::remove(m_mounted + QLatin1String("/filler")));
+    const std::unique_ptr<HostNodeDB> db = openDatabase(m_file);
+    QVERIFY(db);
+    QCOMPARE(db->summaries().count(), 3);
 }
 
 /// Changes more than a file may hold; run in a process of its own, since the limit is the process's.

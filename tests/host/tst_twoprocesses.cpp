@@ -397,7 +397,11 @@ void TestTwoProcesses::longAbsenceIsCaughtUp()
     QVERIFY(m_db->flush());
     ask(QLatin1String("get ") + doomed + QLatin1String(" Name"));
     setText(*m_db, m_folderNode, "Path", QLatin1String("/unstored"));
+    const kom::smart<NodeHint> hint = m_db->nodeDriver(IPDeviceType)->createNodeHint(IPDeviceType);
+    dynamic_cast<NodeHintIPDevice&>(*hint).address = QLatin1String("flood-7");
+    QCOMPARE(m_db->lookupHint(*hint), QString());
     ask(QString::fromLatin1("set %1 Version theirs").arg(m_camera));
+    ask(QLatin1String("settings Elsewhere2"));
     ask(QString::fromLatin1("flood %1").arg(flood));
     ask(QLatin1String("remove ") + doomed);
     QSignalSpy inserted(m_db.get(), SIGNAL(nodeInserted(ko::NodeID)));
@@ -412,6 +416,8 @@ void TestTwoProcesses::longAbsenceIsCaughtUp()
     QCOMPARE(text(*m_db, m_camera, "Version"), QLatin1String("theirs"));
     QCOMPARE(text(*m_db, m_folderNode, "Path"), QLatin1String("/unstored"));
     QCOMPARE(m_db->relatedNodes(m_camera, RecordingFolderRelation), QStringList(m_folderNode));
+    QCOMPARE(m_db->globalProxy().proxyAddress(), QLatin1String("Elsewhere2"));
+    QCOMPARE(m_db->lookupHint(*hint), m_db->nodeIdList(AllNodeTypes).at(7 + 2));
     QVERIFY(m_db->flush());
     PlainSql plain(m_file);
     QVERIFY(plain.run(QLatin1String("SELECT count(*) FROM changes")).toInt() <= NodeTables::MaxChanges);
