@@ -49,6 +49,16 @@ QStringList NodeListView::selectedIds() const
     return ids;
 }
 
+int NodeListView::selectedCount() const
+{
+    // By ranges: with everything selected there may be a hundred thousand rows.
+    int count = 0;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange& range : selection)
+        count += range.height();
+    return count;
+}
+
 void NodeListView::selectNode(const QString& id)
 {
     const int row = m_model->rowOf(id);

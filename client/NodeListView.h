@@ -20,6 +20,7 @@ public:
 
     /// Identifiers of the selected nodes, in the order of the rows.
     QStringList selectedIds() const;
+    int selectedCount() const;
     void selectNode(const QString& id);
 
 signals:

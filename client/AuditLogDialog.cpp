@@ -1,0 +1,102 @@
+#include "AuditLogDialog.h"
+
+#include "AuditLogModel.h"
+#include "ko/dialogFlags.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QSettings>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace ko {
+
+namespace {
+
+const char sizeKey[] = "auditLog/size";
+
+} // namespace
+
+AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
+    : QDialog(parent, dialogFlags(true))
+    , m_model(new AuditLogModel(log, this))
+    , m_found(new QSortFilterProxyModel(this))
+    , m_view(new QTableView(this))
+{
+    setObjectName(QStringLiteral("AuditLogDialog"));
+    setWindowTitle(tr("Audit Log"));
+    m_found->setSourceModel(m_model);
+    m_found->setFilterKeyColumn(-1);
+    m_found->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_view->setObjectName(QStringLiteral("entriesTableView"));
+    m_view->setAccessibleName(tr("Entries"));
+    m_view->setModel(m_found);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setAlternatingRowColors(true);
+    m_view->setWordWrap(false);
+    m_view->verticalHeader()->hide();
+    m_view->horizontalHeader()->setStretchLastSection(true);
+    m_model->fetchMore(QModelIndex());
+    m_view->resizeColumnsToContents();
+
+    QLineEdit* searchField = new QLineEdit(this);
+    searchField->setObjectName(QStringLiteral("searchLineEdit"));
+    searchField->setPlaceholderText(tr("Search"));
+    searchField->setAccessibleName(tr("Search"));
+    searchField->setClearButtonEnabled(true);
+    connect(searchField, &QLineEdit::textChanged, this, &AuditLogDialog::search);
+
+    QAction* copyAction = new QAction(tr("Copy"), m_view);
+    copyAction->setObjectName(QStringLiteral("copyAction"));
+    copyAction->setShortcut(QKeySequence::Copy);
+    copyAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(copyAction, &QAction::triggered, this, &AuditLogDialog::copy);
+    m_view->addAction(copyAction);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+
+    QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    QVBoxLayout* layout = new QVBoxLayout(this);
+    layout->addWidget(searchField);
+    layout->addWidget(m_view);
+    layout->addWidget(buttons);
+    resize(QSettings().value(QLatin1String(sizeKey), QSize(760, 460)).toSize());
+}
+
+AuditLogDialog::~AuditLogDialog()
+{
+    QSettings().setValue(QLatin1String(sizeKey), size());
+}
+
+void AuditLogDialog::search(const QString& text)
+{
+    // What is looked for may stand in what was not read yet.
+    while (!text.isEmpty() && m_model->canFetchMore(QModelIndex()))
+        m_model->fetchMore(QModelIndex());
+    m_found->setFilterFixedString(text);
+}
+
+void AuditLogDialog::copy() const
+{
+    QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    QStringList lines;
+    for (const QModelIndex& row : std::as_const(rows)) {
+        QStringList cells;
+        for (int column = 0; column < m_found->columnCount(); ++column)
+            cells.append(row.sibling(row.row(), column).data().toString());
+        lines.append(cells.join(QLatin1Char('\t')));
+    }
+    if (!lines.isEmpty())
+        QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+} // namespace ko

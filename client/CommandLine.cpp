@@ -1,0 +1,191 @@
+#include "CommandLine.h"
+
+#include "MainWindow.h"
+#include "Tour.h"
+#include "audit/ProgramLog.h"
+#include "database/HostNodeDB.h"
+#include "exchange/CameraSurvey.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QMessageBox>
+#include <QStandardPaths>
+
+#include <cstdio>
+#include <memory>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+namespace ko {
+
+namespace {
+
+void say(FILE* stream, const QString& text)
+{
+    std::fprintf(stream, "%s\n", text.toLocal8Bit().constData());
+}
+
+/// What the program keeps holds passwords; it is for its user alone.
+void keepFilesPrivate()
+{
+#ifdef Q_OS_UNIX
+    umask(077);
+#endif
+}
+
+QString defaultDatabase()
+{
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    folder.mkpath(QStringLiteral("."));
+    return folder.filePath(QStringLiteral("nodes.kodb"));
+}
+
+} // namespace
+
+CommandLine::CommandLine(int& argc, char** argv)
+    : m_argc(argc)
+    , m_argv(argv)
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Ko Node UI"));
+    QCoreApplication::setApplicationName(QStringLiteral("koclient"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KO_VERSION));
+}
+
+bool CommandLine::parse()
+{
+    const auto translated = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        translated("Shows, adds, edits and removes the nodes of a video-surveillance system."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const auto add = [&parser, &translated](const char* name, const char* text, const char* value) {
+        const QCommandLineOption option(QLatin1String(name), translated(text), QLatin1String(value));
+        parser.addOption(option);
+        return option;
+    };
+    const auto db = add("db", "Opens this node database; it is made if it is not there.", "FILE");
+    const auto import =
+        add("import", "Adds the cameras of a list (CSV) and ends. No window is needed.", "FILE");
+    const auto exportTo = add("export", "Writes all cameras into a list (CSV) and ends.", "FILE");
+    const auto noPasswords = add("without-passwords", "Leaves the passwords out of --export.", "");
+    const auto tour = add("tour", "Walks through the windows by itself and leaves pictures.", "FOLDER");
+    const auto survey = add("tour-survey", "The list of cameras that the walk imports.", "FILE");
+    const auto checkTour = add("check-tour", "Looks whether what the walk did is in the database.", "");
+
+    QStringList arguments;
+    for (int i = 0; i < m_argc; ++i)
+        arguments.append(QString::fromLocal8Bit(m_argv[i]));
+    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
+        say(stderr, parser.errorText().isEmpty()
+                        ? translated("Unexpected argument: %1").arg(parser.positionalArguments().value(0))
+                        : parser.errorText());
+        m_exitCode = WrongUsage;
+        return false;
+    }
+    if (parser.isSet(help) || parser.isSet(version)) {
+        const QCoreApplication application(m_argc, m_argv); // the texts name the program
+        say(stdout, parser.isSet(help) ? parser.helpText().trimmed()
+                                       : QCoreApplication::applicationName() + QLatin1Char(' ') +
+                                             QCoreApplication::applicationVersion());
+        return false;
+    }
+    m_database = parser.value(db);
+    m_import = parser.value(import);
+    m_export = parser.value(exportTo);
+    m_tour = parser.value(tour);
+    m_survey = parser.value(survey);
+    m_leaveOutPasswords = parser.isSet(noPasswords);
+    m_checkTour = parser.isSet(checkTour);
+    return true;
+}
+
+int CommandLine::run()
+{
+    if (!parse())
+        return m_exitCode;
+    keepFilesPrivate();
+    const std::unique_ptr<QCoreApplication> application(needsWindow() ? new QApplication(m_argc, m_argv)
+                                                                      : new QCoreApplication(m_argc, m_argv));
+    return runTask();
+}
+
+int CommandLine::runTask()
+{
+    StoreError error;
+    const std::unique_ptr<HostNodeDB> db =
+        HostNodeDB::open(m_database.isEmpty() ? defaultDatabase() : m_database, &error);
+    if (!db) {
+        say(stderr, error.message);
+        if (needsWindow() && m_tour.isEmpty())
+            QMessageBox::critical(nullptr, QCoreApplication::translate("CommandLine", "Node Database"),
+                                  error.message);
+        return NoDatabase;
+    }
+    const ProgramLog log(db->logStore());
+    if (!m_import.isEmpty()) {
+        const int result = importCameras(*db);
+        return result == Failed || m_export.isEmpty() ? result : qMax(result, exportCameras());
+    }
+    if (!m_export.isEmpty())
+        return exportCameras();
+    if (m_checkTour)
+        return Tour::check(*db) ? Good : Failed;
+    return runWindow(*db);
+}
+
+int CommandLine::runWindow(HostNodeDB& db) const
+{
+    MainWindow window(db);
+    window.show();
+    if (!m_tour.isEmpty())
+        return Tour(db, window, m_tour).run(m_survey) ? Good : Failed;
+    return QApplication::exec();
+}
+
+int CommandLine::importCameras(HostNodeDB& db) const
+{
+    const CameraSurvey::ImportResult result = CameraSurvey::importCameras(m_import, [](qint64, qint64) {
+        QCoreApplication::processEvents(); // the database stores what was done so far
+        return true;
+    });
+    const bool stored = db.flush();
+    for (const CameraSurvey::BadLine& line : result.badLines)
+        say(stderr, QCoreApplication::translate("CommandLine", "%1, line %2: %3")
+                        .arg(m_import, QString::number(line.line), line.reason));
+    for (const QString& column : result.ignoredColumns)
+        say(stderr, QCoreApplication::translate("CommandLine", "Column \"%1\" is not used.").arg(column));
+    if (!result.error.isEmpty())
+        say(stderr, result.error);
+    if (!stored)
+        say(stderr, QCoreApplication::translate("CommandLine", "The cameras could not be stored."));
+    say(stdout,
+        QCoreApplication::translate("CommandLine", "%1 added, %2 updated, %3 unchanged, %4 lines with errors")
+            .arg(result.added)
+            .arg(result.updated)
+            .arg(result.unchanged)
+            .arg(result.badLines.size()));
+    if (!result.error.isEmpty() || !stored)
+        return Failed;
+    return result.badLines.isEmpty() ? Good : SomeLinesBad;
+}
+
+int CommandLine::exportCameras() const
+{
+    const CameraSurvey::ExportResult result = CameraSurvey::exportCameras(
+        m_export, m_leaveOutPasswords ? CameraSurvey::Passwords::LeaveOut : CameraSurvey::Passwords::Write);
+    if (!result.error.isEmpty()) {
+        say(stderr, result.error);
+        return Failed;
+    }
+    say(stdout, QCoreApplication::translate("CommandLine", "%1 written").arg(result.written));
+    if (result.skipped > 0)
+        say(stderr, QCoreApplication::translate("CommandLine", "%1 without name and address left out")
+                        .arg(result.skipped));
+    return Good;
+}
+
+} // namespace ko

@@ -1,0 +1,43 @@
+#ifndef KO_COMMANDLINE_H
+#define KO_COMMANDLINE_H
+
+#include <QString>
+
+namespace ko {
+
+class HostNodeDB;
+
+/// How koclient was called, and what it does for each way.
+class CommandLine
+{
+public:
+    enum ExitCode { Good = 0, SomeLinesBad = 1, Failed = 2, NoDatabase = 3, WrongUsage = 64 };
+
+    CommandLine(int& argc, char** argv);
+
+    /// Runs the program to its end.
+    int run();
+
+private:
+    bool parse();
+    bool needsWindow() const { return m_import.isEmpty() && m_export.isEmpty() && !m_checkTour; }
+    int runTask();
+    int runWindow(HostNodeDB& db) const;
+    int importCameras(HostNodeDB& db) const;
+    int exportCameras() const;
+
+    int& m_argc;
+    char** const m_argv;
+    QString m_database;
+    QString m_import;
+    QString m_export;
+    QString m_tour;
+    QString m_survey;
+    bool m_leaveOutPasswords = false;
+    bool m_checkTour = false;
+    int m_exitCode = Good; ///< when parse() ends the program
+};
+
+} // namespace ko
+
+#endif

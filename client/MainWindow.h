@@ -1,0 +1,86 @@
+#ifndef KO_MAINWINDOW_H
+#define KO_MAINWINDOW_H
+
+#include "database/NodeData.h"
+#include "store/StoreError.h"
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QSet>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QMessageBox;
+
+namespace ko {
+
+class HostNodeDB;
+class NodeListModel;
+class NodeListView;
+
+/// The client's window: the list of all nodes and what can be done with them.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// The database outlives the window.
+    explicit MainWindow(HostNodeDB& db, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private slots:
+    void addNode();
+    void editNode();
+    void removeNodes();
+    void showProperties();
+    void editProxy();
+    void editEnvironments();
+    void editPreferences();
+    void showAuditLog();
+    void showOverview();
+    void showDatabase();
+    void importCameras();
+    void exportCameras();
+    void about();
+
+    void nodeChanged(ko::NodeID id);
+    void nodeRemoved(ko::NodeID id);
+    void applyChanges();
+    void updateActions();
+    void updateStatus();
+
+    void storeFailed(const ko::StoreError& error);
+    void storeRecovered();
+
+private:
+    struct Command;
+
+    void createList();
+    void createCommands();
+    void createToolBar();
+    void openEditor(const QString& id, bool readOnly);
+    QString recordingText(const NodeSummary& node) const;
+    QStringList selectedNames(const QStringList& ids) const;
+    void restoreState();
+    void saveState() const;
+
+    HostNodeDB& m_db;
+    NodeListModel* const m_model;
+    NodeListView* const m_view;
+    QLineEdit* const m_search;
+    QComboBox* const m_types;
+    QLabel* const m_counts;
+    QList<QAction*> m_forOne;  ///< enabled while one node is selected
+    QList<QAction*> m_forSome; ///< enabled while at least one node is selected
+    QSet<QString> m_changed;   ///< taken into the list together at the end of the turn
+    QSet<QString> m_removed;
+    QPointer<QMessageBox> m_failure;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,72 @@
+#include "NodeLogEntries.h"
+
+#include "ko/LogEntryFactory.h"
+
+namespace ko {
+
+namespace {
+
+const char added[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Added device");
+const char removed[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Removed device");
+
+template <class Entry>
+LogEntry* create()
+{
+    return new Entry(QString());
+}
+
+} // namespace
+
+NodeLogEntry::NodeLogEntry(const QString& name)
+    : m_name("Name", QStringLiteral("name"), name)
+{
+    append(m_name);
+}
+
+NodeAddLogEntry::NodeAddLogEntry(const QString& name)
+    : NodeLogEntry(name)
+{
+}
+
+FourChars NodeAddLogEntry::typeCode() const
+{
+    return "NAdd";
+}
+
+QString NodeAddLogEntry::description() const
+{
+    return LogEntry::tr("Added device with name %1.");
+}
+
+QString NodeAddLogEntry::title() const
+{
+    return LogEntry::tr(added);
+}
+
+NodeRemoveLogEntry::NodeRemoveLogEntry(const QString& name)
+    : NodeLogEntry(name)
+{
+}
+
+FourChars NodeRemoveLogEntry::typeCode() const
+{
+    return "NRem";
+}
+
+QString NodeRemoveLogEntry::description() const
+{
+    return LogEntry::tr("Removed device with name %1.");
+}
+
+QString NodeRemoveLogEntry::title() const
+{
+    return LogEntry::tr(removed);
+}
+
+void registerNodeLogEntries()
+{
+    logEntryFactory().registerCreator("NAdd", create<NodeAddLogEntry>, QLatin1String(added));
+    logEntryFactory().registerCreator("NRem", create<NodeRemoveLogEntry>, QLatin1String(removed));
+}
+
+} // namespace ko

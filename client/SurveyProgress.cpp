@@ -1,0 +1,38 @@
+#include "SurveyProgress.h"
+
+#include <QCoreApplication>
+
+namespace ko {
+
+namespace {
+
+const int steps = 1000; ///< sizes of files do not fit the dialog's int
+
+} // namespace
+
+SurveyProgress::SurveyProgress(const QString& text, QWidget* parent)
+    : m_dialog(text, QCoreApplication::translate("SurveyProgress", "Cancel"), 0, steps, parent)
+{
+    m_dialog.setObjectName(QStringLiteral("surveyProgress"));
+    m_dialog.setWindowModality(Qt::WindowModal);
+    m_dialog.setAutoClose(false);
+    m_dialog.setAutoReset(false);
+    m_dialog.setValue(0);
+}
+
+CameraSurvey::Progress SurveyProgress::callback()
+{
+    return [this](qint64 done, qint64 total) {
+        m_dialog.setValue(total > 0 ? int(done * steps / total) : 0);
+        QCoreApplication::processEvents();
+        return !m_dialog.wasCanceled();
+    };
+}
+
+void SurveyProgress::finish()
+{
+    m_dialog.reset();
+    m_dialog.hide();
+}
+
+} // namespace ko

@@ -1,0 +1,26 @@
+#ifndef KO_SURVEYPROGRESS_H
+#define KO_SURVEYPROGRESS_H
+
+#include "exchange/CameraSurvey.h"
+
+#include <QProgressDialog>
+
+namespace ko {
+
+/// A progress dialog that can be cancelled, and the callback that feeds it.
+class SurveyProgress
+{
+public:
+    SurveyProgress(const QString& text, QWidget* parent);
+
+    /// Good while this object lives.
+    CameraSurvey::Progress callback();
+    void finish();
+
+private:
+    QProgressDialog m_dialog;
+};
+
+} // namespace ko
+
+#endif
