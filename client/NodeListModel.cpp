@@ -65,9 +65,22 @@ bool NodeListModel::less(Slot a, Slot b) const
     return order != 0 ? order < 0 : a < b; // a total order, so that a node is found where it must stand
 }
 
-NodeListModel::Slots::const_iterator NodeListModel::find(const Slots& rows, Slot slot) const
+/// Where a node stands in \a rows, or would stand.
+int NodeListModel::find(const Slots& rows, Slot slot) const
 {
-    return std::lower_bound(rows.begin(), rows.end(), slot, [this](Slot a, Slot b) { return less(a, b); });
+    const auto inOrder = [this](Slot a, Slot b) { return less(a, b); };
+    return int(std::lower_bound(rows.begin(), rows.end(), slot, inOrder) - rows.begin());
+}
+
+/// Where a node belongs that still stands at \a from but has a new key: its row after the move.
+int NodeListModel::findAgain(const Slots& rows, Slot slot, int from) const
+{
+    const auto inOrder = [this](Slot a, Slot b) { return less(a, b); };
+    const auto old = rows.begin() + from;
+    const auto before = std::lower_bound(rows.begin(), old, slot, inOrder);
+    if (before != old)
+        return int(before - rows.begin());
+    return int(std::lower_bound(old + 1, rows.end(), slot, inOrder) - rows.begin()) - 1;
 }
 
 const QString& NodeListModel::haystack(const Entry& entry) const
@@ -142,8 +155,8 @@ void NodeListModel::setNodes(const QVector<NodeSummary>& nodes)
     m_sorted.resize(int(m_nodes.size()));
     std::iota(m_sorted.begin(), m_sorted.end(), 0);
     std::sort(m_sorted.begin(), m_sorted.end(), [this](Slot a, Slot b) { return less(a, b); });
-    forgetHaystacks();
     m_shown = filtered(m_sorted);
+    prepareHaystacks();
     endResetModel();
 }
 
@@ -162,119 +175,165 @@ NodeListModel::Slot NodeListModel::addNode(const NodeSummary& node)
 
 void NodeListModel::apply(const QVector<NodeSummary>& changed, const QStringList& removed)
 {
+    const bool folders = changesFolders(changed, removed);
     if (changed.size() + removed.size() >= manyChanges) {
-        rebuild(changed, removed);
-        return;
+        applyMany(changed, removed);
+    } else {
+        for (const QString& id : removed) {
+            const auto found = m_slotOf.constFind(id);
+            if (found != m_slotOf.constEnd())
+                removeOne(*found);
+        }
+        for (const NodeSummary& node : changed) {
+            const auto found = m_slotOf.constFind(node.id);
+            if (found == m_slotOf.constEnd())
+                insertOne(node);
+            else
+                updateOne(*found, node);
+        }
     }
-    for (const QString& id : removed) {
-        const auto found = m_slotOf.constFind(id);
-        if (found != m_slotOf.constEnd())
-            removeOne(*found);
-    }
-    for (const NodeSummary& node : changed) {
-        const auto found = m_slotOf.constFind(node.id);
-        if (found == m_slotOf.constEnd())
-            insertOne(node);
-        else
-            updateOne(*found, node);
-    }
+    if (folders)
+        recordingTextsChanged();
 }
 
 void NodeListModel::insertOne(const NodeSummary& node)
 {
     const Slot slot = addNode(node);
-    m_sorted.insert(int(find(m_sorted, slot) - m_sorted.constBegin()), slot);
-    showAgain(slot, -1);
+    m_sorted.insert(find(m_sorted, slot), slot);
+    if (!matches(slot))
+        return;
+    const int row = find(m_shown, slot);
+    beginInsertRows(QModelIndex(), row, row);
+    m_shown.insert(row, slot);
+    endInsertRows();
 }
 
 void NodeListModel::removeOne(Slot slot)
 {
-    const int row = rowOf(m_nodes[size_t(slot)].summary.id);
+    const QString id = m_nodes[size_t(slot)].summary.id;
+    const int row = rowOf(id);
     if (row >= 0) {
         beginRemoveRows(QModelIndex(), row, row);
         m_shown.remove(row);
         endRemoveRows();
     }
-    m_sorted.remove(int(find(m_sorted, slot) - m_sorted.constBegin()));
-    m_slotOf.remove(m_nodes[size_t(slot)].summary.id);
+    m_sorted.remove(find(m_sorted, slot));
+    m_slotOf.remove(id);
     m_nodes[size_t(slot)] = Entry();
     m_free.append(slot);
 }
 
 void NodeListModel::updateOne(Slot slot, const NodeSummary& node)
 {
-    Entry& entry = m_nodes[size_t(slot)];
-    const bool folderMoved = node.type == RecordingFolderType && node.location != entry.summary.location;
-    const int from = rowOf(node.id);
-    m_sorted.remove(int(find(m_sorted, slot) - m_sorted.constBegin()));
-    entry = Entry{node, keyOf(node), QString()};
-    m_sorted.insert(int(find(m_sorted, slot) - m_sorted.constBegin()), slot);
-    showAgain(slot, from);
-    if (folderMoved)
-        forgetHaystacks(); // cameras that record there show the folder's path
+    const int row = rowOf(node.id);
+    const int place = find(m_sorted, slot);
+    m_nodes[size_t(slot)] = Entry{node, keyOf(node), QString()};
+    m_sorted.move(place, findAgain(m_sorted, slot, place));
+    if (row >= 0 && matches(slot)) {
+        moveShown(slot, row, findAgain(m_shown, slot, row));
+    } else if (row >= 0) {
+        beginRemoveRows(QModelIndex(), row, row);
+        m_shown.remove(row);
+        endRemoveRows();
+    } else if (matches(slot)) {
+        const int to = find(m_shown, slot);
+        beginInsertRows(QModelIndex(), to, to);
+        m_shown.insert(to, slot);
+        endInsertRows();
+    }
 }
 
-void NodeListModel::showAgain(Slot slot, int from)
+void NodeListModel::moveShown(Slot slot, int from, int to)
 {
-    Slots others = m_shown;
-    if (from >= 0)
-        others.remove(from);
-    const int to = int(find(others, slot) - others.constBegin());
-    if (!matches(slot)) {
-        if (from < 0)
-            return;
-        beginRemoveRows(QModelIndex(), from, from);
-        m_shown = others;
-        endRemoveRows();
-        return;
-    }
-    others.insert(to, slot);
-    if (from < 0) {
-        beginInsertRows(QModelIndex(), to, to);
-        m_shown = others;
-        endInsertRows();
-        return;
-    }
     if (to != from) {
         beginMoveRows(QModelIndex(), from, from, QModelIndex(), to > from ? to + 1 : to);
-        m_shown = others;
+        m_shown.move(from, to);
         endMoveRows();
     }
+    Q_ASSERT(m_shown.at(to) == slot);
+    Q_UNUSED(slot);
     emit dataChanged(index(to, 0), index(to, ColumnCount - 1));
 }
 
-void NodeListModel::rebuild(const QVector<NodeSummary>& changed, const QStringList& removed)
+void NodeListModel::applyMany(const QVector<NodeSummary>& changed, const QStringList& removed)
 {
     beginResetModel();
+    std::vector<bool> touched(m_nodes.size() + size_t(changed.size()));
     for (const QString& id : removed) {
         const auto found = m_slotOf.find(id);
         if (found == m_slotOf.end())
             continue;
+        touched[size_t(*found)] = true;
         m_nodes[size_t(*found)] = Entry();
         m_free.append(*found);
         m_slotOf.erase(found);
     }
+    Slots moving;
     for (const NodeSummary& node : changed) {
         const auto found = m_slotOf.constFind(node.id);
-        if (found == m_slotOf.constEnd())
-            addNode(node);
-        else
-            m_nodes[size_t(*found)] = Entry{node, keyOf(node), QString()};
+        const Slot slot = found == m_slotOf.constEnd() ? addNode(node) : *found;
+        touched[size_t(slot)] = true;
+        m_nodes[size_t(slot)] = Entry{node, keyOf(node), QString()};
+        moving.append(slot);
     }
-    m_sorted.clear();
-    m_sorted.reserve(int(m_slotOf.size()));
-    for (const Slot slot : std::as_const(m_slotOf))
-        m_sorted.append(slot);
-    std::sort(m_sorted.begin(), m_sorted.end(), [this](Slot a, Slot b) { return less(a, b); });
-    forgetHaystacks();
-    m_shown = filtered(m_sorted);
+    std::sort(moving.begin(), moving.end(), [this](Slot a, Slot b) { return less(a, b); });
+    moving.erase(std::unique(moving.begin(), moving.end()), moving.end());
+    putInPlace(m_sorted, touched, moving);
+    putInPlace(m_shown, touched, filtered(moving));
+    prepareHaystacks();
     endResetModel();
 }
 
-void NodeListModel::forgetHaystacks()
+/// Takes what was \a touched out of \a rows and puts \a sorted into them.
+void NodeListModel::putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted)
+{
+    const auto inOrder = [this](Slot a, Slot b) { return less(a, b); };
+    const auto isTouched = [&touched](Slot slot) { return touched[size_t(slot)]; };
+    const auto end = std::remove_if(rows.begin(), rows.end(), isTouched);
+    Slots merged(int(end - rows.begin()) + int(sorted.size()));
+    auto to = merged.begin();
+    auto from = rows.begin();
+    for (const Slot slot : sorted) {
+        const auto next = std::lower_bound(from, end, slot, inOrder);
+        to = std::copy(from, next, to);
+        *to++ = slot;
+        from = next;
+    }
+    std::copy(from, end, to);
+    rows.swap(merged);
+}
+
+/// Whether cameras that record into a folder will show something else.
+bool NodeListModel::changesFolders(const QVector<NodeSummary>& changed, const QStringList& removed) const
+{
+    const auto known = [this](const QString& id) {
+        const auto found = m_slotOf.constFind(id);
+        return found == m_slotOf.constEnd() ? NodeSummary() : m_nodes[size_t(*found)].summary;
+    };
+    const auto moves = [&known](const NodeSummary& node) {
+        const NodeSummary before = known(node.id);
+        return before.type == RecordingFolderType && before.location != node.location;
+    };
+    const auto goes = [&known](const QString& id) { return known(id).type == RecordingFolderType; };
+    return std::any_of(changed.begin(), changed.end(), moves) ||
+           std::any_of(removed.begin(), removed.end(), goes);
+}
+
+void NodeListModel::recordingTextsChanged()
 {
     for (Entry& entry : m_nodes)
         entry.haystack = QString();
+    prepareHaystacks();
+    if (m_sortColumn == RecordingColumn)
+        sortRows(RecordingColumn, m_sortOrder);
+    if (!m_words.isEmpty())
+        refilter(false);
+    if (!m_shown.isEmpty())
+        emit dataChanged(index(0, RecordingColumn), index(int(m_shown.size()) - 1, RecordingColumn));
+}
+
+void NodeListModel::prepareHaystacks()
+{
     m_prepared = 0;
     m_preparing.start(0, this);
 }
@@ -303,8 +362,8 @@ int NodeListModel::rowOf(const QString& id) const
     const auto found = m_slotOf.constFind(id);
     if (found == m_slotOf.constEnd())
         return -1;
-    const auto position = find(m_shown, *found);
-    return position != m_shown.constEnd() && *position == *found ? int(position - m_shown.constBegin()) : -1;
+    const int row = find(m_shown, *found);
+    return row < m_shown.size() && m_shown.at(row) == *found ? row : -1;
 }
 
 int NodeListModel::rowCount(const QModelIndex& parent) const
@@ -356,34 +415,60 @@ QVariant NodeListModel::headerData(int section, Qt::Orientation orientation, int
 
 void NodeListModel::sort(int column, Qt::SortOrder order)
 {
-    if (column < 0 || column >= ColumnCount || (column == m_sortColumn && order == m_sortOrder))
-        return;
+    if (column >= 0 && column < ColumnCount && (column != m_sortColumn || order != m_sortOrder))
+        sortRows(column, order);
+}
+
+void NodeListModel::sortRows(int column, Qt::SortOrder order)
+{
     emit layoutAboutToBeChanged(QList<QPersistentModelIndex>(), QAbstractItemModel::VerticalSortHint);
     const QModelIndexList before = persistentIndexList();
     Slots slotsBefore;
+    slotsBefore.reserve(int(before.size()));
     for (const QModelIndex& index : before)
         slotsBefore.append(m_shown.at(index.row()));
 
-    if (column != m_sortColumn) {
-        m_sortColumn = column;
-        for (const Slot slot : std::as_const(m_sorted))
-            m_nodes[size_t(slot)].sortKey = keyOf(m_nodes[size_t(slot)].summary);
-    }
+    const bool reversed = column == m_sortColumn && order != m_sortOrder;
+    m_sortColumn = column;
     m_sortOrder = order;
-    const auto inOrder = [this](Slot a, Slot b) { return less(a, b); };
-    std::sort(m_sorted.begin(), m_sorted.end(), inOrder);
-    if (m_shown.size() == m_sorted.size())
-        m_shown = m_sorted;
+    if (reversed)
+        reverse(m_sorted);
     else
-        std::sort(m_shown.begin(), m_shown.end(), inOrder);
+        sortAnew();
+    std::vector<bool> isShown(m_nodes.size());
+    for (const Slot slot : std::as_const(m_shown))
+        isShown[size_t(slot)] = true;
+    std::copy_if(m_sorted.cbegin(), m_sorted.cend(), m_shown.begin(),
+                 [&isShown](Slot slot) { return isShown[size_t(slot)]; });
 
     QModelIndexList after;
-    for (int i = 0; i < before.size(); ++i) {
-        const int row = int(find(m_shown, slotsBefore.at(i)) - m_shown.constBegin());
-        after.append(index(row, before.at(i).column()));
-    }
+    after.reserve(before.size());
+    for (int i = 0; i < before.size(); ++i)
+        after.append(index(find(m_shown, slotsBefore.at(i)), before.at(i).column()));
     changePersistentIndexList(before, after);
     emit layoutChanged(QList<QPersistentModelIndex>(), QAbstractItemModel::VerticalSortHint);
+}
+
+void NodeListModel::sortAnew()
+{
+    for (const Slot slot : std::as_const(m_sorted)) {
+        Entry& entry = m_nodes[size_t(slot)];
+        entry.sortKey = keyOf(entry.summary);
+    }
+    std::sort(m_sorted.begin(), m_sorted.end(), [this](Slot a, Slot b) { return less(a, b); });
+}
+
+/// Turns the order around; nodes with the same key stay in their order among themselves.
+void NodeListModel::reverse(Slots& rows) const
+{
+    std::reverse(rows.begin(), rows.end());
+    for (auto run = rows.begin(); run != rows.end();) {
+        const QString& key = m_nodes[size_t(*run)].sortKey;
+        const auto end = std::find_if(
+            run + 1, rows.end(), [this, &key](Slot slot) { return m_nodes[size_t(slot)].sortKey != key; });
+        std::reverse(run, end);
+        run = end;
+    }
 }
 
 } // namespace ko

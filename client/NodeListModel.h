@@ -7,6 +7,7 @@
 #include <QBasicTimer>
 #include <QHash>
 #include <QStringList>
+#include <QVector>
 
 #include <functional>
 #include <vector>
@@ -34,7 +35,7 @@ public:
     void setNodes(const QVector<NodeSummary>& nodes);
 
     /// Takes in nodes that are new or changed and forgets others, together. Many at once cost far less
-    /// than one after the other.
+    /// than one after the other. No node stands in both.
     void apply(const QVector<NodeSummary>& changed, const QStringList& removed);
 
     /// Shows only nodes in which each word of \a text stands in some column, whatever its case.
@@ -72,7 +73,8 @@ private:
     QString cell(const NodeSummary& node, int column) const;
     QString keyOf(const NodeSummary& node) const;
     bool less(Slot a, Slot b) const;
-    Slots::const_iterator find(const Slots& rows, Slot slot) const;
+    int find(const Slots& rows, Slot slot) const;
+    int findAgain(const Slots& rows, Slot slot, int from) const;
     const QString& haystack(const Entry& entry) const;
     bool matches(Slot slot) const;
     Slots filtered(const Slots& candidates) const;
@@ -83,11 +85,16 @@ private:
     void insertOne(const NodeSummary& node);
     void updateOne(Slot slot, const NodeSummary& node);
     void removeOne(Slot slot);
+    void moveShown(Slot slot, int from, int to);
 
-    /// Gives a changed node its place among the rows; \a from is its row so far, -1 if it had none.
-    void showAgain(Slot slot, int from);
-    void rebuild(const QVector<NodeSummary>& changed, const QStringList& removed);
-    void forgetHaystacks();
+    void applyMany(const QVector<NodeSummary>& changed, const QStringList& removed);
+    void putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted);
+    bool changesFolders(const QVector<NodeSummary>& changed, const QStringList& removed) const;
+    void recordingTextsChanged();
+    void sortRows(int column, Qt::SortOrder order);
+    void sortAnew();
+    void reverse(Slots& rows) const;
+    void prepareHaystacks();
 
     const RecordingText m_recordingText;
     std::vector<Entry> m_nodes;
