@@ -151,7 +151,7 @@ void TestDurability::confirmedEditsSurviveKills()
         timer.start();
         while (atLeast > 0 && !editor.canReadLine() && timer.elapsed() < 20000)
             editor.waitForReadyRead(1000);
-        QTest::qSleep(int(QRandomGenerator::global()->bounded(60)));
+        QThread::msleep(QRandomGenerator::global()->bounded(60));
         editor.kill();
         QVERIFY(editor.waitForFinished());
         QCOMPARE(editor.exitStatus(), QProcess::CrashExit);
