@@ -176,6 +176,7 @@ private slots:
     void portLeftOpenInANewSurvey();
     void channelLeftOpen();
     void addressLeftOpen();
+    void addressLeftOpenNextToItsNamesake();
     void typeColumn();
     void deviceWithoutChannels();
     void missingDrivers();
@@ -582,6 +583,9 @@ void tst_CameraSurvey::channelLeftOpen()
     QCOMPARE(valuesOf("new1").at(8), QString("A"));
     QCOMPARE(counts(import("address,port,type\n10.0.0.2,80,IP device\n")),
              QString("1 added, 0 updated, 0 unchanged, 0 bad"));
+    import("address,port,channel\n10.0.0.4,8080,2\n");
+    QCOMPARE(counts(import("address,port,type\n10.0.0.4,,IP device\n")),
+             QString("1 added, 0 updated, 0 unchanged, 0 bad"));
 }
 
 void tst_CameraSurvey::addressLeftOpen()
@@ -595,6 +599,18 @@ void tst_CameraSurvey::addressLeftOpen()
     QCOMPARE(valuesOf("new4"), QStringList({"2", "Spare", "", "80", "no", "", "", "", "C", ""}));
     QCOMPARE(valuesOf("new5"), QStringList({"2", "Other", "", "80", "no", "", "", "", "D", ""}));
     QCOMPARE(valuesOf("new6"), QStringList({"2", "Spare", "10.0.0.9", "80", "no", "", "", "", "E", ""}));
+}
+
+void tst_CameraSurvey::addressLeftOpenNextToItsNamesake()
+{
+    const QByteArray both("name,address\nGate,10.0.0.1\nGate,\n");
+    import("name,address\nGate,10.0.0.1\n");
+    QCOMPARE(counts(import(both)), QString("1 added, 0 updated, 1 unchanged, 0 bad"));
+    QCOMPARE(counts(import(both)), QString("0 added, 0 updated, 2 unchanged, 0 bad"));
+    QCOMPARE(counts(import("name,address,model\nGate,,M\n")),
+             QString("0 added, 1 updated, 0 unchanged, 0 bad"));
+    QCOMPARE(valuesOf("new1").at(8), QString());
+    QCOMPARE(valuesOf("new2").at(8), QString("M"));
 }
 
 void tst_CameraSurvey::typeColumn()
