@@ -134,10 +134,10 @@ void UserDataWidget::acceptProxy(const QString& address)
     const QString text = tr("The current address is still affected by the current proxy exceptions:<br>") +
                          QLatin1Char('"') + exceptions + QLatin1Char('"') + QLatin1String("<br>") +
                          tr("Please check the proxy settings!");
-    QMessageBox box(QMessageBox::Warning, tr("Proxy Settings"), text, QMessageBox::Ok, this,
-                    sheetDialogFlags(this));
+    QMessageBox box(QMessageBox::Warning, tr("Proxy Settings"), text, QMessageBox::Ok, this);
     box.setTextFormat(Qt::RichText);
     box.setWindowModality(Qt::WindowModal);
+    box.setWindowFlags(sheetDialogFlags(this)); // the modality of a message box replaces its flags
     box.exec();
     m_ui->bypassProxyCheckBox->setChecked(true);
 }
