@@ -49,19 +49,27 @@ QString NodeListModel::cell(const NodeSummary& node, int column) const
     }
 }
 
-QString NodeListModel::keyOf(const NodeSummary& node) const
+NodeListModel::Entry NodeListModel::entryOf(const NodeSummary& node) const
 {
-    const QString name = SearchText::sortKey(node.name);
-    if (m_sortColumn == NameColumn)
-        return name;
-    return SearchText::sortKey(cell(node, m_sortColumn)) + QChar(0) + name;
+    Entry entry;
+    entry.summary = node;
+    entry.nameKey = SearchText::sortKey(node.name);
+    entry.columnKey =
+        m_sortColumn == NameColumn ? entry.nameKey : SearchText::sortKey(cell(node, m_sortColumn));
+    return entry;
+}
+
+int NodeListModel::compareKeys(Slot a, Slot b) const
+{
+    const Entry& first = m_nodes[size_t(a)];
+    const Entry& second = m_nodes[size_t(b)];
+    const int order = first.columnKey.compare(second.columnKey);
+    return order != 0 || m_sortColumn == NameColumn ? order : first.nameKey.compare(second.nameKey);
 }
 
 bool NodeListModel::less(Slot a, Slot b) const
 {
-    const QString& first = m_nodes[size_t(a)].sortKey;
-    const QString& second = m_nodes[size_t(b)].sortKey;
-    const int order = m_sortOrder == Qt::AscendingOrder ? first.compare(second) : second.compare(first);
+    const int order = m_sortOrder == Qt::AscendingOrder ? compareKeys(a, b) : compareKeys(b, a);
     return order != 0 ? order < 0 : a < b; // a total order, so that a node is found where it must stand
 }
 
@@ -154,7 +162,7 @@ void NodeListModel::setNodes(const QVector<NodeSummary>& nodes)
         addNode(node);
     m_sorted.resize(int(m_nodes.size()));
     std::iota(m_sorted.begin(), m_sorted.end(), 0);
-    std::sort(m_sorted.begin(), m_sorted.end(), [this](Slot a, Slot b) { return less(a, b); });
+    sortAll();
     m_shown = filtered(m_sorted);
     prepareHaystacks();
     endResetModel();
@@ -168,9 +176,16 @@ NodeListModel::Slot NodeListModel::addNode(const NodeSummary& node)
     } else {
         slot = m_free.takeLast();
     }
-    m_nodes[size_t(slot)] = Entry{node, keyOf(node), QString()};
+    m_nodes[size_t(slot)] = entryOf(node);
     m_slotOf.insert(node.id, slot);
     return slot;
+}
+
+void NodeListModel::replace(Slot slot, const NodeSummary& node)
+{
+    const bool marked = m_nodes[size_t(slot)].marked;
+    m_nodes[size_t(slot)] = entryOf(node);
+    m_nodes[size_t(slot)].marked = marked;
 }
 
 void NodeListModel::apply(const QVector<NodeSummary>& changed, const QStringList& removed)
@@ -227,7 +242,7 @@ void NodeListModel::updateOne(Slot slot, const NodeSummary& node)
 {
     const int row = rowOf(node.id);
     const int place = find(m_sorted, slot);
-    m_nodes[size_t(slot)] = Entry{node, keyOf(node), QString()};
+    replace(slot, node);
     m_sorted.move(place, findAgain(m_sorted, slot, place));
     if (row >= 0 && matches(slot)) {
         moveShown(slot, row, findAgain(m_shown, slot, row));
@@ -273,7 +288,7 @@ void NodeListModel::applyMany(const QVector<NodeSummary>& changed, const QString
         const auto found = m_slotOf.constFind(node.id);
         const Slot slot = found == m_slotOf.constEnd() ? addNode(node) : *found;
         touched[size_t(slot)] = true;
-        m_nodes[size_t(slot)] = Entry{node, keyOf(node), QString()};
+        replace(slot, node);
         moving.append(slot);
     }
     std::sort(moving.begin(), moving.end(), [this](Slot a, Slot b) { return less(a, b); });
@@ -366,6 +381,30 @@ int NodeListModel::rowOf(const QString& id) const
     return row < m_shown.size() && m_shown.at(row) == *found ? row : -1;
 }
 
+void NodeListModel::setMarked(const QItemSelection& rows)
+{
+    for (Entry& entry : m_nodes)
+        entry.marked = false;
+    for (const QItemSelectionRange& range : rows) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            m_nodes[size_t(m_shown.at(row))].marked = true;
+    }
+}
+
+QItemSelection NodeListModel::marked() const
+{
+    const auto isMarked = [this](Slot slot) { return m_nodes[size_t(slot)].marked; };
+    QItemSelection selection;
+    const auto begin = m_shown.begin();
+    for (auto first = std::find_if(begin, m_shown.end(), isMarked); first != m_shown.end();) {
+        const auto end = std::find_if_not(first, m_shown.end(), isMarked);
+        selection.append(
+            QItemSelectionRange(index(int(first - begin), 0), index(int(end - begin) - 1, ColumnCount - 1)));
+        first = std::find_if(end, m_shown.end(), isMarked);
+    }
+    return selection;
+}
+
 int NodeListModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : int(m_shown.size());
@@ -383,7 +422,8 @@ QVariant NodeListModel::data(const QModelIndex& index, int role) const
     const NodeSummary& shown = node(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return cell(shown, index.column());
+        // Rows are one line high; a name may hold line breaks.
+        return cell(shown, index.column()).replace(QLatin1Char('\n'), QLatin1Char(' '));
     case Qt::DecorationRole:
         return index.column() == NameColumn ? QVariant(NodeTypes::icon(shown.type)) : QVariant();
     case NodeIdRole:
@@ -431,10 +471,12 @@ void NodeListModel::sortRows(int column, Qt::SortOrder order)
     const bool reversed = column == m_sortColumn && order != m_sortOrder;
     m_sortColumn = column;
     m_sortOrder = order;
-    if (reversed)
-        reverse(m_sorted);
-    else
-        sortAnew();
+    if (reversed) {
+        reverse();
+    } else {
+        makeColumnKeys();
+        sortAll();
+    }
     std::vector<bool> isShown(m_nodes.size());
     for (const Slot slot : std::as_const(m_shown))
         isShown[size_t(slot)] = true;
@@ -449,23 +491,62 @@ void NodeListModel::sortRows(int column, Qt::SortOrder order)
     emit layoutChanged(QList<QPersistentModelIndex>(), QAbstractItemModel::VerticalSortHint);
 }
 
-void NodeListModel::sortAnew()
+void NodeListModel::makeColumnKeys()
 {
+    QHash<QString, QString> shared; // types and recordings are the same for many nodes
     for (const Slot slot : std::as_const(m_sorted)) {
         Entry& entry = m_nodes[size_t(slot)];
-        entry.sortKey = keyOf(entry.summary);
+        if (m_sortColumn == NameColumn) {
+            entry.columnKey = entry.nameKey;
+        } else if (m_sortColumn == AddressColumn) {
+            entry.columnKey = SearchText::sortKey(entry.summary.location);
+        } else {
+            QString& key = shared[cell(entry.summary, m_sortColumn)];
+            if (key.isNull())
+                key = SearchText::sortKey(cell(entry.summary, m_sortColumn));
+            entry.columnKey = key;
+        }
     }
-    std::sort(m_sorted.begin(), m_sorted.end(), [this](Slot a, Slot b) { return less(a, b); });
 }
 
-/// Turns the order around; nodes with the same key stay in their order among themselves.
-void NodeListModel::reverse(Slots& rows) const
+void NodeListModel::sortAll()
 {
-    std::reverse(rows.begin(), rows.end());
-    for (auto run = rows.begin(); run != rows.end();) {
-        const QString& key = m_nodes[size_t(*run)].sortKey;
-        const auto end = std::find_if(
-            run + 1, rows.end(), [this, &key](Slot slot) { return m_nodes[size_t(slot)].sortKey != key; });
+    std::sort(m_sorted.begin(), m_sorted.end());
+    sortStably(&Entry::nameKey);
+    if (m_sortColumn != NameColumn)
+        sortStably(&Entry::columnKey);
+    if (m_sortOrder == Qt::DescendingOrder)
+        reverse();
+}
+
+void NodeListModel::sortStably(QString Entry::*key)
+{
+    struct Row
+    {
+        quint64 start;
+        Slot slot;
+    };
+    const auto keyOf = [this, key](Slot slot) -> const QString& { return m_nodes[size_t(slot)].*key; };
+    int same = m_sorted.isEmpty() ? 0 : int(keyOf(m_sorted.first()).size());
+    for (const Slot slot : std::as_const(m_sorted))
+        same = SearchText::sameStart(keyOf(m_sorted.first()), keyOf(slot), same);
+    std::vector<Row> rows;
+    rows.reserve(size_t(m_sorted.size()));
+    for (const Slot slot : std::as_const(m_sorted))
+        rows.push_back({SearchText::startNumber(keyOf(slot), same), slot});
+    std::stable_sort(rows.begin(), rows.end(), [&keyOf](const Row& a, const Row& b) {
+        return a.start != b.start ? a.start < b.start : keyOf(a.slot) < keyOf(b.slot);
+    });
+    std::transform(rows.begin(), rows.end(), m_sorted.begin(), [](const Row& row) { return row.slot; });
+}
+
+/// Turns the order around; nodes with the same keys stay in their order among themselves.
+void NodeListModel::reverse()
+{
+    std::reverse(m_sorted.begin(), m_sorted.end());
+    for (auto run = m_sorted.begin(); run != m_sorted.end();) {
+        const auto end = std::find_if(run + 1, m_sorted.end(),
+                                      [this, run](Slot slot) { return compareKeys(*run, slot) != 0; });
         std::reverse(run, end);
         run = end;
     }

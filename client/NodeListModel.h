@@ -6,6 +6,7 @@
 #include <QAbstractTableModel>
 #include <QBasicTimer>
 #include <QHash>
+#include <QItemSelection>
 #include <QStringList>
 #include <QVector>
 
@@ -51,6 +52,13 @@ public:
     /// Row of a node; -1 if it is not shown or not there.
     int rowOf(const QString& id) const;
 
+    /// Marks the nodes in these rows and no others. A mark stays with its node, shown or not, until the
+    /// node is removed: a view keeps its selection in marks while the rows change.
+    void setMarked(const QItemSelection& rows);
+
+    /// The marked nodes among those that are shown.
+    QItemSelection marked() const;
+
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -64,14 +72,17 @@ private:
     struct Entry
     {
         NodeSummary summary;
-        QString sortKey;
+        QString nameKey;
+        QString columnKey; ///< of the column that is sorted by
+        bool marked = false;
         mutable QString haystack; ///< all columns, folded, one to a line; null until it is needed
     };
     typedef int Slot; ///< index into m_nodes
     typedef QVector<Slot> Slots;
 
     QString cell(const NodeSummary& node, int column) const;
-    QString keyOf(const NodeSummary& node) const;
+    Entry entryOf(const NodeSummary& node) const;
+    int compareKeys(Slot a, Slot b) const;
     bool less(Slot a, Slot b) const;
     int find(const Slots& rows, Slot slot) const;
     int findAgain(const Slots& rows, Slot slot, int from) const;
@@ -85,6 +96,7 @@ private:
     void insertOne(const NodeSummary& node);
     void updateOne(Slot slot, const NodeSummary& node);
     void removeOne(Slot slot);
+    void replace(Slot slot, const NodeSummary& node);
     void moveShown(Slot slot, int from, int to);
 
     void applyMany(const QVector<NodeSummary>& changed, const QStringList& removed);
@@ -92,8 +104,12 @@ private:
     bool changesFolders(const QVector<NodeSummary>& changed, const QStringList& removed) const;
     void recordingTextsChanged();
     void sortRows(int column, Qt::SortOrder order);
-    void sortAnew();
-    void reverse(Slots& rows) const;
+    void makeColumnKeys();
+    void sortAll();
+
+    /// Sorts by numbers made of the first characters in which the keys differ; few need the whole key.
+    void sortStably(QString Entry::*key);
+    void reverse();
     void prepareHaystacks();
 
     const RecordingText m_recordingText;

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -27,8 +28,11 @@ void NodeListView::setNodeModel(NodeListModel* model)
     m_model = model;
     // Connected before the view connects itself: the selection is still there.
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &NodeListView::remember);
+    connect(model, &QAbstractItemModel::layoutAboutToBeChanged, this, &NodeListView::aboutToSort);
     setModel(model);
     connect(model, &QAbstractItemModel::modelReset, this, &NodeListView::restore);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &NodeListView::sorted);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, [this] { m_restoring = false; });
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& index) { emit nodeActivated(m_model->idAt(index.row())); });
 }
@@ -79,40 +83,70 @@ void NodeListView::keyPressEvent(QKeyEvent* event)
     QTreeView::keyPressEvent(event);
 }
 
+void NodeListView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command)
+{
+    m_selectionIsNew = true; // a click on the only row that is shown changes nothing but means it
+    QTreeView::setSelection(rect, command);
+}
+
+void NodeListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    m_selectionIsNew = m_selectionIsNew || !m_restoring;
+    QTreeView::selectionChanged(selected, deselected);
+}
+
+void NodeListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end)
+{
+    // A node that a change hides is still selected when the filter shows it again.
+    remember();
+    m_restoring = true;
+    QTreeView::rowsAboutToBeRemoved(parent, start, end);
+}
+
 void NodeListView::remember()
 {
-    // Nodes that the filter hides meanwhile stay remembered until something else is selected.
-    const QStringList ids = selectedIds();
-    if (!ids.isEmpty())
-        m_selected = QSet<QString>(ids.begin(), ids.end());
+    // What the filter hides stays selected until the user selects something else.
+    if (m_selectionIsNew)
+        m_model->setMarked(selectionModel()->selection());
+    m_selectionIsNew = false;
     if (currentIndex().isValid())
         m_current = m_model->idAt(currentIndex().row());
+    const bool inSight = viewport()->rect().intersects(visualRect(currentIndex()));
+    const QModelIndex top = inSight ? QModelIndex() : indexAt(QPoint(0, 0));
+    m_top = top.isValid() ? m_model->idAt(top.row()) : QString();
 }
 
 void NodeListView::restore()
 {
-    QVector<int> rows;
-    for (const QString& id : std::as_const(m_selected)) {
-        const int row = m_model->rowOf(id);
-        if (row >= 0)
-            rows.append(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    QItemSelection selection;
-    for (int i = 0; i < rows.size();) {
-        int end = i + 1;
-        while (end < rows.size() && rows.at(end) == rows.at(end - 1) + 1)
-            ++end;
-        selection.append(QItemSelectionRange(
-            m_model->index(rows.at(i), 0), m_model->index(rows.at(end - 1), NodeListModel::ColumnCount - 1)));
-        i = end;
-    }
-    const int current = m_model->rowOf(m_current);
-    if (current >= 0)
-        selectionModel()->setCurrentIndex(m_model->index(current, 0), QItemSelectionModel::NoUpdate);
-    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-    if (current >= 0)
-        scrollTo(m_model->index(current, 0));
+    const QScopedValueRollback<bool> restoring(m_restoring, true);
+    const QModelIndex current = m_model->index(m_model->rowOf(m_current), 0);
+    if (current.isValid())
+        selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(m_model->marked(), QItemSelectionModel::ClearAndSelect);
+    if (m_top.isEmpty())
+        scrollTo(current);
+    else
+        scrollTo(m_model->index(m_model->rowOf(m_top), 0), PositionAtTop);
+}
+
+void NodeListView::aboutToSort()
+{
+    // The toolkit would follow every selected row by itself, which is fine for a few.
+    m_selectAfterSort = selectedCount() > 1000;
+    if (!m_selectAfterSort)
+        return;
+    const QScopedValueRollback<bool> restoring(m_restoring, true);
+    remember();
+    selectionModel()->clearSelection();
+}
+
+void NodeListView::sorted()
+{
+    if (!m_selectAfterSort)
+        return;
+    m_selectAfterSort = false;
+    const QScopedValueRollback<bool> restoring(m_restoring, true);
+    selectionModel()->select(m_model->marked(), QItemSelectionModel::ClearAndSelect);
 }
 
 } // namespace ko

@@ -3,7 +3,6 @@
 
 #include "NodeListModel.h"
 
-#include <QSet>
 #include <QTreeView>
 
 namespace ko {
@@ -29,14 +28,22 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
 private:
     void remember();
     void restore();
+    void aboutToSort();
+    void sorted();
 
     NodeListModel* m_model = nullptr;
-    QSet<QString> m_selected;
     QString m_current;
+    QString m_top;                 ///< the first row in sight, if the current one is not
+    bool m_selectionIsNew = false; ///< the user's, not yet kept in the model's marks
+    bool m_restoring = false;
+    bool m_selectAfterSort = false;
 };
 
 } // namespace ko

@@ -58,6 +58,26 @@ QString sortKey(const QString& text)
     return key;
 }
 
+int sameStart(const QString& a, const QString& b, int limit)
+{
+    const int end = std::min({limit, int(a.size()), int(b.size())});
+    return int(std::mismatch(a.begin(), a.begin() + end, b.begin()).first - a.begin());
+}
+
+quint64 startNumber(const QString& key, int from)
+{
+    const int bytes = int(sizeof(quint64));
+    const ushort largest = 0xff;
+    quint64 number = 0;
+    bool exact = true;
+    for (int i = from; i < from + bytes; ++i) {
+        const ushort unit = exact && i < key.size() ? key.at(i).unicode() : ushort(0);
+        exact = exact && unit < largest; // what follows a character that was cut off tells nothing
+        number = number << 8 | std::min(unit, largest);
+    }
+    return number;
+}
+
 } // namespace SearchText
 
 } // namespace ko

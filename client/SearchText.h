@@ -14,6 +14,14 @@ QString folded(const QString& text);
 /// A folded text whose code units compare in natural order: "camera 2" stands before "camera 10".
 QString sortKey(const QString& text);
 
+/// In how many characters, at most \a limit, the texts begin alike.
+int sameStart(const QString& a, const QString& b, int limit);
+
+/// The characters of a key after the first \a from in one number. Where two keys that begin alike have
+/// different numbers, the smaller key has the smaller one; where the numbers are the same, the keys may
+/// still differ.
+quint64 startNumber(const QString& key, int from);
+
 } // namespace SearchText
 
 } // namespace ko

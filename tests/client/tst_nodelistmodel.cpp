@@ -8,6 +8,7 @@
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QRandomGenerator>
+#include <QSignalSpy>
 #include <QSortFilterProxyModel>
 
 #include <algorithm>
@@ -94,6 +95,17 @@ private slots:
     void renamedNodeMovesAndStaysSelected();
     void selectionSurvivesFilterAndSort();
     void hiddenSelectionIsNotReported();
+    void hiddenSelectionComesBack();
+    void hiddenByAChangeComesBackSelected();
+    void everythingSelectedStaysSelected();
+    void currentRowStaysInSight();
+    void listDoesNotJumpWhenNodesArrive();
+    void numbersOfKeysAreInTheirOrder();
+    void everyColumnInEitherOrderAgainstTruth_data();
+    void everyColumnInEitherOrderAgainstTruth();
+    void movedFolderShowsInItsCameras();
+    void lineBreaksInNamesAreShownAsBlanks();
+    void changeOfAHiddenNodeMovesNothing();
     void randomChangesAgainstTruth();
     void manyAtOnceEqualOneByOne();
     void fasterThanTheStockProxy();
@@ -264,6 +276,226 @@ void tst_NodeListModel::hiddenSelectionIsNotReported()
     QCOMPARE(view.selectedIds(), QStringList("b"));
 }
 
+void tst_NodeListModel::hiddenSelectionComesBack()
+{
+    NodeListModel model(recordingText);
+    NodeListView view;
+    view.setNodeModel(&model);
+    model.setNodes({summary("a", "Alpha"), summary("b", "Beta"), summary("c", "Gamma")});
+    view.selectNode("b");
+    view.selectionModel()->select(model.index(0, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    for (const char* search : {"b", "be", "bet", "be", "b"}) {
+        model.setSearch(search);
+        QCOMPARE(view.selectedIds(), QStringList("b"));
+    }
+    model.apply({}, {"c"}); // not the user's doing
+    model.setSearch(QString());
+    QCOMPARE(view.selectedIds(), QStringList({"a", "b"}));
+    QCOMPARE(view.currentIndex().row(), 1);
+
+    model.setSearch("b");
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(model.index(0, 0)).center());
+    model.setSearch(QString());
+    QCOMPARE(view.selectedIds(), QStringList("b"));
+}
+
+void tst_NodeListModel::hiddenByAChangeComesBackSelected()
+{
+    NodeListModel model(recordingText);
+    NodeListView view;
+    view.setNodeModel(&model);
+    model.setNodes({summary("a", "Gate 1"), summary("b", "Gate 2"), summary("c", "Gate 3")});
+    model.setSearch("gate");
+    view.selectAll();
+    model.apply({summary("b", "Dock")}, {});
+    QCOMPARE(view.selectedIds(), QStringList({"a", "c"}));
+    model.apply({}, {"a"});
+    model.setSearch(QString());
+    QCOMPARE(view.selectedIds(), QStringList({"b", "c"}));
+}
+
+void tst_NodeListModel::everythingSelectedStaysSelected()
+{
+    NodeListModel model(recordingText);
+    NodeListView view;
+    view.setNodeModel(&model);
+    const QVector<NodeSummary> nodes = site(3000);
+    model.setNodes(nodes);
+    view.selectAll();
+    QSignalSpy changes(view.selectionModel(), &QItemSelectionModel::selectionChanged);
+    model.sort(NodeListModel::AddressColumn, Qt::DescendingOrder);
+    QCOMPARE(view.selectedCount(), 3000);
+    model.setSearch("camera 7");
+    QCOMPARE(view.selectedCount(), model.rowCount());
+    model.setSearch(QString());
+    QCOMPARE(view.selectedCount(), 3000);
+    model.apply(site(100), {}); // nothing differs
+    QCOMPARE(view.selectedCount(), 3000);
+    QVERIFY(changes.count() < 10);
+}
+
+void tst_NodeListModel::currentRowStaysInSight()
+{
+    NodeListModel model(recordingText);
+    NodeListView view;
+    view.resize(500, 300);
+    view.setNodeModel(&model);
+    model.setNodes(site(3000));
+    view.show();
+    view.selectNode("id1500");
+    QVERIFY(view.viewport()->rect().contains(view.visualRect(view.currentIndex()).center()));
+    model.setSearch("floor");
+    model.setSearch("floor 2");
+    model.setSearch(QString());
+    QCoreApplication::processEvents();
+    QCOMPARE(model.idAt(view.currentIndex().row()), QString("id1500"));
+    QVERIFY(view.viewport()->rect().contains(view.visualRect(view.currentIndex()).center()));
+}
+
+void tst_NodeListModel::listDoesNotJumpWhenNodesArrive()
+{
+    NodeListModel model(recordingText);
+    NodeListView view;
+    view.resize(500, 300);
+    view.setNodeModel(&model);
+    model.setNodes(site(3000));
+    view.show();
+    view.selectNode("id0");
+    view.scrollToBottom();
+    const QString last = model.idAt(model.rowCount() - 1);
+    QVector<NodeSummary> arriving;
+    for (int i = 0; i < 200; ++i)
+        arriving.append(summary(QString("new%1").arg(i), QString("Zebra %1").arg(i)));
+    model.apply(arriving, {});
+    QCoreApplication::processEvents();
+    QVERIFY(view.viewport()->rect().intersects(view.visualRect(model.index(model.rowOf(last), 0))));
+}
+
+void tst_NodeListModel::numbersOfKeysAreInTheirOrder()
+{
+    QStringList texts = {"",
+                         "a",
+                         "b",
+                         "0",
+                         "camera 1",
+                         "camera 10",
+                         "camera 2",
+                         "camera 2 b",
+                         QString(QChar(0xff)),
+                         QString(QChar(0xff)) + "a",
+                         QString(QChar(0x100)) + "b",
+                         QString(QChar(0x416)) + "a",
+                         QString(QChar(0xffff)),
+                         QString(QChar(0)) + "x"};
+    for (int i = 0; i < texts.size(); ++i)
+        texts[i].append(QString("~").repeated(i % 3));
+    for (const QString& a : std::as_const(texts)) {
+        for (const QString& b : std::as_const(texts)) {
+            const int same = SearchText::sameStart(a, b, int(a.size()));
+            QCOMPARE(a.left(same), b.left(same));
+            QVERIFY(same == a.size() || same == b.size() || a.at(same) != b.at(same));
+            for (int from = 0; from <= same; ++from) {
+                const quint64 first = SearchText::startNumber(a, from);
+                const quint64 second = SearchText::startNumber(b, from);
+                QVERIFY(first == second || (first < second) == (a < b));
+            }
+        }
+    }
+    QVERIFY(SearchText::startNumber("camera 1", 0) < SearchText::startNumber("camera 2", 0));
+}
+
+void tst_NodeListModel::everyColumnInEitherOrderAgainstTruth_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<Qt::SortOrder>("order");
+    for (int column = 0; column < NodeListModel::ColumnCount; ++column) {
+        for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder})
+            QTest::addRow("%d %d", column, int(order)) << column << order;
+    }
+}
+
+void tst_NodeListModel::everyColumnInEitherOrderAgainstTruth()
+{
+    QFETCH(int, column);
+    QFETCH(Qt::SortOrder, order);
+    QRandomGenerator random(20261121);
+    const ENodeType types[] = {IPDeviceType, ViewType, RecordingFolderType};
+    QVector<NodeSummary> nodes;
+    for (int i = 0; i < 2000; ++i) {
+        const QString name = QString(random.bounded(3), QChar(0x430 + random.bounded(3))) +
+                             QString::number(random.bounded(20)) + QString(random.bounded(2), QChar('b'));
+        nodes.append(summary(QString::number(i), name, QString("10.0.0.%1").arg(random.bounded(30)),
+                             types[random.bounded(3)]));
+        nodes.last().recordingUsage = random.bounded(2);
+    }
+    NodeListModel model(recordingText);
+    model.setNodes(nodes);
+    model.sort(NodeListModel::AddressColumn, Qt::DescendingOrder);
+    model.sort(column, order);
+
+    const auto key = [column](const NodeSummary& node) {
+        const QString cells[] = {node.name, NodeTypes::readableName(node.type), node.location,
+                                 recordingText(node)};
+        return qMakePair(SearchText::sortKey(cells[column]), SearchText::sortKey(node.name));
+    };
+    QVector<NodeSummary> truth = nodes;
+    std::stable_sort(truth.begin(), truth.end(), [&](const NodeSummary& a, const NodeSummary& b) {
+        return order == Qt::AscendingOrder ? key(a) < key(b) : key(b) < key(a);
+    });
+    for (int row = 0; row < truth.size(); ++row)
+        QCOMPARE(model.idAt(row), truth.at(row).id);
+}
+
+void tst_NodeListModel::movedFolderShowsInItsCameras()
+{
+    QString path = "//server/a";
+    NodeListModel model([&path](const NodeSummary& node) {
+        return node.type == IPDeviceType && node.id == "cam" ? path : QString();
+    });
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setNodes({summary("cam", "Gate"), summary("other", "Dock"),
+                    summary("folder", "Folder", path, RecordingFolderType)});
+    model.setSearch("server/a gate");
+    QCOMPARE(names(model), QStringList("Gate"));
+    path = "//server/b";
+    model.apply({summary("folder", "Folder", path, RecordingFolderType)}, {});
+    QCOMPARE(names(model), QStringList());
+    model.setSearch("server/b gate");
+    QCOMPARE(names(model), QStringList("Gate"));
+
+    model.setSearch(QString());
+    model.sort(NodeListModel::RecordingColumn, Qt::DescendingOrder);
+    QCOMPARE(names(model).first(), QString("Gate"));
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    path.clear();
+    model.apply({}, {"folder"});
+    QCOMPARE(names(model), QStringList({"Gate", "Dock"})); // alike now, by name
+    QCOMPARE(changed.count(), 1);
+}
+
+void tst_NodeListModel::lineBreaksInNamesAreShownAsBlanks()
+{
+    NodeListModel model(recordingText);
+    model.setNodes({summary("a", "Gate\nnorth")});
+    QCOMPARE(model.index(0, 0).data().toString(), QString("Gate north"));
+    model.setSearch("gate north");
+    QCOMPARE(model.rowCount(), 1);
+}
+
+void tst_NodeListModel::changeOfAHiddenNodeMovesNothing()
+{
+    NodeListModel model(recordingText);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setNodes({summary("a", "Alpha"), summary("b", "Beta")});
+    model.setSearch("alpha");
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    model.apply({summary("b", "Aaa")}, {});
+    QCOMPARE(changed.count() + inserted.count(), 0);
+    model.apply({summary("b", "Alpha 2")}, {});
+    QCOMPARE(names(model), QStringList({"Alpha", "Alpha 2"}));
+}
+
 void tst_NodeListModel::randomChangesAgainstTruth()
 {
     QRandomGenerator random(20261120);
@@ -328,49 +560,81 @@ void tst_NodeListModel::manyAtOnceEqualOneByOne()
 void tst_NodeListModel::fasterThanTheStockProxy()
 {
     const QVector<NodeSummary> nodes = site(100000);
+    const auto painted = [](QTreeView& view) {
+        QCoreApplication::processEvents();
+        view.grab();
+    };
+    const auto prepare = [](QTreeView& view) {
+        view.resize(900, 600);
+        view.setRootIsDecorated(false);
+        view.setUniformRowHeights(true);
+    };
     PlainModel plain(nodes);
+    QTreeView plainView;
+    prepare(plainView);
+    plainView.setModel(&plain);
+    const double plainPaint = milliseconds([&] {
+        plainView.show();
+        painted(plainView);
+    });
     QSortFilterProxyModel proxy;
-    proxy.setSourceModel(&plain);
     proxy.setFilterKeyColumn(-1);
     proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
-    NodeListView proxyView;
-    proxyView.setModel(&proxy);
-    proxyView.show();
-    const double stockSort = milliseconds([&] { proxy.sort(0, Qt::DescendingOrder); });
-    QCoreApplication::processEvents();
+    proxy.setSourceModel(&plain);
+    plainView.setModel(&proxy);
+    painted(plainView);
+    const double stockSort = milliseconds([&] {
+        proxy.sort(NodeListModel::AddressColumn, Qt::DescendingOrder);
+        painted(plainView);
+    });
     const double stockFilter = milliseconds([&] {
         proxy.setFilterFixedString("7");
-        QCoreApplication::processEvents();
+        painted(plainView);
     });
 
     NodeListModel model(recordingText);
     NodeListView view;
+    prepare(view);
     view.setNodeModel(&model);
     const double load = milliseconds([&] { model.setNodes(nodes); });
-    view.show();
+    const double paint = milliseconds([&] {
+        view.show();
+        view.grab();
+    });
     QTest::qWait(400); // time in which a user has not found the search field yet
-    const double sort = milliseconds([&] { model.sort(0, Qt::DescendingOrder); });
-    const double first = milliseconds([&] {
-        model.setSearch("c");
-        QCoreApplication::processEvents();
+    const double sort = milliseconds([&] {
+        model.sort(NodeListModel::AddressColumn, Qt::DescendingOrder);
+        painted(view);
     });
-    const double second = milliseconds([&] {
-        model.setSearch("camera 7");
-        QCoreApplication::processEvents();
+    const double key = milliseconds([&] {
+        model.setSearch("7");
+        painted(view);
     });
+    const double nextKey = milliseconds([&] {
+        model.setSearch("77");
+        painted(view);
+    });
+    model.setSearch("7");
     const double insert = milliseconds([&] {
         for (int i = 0; i < 100; ++i)
             model.apply({summary(QString("new%1").arg(i), QString("Camera 7%1").arg(i))}, {});
-        QCoreApplication::processEvents();
+        painted(view);
     });
-    qInfo(
-        "100,000 rows in ms: load %.0f; sort %.0f (stock %.0f); first key %.0f, next key %.0f (stock %.0f); "
-        "100 inserts %.1f",
-        load, sort, stockSort, first, second, stockFilter, insert);
-    // Generous, for the machine is shared; the benchmark holds the exact bounds.
-    QVERIFY(first < 0.3 * stockFilter);
-    QVERIFY(second < 0.3 * stockFilter);
-    QVERIFY(sort < 1.5 * stockSort);
+    view.selectAll();
+    const double selected = milliseconds([&] {
+        model.setSearch(QString());
+        painted(view);
+    });
+    qInfo("100,000 rows in ms, the toolkit's own way in brackets: load %.0f; first paint %.1f (%.1f); "
+          "sort %.0f (%.0f); key %.0f (%.0f), next key %.0f; 100 single inserts %.0f; key with all selected "
+          "%.0f",
+          load, paint, plainPaint, sort, stockSort, key, stockFilter, nextKey, insert, selected);
+    // Wide bounds: other tests run at the same time, and in a debug build only the toolkit is optimised.
+    QVERIFY(key < 0.1 * stockFilter);
+    QVERIFY(nextKey < 0.1 * stockFilter);
+    QVERIFY(sort < 3 * stockSort);
+    QVERIFY(paint < 3 * plainPaint + 20);
+    QVERIFY(insert < stockFilter);
 }
 
 KO_TEST_MAIN(tst_NodeListModel)
