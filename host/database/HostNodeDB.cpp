@@ -291,10 +291,8 @@ NodeDB::TypeNames HostNodeDB::readableNodeTypeNames(const QList<ENodeType>* type
 {
     TypeNames names;
     const QList<ENodeType> offered = types ? *types : NodeTypes::all();
-    for (const ENodeType type : offered) {
-        if (types || NodeTypes::canBeAdded(type))
-            names.append({type, NodeTypes::readableName(type)});
-    }
+    for (const ENodeType type : offered)
+        names.append({type, NodeTypes::readableName(type)});
     if (sorted)
         std::stable_sort(names.begin(), names.end(), [](const auto& a, const auto& b) {
             return QString::localeAwareCompare(a.second, b.second) < 0;
@@ -481,7 +479,9 @@ GlobalNetworkProxy& HostNodeDB::globalProxy()
 void HostNodeDB::Private::proxyChanged()
 {
     // Also called when the settings of another process are taken over: then nothing differs.
-    const NodeTables::Settings defaults = ProxySettings::fromProxy(GlobalNetworkProxy());
+    GlobalNetworkProxy untouched;
+    ProxySettings::toProxy(NodeTables::Settings(), untouched);
+    const NodeTables::Settings defaults = ProxySettings::fromProxy(untouched);
     const NodeTables::Settings values = ProxySettings::fromProxy(proxy);
     for (auto it = values.begin(); it != values.end(); ++it) {
         if (memory.settings.value(it.key(), defaults.value(it.key())) != it.value())

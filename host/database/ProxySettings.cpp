@@ -20,6 +20,8 @@ constexpr char Password[] = "proxy.password";
 constexpr char SavePassword[] = "proxy.savePassword";
 constexpr char Exceptions[] = "proxy.exceptions";
 
+constexpr int DefaultPort = 8080; // of a database in which none was set yet
+
 } // namespace
 
 NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy)
@@ -45,7 +47,8 @@ void toProxy(const NodeTables::Settings& settings, GlobalNetworkProxy& proxy)
     const bool savePassword = get(SavePassword).toInt() != 0;
     NetworkProxy stored;
     stored.setUseProxy(get(Use).toInt() != 0);
-    stored.setProxyAddress(get(Address), get(Port).toInt());
+    const QString port = get(Port);
+    stored.setProxyAddress(get(Address), port.isEmpty() ? DefaultPort : port.toInt());
     stored.setProxyUser(get(User), savePassword ? get(Password) : proxy.proxyPassword());
     stored.setSaveProxyPassword(savePassword);
     QStringList patterns;
