@@ -18,7 +18,8 @@ QString translated(const char* text, int n = -1)
 QString listed(const QStringList& names)
 {
     QStringList lines;
-    for (const QString& name : names.mid(0, namedAtMost))
+    const QStringList named = names.mid(0, namedAtMost);
+    for (const QString& name : named)
         lines.append(QStringLiteral("    ") + (name.isEmpty() ? translated("(unnamed)") : name));
     const int more = int(names.size()) - namedAtMost;
     if (more > 0)

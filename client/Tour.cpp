@@ -138,7 +138,7 @@ void Tour::picture(QWidget* widget, const char* name)
 void Tour::withDialog(const char* action, const std::function<void(QDialog*)>& work)
 {
     bool came = false;
-    QTimer::singleShot(50, &m_window, [&came, &work, this] {
+    QTimer::singleShot(50, &m_window, [&came, &work] {
         QDialog* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!dialog)
             return;
