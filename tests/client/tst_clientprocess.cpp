@@ -42,8 +42,7 @@ class TirelessUser : public QObject
 {
 public:
     explicit TirelessUser(HostNodeDB& db)
-        : m_db(db)
-        , m_window(db)
+        : m_window(db)
         , m_camera(db.nodeIdList(IPDeviceType).value(0))
         , m_number(db.node(m_camera)->name().section(QLatin1Char(' '), 1).toInt())
     {
@@ -83,7 +82,6 @@ private:
             Qt::QueuedConnection);
     }
 
-    HostNodeDB& m_db;
     MainWindow m_window;
     const QString m_camera;
     int m_number;

@@ -64,10 +64,12 @@ private:
     QString m_file;
     std::unique_ptr<HostNodeDB> m_db;
     std::unique_ptr<PlainSql> m_lock;
+    QStringList m_seen; ///< by receivers of the signals
 };
 
 void TestHostNodeDB::init()
 {
+    m_seen.clear();
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath(QLatin1String("nodes.db"));
     m_db = openDatabase(m_file);
@@ -337,17 +339,16 @@ void TestHostNodeDB::removalOfAnUnknownNodeDoesNothing()
 
 void TestHostNodeDB::receiversMayCallBack()
 {
-    QStringList seen;
     connect(m_db.get(), &NodeDB::nodeInserted, this, [&](const NodeID& id) {
         setText(*m_db, id, "Name", QLatin1String("named by a receiver"));
         m_db->flush();
     });
-    connect(m_db.get(), &NodeDB::nodeUpdated, this, [&](const NodeID& id) {
-        seen.append(m_db->node(id)->name());
+    connect(m_db.get(), &NodeDB::nodeUpdated, this, [this](const NodeID& id) {
+        m_seen.append(m_db->node(id)->name());
         m_db->removeNode(id);
     });
     const QString id = addCamera(*m_db, QLatin1String("a"), QLatin1String("10.0.0.1"));
-    QCOMPARE(seen, QStringList(QLatin1String("named by a receiver")));
+    QCOMPARE(m_seen, QStringList(QLatin1String("named by a receiver")));
     QVERIFY(m_db->node(id).null());
     reopen();
     QCOMPARE(m_db->nodeIdList(AllNodeTypes), QStringList());
@@ -614,15 +615,14 @@ void TestHostNodeDB::discardGoesBackToWhatIsStored()
     m_db->setBandwidth(SlowRemote);
     m_db->globalProxy().setUseProxy(true);
 
-    QStringList seen;
-    connect(m_db.get(), &NodeDB::nodeInserted, this, [&](const NodeID& id) { seen << "+" + id; });
-    connect(m_db.get(), &NodeDB::nodeUpdated, this, [&](const NodeID& id) { seen << "=" + id; });
-    connect(m_db.get(), &NodeDB::nodeRemoved, this, [&](const NodeID& id) { seen << "-" + id; });
+    connect(m_db.get(), &NodeDB::nodeInserted, this, [this](const NodeID& id) { m_seen << "+" + id; });
+    connect(m_db.get(), &NodeDB::nodeUpdated, this, [this](const NodeID& id) { m_seen << "=" + id; });
+    connect(m_db.get(), &NodeDB::nodeRemoved, this, [this](const NodeID& id) { m_seen << "-" + id; });
     m_db->discardUnstoredChanges();
-    seen.sort();
+    m_seen.sort();
     QStringList expected = {"+" + gone, "-" + added, "=" + kept, "=" + still};
     expected.sort();
-    QCOMPARE(seen, expected);
+    QCOMPARE(m_seen, expected);
     QVERIFY(!m_db->hasUnstoredChanges());
     for (int round = 0; round < 2; ++round) {
         QCOMPARE(m_db->nodeIdList(AllNodeTypes), QStringList({kept, gone, still}));

@@ -95,7 +95,8 @@ void tst_NodeTypes::unknownTypeIsPlainAndHasNoDriver()
 
 void tst_NodeTypes::driverMakesHintsOnlyOfTypesThatCanBeAdded()
 {
-    for (const ENodeType type : NodeTypes::all()) {
+    const QList<ENodeType> types = NodeTypes::all();
+    for (const ENodeType type : types) {
         const kom::smart<NodeHint> hint = NodeTypes::driver(type)->createNodeHint(type);
         QCOMPARE(!hint.null(), NodeTypes::canBeAdded(type));
         if (hint.null())
@@ -206,7 +207,8 @@ void tst_NodeTypes::getterOfAnotherTypeGivesTheDefault()
 
 void tst_NodeTypes::onlyChannelDevicesSupportChannels()
 {
-    for (const ENodeType type : NodeTypes::all()) {
+    const QList<ENodeType> types = NodeTypes::all();
+    for (const ENodeType type : types) {
         NodeData data;
         data.type = type;
         const std::unique_ptr<Node> node = NodeTypes::createNode(data);

@@ -212,13 +212,13 @@ void TestSqliteStore::oldVersionIsMigratedAndACopyKept()
     }
     QCOMPARE(backups().count(), 1);
     const QString prefix = QLatin1String("nodes.db.backup-v1-");
-    QVERIFY(backups().first().startsWith(prefix));
-    QDateTime time =
-        QDateTime::fromString(backups().first().mid(prefix.size()), QLatin1String("yyyyMMdd'T'HHmmss'Z'"));
+    QVERIFY(backups().constFirst().startsWith(prefix));
+    QDateTime time = QDateTime::fromString(backups().constFirst().mid(prefix.size()),
+                                           QLatin1String("yyyyMMdd'T'HHmmss'Z'"));
     time.setTimeSpec(Qt::UTC);
     QVERIFY(time >= before && time <= QDateTime::currentDateTimeUtc());
     // The copy is a database of the old version, which can be opened in its turn.
-    m_file = m_folder->filePath(backups().first());
+    m_file = m_folder->filePath(backups().constFirst());
     QCOMPARE(mode(m_file), 0600);
     QCOMPARE(open(1)->value("SELECT name FROM nodes").toString(), QLatin1String("old"));
     QCOMPARE(open(1)->value("PRAGMA user_version").toInt(), 1);

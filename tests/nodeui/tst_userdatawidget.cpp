@@ -267,7 +267,7 @@ void tst_UserDataWidget::sslChanged()
     for (const int state : {2, 0}) {
         QTest::mouseClick(m_ssl, Qt::LeftButton, Qt::NoModifier, QPoint(8, m_ssl->height() / 2));
         QCOMPARE(changes.count(), 1);
-        QCOMPARE(changes.takeFirst().first().toInt(), state);
+        QCOMPARE(changes.takeFirst().at(0).toInt(), state);
         QCOMPARE(m_port->value(), 80); // a default port is the owner's affair
     }
 }
@@ -533,7 +533,7 @@ void tst_UserDataWidget::bypassAdded()
     QTest::mouseClick(m_bypass, Qt::LeftButton, Qt::NoModifier, QPoint(8, m_bypass->height() / 2));
     QVERIFY(m_bypass->isChecked());
     QVERIFY(m_db->calls.isEmpty()); // nothing while editing
-    QCOMPARE(acceptInto("cam").last(), QString("globalProxy.addException(10.0.0.1)"));
+    QCOMPARE(acceptInto("cam").constLast(), QString("globalProxy.addException(10.0.0.1)"));
     QCOMPARE(m_db->proxySettings.exceptions(), QStringList({"192.168.*", "10.0.0.1"}));
 }
 

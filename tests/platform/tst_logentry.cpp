@@ -157,7 +157,8 @@ void tst_LogEntry::factory()
     QCOMPARE(again->text(), QString("first "));
     QVERIFY(!factory.create("test"));
     QStringList codes;
-    for (const FourChars code : factory.codes())
+    const auto known = factory.codes();
+    for (const FourChars code : known)
         codes.append(code.toString());
     QCOMPARE(codes, QStringList({"Abcd", "Test"}));
 }

@@ -222,7 +222,8 @@ void tst_NodeView::eachListHoldsANodeOnce()
     QCOMPARE(shown.view->entriesOf("a").size(), 3);
     QCOMPARE(shown.view->entriesOf("b").size(), 1);
     QVERIFY(shown.view->entriesOf("A").isEmpty());
-    for (const auto& entry : shown.view->entriesOf("a"))
+    const auto entries = shown.view->entriesOf("a");
+    for (const auto& entry : entries)
         QCOMPARE(entry->id(), QString("a"));
 }
 
@@ -288,10 +289,10 @@ void tst_NodeView::handlesOutliveTheView()
     {
         NodeView view("View");
         view.addNode("a");
-        node = view.entriesOf("a").first();
+        node = view.entriesOf("a").constFirst();
         list = view.addSubView("List");
         view.addNodeTo(*list, "b");
-        inner = view.entriesOf("b").first();
+        inner = view.entriesOf("b").constFirst();
         QCOMPARE(view.parentOf(*inner), list.get());
         QCOMPARE(view.parentOf(*node), &view.root());
     }
