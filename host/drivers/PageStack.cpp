@@ -19,6 +19,15 @@ namespace {
 const int httpPort = 80;
 const int httpsPort = 443;
 
+/// How far right of its tab's edge a caption begins: pages and their boxes have margins of their own.
+int indent(const QLabel* caption)
+{
+    int left = 0;
+    for (const QWidget* box = caption->parentWidget(); box && box->layout(); box = box->parentWidget())
+        left += box->contentsMargins().left() + box->layout()->contentsMargins().left();
+    return left;
+}
+
 } // namespace
 
 PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
@@ -75,11 +84,11 @@ void PageStack::alignCaptions()
         for (int row = 0; row < form->rowCount(); ++row)
             add(form->itemAt(row, QFormLayout::LabelRole));
     }
-    int width = 0;
+    int edge = 0;
     for (const QLabel* caption : std::as_const(captions))
-        width = qMax(width, qMax(caption->sizeHint().width(), caption->minimumWidth()));
+        edge = qMax(edge, indent(caption) + qMax(caption->sizeHint().width(), caption->minimumWidth()));
     for (QLabel* caption : std::as_const(captions))
-        caption->setMinimumWidth(width);
+        caption->setMinimumWidth(edge - indent(caption));
 }
 
 void PageStack::init(const NodeID& id, bool readOnly)
