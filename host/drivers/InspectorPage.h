@@ -1,6 +1,7 @@
 #ifndef KO_INSPECTORPAGE_H
 #define KO_INSPECTORPAGE_H
 
+#include "HostExport.h"
 #include "pages/LayoutOptionsWidget.h"
 #include "pages/UserDataWidget.h"
 
@@ -16,7 +17,7 @@ class Node;
 class NodeHint;
 
 /// One page of an inspector, whatever the class of its widget: pages share operations, not a base class.
-class InspectorPage
+class KO_HOST_EXPORT InspectorPage
 {
 public:
     virtual ~InspectorPage() = default;
