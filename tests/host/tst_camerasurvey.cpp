@@ -425,7 +425,9 @@ void tst_CameraSurvey::nothingOfACellIsRepeated()
 {
     db->addCamera("twin1", "T").setAddress("10.9.9.9");
     db->addCamera("twin2", "T").setAddress("10.9.9.9");
-    static_cast<IPDeviceNode*>(db->beginUpdateNode("twin1", -1))->setPort(1);
+    Node* twin = db->beginUpdateNode("twin1", -1);
+    dynamic_cast<IPDeviceNode*>(twin)->setPort(1);
+    db->endUpdateNode(twin);
     const char* const lines[] = {"x,10.0.0.9,s3cret,,,,,,,",
                                  "x,10.0.0.9,,s3cret,,,,,,",
                                  "x,10.0.0.9,,,,,s3cret,,,",
