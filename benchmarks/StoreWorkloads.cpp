@@ -1,4 +1,4 @@
-#include "RawSqlite.h"
+#include "RawInserter.h"
 #include "Site.h"
 #include "Stopwatch.h"
 #include "Workload.h"
@@ -19,67 +19,6 @@ namespace bench {
 using namespace ko;
 
 namespace {
-
-/// What the baselines write of one camera.
-struct Row
-{
-    QString id;
-    QString name;
-    QString address;
-};
-
-const QVector<QPair<QString, QString>>& plainProperties()
-{
-    static const QVector<QPair<QString, QString>> properties = {
-        {QStringLiteral("Port"), QStringLiteral("80")},
-        {QStringLiteral("UseSSL"), QStringLiteral("0")},
-        {QStringLiteral("User"), QStringLiteral("admin")},
-        {QStringLiteral("Password"), QString()},
-        {QStringLiteral("Model"), QString()},
-        {QStringLiteral("Version"), QString()},
-        {QStringLiteral("InfoFile"), QString()},
-        {QStringLiteral("SmoothDisplay"), QString()},
-        {QStringLiteral("PreferredLayout"), QString()},
-        {QStringLiteral("AudioPathID"), QString()},
-        {QStringLiteral("RotorControl"), QStringLiteral("0")},
-    };
-    return properties;
-}
-
-/// Inserts nodes with twelve properties each through the database library alone.
-class RawInserter
-{
-public:
-    explicit RawInserter(RawSqlite& database)
-        : m_node(database, "INSERT INTO nodes (id, type, name, location, recording, lookup)"
-                           " VALUES (?, 2, ?, ?, 0, ?)")
-        , m_property(database, "INSERT INTO properties (node, key, type, value) VALUES (?, ?, 1, ?)")
-        , m_change(database, "INSERT INTO changes (kind, id) VALUES ('N', ?)")
-        , m_database(database)
-    {
-    }
-
-    void insert(const Row& row)
-    {
-        m_node.bind(1, row.id).bind(2, row.name).bind(3, row.address).bind(4, row.address).execute();
-        const qint64 node = m_database.lastRow();
-        property(node, QStringLiteral("Address"), row.address);
-        for (const auto& plain : plainProperties())
-            property(node, plain.first, plain.second);
-        m_change.bind(1, row.id).execute();
-    }
-
-private:
-    void property(qint64 node, const QString& key, const QString& value)
-    {
-        m_property.bind(1, node).bind(2, key).bind(3, value).execute();
-    }
-
-    RawSqlite::Statement m_node;
-    RawSqlite::Statement m_property;
-    RawSqlite::Statement m_change;
-    RawSqlite& m_database;
-};
 
 class Opening : public Contest
 {
@@ -224,8 +163,11 @@ public:
             database.run("BEGIN IMMEDIATE");
             while (!list.atEnd()) {
                 const QStringList cells = QString::fromUtf8(list.readLine()).split(QLatin1Char(','));
-                inserter.insert({QUuid::createUuid().toString(),
-                                 QString(cells.at(0)).remove(QLatin1Char('"')), cells.at(1)});
+                NodeSummary camera;
+                camera.id = QUuid::createUuid().toString();
+                camera.name = QString(cells.at(0)).remove(QLatin1Char('"'));
+                camera.location = cells.at(1);
+                inserter.insert(camera);
             }
             database.run("COMMIT");
         });

@@ -83,9 +83,7 @@ NodeDBViewer::NodeDBViewer(QWidget* parent)
     ko::connect(m_ui->nodesTableView, SIGNAL(doubleClicked(QModelIndex)), this,
                 SLOT(openPropertyWindow(QModelIndex)));
 
-    const QStringList ids = NodeDB::getDB()->nodeIdList(AllNodeTypes);
-    for (const QString& id : ids)
-        m_view->addNode(id);
+    m_view->addNodes(NodeDB::getDB()->nodeIdList(AllNodeTypes));
 }
 
 NodeDBViewer::~NodeDBViewer() = default;

@@ -1,5 +1,7 @@
 #include "ko/NodeView.h"
 
+#include <QSet>
+
 namespace ko {
 
 NodeView::NodeView(const QString& name)
@@ -28,25 +30,32 @@ QList<kom::smart<NodeEntry>> NodeView::entriesOf(const NodeID& id) const
     return entries;
 }
 
+bool NodeView::holds(const SubViewEntry& list, const NodeID& id) const
+{
+    for (auto found = m_entriesByNode.constFind(id); found != m_entriesByNode.constEnd() && found.key() == id;
+         ++found) {
+        if (m_entries.value(found.value())->m_parent == &list)
+            return true;
+    }
+    return false;
+}
+
 kom::smart<SubViewEntry> NodeView::addSubView(const QString& name)
 {
     const kom::smart<SubViewEntry> list = kom::makeSmart<SubViewEntry>(++m_lastInternalId, name);
+    emit entriesAboutToBeInserted(m_root->internalId(), m_root->count(), m_root->count());
     append(*m_root, list);
+    emit entriesInserted();
     return list;
 }
 
 void NodeView::addNodeTo(SubViewEntry& list, const NodeID& id)
 {
-    const QList<kom::smart<NodeEntry>> entries = entriesOf(id);
-    for (const kom::smart<NodeEntry>& entry : entries) {
-        if (entry->m_parent == &list)
-            return;
-    }
-    if (&list != m_root.get() && list.m_parent != m_root.get())
+    if (holds(list, id) || (&list != m_root.get() && list.m_parent != m_root.get()))
         return;
-    const kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
-    m_entriesByNode.insert(id, entry->internalId());
-    append(list, entry);
+    emit entriesAboutToBeInserted(list.internalId(), list.count(), list.count());
+    appendNode(list, id);
+    emit entriesInserted();
 }
 
 void NodeView::addNode(ko::NodeID id)
@@ -54,12 +63,35 @@ void NodeView::addNode(ko::NodeID id)
     addNodeTo(*m_root, id);
 }
 
+void NodeView::addNodes(const QStringList& ids)
+{
+    QStringList added;
+    QSet<QString> known;
+    for (const QString& id : ids) {
+        if (!known.contains(id) && !holds(*m_root, id))
+            added.append(id);
+        known.insert(id);
+    }
+    if (added.isEmpty())
+        return;
+    emit entriesAboutToBeInserted(m_root->internalId(), m_root->count(),
+                                  m_root->count() + int(added.size()) - 1);
+    for (const QString& id : std::as_const(added))
+        appendNode(*m_root, id);
+    emit entriesInserted();
+}
+
 void NodeView::append(SubViewEntry& list, const kom::smart<NodeViewEntry>& entry)
 {
-    emit entryAboutToBeInserted(list.internalId(), list.count());
     m_entries.insert(entry->internalId(), entry);
     list.append(entry);
-    emit entryInserted();
+}
+
+void NodeView::appendNode(SubViewEntry& list, const NodeID& id)
+{
+    const kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
+    m_entriesByNode.insert(id, entry->internalId());
+    append(list, entry);
 }
 
 void NodeView::removeNode(const QString& id, bool everywhere)

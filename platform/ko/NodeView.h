@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QStringList>
 
 namespace ko {
 
@@ -44,6 +45,10 @@ public:
     /// Appends a node to a list of this view; nothing happens if it stands there or the list is gone.
     void addNodeTo(SubViewEntry& list, const NodeID& id);
 
+    /// Appends these nodes in their order, as addNode() does with each, and announces them together:
+    /// models and the views on them would take the rows one by one in a time that grows with the square.
+    void addNodes(const QStringList& ids);
+
     /// Takes the node off the view's own list, with \a everywhere off all its lists. The node itself
     /// stays in the database.
     void removeNode(const QString& id, bool everywhere);
@@ -53,16 +58,18 @@ public slots:
     void addNode(ko::NodeID id);
 
 signals:
-    // Each change is bracketed by one of the first column and its partner, for item models.
-    void entryAboutToBeInserted(unsigned listId, int row);
-    void entryInserted();
+    // Each change is bracketed by a signal and its partner, for item models.
+    void entriesAboutToBeInserted(unsigned listId, int first, int last);
+    void entriesInserted();
     void entryAboutToBeRemoved(unsigned listId, int row);
     void entryRemoved();
     void aboutToBeCleared();
     void cleared();
 
 private:
+    bool holds(const SubViewEntry& list, const NodeID& id) const;
     void append(SubViewEntry& list, const kom::smart<NodeViewEntry>& entry);
+    void appendNode(SubViewEntry& list, const NodeID& id);
 
     std::unique_ptr<SubViewEntry> m_root;
     QHash<unsigned, kom::smart<NodeViewEntry>> m_entries;

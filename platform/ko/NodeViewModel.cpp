@@ -13,9 +13,9 @@ NodeViewModel::NodeViewModel(kom::smart<NodeView> view, QObject* parent)
     , m_view(view)
 {
     const NodeView* source = m_view.get();
-    ko::connect(source, SIGNAL(entryAboutToBeInserted(uint, int)), this,
-                SLOT(entryAboutToBeInserted(uint, int)));
-    ko::connect(source, SIGNAL(entryInserted()), this, SLOT(entryInserted()));
+    ko::connect(source, SIGNAL(entriesAboutToBeInserted(uint, int, int)), this,
+                SLOT(entriesAboutToBeInserted(uint, int, int)));
+    ko::connect(source, SIGNAL(entriesInserted()), this, SLOT(entriesInserted()));
     ko::connect(source, SIGNAL(entryAboutToBeRemoved(uint, int)), this,
                 SLOT(entryAboutToBeRemoved(uint, int)));
     ko::connect(source, SIGNAL(entryRemoved()), this, SLOT(entryRemoved()));
@@ -161,12 +161,12 @@ QMimeData* NodeViewModel::mimeData(const QModelIndexList& indexes) const
     return data;
 }
 
-void NodeViewModel::entryAboutToBeInserted(unsigned listId, int row)
+void NodeViewModel::entriesAboutToBeInserted(unsigned listId, int first, int last)
 {
-    beginInsertRows(indexOfList(listId), row, row);
+    beginInsertRows(indexOfList(listId), first, last);
 }
 
-void NodeViewModel::entryInserted()
+void NodeViewModel::entriesInserted()
 {
     endInsertRows();
 }

@@ -44,8 +44,8 @@ protected:
     const kom::smart<NodeView>& view() const { return m_view; }
 
 private slots:
-    void entryAboutToBeInserted(unsigned listId, int row);
-    void entryInserted();
+    void entriesAboutToBeInserted(unsigned listId, int first, int last);
+    void entriesInserted();
     void entryAboutToBeRemoved(unsigned listId, int row);
     void entryRemoved();
     void aboutToBeCleared();

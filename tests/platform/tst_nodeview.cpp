@@ -143,6 +143,7 @@ private slots:
     void rowIndexAgainstPlainList();
     void emptyView();
     void eachListHoldsANodeOnce();
+    void addNodes();
     void removeNode();
     void listsOfOthersAreNotTouched();
     void internalIdsAreNeverUsedAgain();
@@ -225,6 +226,24 @@ void tst_NodeView::eachListHoldsANodeOnce()
     const auto entries = shown.view->entriesOf("a");
     for (const auto& entry : entries)
         QCOMPARE(entry->id(), QString("a"));
+}
+
+void tst_NodeView::addNodes()
+{
+    const Shown shown;
+    shown.view->addNode("b");
+    QSignalSpy inserted(&shown.model, SIGNAL(rowsInserted(QModelIndex, int, int)));
+    shown.view->addNodes({"a", "b", "c", "a", "d", "c"});
+    QCOMPARE(lines(shown.model), QStringList({"b", "a", "c", "d"}));
+    QCOMPARE(inserted.count(), 1);
+    QCOMPARE(inserted.at(0).at(1).toInt(), 1);
+    QCOMPARE(inserted.at(0).at(2).toInt(), 3);
+    shown.view->addNodes({"d", "a"});
+    shown.view->addNodes({});
+    QCOMPARE(inserted.count(), 1);
+    shown.view->removeNode("a", false);
+    shown.view->addNodes({"b", "a"}); // comes back at the end
+    QCOMPARE(lines(shown.model), QStringList({"b", "c", "d", "a"}));
 }
 
 void tst_NodeView::removeNode()
