@@ -202,7 +202,7 @@ public:
         if (m_readAll) {
             const QStringList ids = db->nodeIdList(AllNodeTypes);
             for (const QString& id : ids)
-                db->node(id)->properties();
+                db->node(id)->name();
         }
         return bytesInUse() - before;
     }
