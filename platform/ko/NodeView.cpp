@@ -1,7 +1,5 @@
 #include "ko/NodeView.h"
 
-#include <QSet>
-
 namespace ko {
 
 NodeView::NodeView(const QString& name)
@@ -23,21 +21,26 @@ kom::smart<NodeViewEntry> NodeView::entryFromInternalId(unsigned internalId) con
 
 QList<kom::smart<NodeEntry>> NodeView::entriesOf(const NodeID& id) const
 {
-    QList<kom::smart<NodeEntry>> entries;
-    const QList<unsigned> internalIds = m_entriesByNode.values(id);
-    for (const unsigned internalId : internalIds)
-        entries.append(m_entries.value(internalId).cast<NodeEntry>());
-    return entries;
+    return m_entriesByNode.values(id);
 }
 
+/// Whether the list holds the node, or will when what is under way is done.
 bool NodeView::holds(const SubViewEntry& list, const NodeID& id) const
 {
     for (auto found = m_entriesByNode.constFind(id); found != m_entriesByNode.constEnd() && found.key() == id;
          ++found) {
-        if (m_entries.value(found.value())->m_parent == &list)
+        const SubViewEntry* parent = found.value()->m_parent;
+        if (!parent || parent == &list)
             return true;
     }
     return false;
+}
+
+kom::smart<NodeEntry> NodeView::createEntry(const NodeID& id)
+{
+    const kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
+    m_entriesByNode.insert(id, entry);
+    return entry;
 }
 
 kom::smart<SubViewEntry> NodeView::addSubView(const QString& name)
@@ -53,8 +56,9 @@ void NodeView::addNodeTo(SubViewEntry& list, const NodeID& id)
 {
     if (holds(list, id) || (&list != m_root.get() && list.m_parent != m_root.get()))
         return;
+    const kom::smart<NodeEntry> entry = createEntry(id);
     emit entriesAboutToBeInserted(list.internalId(), list.count(), list.count());
-    appendNode(list, id);
+    append(list, entry);
     emit entriesInserted();
 }
 
@@ -65,19 +69,20 @@ void NodeView::addNode(ko::NodeID id)
 
 void NodeView::addNodes(const QStringList& ids)
 {
-    QStringList added;
-    QSet<QString> known;
+    m_entriesByNode.reserve(m_entriesByNode.size() + int(ids.size()));
+    QVector<kom::smart<NodeEntry>> added;
+    added.reserve(int(ids.size()));
     for (const QString& id : ids) {
-        if (!known.contains(id) && !holds(*m_root, id))
-            added.append(id);
-        known.insert(id);
+        if (!holds(*m_root, id))
+            added.append(createEntry(id));
     }
     if (added.isEmpty())
         return;
-    emit entriesAboutToBeInserted(m_root->internalId(), m_root->count(),
-                                  m_root->count() + int(added.size()) - 1);
-    for (const QString& id : std::as_const(added))
-        appendNode(*m_root, id);
+    const int first = m_root->count();
+    emit entriesAboutToBeInserted(m_root->internalId(), first, first + int(added.size()) - 1);
+    m_entries.reserve(m_entries.size() + int(added.size()));
+    for (const kom::smart<NodeEntry>& entry : std::as_const(added))
+        append(*m_root, entry);
     emit entriesInserted();
 }
 
@@ -85,13 +90,6 @@ void NodeView::append(SubViewEntry& list, const kom::smart<NodeViewEntry>& entry
 {
     m_entries.insert(entry->internalId(), entry);
     list.append(entry);
-}
-
-void NodeView::appendNode(SubViewEntry& list, const NodeID& id)
-{
-    const kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
-    m_entriesByNode.insert(id, entry->internalId());
-    append(list, entry);
 }
 
 void NodeView::removeNode(const QString& id, bool everywhere)
@@ -102,7 +100,7 @@ void NodeView::removeNode(const QString& id, bool everywhere)
         if (!list || (list != m_root.get() && !everywhere))
             continue;
         emit entryAboutToBeRemoved(list->internalId(), list->rowOf(*entry));
-        m_entriesByNode.remove(id, entry->internalId());
+        m_entriesByNode.remove(id, entry);
         m_entries.remove(entry->internalId());
         list->remove(*entry);
         emit entryRemoved();

@@ -68,12 +68,12 @@ signals:
 
 private:
     bool holds(const SubViewEntry& list, const NodeID& id) const;
+    kom::smart<NodeEntry> createEntry(const NodeID& id);
     void append(SubViewEntry& list, const kom::smart<NodeViewEntry>& entry);
-    void appendNode(SubViewEntry& list, const NodeID& id);
 
     std::unique_ptr<SubViewEntry> m_root;
     QHash<unsigned, kom::smart<NodeViewEntry>> m_entries;
-    QMultiHash<NodeID, unsigned> m_entriesByNode;
+    QMultiHash<NodeID, kom::smart<NodeEntry>> m_entriesByNode;
     unsigned m_lastInternalId = 0;
 };
 
