@@ -13,9 +13,17 @@ namespace ko {
 
 namespace {
 
-/// Result codes of SQLite; the extended ones carry more in their higher bytes.
-StoreError::Kind kindOf(int code)
+QString newConnectionName()
 {
+    static std::atomic<int> counter{0};
+    return QString::fromLatin1("ko-store-%1").arg(++counter);
+}
+
+} // namespace
+
+StoreError::Kind SqliteStore::kindOf(int code)
+{
+    // Extended codes carry more in their higher bytes.
     switch (code & 0xff) {
     case 5: // busy
     case 6: // locked
@@ -34,14 +42,6 @@ StoreError::Kind kindOf(int code)
         return StoreError::Other;
     }
 }
-
-QString newConnectionName()
-{
-    static std::atomic<int> counter{0};
-    return QString::fromLatin1("ko-store-%1").arg(++counter);
-}
-
-} // namespace
 
 SqliteStore::Rows::Rows(const SqliteStore& store, QSqlQuery& query)
     : m_store(store)

@@ -23,6 +23,9 @@ public:
     /// How long a call waits for another process, in milliseconds.
     static constexpr int BusyTimeout = 2000;
 
+    /// What a result code of SQLite means, extended or not.
+    static StoreError::Kind kindOf(int code);
+
     /// Opens \a file after looking whether it may be opened; a missing or empty file becomes an empty
     /// database of mode 0600. An older version is migrated, with a copy of the file kept beside it. On
     /// failure null and \a error, and the file is as it was. \a version serves the tests of migration.

@@ -3,6 +3,7 @@
 #include "store/StoreError.h"
 #include "store/StoreSchema.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
@@ -88,6 +89,21 @@ void check(const QString& file, int version)
     const QFileInfo info(file);
     if (!info.isWritable() || !QFileInfo(info.absolutePath()).isWritable())
         fail(StoreError::ReadOnly, file, QLatin1String("no permission to write"));
+}
+
+void checkHeader(const QString& file, int version)
+{
+    checkHeader(file, readHeader(file), version);
+}
+
+void moveAside(const QString& file)
+{
+    const QString time = QDateTime::currentDateTimeUtc().toString(QLatin1String("yyyyMMdd'T'HHmmsszzz'Z'"));
+    const QString aside = file + QLatin1String(".damaged-") + time;
+    if (!QFile::rename(file, aside))
+        fail(StoreError::ReadOnly, file, QLatin1String("rename"));
+    for (const char* end : {"-wal", "-shm"})
+        QFile::rename(file + QLatin1String(end), aside + QLatin1String(end));
 }
 
 bool isDiskFull(const QString& file)

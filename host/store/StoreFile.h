@@ -14,6 +14,12 @@ bool create(const QString& file);
 /// Throws unless \a file is empty or a node database of \a version or older that may be written.
 void check(const QString& file, int version);
 
+/// Throws unless \a file begins as a node database of \a version or older does.
+void checkHeader(const QString& file, int version);
+
+/// Gives a file that cannot be used, and what SQLite keeps beside it, a new name that tells when.
+void moveAside(const QString& file);
+
 /// Whether the disk under \a file is as good as full.
 bool isDiskFull(const QString& file);
 
