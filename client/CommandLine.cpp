@@ -1,15 +1,20 @@
 #include "CommandLine.h"
 
+#include "DatabaseRecovery.h"
 #include "MainWindow.h"
 #include "Tour.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
 #include "exchange/CameraSurvey.h"
+#include "store/BackupKeeper.h"
+#include "store/StoreBackup.h"
+#include "store/StoreFile.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QMessageBox>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include <cstdio>
@@ -43,6 +48,26 @@ QString defaultDatabase()
     return folder.filePath(QStringLiteral("nodes.kodb"));
 }
 
+/// Once for each file: he who knows need not be told at every start.
+void warnAboutNetwork(const QString& file, QWidget* parent)
+{
+    QSettings settings;
+    const QString key = QStringLiteral("knownOnNetwork");
+    QStringList known = settings.value(key).toStringList();
+    if (known.contains(file))
+        return;
+    settings.setValue(key, known << file);
+    QMessageBox box(QMessageBox::Warning, QCoreApplication::translate("CommandLine", "Node Database"),
+                    QCoreApplication::translate(
+                        "CommandLine", "The node database \"%1\" lies on a network drive. Two programs that "
+                                       "use it there at the same time may damage it. Move it to a disk of "
+                                       "this computer.")
+                        .arg(QDir::toNativeSeparators(file)),
+                    QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 } // namespace
 
 CommandLine::CommandLine(int& argc, char** argv)
@@ -72,6 +97,12 @@ bool CommandLine::parse()
         add("import", "Adds the cameras of a list (CSV) and ends. No window is needed.", "FILE");
     const auto exportTo = add("export", "Writes all cameras into a list (CSV) and ends.", "FILE");
     const auto noPasswords = add("without-passwords", "Leaves the passwords out of --export.", "");
+    const auto backup =
+        add("backup", "Copies the database, which may be in use, into a file and ends.", "FILE");
+    const auto restore = add("restore",
+                             "Gives the database, which may be in use, the content of a backup and ends. "
+                             "The present content is kept as a backup.",
+                             "FILE");
     const auto tour = add("tour", "Walks through the windows by itself and leaves pictures.", "FOLDER");
     const auto survey = add("tour-survey", "The list of cameras that the walk imports.", "FILE");
     const auto checkTour = add("check-tour", "Looks whether what the walk did is in the database.", "");
@@ -96,6 +127,8 @@ bool CommandLine::parse()
     m_database = parser.value(db);
     m_import = parser.value(import);
     m_export = parser.value(exportTo);
+    m_backup = parser.value(backup);
+    m_restore = parser.value(restore);
     m_tour = parser.value(tour);
     m_survey = parser.value(survey);
     m_leaveOutPasswords = parser.isSet(noPasswords);
@@ -113,14 +146,33 @@ int CommandLine::run()
     return runTask();
 }
 
+bool CommandLine::needsWindow() const
+{
+    const QStringList tasks = {m_import, m_export, m_backup, m_restore};
+    return !m_checkTour && tasks.join(QString()).isEmpty();
+}
+
+QString CommandLine::databaseFile() const
+{
+    return m_database.isEmpty() ? defaultDatabase() : m_database;
+}
+
 int CommandLine::runTask()
 {
+    if (!m_backup.isEmpty() || !m_restore.isEmpty())
+        return copyDatabase();
     StoreError error;
-    const std::unique_ptr<HostNodeDB> db =
-        HostNodeDB::open(m_database.isEmpty() ? defaultDatabase() : m_database, &error);
+    std::unique_ptr<HostNodeDB> db = HostNodeDB::open(databaseFile(), &error);
+    const bool interactive = needsWindow() && m_tour.isEmpty();
+    if (error.kind == StoreError::Damaged && interactive) {
+        say(stderr, error.message);
+        if (!DatabaseRecovery::offer(databaseFile(), error, nullptr))
+            return NoDatabase;
+        db = HostNodeDB::open(databaseFile(), &error);
+    }
     if (!db) {
         say(stderr, error.message);
-        if (needsWindow() && m_tour.isEmpty())
+        if (interactive)
             QMessageBox::critical(nullptr, QCoreApplication::translate("CommandLine", "Node Database"),
                                   error.message);
         return NoDatabase;
@@ -139,8 +191,11 @@ int CommandLine::runTask()
 
 int CommandLine::runWindow(HostNodeDB& db) const
 {
+    const BackupKeeper backups(db.fileName());
     MainWindow window(db);
     window.show();
+    if (m_tour.isEmpty() && StoreFile::isOnNetwork(db.fileName()))
+        warnAboutNetwork(db.fileName(), &window);
     if (!m_tour.isEmpty())
         return Tour(db, window, m_tour).run(m_survey) ? Good : Failed;
     return QApplication::exec();
@@ -185,6 +240,20 @@ int CommandLine::exportCameras() const
     if (result.skipped > 0)
         say(stderr, QCoreApplication::translate("CommandLine", "%1 without name and address left out")
                         .arg(result.skipped));
+    return Good;
+}
+
+int CommandLine::copyDatabase() const
+{
+    StoreError error;
+    if (!m_backup.isEmpty() && !StoreBackup::write(databaseFile(), m_backup, &error)) {
+        say(stderr, error.message);
+        return Failed;
+    }
+    if (!m_restore.isEmpty() && !StoreBackup::restore(m_restore, databaseFile(), &error)) {
+        say(stderr, error.message);
+        return Failed;
+    }
     return Good;
 }
 

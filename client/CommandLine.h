@@ -20,17 +20,21 @@ public:
 
 private:
     bool parse();
-    bool needsWindow() const { return m_import.isEmpty() && m_export.isEmpty() && !m_checkTour; }
+    bool needsWindow() const;
+    QString databaseFile() const;
     int runTask();
     int runWindow(HostNodeDB& db) const;
     int importCameras(HostNodeDB& db) const;
     int exportCameras() const;
+    int copyDatabase() const;
 
     int& m_argc;
     char** const m_argv;
     QString m_database;
     QString m_import;
     QString m_export;
+    QString m_backup;
+    QString m_restore;
     QString m_tour;
     QString m_survey;
     bool m_leaveOutPasswords = false;

@@ -9,8 +9,10 @@
 #include <QStorageInfo>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -111,6 +113,20 @@ bool isDiskFull(const QString& file)
     // The smallest thing a store asks for is a 32 KB index of its write-ahead log.
     const QStorageInfo storage(QFileInfo(file).absolutePath());
     return storage.isValid() && storage.bytesAvailable() < 64 * 1024;
+}
+
+bool isNetworkFileSystem(const QByteArray& type)
+{
+    static const char* const names[] = {"9p",         "afs",  "ceph",  "cifs", "fuse.glusterfs",
+                                        "fuse.sshfs", "gfs2", "ncpfs", "nfs",  "nfs4",
+                                        "ocfs2",      "smb3", "smbfs"};
+    return std::any_of(std::begin(names), std::end(names),
+                       [&type](const char* name) { return type == name; });
+}
+
+bool isOnNetwork(const QString& file)
+{
+    return isNetworkFileSystem(QStorageInfo(QFileInfo(file).absolutePath()).fileSystemType());
 }
 
 } // namespace StoreFile

@@ -1,6 +1,8 @@
 #ifndef KO_STOREFILE_H
 #define KO_STOREFILE_H
 
+#include "HostExport.h"
+
 #include <QString>
 
 namespace ko {
@@ -22,6 +24,12 @@ void moveAside(const QString& file);
 
 /// Whether the disk under \a file is as good as full.
 bool isDiskFull(const QString& file);
+
+/// Whether files of this type of file system, as the system names it ("nfs4"), lie on another computer.
+KO_HOST_EXPORT bool isNetworkFileSystem(const QByteArray& type);
+
+/// Whether \a file does. Locks, on which two programs rely, often do not work there.
+KO_HOST_EXPORT bool isOnNetwork(const QString& file);
 
 } // namespace StoreFile
 

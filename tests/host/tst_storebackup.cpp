@@ -5,6 +5,7 @@
 #include "store/BackupKeeper.h"
 #include "store/SqliteStore.h"
 #include "store/StoreBackup.h"
+#include "store/StoreFile.h"
 
 #include <QDir>
 #include <QProcess>
@@ -41,6 +42,7 @@ private slots:
     void newestGoodSkipsBadOnes();
     void keeperMakesOneADay();
     void keeperTellsFailures();
+    void networkFileSystems();
 
 private:
     void makeDatabase(int cameras);
@@ -403,6 +405,15 @@ void tst_StoreBackup::keeperTellsFailures()
     keeper.makeNow();
     QVERIFY(failed.wait());
     QCOMPARE(failed.at(0).at(0).value<StoreError>().kind, StoreError::CannotOpen);
+}
+
+void tst_StoreBackup::networkFileSystems()
+{
+    for (const char* type : {"nfs", "nfs4", "cifs", "smb3", "9p", "fuse.sshfs"})
+        QVERIFY(StoreFile::isNetworkFileSystem(type));
+    for (const char* type : {"ext4", "xfs", "btrfs", "tmpfs", "overlay", "vfat", "fuseblk", ""})
+        QVERIFY(!StoreFile::isNetworkFileSystem(type));
+    QVERIFY(!StoreFile::isOnNetwork(m_file));
 }
 
 int main(int argc, char** argv)
