@@ -32,6 +32,11 @@ add_library(ko_flags INTERFACE)
 target_compile_options(ko_flags INTERFACE -Wall -Wextra -Wpedantic -Werror)
 # Qt 6.4 marks API that Qt 4.8 and 5.15 need as deprecated; what is gone does not compile anyway.
 target_compile_definitions(ko_flags INTERFACE QT_NO_DEPRECATED_WARNINGS)
+if(KO_FUZZ)
+    target_compile_options(ko_flags INTERFACE -O1 -fno-omit-frame-pointer -fno-sanitize-recover=all
+                           -fsanitize=fuzzer-no-link,address,undefined)
+    target_link_options(ko_flags INTERFACE -fsanitize=address,undefined)
+endif()
 if(KO_SANITIZE)
     target_compile_options(ko_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                            -fno-omit-frame-pointer)
