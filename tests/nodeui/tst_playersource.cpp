@@ -1,4 +1,4 @@
-#include "support/SmallHost.h"
+#include "support/FolderHost.h"
 #include "support/TestMain.h"
 
 #include "ko/LogQt.h"
@@ -7,6 +7,7 @@
 #include "utils/NodeDBUtils.h"
 
 using namespace ko;
+using testsupport::FolderHost;
 
 namespace {
 
@@ -14,42 +15,6 @@ const char Camera[] = "cam";
 const char Own[] = "own";     ///< the first folder related to the camera, where it has any
 const char Second[] = "own2"; ///< the second one
 const char Other[] = "other"; ///< a folder that is not related to it
-
-/// A small host with recording folders, where camera and path decide which folder a hint describes.
-class Host : public testsupport::SmallNodeDB
-{
-public:
-    Host() { defineType(RecordingFolderType, "Recording folder"); }
-
-    QString lookupHint(const NodeHint& hint) const override
-    {
-        if (hint.type != RecordingFolderType)
-            return SmallNodeDB::lookupHint(hint);
-        lookups.append(text(hint, "Path"));
-        const QStringList ids = nodeIdList(RecordingFolderType);
-        for (const QString& id : ids) {
-            if (text(*node(id), "Path") == text(hint, "Path") &&
-                text(*node(id), "CameraID") == text(hint, "CameraID"))
-                return id;
-        }
-        return QString();
-    }
-
-    static QString text(const PropertyAccess& object, const char* key)
-    {
-        return object.stringProperty(key, QString());
-    }
-
-    /// The calls; when a hint is given back is nobody's business here.
-    QStringList madeCalls() const
-    {
-        QStringList made = calls;
-        made.removeAll("~hint()");
-        return made;
-    }
-
-    mutable QStringList lookups;
-};
 
 /// All a node's properties as "key=value" in the order of their keys.
 QStringList propertiesOf(const QString& id)
@@ -110,12 +75,12 @@ private:
     void relate(int folders);
     QStringList related() const;
 
-    std::unique_ptr<Host> db;
+    std::unique_ptr<FolderHost> db;
 };
 
 void tst_PlayerSource::init()
 {
-    db = std::make_unique<Host>();
+    db = std::make_unique<FolderHost>();
     db->addCamera(Camera, "Gate").setStringProperty("FactoryIP", "ext7");
     db->clearCalls();
 }
@@ -192,7 +157,7 @@ void tst_PlayerSource::secondCallRefreshesTheFolder()
 
 void tst_PlayerSource::folderThatCannotBeOpenedIsStillTheAnswer()
 {
-    class Closed : public Host
+    class Closed : public FolderHost
     {
     public:
         QString lookupHint(const NodeHint&) const override { return "gone"; }
@@ -223,7 +188,7 @@ void tst_PlayerSource::missingCameraMakesNoFolder()
 
 void tst_PlayerSource::missingDriverIsLogged()
 {
-    db->defineType(RecordingFolderType, "Recording folder", Host::NoDriver);
+    db->defineType(RecordingFolderType, "Recording folder", FolderHost::NoDriver);
     LogLines log;
     QVERIFY(NodeDBUtils::createRecordingFolderNode(Camera, false, "//srv/cam").isNull());
     QCOMPARE(log.lines, QStringList({"3 Node driver (RecordingFolderNode) is missing"}));
@@ -232,7 +197,7 @@ void tst_PlayerSource::missingDriverIsLogged()
 
 void tst_PlayerSource::driverWithoutHintMakesNoFolder()
 {
-    db->defineType(RecordingFolderType, "Recording folder", Host::DriverWithoutHint);
+    db->defineType(RecordingFolderType, "Recording folder", FolderHost::DriverWithoutHint);
     QVERIFY(NodeDBUtils::createRecordingFolderNode(Camera, false, "//srv/cam").isNull());
     QCOMPARE(db->madeCalls(), QStringList({"createNodeHint(0)"}));
 }
@@ -386,7 +351,7 @@ void tst_PlayerSource::missingCameraIsNotConfigured()
 
 void tst_PlayerSource::usageOneWithoutDriverRelatesToNothing()
 {
-    db->defineType(RecordingFolderType, "Recording folder", Host::NoDriver);
+    db->defineType(RecordingFolderType, "Recording folder", FolderHost::NoDriver);
     relate(1);
     LogLines log;
     QString folder = "untouched";

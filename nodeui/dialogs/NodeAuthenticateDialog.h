@@ -1,0 +1,44 @@
+#ifndef KO_NODEAUTHENTICATEDIALOG_H
+#define KO_NODEAUTHENTICATEDIALOG_H
+
+#include "NodeUIExport.h"
+
+#include <QDialog>
+#include <QScopedPointer>
+#include <QStringList>
+
+namespace Ui {
+class NodeAuthenticateDialog;
+}
+
+namespace ko {
+
+/// Asks for one user name and password and stores them in many IP devices.
+///
+/// The fields begin with what the first device has. OK stores what was typed, also empty texts, in every
+/// IP device of the list; other nodes are left as they are. Nothing is logged.
+class KO_NODEUI_EXPORT NodeAuthenticateDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    NodeAuthenticateDialog(QWidget* parent, const QStringList& nodeIds, Qt::WindowFlags flags);
+    ~NodeAuthenticateDialog() override;
+
+    /// The names of the first eleven nodes as rich text, one to a line; with eleven nodes or more a line
+    /// of dots follows.
+    static QString nodeNames(const QStringList& nodeIds);
+
+public slots:
+    void accept() override;
+
+private:
+    Q_DISABLE_COPY(NodeAuthenticateDialog)
+
+    const QScopedPointer<Ui::NodeAuthenticateDialog> m_ui;
+    const QStringList m_nodeIds;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,151 @@
+#include "dialogs/RecordingFolderMassAssignmentDialog.h"
+
+#include "ko/Node.h"
+#include "ko/NodeDB.h"
+#include "ko/QtCompat.h"
+#include "ko/connect.h"
+#include "utils/NodeDBUtils.h"
+
+#include "ui_RecordingFolderMassAssignmentDialog.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace ko {
+
+namespace {
+
+const int lastNamed = 10; ///< index in the list
+
+enum StorageUsage { ViaCamera, DefaultPath, SpecificPath };
+
+/// The node if it is an IP camera.
+kom::smart<const Node> camera(const QString& id)
+{
+    const kom::smart<const Node> node = NodeDB::getDB()->node(id);
+    return !node.null() && node->type == IPDeviceType ? node : kom::smart<const Node>();
+}
+
+/// The name of the camera's folder on a file server; empty as long as the camera has the address that
+/// every one leaves the factory with.
+QString factoryExtension(const Node& camera)
+{
+    const QString extension = camera.stringProperty(QLatin1String("FactoryIP"), QString());
+    return extension == QLatin1String("10_0_0_0") ? QString() : extension;
+}
+
+QString folderBelow(const QString& path, const QString& extension)
+{
+    const QLatin1String share("//");
+    QString folder = QDir::cleanPath(path + QDir::separator() + extension);
+    if (path.startsWith(share) && !folder.startsWith(share))
+        folder.prepend(QLatin1Char('/')); // cleaned away where the system itself knows no shares
+    if (folder.startsWith(share))
+        folder.replace(0, share.size(), QLatin1String("\\\\"));
+    return folder;
+}
+
+} // namespace
+
+RecordingFolderMassAssignmentDialog::RecordingFolderMassAssignmentDialog(QWidget* parent,
+                                                                         const QStringList& cameraIds,
+                                                                         Qt::WindowFlags flags)
+    : QDialog(parent, flags)
+    , m_ui(new Ui::RecordingFolderMassAssignmentDialog)
+    , m_cameraIds(cameraIds)
+{
+    m_ui->setupUi(this);
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    if (!m_cameraIds.isEmpty()) {
+        const QString text = tr("<p><b>Select how %2 should access the recordings of:</b></p><ul>%1</ul>");
+        m_ui->cameraLabel->setText(
+            text.arg(nodeNames(m_cameraIds), htmlEscaped(QCoreApplication::applicationName())));
+        const kom::smart<const Node> first = NodeDB::getDB()->node(m_cameraIds.first());
+        if (!first.null()) {
+            const int usage = first->intProperty(QLatin1String("RecordingStorageUsage"), ViaCamera);
+            m_ui->defaultFileServerPathRadioButton->setChecked(usage == DefaultPath);
+            m_ui->specificFileServerPathRadioButton->setChecked(usage == SpecificPath);
+            m_ui->cameraRadioButton->setChecked(usage != DefaultPath && usage != SpecificPath);
+            m_ui->recordingTransponderCheckBox->setChecked(
+                first->boolProperty(QLatin1String("UseRecordingTransponder"), false));
+        }
+    }
+    ko::connect(m_ui->browseButton, SIGNAL(clicked()), this, SLOT(browse()));
+    ko::connect(m_ui->specificFileServerPathRadioButton, SIGNAL(toggled(bool)), this, SLOT(checkUI()));
+    ko::connect(m_ui->pathLineEdit, SIGNAL(textChanged(QString)), this, SLOT(checkUI()));
+    adjustSize();
+}
+
+RecordingFolderMassAssignmentDialog::~RecordingFolderMassAssignmentDialog() = default;
+
+QString RecordingFolderMassAssignmentDialog::nodeNames(const QStringList& cameraIds)
+{
+    QString names;
+    for (int i = 0; i < cameraIds.size(); ++i) {
+        const kom::smart<const Node> node =
+            cameraIds.at(i).isEmpty() ? kom::smart<const Node>() : camera(cameraIds.at(i));
+        if (node.null())
+            continue;
+        names += QLatin1String("<li>") + htmlEscaped(node->name()) + QLatin1String("</li>");
+        if (i >= lastNamed) {
+            names += QLatin1String("<li>...</li>");
+            break;
+        }
+    }
+    return names;
+}
+
+void RecordingFolderMassAssignmentDialog::checkUI()
+{
+    const bool missing =
+        m_ui->specificFileServerPathRadioButton->isChecked() && m_ui->pathLineEdit->text().isEmpty();
+    m_ui->buttonBox->button(QDialogButtonBox::Ok)->setEnabled(!missing);
+}
+
+void RecordingFolderMassAssignmentDialog::browse()
+{
+    m_ui->pathLineEdit->setText(QFileDialog::getExistingDirectory(
+        this, tr("Select File Server Directory"), m_ui->pathLineEdit->text(), QFileDialog::ShowDirsOnly));
+}
+
+int RecordingFolderMassAssignmentDialog::storageUsage() const
+{
+    if (m_ui->cameraRadioButton->isChecked())
+        return ViaCamera;
+    return m_ui->defaultFileServerPathRadioButton->isChecked() ? DefaultPath : SpecificPath;
+}
+
+void RecordingFolderMassAssignmentDialog::configure(const QString& cameraId) const
+{
+    const kom::smart<const Node> node = camera(cameraId);
+    if (node.null())
+        return;
+    QString folderId;
+    QString path;
+    const QString extension = factoryExtension(*node);
+    if (m_ui->specificFileServerPathRadioButton->isChecked() && !extension.isEmpty()) {
+        folderId = NodeDB::getDB()->relatedNodes(cameraId, RecordingFolderRelation).value(0);
+        path = folderBelow(m_ui->pathLineEdit->text(), extension);
+    }
+    NodeDBUtils::configurePlayerSource(cameraId, storageUsage(),
+                                       m_ui->recordingTransponderCheckBox->isChecked(), folderId, path,
+                                       m_ui->userNameLineEdit->text(), m_ui->passwordLineEdit->text());
+}
+
+void RecordingFolderMassAssignmentDialog::accept()
+{
+    if (m_ui->defaultFileServerPathRadioButton->isChecked() &&
+        NodeDB::getDB()->globalRecordingFolderPath().isEmpty()) {
+        QMessageBox::warning(this, tr("Default file server path not set"),
+                             tr("Please define the default file server path before setting this option."));
+        return;
+    }
+    for (const QString& id : m_cameraIds)
+        configure(id);
+    QDialog::accept();
+}
+
+} // namespace ko

@@ -1,0 +1,52 @@
+#ifndef KO_RECORDINGFOLDERMASSASSIGNMENTDIALOG_H
+#define KO_RECORDINGFOLDERMASSASSIGNMENTDIALOG_H
+
+#include "NodeUIExport.h"
+
+#include <QDialog>
+#include <QScopedPointer>
+#include <QStringList>
+
+namespace Ui {
+class RecordingFolderMassAssignmentDialog;
+}
+
+namespace ko {
+
+/// Sets from where the recordings of many cameras are played: via the camera, below the default file
+/// server path or below a specific one.
+///
+/// The choice begins as the first camera has it. OK configures every IP camera of the list, see
+/// NodeDBUtils::configurePlayerSource(); other nodes are left as they are.
+class KO_NODEUI_EXPORT RecordingFolderMassAssignmentDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    RecordingFolderMassAssignmentDialog(QWidget* parent, const QStringList& cameraIds, Qt::WindowFlags flags);
+    ~RecordingFolderMassAssignmentDialog() override;
+
+    /// The names of the IP cameras as HTML list items. After the item of the eleventh node of the list,
+    /// or of the first camera behind it, one of dots ends the list.
+    static QString nodeNames(const QStringList& cameraIds);
+
+public slots:
+    void accept() override;
+
+private slots:
+    void checkUI();
+    void browse();
+
+private:
+    Q_DISABLE_COPY(RecordingFolderMassAssignmentDialog)
+
+    int storageUsage() const;
+    void configure(const QString& cameraId) const;
+
+    const QScopedPointer<Ui::RecordingFolderMassAssignmentDialog> m_ui;
+    const QStringList m_cameraIds;
+};
+
+} // namespace ko
+
+#endif
