@@ -7,6 +7,7 @@
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
+#include "utils/WindowTitle.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -76,11 +77,9 @@ void NodeDialog::embed(InspectorWidget* inspector, QWidget* container, QDialogBu
     moveToEndOfTabOrder(buttons);
 }
 
-void NodeDialog::setTitle(const QString& pattern, QString name)
+void NodeDialog::setTitle(const QString& pattern, const QString& name)
 {
-    // Once it marks unsaved changes in a title, twice it is text.
-    const QString marker = QLatin1String("[*]");
-    setWindowTitle(pattern.arg(name.replace(marker, marker + marker)));
+    setWindowTitle(pattern.arg(inWindowTitle(name)));
 }
 
 void NodeDialog::setEnvironmentMenu()

@@ -50,7 +50,7 @@ protected:
     void embed(InspectorWidget* inspector, QWidget* container, QDialogButtonBox* buttons);
 
     /// The title \a pattern with \a name at its %1, shown as it is, whatever it holds.
-    void setTitle(const QString& pattern, QString name);
+    void setTitle(const QString& pattern, const QString& name);
 
 private slots:
     void environmentChanged(int index);

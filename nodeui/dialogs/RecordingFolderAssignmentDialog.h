@@ -1,0 +1,75 @@
+#ifndef KO_RECORDINGFOLDERASSIGNMENTDIALOG_H
+#define KO_RECORDINGFOLDERASSIGNMENTDIALOG_H
+
+#include "NodeUIExport.h"
+#include "ko/Types.h"
+
+#include <QDialog>
+#include <QScopedPointer>
+
+namespace Ui {
+class RecordingFolderAssignmentDialog;
+}
+
+namespace ko {
+
+class Node;
+
+/// From where the recordings of one camera are played: via the camera, below the default file server
+/// path, or from a recording folder of its own.
+///
+/// OK hands the choice to NodeDBUtils::configurePlayerSource(). Two things are written before: a camera of
+/// an older database gets its storage usage in today's numbers when the dialog opens, and the folders that
+/// are added, edited and removed in the table are so at once.
+class KO_NODEUI_EXPORT RecordingFolderAssignmentDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    RecordingFolderAssignmentDialog(const QString& cameraId, QWidget* parent);
+    ~RecordingFolderAssignmentDialog() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private slots:
+    void addRecordingFolderNode();
+    void removeRecordingFolderNode();
+    void changeRecordingFolderNode();
+    void applySelection();
+    void expandDialog();
+    void toggleMoreButton();
+    void removeFolderSelection();
+    void toggleRecordingTransponderSettings(int state);
+    void showRecordingTransponderDialog();
+    void addNodeToTableWidget(ko::NodeID id);
+    void updateNodeInTableWidget(ko::NodeID id);
+    void removeNodeFromTableWidget(ko::NodeID id);
+    void accept() override;
+
+private:
+    Q_DISABLE_COPY(RecordingFolderAssignmentDialog)
+
+    void showUsage(int usage);
+    void showFirstFolder();
+    void showCameraType();
+    void rewriteUsage(int usage);
+    void fillTableWidget();
+    void appendRow(const Node& folder);
+    void fillRow(int row, const Node& folder);
+    void collapse();
+    QString selectedNode() const;
+    QString selectedNodeOrComplain();
+    bool mayUseDefaultPath();
+    void connectAll();
+
+    const QScopedPointer<Ui::RecordingFolderAssignmentDialog> m_ui;
+    const QString m_cameraId;
+    QString m_folderId; ///< applied, or the camera's; empty once another path was typed
+    QString m_path;     ///< as last confirmed
+    int m_collapsedHeight = 0;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,18 @@
+#ifndef KO_WINDOWTITLE_H
+#define KO_WINDOWTITLE_H
+
+#include <QString>
+
+namespace ko {
+
+/// \a text as it must stand in a window title to be shown as it is: the toolkit takes "[*]" for the place
+/// of its mark for unsaved changes.
+inline QString inWindowTitle(const QString& text)
+{
+    const QString marker = QLatin1String("[*]");
+    return QString(text).replace(marker, marker + marker);
+}
+
+} // namespace ko
+
+#endif
