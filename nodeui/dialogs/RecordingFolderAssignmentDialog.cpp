@@ -87,6 +87,7 @@ RecordingFolderAssignmentDialog::RecordingFolderAssignmentDialog(const QString& 
 
     QTableWidget* table = m_ui->relatedNodesWidget;
     table->setColumnHidden(IdColumn, true);
+    table->verticalHeader()->setMinimumSectionSize(rowHeight);
     table->verticalHeader()->setDefaultSectionSize(rowHeight);
     table->horizontalHeader()->setSortIndicator(NameColumn, Qt::AscendingOrder);
     for (const int column : {NameColumn, PathColumn})
@@ -98,6 +99,7 @@ RecordingFolderAssignmentDialog::RecordingFolderAssignmentDialog(const QString& 
     m_collapsedHeight = margins.top() + 2 * layout()->spacing() + margins.bottom() +
                         m_ui->groupBox->sizeHint().height() + m_ui->buttonBox->sizeHint().height();
     setFixedHeight(m_collapsedHeight);
+    resize(sizeHint().width(), m_collapsedHeight); // the group box may be narrower than its texts
     connectAll();
 }
 

@@ -66,6 +66,7 @@ RecordingTransponderCustomSettingsDialog::RecordingTransponderCustomSettingsDial
     }
     checkUI();
     readFromNode();
+    resize(sizeHint());
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setDefault(true);
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setAutoDefault(true);
 
