@@ -15,9 +15,13 @@
 #include "dialogs/EditNodeDialog.h"
 #include "dialogs/EnvironmentDialog.h"
 #include "dialogs/NetworkProxyDialog.h"
+#include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/NodeDBViewer.h"
 #include "dialogs/NodeOverviewDialog.h"
+#include "dialogs/RecordingFolderAssignmentDialog.h"
+#include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "drivers/NodeTypes.h"
+#include "inspector/NodeChangeLogEntry.h"
 #include "ko/Node.h"
 #include "ko/dialogFlags.h"
 
@@ -36,6 +40,8 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+
+#include <algorithm>
 
 namespace ko {
 
@@ -184,6 +190,14 @@ void MainWindow::createCommands()
               QT_TR_NOOP("Shows the selected node without changing it"),
               QKeySequence(Qt::ALT | Qt::Key_Return), "document-properties", C::OneNode,
               &MainWindow::showProperties},
+             {separator, "", "", {}, "", C::Nothing, nullptr},
+             {"actionCredentials", QT_TR_NOOP("&User && Password..."),
+              QT_TR_NOOP("Gives the selected devices one user name and password"),
+              QKeySequence(Qt::CTRL | Qt::Key_U), "dialog-password", C::SomeNodes,
+              &MainWindow::editCredentials},
+             {"actionRecording", QT_TR_NOOP("Access Re&cordings..."),
+              QT_TR_NOOP("Where the recordings of the selected cameras are played from"),
+              QKeySequence(Qt::CTRL | Qt::Key_R), "folder-videos", C::SomeNodes, &MainWindow::editRecording},
          }},
         {QT_TR_NOOP("&Network"),
          {
@@ -377,6 +391,54 @@ void MainWindow::showProperties()
         openEditor(ids.first(), true);
 }
 
+QStringList MainWindow::selectedDevices() const
+{
+    QStringList devices;
+    const QStringList ids = m_view->selectedIds();
+    for (const QString& id : ids) {
+        if (NodeTypes::isDevice(m_db.summary(id).type))
+            devices.append(id);
+    }
+    if (devices.isEmpty())
+        statusBar()->showMessage(tr("No camera is selected."), 10000);
+    return devices;
+}
+
+/// The dialogs for many cameras leave the audit log to whoever opens them.
+void MainWindow::logChanges(const QStringList& ids)
+{
+    for (const QString& id : ids) {
+        const NodeSummary node = m_db.summary(id);
+        if (!node.id.isEmpty())
+            m_db.auditLog().log(NodeChangeLogEntry(node.name));
+    }
+}
+
+void MainWindow::editRecording()
+{
+    QStringList devices = selectedDevices();
+    std::unique_ptr<QDialog> dialog;
+    if (devices.size() == 1) {
+        dialog = std::make_unique<RecordingFolderAssignmentDialog>(devices.constFirst(), this);
+    } else if (!devices.isEmpty()) {
+        const auto isOther = [this](const QString& id) { return m_db.summary(id).type != IPDeviceType; };
+        devices.erase(std::remove_if(devices.begin(), devices.end(), isOther), devices.end());
+        dialog = std::make_unique<RecordingFolderMassAssignmentDialog>(this, devices, dialogFlags(false));
+    }
+    if (dialog && dialog->exec() == QDialog::Accepted)
+        logChanges(devices);
+}
+
+void MainWindow::editCredentials()
+{
+    const QStringList devices = selectedDevices();
+    if (devices.isEmpty())
+        return;
+    NodeAuthenticateDialog dialog(this, devices, dialogFlags(false));
+    if (dialog.exec() == QDialog::Accepted)
+        logChanges(devices);
+}
+
 QStringList MainWindow::selectedNames(const QStringList& ids) const
 {
     QStringList names;
@@ -427,7 +489,11 @@ void MainWindow::showAuditLog()
 void MainWindow::showOverview()
 {
     NodeOverviewDialog dialog(this);
-    dialog.exec();
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    applyChanges();
+    m_view->selectNodes(dialog.selected()); // for what is to be done with them next
+    m_view->setFocus();
 }
 
 void MainWindow::showDatabase()

@@ -37,6 +37,8 @@ private slots:
     void editNode();
     void removeNodes();
     void showProperties();
+    void editRecording();
+    void editCredentials();
     void editProxy();
     void editEnvironments();
     void editPreferences();
@@ -65,6 +67,8 @@ private:
     void openEditor(const QString& id, bool readOnly);
     QString recordingText(const NodeSummary& node) const;
     QStringList selectedNames(const QStringList& ids) const;
+    QStringList selectedDevices() const;
+    void logChanges(const QStringList& ids);
     void restoreState();
     void saveState() const;
 

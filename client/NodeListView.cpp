@@ -73,6 +73,23 @@ void NodeListView::selectNode(const QString& id)
     scrollTo(m_model->index(row, 0));
 }
 
+void NodeListView::selectNodes(const QStringList& ids)
+{
+    QItemSelection selection;
+    for (const QString& id : ids) {
+        const int row = m_model->rowOf(id);
+        if (row >= 0)
+            selection.append(QItemSelectionRange(m_model->index(row, 0),
+                                                 m_model->index(row, NodeListModel::ColumnCount - 1)));
+    }
+    if (selection.isEmpty())
+        return;
+    const QModelIndex first = selection.constFirst().topLeft();
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    scrollTo(first);
+}
+
 void NodeListView::keyPressEvent(QKeyEvent* event)
 {
     const bool activates = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

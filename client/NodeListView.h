@@ -22,6 +22,9 @@ public:
     int selectedCount() const;
     void selectNode(const QString& id);
 
+    /// Selects those of the nodes that are shown, and no others.
+    void selectNodes(const QStringList& ids);
+
 signals:
     /// Return was pressed or a row was double-clicked.
     void nodeActivated(const QString& id);

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSpinBox>
@@ -78,6 +79,18 @@ void setValue(QWidget* editor, const QWidget* fresh)
     }
 }
 
+/// Labels show and are not typed into, so they always follow.
+void copyLabels(const QWidget* page, const QWidget* fresh)
+{
+    const QList<QLabel*> labels = page->findChildren<QLabel*>();
+    for (QLabel* label : labels) {
+        const QLabel* source =
+            label->objectName().isEmpty() ? nullptr : fresh->findChild<const QLabel*>(label->objectName());
+        if (source && source->text() != label->text())
+            label->setText(source->text());
+    }
+}
+
 } // namespace
 
 void EditorState::capture(const QWidget* page)
@@ -105,6 +118,7 @@ void EditorState::refresh(QWidget* page, const QWidget* fresh)
         if (value(pair.first) != value(pair.second))
             setValue(pair.first, pair.second);
     }
+    copyLabels(page, fresh);
 }
 
 } // namespace ko

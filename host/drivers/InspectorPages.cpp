@@ -8,6 +8,7 @@
 #include "pages/InfoWidget.h"
 #include "pages/PTZRotorControlWidget.h"
 #include "pages/PTZUrlsWidget.h"
+#include "pages/StorageLocationWidget.h"
 
 #include <QCoreApplication>
 
@@ -59,6 +60,8 @@ const PageSpec control = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device")
                           create<ControlDataWidget>};
 const PageSpec layoutOptions = {"layoutOptions", QT_TRANSLATE_NOOP("NodeInspector", "Layout options"), false,
                                 createLayoutOptions};
+const PageSpec recordings = {"recordings", QT_TRANSLATE_NOOP("NodeInspector", "Recordings"), false,
+                             create<StorageLocationWidget>};
 const PageSpec rotor = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "PTZ"), false,
                         create<PTZRotorControlWidget>};
 const PageSpec urls = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "URLs"), false, create<PTZUrlsWidget>};
@@ -72,9 +75,9 @@ QVector<PageSpec> pagesOf(ENodeType type)
     switch (type) {
     case IPDeviceType:
     case ChannelDeviceType:
-        return {general, connection, information, control, layoutOptions, rotor, proxy};
+        return {general, connection, information, control, layoutOptions, recordings, rotor, proxy};
     case UrlCameraType:
-        return {general, connection, urls, information, control, layoutOptions, proxy};
+        return {general, connection, urls, information, control, layoutOptions, recordings, proxy};
     case RecordingFolderType:
     case InternalRecorderType:
         return {general, folder};

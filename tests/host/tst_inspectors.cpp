@@ -7,6 +7,7 @@
 #include "drivers/InspectorPages.h"
 #include "inspector/IPDeviceInspectorWidget.h"
 #include "pages/PTZUrlsWidget.h"
+#include "utils/NodeDBUtils.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -79,6 +80,7 @@ private slots:
     void typedTextSurvivesForeignChange();
     void untouchedFieldsFollowForeignChange();
     void audioPathFollowsForeignChange();
+    void shownLocationFollowsForeignChange();
     void applyMakesFieldsFollowAgain();
     void removedNodeIsSaid();
     void updateNodeRefreshes();
@@ -138,13 +140,13 @@ void tst_Inspectors::tabsAndPages_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QStringList>("tabs");
-    const QStringList camera = {text("general"), text("device"), text("layoutOptions"), text("ptz"),
-                                text("proxy")};
+    const QStringList camera = {text("general"),    text("device"), text("layoutOptions"),
+                                text("recordings"), text("ptz"),    text("proxy")};
     QTest::newRow("camera") << 2 << camera;
     QTest::newRow("channel device") << 5 << camera;
     QTest::newRow("url camera") << 3
                                 << QStringList({text("general"), text("ptz"), text("device"),
-                                                text("layoutOptions"), text("proxy")});
+                                                text("layoutOptions"), text("recordings"), text("proxy")});
     QTest::newRow("folder") << 0 << QStringList(text("general"));
     QTest::newRow("view") << 1 << QStringList(text("general"));
 }
@@ -265,6 +267,18 @@ void tst_Inspectors::audioPathFollowsForeignChange()
     QCOMPARE(audio->currentData().toString(), third);
     QCOMPARE(audio->count(), 3);
     QVERIFY(audio->findData(other) > 0);
+}
+
+void tst_Inspectors::shownLocationFollowsForeignChange()
+{
+    const QString id = add(IPDeviceType, text("Gate"), text("10.0.0.1"));
+    const std::unique_ptr<InspectorWidget> inspector = inspect(id);
+    inspector->show();
+    const QLabel* location = child<QLabel>(inspector.get(), "storageLocationLabel");
+    QCOMPARE(location->text(), text("Via camera"));
+    QString folder;
+    NodeDBUtils::configurePlayerSource(id, 2, true, folder, text("//srv/gate"), QString(), QString());
+    QCOMPARE(location->text(), text("//srv/gate (KoTandem)"));
 }
 
 void tst_Inspectors::applyMakesFieldsFollowAgain()
