@@ -11,6 +11,7 @@
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/LogQt.h"
 #include "ko/NodeHint.h"
+#include "recording/VolumeProbe.h"
 
 #include <QRandomGenerator>
 #include <QTimer>
@@ -169,6 +170,7 @@ HostNodeDB::HostNodeDB(std::unique_ptr<Private> opened)
     : d(std::move(opened))
 {
     d->start(this);
+    VolumeProbe::install();
 }
 
 HostNodeDB::~HostNodeDB()
