@@ -7,6 +7,8 @@
 #include "database/StoreWriter.h"
 #include "database/StoredEnvironments.h"
 #include "database/StoredNode.h"
+#include "discovery/DeviceIntake.h"
+#include "discovery/Scanner.h"
 #include "drivers/NodeTypes.h"
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/LogQt.h"
@@ -20,6 +22,7 @@
 #include <algorithm>
 #include <set>
 #include <unordered_map>
+#include <vector>
 
 namespace ko {
 
@@ -100,7 +103,9 @@ public:
     GlobalNetworkProxy proxy;
     AuditLog audit;
     std::unordered_map<const Node*, Copy> copies;
-    std::set<std::string> scanners;
+    std::set<std::string> missingScanners; ///< known to be missing, said once each
+    std::unique_ptr<DeviceIntake> intake;
+    std::vector<std::unique_ptr<Scanner>> scanners; ///< go first
     qint64 dataVersion = 0;
     QTimer poll;
     QTimer retry;
@@ -124,6 +129,7 @@ HostNodeDB::Private::Private(std::unique_ptr<SqliteStore> openedStore)
 void HostNodeDB::Private::start(HostNodeDB* database)
 {
     q = database;
+    intake = std::make_unique<DeviceIntake>(*q);
     settingsTaken();
     QObject::connect(&proxy, &GlobalNetworkProxy::globalProxyDataChanged, q, [this] { proxyChanged(); });
     QObject::connect(&poll, &QTimer::timeout, q, &HostNodeDB::syncForeignChanges);
@@ -176,6 +182,8 @@ HostNodeDB::HostNodeDB(std::unique_ptr<Private> opened)
 HostNodeDB::~HostNodeDB()
 {
     blockSignals(true);
+    d->scanners.clear();
+    d->intake.reset();
     flush();
 }
 
@@ -421,16 +429,48 @@ bool HostNodeDB::isDestinationOfNodeRelation(const QString& id, ENodeRelationTyp
 
 // Scanners
 
-void HostNodeDB::startScanners(const std::string& name, unsigned, int)
+void HostNodeDB::addScanner(std::unique_ptr<Scanner> scanner)
 {
-    if (d->scanners.insert(name).second)
-        LogQt::line(LogQt::Info, QString::fromLatin1("No scanner named \"%1\" is available in this build")
+    d->intake->attach(*scanner);
+    d->scanners.push_back(std::move(scanner));
+}
+
+QList<Scanner*> HostNodeDB::scanners() const
+{
+    QList<Scanner*> all;
+    for (const auto& scanner : d->scanners)
+        all.append(scanner.get());
+    return all;
+}
+
+DeviceIntake& HostNodeDB::deviceIntake()
+{
+    return *d->intake;
+}
+
+void HostNodeDB::startScanners(const std::string& name, unsigned interfaces, int limit)
+{
+    bool found = false;
+    for (const auto& scanner : d->scanners) {
+        if (scanner->name().toStdString() != name)
+            continue;
+        found = true;
+        if (scanner->state().phase == ScannerState::Running)
+            continue;
+        d->intake->beginScan();
+        scanner->start(interfaces, limit);
+    }
+    if (!found && d->missingScanners.insert(name).second)
+        LogQt::line(LogQt::Info, QString::fromLatin1("No scanner named \"%1\" is available in this program")
                                      .arg(QString::fromStdString(name)));
 }
 
 void HostNodeDB::stopScanners(const std::string& name)
 {
-    d->scanners.erase(name);
+    for (const auto& scanner : d->scanners) {
+        if (scanner->name().toStdString() == name)
+            scanner->stop();
+    }
 }
 
 // Settings

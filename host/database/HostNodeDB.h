@@ -11,7 +11,9 @@
 namespace ko {
 
 class AuditLog;
+class DeviceIntake;
 class LogStore;
+class Scanner;
 
 /// The node database of this host, on a SQLite file.
 ///
@@ -74,6 +76,14 @@ public:
     void setGlobalRecordingFolderPath(const QString& path);
     void setDefaultRecordingTransponderIP(const QString& address);
     void setBandwidth(int bandwidth);
+
+    /// Installs a scanner for startScanners() to call by its name. The host program decides which there
+    /// are; they are stopped and deleted with the database.
+    void addScanner(std::unique_ptr<Scanner> scanner);
+    QList<Scanner*> scanners() const;
+
+    /// Makes nodes of what the scanners find.
+    DeviceIntake& deviceIntake();
 
     /// Summaries of all nodes, oldest first, without touching the disk.
     QVector<NodeSummary> summaries() const;

@@ -1,0 +1,27 @@
+#ifndef KO_NETWORKTEXT_H
+#define KO_NETWORKTEXT_H
+
+#include "HostExport.h"
+
+#include <QString>
+
+namespace ko {
+
+/// Makes texts fit for use that come from a network where anybody may say anything.
+namespace NetworkText {
+
+/// At most \a limit UTF-16 units on one line: without control, format (bidirectional overrides, zero
+/// width), private, unassigned and half characters; blanks of any kind and number are one blank.
+KO_HOST_EXPORT QString cleaned(const QString& text, int limit);
+
+/// The address in its usual notation; empty when it is no IP address of a single host.
+KO_HOST_EXPORT QString address(const QString& text);
+
+/// How addresses are compared, whoever wrote them: case and spelling make no difference.
+KO_HOST_EXPORT QString addressKey(const QString& address);
+
+} // namespace NetworkText
+
+} // namespace ko
+
+#endif
