@@ -87,6 +87,8 @@ public:
     void proxyChanged();
     void environmentsChanged();
     void environmentRemoved(const QString& id);
+    NodeID insert(NodeData data);
+    void makeRemotePreview(const NodeID& camera);
     void changeRelation(const RelationRow& relation, bool add);
 
     struct Copy
@@ -363,19 +365,37 @@ void HostNodeDB::endUpdateNode(Node* node)
     d->memory.pending.nodeUpdated(merged.id, difference, renamed);
     d->scheduleFlush();
     emit nodeUpdated(merged.id);
+    d->makeRemotePreview(merged.id);
+}
+
+/// A camera that is reached through the remote preview server has a node with its settings for that.
+void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
+{
+    const NodeRecord* record = memory.cache.find(camera);
+    if (!record || record->summary.type != IPDeviceType ||
+        !record->data().properties.value(QLatin1String("UseRecordingTransponder")).toBool() ||
+        !memory.relations.destinations(camera, RecordingTransponderRelation).isEmpty())
+        return;
+    const NodeData data = NodeTypes::remotePreviewOf(record->data(), get(TransponderAddress));
+    q->addNodeRelation(camera, insert(data), RecordingTransponderRelation);
+}
+
+NodeID HostNodeDB::Private::insert(NodeData data)
+{
+    data.id = newNodeId();
+    NodeRecord& record = memory.cache.append(NodeTypes::summaryOf(data));
+    record.context = data.context;
+    record.hasContext = data.hasContext;
+    memory.setData(record, data);
+    memory.pending.nodeInserted(data.id);
+    scheduleFlush();
+    emit q->nodeInserted(data.id);
+    return data.id;
 }
 
 void HostNodeDB::newNodeHint(const NodeHint& hint)
 {
-    NodeData data = NodeTypes::dataOf(hint);
-    data.id = newNodeId();
-    NodeRecord& record = d->memory.cache.append(NodeTypes::summaryOf(data));
-    record.context = data.context;
-    record.hasContext = data.hasContext;
-    d->memory.setData(record, data);
-    d->memory.pending.nodeInserted(data.id);
-    d->scheduleFlush();
-    emit nodeInserted(data.id);
+    d->insert(NodeTypes::dataOf(hint));
 }
 
 void HostNodeDB::removeNode(const QString& id)
@@ -385,11 +405,16 @@ void HostNodeDB::removeNode(const QString& id)
         return;
     const NodeID removed = record->summary.id; // the caller's may be a part of what goes
     const bool stored = record->isStored();
+    const QStringList previews = d->memory.relations.destinations(removed, RecordingTransponderRelation);
     d->memory.removeNode(*record);
     if (stored)
         d->memory.pending.nodeRemoved(removed);
     d->scheduleFlush();
     emit nodeRemoved(removed);
+    for (const QString& preview : previews) {
+        if (!isDestinationOfNodeRelation(preview, RecordingTransponderRelation))
+            removeNode(preview);
+    }
 }
 
 // Relations

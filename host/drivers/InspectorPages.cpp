@@ -39,6 +39,15 @@ const Field folderFields[] = {
     {PropertyKeys::Password, Field::Password, QT_TRANSLATE_NOOP("PropertyFormPage", "Password:")},
 };
 
+const Field remotePreviewFields[] = {
+    {PropertyKeys::RemotePreviewAddress, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Address:")},
+    {"RecordingTransponderPort", Field::Port, QT_TRANSLATE_NOOP("PropertyFormPage", "Port:")},
+    {"RecordingTransponderSSL", Field::Flag,
+     QT_TRANSLATE_NOOP("PropertyFormPage", "Secure connection (SSL)")},
+    {"RecordingTransponderUser", Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "User name:")},
+    {"RecordingTransponderPassword", Field::Password, QT_TRANSLATE_NOOP("PropertyFormPage", "Password:")},
+};
+
 template <const auto& fields>
 std::unique_ptr<InspectorPage> createForm(QWidget* parent)
 {
@@ -54,6 +63,8 @@ const PageSpec connection = {"general", QT_TRANSLATE_NOOP("NodeInspector", "Gene
                              create<UserDataWidget>};
 const PageSpec folder = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
                          createForm<folderFields>};
+const PageSpec remotePreview = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
+                                createForm<remotePreviewFields>};
 const PageSpec information = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device"), true,
                               create<InfoWidget>};
 const PageSpec control = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device"), false,
@@ -81,6 +92,8 @@ QVector<PageSpec> pagesOf(ENodeType type)
     case RecordingFolderType:
     case InternalRecorderType:
         return {general, folder};
+    case RecordingTransponderType:
+        return {general, remotePreview};
     default:
         return {general};
     }

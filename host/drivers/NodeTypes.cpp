@@ -110,6 +110,15 @@ QVariant property(const NodeData& data, const char* key)
     return data.properties.value(QLatin1String(key));
 }
 
+/// Where a node of the type is found.
+const char* locationKey(ENodeType type)
+{
+    if (type == RecordingTransponderType)
+        return PropertyKeys::RemotePreviewAddress;
+    const TypeInfo* info = find(type);
+    return info && info->isDevice ? PropertyKeys::Address : PropertyKeys::Path;
+}
+
 void describeDevice(NodeData& data, const NodeHintIPDevice& hint)
 {
     const auto set = [&data](const char* key, const QVariant& value) {
@@ -213,14 +222,27 @@ NodeData dataOf(const NodeHint& hint)
     return data;
 }
 
+NodeData remotePreviewOf(const NodeData& camera, const QString& address)
+{
+    NodeData data;
+    data.type = RecordingTransponderType;
+    data.name = QCoreApplication::translate("NodeTypes", "Remote preview of %1").arg(camera.name);
+    for (const char* key :
+         {"RecordingTransponderUseDefault", "RecordingTransponderFramerateUseDefault",
+          "RecordingTransponderQualityUseDefault", "RecordingTransponderResolutionUseDefault",
+          "RecordingTransponderSoundUseDefault"})
+        data.properties.set(QLatin1String(key), true);
+    data.properties.set(QLatin1String(PropertyKeys::RemotePreviewAddress), address);
+    return data;
+}
+
 NodeSummary summaryOf(const NodeData& data)
 {
     NodeSummary summary;
     summary.id = data.id;
     summary.type = data.type;
     summary.name = data.name;
-    summary.location =
-        property(data, isDevice(data.type) ? PropertyKeys::Address : PropertyKeys::Path).toString();
+    summary.location = property(data, locationKey(data.type)).toString();
     const QVariant usage = property(data, PropertyKeys::RecordingStorageUsage);
     summary.recordingUsage = usage.isValid() ? usage.toInt() : -1;
     return summary;

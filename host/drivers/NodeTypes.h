@@ -44,6 +44,10 @@ KO_HOST_EXPORT NodeData described(const NodeHint& hint);
 /// The data of the node that a hint describes: what it says on top of the type's defaults, no id.
 KO_HOST_EXPORT NodeData dataOf(const NodeHint& hint);
 
+/// The data of a node with the settings of the remote preview server for \a camera: the system's defaults,
+/// with the address of the default server. No id.
+NodeData remotePreviewOf(const NodeData& camera, const QString& address);
+
 /// What lists show.
 KO_HOST_EXPORT NodeSummary summaryOf(const NodeData& data);
 

@@ -4,11 +4,13 @@
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
+#include "pages/PageTools.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 
 namespace ko {
 
@@ -22,6 +24,13 @@ PropertyFormPage::PropertyFormPage(const QVector<Field>& fields, QWidget* parent
             QCheckBox* checkBox = new QCheckBox(tr(field.caption), this);
             checkBox->setObjectName(QLatin1String(field.key));
             layout.addRow(checkBox);
+            continue;
+        }
+        if (field.kind == Field::Port) {
+            QSpinBox* spinBox = new QSpinBox(this);
+            spinBox->setObjectName(QLatin1String(field.key));
+            spinBox->setRange(0, 65535);
+            layout.addRow(tr(field.caption), spinBox);
             continue;
         }
         QLineEdit* lineEdit = new QLineEdit(this);
@@ -62,10 +71,13 @@ void PropertyFormPage::accept(NodeHint* hint)
 
 void PropertyFormPage::setReadOnly(bool readOnly)
 {
+    const QList<QSpinBox*> spinBoxes = findChildren<QSpinBox*>();
+    for (QSpinBox* spinBox : spinBoxes)
+        setFieldReadOnly(spinBox, readOnly);
     const QList<QLineEdit*> lineEdits = findChildren<QLineEdit*>();
     for (QLineEdit* lineEdit : lineEdits) {
-        lineEdit->setReadOnly(readOnly);
-        lineEdit->setFrame(!readOnly);
+        if (!qobject_cast<QSpinBox*>(lineEdit->parent()))
+            setFieldReadOnly(lineEdit, readOnly);
     }
     const QList<QAbstractButton*> buttons = findChildren<QAbstractButton*>();
     for (QAbstractButton* button : buttons)
@@ -78,6 +90,8 @@ void PropertyFormPage::load(const PropertyAccess& properties)
         const QString key = QLatin1String(field.key);
         if (field.kind == Field::Flag)
             findChild<QCheckBox*>(key)->setChecked(properties.boolProperty(key, false));
+        else if (field.kind == Field::Port)
+            findChild<QSpinBox*>(key)->setValue(properties.intProperty(key, 0));
         else
             findChild<QLineEdit*>(key)->setText(properties.stringProperty(key, QString()));
     }
@@ -89,6 +103,8 @@ void PropertyFormPage::store(PropertyAccess& properties) const
         const QString key = QLatin1String(field.key);
         if (field.kind == Field::Flag)
             properties.setBoolProperty(key, findChild<QCheckBox*>(key)->isChecked());
+        else if (field.kind == Field::Port)
+            properties.setIntProperty(key, findChild<QSpinBox*>(key)->value());
         else
             properties.setStringProperty(key, findChild<QLineEdit*>(key)->text());
     }

@@ -18,10 +18,10 @@ class PropertyFormPage : public QWidget
 public:
     struct Field
     {
-        enum Kind { Text, Password, Flag, Folder };
+        enum Kind { Text, Password, Flag, Folder, Port };
 
         const char* key;     ///< also the object name of the editor
-        Kind kind;           ///< Flag: a bool property, the others strings
+        Kind kind;           ///< Flag: a bool property, Port: an int, the others strings
         const char* caption; ///< in the translation context "PropertyFormPage"
     };
 

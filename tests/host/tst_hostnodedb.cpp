@@ -42,6 +42,7 @@ private slots:
     void lookupFollowsChanges();
     void typeNames();
     void settingsAreStored();
+    void remotePreviewOfACamera();
     void proxyIsStored();
     void unsavedProxyPasswordIsNotStored();
     void environmentsAreStored();
@@ -444,6 +445,36 @@ void TestHostNodeDB::typeNames()
     const QList<ENodeType> none;
     QVERIFY(m_db->readableNodeTypeNames(&none, true).isEmpty());
     QVERIFY(m_db->nodeDriver(ENodeType(4711)).null());
+}
+
+void TestHostNodeDB::remotePreviewOfACamera()
+{
+    m_db->setDefaultRecordingTransponderIP(QLatin1String("10.0.0.9"));
+    const QString camera = addCamera(*m_db, QLatin1String("Gate"), QLatin1String("10.0.0.1"));
+    const auto setFlag = [this](const QString& id, bool flag) {
+        Node* node = m_db->beginUpdateNode(id, -1);
+        node->setBoolProperty(QLatin1String("UseRecordingTransponder"), flag);
+        m_db->endUpdateNode(node);
+        return m_db->relatedNodes(id, RecordingTransponderRelation);
+    };
+    setText(*m_db, camera, "Name", QLatin1String("North gate"));
+    QCOMPARE(m_db->relatedNodes(camera, RecordingTransponderRelation), QStringList());
+    const QStringList previews = setFlag(camera, true);
+    QCOMPARE(previews.size(), 1);
+    const kom::smart<const Node> preview = m_db->node(previews.constFirst());
+    QCOMPARE(preview->type, RecordingTransponderType);
+    QCOMPARE(preview->name(), QLatin1String("Remote preview of North gate"));
+    QCOMPARE(preview->stringProperty(QLatin1String("RecordingTransponderIP"), QString()),
+             QLatin1String("10.0.0.9"));
+    QVERIFY(preview->boolProperty(QLatin1String("RecordingTransponderUseDefault"), false));
+    QCOMPARE(m_db->summary(previews.constFirst()).location, QLatin1String("10.0.0.9"));
+    setFlag(camera, false);
+    QCOMPARE(setFlag(camera, true), previews); // kept, and not made again
+    reopen();
+    QCOMPARE(m_db->relatedNodes(camera, RecordingTransponderRelation), previews);
+    m_db->removeNode(camera);
+    QVERIFY(m_db->node(previews.constFirst()).null());
+    QVERIFY(m_db->nodeIdList(AllNodeTypes).isEmpty());
 }
 
 void TestHostNodeDB::settingsAreStored()
