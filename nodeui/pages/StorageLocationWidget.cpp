@@ -3,6 +3,7 @@
 #include "dialogs/RecordingFolderAssignmentDialog.h"
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
+#include "ko/connect.h"
 
 #include "ui_StorageLocationWidget.h"
 
@@ -26,6 +27,7 @@ StorageLocationWidget::StorageLocationWidget(QWidget* parent)
     , m_ui(new Ui::StorageLocationWidget)
 {
     m_ui->setupUi(this);
+    ko::connect(m_ui->changePushButton, SIGNAL(clicked()), this, SLOT(changeLocation()));
 }
 
 StorageLocationWidget::~StorageLocationWidget() = default;
