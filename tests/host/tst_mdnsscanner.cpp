@@ -1,0 +1,312 @@
+#include "discovery/MdnsScanner.h"
+#include "discovery/MdnsTxt.h"
+#include "ko/LogQt.h"
+#include "support/TestMain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <memory>
+
+#include <net/if.h>
+#include <sched.h>
+#include <sys/ioctl.h>
+#include <sys/mount.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace ko;
+
+namespace {
+
+class LogLines : public LogSink
+{
+public:
+    LogLines() { LogQt::instance().setSink(this); }
+    ~LogLines() override { LogQt::instance().setSink(nullptr); }
+    void write(int, const QString& line) override { lines.append(line); }
+    QStringList lines;
+};
+
+int entriesOf(const char* folder)
+{
+    return int(
+        QDir(QLatin1String(folder)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
+}
+
+/// Puts this process into a network and a /run of its own, so that no daemon of the machine answers.
+/// Must be called before there is a second thread. Empty, or why it cannot be done.
+QString enterOwnNetwork()
+{
+    for (const char* program : {"dbus-daemon", "avahi-daemon", "avahi-publish"}) {
+        if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty())
+            return QStringLiteral("%1 is not installed").arg(QLatin1String(program));
+    }
+    if (unshare(CLONE_NEWNS | CLONE_NEWNET) != 0)
+        return QStringLiteral("no namespaces: %1").arg(qt_error_string(errno));
+    if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        mount("tmpfs", "/run", "tmpfs", 0, "mode=755") != 0)
+        return QStringLiteral("no /run of its own: %1").arg(qt_error_string(errno));
+    for (const char* folder : {"/run/dbus", "/run/avahi-daemon"})
+        QDir().mkpath(QLatin1String(folder));
+    const int descriptor = socket(AF_INET, SOCK_DGRAM, 0);
+    ifreq request = {};
+    qstrncpy(request.ifr_name, "lo", IFNAMSIZ);
+    request.ifr_flags = IFF_UP | IFF_RUNNING | IFF_MULTICAST | IFF_LOOPBACK;
+    const bool isUp = ioctl(descriptor, SIOCSIFFLAGS, &request) == 0;
+    const QString error = isUp ? QString() : qt_error_string(errno);
+    close(descriptor);
+    return isUp ? QString() : QStringLiteral("the loopback interface stays down: %1").arg(error);
+}
+
+bool launch(QProcess& process, const QString& program, const QStringList& arguments)
+{
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(program, arguments);
+    return process.waitForStarted();
+}
+
+void end(QProcess& process)
+{
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.terminate();
+    if (!process.waitForFinished(5000))
+        process.kill();
+    process.waitForFinished();
+}
+
+QString s_noNetwork; // set before the tests begin
+
+} // namespace
+
+class MdnsScannerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void txtRecords_data();
+    void txtRecords();
+    void missingBusIsSaidOnce();
+    void devicesAreFound();
+    void daemonComesAndGoes();
+    void limitAndInterfaces();
+    void onAndOffLeavesNothing();
+
+private:
+    bool startBus();
+    bool startDaemon();
+    bool publish(QProcess& publisher, const QString& name, int port, const QStringList& txt = QStringList());
+
+    QProcess m_bus;
+    QProcess m_daemon;
+};
+
+void MdnsScannerTest::cleanup()
+{
+    end(m_daemon);
+    end(m_bus);
+}
+
+bool MdnsScannerTest::startBus()
+{
+    QFile::remove(QStringLiteral("/run/dbus/system_bus_socket"));
+    return launch(m_bus, QStringLiteral("dbus-daemon"),
+                  {QStringLiteral("--system"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile")}) &&
+           QTest::qWaitFor([] { return QFile::exists(QStringLiteral("/run/dbus/system_bus_socket")); }, 5000);
+}
+
+bool MdnsScannerTest::startDaemon()
+{
+    QFile file(QStringLiteral("/run/avahi-test.conf"));
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    file.write("[server]\nallow-interfaces=lo\nuse-ipv4=yes\nuse-ipv6=yes\n[publish]\n"
+               "disable-user-service-publishing=no\n");
+    file.close();
+    return launch(m_daemon, QStringLiteral("avahi-daemon"),
+                  {QStringLiteral("--no-drop-root"), QStringLiteral("--no-chroot"), QStringLiteral("-f"),
+                   file.fileName()});
+}
+
+bool MdnsScannerTest::publish(QProcess& publisher, const QString& name, int port, const QStringList& txt)
+{
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        if (launch(
+                publisher, QStringLiteral("avahi-publish"),
+                QStringList{QStringLiteral("-s"), name, QStringLiteral("_rtsp._tcp"), QString::number(port)} +
+                    txt) &&
+            !publisher.waitForFinished(500))
+            return true;
+    }
+    return false;
+}
+
+void MdnsScannerTest::txtRecords_data()
+{
+    QTest::addColumn<QByteArray>("entry");
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<QString>("mac");
+    const QString none;
+    QTest::newRow("model") << QByteArray("model=M10") << QStringLiteral("M10") << none << none;
+    QTest::newRow("upper case") << QByteArray("MacAddress=001122334455") << none << none
+                                << QStringLiteral("001122334455");
+    QTest::newRow("version") << QByteArray("version=5=1") << none << QStringLiteral("5=1") << none;
+    QTest::newRow("no value") << QByteArray("model") << none << none << none;
+    QTest::newRow("no key") << QByteArray("=model") << none << none << none;
+    QTest::newRow("user") << QByteArray("user=root") << none << none << none;
+    QTest::newRow("password") << QByteArray("password=pass") << none << none << none;
+    QTest::newRow("binary") << QByteArray("\xff\xfe\x00=\x01", 5) << none << none << none;
+}
+
+void MdnsScannerTest::txtRecords()
+{
+    QFETCH(QByteArray, entry);
+    DiscoveredDevice device;
+    readMdnsTxt(entry, device);
+    QTEST(device.model, "model");
+    QTEST(device.version, "version");
+    QTEST(device.macAddress, "mac");
+    QCOMPARE(device.name, QString());
+}
+
+#define NEED_NETWORK()                                                                                       \
+    if (!s_noNetwork.isEmpty()) {                                                                            \
+        qWarning("not tested here: %s", qPrintable(s_noNetwork));                                            \
+        return;                                                                                              \
+    }
+
+void MdnsScannerTest::missingBusIsSaidOnce()
+{
+    NEED_NETWORK()
+    LogLines log;
+    MdnsScanner scanner;
+    scanner.start(0xFFFFFFFF, -1);
+    QCOMPARE(int(scanner.state().phase), int(ScannerState::Running));
+    QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Unavailable), 10000);
+    QVERIFY(!scanner.state().reason.isEmpty());
+    QTest::qWait(4500); // two more attempts
+    QCOMPARE(log.lines.size(), 1);
+    scanner.stop();
+    QCOMPARE(int(scanner.state().phase), int(ScannerState::Cancelled));
+}
+
+void MdnsScannerTest::devicesAreFound()
+{
+    NEED_NETWORK()
+    LogLines log;
+    QVERIFY(startBus() && startDaemon());
+    QProcess publisher;
+    QVERIFY(publish(publisher, QStringLiteral("Gate"), 8554,
+                    {QStringLiteral("model=M10"), QStringLiteral("mac=00:11:22:33:44:55"),
+                     QStringLiteral("password=hidden")}));
+    MdnsScanner scanner;
+    QVector<DiscoveredDevice> found;
+    connect(&scanner, &Scanner::found, this,
+            [&found](const QVector<DiscoveredDevice>& some) { found += some; });
+    scanner.start(0xFFFFFFFF, -1);
+    QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 15000);
+    QCOMPARE(found.at(0).name, QStringLiteral("Gate"));
+    QCOMPARE(found.at(0).port, 8554);
+    QCOMPARE(found.at(0).service, QStringLiteral("_rtsp._tcp"));
+    QCOMPARE(found.at(0).model, QStringLiteral("M10"));
+    QCOMPARE(found.at(0).macAddress, QStringLiteral("00:11:22:33:44:55"));
+    QVERIFY(!found.at(0).address.isEmpty());
+    QTRY_VERIFY(scanner.state().done >= 1);
+    scanner.stop();
+    const int count = int(found.size());
+    QTest::qWait(300);
+    QCOMPARE(int(found.size()), count);
+    found.clear();
+    scanner.start(0xFFFFFFFF, -1); // and again
+    QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 15000);
+    QVERIFY(log.lines.filter(QStringLiteral("hidden")).isEmpty());
+    end(publisher);
+}
+
+void MdnsScannerTest::daemonComesAndGoes()
+{
+    NEED_NETWORK()
+    LogLines log;
+    QVERIFY(startBus());
+    MdnsScanner scanner;
+    QVector<DiscoveredDevice> found;
+    connect(&scanner, &Scanner::found, this,
+            [&found](const QVector<DiscoveredDevice>& some) { found += some; });
+    scanner.start(0xFFFFFFFF, -1);
+    for (int round = 0; round < 2; ++round) {
+        QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Unavailable), 40000);
+        QVERIFY(startDaemon());
+        QProcess publisher;
+        QVERIFY(publish(publisher, QStringLiteral("Gate"), 8554));
+        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 20000);
+        QTRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
+        end(publisher);
+        end(m_daemon);
+        found.clear();
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Unavailable), 10000);
+    end(m_bus); // the bus itself goes
+    QTest::qWait(2500);
+    QCOMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
+    QCOMPARE(log.lines.size(), 3);
+}
+
+void MdnsScannerTest::limitAndInterfaces()
+{
+    NEED_NETWORK()
+    QVERIFY(startBus() && startDaemon());
+    QProcess publishers[2];
+    QVERIFY(publish(publishers[0], QStringLiteral("One"), 8554));
+    QVERIFY(publish(publishers[1], QStringLiteral("Two"), 8555));
+    MdnsScanner scanner;
+    QVector<DiscoveredDevice> found;
+    connect(&scanner, &Scanner::found, this,
+            [&found](const QVector<DiscoveredDevice>& some) { found += some; });
+    scanner.start(0xFFFFFFFF, 1);
+    QTRY_VERIFY_WITH_TIMEOUT(scanner.state().done >= 2, 15000);
+    QCOMPARE(int(found.size()), 1);
+    scanner.stop();
+    found.clear();
+    scanner.start(~(1u << (if_nametoindex("lo") - 1)), -1);
+    QTest::qWait(2000);
+    QCOMPARE(int(found.size()), 0);
+    for (QProcess& publisher : publishers)
+        end(publisher);
+}
+
+void MdnsScannerTest::onAndOffLeavesNothing()
+{
+    if (s_noNetwork.isEmpty())
+        QVERIFY(startBus() && startDaemon());
+    MdnsScanner scanner;
+    scanner.start(0xFFFFFFFF, -1);
+    QTest::qWait(500);
+    scanner.stop();
+    const int threads = entriesOf("/proc/self/task");
+    const int descriptors = entriesOf("/proc/self/fd");
+    for (int i = 0; i < 100; ++i) {
+        scanner.start(0xFFFFFFFF, -1);
+        QTest::qWait(i % 10 * 3);
+        scanner.stop();
+    }
+    QCOMPARE(entriesOf("/proc/self/task"), threads);
+    QCOMPARE(entriesOf("/proc/self/fd"), descriptors);
+}
+
+int main(int argc, char** argv)
+{
+    s_noNetwork = enterOwnNetwork();
+    QApplication app(argc, argv);
+    testsupport::prepareApplication();
+    MdnsScannerTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_mdnsscanner.moc"
