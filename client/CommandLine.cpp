@@ -5,6 +5,7 @@
 #include "Tour.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
+#include "discovery/MdnsScanner.h"
 #include "exchange/CameraSurvey.h"
 #include "store/BackupKeeper.h"
 #include "store/StoreBackup.h"
@@ -192,6 +193,7 @@ int CommandLine::runTask()
 int CommandLine::runWindow(HostNodeDB& db) const
 {
     const BackupKeeper backups(db.fileName());
+    db.addScanner(std::make_unique<MdnsScanner>());
     MainWindow window(db);
     window.show();
     if (m_tour.isEmpty() && StoreFile::isOnNetwork(db.fileName()))

@@ -1,13 +1,16 @@
 #include "MainWindow.h"
 
+#include "AddressChangesDialog.h"
 #include "AuditLogDialog.h"
 #include "ImportReportDialog.h"
 #include "LayoutAdapter.h"
+#include "NameList.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
 #include "NodeLogEntries.h"
 #include "PreferencesDialog.h"
 #include "RemoveNodesBox.h"
+#include "ScannerStatus.h"
 #include "SurveyProgress.h"
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
@@ -85,6 +88,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     createList();
     createToolBar();
     createCommands();
+    statusBar()->addPermanentWidget(new ScannerStatus(m_db, this));
     statusBar()->addPermanentWidget(m_counts);
 
     connect(&m_db, &NodeDB::nodeInserted, this, &MainWindow::nodeChanged);
@@ -94,6 +98,12 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     connect(&m_db, &HostNodeDB::storeRecovered, this, &MainWindow::storeRecovered);
     connect(&m_db, &HostNodeDB::storeDamaged, this, [this](const StoreError& error) {
         QMessageBox::critical(this, tr("Node Database"), error.message);
+    });
+
+    connect(&m_db.deviceIntake(), &DeviceIntake::addressChangesChanged, this, [this] {
+        const int count = int(m_db.deviceIntake().addressChanges().size());
+        if (count > 0)
+            statusBar()->showMessage(tr("%n device(s) seen at a new address", nullptr, count), 10000);
     });
 
     restoreState();
@@ -222,6 +232,13 @@ void MainWindow::createCommands()
               "edit-find",
               C::Nothing,
               &MainWindow::showOverview},
+             {"actionAddressChanges",
+              QT_TR_NOOP("&Seen at a New Address..."),
+              QT_TR_NOOP("Devices that a scan found at another address than they have here"),
+              {},
+              "",
+              C::Nothing,
+              &MainWindow::showAddressChanges},
          }},
         {QT_TR_NOOP("&View"),
          {
@@ -496,6 +513,12 @@ void MainWindow::showOverview()
     m_view->setFocus();
 }
 
+void MainWindow::showAddressChanges()
+{
+    AddressChangesDialog dialog(m_db.deviceIntake(), this);
+    dialog.exec();
+}
+
 void MainWindow::showDatabase()
 {
     NodeDBViewer* viewer = new NodeDBViewer(this);
@@ -550,10 +573,26 @@ void MainWindow::about()
                                 QLatin1String(KO_VERSION), QLatin1String(qVersion())));
 }
 
+QString MainWindow::unstoredText() const
+{
+    QStringList text(tr("Nothing you entered is lost while this window is open."));
+    QStringList names;
+    const QStringList ids = m_db.unstoredNodes();
+    for (const QString& id : ids) {
+        const NodeSummary node = m_db.summary(id);
+        if (!node.id.isEmpty())
+            names.append(node.name);
+    }
+    if (!names.isEmpty())
+        text << tr("What waits to be stored, all of it or nothing, belongs to:") << listOfNames(names);
+    return text.join(QLatin1Char('\n'));
+}
+
 void MainWindow::storeFailed(const ko::StoreError& error)
 {
     if (m_failure) {
         m_failure->setText(error.message);
+        m_failure->setInformativeText(unstoredText());
         return;
     }
     m_failure = new QMessageBox(QMessageBox::Critical, tr("Changes Are Not Stored"), error.message,
@@ -561,7 +600,7 @@ void MainWindow::storeFailed(const ko::StoreError& error)
     m_failure->setObjectName(QStringLiteral("storeFailedBox"));
     m_failure->setAttribute(Qt::WA_DeleteOnClose);
     m_failure->setTextFormat(Qt::PlainText);
-    m_failure->setInformativeText(tr("Nothing you entered is lost while this window is open."));
+    m_failure->setInformativeText(unstoredText());
     m_failure->setDetailedText(error.detail);
     QPushButton* retry = m_failure->addButton(tr("Retry"), QMessageBox::AcceptRole);
     QPushButton* discard = m_failure->addButton(tr("Discard Changes"), QMessageBox::DestructiveRole);
@@ -580,7 +619,7 @@ void MainWindow::storeFailed(const ko::StoreError& error)
 void MainWindow::storeRecovered()
 {
     if (m_failure)
-        m_failure->close();
+        m_failure->done(0); // it has no button that closing it could stand for
     statusBar()->showMessage(tr("All changes are stored."), 10000);
 }
 

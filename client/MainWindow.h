@@ -44,6 +44,7 @@ private slots:
     void editPreferences();
     void showAuditLog();
     void showOverview();
+    void showAddressChanges();
     void showDatabase();
     void importCameras();
     void exportCameras();
@@ -69,6 +70,7 @@ private:
     QStringList selectedNames(const QStringList& ids) const;
     QStringList selectedDevices() const;
     void logChanges(const QStringList& ids);
+    QString unstoredText() const;
     void restoreState();
     void saveState() const;
 

@@ -1,5 +1,7 @@
 #include "RemoveNodesBox.h"
 
+#include "NameList.h"
+
 #include <QCoreApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -8,23 +10,9 @@ namespace ko {
 
 namespace {
 
-const int namedAtMost = 10;
-
 QString translated(const char* text, int n = -1)
 {
     return QCoreApplication::translate("RemoveNodesBox", text, nullptr, n);
-}
-
-QString listed(const QStringList& names)
-{
-    QStringList lines;
-    const QStringList named = names.mid(0, namedAtMost);
-    for (const QString& name : named)
-        lines.append(QStringLiteral("    ") + (name.isEmpty() ? translated("(unnamed)") : name));
-    const int more = int(names.size()) - namedAtMost;
-    if (more > 0)
-        lines.append(QStringLiteral("    ") + translated("and %n more", more));
-    return lines.join(QLatin1Char('\n'));
 }
 
 } // namespace
@@ -38,7 +26,7 @@ bool confirmRemoval(const QStringList& names, QWidget* parent)
         names.size() == 1
             ? translated("Remove this node? It cannot be brought back.")
             : translated("Remove these %n nodes? They cannot be brought back.", int(names.size()));
-    box.setText(question + QStringLiteral("\n\n") + listed(names));
+    box.setText(question + QStringLiteral("\n\n") + listOfNames(names));
     QPushButton* remove = box.addButton(translated("Remove"), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.setEscapeButton(QMessageBox::Cancel);

@@ -725,6 +725,20 @@ bool HostNodeDB::hasUnstoredChanges() const
     return d->memory.pending.hasChanges();
 }
 
+QStringList HostNodeDB::unstoredNodes() const
+{
+    const PendingChanges& pending = d->memory.pending;
+    QStringList ids;
+    for (const NodeID& id : pending.order) {
+        if (pending.nodes.contains(id))
+            ids.append(id);
+    }
+    for (const PendingChanges::RelationChange& change : pending.relations)
+        ids.append(change.relation.source);
+    ids.removeDuplicates();
+    return ids;
+}
+
 void HostNodeDB::discardUnstoredChanges()
 {
     const PendingChanges dropped = std::exchange(d->memory.pending, PendingChanges());

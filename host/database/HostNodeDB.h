@@ -101,6 +101,9 @@ public:
     bool flush();
     bool hasUnstoredChanges() const;
 
+    /// The nodes of which something is not stored, removed ones included.
+    QStringList unstoredNodes() const;
+
     /// Goes back to what is stored, announcing every node that thereby changes, comes back or goes.
     void discardUnstoredChanges();
 

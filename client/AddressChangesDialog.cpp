@@ -1,0 +1,91 @@
+#include "AddressChangesDialog.h"
+
+#include "ko/dialogFlags.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace ko {
+
+AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent)
+    : QDialog(parent, dialogFlags(true))
+    , m_intake(intake)
+    , m_table(new QTableWidget(0, 4, this))
+{
+    setObjectName(QStringLiteral("AddressChangesDialog"));
+    setWindowTitle(tr("Seen at a New Address"));
+    QLabel* hint = new QLabel(tr("These devices seem to answer at another address now. Accept only what you "
+                                 "expect: user name and password are sent to the new address from then on."),
+                              this);
+    hint->setWordWrap(true);
+    m_table->setObjectName(QStringLiteral("changesTableWidget"));
+    m_table->setAccessibleName(tr("Devices"));
+    m_table->setHorizontalHeaderLabels({tr("Name"), tr("Old Address"), tr("New Address"), tr("MAC Address")});
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setStretchLastSection(true);
+
+    QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    m_accept = buttons->addButton(tr("Accept Selected"), QDialogButtonBox::ActionRole);
+    m_acceptAll = buttons->addButton(tr("Accept All"), QDialogButtonBox::ActionRole);
+    m_dismiss = buttons->addButton(tr("Dismiss Selected"), QDialogButtonBox::ActionRole);
+    m_accept->setObjectName(QStringLiteral("acceptButton"));
+    m_acceptAll->setObjectName(QStringLiteral("acceptAllButton"));
+    m_dismiss->setObjectName(QStringLiteral("dismissButton"));
+    QVBoxLayout* layout = new QVBoxLayout(this);
+    layout->addWidget(hint);
+    layout->addWidget(m_table);
+    layout->addWidget(buttons);
+    resize(640, 360);
+
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_accept, &QPushButton::clicked, this, [this] { m_intake.accept(selected()); });
+    connect(m_acceptAll, &QPushButton::clicked, this, [this] {
+        const QVector<AddressChange> shown = m_changes; // what came since was not seen
+        m_intake.accept(shown);
+    });
+    connect(m_dismiss, &QPushButton::clicked, this, [this] { m_intake.dismiss(selected()); });
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &AddressChangesDialog::updateButtons);
+    connect(&m_intake, &DeviceIntake::addressChangesChanged, this, &AddressChangesDialog::refresh);
+    refresh();
+}
+
+void AddressChangesDialog::refresh()
+{
+    m_table->clearSelection(); // a row must not become another one under the user's hand
+    m_changes = m_intake.addressChanges();
+    m_table->setRowCount(int(m_changes.size()));
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        const AddressChange& change = m_changes.at(row);
+        const QString texts[] = {change.name, change.oldAddress, change.newAddress, change.macAddress};
+        for (int column = 0; column < 4; ++column)
+            m_table->setItem(row, column, new QTableWidgetItem(texts[column]));
+    }
+    m_table->resizeColumnsToContents();
+    updateButtons();
+}
+
+void AddressChangesDialog::updateButtons()
+{
+    const bool any = m_table->selectionModel()->hasSelection();
+    m_accept->setEnabled(any);
+    m_dismiss->setEnabled(any);
+    m_acceptAll->setEnabled(!m_changes.isEmpty());
+}
+
+QVector<AddressChange> AddressChangesDialog::selected() const
+{
+    QVector<AddressChange> changes;
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    for (const QModelIndex& row : rows)
+        changes.append(m_changes.at(row.row()));
+    return changes;
+}
+
+} // namespace ko

@@ -1,0 +1,53 @@
+#include "ScannerStatus.h"
+
+#include "database/HostNodeDB.h"
+
+namespace ko {
+
+ScannerStatus::ScannerStatus(HostNodeDB& db, QWidget* parent)
+    : QLabel(parent)
+    , m_db(db)
+{
+    setObjectName(QStringLiteral("scannerStatus"));
+    setTextFormat(Qt::PlainText); // names of interfaces are no markup
+    const QList<Scanner*> scanners = db.scanners();
+    for (Scanner* scanner : scanners)
+        connect(scanner, &Scanner::stateChanged, this, &ScannerStatus::refresh);
+    refresh();
+}
+
+QString ScannerStatus::describe(const QString& name, const ScannerState& state)
+{
+    const QString where = state.where.isEmpty() ? QString() : QStringLiteral(", ") + state.where;
+    switch (state.phase) {
+    case ScannerState::Idle:
+        return tr("%1: idle").arg(name);
+    case ScannerState::Running:
+        return (state.total > 0
+                    ? tr("%1: %2 of %3").arg(name, QString::number(state.done), QString::number(state.total))
+                    : tr("%1: searching").arg(name)) +
+               where;
+    case ScannerState::Done:
+        return tr("%1: done").arg(name);
+    case ScannerState::Cancelled:
+        return tr("%1: cancelled").arg(name);
+    case ScannerState::Unavailable:
+        return tr("%1: not available (%2)").arg(name, state.reason);
+    }
+    return QString();
+}
+
+void ScannerStatus::refresh()
+{
+    QStringList texts;
+    bool anyStarted = false;
+    const QList<Scanner*> scanners = m_db.scanners();
+    for (const Scanner* scanner : scanners) {
+        const ScannerState state = scanner->state();
+        anyStarted = anyStarted || state.phase != ScannerState::Idle;
+        texts.append(describe(scanner->name(), state));
+    }
+    setText(anyStarted ? texts.join(QStringLiteral("  |  ")) : QString());
+}
+
+} // namespace ko

@@ -1,0 +1,32 @@
+#ifndef KO_SCANNERSTATUS_H
+#define KO_SCANNERSTATUS_H
+
+#include "discovery/Scanner.h"
+
+#include <QLabel>
+
+namespace ko {
+
+class HostNodeDB;
+
+/// What the scanners of the database are doing, for the status bar. Empty until one was started.
+class ScannerStatus : public QLabel
+{
+    Q_OBJECT
+
+public:
+    /// Shows the scanners that \a db has now; the database outlives the widget.
+    explicit ScannerStatus(HostNodeDB& db, QWidget* parent = nullptr);
+
+    /// "mDNS: 3 of 5, all interfaces"
+    static QString describe(const QString& name, const ScannerState& state);
+
+private:
+    void refresh();
+
+    HostNodeDB& m_db;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,177 @@
+#include "AddressChangesDialog.h"
+#include "ScannerStatus.h"
+#include "audit/AuditLog.h"
+#include "ko/IPDeviceNode.h"
+#include "support/HostFixture.h"
+#include "support/ModalAnswer.h"
+#include "support/TestMain.h"
+
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTest>
+
+using namespace ko;
+using testsupport::child;
+
+namespace {
+
+class FakeScanner : public Scanner
+{
+public:
+    QString name() const override { return QStringLiteral("ARP"); }
+    void start(unsigned, int) override {}
+    void stop() override {}
+    ScannerState state() const override { return m_state; }
+    void set(const ScannerState& state)
+    {
+        m_state = state;
+        emit stateChanged();
+    }
+
+private:
+    ScannerState m_state;
+};
+
+} // namespace
+
+class AddressChangesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_host.reset(); }
+
+    void nothingIsSelectedAtFirst();
+    void selectedIsAccepted();
+    void allAreAccepted();
+    void selectedIsDismissed();
+    void looks();
+    void scannersAreShown();
+
+private:
+    void select(QWidget* dialog, int row)
+    {
+        child<QTableWidget>(dialog, "changesTableWidget")->selectRow(row);
+    }
+    static void press(QWidget* dialog, const char* name)
+    {
+        QTest::mouseClick(child<QPushButton>(dialog, name), Qt::LeftButton);
+    }
+    HostNodeDB& db() { return *m_host->db(); }
+    QString address(int i) { return db().summary(m_ids.at(i)).location; }
+
+    std::unique_ptr<testsupport::HostFixture> m_host;
+    QStringList m_ids;
+};
+
+void AddressChangesTest::init()
+{
+    m_host = std::make_unique<testsupport::HostFixture>();
+    m_ids.clear();
+    QVector<DiscoveredDevice> moved;
+    for (int i = 0; i < 3; ++i) {
+        const QString mac = QStringLiteral("00:11:22:33:44:0%1").arg(i);
+        const QString name = QStringLiteral("<b>Gate</b> %1").arg(i);
+        m_ids.append(m_host->add(IPDeviceType, name, QStringLiteral("10.0.0.%1").arg(i + 1)));
+        m_host->change(m_ids.constLast(), [&mac](Node* node) {
+            dynamic_cast<IPDeviceNode*>(node)->setMacAddress(MACAddress(mac));
+        });
+        DiscoveredDevice device;
+        device.name = name;
+        device.address = QStringLiteral("10.0.9.%1").arg(i + 1);
+        device.macAddress = mac;
+        moved.append(device);
+    }
+    db().deviceIntake().take(moved);
+    QTRY_COMPARE(int(db().deviceIntake().addressChanges().size()), 3);
+}
+
+void AddressChangesTest::nothingIsSelectedAtFirst()
+{
+    AddressChangesDialog dialog(db().deviceIntake());
+    const auto* table = child<QTableWidget>(&dialog, "changesTableWidget");
+    QCOMPARE(table->rowCount(), 3);
+    QCOMPARE(table->item(1, 1)->text(), QStringLiteral("10.0.0.2"));
+    QCOMPARE(table->item(1, 2)->text(), QStringLiteral("10.0.9.2"));
+    QVERIFY(!child<QPushButton>(&dialog, "acceptButton")->isEnabled());
+    QVERIFY(!child<QPushButton>(&dialog, "dismissButton")->isEnabled());
+    QVERIFY(child<QPushButton>(&dialog, "acceptAllButton")->isEnabled());
+}
+
+void AddressChangesTest::selectedIsAccepted()
+{
+    AddressChangesDialog dialog(db().deviceIntake());
+    dialog.show();
+    const qint64 logged = db().auditLog().count();
+    select(&dialog, 1);
+    press(&dialog, "acceptButton");
+    QCOMPARE(address(0), QStringLiteral("10.0.0.1"));
+    QCOMPARE(address(1), QStringLiteral("10.0.9.2"));
+    QCOMPARE(address(2), QStringLiteral("10.0.0.3"));
+    QCOMPARE(db().auditLog().count(), logged + 1);
+    QCOMPARE(child<QTableWidget>(&dialog, "changesTableWidget")->rowCount(), 2);
+    QVERIFY(!child<QPushButton>(&dialog, "acceptButton")->isEnabled());
+}
+
+void AddressChangesTest::allAreAccepted()
+{
+    AddressChangesDialog dialog(db().deviceIntake());
+    dialog.show();
+    press(&dialog, "acceptAllButton");
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(address(i), QStringLiteral("10.0.9.%1").arg(i + 1));
+    QVERIFY(!child<QPushButton>(&dialog, "acceptAllButton")->isEnabled());
+}
+
+void AddressChangesTest::selectedIsDismissed()
+{
+    AddressChangesDialog dialog(db().deviceIntake());
+    dialog.show();
+    select(&dialog, 0);
+    press(&dialog, "dismissButton");
+    QCOMPARE(address(0), QStringLiteral("10.0.0.1"));
+    QCOMPARE(child<QTableWidget>(&dialog, "changesTableWidget")->rowCount(), 2);
+}
+
+void AddressChangesTest::looks()
+{
+    AddressChangesDialog dialog(db().deviceIntake());
+    dialog.show();
+    const QString folder = qEnvironmentVariable("KO_PICTURES");
+    if (!folder.isEmpty())
+        QVERIFY(dialog.grab().save(folder + QStringLiteral("/AddressChangesDialog.png")));
+    QVERIFY(dialog.sizeHint().width() <= dialog.width());
+}
+
+void AddressChangesTest::scannersAreShown()
+{
+    auto owned = std::make_unique<FakeScanner>();
+    FakeScanner* scanner = owned.get();
+    db().addScanner(std::move(owned));
+    const ScannerStatus status(db());
+    QCOMPARE(status.text(), QString());
+    QCOMPARE(status.textFormat(), Qt::PlainText);
+    ScannerState state;
+    state.phase = ScannerState::Running;
+    state.where = QStringLiteral("eth0, 10.0.0.0/24");
+    scanner->set(state);
+    QCOMPARE(status.text(), QStringLiteral("ARP: searching, eth0, 10.0.0.0/24"));
+    state.done = 3;
+    state.total = 254;
+    scanner->set(state);
+    QCOMPARE(status.text(), QStringLiteral("ARP: 3 of 254, eth0, 10.0.0.0/24"));
+    state.phase = ScannerState::Done;
+    scanner->set(state);
+    QCOMPARE(status.text(), QStringLiteral("ARP: done"));
+    state.phase = ScannerState::Cancelled;
+    scanner->set(state);
+    QCOMPARE(status.text(), QStringLiteral("ARP: cancelled"));
+    state.phase = ScannerState::Unavailable;
+    state.reason = QStringLiteral("no network");
+    scanner->set(state);
+    QCOMPARE(status.text(), QStringLiteral("ARP: not available (no network)"));
+}
+
+KO_TEST_MAIN(AddressChangesTest)
+#include "tst_addresschanges.moc"

@@ -1,0 +1,176 @@
+#include "support/HostFixture.h"
+#include "support/ModalAnswer.h"
+#include "support/TestMain.h"
+
+#include "MainWindow.h"
+#include "dialogs/RecordingFolderMassAssignmentDialog.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+using namespace ko;
+using testsupport::child;
+
+namespace {
+
+/// Another program that holds the file, and looks into it.
+class Other
+{
+public:
+    explicit Other(const QString& file)
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name());
+        database.setDatabaseName(file);
+        if (!database.open())
+            qFatal("%s cannot be opened", qPrintable(file));
+    }
+    ~Other()
+    {
+        QSqlDatabase::database(name()).close();
+        QSqlDatabase::removeDatabase(name());
+    }
+
+    QVariant run(const char* sql)
+    {
+        QSqlQuery query(QSqlDatabase::database(name()));
+        if (!query.exec(QLatin1String(sql)))
+            qFatal("%s", sql);
+        return query.next() ? query.value(0) : QVariant();
+    }
+
+private:
+    static QString name() { return QStringLiteral("other"); }
+};
+
+} // namespace
+
+/// What becomes of work that cannot be stored while many cameras are assigned their folders.
+class tst_StoreFailure : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void retryStoresAll();
+    void discardLeavesAllAsTheyWere();
+    void namesAreShownAsTheyAre();
+
+private:
+    void assign();
+    QMessageBox* failureBox();
+    int assigned();
+
+    std::unique_ptr<testsupport::HostFixture> m_host;
+    std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<Other> m_other;
+    QStringList m_cameras;
+};
+
+void tst_StoreFailure::init()
+{
+    m_host = std::make_unique<testsupport::HostFixture>();
+    m_cameras.clear();
+    for (int i = 0; i < 40; ++i) {
+        m_cameras.append(m_host->add(IPDeviceType, QStringLiteral("Camera %1").arg(i)));
+        m_host->change(m_cameras.constLast(), [i](Node* node) {
+            node->setStringProperty(QStringLiteral("FactoryIP"), QStringLiteral("10_0_0_%1").arg(i + 1));
+        });
+    }
+    QVERIFY(m_host->db()->flush());
+    m_window = std::make_unique<MainWindow>(*m_host->db());
+    m_window->show();
+    m_other = std::make_unique<Other>(m_host->fileName());
+}
+
+void tst_StoreFailure::cleanup()
+{
+    m_other.reset();
+    m_window.reset();
+    m_host.reset();
+}
+
+void tst_StoreFailure::assign()
+{
+    RecordingFolderMassAssignmentDialog dialog(m_window.get(), m_cameras, Qt::Dialog);
+    child<QRadioButton>(&dialog, "specificFileServerPathRadioButton")->setChecked(true);
+    child<QLineEdit>(&dialog, "pathLineEdit")->setText(QStringLiteral("/mnt/recordings"));
+    dialog.accept();
+}
+
+QMessageBox* tst_StoreFailure::failureBox()
+{
+    return m_window->findChild<QMessageBox*>(QStringLiteral("storeFailedBox"));
+}
+
+/// Cameras that are assigned on the disk: usage, relation, folder and path, or none of it.
+int tst_StoreFailure::assigned()
+{
+    const int usages = m_other->run("SELECT count(*) FROM nodes WHERE type = 2 AND recording = 2").toInt();
+    const int relations = m_other->run("SELECT count(*) FROM relations WHERE type = 1").toInt();
+    const int folders = m_other->run("SELECT count(*) FROM nodes WHERE type = 0").toInt();
+    const int paths = m_other
+                          ->run("SELECT count(*) FROM properties WHERE key = 'Path' AND value LIKE"
+                                " '/mnt/recordings/10_0_0_%'")
+                          .toInt();
+    return usages == relations && usages == folders && usages == paths ? usages : -1;
+}
+
+void tst_StoreFailure::retryStoresAll()
+{
+    m_other->run("BEGIN IMMEDIATE");
+    assign();
+    QTRY_VERIFY(failureBox());
+    QCOMPARE(assigned(), 0);
+    QVERIFY(failureBox()->informativeText().contains(QStringLiteral("    Camera 0\n")));
+    QVERIFY(failureBox()->informativeText().contains(QStringLiteral("more")));
+    m_other->run("ROLLBACK");
+    const QList<QAbstractButton*> buttons = failureBox()->buttons();
+    for (QAbstractButton* button : buttons) {
+        if (button->text() == QStringLiteral("Retry"))
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QTRY_VERIFY(!m_host->db()->hasUnstoredChanges());
+    QCOMPARE(assigned(), 40);
+}
+
+void tst_StoreFailure::discardLeavesAllAsTheyWere()
+{
+    m_other->run("BEGIN IMMEDIATE");
+    assign();
+    QTRY_VERIFY(failureBox());
+    m_other->run("ROLLBACK");
+    const QList<QAbstractButton*> buttons = failureBox()->buttons();
+    for (QAbstractButton* button : buttons) {
+        if (button->text() == QStringLiteral("Discard Changes"))
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QVERIFY(!m_host->db()->hasUnstoredChanges());
+    QCOMPARE(assigned(), 0);
+    for (const QString& id : std::as_const(m_cameras)) {
+        QCOMPARE(m_host->db()->node(id)->intProperty(QStringLiteral("RecordingStorageUsage"), -1), 0);
+        QVERIFY(m_host->db()->relatedNodes(id, RecordingFolderRelation).isEmpty());
+    }
+}
+
+void tst_StoreFailure::namesAreShownAsTheyAre()
+{
+    m_other->run("BEGIN IMMEDIATE");
+    m_host->change(m_cameras.constFirst(), [](Node* node) {
+        node->setStringProperty(QStringLiteral("Name"), QStringLiteral("<b>%1 & %n"));
+    });
+    QTRY_VERIFY(failureBox());
+    QCOMPARE(failureBox()->textFormat(), Qt::PlainText);
+    QVERIFY(failureBox()->informativeText().endsWith(QStringLiteral("\n    <b>%1 & %n")));
+    m_other->run("ROLLBACK");
+    QTRY_VERIFY_WITH_TIMEOUT(!failureBox() || !failureBox()->isVisible(), 8000); // tried again by itself
+    QVERIFY(!m_host->db()->hasUnstoredChanges());
+}
+
+KO_TEST_MAIN(tst_StoreFailure)
+#include "tst_storefailure.moc"
