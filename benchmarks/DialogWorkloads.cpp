@@ -1,13 +1,23 @@
+#include "RawInserter.h"
 #include "Site.h"
 #include "Stopwatch.h"
 #include "Workload.h"
 
 #include "dialogs/EditNodeDialog.h"
+#include "dialogs/NodeAuthenticateDialog.h"
+#include "dialogs/RecordingFolderAssignmentDialog.h"
+#include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "drivers/InspectorPages.h"
+#include "drivers/NodeTypes.h"
+#include "interfaces/INodeDriverComponent.h"
 #include "ko/Node.h"
+#include "ko/NodeHint.h"
 
 #include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QRadioButton>
 #include <QTabWidget>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace bench {
@@ -70,14 +80,217 @@ private:
     const QString m_id;
 };
 
+/// Makes this many recording folders of nobody.
+void addFolders(HostNodeDB& db, int count)
+{
+    for (int number = 0; number < count; ++number) {
+        const kom::smart<NodeHint> hint =
+            NodeTypes::driver(RecordingFolderType)->createNodeHint(RecordingFolderType);
+        const QString path = QStringLiteral("//server/%1").arg(qint64(number) * 7919 % count);
+        hint->setName(path);
+        hint->setStringProperty(QStringLiteral("Path"), path);
+        db.newNodeHint(*hint);
+    }
+    db.flush();
+}
+
+/// The dialog of one camera's recordings with its table of folders, which are in memory.
+class Assigning : public Contest
+{
+public:
+    explicit Assigning(int size)
+        : m_db(bench::open(m_folder.filePath(QStringLiteral("n.kodb"))))
+    {
+        addFolders(*m_db, size);
+        addCamera(*m_db, summaryOf(0, 1));
+        m_camera = m_db->nodeIdList(IPDeviceType).value(0);
+        const QStringList ids = m_db->nodeIdList(RecordingFolderType);
+        for (const QString& id : ids)
+            m_rows.append({m_db->node(id)->name(), m_db->node(id)->name(), id});
+    }
+
+    double ours() override
+    {
+        std::unique_ptr<QDialog> dialog;
+        return milliseconds(
+            [&] { dialog = std::make_unique<RecordingFolderAssignmentDialog>(m_camera, nullptr); });
+    }
+
+    double baseline() override
+    {
+        QTableWidget table(0, 3);
+        return milliseconds([&] {
+            for (const QStringList& cells : std::as_const(m_rows)) {
+                const int row = table.rowCount();
+                table.insertRow(row);
+                for (int column = 0; column < cells.size(); ++column)
+                    table.setItem(row, column, new QTableWidgetItem(cells.at(column)));
+            }
+        });
+    }
+
+private:
+    QTemporaryDir m_folder;
+    const std::unique_ptr<HostNodeDB> m_db;
+    QString m_camera;
+    QVector<QStringList> m_rows;
+};
+
+/// What both dialogs for many cameras have in common: a database of cameras, and one for the baseline.
+class ManyCameras : public Contest
+{
+public:
+    explicit ManyCameras(int size)
+        : m_copy(size)
+        , m_rawCopy(size)
+        , m_db(bench::open(m_copy.file()))
+        , m_raw(m_rawCopy.file())
+        , m_ids(m_db->nodeIdList(AllNodeTypes))
+    {
+        for (const QString& id : std::as_const(m_ids))
+            setText(id, QStringLiteral("FactoryIP"), QStringLiteral("10_0_0_%1").arg(id.left(8)));
+        m_db->flush();
+    }
+
+protected:
+    void setText(const QString& id, const QString& key, const QString& value)
+    {
+        Node* node = m_db->beginUpdateNode(id, -1);
+        node->setStringProperty(key, value);
+        m_db->endUpdateNode(node);
+    }
+
+    SiteCopy m_copy;
+    SiteCopy m_rawCopy;
+    const std::unique_ptr<HostNodeDB> m_db;
+    RawSqlite m_raw;
+    const QStringList m_ids;
+    int m_round = 0;
+};
+
+/// User and password for all of them, down to the disk.
+class Authenticating : public ManyCameras
+{
+public:
+    using ManyCameras::ManyCameras;
+
+    double ours() override
+    {
+        NodeAuthenticateDialog dialog(nullptr, m_ids, Qt::Dialog);
+        const QString user = QStringLiteral("user %1").arg(++m_round);
+        dialog.findChild<QLineEdit*>(QStringLiteral("userNameLineEdit"))->setText(user);
+        dialog.findChild<QLineEdit*>(QStringLiteral("passWordLineEdit"))->setText(user);
+        return milliseconds([&] {
+            dialog.accept();
+            m_db->flush();
+        });
+    }
+
+    double baseline() override
+    {
+        const QString user = QStringLiteral("user %1").arg(++m_round);
+        return milliseconds([&] {
+            RawSqlite::Statement set(m_raw, "INSERT OR REPLACE INTO properties (node, key, type, value)"
+                                            " VALUES ((SELECT n FROM nodes WHERE id = ?), ?, 0, ?)");
+            RawSqlite::Statement change(m_raw, "INSERT INTO changes (kind, id) VALUES ('N', ?)");
+            m_raw.run("BEGIN IMMEDIATE");
+            for (const QString& id : std::as_const(m_ids)) {
+                for (const char* key : {"User", "Password", "CredentialsEntered"})
+                    set.bind(1, id).bind(2, QLatin1String(key)).bind(3, user).execute();
+                change.bind(1, id).execute();
+            }
+            m_raw.run("COMMIT");
+        });
+    }
+};
+
+/// A folder of its own below one path for each of them, down to the disk. The first run makes the folders,
+/// the others move them.
+class MassAssigning : public ManyCameras
+{
+public:
+    using ManyCameras::ManyCameras;
+
+    double ours() override
+    {
+        RecordingFolderMassAssignmentDialog dialog(nullptr, m_ids, Qt::Dialog);
+        dialog.findChild<QRadioButton*>(QStringLiteral("specificFileServerPathRadioButton"))
+            ->setChecked(true);
+        dialog.findChild<QLineEdit*>(QStringLiteral("pathLineEdit"))
+            ->setText(QStringLiteral("/mnt/%1").arg(++m_round));
+        return milliseconds([&] {
+            dialog.accept();
+            m_db->flush();
+        });
+    }
+
+    double baseline() override
+    {
+        const bool first = m_first;
+        m_first = false;
+        return milliseconds([&] {
+            RawInserter inserter(m_raw);
+            RawSqlite::Statement relate(m_raw, "INSERT INTO relations (source, destination, type) VALUES"
+                                               " ((SELECT n FROM nodes WHERE id = ?),"
+                                               " (SELECT n FROM nodes WHERE id = ?), 1)");
+            RawSqlite::Statement set(m_raw, "INSERT OR REPLACE INTO properties (node, key, type, value)"
+                                            " VALUES ((SELECT n FROM nodes WHERE id = ?), ?, 0, ?)");
+            RawSqlite::Statement usage(m_raw, "UPDATE nodes SET recording = 2 WHERE id = ?");
+            RawSqlite::Statement location(m_raw, "UPDATE nodes SET location = ?, lookup = ? WHERE id = ?");
+            RawSqlite::Statement change(m_raw, "INSERT INTO changes (kind, id) VALUES ('N', ?)");
+            const QString path = QStringLiteral("/mnt/%1").arg(++m_round);
+            m_raw.run("BEGIN IMMEDIATE");
+            for (const QString& id : std::as_const(m_ids)) {
+                NodeSummary folder;
+                folder.id = QStringLiteral("folder of ") + id;
+                folder.name = path;
+                if (first) {
+                    inserter.insert(folder);
+                    relate.bind(1, id).bind(2, folder.id).execute();
+                    set.bind(1, id).bind(2, QStringLiteral("RecordingStorageUsage")).bind(3, path).execute();
+                    usage.bind(1, id).execute();
+                    change.bind(1, id).execute();
+                }
+                set.bind(1, folder.id).bind(2, QStringLiteral("Path")).bind(3, path + id).execute();
+                location.bind(1, path + id).bind(2, path + id).bind(3, folder.id).execute();
+                change.bind(1, folder.id).execute();
+            }
+            m_raw.run("COMMIT");
+        });
+    }
+
+private:
+    bool m_first = true;
+};
+
+template <class Kind>
+std::unique_ptr<Contest> make(int size)
+{
+    return std::make_unique<Kind>(size);
+}
+
 } // namespace
 
 QVector<Workload> dialogWorkloads()
 {
     return {
+        {QStringLiteral("recording folder assignment dialog, its folders in the table"),
+         QStringLiteral("QTableWidget filled with sorting off"),
+         2.0,
+         {1000, 10000},
+         make<Assigning>},
+        {QStringLiteral("user and password for all cameras, to disk"),
+         QStringLiteral("raw SQLite, the same rows in one transaction"),
+         3.0,
+         {1000},
+         make<Authenticating>},
+        {QStringLiteral("recording folders for all cameras moved, to disk"),
+         QStringLiteral("raw SQLite, the same rows in one transaction"),
+         3.0,
+         {1000},
+         make<MassAssigning>},
         {QStringLiteral("dialog of a camera, to its first picture"),
-         QStringLiteral("the same pages without a database"), 1.3, allSizes,
-         [](int size) { return std::make_unique<Editing>(size); }, false},
+         QStringLiteral("the same pages without a database"), 1.3, allSizes, make<Editing>, false},
     };
 }
 

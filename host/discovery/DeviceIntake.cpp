@@ -77,7 +77,7 @@ int rankOfAddress(const QString& address)
 QString usableMac(const QString& text)
 {
     const QString mac = text.size() > 32 ? QString() : MACAddress(text).toString(true);
-    const bool group = !mac.isEmpty() && mac.left(2).toInt(nullptr, 16) % 2 == 1;
+    const bool group = !mac.isEmpty() && QString(mac.at(1)).toInt(nullptr, 16) % 2 == 1;
     return group || mac == QLatin1String("00:00:00:00:00:00") ? QString() : mac;
 }
 

@@ -166,7 +166,7 @@ void DeviceIntakeTest::textIsCleaned_data()
     QTest::newRow("plain") << u("Gate 3") << u("Gate 3");
     QTest::newRow("blanks") << u("  Gate\t\r\n \xc2\xa0 3 ") << u("Gate 3");
     QTest::newRow("control") << u("Ga\x01te\x1b[31m\x7f") << u("Gate[31m");
-    QTest::newRow("nul") << QString(QLatin1String("a\0b", 3)) << u("ab");
+    QTest::newRow("nul") << QString::fromUtf8("a\0b", 3) << u("ab");
     QTest::newRow("bidi override") << u("a\xe2\x80\xae"
                                         "gpj.exe\xe2\x80\xac")
                                    << u("agpj.exe");
@@ -370,7 +370,7 @@ void DeviceIntakeTest::channelsBehindOneAddressStay()
         device->channel = channel;
         QCOMPARE(db().lookupHint(*hint), QString());
         db().newNodeHint(*hint);
-        QCOMPARE(db().lookupHint(*hint), ids().last());
+        QCOMPARE(db().lookupHint(*hint), ids().constLast());
     }
     QCOMPARE(ids().size(), 2);
     feed({seen(QStringLiteral("Encoder"), address, 80, http), seen(QString(), address)});

@@ -81,7 +81,12 @@ void end(QProcess& process)
     process.waitForFinished();
 }
 
-QString s_noNetwork; // set before the tests begin
+/// Why there is no network of our own; set before the tests begin.
+QString& noNetwork()
+{
+    static QString reason;
+    return reason;
+}
 
 } // namespace
 
@@ -178,8 +183,8 @@ void MdnsScannerTest::txtRecords()
 }
 
 #define NEED_NETWORK()                                                                                       \
-    if (!s_noNetwork.isEmpty()) {                                                                            \
-        qWarning("not tested here: %s", qPrintable(s_noNetwork));                                            \
+    if (!noNetwork().isEmpty()) {                                                                            \
+        qWarning("not tested here: %s", qPrintable(noNetwork()));                                            \
         return;                                                                                              \
     }
 
@@ -284,7 +289,7 @@ void MdnsScannerTest::limitAndInterfaces()
 
 void MdnsScannerTest::onAndOffLeavesNothing()
 {
-    if (s_noNetwork.isEmpty())
+    if (noNetwork().isEmpty())
         QVERIFY(startBus() && startDaemon());
     MdnsScanner scanner;
     scanner.start(0xFFFFFFFF, -1);
@@ -303,7 +308,7 @@ void MdnsScannerTest::onAndOffLeavesNothing()
 
 int main(int argc, char** argv)
 {
-    s_noNetwork = enterOwnNetwork();
+    noNetwork() = enterOwnNetwork();
     QApplication app(argc, argv);
     testsupport::prepareApplication();
     MdnsScannerTest test;

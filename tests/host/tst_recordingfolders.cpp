@@ -1,7 +1,13 @@
 #include "StoreTesting.h"
+#include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "support/PassThroughNodeDB.h"
 #include "support/TestMain.h"
 #include "utils/NodeDBUtils.h"
+
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTimer>
 
 using namespace ko;
 using namespace testsupport;
@@ -61,6 +67,7 @@ private slots:
     void assigningAgainRefreshes();
     void configures_data();
     void configures();
+    void thousandCamerasAreOnDiskWithTheDialog();
 
 private:
     QString lookup(const QString& camera, const QString& path) const;
@@ -258,6 +265,39 @@ void tst_RecordingFolders::configures()
         QCOMPARE(m_db->node(made)->boolProperty("UseGlobalPath", usage != 1), usage == 1);
         QCOMPARE(text(*m_db, made, "CameraID"), camera);
     }
+}
+
+void tst_RecordingFolders::thousandCamerasAreOnDiskWithTheDialog()
+{
+    QStringList cameras;
+    for (int i = 0; i < 1000; ++i) {
+        cameras.append(
+            addCamera(*m_db, QString("Camera %1").arg(i), QString("10.0.%1.%2").arg(i / 200).arg(i)));
+        setText(*m_db, cameras.constLast(), "FactoryIP", QString("ext_%1").arg(i));
+    }
+    QVERIFY(m_db->flush());
+
+    QElapsedTimer timer;
+    timer.start();
+    {
+        RecordingFolderMassAssignmentDialog dialog(nullptr, cameras, Qt::Dialog);
+        dialog.findChild<QRadioButton*>("specificFileServerPathRadioButton")->setChecked(true);
+        dialog.findChild<QLineEdit*>("pathLineEdit")->setText("/mnt/recordings");
+        QTimer::singleShot(0, &dialog, &QDialog::accept);
+        QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    }
+    QVERIFY(!m_db->hasUnstoredChanges());
+    const qint64 dialogTime = timer.nsecsElapsed();
+
+    PlainSql sql(m_folder.filePath(QLatin1String("nodes.db")));
+    QCOMPARE(sql.run("SELECT count(*) FROM nodes WHERE type = 2 AND recording = 2").toInt(), 1000);
+    QCOMPARE(sql.run("SELECT count(*) FROM nodes WHERE type = 0").toInt(), 1000);
+    QCOMPARE(sql.run("SELECT count(*) FROM relations WHERE type = 1").toInt(), 1000);
+    QCOMPARE(sql.run("SELECT count(*) FROM properties WHERE key = 'Path'"
+                     " AND value LIKE '/mnt/recordings/ext_%'")
+                 .toInt(),
+             1000);
+    qInfo("assigning 1000 cameras: %lld ms", dialogTime / 1000000);
 }
 
 KO_TEST_MAIN(tst_RecordingFolders)

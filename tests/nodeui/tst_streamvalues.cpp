@@ -2,6 +2,8 @@
 
 #include "utils/NodeDBUtils.h"
 
+#include <QRandomGenerator>
+
 using namespace ko;
 
 class tst_StreamValues : public QObject
@@ -29,6 +31,7 @@ private slots:
     void qualityFromText();
     void qualityWithoutText_data();
     void qualityWithoutText();
+    void anyText();
 };
 
 void tst_StreamValues::lists()
@@ -240,6 +243,31 @@ void tst_StreamValues::qualityWithoutText()
 {
     QFETCH(int, quality);
     QVERIFY(NodeDBUtils::QualityToString(quality).isNull());
+}
+
+/// Texts made of what the patterns look for: each answer is in its range, and stays the same both ways.
+void tst_StreamValues::anyText()
+{
+    const QString alphabet = QString::fromUtf8(" ()x%.,-+0123456789eE\n\xc3\xa4\xd9\xa3");
+    QRandomGenerator random(20240611);
+    for (int round = 0; round < 20000; ++round) {
+        QString text;
+        for (int length = random.bounded(40); length > 0; --length)
+            text.append(alphabet.at(random.bounded(alphabet.size())));
+        int width = 0;
+        int height = 0;
+        NodeDBUtils::StringToResolution(text, width, height);
+        QVERIFY2((width == -1) == (height == -1) && width >= -1 && height >= -1, qPrintable(text));
+        const float rate = NodeDBUtils::StringToFramerate(text);
+        QVERIFY2(rate >= 0.0f, qPrintable(text));
+        const QString rateText = NodeDBUtils::FramerateToString(rate);
+        QVERIFY2(rateText.isNull() || NodeDBUtils::StringToFramerate(rateText) == rate, qPrintable(text));
+        const int quality = NodeDBUtils::StringToQuality(text);
+        QVERIFY2(quality >= -1 && quality <= 99, qPrintable(text));
+        const QString qualityText = NodeDBUtils::QualityToString(quality);
+        QVERIFY2(qualityText.isNull() || NodeDBUtils::StringToQuality(qualityText) == quality,
+                 qPrintable(text));
+    }
 }
 
 KO_TEST_MAIN(tst_StreamValues)
