@@ -286,6 +286,7 @@ void tst_RecordingFolders::thousandCamerasAreOnDiskWithTheDialog()
         QTimer::singleShot(0, &dialog, &QDialog::accept);
         QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     }
+    QCoreApplication::processEvents(); // the turn in which the dialog closes ends
     QVERIFY(!m_db->hasUnstoredChanges());
     const qint64 dialogTime = timer.nsecsElapsed();
 
