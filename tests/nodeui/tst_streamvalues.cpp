@@ -253,7 +253,7 @@ void tst_StreamValues::anyText()
     for (int round = 0; round < 20000; ++round) {
         QString text;
         for (int length = random.bounded(40); length > 0; --length)
-            text.append(alphabet.at(random.bounded(alphabet.size())));
+            text.append(alphabet.at(random.bounded(int(alphabet.size()))));
         int width = 0;
         int height = 0;
         NodeDBUtils::StringToResolution(text, width, height);
