@@ -1,0 +1,297 @@
+#include "support/HostFixture.h"
+#include "support/TestMain.h"
+
+#include "CommandLine.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <sys/stat.h>
+
+using namespace ko;
+
+namespace {
+
+const char clientArgument[] = "--as-client";
+
+/// How one call of the program ended.
+struct Call
+{
+    int exitCode = -1;
+    QString said;
+    QString complained;
+};
+
+} // namespace
+
+/// The program as scripts and administrators call it, in a process of its own, without a window.
+class tst_CommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void help();
+    void version();
+    void wrongUsage_data();
+    void wrongUsage();
+    void importAndExport();
+    void importTwiceAddsNothing();
+    void badLinesAreNamed();
+    void badLists_data();
+    void badLists();
+    void exportWithoutPasswords();
+    void exportIsItsOwnersAlone();
+    void exportIntoAMissingFolder();
+    void badDatabases_data();
+    void badDatabases();
+    void lockedDatabase();
+    void backupAndRestore();
+    void restoreOfNothing();
+
+private:
+    Call call(const QStringList& arguments);
+    Call onDatabase(const QStringList& arguments)
+    {
+        return call(QStringList{"--db", m_database} + arguments);
+    }
+    QString write(const char* name, const QByteArray& content);
+    static QByteArray contentOf(const QString& file);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_database;
+};
+
+void tst_CommandLine::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_database = m_folder->filePath("nodes.kodb");
+}
+
+Call tst_CommandLine::call(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), QStringList(clientArgument) + arguments);
+    Call result;
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+        return result;
+    result.exitCode = process.exitCode();
+    result.said = QString::fromLocal8Bit(process.readAllStandardOutput());
+    result.complained = QString::fromLocal8Bit(process.readAllStandardError());
+    return result;
+}
+
+QString tst_CommandLine::write(const char* name, const QByteArray& content)
+{
+    QFile file(m_folder->filePath(QLatin1String(name)));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("%s cannot be written", name);
+    return file.fileName();
+}
+
+QByteArray tst_CommandLine::contentOf(const QString& file)
+{
+    QFile reader(file);
+    return reader.open(QIODevice::ReadOnly) ? reader.readAll() : QByteArray();
+}
+
+void tst_CommandLine::help()
+{
+    const Call result = call({"--help"});
+    QCOMPARE(result.exitCode, 0);
+    for (const char* option :
+         {"--db", "--import", "--export", "--without-passwords", "--backup", "--restore"})
+        QVERIFY2(result.said.contains(QLatin1String(option)), option);
+    QVERIFY(!QFile::exists(m_database));
+}
+
+void tst_CommandLine::version()
+{
+    const Call result = call({"--version"});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.said.startsWith("koclient "));
+}
+
+void tst_CommandLine::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("unknown option") << QStringList("--unknown");
+    QTest::newRow("no value") << QStringList("--import");
+    QTest::newRow("no option") << QStringList("file.csv");
+}
+
+void tst_CommandLine::wrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    const Call result = call(arguments);
+    QCOMPARE(result.exitCode, int(CommandLine::WrongUsage));
+    QVERIFY(!result.complained.isEmpty());
+}
+
+void tst_CommandLine::importAndExport()
+{
+    const QString survey = QStringLiteral(KO_SOURCE_DIR "/examples/survey.csv");
+    const Call imported = onDatabase({"--import", survey});
+    QCOMPARE(imported.exitCode, 0);
+    QVERIFY2(imported.said.contains("40 added"), qPrintable(imported.said));
+    const QString list = m_folder->filePath("out.csv");
+    QCOMPARE(onDatabase({"--export", list}).exitCode, 0);
+    // The list written from the list that was written is the same.
+    m_database = m_folder->filePath("second.kodb");
+    QCOMPARE(onDatabase({"--import", list}).exitCode, 0);
+    const QString again = m_folder->filePath("again.csv");
+    QCOMPARE(onDatabase({"--export", again}).exitCode, 0);
+    QCOMPARE(contentOf(again), contentOf(list));
+}
+
+void tst_CommandLine::importTwiceAddsNothing()
+{
+    const QString list = write("in.csv", "name,address\nGate,10.0.0.1\nYard,10.0.0.2\n");
+    QVERIFY(onDatabase({"--import", list}).said.contains("2 added"));
+    const Call again = onDatabase({"--import", list});
+    QCOMPARE(again.exitCode, 0);
+    QVERIFY2(again.said.contains("0 added, 0 updated, 2 unchanged"), qPrintable(again.said));
+}
+
+void tst_CommandLine::badLinesAreNamed()
+{
+    const QString list =
+        write("in.csv", "name,address,port\nGate,10.0.0.1,80\nYard,10.0.0.2,many\nDock,10.0.0.3,80\n");
+    const Call result = onDatabase({"--import", list});
+    QCOMPARE(result.exitCode, int(CommandLine::SomeLinesBad));
+    QVERIFY2(result.complained.contains("line 3:"), qPrintable(result.complained));
+    QVERIFY(!result.complained.contains("many")); // it could be a password in the wrong column
+    QVERIFY(result.said.contains("2 added"));
+    QVERIFY(result.said.contains("1 lines with errors"));
+}
+
+void tst_CommandLine::badLists_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("no column that is known") << QByteArray("a,b\n1,2\n");
+    QTest::newRow("binary") << QByteArray(100000, '\xfe');
+    QTest::newRow("huge line") << QByteArray("name,address\n") + QByteArray(3000000, 'x');
+}
+
+void tst_CommandLine::badLists()
+{
+    QFETCH(QByteArray, content);
+    const Call result = onDatabase({"--import", write("in.csv", content)});
+    QCOMPARE(result.exitCode, int(CommandLine::Failed));
+    QVERIFY(!result.complained.isEmpty());
+    QVERIFY(result.said.contains("0 added"));
+}
+
+void tst_CommandLine::exportWithoutPasswords()
+{
+    const QByteArray secret = "s3cret-of-the-gate";
+    onDatabase(
+        {"--import", write("in.csv", "name,address,user,password\nGate,10.0.0.1,admin," + secret + "\n")});
+    const QString with = m_folder->filePath("with.csv");
+    const QString without = m_folder->filePath("without.csv");
+    QCOMPARE(onDatabase({"--export", with}).exitCode, 0);
+    QCOMPARE(onDatabase({"--export", without, "--without-passwords"}).exitCode, 0);
+    QVERIFY(contentOf(with).contains(secret));
+    QVERIFY(!contentOf(without).contains(secret));
+    QVERIFY(contentOf(without).contains("admin"));
+}
+
+void tst_CommandLine::exportIsItsOwnersAlone()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    const QString list = m_folder->filePath("out.csv");
+    const mode_t before = ::umask(0);
+    const int exitCode = onDatabase({"--export", list}).exitCode;
+    ::umask(before);
+    QCOMPARE(exitCode, 0);
+    for (const QString& file : {list, m_database}) {
+        struct stat info;
+        QCOMPARE(::stat(QFile::encodeName(file).constData(), &info), 0);
+        QCOMPARE(int(info.st_mode & 0077), 0);
+    }
+}
+
+void tst_CommandLine::exportIntoAMissingFolder()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    const Call result = onDatabase({"--export", m_folder->filePath("missing/out.csv")});
+    QCOMPARE(result.exitCode, int(CommandLine::Failed));
+    QVERIFY(!result.complained.isEmpty());
+}
+
+void tst_CommandLine::badDatabases_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("text") << QByteArray("name,address\n");
+    QTest::newRow("half a header") << QByteArray("SQLite format 3\0", 16);
+    QTest::newRow("another program's") << QByteArray("SQLite format 3\0", 16) + QByteArray(4080, '\0');
+}
+
+void tst_CommandLine::badDatabases()
+{
+    QFETCH(QByteArray, content);
+    m_database = write("nodes.kodb", content);
+    const Call result = onDatabase({"--export", m_folder->filePath("out.csv")});
+    QCOMPARE(result.exitCode, int(CommandLine::NoDatabase));
+    QVERIFY(result.complained.contains(m_database));
+    QCOMPARE(contentOf(m_database), content);
+    QVERIFY(!QFile::exists(m_folder->filePath("out.csv")));
+}
+
+void tst_CommandLine::lockedDatabase()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    {
+        QSqlDatabase other = QSqlDatabase::addDatabase("QSQLITE", "other");
+        other.setDatabaseName(m_database);
+        QVERIFY(other.open());
+        QVERIFY(QSqlQuery(other).exec("BEGIN IMMEDIATE"));
+        const Call result = onDatabase({"--import", write("more.csv", "name,address\nYard,10.0.0.2\n")});
+        QCOMPARE(result.exitCode, int(CommandLine::NoDatabase));
+        QVERIFY2(result.complained.contains("held by another program"), qPrintable(result.complained));
+        other.close();
+    }
+    QSqlDatabase::removeDatabase("other");
+    QVERIFY(onDatabase({"--import", m_folder->filePath("more.csv")}).said.contains("1 added"));
+}
+
+void tst_CommandLine::backupAndRestore()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    const QString backup = m_folder->filePath("backup.kodb");
+    QCOMPARE(onDatabase({"--backup", backup}).exitCode, 0);
+    onDatabase({"--import", write("more.csv", "name,address\nYard,10.0.0.2\n")});
+    QCOMPARE(onDatabase({"--restore", backup}).exitCode, 0);
+    const Call result = onDatabase({"--import", m_folder->filePath("more.csv")});
+    QVERIFY2(result.said.contains("1 added"), qPrintable(result.said));
+}
+
+void tst_CommandLine::restoreOfNothing()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    const Call result = onDatabase({"--restore", m_folder->filePath("missing")});
+    QCOMPARE(result.exitCode, int(CommandLine::Failed));
+    QVERIFY(result.complained.contains("missing"));
+    QVERIFY(onDatabase({"--import", m_folder->filePath("in.csv")}).said.contains("1 unchanged"));
+}
+
+int main(int argc, char** argv)
+{
+    if (argc > 1 && QByteArray(argv[1]) == clientArgument) {
+        for (int i = 1; i < argc; ++i)
+            argv[i] = argv[i + 1]; // the program never sees it
+        --argc;
+        return CommandLine(argc, argv).run();
+    }
+    QApplication app(argc, argv);
+    testsupport::prepareApplication();
+    tst_CommandLine test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_commandline.moc"
