@@ -429,6 +429,7 @@ void MainWindow::logChanges(const QStringList& ids)
         if (!node.id.isEmpty())
             m_db.auditLog().log(NodeChangeLogEntry(node.name));
     }
+    m_db.flush(); // on disk when the dialog has closed
 }
 
 void MainWindow::editRecording()
