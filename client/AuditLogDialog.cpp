@@ -68,7 +68,7 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
     layout->addWidget(searchField);
     layout->addWidget(m_view);
     layout->addWidget(buttons);
-    resize(QSettings().value(QLatin1String(sizeKey), QSize(760, 460)).toSize());
+    resize(QSettings().value(QLatin1String(sizeKey), QSize(960, 520)).toSize());
 }
 
 AuditLogDialog::~AuditLogDialog()

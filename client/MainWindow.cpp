@@ -259,6 +259,7 @@ void MainWindow::createCommands()
     };
 
     QToolBar* bar = findChild<QToolBar*>(QStringLiteral("toolBar"));
+    const int buttons = 4; // the first commands of nodes; the search field needs the rest of the bar
     for (const auto& entry : menus) {
         QMenu* menu = menuBar()->addMenu(tr(entry.title));
         const bool forNodes = qstrcmp(entry.title, "&Node") == 0;
@@ -279,7 +280,8 @@ void MainWindow::createCommands()
             else if (command.needs == C::SomeNodes)
                 m_forSome.append(action);
             if (forNodes) {
-                bar->addAction(action);
+                if (bar->actions().size() < buttons)
+                    bar->addAction(action);
                 m_view->addAction(action); // its context menu
             }
         }
