@@ -109,7 +109,7 @@ QString rootOf(const QString& path, const QStringList& mountPoints)
     if (!path.startsWith(QLatin1Char('/')) || path.startsWith(QLatin1String("//")))
         return QString();
     const QString clean = QDir::cleanPath(path);
-    QString root;
+    QString root = QLatin1String("/"); // not listed for a program that sees a part of the system only
     for (const QString& point : mountPoints) {
         const QString folder = point.endsWith(QLatin1Char('/')) ? point : point + QLatin1Char('/');
         if (point.size() >= root.size() && (clean == point || clean.startsWith(folder)))

@@ -112,6 +112,7 @@ void tst_VolumeProbe::rootOf()
     const QStringList points = {QStringLiteral("/"), QStringLiteral("/mnt/a"),
                                 QStringLiteral("/mnt/a/inner")};
     QCOMPARE(VolumeProbe::rootOf(path, points), root);
+    QCOMPARE(VolumeProbe::rootOf(path, points.mid(1)), root);
 }
 
 void tst_VolumeProbe::networkPathsAreNotTouched()
