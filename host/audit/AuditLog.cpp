@@ -3,6 +3,7 @@
 #include "audit/GenericLogEntry.h"
 #include "audit/LogStore.h"
 #include "ko/LogEntryFactory.h"
+#include "secrets/Redaction.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -63,7 +64,7 @@ void AuditLog::log(const LogEntry& entry)
 {
     QJsonObject values;
     for (const LogValue* value : entry.values())
-        values.insert(value->key().toString(), value->toString());
+        values.insert(value->key().toString(), Redaction::redacted(value->toString()));
     AuditRow row;
     row.time = QDateTime::currentMSecsSinceEpoch();
     row.user = m_user;

@@ -2,6 +2,7 @@
 
 #include "audit/LogStore.h"
 #include "audit/ProgramLogEntry.h"
+#include "secrets/Redaction.h"
 
 #include <QCoreApplication>
 #include <QThread>
@@ -24,11 +25,11 @@ ProgramLog::~ProgramLog()
 
 void ProgramLog::write(int level, const QString& line)
 {
-    std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
     ProgramRow row;
     row.time = QDateTime::currentMSecsSinceEpoch();
     row.level = level;
-    row.line = line;
+    row.line = Redaction::redacted(line);
+    std::fprintf(stderr, "%s\n", row.line.toLocal8Bit().constData());
     if (QThread::currentThread() == thread())
         m_store.append(row);
     else

@@ -7,6 +7,7 @@
 #include "exchange/SurveyImport.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
+#include "secrets/Redaction.h"
 
 #include <QCoreApplication>
 #include <QSaveFile>
@@ -30,15 +31,21 @@ QStringList titles()
     return titles;
 }
 
-QString cell(const SurveyField& field, const IPDeviceNode& device, Passwords passwords)
+QString content(const SurveyField& field, const IPDeviceNode& device)
 {
     if (field.column == SurveyColumn::RecordingPath)
         return RecordingPath::of(device.id());
     if (field.column == SurveyColumn::Type)
         return SurveyFields::typeText(device.type);
-    if (field.column == SurveyColumn::Password && passwords == Passwords::LeaveOut)
-        return QString();
     return field.read(device);
+}
+
+/// A camera may have a URL with a password in it as its address.
+QString cell(const SurveyField& field, const IPDeviceNode& device, Passwords passwords)
+{
+    if (passwords == Passwords::Write)
+        return content(field, device);
+    return field.column == SurveyColumn::Password ? QString() : Redaction::redacted(content(field, device));
 }
 
 QStringList record(const IPDeviceNode& device, Passwords passwords)

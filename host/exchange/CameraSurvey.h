@@ -50,7 +50,10 @@ struct ExportResult
     QString error;
 };
 
-enum class Passwords { Write, LeaveOut };
+enum class Passwords {
+    Write,
+    LeaveOut ///< neither the column nor those that stand in URLs or other cells
+};
 
 /// Adds and changes devices as the file says. All changes of a line are made in one turn of the event
 /// loop. Changes go into the audit log: "NRen" and "NChg" for each device that was changed, and one

@@ -1,5 +1,7 @@
 #include "store/StoreError.h"
 
+#include "secrets/Redaction.h"
+
 #include <QCoreApplication>
 #include <QDir>
 
@@ -65,7 +67,7 @@ StoreError StoreError::make(Kind kind, const QString& file, const QString& detai
     error.kind = kind;
     error.message =
         QCoreApplication::translate("ko::StoreError", pattern(kind)).arg(QDir::toNativeSeparators(file));
-    error.detail = detail;
+    error.detail = Redaction::redacted(detail);
     return error;
 }
 

@@ -64,6 +64,7 @@ private slots:
     void entriesShareTheTransactionOfTheChange();
     void rangesAndOrder();
     void valuesAreKeptAsTheyAre();
+    void passwordsAreReplaced();
     void unknownCodesAreShown();
     void entryThatFailedIsNotLost();
 
@@ -167,6 +168,20 @@ void TestAuditLog::valuesAreKeptAsTheyAre()
     const std::vector<AuditRecord> records = m_db->auditLog().entries(0, 1, true);
     QCOMPARE(firstValues(records), QStringList(odd));
     QCOMPARE(records.front().entry->text(), QLatin1String("From ") + odd + QLatin1String(" to ."));
+}
+
+void TestAuditLog::passwordsAreReplaced()
+{
+    ActionLog::getInstance()->log(
+        PairEntry("Test", QLatin1String("rtsp://u:s3cret@h/"), QLatin1String("Password: s3cret")));
+    {
+        const ProgramLog log(m_db->logStore());
+        LogQt::line(LogQt::Warning, QLatin1String("Login {\"pwd\":\"s3cret\"} at http://u:s3cret@h failed"));
+        QCOMPARE(log.entries(0, 1, true).front().entry->text(),
+                 QLatin1String("Level 2: Login {\"pwd\":\"***\"} at http://u:***@h failed"));
+    }
+    QCOMPARE(m_db->auditLog().entries(0, 1, true).front().entry->text(),
+             QLatin1String("From rtsp://u:***@h/ to Password: ***."));
 }
 
 void TestAuditLog::unknownCodesAreShown()
