@@ -17,6 +17,7 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QTextDocument>
 
 namespace ko {
 
@@ -83,8 +84,9 @@ public:
     {
         switch (role) {
         case Qt::DisplayRole:
-        case Qt::ToolTipRole:
             return m_text;
+        case Qt::ToolTipRole: // which would take a name with markup for rich text
+            return Qt::mightBeRichText(m_text) ? Qt::convertFromPlainText(m_text) : m_text;
         case Qt::DecorationRole:
             return m_icon.isNull() ? QVariant() : QVariant(m_icon);
         case Qt::TextAlignmentRole:
