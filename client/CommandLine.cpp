@@ -5,6 +5,7 @@
 #include "Tour.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
+#include "discovery/ArpScanner.h"
 #include "discovery/MdnsScanner.h"
 #include "exchange/CameraSurvey.h"
 #include "store/BackupKeeper.h"
@@ -194,6 +195,7 @@ int CommandLine::runWindow(HostNodeDB& db) const
 {
     const BackupKeeper backups(db.fileName());
     db.addScanner(std::make_unique<MdnsScanner>());
+    db.addScanner(std::make_unique<ArpScanner>());
     MainWindow window(db);
     window.show();
     if (m_tour.isEmpty() && StoreFile::isOnNetwork(db.fileName()))
