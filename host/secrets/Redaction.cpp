@@ -51,7 +51,7 @@ private:
 
     void copyTo(int end)
     {
-        m_out += m_text.mid(m_at, end - m_at);
+        m_out.append(m_text.constData() + m_at, end - m_at);
         m_at = end;
     }
 
