@@ -3,7 +3,7 @@
 #include "discovery/ArpSweepPorts.h"
 #include "discovery/ArpSweepRange.h"
 #include "discovery/NeighbourTable.h"
-#include "ko/LogQt.h"
+#include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
 
 #include <QDir>
@@ -23,6 +23,7 @@
 #include <netinet/in.h>
 
 using namespace ko;
+using testsupport::LogLines;
 using testsupport::NetworkNamespaces;
 
 namespace {
@@ -40,15 +41,6 @@ for word in sys.argv[1:]:
 print("listening", flush=True)
 threading.Event().wait()
 )";
-
-class LogLines : public LogSink
-{
-public:
-    LogLines() { LogQt::instance().setSink(this); }
-    ~LogLines() override { LogQt::instance().setSink(nullptr); }
-    void write(int, const QString& line) override { lines.append(line); }
-    QStringList lines;
-};
 
 int entriesOf(const char* folder)
 {
@@ -102,18 +94,7 @@ const QByteArray& mac()
     return bytes;
 }
 
-/// Why there is no network of our own; set before the tests begin.
-QString& noNetwork()
-{
-    static QString reason;
-    return reason;
-}
-
 } // namespace
-
-#define NEED_NETWORK()                                                                                       \
-    if (!noNetwork().isEmpty())                                                                              \
-    QSKIP(qPrintable(noNetwork()))
 
 class ArpScannerTest : public QObject
 {
@@ -170,7 +151,7 @@ void ArpScannerTest::cleanup()
 {
     m_scanner.reset();
     m_network.reset();
-    if (noNetwork().isEmpty()) // the cable goes a moment after the site
+    if (NetworkNamespaces::missing().isEmpty()) // the cable goes a moment after the site
         QTRY_COMPARE(if_nametoindex("here0"), 0u);
 }
 
@@ -418,7 +399,7 @@ QStringList ArpScannerTest::foundText() const
 
 void ArpScannerTest::nothingAttached()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QSignalSpy changes(m_scanner.get(), SIGNAL(stateChanged()));
     QCOMPARE(int(m_scanner->state().phase), int(ScannerState::Idle));
     m_scanner->start(0xFFFFFFFF, -1);
@@ -430,7 +411,7 @@ void ArpScannerTest::nothingAttached()
 
 void ArpScannerTest::tableOfTheSystem()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QVERIFY(m_network->connectSite());
     for (int i = 10; i < 210; ++i) {
         const QString address = QStringLiteral("10.99.0.%1").arg(i);
@@ -450,7 +431,7 @@ void ArpScannerTest::tableOfTheSystem()
 
 void ArpScannerTest::hostsAreFound()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     // Another one has an address and no camera's port, and the next only an unusual one.
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554"), QStringLiteral("10.99.0.3:8554"),
                        QStringLiteral("10.99.0.4:22"), QStringLiteral("10.99.0.14:80")}));
@@ -476,7 +457,7 @@ void ArpScannerTest::hostsAreFound()
 
 void ArpScannerTest::webPortsComeFirst()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554"), QStringLiteral("10.99.0.2:8443"),
                        QStringLiteral("10.99.0.2:8554"), QStringLiteral("10.99.0.3:8080"),
                        QStringLiteral("10.99.0.3:443"), QStringLiteral("10.99.0.3:554")}));
@@ -486,7 +467,7 @@ void ArpScannerTest::webPortsComeFirst()
 
 void ArpScannerTest::stopsAtOnce()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554")}, 24));
     m_scanner->start(0xFFFFFFFF, -1);
     QTRY_COMPARE(int(m_found.size()), 1);
@@ -508,7 +489,7 @@ void ArpScannerTest::stopsAtOnce()
 
 void ArpScannerTest::limitIsKept()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QVERIFY(startSite(
         {QStringLiteral("10.99.0.2:554"), QStringLiteral("10.99.0.3:554"), QStringLiteral("10.99.0.4:554")}));
     QVERIFY(scan(0xFFFFFFFF, 2));
@@ -518,7 +499,7 @@ void ArpScannerTest::limitIsKept()
 
 void ArpScannerTest::interfacesAreChosen()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554")}));
     const unsigned bit = 1u << (if_nametoindex("here0") - 1);
     QVERIFY(scan(~bit));
@@ -530,7 +511,7 @@ void ArpScannerTest::interfacesAreChosen()
 
 void ArpScannerTest::largeNetworkIsCutAndSaid()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554"), QStringLiteral("10.99.0.200:554")}, 16));
     LogLines log;
     m_scanner->start(0xFFFFFFFF, -1);
@@ -543,7 +524,7 @@ void ArpScannerTest::largeNetworkIsCutAndSaid()
 
 void ArpScannerTest::neverMoreInFlight()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QVERIFY(m_network->connectSite());
     m_scanner->start(0xFFFFFFFF, -1);
     int most = 0;
@@ -561,7 +542,7 @@ void ArpScannerTest::neverMoreInFlight()
 
 void ArpScannerTest::onAndOffLeavesNothing()
 {
-    NEED_NETWORK();
+    KO_NEED_NETWORKS();
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554")}));
     QVERIFY(scan(0xFFFFFFFF, 1));
     const int threads = entriesOf("/proc/self/task");
@@ -577,7 +558,7 @@ void ArpScannerTest::onAndOffLeavesNothing()
 
 int main(int argc, char** argv)
 {
-    noNetwork() = NetworkNamespaces::enter(argv);
+    NetworkNamespaces::enter(argv);
     QCoreApplication app(argc, argv);
     ArpScannerTest test;
     return QTest::qExec(&test, argc, argv);

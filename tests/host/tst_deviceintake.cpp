@@ -3,10 +3,10 @@
 #include "discovery/NetworkText.h"
 #include "discovery/Scanner.h"
 #include "ko/IPDeviceNode.h"
-#include "ko/LogQt.h"
 #include "ko/NodeHint.h"
 #include "ko/NodeHintIPDevice.h"
 #include "support/HostFixture.h"
+#include "support/LogLines.h"
 #include "support/TestMain.h"
 
 #include <QElapsedTimer>
@@ -18,6 +18,7 @@
 #include <algorithm>
 
 using namespace ko;
+using testsupport::LogLines;
 
 namespace {
 
@@ -45,15 +46,6 @@ public:
 
 private:
     ScannerState m_state;
-};
-
-class LogLines : public LogSink
-{
-public:
-    LogLines() { LogQt::instance().setSink(this); }
-    ~LogLines() override { LogQt::instance().setSink(nullptr); }
-    void write(int, const QString& line) override { lines.append(line); }
-    QStringList lines;
 };
 
 DiscoveredDevice seen(const QString& name, const QString& address, int port = 0,

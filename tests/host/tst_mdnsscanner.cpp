@@ -1,67 +1,26 @@
 #include "discovery/MdnsScanner.h"
 #include "discovery/MdnsTxt.h"
-#include "ko/LogQt.h"
+#include "support/LogLines.h"
+#include "support/NetworkNamespaces.h"
 #include "support/TestMain.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <csignal>
-#include <memory>
-
 #include <net/if.h>
-#include <sched.h>
-#include <sys/ioctl.h>
-#include <sys/mount.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 using namespace ko;
+using testsupport::LogLines;
+using testsupport::NetworkNamespaces;
 
 namespace {
-
-class LogLines : public LogSink
-{
-public:
-    LogLines() { LogQt::instance().setSink(this); }
-    ~LogLines() override { LogQt::instance().setSink(nullptr); }
-    void write(int, const QString& line) override { lines.append(line); }
-    QStringList lines;
-};
 
 int entriesOf(const char* folder)
 {
     return int(
         QDir(QLatin1String(folder)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
-}
-
-/// Puts this process into a network and a /run of its own, so that no daemon of the machine answers.
-/// Must be called before there is a second thread. Empty, or why it cannot be done.
-QString enterOwnNetwork()
-{
-    for (const char* program : {"dbus-daemon", "avahi-daemon", "avahi-publish"}) {
-        if (QStandardPaths::findExecutable(QLatin1String(program)).isEmpty())
-            return QStringLiteral("%1 is not installed").arg(QLatin1String(program));
-    }
-    if (unshare(CLONE_NEWNS | CLONE_NEWNET) != 0)
-        return QStringLiteral("no namespaces: %1").arg(qt_error_string(errno));
-    if (mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        mount("tmpfs", "/run", "tmpfs", 0, "mode=755") != 0)
-        return QStringLiteral("no /run of its own: %1").arg(qt_error_string(errno));
-    for (const char* folder : {"/run/dbus", "/run/avahi-daemon"})
-        QDir().mkpath(QLatin1String(folder));
-    const int descriptor = socket(AF_INET, SOCK_DGRAM, 0);
-    ifreq request = {};
-    qstrncpy(request.ifr_name, "lo", IFNAMSIZ);
-    request.ifr_flags = IFF_UP | IFF_RUNNING | IFF_MULTICAST | IFF_LOOPBACK;
-    const bool isUp = ioctl(descriptor, SIOCSIFFLAGS, &request) == 0;
-    const QString error = isUp ? QString() : qt_error_string(errno);
-    close(descriptor);
-    return isUp ? QString() : QStringLiteral("the loopback interface stays down: %1").arg(error);
 }
 
 bool launch(QProcess& process, const QString& program, const QStringList& arguments)
@@ -79,13 +38,6 @@ void end(QProcess& process)
     if (!process.waitForFinished(5000))
         process.kill();
     process.waitForFinished();
-}
-
-/// Why there is no network of our own; set before the tests begin.
-QString& noNetwork()
-{
-    static QString reason;
-    return reason;
 }
 
 } // namespace
@@ -123,7 +75,8 @@ bool MdnsScannerTest::startBus()
 {
     QFile::remove(QStringLiteral("/run/dbus/system_bus_socket"));
     return launch(m_bus, QStringLiteral("dbus-daemon"),
-                  {QStringLiteral("--system"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile")}) &&
+                  {QStringLiteral("--config-file=/run/bus.conf"), QStringLiteral("--nofork"),
+                   QStringLiteral("--nopidfile")}) &&
            QTest::qWaitFor([] { return QFile::exists(QStringLiteral("/run/dbus/system_bus_socket")); }, 5000);
 }
 
@@ -182,15 +135,9 @@ void MdnsScannerTest::txtRecords()
     QCOMPARE(device.name, QString());
 }
 
-#define NEED_NETWORK()                                                                                       \
-    if (!noNetwork().isEmpty()) {                                                                            \
-        qWarning("not tested here: %s", qPrintable(noNetwork()));                                            \
-        return;                                                                                              \
-    }
-
 void MdnsScannerTest::missingBusIsSaidOnce()
 {
-    NEED_NETWORK()
+    KO_NEED_NETWORKS();
     LogLines log;
     MdnsScanner scanner;
     scanner.start(0xFFFFFFFF, -1);
@@ -205,7 +152,7 @@ void MdnsScannerTest::missingBusIsSaidOnce()
 
 void MdnsScannerTest::devicesAreFound()
 {
-    NEED_NETWORK()
+    KO_NEED_NETWORKS();
     LogLines log;
     QVERIFY(startBus() && startDaemon());
     QProcess publisher;
@@ -238,7 +185,7 @@ void MdnsScannerTest::devicesAreFound()
 
 void MdnsScannerTest::daemonComesAndGoes()
 {
-    NEED_NETWORK()
+    KO_NEED_NETWORKS();
     LogLines log;
     QVERIFY(startBus());
     MdnsScanner scanner;
@@ -266,7 +213,7 @@ void MdnsScannerTest::daemonComesAndGoes()
 
 void MdnsScannerTest::limitAndInterfaces()
 {
-    NEED_NETWORK()
+    KO_NEED_NETWORKS();
     QVERIFY(startBus() && startDaemon());
     QProcess publishers[2];
     QVERIFY(publish(publishers[0], QStringLiteral("One"), 8554));
@@ -289,7 +236,7 @@ void MdnsScannerTest::limitAndInterfaces()
 
 void MdnsScannerTest::onAndOffLeavesNothing()
 {
-    if (noNetwork().isEmpty())
+    if (NetworkNamespaces::missing().isEmpty())
         QVERIFY(startBus() && startDaemon());
     MdnsScanner scanner;
     scanner.start(0xFFFFFFFF, -1);
@@ -308,7 +255,7 @@ void MdnsScannerTest::onAndOffLeavesNothing()
 
 int main(int argc, char** argv)
 {
-    noNetwork() = enterOwnNetwork();
+    NetworkNamespaces::enter(argv);
     QApplication app(argc, argv);
     testsupport::prepareApplication();
     MdnsScannerTest test;

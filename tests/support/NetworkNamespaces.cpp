@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QStandardPaths>
-#include <QTest>
 
 #include <cerrno>
 #include <cstdio>
@@ -20,7 +19,7 @@ const char InsideVariable[] = "KO_TEST_INSIDE_NAMESPACES";
 const char PrepareRun[] = R"(set -e
 mount -t tmpfs -o mode=755 tmpfs /run
 mkdir -p /run/dbus /run/avahi-daemon
-ip link set lo up
+ip link set lo multicast on up
 cat >/run/bus.conf <<'END'
 <busconfig>
   <type>system</type>
@@ -86,23 +85,29 @@ void execute(const QStringList& command)
     std::exit(1);
 }
 
+QString& reason()
+{
+    static QString words;
+    return words;
+}
+
 } // namespace
 
-QString NetworkNamespaces::enter(char** argv)
+void NetworkNamespaces::enter(char** argv)
 {
     if (qEnvironmentVariableIsSet(InsideVariable))
-        return QString();
+        return;
     qputenv("PATH", qgetenv("PATH") + ":/usr/sbin:/sbin");
-    const QString missing = missingProgram();
-    if (!missing.isEmpty())
-        return missing;
+    reason() = missingProgram();
+    if (!reason().isEmpty())
+        return;
     const QStringList shell = {QStringLiteral("sh"), QStringLiteral("-c")};
     QProcess attempt;
     attempt.start(QStringLiteral("unshare"),
                   unshareArguments() + shell + QStringList{QLatin1String(PrepareRun)});
-    const QString reason = failure(attempt, QStringLiteral("no namespaces"));
-    if (!reason.isEmpty())
-        return reason;
+    reason() = failure(attempt, QStringLiteral("no namespaces"));
+    if (!reason().isEmpty())
+        return;
     qputenv(InsideVariable, "1");
     // The shell stays as the first process of the namespace: it takes what the test's children leave behind.
     const QString script = QLatin1String(PrepareRun) + QStringLiteral("set +e\n\"$0\" \"$@\"\nexit $?\n");
@@ -111,7 +116,11 @@ QString NetworkNamespaces::enter(char** argv)
     for (char** argument = argv + 1; *argument; ++argument)
         command.append(QFile::decodeName(*argument));
     execute(command);
-    return QString();
+}
+
+QString NetworkNamespaces::missing()
+{
+    return reason();
 }
 
 NetworkNamespaces::~NetworkNamespaces()

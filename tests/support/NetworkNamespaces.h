@@ -3,6 +3,7 @@
 
 #include <QProcess>
 #include <QStringList>
+#include <QTest>
 
 #include <memory>
 #include <vector>
@@ -18,9 +19,12 @@ class NetworkNamespaces
 public:
     enum Side { Here, Site };
 
-    /// Runs this program again inside; to be called first in main(). Answers in the outer program only when
-    /// that cannot be done, and then why; empty inside.
-    static QString enter(char** argv);
+    /// Runs this program again inside; to be called first in main(). Returns in the outer program only when
+    /// that cannot be done.
+    static void enter(char** argv);
+
+    /// Why enter() could not; empty inside.
+    static QString missing();
 
     NetworkNamespaces() = default;
     ~NetworkNamespaces();
@@ -57,5 +61,15 @@ private:
 };
 
 } // namespace testsupport
+
+/// Skips a test that cannot be without networks of its own, and says why.
+#define KO_NEED_NETWORKS()                                                                                   \
+    do {                                                                                                     \
+        const QString missing = testsupport::NetworkNamespaces::missing();                                   \
+        if (!missing.isEmpty()) {                                                                            \
+            QTest::qSkip(qPrintable(missing), __FILE__, __LINE__);                                           \
+            return;                                                                                          \
+        }                                                                                                    \
+    } while (false)
 
 #endif
