@@ -42,7 +42,7 @@ void addCamera(HostNodeDB& db, const NodeSummary& camera)
 std::unique_ptr<HostNodeDB> open(const QString& file)
 {
     StoreError error;
-    std::unique_ptr<HostNodeDB> db = HostNodeDB::open(file, &error);
+    std::unique_ptr<HostNodeDB> db = HostNodeDB::open(file, &error, HostNodeDB::Check::Behind);
     if (!db)
         qFatal("%s", qPrintable(error.message));
     return db;

@@ -163,46 +163,77 @@ int CommandLine::runTask()
 {
     if (!m_backup.isEmpty() || !m_restore.isEmpty())
         return copyDatabase();
-    StoreError error;
-    std::unique_ptr<HostNodeDB> db = HostNodeDB::open(databaseFile(), &error);
+    if (needsWindow())
+        return runWindow();
+    const std::unique_ptr<HostNodeDB> db = open(false);
+    if (!db)
+        return NoDatabase;
+    const ProgramLog log(db->logStore());
+    if (m_checkTour)
+        return Tour::check(*db) ? Good : Failed;
+    const int imported = m_import.isEmpty() ? Good : importCameras(*db);
+    return imported == Failed || m_export.isEmpty() ? imported : qMax(imported, exportCameras());
+}
+
+/// Null after the user was told why.
+std::unique_ptr<HostNodeDB> CommandLine::open(bool checkBehind) const
+{
     const bool interactive = needsWindow() && m_tour.isEmpty();
+    const HostNodeDB::Check check = checkBehind ? HostNodeDB::Check::Behind : HostNodeDB::Check::First;
+    StoreError error;
+    std::unique_ptr<HostNodeDB> db = HostNodeDB::open(databaseFile(), &error, check);
     if (error.kind == StoreError::Damaged && interactive) {
         say(stderr, error.message);
         if (!DatabaseRecovery::offer(databaseFile(), error, nullptr))
-            return NoDatabase;
+            return nullptr;
         db = HostNodeDB::open(databaseFile(), &error);
     }
-    if (!db) {
-        say(stderr, error.message);
-        if (interactive)
-            QMessageBox::critical(nullptr, QCoreApplication::translate("CommandLine", "Node Database"),
-                                  error.message);
-        return NoDatabase;
-    }
-    const ProgramLog log(db->logStore());
-    if (!m_import.isEmpty()) {
-        const int result = importCameras(*db);
-        return result == Failed || m_export.isEmpty() ? result : qMax(result, exportCameras());
-    }
-    if (!m_export.isEmpty())
-        return exportCameras();
-    if (m_checkTour)
-        return Tour::check(*db) ? Good : Failed;
-    return runWindow(*db);
+    if (db)
+        return db;
+    say(stderr, error.message);
+    if (interactive)
+        QMessageBox::critical(nullptr, QCoreApplication::translate("CommandLine", "Node Database"),
+                              error.message);
+    return nullptr;
 }
 
-int CommandLine::runWindow(HostNodeDB& db) const
+/// A large database is looked through while the window is there already. When that finds damage, the window
+/// goes, and the database is opened again as one that is known to be damaged.
+int CommandLine::runWindow() const
 {
+    for (const bool checkBehind : {m_tour.isEmpty(), false}) {
+        const std::unique_ptr<HostNodeDB> db = open(checkBehind);
+        if (!db)
+            return NoDatabase;
+        int exitCode = Good;
+        if (showWindow(*db, &exitCode))
+            return exitCode;
+    }
+    return NoDatabase;
+}
+
+/// False when the file must not be used any more.
+bool CommandLine::showWindow(HostNodeDB& db, int* exitCode) const
+{
+    const ProgramLog log(db.logStore());
     const BackupKeeper backups(db.fileName());
     db.addScanner(std::make_unique<MdnsScanner>());
     db.addScanner(std::make_unique<ArpScanner>());
     MainWindow window(db);
+    bool isUsable = true;
+    QObject::connect(&db, &HostNodeDB::checked, &window, [&isUsable](const StoreError& error) {
+        isUsable = !error;
+        if (error)
+            QApplication::exit();
+    });
     window.show();
     if (m_tour.isEmpty() && StoreFile::isOnNetwork(db.fileName()))
         warnAboutNetwork(db.fileName(), &window);
     if (!m_tour.isEmpty())
-        return Tour(db, window, m_tour).run(m_survey) ? Good : Failed;
-    return QApplication::exec();
+        *exitCode = Tour(db, window, m_tour).run(m_survey) ? Good : Failed;
+    else if (isUsable)
+        *exitCode = QApplication::exec();
+    return isUsable;
 }
 
 int CommandLine::importCameras(HostNodeDB& db) const

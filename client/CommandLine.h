@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <memory>
+
 namespace ko {
 
 class HostNodeDB;
@@ -23,7 +25,9 @@ private:
     bool needsWindow() const;
     QString databaseFile() const;
     int runTask();
-    int runWindow(HostNodeDB& db) const;
+    int runWindow() const;
+    std::unique_ptr<HostNodeDB> open(bool checkBehind) const;
+    bool showWindow(HostNodeDB& db, int* exitCode) const;
     int importCameras(HostNodeDB& db) const;
     int exportCameras() const;
     int copyDatabase() const;

@@ -20,6 +20,7 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <future>
 #include <set>
 #include <unordered_map>
 #include <vector>
@@ -57,7 +58,9 @@ class HostNodeDB::Private : public LogStore
 public:
     explicit Private(std::unique_ptr<SqliteStore> openedStore);
 
-    void start(HostNodeDB* database);
+    void start(HostNodeDB* database, Check when);
+    void checkBehind();
+    void waitForCheck() const;
 
     // LogStore
     void append(const AuditRow& row) override;
@@ -112,6 +115,7 @@ public:
     QTimer poll;
     QTimer retry;
     QTimer programLineTimer;
+    std::shared_future<StoreError> check; ///< of the file, when that goes on in the background
     bool flushScheduled = false;
     bool failing = false;
     QString lastDamage;
@@ -128,9 +132,12 @@ HostNodeDB::Private::Private(std::unique_ptr<SqliteStore> openedStore)
     memory.load(tables);
 }
 
-void HostNodeDB::Private::start(HostNodeDB* database)
+void HostNodeDB::Private::start(HostNodeDB* database, Check when)
 {
     q = database;
+    if (when == Check::Behind)
+        checkBehind();
+    createDefaultEnvironment();
     intake = std::make_unique<DeviceIntake>(*q);
     settingsTaken();
     QObject::connect(&proxy, &GlobalNetworkProxy::globalProxyDataChanged, q, [this] { proxyChanged(); });
@@ -142,11 +149,29 @@ void HostNodeDB::Private::start(HostNodeDB* database)
     poll.start(PollInterval);
 }
 
+void HostNodeDB::Private::checkBehind()
+{
+    check = std::async(std::launch::async, [this, file = store->fileName()] {
+        const StoreError error = SqliteStore::findDamage(file);
+        QMetaObject::invokeMethod(
+            q, [this, error] { emit q->checked(error); }, Qt::QueuedConnection);
+        return error;
+    });
+}
+
+/// Throws what a check in the background has found.
+void HostNodeDB::Private::waitForCheck() const
+{
+    if (check.valid() && check.get())
+        throw StoreFailure{check.get()};
+}
+
 /// A new database has one environment; another process may be making it at the same time.
 void HostNodeDB::Private::createDefaultEnvironment()
 {
     if (!memory.environments.isEmpty() || memory.settings.contains(QLatin1String(ActiveEnvironment)))
         return;
+    waitForCheck();
     Transaction transaction(*store, Transaction::Write);
     if (tables.environments().isEmpty()) {
         const QString id = QUuid::createUuid().toString();
@@ -158,32 +183,34 @@ void HostNodeDB::Private::createDefaultEnvironment()
     transaction.commit();
 }
 
-std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error)
+std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error, Check check)
 {
     qRegisterMetaType<ko::StoreError>("ko::StoreError");
-    std::unique_ptr<SqliteStore> store = SqliteStore::open(file, error);
+    std::unique_ptr<SqliteStore> store = SqliteStore::open(
+        file, error, check == Check::First ? SqliteStore::Check::First : SqliteStore::Check::ByUser);
     if (!store)
         return nullptr;
     try {
         auto d = std::make_unique<Private>(std::move(store));
-        d->createDefaultEnvironment();
-        return std::unique_ptr<HostNodeDB>(new HostNodeDB(std::move(d)));
+        return std::unique_ptr<HostNodeDB>(new HostNodeDB(std::move(d), check));
     } catch (const StoreFailure& failure) {
         *error = failure.error;
         return nullptr;
     }
 }
 
-HostNodeDB::HostNodeDB(std::unique_ptr<Private> opened)
+HostNodeDB::HostNodeDB(std::unique_ptr<Private> opened, Check check)
     : d(std::move(opened))
 {
-    d->start(this);
+    d->start(this, check);
     VolumeProbe::install();
 }
 
 HostNodeDB::~HostNodeDB()
 {
     blockSignals(true);
+    if (d->check.valid())
+        d->check.wait();
     d->scanners.clear();
     d->intake.reset();
     flush();
@@ -673,6 +700,7 @@ bool HostNodeDB::Private::flush()
     Notices notices;
     StoreError error;
     try {
+        waitForCheck();
         Transaction transaction(*store, Transaction::Write);
         // Now nobody else can write, so what is brought in here is what is written upon.
         notices = memory.take(readForeignChanges());

@@ -34,9 +34,16 @@ class KO_HOST_EXPORT HostNodeDB : public NodeDB
     Q_OBJECT
 
 public:
+    /// When the file is looked through for damage.
+    enum class Check {
+        First, ///< before it is opened: a damaged file is left as it is
+        Behind ///< while it is in use already, for a window that shall not wait; see checked()
+    };
+
     /// Opens \a file, creating or migrating it as needed; null and \a error when that cannot be done,
     /// with the file unchanged. The folder must exist.
-    static std::unique_ptr<HostNodeDB> open(const QString& file, StoreError* error);
+    static std::unique_ptr<HostNodeDB> open(const QString& file, StoreError* error,
+                                            Check check = Check::First);
 
     /// Stores what is not stored yet.
     ~HostNodeDB() override;
@@ -118,12 +125,15 @@ signals:
     /// Something could not be read: what is affected looks as if it were not there. Nothing is
     /// overwritten. Emitted from the event loop, once for each different error.
     void storeDamaged(const ko::StoreError& error);
+    /// A check in the background has ended: without an error, or the file must not be used any more.
+    /// Nothing is written before it has ended, and nothing after an error.
+    void checked(const ko::StoreError& error);
     /// Another process changed the active environment, the environments, or other settings.
     void settingsChanged();
 
 private:
     class Private;
-    explicit HostNodeDB(std::unique_ptr<Private> d);
+    HostNodeDB(std::unique_ptr<Private> opened, Check check);
     const std::unique_ptr<Private> d;
 };
 

@@ -71,12 +71,13 @@ bool SqliteStore::Rows::next()
     return false;
 }
 
-std::unique_ptr<SqliteStore> SqliteStore::open(const QString& file, StoreError* error, int version)
+std::unique_ptr<SqliteStore> SqliteStore::open(const QString& file, StoreError* error, Check check,
+                                               int version)
 {
     bool created = false;
     try {
         created = StoreFile::create(file);
-        check(file, version);
+        checkFile(file, check, version);
         std::unique_ptr<SqliteStore> store(new SqliteStore(file, ReadWrite));
         store->prepare(version);
         *error = StoreError();
@@ -116,18 +117,35 @@ SqliteStore::~SqliteStore()
     QSqlDatabase::removeDatabase(m_connection);
 }
 
-void SqliteStore::check(const QString& file, int version)
+void SqliteStore::checkFile(const QString& file, Check check, int version)
 {
     StoreFile::check(file, version);
     // What a crash left in the write-ahead log would go into the file when the last connection closes,
     // unless that may only read.
     const bool hasLog = QFile::exists(file + QLatin1String("-wal"));
     SqliteStore probe(file, hasLog ? ReadOnly : ReadWrite);
-    if (probe.userVersion() > version)
+    const int found = probe.userVersion();
+    if (found > version)
         throw StoreFailure{StoreError::make(StoreError::NewerVersion, file, QLatin1String("in its log"))};
-    const QString result = probe.value("PRAGMA quick_check(1)").toString();
+    if (check == Check::First || found < version)
+        probe.findDamage();
+}
+
+StoreError SqliteStore::findDamage(const QString& file)
+{
+    try {
+        SqliteStore(file, ReadOnly).findDamage();
+        return StoreError();
+    } catch (const StoreFailure& failure) {
+        return failure.error;
+    }
+}
+
+void SqliteStore::findDamage()
+{
+    const QString result = value("PRAGMA quick_check(1)").toString();
     if (result != QLatin1String("ok"))
-        throw StoreFailure{StoreError::make(StoreError::Damaged, file, result)};
+        throw StoreFailure{StoreError::make(StoreError::Damaged, m_file, result)};
 }
 
 void SqliteStore::prepare(int version)

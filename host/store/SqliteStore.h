@@ -26,11 +26,22 @@ public:
     /// What a result code of SQLite means, extended or not.
     static StoreError::Kind kindOf(int code);
 
+    /// When the pages of a file that is opened are looked through for damage, which takes a second for
+    /// each few hundred megabytes.
+    enum class Check {
+        First,  ///< before anything else; a damaged file is not opened and stays byte for byte as it is
+        ByUser, ///< whoever opens calls findDamage() before the first write
+    };
+
     /// Opens \a file after looking whether it may be opened; a missing or empty file becomes an empty
-    /// database of mode 0600. An older version is migrated, with a copy of the file kept beside it. On
-    /// failure null and \a error, and the file is as it was. \a version serves the tests of migration.
+    /// database of mode 0600. An older version is checked and migrated, with a copy of the file kept
+    /// beside it. On failure null and \a error, and the file is as it was. \a version serves the tests of
+    /// migration.
     static std::unique_ptr<SqliteStore> open(const QString& file, StoreError* error,
-                                             int version = StoreSchema::latest());
+                                             Check check = Check::First, int version = StoreSchema::latest());
+
+    /// Looks through every page of \a file, which may be in use. From any thread.
+    static StoreError findDamage(const QString& file);
     ~SqliteStore();
 
     const QString& fileName() const { return m_file; }
@@ -73,7 +84,8 @@ private:
     SqliteStore(const QString& file, Mode mode);
     Q_DISABLE_COPY(SqliteStore)
 
-    static void check(const QString& file, int version);
+    static void checkFile(const QString& file, Check check, int version);
+    void findDamage();
     void prepare(int version);
     void create(int version);
     void migrate(int from, int to);

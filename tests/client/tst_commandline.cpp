@@ -50,6 +50,7 @@ private slots:
     void badDatabases_data();
     void badDatabases();
     void lockedDatabase();
+    void damageFoundWithTheWindowOpen();
     void backupAndRestore();
     void restoreOfNothing();
 
@@ -258,6 +259,34 @@ void tst_CommandLine::lockedDatabase()
     }
     QSqlDatabase::removeDatabase("other");
     QVERIFY(onDatabase({"--import", m_folder->filePath("more.csv")}).said.contains("1 added"));
+}
+
+/// The damaged page is one that the list of the window does not need.
+void tst_CommandLine::damageFoundWithTheWindowOpen()
+{
+    QCOMPARE(onDatabase({"--import", QStringLiteral(KO_SOURCE_DIR "/examples/survey.csv")}).exitCode, 0);
+    const QByteArray sound = contentOf(m_database);
+    const int page = 4096;
+    StoreError error;
+    for (int at = int(sound.size()) - page; at > 0; at -= page) {
+        write("nodes.kodb", QByteArray(sound).replace(at, page, QByteArray(page, '\xa5')));
+        if (HostNodeDB::open(m_database, &error, HostNodeDB::Check::Behind))
+            break;
+    }
+    QVERIFY(!error);
+    QProcess client;
+    client.start(QCoreApplication::applicationFilePath(), {clientArgument, "--db", m_database});
+    QByteArray complained;
+    QVERIFY(QTest::qWaitFor(
+        [&] {
+            complained += client.readAllStandardError();
+            return complained.contains("damaged");
+        },
+        20000));
+    QCOMPARE(client.state(), QProcess::Running); // and asks what to do
+    client.kill();
+    QVERIFY(client.waitForFinished());
+    QCOMPARE(contentOf(m_database).size(), sound.size());
 }
 
 void tst_CommandLine::backupAndRestore()

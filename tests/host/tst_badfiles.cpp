@@ -41,6 +41,8 @@ private slots:
     void lockedByAnotherProgram();
     void lockedWhileInUse();
     void damageFoundWhileReading();
+    void damageFoundBehind();
+    void soundFileCheckedBehind();
     void fullDiskWhileInUse();
     void fullDiskAtTheFirstStart();
     void fullDiskAtALaterStart();
@@ -341,6 +343,55 @@ void TestBadFiles::damageFoundWhileReading()
     QTRY_VERIFY(damaged.count() > 0);
     QCOMPARE(damaged.at(0).at(0).value<StoreError>().kind, StoreError::Damaged);
     QCOMPARE(digest(m_file), before);
+}
+
+/// A damaged page that opening does not read: it is found while the database is in use, and from then on, or
+/// rather from the beginning, nothing is written.
+void TestBadFiles::damageFoundBehind()
+{
+    makeDatabase(2000);
+    const QString sound = m_file;
+    std::unique_ptr<HostNodeDB> db;
+    for (qint64 at = QFileInfo(sound).size() - 4096; !db && at > 0; at -= 4096) {
+        m_file = m_folder->filePath(QString::fromLatin1("spoiled-%1.db").arg(at));
+        QVERIFY(QFile::copy(sound, m_file));
+        spoil(m_file, at, 4096);
+        StoreError error;
+        db = HostNodeDB::open(m_file, &error, HostNodeDB::Check::Behind);
+        QVERIFY(db || error.kind == StoreError::Damaged);
+    }
+    QVERIFY(db);
+    const QByteArray before = digest(m_file);
+    QSignalSpy checked(db.get(), SIGNAL(checked(ko::StoreError)));
+    QSignalSpy failed(db.get(), SIGNAL(storeFailed(ko::StoreError)));
+    addCamera(*db, QLatin1String("new"), QLatin1String("10.0.1.1"));
+    QVERIFY(!db->flush()); // the check had no time yet
+    QCOMPARE(failed.at(0).at(0).value<StoreError>().kind, StoreError::Damaged);
+    QTRY_COMPARE(checked.count(), 1);
+    QCOMPARE(checked.at(0).at(0).value<StoreError>().kind, StoreError::Damaged);
+    db.reset();
+    QCOMPARE(digest(m_file), before);
+    expectRefused(StoreError::Damaged);
+}
+
+void TestBadFiles::soundFileCheckedBehind()
+{
+    for (const int cameras : {0, 2000}) {
+        makeDatabase(cameras);
+        StoreError error;
+        std::unique_ptr<HostNodeDB> db = HostNodeDB::open(m_file, &error, HostNodeDB::Check::Behind);
+        QVERIFY(db);
+        QSignalSpy checked(db.get(), SIGNAL(checked(ko::StoreError)));
+        addCamera(*db, QLatin1String("new"), QLatin1String("10.0.1.1"));
+        QVERIFY(db->flush());
+        QTRY_COMPARE(checked.count(), 1);
+        QVERIFY(!checked.at(0).at(0).value<StoreError>());
+        db.reset();
+        QVERIFY(QFile::remove(m_file));
+    }
+    StoreError error; // a file that is only made now
+    const std::unique_ptr<HostNodeDB> db = HostNodeDB::open(m_file, &error, HostNodeDB::Check::Behind);
+    QVERIFY(db && db->activeEnvironment().size() > 0);
 }
 
 /// A small disk of its own where that is allowed, else no test of it: limitedFileWhileInUse() remains.

@@ -48,7 +48,7 @@ void TestSqliteStore::init()
 
 std::unique_ptr<SqliteStore> TestSqliteStore::open(int version)
 {
-    return SqliteStore::open(m_file, &m_error, version);
+    return SqliteStore::open(m_file, &m_error, SqliteStore::Check::First, version);
 }
 
 QStringList TestSqliteStore::backups() const

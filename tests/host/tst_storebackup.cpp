@@ -222,7 +222,7 @@ void tst_StoreBackup::restoreKeepsThePresent()
 void tst_StoreBackup::restoreOfAnOlderVersion()
 {
     const QString old = m_folder->filePath(QLatin1String("old.kodb"));
-    SqliteStore::open(old, &m_error, 1).reset();
+    SqliteStore::open(old, &m_error, SqliteStore::Check::First, 1).reset();
     QVERIFY(!m_error);
     PlainSql(old).run(QLatin1String("INSERT INTO nodes (id, type, name, location, recording, lookup)"
                                     " VALUES ('a', 2, 'old', '', 0, '')"));
