@@ -194,7 +194,8 @@ void TestDurability::migrationSurvivesKills()
     const QString original = folder.filePath(QLatin1String("original.db"));
     {
         StoreError error;
-        const std::unique_ptr<SqliteStore> store = SqliteStore::open(original, &error, SqliteStore::Check::First, 1);
+        const std::unique_ptr<SqliteStore> store =
+            SqliteStore::open(original, &error, SqliteStore::Check::First, 1);
         QVERIFY(store);
         Transaction transaction(*store, Transaction::Write);
         for (int i = 1; i <= 30000; ++i)
