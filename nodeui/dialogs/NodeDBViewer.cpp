@@ -83,7 +83,7 @@ NodeDBViewer::NodeDBViewer(QWidget* parent)
     ko::connect(m_ui->nodesTableView, SIGNAL(doubleClicked(QModelIndex)), this,
                 SLOT(openPropertyWindow(QModelIndex)));
 
-    m_view->addNodes(NodeDB::getDB()->nodeIdList(AllNodeTypes));
+    m_view->fill(NodeDB::getDB()->nodeIdList(AllNodeTypes));
 }
 
 NodeDBViewer::~NodeDBViewer() = default;

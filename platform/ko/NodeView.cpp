@@ -16,17 +16,34 @@ QString NodeView::name() const
 
 kom::smart<NodeViewEntry> NodeView::entryFromInternalId(unsigned internalId) const
 {
-    return m_entries.value(internalId);
+    const unsigned slot = internalId - m_root->m_firstFilled; // huge for a smaller number
+    return slot < unsigned(m_root->m_filled.size()) ? m_root->entryInSlot(int(slot))
+                                                    : m_entries.value(internalId);
+}
+
+void NodeView::indexFilled() const
+{
+    const int count = int(m_root->m_filled.size());
+    m_entries.reserve(m_entries.size() + count);
+    m_entriesByNode.reserve(m_entriesByNode.size() + count);
+    for (int slot = 0; slot < count; ++slot) {
+        const kom::smart<NodeViewEntry> entry = m_root->entryInSlot(slot);
+        m_entries.insert(entry->internalId(), entry);
+        m_entriesByNode.insert(m_root->m_filled.at(slot), entry.cast<NodeEntry>());
+    }
+    m_root->m_filled.clear();
 }
 
 QList<kom::smart<NodeEntry>> NodeView::entriesOf(const NodeID& id) const
 {
+    indexFilled();
     return m_entriesByNode.values(id);
 }
 
 /// Whether the list holds the node, or will when what is under way is done.
 bool NodeView::holds(const SubViewEntry& list, const NodeID& id) const
 {
+    indexFilled();
     for (auto found = m_entriesByNode.constFind(id); found != m_entriesByNode.constEnd() && found.key() == id;
          ++found) {
         const SubViewEntry* parent = found.value()->m_parent;
@@ -34,13 +51,6 @@ bool NodeView::holds(const SubViewEntry& list, const NodeID& id) const
             return true;
     }
     return false;
-}
-
-kom::smart<NodeEntry> NodeView::createEntry(const NodeID& id)
-{
-    const kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
-    m_entriesByNode.insert(id, entry);
-    return entry;
 }
 
 kom::smart<SubViewEntry> NodeView::addSubView(const QString& name)
@@ -56,7 +66,8 @@ void NodeView::addNodeTo(SubViewEntry& list, const NodeID& id)
 {
     if (holds(list, id) || (&list != m_root.get() && list.m_parent != m_root.get()))
         return;
-    const kom::smart<NodeEntry> entry = createEntry(id);
+    const kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
+    m_entriesByNode.insert(id, entry);
     emit entriesAboutToBeInserted(list.internalId(), list.count(), list.count());
     append(list, entry);
     emit entriesInserted();
@@ -67,22 +78,14 @@ void NodeView::addNode(ko::NodeID id)
     addNodeTo(*m_root, id);
 }
 
-void NodeView::addNodes(const QStringList& ids)
+void NodeView::fill(const QStringList& ids)
 {
-    m_entriesByNode.reserve(m_entriesByNode.size() + int(ids.size()));
-    QVector<kom::smart<NodeEntry>> added;
-    added.reserve(int(ids.size()));
-    for (const QString& id : ids) {
-        if (!holds(*m_root, id))
-            added.append(createEntry(id));
-    }
-    if (added.isEmpty())
+    Q_ASSERT(m_root->count() == 0);
+    if (ids.isEmpty())
         return;
-    const int first = m_root->count();
-    emit entriesAboutToBeInserted(m_root->internalId(), first, first + int(added.size()) - 1);
-    m_entries.reserve(m_entries.size() + int(added.size()));
-    for (const kom::smart<NodeEntry>& entry : std::as_const(added))
-        append(*m_root, entry);
+    emit entriesAboutToBeInserted(m_root->internalId(), 0, int(ids.size()) - 1);
+    m_root->fill(ids, m_lastInternalId + 1);
+    m_lastInternalId += unsigned(ids.size());
     emit entriesInserted();
 }
 

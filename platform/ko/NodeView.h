@@ -45,9 +45,9 @@ public:
     /// Appends a node to a list of this view; nothing happens if it stands there or the list is gone.
     void addNodeTo(SubViewEntry& list, const NodeID& id);
 
-    /// Appends these nodes in their order, as addNode() does with each, and announces them together:
-    /// models and the views on them would take the rows one by one in a time that grows with the square.
-    void addNodes(const QStringList& ids);
+    /// Puts these nodes into a view that is empty, all at once: models and the views on them take rows that
+    /// come one by one in a time that grows with the square. Each node must be named once.
+    void fill(const QStringList& ids);
 
     /// Takes the node off the view's own list, with \a everywhere off all its lists. The node itself
     /// stays in the database.
@@ -67,13 +67,14 @@ signals:
     void cleared();
 
 private:
+    void indexFilled() const;
     bool holds(const SubViewEntry& list, const NodeID& id) const;
-    kom::smart<NodeEntry> createEntry(const NodeID& id);
     void append(SubViewEntry& list, const kom::smart<NodeViewEntry>& entry);
 
     std::unique_ptr<SubViewEntry> m_root;
-    QHash<unsigned, kom::smart<NodeViewEntry>> m_entries;
-    QMultiHash<NodeID, kom::smart<NodeEntry>> m_entriesByNode;
+    // Without those that the root was filled with, until one is looked for by its node.
+    mutable QHash<unsigned, kom::smart<NodeViewEntry>> m_entries;
+    mutable QMultiHash<NodeID, kom::smart<NodeEntry>> m_entriesByNode;
     unsigned m_lastInternalId = 0;
 };
 

@@ -30,7 +30,27 @@ kom::smart<NodeViewEntry> SubViewEntry::entryAt(int row) const
 {
     if (row < 0 || row >= count())
         return kom::smart<NodeViewEntry>();
-    return m_slots.at(m_rows.slotAt(row));
+    return entryInSlot(m_rows.slotAt(row));
+}
+
+kom::smart<NodeViewEntry> SubViewEntry::entryInSlot(int slot) const
+{
+    kom::smart<NodeViewEntry>& entry = m_slots[slot];
+    if (entry.null() && slot < m_filled.size()) {
+        entry = kom::makeSmart<NodeEntry>(m_firstFilled + unsigned(slot), m_filled.at(slot));
+        entry->m_parent = const_cast<SubViewEntry*>(this);
+        entry->m_slot = slot;
+    }
+    return entry;
+}
+
+/// Into an empty list. Most entries of a long one are never looked at, and are not made until they are.
+void SubViewEntry::fill(const QStringList& ids, unsigned firstInternalId)
+{
+    m_filled = ids;
+    m_firstFilled = firstInternalId;
+    m_slots.resize(int(ids.size()));
+    m_rows.fill(int(ids.size()));
 }
 
 void SubViewEntry::append(const kom::smart<NodeViewEntry>& entry)
@@ -59,6 +79,7 @@ void SubViewEntry::clear()
     }
     m_slots.clear();
     m_rows.clear();
+    m_filled.clear();
 }
 
 void SubViewEntry::compact()

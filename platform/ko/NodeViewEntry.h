@@ -5,6 +5,8 @@
 #include "ko/Types.h"
 #include "kom/smart.h"
 
+#include <QStringList>
+
 namespace ko {
 
 class SubViewEntry;
@@ -66,13 +68,18 @@ private:
     friend class NodeView;
 
     void append(const kom::smart<NodeViewEntry>& entry);
+    void fill(const QStringList& ids, unsigned firstInternalId);
+    kom::smart<NodeViewEntry> entryInSlot(int slot) const;
     void remove(NodeViewEntry& entry);
     void clear();
     void compact();
 
     QString m_name;
     RowIndex m_rows;
-    QVector<kom::smart<NodeViewEntry>> m_slots; ///< null where an entry was removed
+    /// Null where an entry was removed or, in the slots of m_filled, not made yet.
+    mutable QVector<kom::smart<NodeViewEntry>> m_slots;
+    QStringList m_filled; ///< nodes of the first slots, none of which was removed
+    unsigned m_firstFilled = 0;
 };
 
 } // namespace ko

@@ -23,6 +23,15 @@ int RowIndex::append()
     return position - 1;
 }
 
+void RowIndex::fill(int count)
+{
+    m_tree.resize(count);
+    int* tree = m_tree.data();
+    for (int position = 1; position <= count; ++position)
+        tree[position - 1] = lowestBit(position);
+    m_count = count;
+}
+
 void RowIndex::remove(int slot)
 {
     int* tree = m_tree.data();

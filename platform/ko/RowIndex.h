@@ -18,6 +18,9 @@ public:
 
     /// A new slot behind all others.
     int append();
+
+    /// The slots 0 to \a count - 1, into an empty index.
+    void fill(int count);
     void remove(int slot);
     void clear();
 

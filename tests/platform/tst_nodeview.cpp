@@ -142,7 +142,7 @@ private slots:
     void rowIndexAgainstPlainList();
     void emptyView();
     void eachListHoldsANodeOnce();
-    void addNodes();
+    void fill();
     void removeNode();
     void listsOfOthersAreNotTouched();
     void internalIdsAreNeverUsedAgain();
@@ -227,22 +227,41 @@ void tst_NodeView::eachListHoldsANodeOnce()
         QCOMPARE(entry->id(), QString("a"));
 }
 
-void tst_NodeView::addNodes()
+void tst_NodeView::fill()
 {
     const Shown shown;
-    shown.view->addNode("b");
+    shown.view->fill(QStringList());
+    shown.view->addSubView("gone");
+    shown.view->removeAll();
     QSignalSpy inserted(&shown.model, SIGNAL(rowsInserted(QModelIndex, int, int)));
-    shown.view->addNodes({"a", "b", "c", "a", "d", "c"});
-    QCOMPARE(lines(shown.model), QStringList({"b", "a", "c", "d"}));
+    shown.view->fill({"a", "b", "c", "d"});
     QCOMPARE(inserted.count(), 1);
-    QCOMPARE(inserted.at(0).at(1).toInt(), 1);
+    QCOMPARE(inserted.at(0).at(1).toInt(), 0);
     QCOMPARE(inserted.at(0).at(2).toInt(), 3);
-    shown.view->addNodes({"d", "a"});
-    shown.view->addNodes({});
-    QCOMPARE(inserted.count(), 1);
-    shown.view->removeNode("a", false);
-    shown.view->addNodes({"b", "a"}); // comes back at the end
-    QCOMPARE(lines(shown.model), QStringList({"b", "c", "d", "a"}));
+    const kom::smart<NodeViewEntry> second = shown.model.entry(shown.model.index(1, 0));
+    const QPersistentModelIndex third = shown.model.index(2, 0);
+    QVERIFY(shown.view->entryFromInternalId(second->internalId()).get() == second.get());
+    QCOMPARE(shown.view->root().rowOf(*second), 1);
+    QVERIFY(shown.view->entryFromInternalId(shown.view->root().internalId()).null());
+    shown.view->addSubView("List");
+    QCOMPARE(lines(shown.model), QStringList({"a", "b", "c", "d", "[]"}));
+    shown.view->addNode("c"); // stands there
+    shown.view->addNode("e");
+    QVERIFY(shown.view->entriesOf("b").at(0).get() == second.get());
+    shown.view->removeNode("b", false);
+    QVERIFY(!shown.view->parentOf(*second));
+    QVERIFY(shown.view->entryFromInternalId(second->internalId()).null());
+    QCOMPARE(third.row(), 1);
+    shown.view->addNode("b"); // comes back at the end
+    QCOMPARE(lines(shown.model), QStringList({"a", "c", "d", "[]", "e", "b"}));
+    shown.view->removeAll();
+    QVERIFY(!shown.view->parentOf(*second));
+    shown.view->fill({"b", "a"});
+    const QModelIndex first = shown.model.index(0, 0);
+    QVERIFY(unsigned(first.internalId()) > second->internalId());
+    QCOMPARE(lines(shown.model), QStringList({"b", "a"}));
+    shown.view->removeAll(); // nothing was looked for by its node
+    QVERIFY(shown.model.entry(first).null());
 }
 
 void tst_NodeView::removeNode()
