@@ -127,9 +127,12 @@ HostNodeDB::Private::Private(std::unique_ptr<SqliteStore> openedStore)
     , environments([this] { environmentsChanged(); }, [this](const QString& id) { environmentRemoved(id); })
     , audit(*this)
 {
-    const Transaction transaction(*store, Transaction::Read);
-    dataVersion = store->dataVersion();
-    memory.load(tables);
+    {
+        const Transaction transaction(*store, Transaction::Read);
+        dataVersion = store->dataVersion();
+        memory.load(tables);
+    }
+    store->execute(QLatin1String("PRAGMA shrink_memory")); // nobody reads all those pages a second time
 }
 
 void HostNodeDB::Private::start(HostNodeDB* database, Check when)
@@ -251,9 +254,9 @@ kom::smart<const Node> HostNodeDB::Private::snapshot(NodeRecord* record)
         return record ? record->snapshot : kom::smart<const Node>();
     return reading([this, record] {
         NodeData data;
-        data.id = record->summary.id;
-        data.type = record->summary.type;
-        data.name = record->summary.name;
+        data.id = record->summary.id();
+        data.type = record->summary.type();
+        data.name = record->summary.name();
         // False: another process removed it, which will be announced.
         if (tables.readProperties(record->order, &data.properties))
             memory.setData(*record, data);
@@ -271,22 +274,24 @@ QVector<NodeSummary> HostNodeDB::summaries() const
     QVector<NodeSummary> result;
     result.reserve(d->memory.cache.count());
     for (const auto& entry : d->memory.cache)
-        result.append(entry.second.summary);
+        result.append(entry.second.summary.unpacked());
     return result;
 }
 
 NodeSummary HostNodeDB::summary(const QString& id) const
 {
     const NodeRecord* record = d->memory.cache.find(id);
-    return record ? record->summary : NodeSummary();
+    return record ? record->summary.unpacked() : NodeSummary();
 }
 
 QStringList HostNodeDB::nodeIdList(ENodeType type) const
 {
+    if (type == AllNodeTypes)
+        return d->memory.cache.ids();
     QStringList ids;
     for (const auto& entry : d->memory.cache) {
-        if (type == AllNodeTypes || entry.second.summary.type == type)
-            ids.append(entry.second.summary.id);
+        if (entry.second.summary.type() == type)
+            ids.append(entry.second.summary.id());
     }
     return ids;
 }
@@ -316,7 +321,7 @@ QString HostNodeDB::lookupHint(const NodeHint& hint) const
     if (key.isEmpty() || !d->readLookupKeys())
         return QString();
     const NodeRecord* record = d->memory.cache.findLookupKey(key);
-    return record ? record->summary.id : QString();
+    return record ? record->summary.id() : QString();
 }
 
 // Types
@@ -399,7 +404,7 @@ void HostNodeDB::endUpdateNode(Node* node)
 void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
 {
     const NodeRecord* record = memory.cache.find(camera);
-    if (!record || record->summary.type != IPDeviceType ||
+    if (!record || record->summary.type() != IPDeviceType ||
         !record->data().properties.value(QLatin1String("UseRecordingTransponder")).toBool() ||
         !memory.relations.destinations(camera, RecordingTransponderRelation).isEmpty())
         return;
@@ -410,9 +415,8 @@ void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
 NodeID HostNodeDB::Private::insert(NodeData data)
 {
     data.id = newNodeId();
-    NodeRecord& record = memory.cache.append(NodeTypes::summaryOf(data));
+    NodeRecord& record = memory.cache.append(PackedSummary(NodeTypes::summaryOf(data)));
     record.context = data.context;
-    record.hasContext = data.hasContext;
     memory.setData(record, data);
     memory.pending.nodeInserted(data.id);
     scheduleFlush();
@@ -430,7 +434,7 @@ void HostNodeDB::removeNode(const QString& id)
     NodeRecord* record = d->memory.cache.find(id);
     if (!record)
         return;
-    const NodeID removed = record->summary.id; // the caller's may be a part of what goes
+    const NodeID removed = record->summary.id(); // the caller's may be a part of what goes
     const bool stored = record->isStored();
     const QStringList previews = d->memory.relations.destinations(removed, RecordingTransponderRelation);
     d->memory.removeNode(*record);

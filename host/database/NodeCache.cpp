@@ -14,30 +14,43 @@ NodeData NodeRecord::data() const
     return dynamic_cast<const StoredNode&>(*snapshot).nodeData();
 }
 
-NodeRecord& NodeCache::insert(qint64 order, const NodeSummary& summary)
+const QStringList& NodeCache::ids() const
 {
+    if (m_ids.isEmpty()) {
+        m_ids.reserve(count());
+        for (const auto& node : m_nodes)
+            m_ids.append(node.second.summary.id());
+    }
+    return m_ids;
+}
+
+NodeRecord& NodeCache::insert(qint64 order, const PackedSummary& summary)
+{
+    m_ids.clear();
     // Nearly always behind all others.
     NodeRecord& record = m_nodes.emplace_hint(m_nodes.end(), order, NodeRecord())->second;
     record.order = order;
     record.summary = summary;
-    m_byId.insert(summary.id, &record);
+    m_byId.insert(&record);
     return record;
 }
 
-NodeRecord& NodeCache::append(const NodeSummary& summary)
+NodeRecord& NodeCache::append(const PackedSummary& summary)
 {
     return insert(m_nextUnstored++, summary);
 }
 
 void NodeCache::remove(NodeRecord& record)
 {
+    m_ids.clear();
     setLookupKey(record, QString());
-    m_byId.remove(record.summary.id);
+    m_byId.remove(&record);
     m_nodes.erase(record.order);
 }
 
 void NodeCache::setStored(NodeRecord& record, qint64 order)
 {
+    m_ids.clear();
     Map::node_type node = m_nodes.extract(record.order);
     node.key() = order;
     record.order = order;

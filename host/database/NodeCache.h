@@ -1,11 +1,13 @@
 #ifndef KO_NODECACHE_H
 #define KO_NODECACHE_H
 
-#include "database/NodeData.h"
+#include "database/NodeIndex.h"
+#include "database/PackedSummary.h"
 #include "ko/Node.h"
 #include "kom/smart.h"
 
 #include <QHash>
+#include <QStringList>
 
 #include <map>
 
@@ -14,12 +16,11 @@ namespace ko {
 /// What is in memory of one node.
 struct NodeRecord
 {
-    qint64 order = 0; ///< its number in the store; larger than all of these while it is not stored yet
-    NodeSummary summary;
+    qint64 order = 0;      ///< its number in the store; larger than all of these while it is not stored yet
+    PackedSummary summary; ///< its identifier stays the same
     kom::smart<const Node> snapshot; ///< null until somebody needs the properties
     QString lookupKey;               ///< kept once NodeCache::lookupReady()
-    void* context = nullptr;
-    bool hasContext = false;
+    void* context = nullptr;         ///< null: none
 
     bool isStored() const;
 
@@ -39,15 +40,17 @@ public:
     Map::const_iterator begin() const { return m_nodes.begin(); }
     Map::const_iterator end() const { return m_nodes.end(); }
     int count() const { return int(m_nodes.size()); }
-    void reserve(int count) { m_byId.reserve(count); }
 
-    NodeRecord* find(const NodeID& id) const { return m_byId.value(id); }
+    NodeRecord* find(const NodeID& id) const { return m_byId.find(id.toStdString()); }
+
+    /// The identifiers of all nodes; kept until a node comes, goes or changes its place.
+    const QStringList& ids() const;
 
     /// Adds a node of the store.
-    NodeRecord& insert(qint64 order, const NodeSummary& summary);
+    NodeRecord& insert(qint64 order, const PackedSummary& summary);
 
     /// Adds a node that is not stored yet.
-    NodeRecord& append(const NodeSummary& summary);
+    NodeRecord& append(const PackedSummary& summary);
     void remove(NodeRecord& record);
 
     /// The node is stored now under this number.
@@ -65,7 +68,8 @@ public:
 
 private:
     Map m_nodes;
-    QHash<NodeID, NodeRecord*> m_byId;
+    NodeIndex m_byId;
+    mutable QStringList m_ids;
     QMultiHash<QString, NodeRecord*> m_byLookupKey;
     qint64 m_nextUnstored = FirstUnstored;
     bool m_lookupReady = false;

@@ -15,7 +15,7 @@ void Notices::add(Kind kind, const NodeID& id)
 void NodeMemory::load(NodeTables& tables)
 {
     lastChange = tables.lastChange();
-    tables.forEachNode([this](const NodeRow& row) { cache.insert(row.n, row.summary); });
+    tables.forEachNode([this](qint64 n, const PackedSummary& summary) { cache.insert(n, summary); });
     const QVector<RelationRow> rows = tables.relations();
     for (const RelationRow& relation : rows)
         relations.add(relation);
@@ -52,7 +52,7 @@ void NodeMemory::takeNode(const StoreState::NodeState& node, bool always, Notice
     if (pending.removes(node.id))
         return;
     if (!record) {
-        NodeRecord& added = cache.insert(node.row.n, node.row.summary);
+        NodeRecord& added = cache.insert(node.row.n, PackedSummary(node.row.summary));
         if (cache.lookupReady())
             cache.setLookupKey(added, node.row.lookupKey);
         notices->inserted(node.id);
@@ -63,9 +63,9 @@ void NodeMemory::takeNode(const StoreState::NodeState& node, bool always, Notice
 
 bool NodeMemory::takeRow(NodeRecord& record, const StoreState::NodeState& node)
 {
-    const NodeSummary before = record.summary;
+    const PackedSummary before = record.summary;
     if (!node.properties) {
-        record.summary = node.row.summary;
+        record.summary = PackedSummary(node.row.summary);
         if (cache.lookupReady())
             cache.setLookupKey(record, node.row.lookupKey);
         return record.summary != before;
@@ -76,7 +76,7 @@ bool NodeMemory::takeRow(NodeRecord& record, const StoreState::NodeState& node)
     data.type = node.row.summary.type;
     data.name = node.row.summary.name;
     data.properties = *node.properties;
-    pending.applyTo(data, before.name);
+    pending.applyTo(data, before.name());
     setData(record, data);
     return record.summary != before || !PropertyList::difference(properties, data.properties).isEmpty();
 }
@@ -89,12 +89,12 @@ void NodeMemory::removeMissing(const StoreState& state, Notices* notices)
         stored.insert(node.id);
     QVector<NodeRecord*> missing;
     for (const auto& entry : cache) {
-        const NodeID& id = entry.second.summary.id;
+        const NodeID id = entry.second.summary.id();
         if (!stored.contains(id) && !pending.inserts(id))
             missing.append(cache.find(id));
     }
     for (NodeRecord* record : missing) {
-        notices->removed(record->summary.id);
+        notices->removed(record->summary.id());
         removeNode(*record);
     }
 }
@@ -131,8 +131,8 @@ void NodeMemory::takeSettings(const StoreState& state, Notices* notices)
 void NodeMemory::setData(NodeRecord& record, NodeData data)
 {
     data.context = record.context;
-    data.hasContext = record.hasContext;
-    record.summary = NodeTypes::summaryOf(data);
+    data.hasContext = record.context != nullptr;
+    record.summary = PackedSummary(NodeTypes::summaryOf(data));
     record.snapshot = kom::smart<const Node>(std::shared_ptr<const Node>(NodeTypes::createNode(data)));
     if (cache.lookupReady())
         cache.setLookupKey(record, NodeTypes::lookupKey(data));
@@ -140,7 +140,7 @@ void NodeMemory::setData(NodeRecord& record, NodeData data)
 
 void NodeMemory::removeNode(NodeRecord& record)
 {
-    const NodeID id = record.summary.id;
+    const NodeID id = record.summary.id();
     relations.removeNode(id);
     pending.drop(id);
     cache.remove(record);

@@ -44,8 +44,9 @@ StoreState StoreState::read(NodeTables& tables, const StoreQuery& query,
     state.lastChange = tables.lastChange();
     state.everything = query.everything;
     if (query.everything) {
-        tables.forEachNode([&state](const NodeRow& row) {
-            state.nodes.append({row.summary.id, row, std::nullopt});
+        tables.forEachNode([&state](qint64 n, const PackedSummary& packed) {
+            const NodeSummary summary = packed.unpacked();
+            state.nodes.append({summary.id, {n, summary, QString()}, std::nullopt});
         });
         const QVector<RelationRow> relations = tables.relations();
         for (const RelationRow& relation : relations)

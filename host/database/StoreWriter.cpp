@@ -49,7 +49,7 @@ void StoreWriter::writeNode(const NodeID& id, const PendingChanges::Change& chan
 void StoreWriter::insertNode(NodeRecord* record)
 {
     const NodeData data = record->data();
-    const qint64 n = m_tables.insertNode(record->summary, NodeTypes::lookupKey(data));
+    const qint64 n = m_tables.insertNode(record->summary.unpacked(), NodeTypes::lookupKey(data));
     for (const PropertyList::Entry& entry : data.properties)
         m_tables.setProperty(n, entry.name, entry.value);
     m_inserted.append({record, n});
@@ -57,7 +57,7 @@ void StoreWriter::insertNode(NodeRecord* record)
 
 void StoreWriter::updateNode(const NodeRecord& record, const PendingChanges::Change& change)
 {
-    m_tables.updateNode(record.order, record.summary, NodeTypes::lookupKey(record.data()));
+    m_tables.updateNode(record.order, record.summary.unpacked(), NodeTypes::lookupKey(record.data()));
     for (auto it = change.properties.begin(); it != change.properties.end(); ++it)
         m_tables.setProperty(record.order, it.key(), it.value());
 }

@@ -39,12 +39,12 @@ NodeTables::NodeTables(SqliteStore& store)
 {
 }
 
-void NodeTables::forEachNode(const std::function<void(const NodeRow&)>& visit)
+void NodeTables::forEachNode(const std::function<void(qint64, const PackedSummary&)>& visit)
 {
-    SqliteStore::Rows rows =
-        m_store.run("SELECT n, id, type, name, location, recording FROM nodes ORDER BY n");
+    SqliteRows rows = m_store.read("SELECT n, id, type, name, location, recording FROM nodes ORDER BY n");
     while (rows.next())
-        visit(nodeRow(rows));
+        visit(rows.number(0), PackedSummary(rows.utf8(1), ENodeType(rows.number(2)), rows.utf8(3),
+                                            rows.utf8(4), int(rows.number(5))));
 }
 
 NodeRow NodeTables::node(const NodeID& id)

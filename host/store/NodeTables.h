@@ -1,7 +1,7 @@
 #ifndef KO_NODETABLES_H
 #define KO_NODETABLES_H
 
-#include "database/NodeData.h"
+#include "database/PackedSummary.h"
 #include "ko/Environments.h"
 #include "store/LogRows.h"
 #include "store/SqliteStore.h"
@@ -53,7 +53,8 @@ public:
 
     explicit NodeTables(SqliteStore& store);
 
-    void forEachNode(const std::function<void(const NodeRow&)>& visit);
+    /// All nodes with their numbers, in ascending order of these.
+    void forEachNode(const std::function<void(qint64 n, const PackedSummary&)>& visit);
     NodeRow node(const NodeID& id);
 
     /// Key and number of all nodes that have a key.

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QSqlDriver>
 #include <QSqlError>
 
 #include <atomic>
@@ -239,6 +240,13 @@ SqliteStore::Rows SqliteStore::run(const char* sql, const QVariantList& values)
     if (!query.exec())
         fail(query.lastError());
     return Rows(*this, query);
+}
+
+SqliteRows SqliteStore::read(const char* sql) const
+{
+    // The driver is linked with the same SQLite.
+    const QVariant handle = m_database.driver()->handle();
+    return SqliteRows(*static_cast<sqlite3* const*>(handle.constData()), m_file, sql);
 }
 
 QVariant SqliteStore::value(const char* sql, const QVariantList& values)

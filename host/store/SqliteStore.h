@@ -1,6 +1,7 @@
 #ifndef KO_SQLITESTORE_H
 #define KO_SQLITESTORE_H
 
+#include "store/SqliteRows.h"
 #include "store/StoreError.h"
 #include "store/StoreSchema.h"
 
@@ -68,6 +69,9 @@ public:
 
     /// Runs a statement. It is prepared once and found again by its address, so \a sql is a literal.
     Rows run(const char* sql, const QVariantList& values = QVariantList());
+
+    /// Rows of a statement without values that goes through a whole table.
+    SqliteRows read(const char* sql) const;
 
     /// The first column of the first row, or an invalid value.
     QVariant value(const char* sql, const QVariantList& values = QVariantList());

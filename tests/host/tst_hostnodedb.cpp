@@ -9,6 +9,7 @@
 #include <QUuid>
 
 #include <limits>
+#include <random>
 
 using namespace ko;
 using namespace testsupport;
@@ -25,6 +26,7 @@ private slots:
     void newNodeIsAnnouncedBeforeTheCallReturns();
     void idsAreListedByTypeOldestFirst();
     void nodesAreThereAfterReopening();
+    void manyNodesComeAndGo();
     void valuesKeepTypeAndValue_data();
     void valuesKeepTypeAndValue();
     void propertyThatGoesIsGoneAfterReopening();
@@ -149,6 +151,40 @@ void TestHostNodeDB::nodesAreThereAfterReopening()
     QCOMPARE(m_db->node(unnamed)->name(), QString());
     QCOMPARE(m_db->summary(id).name, name);
     QCOMPARE(m_db->summary(id).location, QLatin1String("10.0.0.1"));
+}
+
+void TestHostNodeDB::manyNodesComeAndGo()
+{
+    std::mt19937 random(11);
+    QStringList truth;
+    QHash<QString, QString> names;
+    QStringList gone;
+    for (int round = 0; round < 4000; ++round) {
+        if (truth.isEmpty() || random() % 3 != 0) {
+            const QString name = QString::fromUtf8("Größe %1").arg(random() % 1000);
+            truth.append(addCamera(*m_db, name, QLatin1String("10.0.0.1")));
+            names.insert(truth.last(), name);
+        } else {
+            gone.append(truth.takeAt(int(random() % unsigned(truth.size()))));
+            m_db->removeNode(gone.last());
+        }
+        if (round % 700 == 0)
+            QVERIFY(m_db->flush());
+    }
+    for (int pass = 0; pass < 2; ++pass) {
+        QCOMPARE(m_db->nodeIdList(AllNodeTypes), truth);
+        const QVector<NodeSummary> summaries = m_db->summaries();
+        QCOMPARE(int(summaries.size()), int(truth.size()));
+        for (int i = 0; i < truth.size(); ++i) {
+            QCOMPARE(summaries.at(i).id, truth.at(i));
+            QVERIFY(m_db->summary(truth.at(i)) == summaries.at(i));
+            QCOMPARE(summaries.at(i).name, names.value(truth.at(i)));
+            QCOMPARE(summaries.at(i).location, QLatin1String("10.0.0.1"));
+        }
+        for (const QString& id : std::as_const(gone))
+            QCOMPARE(m_db->summary(id).id, QString());
+        reopen();
+    }
 }
 
 void TestHostNodeDB::valuesKeepTypeAndValue_data()

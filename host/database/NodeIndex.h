@@ -1,0 +1,33 @@
+#ifndef KO_NODEINDEX_H
+#define KO_NODEINDEX_H
+
+#include <string_view>
+#include <vector>
+
+namespace ko {
+
+struct NodeRecord;
+
+/// Finds records by the identifiers of their nodes, with eight to sixteen bytes for each (a hash table with
+/// linear probing that keeps no keys of its own).
+class NodeIndex
+{
+public:
+    /// Null when there is none. \a id is in UTF-8.
+    NodeRecord* find(std::string_view id) const;
+
+    /// The identifier must not be in the index.
+    void insert(NodeRecord* record);
+    void remove(const NodeRecord* record);
+
+private:
+    void put(NodeRecord* record);
+    void grow();
+
+    std::vector<NodeRecord*> m_table; ///< its size is a power of two, or 0
+    size_t m_count = 0;
+};
+
+} // namespace ko
+
+#endif
