@@ -41,7 +41,7 @@ public:
     Map::const_iterator end() const { return m_nodes.end(); }
     int count() const { return int(m_nodes.size()); }
 
-    NodeRecord* find(const NodeID& id) const { return m_byId.find(id.toStdString()); }
+    NodeRecord* find(const NodeID& id) const { return m_byId.find(id); }
 
     /// The identifiers of all nodes; kept until a node comes, goes or changes its place.
     const QStringList& ids() const;

@@ -15,7 +15,19 @@ size_t placeOf(std::string_view id, size_t mask)
 
 } // namespace
 
-NodeRecord* NodeIndex::find(std::string_view id) const
+NodeRecord* NodeIndex::find(const QString& id) const
+{
+    // The identifiers that this program gives need no conversion that allocates.
+    char text[64];
+    const int size = int(id.size());
+    const QChar* letters = id.constData();
+    int plain = 0;
+    for (; plain < size && plain < int(sizeof text) && letters[plain] < QChar(0x80); ++plain)
+        text[plain] = letters[plain].toLatin1();
+    return findUtf8(plain == size ? std::string_view(text, size_t(size)) : id.toStdString());
+}
+
+NodeRecord* NodeIndex::findUtf8(std::string_view id) const
 {
     if (m_table.empty())
         return nullptr;

@@ -1,6 +1,8 @@
 #ifndef KO_NODEINDEX_H
 #define KO_NODEINDEX_H
 
+#include <QString>
+
 #include <string_view>
 #include <vector>
 
@@ -13,14 +15,15 @@ struct NodeRecord;
 class NodeIndex
 {
 public:
-    /// Null when there is none. \a id is in UTF-8.
-    NodeRecord* find(std::string_view id) const;
+    /// Null when there is none.
+    NodeRecord* find(const QString& id) const;
 
     /// The identifier must not be in the index.
     void insert(NodeRecord* record);
     void remove(const NodeRecord* record);
 
 private:
+    NodeRecord* findUtf8(std::string_view id) const;
     void put(NodeRecord* record);
     void grow();
 

@@ -49,6 +49,8 @@ bool KnownAddresses::readMacs(const QElapsedTimer& clock, int limit)
 
 void KnownAddresses::nodeChanged(ko::NodeID id)
 {
+    if (!m_addressesRead && !m_macsWanted)
+        return;
     forget(id);
     const NodeSummary summary = m_db.summary(id);
     if (!NodeTypes::isDevice(summary.type) || summary.id.isEmpty())

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <deque>
+
 namespace ko {
 
 /// A named list of nodes, which may hold further named lists.
@@ -33,6 +35,9 @@ public:
 
     /// The entry with this number, or a null handle.
     kom::smart<NodeViewEntry> entryFromInternalId(unsigned internalId) const;
+
+    /// The same without a handle; valid until the view changes.
+    const NodeViewEntry* findEntry(unsigned internalId) const;
 
     /// Every entry of the view that stands for the node.
     QList<kom::smart<NodeEntry>> entriesOf(const NodeID& id) const;
@@ -67,14 +72,15 @@ signals:
     void cleared();
 
 private:
+    const kom::smart<NodeViewEntry>* place(unsigned internalId) const;
     void indexFilled() const;
     bool holds(const SubViewEntry& list, const NodeID& id) const;
-    void append(SubViewEntry& list, const kom::smart<NodeViewEntry>& entry);
 
     std::unique_ptr<SubViewEntry> m_root;
     // Without those that the root was filled with, until one is looked for by its node.
-    mutable QHash<unsigned, kom::smart<NodeViewEntry>> m_entries;
+    mutable std::deque<kom::smart<NodeViewEntry>> m_entries; ///< by number; null where one was removed
     mutable QMultiHash<NodeID, kom::smart<NodeEntry>> m_entriesByNode;
+    unsigned m_firstInternalId = 1; ///< of those in m_entries
     unsigned m_lastInternalId = 0;
 };
 

@@ -33,7 +33,13 @@ kom::smart<NodeViewEntry> SubViewEntry::entryAt(int row) const
     return entryInSlot(m_rows.slotAt(row));
 }
 
-kom::smart<NodeViewEntry> SubViewEntry::entryInSlot(int slot) const
+unsigned SubViewEntry::internalIdAt(int row) const
+{
+    const int slot = m_rows.slotAt(row);
+    return slot < m_filled.size() ? m_firstFilled + unsigned(slot) : m_slots.at(slot)->internalId();
+}
+
+const kom::smart<NodeViewEntry>& SubViewEntry::entryInSlot(int slot) const
 {
     kom::smart<NodeViewEntry>& entry = m_slots[slot];
     if (entry.null() && slot < m_filled.size()) {

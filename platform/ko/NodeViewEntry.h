@@ -9,6 +9,7 @@
 
 namespace ko {
 
+class Node;
 class SubViewEntry;
 
 /// One entry of a NodeView: a node or a sub-view.
@@ -45,7 +46,10 @@ public:
     const NodeID& id() const { return m_id; }
 
 private:
+    friend class NodeViewModel;
+
     const NodeID m_id;
+    mutable kom::smart<const Node> m_shown; ///< as it was read for a cell; null: to be read again
 };
 
 /// A named list of entries inside a view.
@@ -62,6 +66,8 @@ public:
 
     /// The entry in a row; null when there is no such row.
     kom::smart<NodeViewEntry> entryAt(int row) const;
+    /// The number of the entry in a row that there is.
+    unsigned internalIdAt(int row) const;
     int rowOf(const NodeViewEntry& entry) const { return m_rows.rowOf(entry.m_slot); }
 
 private:
@@ -69,7 +75,7 @@ private:
 
     void append(const kom::smart<NodeViewEntry>& entry);
     void fill(const QStringList& ids, unsigned firstInternalId);
-    kom::smart<NodeViewEntry> entryInSlot(int slot) const;
+    const kom::smart<NodeViewEntry>& entryInSlot(int slot) const;
     void remove(NodeViewEntry& entry);
     void clear();
     void compact();

@@ -34,11 +34,16 @@ kom::smart<NodeViewEntry> NodeViewModel::entry(const QModelIndex& index) const
     return m_view->entryFromInternalId(unsigned(index.internalId()));
 }
 
+const NodeViewEntry* NodeViewModel::shownAt(const QModelIndex& index) const
+{
+    return index.isValid() ? m_view->findEntry(unsigned(index.internalId())) : nullptr;
+}
+
 const SubViewEntry* NodeViewModel::list(const QModelIndex& parent) const
 {
     if (!parent.isValid())
         return &m_view->root();
-    return parent.column() == 0 ? dynamic_cast<const SubViewEntry*>(entry(parent).get()) : nullptr;
+    return parent.column() == 0 ? dynamic_cast<const SubViewEntry*>(shownAt(parent)) : nullptr;
 }
 
 QModelIndex NodeViewModel::index(int row, int column, const QModelIndex& parent) const
@@ -46,14 +51,15 @@ QModelIndex NodeViewModel::index(int row, int column, const QModelIndex& parent)
     const SubViewEntry* entries = list(parent);
     if (!entries || column < 0 || column >= columnCount(parent))
         return QModelIndex();
-    const kom::smart<NodeViewEntry> child = entries->entryAt(row);
-    return child.null() ? QModelIndex() : createIndex(row, column, quintptr(child->internalId()));
+    if (row < 0 || row >= entries->count())
+        return QModelIndex();
+    return createIndex(row, column, quintptr(entries->internalIdAt(row)));
 }
 
 QModelIndex NodeViewModel::parent(const QModelIndex& child) const
 {
-    const kom::smart<NodeViewEntry> childEntry = entry(child);
-    const SubViewEntry* parent = childEntry.null() ? nullptr : m_view->parentOf(*childEntry);
+    const NodeViewEntry* childEntry = shownAt(child);
+    const SubViewEntry* parent = childEntry ? m_view->parentOf(*childEntry) : nullptr;
     return parent ? indexOf(*parent, 0) : QModelIndex();
 }
 
@@ -70,16 +76,19 @@ int NodeViewModel::columnCount(const QModelIndex&) const
 
 QVariant NodeViewModel::data(const QModelIndex& index, int role) const
 {
-    const kom::smart<NodeViewEntry> shown = entry(index);
-    if (shown.null())
+    const NodeViewEntry* shown = shownAt(index);
+    if (!shown)
         return QVariant();
     if (!shown->isNode()) {
         const bool named = index.column() == NameColumn && (role == Qt::DisplayRole || role == Qt::EditRole);
-        return named ? QVariant(static_cast<const SubViewEntry*>(shown.get())->name()) : QVariant();
+        return named ? QVariant(static_cast<const SubViewEntry*>(shown)->name()) : QVariant();
     }
-    const kom::smart<const Node> node =
-        NodeDB::getDB()->node(static_cast<const NodeEntry*>(shown.get())->id());
-    if (node.null())
+    // A sorted list reads the same cells again and again.
+    const NodeEntry* entry = static_cast<const NodeEntry*>(shown);
+    if (entry->m_shown.null())
+        entry->m_shown = NodeDB::getDB()->node(entry->id());
+    const Node* node = entry->m_shown.get();
+    if (!node)
         return QVariant();
     if (role == Qt::DecorationRole && index.column() == NameColumn)
         return QVariant(node->icon());
@@ -91,8 +100,8 @@ QVariant NodeViewModel::data(const QModelIndex& index, int role) const
     case TypeColumn:
         return NodeDB::getDB()->readableNodeTypeName(node->type);
     case AddressColumn: {
-        const kom::smart<const IPDeviceNode> device = node.cast<const IPDeviceNode>();
-        return device.null() ? QVariant() : QVariant(device->address());
+        const IPDeviceNode* device = dynamic_cast<const IPDeviceNode*>(node);
+        return device ? QVariant(device->address()) : QVariant();
     }
     default:
         return QVariant();
@@ -127,8 +136,8 @@ QVariant NodeViewModel::headerData(int section, Qt::Orientation orientation, int
 
 Qt::ItemFlags NodeViewModel::flags(const QModelIndex& index) const
 {
-    const kom::smart<NodeViewEntry> shown = entry(index);
-    if (shown.null())
+    const NodeViewEntry* shown = shownAt(index);
+    if (!shown)
         return Qt::NoItemFlags;
     const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     if (shown->isNode())
@@ -195,6 +204,7 @@ void NodeViewModel::nodeChanged(ko::NodeID id)
 {
     const QList<kom::smart<NodeEntry>> entries = m_view->entriesOf(id);
     for (const kom::smart<NodeEntry>& changed : entries) {
+        changed->m_shown.reset();
         const QModelIndex first = indexOf(*changed, 0);
         emit dataChanged(first, indexOf(*changed, columnCount(first) - 1));
     }

@@ -10,7 +10,7 @@ namespace ko {
 /// Item model over a NodeView: its nodes and, as a tree, its lists.
 ///
 /// Columns: name (with the node's icon), type, address. Cells are read from the database when they are
-/// shown and refreshed when it says that a node changed; a node that is gone shows empty cells. Rows may
+/// first shown and again when it says that a node changed; a node that is gone shows empty cells. Rows may
 /// be dragged; the mime data carries the node identifiers.
 class KO_PLATFORM_EXPORT NodeViewModel : public QAbstractItemModel
 {
@@ -53,6 +53,7 @@ private slots:
     void nodeChanged(ko::NodeID id);
 
 private:
+    const NodeViewEntry* shownAt(const QModelIndex& index) const;
     const SubViewEntry* list(const QModelIndex& parent) const;
     QModelIndex indexOf(const NodeViewEntry& entry, int column) const;
     QModelIndex indexOfList(unsigned listId) const;
