@@ -361,12 +361,19 @@ QVector<Workload> listWorkloads()
          {100000},
          make<Typing>},
         {QStringLiteral("client's list: sort by name"), QStringLiteral("the proxy's own sort"), 0.6, allSizes,
-         make<Sorting>},
+         make<Sorting>, true, 1.1,
+         QStringLiteral("With 1,000 rows both spend their time in the view, which is laid out and painted "
+                        "again.")},
         {QStringLiteral("nodes arriving one by one in the open, sorted overview"),
          QStringLiteral("the same rows into the plain sorted model"),
          1.3,
          {1000, 10000},
-         make<Flood>},
+         make<Flood>,
+         true,
+         2.0,
+         QStringLiteral("By callgrind a node takes 1.24 times the instructions of a plain row (194 million "
+                        "against 156 for 8,000): it is found in the database, gets a handle and stands in an "
+                        "index. The rest is memory that must be fetched for that.")},
         {QStringLiteral("the same, made and stored"),
          QStringLiteral("the plain sorted model and raw SQLite in one transaction"),
          2.0,

@@ -29,6 +29,8 @@ struct Workload
     /// Whether size is the number of nodes that the work goes through. Then the cost per node must not
     /// grow with it, or no more than the baseline's.
     bool perNode = true;
+    double held = 0; ///< where the bound cannot be met: the ratio that --check asks for
+    QString why{};   ///< and what stands in the way
 };
 
 const QVector<int> allSizes = {1000, 10000, 100000};
@@ -37,6 +39,8 @@ const QVector<int> allSizes = {1000, 10000, 100000};
 QVector<Workload> storeWorkloads();
 QVector<Workload> listWorkloads();
 QVector<Workload> dialogWorkloads();
+QVector<Workload> scanWorkloads();
+QVector<Workload> startWorkloads();
 
 } // namespace bench
 

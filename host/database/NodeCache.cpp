@@ -14,6 +14,17 @@ NodeData NodeRecord::data() const
     return dynamic_cast<const StoredNode&>(*snapshot).nodeData();
 }
 
+NodeRecord* NodeCache::find(const NodeID& id) const
+{
+    if (!m_indexed) {
+        m_indexed = true;
+        m_byId.reserve(m_nodes.size());
+        for (const auto& node : m_nodes)
+            m_byId.insert(const_cast<NodeRecord*>(&node.second));
+    }
+    return m_byId.find(id);
+}
+
 const QStringList& NodeCache::ids() const
 {
     if (m_ids.isEmpty()) {
@@ -31,7 +42,8 @@ NodeRecord& NodeCache::insert(qint64 order, const PackedSummary& summary)
     NodeRecord& record = m_nodes.emplace_hint(m_nodes.end(), order, NodeRecord())->second;
     record.order = order;
     record.summary = summary;
-    m_byId.insert(&record);
+    if (m_indexed)
+        m_byId.insert(&record);
     return record;
 }
 
@@ -44,7 +56,8 @@ void NodeCache::remove(NodeRecord& record)
 {
     m_ids.clear();
     setLookupKey(record, QString());
-    m_byId.remove(&record);
+    if (m_indexed)
+        m_byId.remove(&record);
     m_nodes.erase(record.order);
 }
 

@@ -41,7 +41,7 @@ public:
     Map::const_iterator end() const { return m_nodes.end(); }
     int count() const { return int(m_nodes.size()); }
 
-    NodeRecord* find(const NodeID& id) const { return m_byId.find(id); }
+    NodeRecord* find(const NodeID& id) const;
 
     /// The identifiers of all nodes; kept until a node comes, goes or changes its place.
     const QStringList& ids() const;
@@ -68,7 +68,8 @@ public:
 
 private:
     Map m_nodes;
-    NodeIndex m_byId;
+    mutable NodeIndex m_byId; ///< empty until a node is looked for
+    mutable bool m_indexed = false;
     mutable QStringList m_ids;
     QMultiHash<QString, NodeRecord*> m_byLookupKey;
     qint64 m_nextUnstored = FirstUnstored;

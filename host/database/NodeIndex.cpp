@@ -41,8 +41,7 @@ NodeRecord* NodeIndex::findUtf8(std::string_view id) const
 
 void NodeIndex::insert(NodeRecord* record)
 {
-    if (4 * (m_count + 1) > 3 * m_table.size())
-        grow();
+    reserve(m_count + 1);
     put(record);
     ++m_count;
 }
@@ -56,9 +55,18 @@ void NodeIndex::put(NodeRecord* record)
     m_table[place] = record;
 }
 
-void NodeIndex::grow()
+void NodeIndex::reserve(size_t count)
 {
-    std::vector<NodeRecord*> old(qMax<size_t>(16, 2 * m_table.size()));
+    size_t size = qMax<size_t>(16, m_table.size());
+    while (4 * count > 3 * size)
+        size *= 2;
+    if (size > m_table.size())
+        resize(size);
+}
+
+void NodeIndex::resize(size_t size)
+{
+    std::vector<NodeRecord*> old(size);
     old.swap(m_table);
     for (NodeRecord* record : old) {
         if (record)

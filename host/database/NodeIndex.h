@@ -18,6 +18,9 @@ public:
     /// Null when there is none.
     NodeRecord* find(const QString& id) const;
 
+    /// Makes room for so many.
+    void reserve(size_t count);
+
     /// The identifier must not be in the index.
     void insert(NodeRecord* record);
     void remove(const NodeRecord* record);
@@ -25,7 +28,7 @@ public:
 private:
     NodeRecord* findUtf8(std::string_view id) const;
     void put(NodeRecord* record);
-    void grow();
+    void resize(size_t size);
 
     std::vector<NodeRecord*> m_table; ///< its size is a power of two, or 0
     size_t m_count = 0;

@@ -25,8 +25,8 @@ namespace ko {
 
 namespace {
 
-const int Slice = 4;              // ms of work in one turn of the event loop
-const int Ripening = 500;         // ms; in which the other services and addresses of a device arrive
+const int Slice = 2;      // ms of work in one turn of the event loop; storing and painting take as much again
+const int Ripening = 500; // ms; in which the other services and addresses of a device arrive
 const int DevicesAtOnePlace = 64; // with one address or one name; bounds the work for one sighting
 const int AddressesOfOne = 8;
 const int ServicesOfOne = 16;

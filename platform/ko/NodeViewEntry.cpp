@@ -1,5 +1,7 @@
 #include "ko/NodeViewEntry.h"
 
+#include <numeric>
+
 namespace ko {
 
 NodeViewEntry::NodeViewEntry(unsigned internalId)
@@ -33,12 +35,6 @@ kom::smart<NodeViewEntry> SubViewEntry::entryAt(int row) const
     return entryInSlot(m_rows.slotAt(row));
 }
 
-unsigned SubViewEntry::internalIdAt(int row) const
-{
-    const int slot = m_rows.slotAt(row);
-    return slot < m_filled.size() ? m_firstFilled + unsigned(slot) : m_slots.at(slot)->internalId();
-}
-
 const kom::smart<NodeViewEntry>& SubViewEntry::entryInSlot(int slot) const
 {
     kom::smart<NodeViewEntry>& entry = m_slots[slot];
@@ -57,6 +53,8 @@ void SubViewEntry::fill(const QStringList& ids, unsigned firstInternalId)
     m_firstFilled = firstInternalId;
     m_slots.resize(int(ids.size()));
     m_rows.fill(int(ids.size()));
+    m_internalIds.resize(int(ids.size()));
+    std::iota(m_internalIds.begin(), m_internalIds.end(), firstInternalId);
 }
 
 void SubViewEntry::append(const kom::smart<NodeViewEntry>& entry)
@@ -64,6 +62,7 @@ void SubViewEntry::append(const kom::smart<NodeViewEntry>& entry)
     entry->m_parent = this;
     entry->m_slot = m_rows.append();
     m_slots.append(entry);
+    m_internalIds.append(entry->internalId());
 }
 
 void SubViewEntry::remove(NodeViewEntry& entry)
@@ -84,6 +83,7 @@ void SubViewEntry::clear()
             entry->m_parent = nullptr;
     }
     m_slots.clear();
+    m_internalIds.clear();
     m_rows.clear();
     m_filled.clear();
 }
@@ -93,9 +93,11 @@ void SubViewEntry::compact()
     QVector<kom::smart<NodeViewEntry>> kept;
     kept.reserve(count());
     m_rows.clear();
+    m_internalIds.clear();
     for (const kom::smart<NodeViewEntry>& entry : std::as_const(m_slots)) {
         if (!entry.null()) {
             entry->m_slot = m_rows.append();
+            m_internalIds.append(entry->internalId());
             kept.append(entry);
         }
     }

@@ -67,7 +67,7 @@ public:
     /// The entry in a row; null when there is no such row.
     kom::smart<NodeViewEntry> entryAt(int row) const;
     /// The number of the entry in a row that there is.
-    unsigned internalIdAt(int row) const;
+    unsigned internalIdAt(int row) const { return m_internalIds.at(m_rows.slotAt(row)); }
     int rowOf(const NodeViewEntry& entry) const { return m_rows.rowOf(entry.m_slot); }
 
 private:
@@ -84,7 +84,8 @@ private:
     RowIndex m_rows;
     /// Null where an entry was removed or, in the slots of m_filled, not made yet.
     mutable QVector<kom::smart<NodeViewEntry>> m_slots;
-    QStringList m_filled; ///< nodes of the first slots, none of which was removed
+    QVector<unsigned> m_internalIds; ///< of the slots, as they are wanted for every row of a list
+    QStringList m_filled;            ///< nodes of the first slots, none of which was removed
     unsigned m_firstFilled = 0;
 };
 

@@ -1,0 +1,98 @@
+#include "Site.h"
+#include "Stopwatch.h"
+#include "Workload.h"
+
+#include "dialogs/NodeOverviewDialog.h"
+#include "discovery/DeviceIntake.h"
+
+#include <QTimer>
+#include <QTreeView>
+
+#include <algorithm>
+
+namespace bench {
+
+using namespace ko;
+
+namespace {
+
+/// Devices that are announced in one burst while the overview is open and sorted by name: how long the event
+/// loop stands still between two turns, until all of them are nodes on the disk.
+class Burst : public Contest
+{
+public:
+    enum class What { Percentile99, Longest };
+
+    Burst(int size, What what)
+        : m_what(what)
+    {
+        for (int number = 0; number < size; ++number) {
+            const NodeSummary camera = summaryOf(number, size);
+            DiscoveredDevice device;
+            device.name = camera.name;
+            device.address = camera.location;
+            device.port = 80;
+            device.service = QStringLiteral("_http._tcp");
+            m_devices.append(device);
+        }
+    }
+
+    double ours() override
+    {
+        const QTemporaryDir folder;
+        const auto db = bench::open(folder.filePath(QStringLiteral("n.kodb")));
+        NodeOverviewDialog overview;
+        overview.findChild<QTreeView*>()->sortByColumn(0, Qt::AscendingOrder);
+        paint(overview);
+        QVector<double> stops;
+        QElapsedTimer sinceTurn;
+        QTimer everyTurn;
+        QObject::connect(&everyTurn, &QTimer::timeout, [&stops, &sinceTurn] {
+            const double stop = double(sinceTurn.nsecsElapsed()) / 1e6;
+            if (stop > 0.1)
+                stops.append(stop);
+            sinceTurn.start();
+        });
+        db->deviceIntake().beginScan();
+        sinceTurn.start();
+        everyTurn.start(0);
+        db->deviceIntake().take(m_devices);
+        while (!db->deviceIntake().isIdle() || db->hasUnstoredChanges())
+            QCoreApplication::processEvents();
+        const int count = int(db->summaries().size());
+        if (count != m_devices.size())
+            qFatal("%d of %d devices became nodes", count, int(m_devices.size()));
+        std::sort(stops.begin(), stops.end());
+        return m_what == What::Longest ? stops.constLast() : stops.at(int(stops.size()) * 99 / 100);
+    }
+
+    double baseline() override { return m_what == What::Longest ? 50 : 16; }
+
+private:
+    const What m_what;
+    QVector<DiscoveredDevice> m_devices;
+};
+
+} // namespace
+
+QVector<Workload> scanWorkloads()
+{
+    return {
+        {QStringLiteral("devices announced in one burst: stops of the event loop, 99th percentile"),
+         QStringLiteral("a frame of 16 ms"),
+         1.0,
+         {10000},
+         [](int size) { return std::make_unique<Burst>(size, Burst::What::Percentile99); },
+         false,
+         2.5,
+         QStringLiteral("A time of its own, not a ratio: it grows on a slower machine.")},
+        {QStringLiteral("devices announced in one burst: longest stop of the event loop"),
+         QStringLiteral("50 ms"),
+         1.0,
+         {10000},
+         [](int size) { return std::make_unique<Burst>(size, Burst::What::Longest); },
+         false},
+    };
+}
+
+} // namespace bench

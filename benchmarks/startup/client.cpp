@@ -1,0 +1,12 @@
+#include "FirstPicture.h"
+
+#include "CommandLine.h"
+
+// Before the program's own code runs, which makes the application by itself.
+using bench::endAtFirstPicture;
+Q_COREAPP_STARTUP_FUNCTION(endAtFirstPicture)
+
+int main(int argc, char** argv)
+{
+    return ko::CommandLine(argc, argv).run();
+}
