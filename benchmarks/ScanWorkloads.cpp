@@ -88,7 +88,7 @@ QVector<Workload> scanWorkloads()
          QStringLiteral("A time of its own, not a ratio: it grows on a slower machine.")},
         {QStringLiteral("devices announced in one burst: longest stop of the event loop"),
          QStringLiteral("50 ms"),
-         1.0,
+         0.45,
          {10000},
          [](int size) { return std::make_unique<Burst>(size, Burst::What::Longest); },
          false},

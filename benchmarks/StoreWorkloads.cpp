@@ -239,22 +239,19 @@ QVector<Workload> storeWorkloads()
 {
     return {
         {QStringLiteral("open the database: ids, types and names ready"),
-         QStringLiteral("raw SQLite reading the same columns"), 2.0, allSizes, make<Opening>},
+         QStringLiteral("raw SQLite reading the same columns"), 1.7, allSizes, make<Opening>},
         {QStringLiteral("OK in the dialog of a camera, to disk and log"),
-         QStringLiteral("raw SQLite, the same rows in one transaction"), 2.0, allSizes, make<Confirming>,
+         QStringLiteral("raw SQLite, the same rows in one transaction"), 1.8, allSizes, make<Confirming>,
          false},
         {QStringLiteral("import of a list of cameras"),
          QStringLiteral("a plain parser and raw SQLite in one transaction"),
-         3.0,
+         2.3,
          {1000, 10000},
          make<Importing>},
         {QStringLiteral("memory, list only (bytes)"), QStringLiteral("the strings themselves"), 3.0, allSizes,
          [](int size) { return std::make_unique<Remembering>(size, false); }},
-        {QStringLiteral("memory, everything read (bytes)"),
-         QStringLiteral("the strings themselves"),
-         4.0,
-         {1000, 10000},
-         [](int size) { return std::make_unique<Remembering>(size, true); }},
+        {QStringLiteral("memory, everything read (bytes)"), QStringLiteral("the strings themselves"), 4.0,
+         allSizes, [](int size) { return std::make_unique<Remembering>(size, true); }},
     };
 }
 
