@@ -5,8 +5,8 @@
 #include "discovery/NeighbourTable.h"
 #include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
+#include "support/ProcessResources.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QHostAddress>
 #include <QRandomGenerator>
@@ -25,6 +25,7 @@
 using namespace ko;
 using testsupport::LogLines;
 using testsupport::NetworkNamespaces;
+using testsupport::ProcessResources;
 
 namespace {
 
@@ -41,12 +42,6 @@ for word in sys.argv[1:]:
 print("listening", flush=True)
 threading.Event().wait()
 )";
-
-int entriesOf(const char* folder)
-{
-    return int(
-        QDir(QLatin1String(folder)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
-}
 
 quint32 ip(const char* text)
 {
@@ -545,15 +540,13 @@ void ArpScannerTest::onAndOffLeavesNothing()
     KO_NEED_NETWORKS();
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554")}));
     QVERIFY(scan(0xFFFFFFFF, 1));
-    const int threads = entriesOf("/proc/self/task");
-    const int descriptors = entriesOf("/proc/self/fd");
+    const ProcessResources before;
     for (int i = 0; i < 100; ++i) {
         m_scanner->start(0xFFFFFFFF, -1);
         QTest::qWait(i % 10 * 10);
         m_scanner->stop();
     }
-    QCOMPARE(entriesOf("/proc/self/task"), threads);
-    QCOMPARE(entriesOf("/proc/self/fd"), descriptors);
+    QVERIFY(ProcessResources() == before);
 }
 
 int main(int argc, char** argv)

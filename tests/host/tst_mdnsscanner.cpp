@@ -2,9 +2,9 @@
 #include "discovery/MdnsTxt.h"
 #include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
+#include "support/ProcessResources.h"
 #include "support/TestMain.h"
 
-#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTest>
@@ -14,14 +14,9 @@
 using namespace ko;
 using testsupport::LogLines;
 using testsupport::NetworkNamespaces;
+using testsupport::ProcessResources;
 
 namespace {
-
-int entriesOf(const char* folder)
-{
-    return int(
-        QDir(QLatin1String(folder)).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
-}
 
 bool launch(QProcess& process, const QString& program, const QStringList& arguments)
 {
@@ -242,15 +237,13 @@ void MdnsScannerTest::onAndOffLeavesNothing()
     scanner.start(0xFFFFFFFF, -1);
     QTest::qWait(500);
     scanner.stop();
-    const int threads = entriesOf("/proc/self/task");
-    const int descriptors = entriesOf("/proc/self/fd");
+    const ProcessResources before;
     for (int i = 0; i < 100; ++i) {
         scanner.start(0xFFFFFFFF, -1);
         QTest::qWait(i % 10 * 3);
         scanner.stop();
     }
-    QCOMPARE(entriesOf("/proc/self/task"), threads);
-    QCOMPARE(entriesOf("/proc/self/fd"), descriptors);
+    QVERIFY(ProcessResources() == before);
 }
 
 int main(int argc, char** argv)

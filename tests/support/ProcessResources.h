@@ -1,0 +1,30 @@
+#ifndef TESTS_SUPPORT_PROCESSRESOURCES_H
+#define TESTS_SUPPORT_PROCESSRESOURCES_H
+
+#include <QDir>
+
+namespace testsupport {
+
+/// How many threads and file descriptors this process has.
+struct ProcessResources
+{
+    int threads = entries("/proc/self/task");
+    int descriptors = entries("/proc/self/fd");
+
+    bool operator==(const ProcessResources& other) const
+    {
+        return threads == other.threads && descriptors == other.descriptors;
+    }
+
+private:
+    static int entries(const char* folder)
+    {
+        return int(QDir(QLatin1String(folder))
+                       .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+                       .size());
+    }
+};
+
+} // namespace testsupport
+
+#endif
