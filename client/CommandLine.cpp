@@ -107,6 +107,8 @@ bool CommandLine::parse()
                              "FILE");
     const auto tour = add("tour", "Walks through the windows by itself and leaves pictures.", "FOLDER");
     const auto survey = add("tour-survey", "The list of cameras that the walk imports.", "FILE");
+    const auto tourScans =
+        add("tour-scans", "So many cameras are found by scans, and nothing else is done.", "NUMBER");
     const auto checkTour = add("check-tour", "Looks whether what the walk did is in the database.", "");
 
     QStringList arguments;
@@ -133,6 +135,7 @@ bool CommandLine::parse()
     m_restore = parser.value(restore);
     m_tour = parser.value(tour);
     m_survey = parser.value(survey);
+    m_tourCameras = parser.value(tourScans).toInt();
     m_leaveOutPasswords = parser.isSet(noPasswords);
     m_checkTour = parser.isSet(checkTour);
     return true;
@@ -230,10 +233,16 @@ bool CommandLine::showWindow(HostNodeDB& db, int* exitCode) const
     if (m_tour.isEmpty() && StoreFile::isOnNetwork(db.fileName()))
         warnAboutNetwork(db.fileName(), &window);
     if (!m_tour.isEmpty())
-        *exitCode = Tour(db, window, m_tour).run(m_survey) ? Good : Failed;
+        *exitCode = runTour(db, window) ? Good : Failed;
     else if (isUsable)
         *exitCode = QApplication::exec();
     return isUsable;
+}
+
+bool CommandLine::runTour(HostNodeDB& db, MainWindow& window) const
+{
+    Tour tour(db, window, m_tour);
+    return m_tourCameras > 0 ? tour.runScans(m_tourCameras) : tour.run(m_survey);
 }
 
 int CommandLine::importCameras(HostNodeDB& db) const

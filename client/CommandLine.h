@@ -8,6 +8,7 @@
 namespace ko {
 
 class HostNodeDB;
+class MainWindow;
 
 /// How koclient was called, and what it does for each way.
 class CommandLine
@@ -28,6 +29,7 @@ private:
     int runWindow() const;
     std::unique_ptr<HostNodeDB> open(bool checkBehind) const;
     bool showWindow(HostNodeDB& db, int* exitCode) const;
+    bool runTour(HostNodeDB& db, MainWindow& window) const;
     int importCameras(HostNodeDB& db) const;
     int exportCameras() const;
     int copyDatabase() const;
@@ -41,6 +43,7 @@ private:
     QString m_restore;
     QString m_tour;
     QString m_survey;
+    int m_tourCameras = 0; ///< that the walk finds by scans, instead of its usual work
     bool m_leaveOutPasswords = false;
     bool m_checkTour = false;
     int m_exitCode = Good; ///< when parse() ends the program

@@ -13,10 +13,12 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeView>
 
 #include <cstdio>
 
@@ -29,6 +31,7 @@ const char addedAddress[] = "10.20.9.1";
 const char editedName[] = "Main gate, north";
 const char editedAddress[] = "10.20.1.111";
 const char firstName[] = "Main gate";
+const int ScanPatience = 60000; // ms
 
 void say(const QString& text)
 {
@@ -103,12 +106,41 @@ Tour::Tour(HostNodeDB& db, MainWindow& window, const QString& folder)
 {
 }
 
-bool Tour::run(const QString& survey)
+void Tour::begin()
 {
     expect(m_folder.mkpath(QStringLiteral(".")), QStringLiteral("the folder for the pictures is there"));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     m_window.resize(960, 560);
     settle();
+}
+
+bool Tour::runScans(int cameras)
+{
+    begin();
+    withDialog("actionOverview", [this, cameras](QDialog* dialog) {
+        auto* list = dialog->findChild<QTreeView*>();
+        press(dialog->findChild<QPushButton*>(QStringLiteral("bonjourButton")));
+        press(dialog->findChild<QPushButton*>(QStringLiteral("arpButton")));
+        QElapsedTimer clock;
+        clock.start();
+        while (list->model()->rowCount() < cameras && !clock.hasExpired(ScanPatience))
+            settle();
+        expect(list->model()->rowCount() == cameras,
+               QStringLiteral("the scans find %1 of %2 cameras").arg(list->model()->rowCount()).arg(cameras));
+        picture(dialog, "scans");
+        list->selectAll();
+        press(dialog->findChild<QPushButton*>(QStringLiteral("okButton")));
+    });
+    expect(m_window.findChild<NodeListView*>()->selectedIds().size() == cameras,
+           QStringLiteral("they are in the list, and selected"));
+    expect(m_db.flush(), QStringLiteral("everything is stored"));
+    picture(&m_window, "found");
+    return m_good;
+}
+
+bool Tour::run(const QString& survey)
+{
+    begin();
     importSurvey(survey);
     search();
     addCamera();

@@ -23,10 +23,14 @@ public:
     /// False, with the reason said, when something was not as it must be.
     bool run(const QString& survey);
 
+    /// The walk of the demonstration: both scans, until so many cameras are found, which are then taken over.
+    bool runScans(int cameras);
+
     /// In a later process: whether what the walk did was stored and logged.
     static bool check(HostNodeDB& db);
 
 private:
+    void begin();
     void importSurvey(const QString& survey);
     void search();
     void addCamera();
