@@ -209,7 +209,7 @@ void MainWindow::createCommands()
               QT_TR_NOOP("Where the recordings of the selected cameras are played from"),
               QKeySequence(Qt::CTRL | Qt::Key_R), "folder-videos", C::SomeNodes, &MainWindow::editRecording},
          }},
-        {QT_TR_NOOP("&Network"),
+        {QT_TR_NOOP("Net&work"),
          {
              {"actionProxy",
               QT_TR_NOOP("Network &Proxy..."),

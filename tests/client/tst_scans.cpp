@@ -26,11 +26,18 @@ using testsupport::ProcessResources;
 namespace {
 
 const int Patience = 30000; // ms
+const int Prefix = 27;      // of the cable's network, so that a sweep is short
 
 const IPDeviceNode* device(HostNodeDB& db, const QString& id, kom::smart<const Node>& holder)
 {
     holder = db.node(id);
     return dynamic_cast<const IPDeviceNode*>(holder.get());
+}
+
+qint64 bytesInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return qint64(info.uordblks + info.hblkhd);
 }
 
 } // namespace
@@ -41,7 +48,6 @@ class tst_Scans : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init();
     void cleanup();
 
@@ -51,10 +57,10 @@ private slots:
     void hostileAnnouncements();
     void sharedMacIsNoKey();
     void movedCamerasStayWhereTheyAre();
-    void stormHidesNothing();
+    void camerasAreFoundInAStorm();
     void buttonsOnAndOff();
-    void dialogGoesDuringTheScan();
-    void burstArrivesAndLeavesNothing();
+    void closedWhileScansRun();
+    void burstOfDevices();
 
 private:
     bool startSite(int addresses);
@@ -71,11 +77,6 @@ private:
     std::unique_ptr<NetworkNamespaces> m_network;
     std::unique_ptr<NodeOverviewDialog> m_dialog;
 };
-
-void tst_Scans::initTestCase()
-{
-    KO_NEED_NETWORKS();
-}
 
 void tst_Scans::init()
 {
@@ -98,9 +99,9 @@ void tst_Scans::cleanup()
 /// Cameras have addresses of their own from 10.99.0.10 on; 10.99.0.2 is the machine they run on.
 bool tst_Scans::startSite(int addresses)
 {
-    bool isUp = m_network->connectSite();
+    bool isUp = m_network->connectSite(Prefix);
     for (int i = 0; i < addresses && isUp; ++i)
-        isUp = m_network->addSiteAddress(QStringLiteral("10.99.0.%1").arg(10 + i));
+        isUp = m_network->addSiteAddress(QStringLiteral("10.99.0.%1").arg(10 + i), Prefix);
     isUp = isUp && m_network->startDaemons();
     if (!isUp)
         qWarning("%s", qPrintable(m_network->error()));
@@ -146,6 +147,7 @@ QStringList tst_Scans::names() const
 
 void tst_Scans::bonjourFindsWhatIsAnnounced()
 {
+    KO_NEED_NETWORKS();
     QVERIFY(startSite(3));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("2"), QStringLiteral("--model"),
                       QStringLiteral("KS-9")}));
@@ -182,6 +184,7 @@ void tst_Scans::bonjourFindsWhatIsAnnounced()
 
 void tst_Scans::arpFindsWhatListens()
 {
+    KO_NEED_NETWORKS();
     QVERIFY(startSite(3));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("3"), QStringLiteral("--no-announce")}));
     press("bonjourButton");
@@ -200,6 +203,7 @@ void tst_Scans::arpFindsWhatListens()
 
 void tst_Scans::bothScansMakeOneNode()
 {
+    KO_NEED_NETWORKS();
     QVERIFY(startSite(2));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("2")}));
     press("arpButton");
@@ -215,6 +219,7 @@ void tst_Scans::bothScansMakeOneNode()
 
 void tst_Scans::hostileAnnouncements()
 {
+    KO_NEED_NETWORKS();
     const testsupport::LogLines log;
     QVERIFY(startSite(6));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("6"), QStringLiteral("--hostile")}));
@@ -242,6 +247,7 @@ void tst_Scans::hostileAnnouncements()
 
 void tst_Scans::sharedMacIsNoKey()
 {
+    KO_NEED_NETWORKS();
     QVERIFY(startSite(3));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("3"), QStringLiteral("--shared-mac")}));
     press("bonjourButton");
@@ -252,9 +258,10 @@ void tst_Scans::sharedMacIsNoKey()
 
 void tst_Scans::movedCamerasStayWhereTheyAre()
 {
+    KO_NEED_NETWORKS();
     QVERIFY(startSite(2));
     QProcess* site = simulate({QStringLiteral("--cameras"), QStringLiteral("1"), QStringLiteral("--moving"),
-                               QStringLiteral("--move-interval"), QStringLiteral("15")});
+                               QStringLiteral("--move-interval"), QStringLiteral("11")});
     QVERIFY(site);
     press("bonjourButton");
     QTRY_COMPARE_WITH_TIMEOUT(rows(), 1, Patience);
@@ -262,104 +269,112 @@ void tst_Scans::movedCamerasStayWhereTheyAre()
     press("bonjourButton"); // within one scan two addresses are two devices
     QByteArray said;
     QTRY_VERIFY_WITH_TIMEOUT((said += site->readAllStandardOutput()).contains("at 10.99.0.11"), Patience);
-    QTest::qWait(3000); // the old address is known for one second more, the new one comes after a probe
+    QTest::qWait(2500); // daemons remember a withdrawn address for a second
     press("bonjourButton");
     DeviceIntake& intake = m_host->db()->deviceIntake();
-    QTRY_COMPARE_WITH_TIMEOUT(int(intake.addressChanges().size()), 1, 9000);
+    QTRY_COMPARE_WITH_TIMEOUT(int(intake.addressChanges().size()), 1, Patience);
     QCOMPARE(intake.addressChanges().at(0).oldAddress, QStringLiteral("10.99.0.10"));
     QCOMPARE(intake.addressChanges().at(0).newAddress, QStringLiteral("10.99.0.11"));
     QCOMPARE(places(), QStringList(QStringLiteral("10.99.0.10")));
     QCOMPARE(rows(), 1);
 }
 
-void tst_Scans::stormHidesNothing()
+void tst_Scans::camerasAreFoundInAStorm()
 {
+    KO_NEED_NETWORKS();
     const testsupport::LogLines log;
     QVERIFY(startSite(3));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("3"), QStringLiteral("--storm"),
                       QStringLiteral("300")}));
     press("bonjourButton");
-    QTRY_VERIFY_WITH_TIMEOUT(places().contains(QStringLiteral("10.99.0.12")) &&
-                                 m_host->db()->scanners().at(0)->state().done > 300,
-                             Patience);
+    const auto isFound = [&] {
+        return places().contains(QStringLiteral("10.99.0.12")) &&
+               m_host->db()->scanners().at(0)->state().done > 300;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isFound(), Patience);
     QVERIFY(names().contains(QStringLiteral("Camera 3")));
     QVERIFY2(log.lines.size() <= 2, qPrintable(log.lines.join(QLatin1Char('\n'))));
 }
 
 void tst_Scans::buttonsOnAndOff()
 {
+    KO_NEED_NETWORKS();
     QVERIFY(startSite(1));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("1")}));
-    const QList<Scanner*> scanners = m_host->db()->scanners();
-    ProcessResources before;
-    for (int i = 0; i < 100; ++i) {
-        for (int press = 0; press < 2; ++press) { // on and off
-            this->press("bonjourButton");
-            this->press("arpButton");
-            QTest::qWait(i % 10 * 5);
-        }
-        if (i == 0)
-            before = ProcessResources(); // with what is made once
-    }
-    for (const Scanner* scanner : scanners)
-        QCOMPARE(int(scanner->state().phase), int(ScannerState::Cancelled));
-    QVERIFY(ProcessResources() == before);
-    press("bonjourButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 1, Patience);
-}
-
-void tst_Scans::dialogGoesDuringTheScan()
-{
-    QVERIFY(startSite(1));
-    QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("1")}));
-    const QList<Scanner*> scanners = m_host->db()->scanners();
-    ProcessResources before;
-    for (int i = 0; i < 10; ++i) {
+    const auto pressBoth = [this] {
         press("bonjourButton");
         press("arpButton");
-        QTest::qWait(i * 20);
-        m_dialog = std::make_unique<NodeOverviewDialog>();
-        m_dialog->show();
-        for (Scanner* scanner : scanners) {
-            QCOMPARE(int(scanner->state().phase), int(ScannerState::Running)); // others may want it
-            scanner->stop();
-        }
-        if (i == 0)
-            before = ProcessResources();
+    };
+    pressBoth();
+    QTRY_COMPARE_WITH_TIMEOUT(rows(), 1, Patience);
+    pressBoth();
+    const ProcessResources before;
+    for (int i = 0; i < 100; ++i) {
+        pressBoth();
+        QTest::qWait(i % 10 * 10);
+        pressBoth();
     }
-    QVERIFY(ProcessResources() == before);
+    const ProcessResources after;
+    QCOMPARE(after.threads, before.threads);
+    QCOMPARE(after.descriptors, before.descriptors);
+    QCOMPARE(rows(), 1); // neither cleared nor doubled
+    const QList<Scanner*> scanners = m_host->db()->scanners();
+    for (const Scanner* scanner : scanners)
+        QCOMPARE(int(scanner->state().phase), int(ScannerState::Cancelled));
 }
 
-/// What the scanners hand over in one go.
-void tst_Scans::burstArrivesAndLeavesNothing()
+void tst_Scans::closedWhileScansRun()
 {
-    DeviceIntake& intake = m_host->db()->deviceIntake();
-    const auto burst = [&](int count) {
-        QVector<DiscoveredDevice> devices;
-        for (int i = 0; i < count; ++i) {
-            DiscoveredDevice device;
-            device.name = QStringLiteral("Camera %1").arg(i);
-            device.address = QStringLiteral("10.1.%1.%2").arg(i / 250).arg(i % 250 + 1);
-            device.port = 80;
-            device.service = QStringLiteral("_http._tcp");
-            devices.append(device);
-        }
-        intake.beginScan();
-        intake.take(devices);
-        QVERIFY(QTest::qWaitFor([&] { return intake.isIdle() && rows() == count; }, 4 * Patience));
-        const QStringList ids = m_host->db()->nodeIdList(AllNodeTypes);
-        for (const QString& id : ids)
-            m_host->db()->removeNode(id);
+    KO_NEED_NETWORKS();
+    QVERIFY(startSite(1));
+    QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("1")}));
+    const ProcessResources before;
+    press("bonjourButton");
+    press("arpButton");
+    QVERIFY(ProcessResources().threads > before.threads);
+    m_dialog->close();
+    m_dialog.reset();
+    const QList<Scanner*> scanners = m_host->db()->scanners();
+    QCOMPARE(int(scanners.at(0)->state().phase), int(ScannerState::Running)); // they go on
+    QTRY_COMPARE_WITH_TIMEOUT(int(m_host->db()->summaries().size()), 1, Patience);
+    m_host->db()->startScanners("ARP", 0xFFFFFFFF, -1);
+    m_host.reset(); // in the middle of both
+    const ProcessResources after;
+    QVERIFY2(after.threads <= before.threads, qPrintable(QString::number(after.threads)));
+    QVERIFY2(after.descriptors <= before.descriptors, qPrintable(QString::number(after.descriptors)));
+}
+
+void tst_Scans::burstOfDevices()
+{
+    const int Count = 10000;
+    QVector<DiscoveredDevice> burst;
+    for (int i = 0; i < Count; ++i) {
+        DiscoveredDevice device;
+        device.name = QStringLiteral("Camera %1").arg(i);
+        device.address = QStringLiteral("10.1.%1.%2").arg(i / 200).arg(1 + i % 200);
+        device.port = 80;
+        device.service = QStringLiteral("_http._tcp");
+        burst.append(device);
+    }
+    HostNodeDB& db = *m_host->db();
+    QVector<qint64> bytes;
+    for (int round = 0; round < 4; ++round) {
+        db.deviceIntake().beginScan();
+        emit db.scanners().at(0)->found(burst);
+        QTRY_COMPARE_WITH_TIMEOUT(rows(), Count, 60000);
         child<QAction>(m_dialog.get(), "actionRemove_all")->trigger();
-        QVERIFY(m_host->db()->flush());
         QCOMPARE(rows(), 0);
-    };
-    burst(10000);
-    const size_t first = mallinfo2().uordblks;
-    burst(10000);
-    const size_t second = mallinfo2().uordblks;
-    QVERIFY2(double(second) < 1.01 * double(first),
-             qPrintable(QStringLiteral("%1, then %2 bytes").arg(first).arg(second)));
+        const QVector<NodeSummary> nodes = db.summaries();
+        QCOMPARE(int(nodes.size()), Count);
+        for (const NodeSummary& node : nodes)
+            db.removeNode(node.id);
+        QVERIFY(db.flush());
+        QTRY_VERIFY(db.deviceIntake().isIdle());
+        bytes.append(bytesInUse());
+    }
+    // The first round fills what is kept for later, such as the store's cache.
+    const qint64 growth = bytes.last() - bytes.at(1);
+    QVERIFY2(growth < Count * 20, qPrintable(QString::number(growth)));
 }
 
 int main(int argc, char** argv)

@@ -42,8 +42,7 @@ void addOptions(QCommandLineParser& parser, const Options& defaults)
          QStringLiteral("port"), QString::number(defaults.httpPort)},
         {QStringLiteral("model"), QStringLiteral("Model that is announced (KS-1)."), QStringLiteral("text"),
          defaults.model},
-        {QStringLiteral("announce"), QStringLiteral("Announces the cameras; so it does anyway.")},
-        {QStringLiteral("no-announce"), QStringLiteral("Does not announce them.")},
+        {QStringLiteral("no-announce"), QStringLiteral("Does not announce the cameras.")},
         {QStringLiteral("hostile"),
          QStringLiteral(
              "Names with markup, control and bidirectional characters; TXT records that are overlong, "
@@ -86,8 +85,6 @@ QString Options::read(const QStringList& arguments)
     moving = parser.isSet(QStringLiteral("moving"));
     if (rtspPort == httpPort && error.isEmpty())
         error = QStringLiteral("--port and --http-port are the same");
-    if (!announce && parser.isSet(QStringLiteral("announce")) && error.isEmpty())
-        error = QStringLiteral("--announce and --no-announce contradict each other");
     return error.isEmpty() ? readAddresses(parser.value(QStringLiteral("address-base")),
                                            parser.value(QStringLiteral("interface")))
                            : error;

@@ -82,7 +82,7 @@ Announcement Site::announcementOf(int camera) const
 {
     const Camera& device = *m_cameras[size_t(camera)];
     Announcement announcement;
-    announcement.name = device.name().toUtf8().left(63);
+    announcement.name = device.name().toUtf8();
     announcement.hostName = hostOf(camera + 1);
     announcement.address = device.address();
     announcement.services = {{"_rtsp._tcp", m_options.rtspPort}, {"_http._tcp", m_options.httpPort}};
