@@ -1,5 +1,7 @@
 #include "store/SqliteStore.h"
 
+#include "secrets/Secrets.h"
+#include "secrets/StoredSecrets.h"
 #include "store/StoreFile.h"
 
 #include <QDateTime>
@@ -140,6 +142,7 @@ void SqliteStore::prepare(int version)
     const int found = userVersion();
     if (found < version)
         migrate(found, version);
+    StoredSecrets::sealPending(*this);
     const Transaction attempt(*this, Transaction::Write); // finds out now whether writing is possible
 }
 
@@ -181,6 +184,10 @@ QString SqliteStore::backUp(int version)
         copy = name + QString::fromLatin1("-%1").arg(i);
     try {
         run("VACUUM INTO ?", {copy});
+        if (version < StoreSchema::FirstSealed && Secrets::isKeyKept()) {
+            SqliteStore saved(copy, ReadWrite);
+            StoredSecrets::seal(saved);
+        }
     } catch (const StoreFailure&) {
         QFile::remove(copy);
         throw;
