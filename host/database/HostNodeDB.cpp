@@ -14,6 +14,7 @@
 #include "ko/LogQt.h"
 #include "ko/NodeHint.h"
 #include "recording/VolumeProbe.h"
+#include "secrets/Secrets.h"
 
 #include <QRandomGenerator>
 #include <QTimer>
@@ -49,6 +50,16 @@ NodeID newNodeId()
     for (int i = 1; i < id.size(); ++i)
         id[i] = QLatin1Char(alphabet[random[i / 8] >> 5 * (i % 8) & 31]);
     return id;
+}
+
+/// Of a node that comes into being: what describes it has them in the clear.
+void sealPasswords(NodeData& data)
+{
+    for (const QString& key : Secrets::properties()) {
+        const QVariant password = data.properties.value(key);
+        if (password.userType() == QMetaType::QString)
+            data.properties.set(key, Secrets::seal(data.id, key, password.toString()));
+    }
 }
 
 } // namespace
@@ -142,6 +153,12 @@ void HostNodeDB::Private::start(HostNodeDB* database, Check when)
         checkBehind();
     createDefaultEnvironment();
     intake = std::make_unique<DeviceIntake>(*q);
+    Secrets::setListener([this](StoreError::Kind kind) {
+        const bool unread = kind == StoreError::SealedElsewhere;
+        readFailed(StoreError::make(
+            kind, store->fileName(),
+            QLatin1String(unread ? "a password cannot be opened" : "the key of the passwords is not kept")));
+    });
     settingsTaken();
     QObject::connect(&proxy, &GlobalNetworkProxy::globalProxyDataChanged, q, [this] { proxyChanged(); });
     QObject::connect(&poll, &QTimer::timeout, q, &HostNodeDB::syncForeignChanges);
@@ -189,6 +206,7 @@ void HostNodeDB::Private::createDefaultEnvironment()
 std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error, Check check)
 {
     qRegisterMetaType<ko::StoreError>("ko::StoreError");
+    Secrets::prepare();
     std::unique_ptr<SqliteStore> store = SqliteStore::open(
         file, error, check == Check::First ? SqliteStore::Check::First : SqliteStore::Check::ByUser);
     if (!store)
@@ -214,6 +232,7 @@ HostNodeDB::~HostNodeDB()
     blockSignals(true);
     if (d->check.valid())
         d->check.wait();
+    Secrets::setListener(nullptr);
     d->scanners.clear();
     d->intake.reset();
     flush();
@@ -415,6 +434,7 @@ void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
 NodeID HostNodeDB::Private::insert(NodeData data)
 {
     data.id = newNodeId();
+    sealPasswords(data);
     NodeRecord& record = memory.cache.append(PackedSummary(NodeTypes::summaryOf(data)));
     record.context = data.context;
     memory.setData(record, data);
@@ -579,8 +599,8 @@ void HostNodeDB::Private::proxyChanged()
     // Also called when the settings of another process are taken over: then nothing differs.
     GlobalNetworkProxy untouched;
     ProxySettings::toProxy(NodeTables::Settings(), untouched);
-    const NodeTables::Settings defaults = ProxySettings::fromProxy(untouched);
-    const NodeTables::Settings values = ProxySettings::fromProxy(proxy);
+    const NodeTables::Settings defaults = ProxySettings::fromProxy(untouched, NodeTables::Settings());
+    const NodeTables::Settings values = ProxySettings::fromProxy(proxy, memory.settings);
     for (auto it = values.begin(); it != values.end(); ++it) {
         if (memory.settings.value(it.key(), defaults.value(it.key())) != it.value())
             set(it.key(), it.value());

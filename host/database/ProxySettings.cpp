@@ -1,6 +1,7 @@
 #include "database/ProxySettings.h"
 
 #include "ko/GlobalNetworkProxy.h"
+#include "secrets/Secrets.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -16,15 +17,18 @@ constexpr char Use[] = "proxy.use";
 constexpr char Address[] = "proxy.address";
 constexpr char Port[] = "proxy.port";
 constexpr char User[] = "proxy.user";
-constexpr char Password[] = "proxy.password";
 constexpr char SavePassword[] = "proxy.savePassword";
 constexpr char Exceptions[] = "proxy.exceptions";
+
+/// To be opened or sealed as.
+const auto owner = QLatin1String(Secrets::Settings);
+const auto password = QLatin1String(Secrets::GlobalProxyPassword);
 
 constexpr int DefaultPort = 8080; // of a database in which none was set yet
 
 } // namespace
 
-NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy)
+NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy, const NodeTables::Settings& before)
 {
     const QJsonArray exceptions = QJsonArray::fromStringList(proxy.exceptions());
     NodeTables::Settings settings;
@@ -35,7 +39,10 @@ NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy)
     set(Address, proxy.proxyAddress());
     set(Port, QString::number(proxy.proxyPort()));
     set(User, proxy.proxyUser());
-    set(Password, proxy.saveProxyPassword() ? proxy.proxyPassword() : QString());
+    settings.insert(password,
+                    proxy.saveProxyPassword()
+                        ? Secrets::seal(owner, password, proxy.proxyPassword(), before.value(password))
+                        : QString());
     set(SavePassword, QString::number(proxy.saveProxyPassword()));
     set(Exceptions, QString::fromUtf8(QJsonDocument(exceptions).toJson(QJsonDocument::Compact)));
     return settings;
@@ -49,7 +56,8 @@ void toProxy(const NodeTables::Settings& settings, GlobalNetworkProxy& proxy)
     stored.setUseProxy(get(Use).toInt() != 0);
     const QString port = get(Port);
     stored.setProxyAddress(get(Address), port.isEmpty() ? DefaultPort : port.toInt());
-    stored.setProxyUser(get(User), savePassword ? get(Password) : proxy.proxyPassword());
+    stored.setProxyUser(get(User), savePassword ? Secrets::open(owner, password, settings.value(password))
+                                                : proxy.proxyPassword());
     stored.setSaveProxyPassword(savePassword);
     QStringList patterns;
     const QJsonArray exceptions = QJsonDocument::fromJson(get(Exceptions).toUtf8()).array();

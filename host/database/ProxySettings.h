@@ -7,10 +7,12 @@ namespace ko {
 
 class GlobalNetworkProxy;
 
-/// How the global proxy stands among the settings. A password that is not to be saved is not among them.
+/// How the global proxy stands among the settings. The password is sealed; one that is not to be saved is
+/// not among them.
 namespace ProxySettings {
 
-NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy);
+/// \a before: the settings as they are, of which a sealed password is kept when it is still the same.
+NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy, const NodeTables::Settings& before);
 
 /// Leaves a password that was not saved as it is.
 void toProxy(const NodeTables::Settings& settings, GlobalNetworkProxy& proxy);

@@ -16,21 +16,21 @@ QString key(const char* name)
 
 DeviceNode::DeviceNode(const NodeData& data)
     : HostNode<IPDeviceNode>(data)
-    , m_proxy(ProxyProperties::read(data.properties))
+    , m_proxy(ProxyProperties::read(data))
 {
 }
 
 NodeData DeviceNode::nodeData() const
 {
     NodeData data = m_data;
-    ProxyProperties::write(data.properties, m_proxy);
+    ProxyProperties::write(data, m_proxy);
     return data;
 }
 
 QVariant DeviceNode::read(const QString& name) const
 {
     // The proxy is handed out by reference, so only it knows its settings.
-    return ProxyProperties::isKey(name) ? nodeData().properties.value(name)
+    return ProxyProperties::isKey(name) ? opened(name, nodeData().properties.value(name))
                                         : HostNode<IPDeviceNode>::read(name);
 }
 
@@ -42,7 +42,7 @@ void DeviceNode::write(const QString& name, const QVariant& value)
     }
     m_data = nodeData();
     HostNode<IPDeviceNode>::write(name, value);
-    m_proxy = ProxyProperties::read(m_data.properties);
+    m_proxy = ProxyProperties::read(m_data);
 }
 
 void DeviceNode::notifyChange(int code)

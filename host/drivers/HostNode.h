@@ -8,10 +8,12 @@
 #include "drivers/PropertyStorage.h"
 #include "ko/Node.h"
 #include "ko/NodeHint.h"
+#include "secrets/Secrets.h"
 
 namespace ko {
 
-/// A node of this host: \a Base, a kind of Node, over NodeData.
+/// A node of this host: \a Base, a kind of Node, over NodeData. Passwords are sealed in the data and in
+/// what properties() hands out; asking for one by its name opens it.
 template <class Base>
 class HostNode : public PropertyStorage<Base>, public StoredNode
 {
@@ -60,7 +62,12 @@ protected:
             return m_data.name;
         if (name == QLatin1String(PropertyKeys::NodeType))
             return int(m_data.type);
-        return m_data.properties.value(name);
+        return opened(name, m_data.properties.value(name));
+    }
+
+    QVariant opened(const QString& name, const QVariant& value) const
+    {
+        return isPassword(name, value) ? Secrets::open(m_data.id, name, value.toString()) : value;
     }
 
     void write(const QString& name, const QVariant& value) override
@@ -68,7 +75,17 @@ protected:
         if (name == QLatin1String(PropertyKeys::Name))
             m_data.name = value.toString();
         else if (name != QLatin1String(PropertyKeys::NodeType))
-            m_data.properties.set(name, value);
+            m_data.properties.set(name, isPassword(name, value) ? sealed(name, value.toString()) : value);
+    }
+
+    static bool isPassword(const QString& name, const QVariant& value)
+    {
+        return value.userType() == QMetaType::QString && Secrets::isSecret(name);
+    }
+
+    QString sealed(const QString& name, const QString& password) const
+    {
+        return Secrets::seal(m_data.id, name, password, m_data.properties.value(name).toString());
     }
 
     NodeData m_data;

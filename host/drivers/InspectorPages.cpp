@@ -45,7 +45,8 @@ const Field remotePreviewFields[] = {
     {"RecordingTransponderSSL", Field::Flag,
      QT_TRANSLATE_NOOP("PropertyFormPage", "Secure connection (SSL)")},
     {"RecordingTransponderUser", Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "User name:")},
-    {"RecordingTransponderPassword", Field::Password, QT_TRANSLATE_NOOP("PropertyFormPage", "Password:")},
+    {PropertyKeys::RemotePreviewPassword, Field::Password,
+     QT_TRANSLATE_NOOP("PropertyFormPage", "Password:")},
 };
 
 template <const auto& fields>

@@ -136,7 +136,7 @@ void describeDevice(NodeData& data, const NodeHintIPDevice& hint)
         set(PropertyKeys::MacAddress, hint.macAddress.toString(true));
     if (hint.type == ChannelDeviceType)
         set(PropertyKeys::Channel, hint.channel);
-    ProxyProperties::write(data.properties, hint.proxy);
+    ProxyProperties::write(data, hint.proxy);
 }
 
 } // namespace

@@ -32,6 +32,7 @@ inline constexpr char Path[] = "Path";
 inline constexpr char UseGlobalPath[] = "UseGlobalPath";
 inline constexpr char CameraID[] = "CameraID";
 inline constexpr char RecordingStorageUsage[] = "RecordingStorageUsage";
+inline constexpr char RemotePreviewPassword[] = "RecordingTransponderPassword";
 inline constexpr char RemotePreviewAddress[] = "RecordingTransponderIP";
 
 } // namespace PropertyKeys

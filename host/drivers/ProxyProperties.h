@@ -1,7 +1,7 @@
 #ifndef KO_PROXYPROPERTIES_H
 #define KO_PROXYPROPERTIES_H
 
-#include "database/PropertyList.h"
+#include "database/NodeData.h"
 #include "ko/NetworkProxy.h"
 
 namespace ko {
@@ -10,10 +10,12 @@ namespace ko {
 namespace ProxyProperties {
 
 bool isKey(const QString& name);
-NetworkProxy read(const PropertyList& properties);
+
+/// The password is opened; \a node is whose it is.
+NetworkProxy read(const NodeData& node);
 
 /// Settings that were never touched leave no properties behind.
-void write(PropertyList& properties, const NetworkProxy& proxy);
+void write(NodeData& node, const NetworkProxy& proxy);
 
 } // namespace ProxyProperties
 

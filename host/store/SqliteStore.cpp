@@ -1,5 +1,7 @@
 #include "store/SqliteStore.h"
 
+#include "secrets/Secrets.h"
+#include "secrets/StoredSecrets.h"
 #include "store/StoreFile.h"
 
 #include <QDateTime>
@@ -128,7 +130,8 @@ void SqliteStore::checkFile(const QString& file, Check check, int version)
     const int found = probe.userVersion();
     if (found > version)
         throw StoreFailure{StoreError::make(StoreError::NewerVersion, file, QLatin1String("in its log"))};
-    if (check == Check::First || found < version)
+    const bool writesAtOnce = found < version || StoredSecrets::isPending(probe);
+    if (check == Check::First || writesAtOnce)
         probe.findDamage();
 }
 
@@ -159,6 +162,7 @@ void SqliteStore::prepare(int version)
     const int found = userVersion();
     if (found < version)
         migrate(found, version);
+    StoredSecrets::sealPending(*this);
     const Transaction attempt(*this, Transaction::Write); // finds out now whether writing is possible
 }
 
@@ -200,6 +204,10 @@ QString SqliteStore::backUp(int version)
         copy = name + QString::fromLatin1("-%1").arg(i);
     try {
         run("VACUUM INTO ?", {copy});
+        if (version < StoreSchema::FirstSealed && Secrets::isKeyKept()) {
+            SqliteStore saved(copy, ReadWrite);
+            StoredSecrets::seal(saved);
+        }
     } catch (const StoreFailure&) {
         QFile::remove(copy);
         throw;

@@ -235,6 +235,8 @@ QString salvage(const QString& database, StoreError* error)
                 SqliteFile source(database, SqliteFile::ReadOnly);
                 SqliteFile saved(draft.name(), SqliteFile::ReadWrite);
                 rows = source.copyRows(saved);
+                // The rows may be of a version that sealed no passwords.
+                saved.execute("INSERT OR REPLACE INTO settings VALUES ('secrets.toSeal', '1')");
             }
             if (rows == 0)
                 throw StoreFailure{

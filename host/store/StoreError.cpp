@@ -50,6 +50,19 @@ const char* pattern(StoreError::Kind kind)
         return QT_TRANSLATE_NOOP(
             "ko::StoreError", "The node database \"%1\" cannot be opened. Check that its folder exists, that "
                               "the disk or network drive is connected, and that you may read the file.");
+    case StoreError::SealedElsewhere:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError",
+            "Some passwords in the node database \"%1\" cannot be read and are shown empty, "
+            "because the key that they were sealed with is not there. Unlock your keychain "
+            "or bring the key file back, and start the program again. They stay in the "
+            "database until you give new ones.");
+    case StoreError::KeyNotKept:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError", "The key for the passwords in the node database \"%1\" can be kept neither in "
+                              "your keychain nor in a file. Passwords that you give now are lost when you "
+                              "close the program. Make your configuration folder writable, and start the "
+                              "program again.");
     case StoreError::Other:
         break;
     }

@@ -20,7 +20,9 @@ struct StoreError
         ReadOnly,     ///< file or folder may not be written
         Locked,       ///< held by another program longer than we wait
         DiskFull,
-        CannotOpen, ///< no such folder, no permission to read, ...
+        CannotOpen,      ///< no such folder, no permission to read, ...
+        SealedElsewhere, ///< passwords cannot be opened; the database can be used
+        KeyNotKept,      ///< passwords given now are lost with the program
         Other
     };
 

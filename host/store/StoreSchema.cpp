@@ -37,6 +37,11 @@ const QVector<QVector<const char*>>& steps()
             "CREATE INDEX nodes_lookup ON nodes (lookup) WHERE lookup <> ''",
             "CREATE INDEX relations_destination ON relations (destination)",
         },
+        {
+            // Passwords are sealed with what SQL does not know; see StoredSecrets.
+            "INSERT OR REPLACE INTO settings SELECT 'secrets.toSeal', '1'"
+            " WHERE EXISTS (SELECT 1 FROM properties) OR EXISTS (SELECT 1 FROM settings)",
+        },
     };
     return steps;
 }

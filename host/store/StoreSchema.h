@@ -15,6 +15,9 @@ namespace StoreSchema {
 /// Tells our files from those of other programs: "KoDB" in the header of the file.
 constexpr quint32 ApplicationId = 0x4b6f4442;
 
+/// Before this version passwords stood in the clear.
+constexpr int FirstSealed = 3;
+
 KO_HOST_EXPORT int latest();
 
 /// The statements that lead from \a version to the next.

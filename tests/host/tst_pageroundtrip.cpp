@@ -191,8 +191,10 @@ Values valuesOf(const Node& node)
 {
     Values values;
     for (const auto& entry : node.properties()) {
-        if (entry.first != "Name" && entry.first != "NodeType")
-            values[entry.first] = entry.second->value();
+        const QVariant value = entry.second->value();
+        if (entry.first != "Name" && entry.first != "NodeType") // a password is sealed in what is enumerated
+            values[entry.first] =
+                value.userType() == QMetaType::QString ? node.stringProperty(entry.first, QString()) : value;
     }
     return values;
 }

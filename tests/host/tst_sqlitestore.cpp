@@ -202,7 +202,7 @@ void TestSqliteStore::oldVersionIsMigratedAndACopyKept()
     {
         const std::unique_ptr<SqliteStore> store = open();
         QVERIFY(store);
-        QCOMPARE(store->value("PRAGMA user_version").toInt(), 2);
+        QCOMPARE(store->value("PRAGMA user_version").toInt(), StoreSchema::latest());
         QCOMPARE(store->value("SELECT name FROM nodes").toString(), QLatin1String("old"));
         QCOMPARE(store
                      ->value("SELECT count(*) FROM sqlite_master WHERE type = 'index' AND name IN "

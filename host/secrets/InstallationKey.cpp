@@ -1,0 +1,173 @@
+#include "secrets/InstallationKey.h"
+
+#include "secrets/Keychain.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QStandardPaths>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ko {
+
+namespace {
+
+constexpr int LockPatience = 5000; // ms
+
+QString toText(const QByteArray& key)
+{
+    return QString::fromLatin1(key.toBase64());
+}
+
+/// The key, or nothing if \a text is none.
+QByteArray fromText(const QString& text)
+{
+    const QByteArray key = QByteArray::fromBase64(text.trimmed().toLatin1());
+    return key.size() == Sealer::KeySize ? key : QByteArray();
+}
+
+bool writeAll(int file, const QByteArray& data)
+{
+    return ::write(file, data.constData(), std::size_t(data.size())) == data.size() && ::fsync(file) == 0;
+}
+
+/// False, with errno, if the file is there already or could not be written in full.
+bool createKeyFile(const QString& name, const QByteArray& key)
+{
+    const QByteArray path = QFile::encodeName(name);
+    const int file = ::open(path.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (file < 0)
+        return false;
+    const bool good = ::fchmod(file, S_IRUSR | S_IWUSR) == 0 && writeAll(file, toText(key).toLatin1() + '\n');
+    const int error = errno;
+    ::close(file);
+    if (!good)
+        ::unlink(path.constData());
+    errno = error;
+    return good;
+}
+
+bool createFolder(const QString& name)
+{
+    if (QFileInfo::exists(name))
+        return true;
+    return QDir().mkpath(name) &&
+           QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+/// One search for the key, then its making.
+class Search
+{
+public:
+    explicit Search(const InstallationKey::Places& places)
+        : m_places(places)
+        , m_keychain(places.keychain, places.keychainPatience)
+    {
+    }
+
+    InstallationKey run()
+    {
+        const bool hasFolder =
+            !m_places.keyFile.isEmpty() && createFolder(QFileInfo(m_places.keyFile).absolutePath());
+        QLockFile lock(m_places.keyFile + QLatin1String(".lock"));
+        const bool locked = hasFolder && lock.tryLock(LockPatience);
+        askKeychain();
+        readFile();
+        if (m_keys.empty())
+            makeKey(locked);
+        InstallationKey result;
+        result.kept = !m_keys.empty();
+        if (m_keys.empty())
+            m_keys.push_back(Sealer::newKey());
+        result.sealer = Sealer(m_keys);
+        result.problem = m_problems.join(QLatin1String("; "));
+        return result;
+    }
+
+private:
+    void askKeychain()
+    {
+        if (m_places.keychain.isEmpty())
+            return;
+        QString text;
+        m_answer = m_keychain.read(&text);
+        if (m_answer == Keychain::Found)
+            take(fromText(text), QLatin1String("the keychain has something else in the place of the key"));
+    }
+
+    void readFile()
+    {
+        QFile file(m_places.keyFile);
+        m_hasFile = !m_places.keyFile.isEmpty() && QFileInfo::exists(m_places.keyFile);
+        if (!m_hasFile)
+            return;
+        if (!file.open(QIODevice::ReadOnly)) {
+            m_problems.append(QLatin1String("the key file cannot be read: ") + file.errorString());
+            return;
+        }
+        const QFile::Permissions others =
+            QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+        if (file.permissions() & others)
+            file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+        take(fromText(QString::fromLatin1(file.read(1024))), QLatin1String("the key file holds no key"));
+    }
+
+    void take(const QByteArray& key, const QString& otherwise)
+    {
+        if (key.isEmpty())
+            m_problems.append(otherwise);
+        else
+            m_keys.push_back(key);
+    }
+
+    void makeKey(bool locked)
+    {
+        // Without the lock another program may be making a key, which this one must not replace.
+        if (!locked) {
+            m_problems.append(QLatin1String("the folder of the key file cannot be locked"));
+            return;
+        }
+        const QByteArray key = Sealer::newKey();
+        QString stored;
+        if (m_answer == Keychain::NoEntry && m_keychain.write(toText(key)) &&
+            m_keychain.read(&stored) == Keychain::Found && fromText(stored) == key)
+            m_keys.push_back(key);
+        else if (!m_hasFile && createKeyFile(m_places.keyFile, key))
+            m_keys.push_back(key);
+        else if (!m_hasFile)
+            m_problems.append(QLatin1String("the key file cannot be made: ") +
+                              QString::fromLocal8Bit(std::strerror(errno)));
+    }
+
+    const InstallationKey::Places m_places;
+    const Keychain m_keychain;
+    Keychain::Answer m_answer = Keychain::NotThere;
+    bool m_hasFile = false;
+    std::vector<QByteArray> m_keys;
+    QStringList m_problems;
+};
+
+} // namespace
+
+InstallationKey::Places InstallationKey::Places::standard()
+{
+    Places places;
+    places.keychain = QStringLiteral("konodeui");
+    places.keyFile = QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
+                         .filePath(QStringLiteral("konodeui/installation.key"));
+    return places;
+}
+
+InstallationKey InstallationKey::load(const Places& places)
+{
+    return Search(places).run();
+}
+
+} // namespace ko

@@ -1,0 +1,29 @@
+#ifndef KO_STOREDSECRETS_H
+#define KO_STOREDSECRETS_H
+
+#include "store/SqliteStore.h"
+
+namespace ko {
+
+/// Seals the passwords that versions before 3 stored in the clear.
+namespace StoredSecrets {
+
+/// The setting that stands in a database as long as there may be passwords in the clear.
+inline constexpr char Pending[] = "secrets.toSeal";
+
+/// Seals every password of the database that is not sealed, in one transaction, then writes the file anew,
+/// so that nothing of them is left in its unused parts or its log. Takes a key that is kept.
+void seal(SqliteStore& store);
+
+/// What \ref Pending says; false for an older version.
+bool isPending(SqliteStore& store);
+
+/// seal(), if isPending(). What keeps it from being done is logged, and it is tried again at the
+/// next opening.
+void sealPending(SqliteStore& store);
+
+} // namespace StoredSecrets
+
+} // namespace ko
+
+#endif
