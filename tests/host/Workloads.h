@@ -9,6 +9,7 @@
 #include "store/SqliteStore.h"
 #include "support/ModalAnswer.h"
 
+#include <QDir>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -30,7 +31,7 @@ class Workload
 public:
     virtual ~Workload() = default;
 
-    /// Step 0, on an empty database.
+    /// What there is before the first step, on an empty database.
     virtual void prepare(ko::HostNodeDB& db) { step(db, 0); }
 
     /// False when the step said that it could not do everything.
@@ -63,7 +64,9 @@ public:
     bool step(ko::HostNodeDB& db, int number) override
     {
         const QString text = QString::number(number);
-        const QString id = named(db, camera());
+        QString id = named(db, camera());
+        if (id.isEmpty())
+            id = addCamera(db, camera(), QLatin1String("0"));
         ko::Node* node = db.beginUpdateNode(id, -1);
         if (!node)
             return false;
@@ -247,6 +250,15 @@ inline int wholeVersion(const QString& file, int cameras)
     const bool whole = plain.run(QLatin1String("SELECT count(*) FROM nodes")).toInt() >= cameras &&
                        indexes == (version >= 2 ? 2 : 0);
     return whole ? version : -1;
+}
+
+/// With all that stands beside it.
+inline void removeDatabase(const QString& file)
+{
+    const QFileInfo info(file);
+    const QStringList names = QDir(info.path()).entryList({info.fileName() + QLatin1Char('*')}, QDir::Files);
+    for (const QString& name : names)
+        QVERIFY(QFile::remove(QDir(info.path()).filePath(name)));
 }
 
 } // namespace testsupport

@@ -1,10 +1,7 @@
 #include "Workloads.h"
+#include "ko/Environments.h"
 #include "support/FaultyVfs.h"
 #include "support/TestMain.h"
-
-#include "ko/Environments.h"
-
-#include <QDir>
 
 using namespace ko;
 using namespace testsupport;
@@ -39,14 +36,6 @@ Outcome attempt(const QString& file, Workload* workload, bool triesAgain)
     QCoreApplication::processEvents(); // says what could not be read
     outcome.confirmed = done && stored && readable;
     return outcome;
-}
-
-void removeDatabase(const QString& file)
-{
-    const QFileInfo info(file);
-    const QStringList names = QDir(info.path()).entryList({info.fileName() + QLatin1Char('*')}, QDir::Files);
-    for (const QString& name : names)
-        QVERIFY(QFile::remove(QDir(info.path()).filePath(name)));
 }
 
 } // namespace
