@@ -220,7 +220,13 @@ void tst_Soak::useSettings()
             QCoreApplication::processEvents();
             dialog->accept();
         });
-    for (const char* action : {"actionOverview", "actionAddressChanges", "actionAuditLog", "actionAbout"})
+    use("actionOverview", [](QDialog* dialog) {
+        const ModalAnswer filter(show);
+        child<QPushButton>(dialog, "filterButton")->click();
+        QVERIFY(filter.fired());
+        dialog->reject();
+    });
+    for (const char* action : {"actionAddressChanges", "actionAuditLog", "actionAbout"})
         use(action, show);
 }
 

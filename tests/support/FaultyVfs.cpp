@@ -38,16 +38,21 @@ struct Disk
     bool dead = false;
     std::vector<Undo> cache;
 };
-Disk disk;
+
+Disk& disk()
+{
+    static Disk only;
+    return only;
+}
 
 bool cutsPower()
 {
-    return disk.fault == FaultyVfs::PowerCut || disk.fault == FaultyVfs::CacheIsLost;
+    return disk().fault == FaultyVfs::PowerCut || disk().fault == FaultyVfs::CacheIsLost;
 }
 
 bool concerns(Operation operation)
 {
-    switch (disk.fault) {
+    switch (disk().fault) {
     case FaultyVfs::OpenFails:
         return operation == Open;
     case FaultyVfs::ReadFails:
@@ -72,12 +77,12 @@ int codeOf(Operation operation)
 {
     static const int codes[] = {SQLITE_CANTOPEN,    SQLITE_IOERR_READ,     SQLITE_IOERR_WRITE,
                                 SQLITE_IOERR_FSYNC, SQLITE_IOERR_TRUNCATE, SQLITE_IOERR_DELETE};
-    return disk.fault == FaultyVfs::DiskFull ? SQLITE_FULL : codes[operation];
+    return disk().fault == FaultyVfs::DiskFull ? SQLITE_FULL : codes[operation];
 }
 
 void loseCache()
 {
-    for (auto undo = disk.cache.rbegin(); undo != disk.cache.rend(); ++undo) {
+    for (auto undo = disk().cache.rbegin(); undo != disk().cache.rend(); ++undo) {
         const sqlite3_io_methods* methods = undo->file->pMethods;
         int result = SQLITE_OK;
         if (!undo->bytes.isEmpty())
@@ -86,25 +91,25 @@ void loseCache()
         if (result != SQLITE_OK || methods->xTruncate(undo->file, undo->size) != SQLITE_OK)
             qFatal("what was not synced could not be taken back");
     }
-    disk.cache.clear();
+    disk().cache.clear();
 }
 
 /// Whether the operation is to fail. \a now is set for the one at which the fault begins.
 bool fails(Operation operation, bool* now = nullptr)
 {
-    if (disk.dead)
+    if (disk().dead)
         return true;
     if (!concerns(operation))
         return false;
-    if (disk.hit)
-        return !FaultyVfs::passes(disk.fault);
-    if (--disk.countdown > 0)
+    if (disk().hit)
+        return !FaultyVfs::passes(disk().fault);
+    if (--disk().countdown > 0)
         return false;
-    disk.hit = true;
-    disk.dead = cutsPower();
+    disk().hit = true;
+    disk().dead = cutsPower();
     if (now)
         *now = true;
-    if (disk.fault == FaultyVfs::CacheIsLost)
+    if (disk().fault == FaultyVfs::CacheIsLost)
         loseCache();
     return true;
 }
@@ -116,9 +121,9 @@ sqlite3_file* realOf(sqlite3_file* file)
 
 void forget(const sqlite3_file* real)
 {
-    disk.cache.erase(std::remove_if(disk.cache.begin(), disk.cache.end(),
-                                    [real](const Undo& undo) { return undo.file == real; }),
-                     disk.cache.end());
+    disk().cache.erase(std::remove_if(disk().cache.begin(), disk().cache.end(),
+                                      [real](const Undo& undo) { return undo.file == real; }),
+                       disk().cache.end());
 }
 
 int closeFile(sqlite3_file* file)
@@ -144,7 +149,7 @@ void remember(sqlite3_file* real, int size, sqlite3_int64 offset)
     if (!undo.bytes.isEmpty() &&
         real->pMethods->xRead(real, undo.bytes.data(), int(undo.bytes.size()), offset) != SQLITE_OK)
         qFatal("what is written over could not be read");
-    disk.cache.push_back(undo);
+    disk().cache.push_back(undo);
 }
 
 int writeFile(sqlite3_file* file, const void* data, int size, sqlite3_int64 offset)
@@ -156,7 +161,7 @@ int writeFile(sqlite3_file* file, const void* data, int size, sqlite3_int64 offs
             real->pMethods->xWrite(real, data, size / 2, offset);
         return codeOf(Write);
     }
-    if (disk.fault == FaultyVfs::CacheIsLost)
+    if (disk().fault == FaultyVfs::CacheIsLost)
         remember(real, size, offset);
     return real->pMethods->xWrite(real, data, size, offset);
 }
@@ -260,7 +265,7 @@ int openFile(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int*
     opened->real = reinterpret_cast<sqlite3_file*>(opened + 1);
     if (fails(Open))
         return codeOf(Open);
-    const int result = disk.real->xOpen(disk.real, name, opened->real, flags, outFlags);
+    const int result = disk().real->xOpen(disk().real, name, opened->real, flags, outFlags);
     if (opened->real->pMethods)
         opened->base.pMethods = &fileMethods;
     return result;
@@ -268,7 +273,7 @@ int openFile(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int*
 
 int deleteFile(sqlite3_vfs*, const char* name, int syncFolder)
 {
-    return fails(Delete) ? codeOf(Delete) : disk.real->xDelete(disk.real, name, syncFolder);
+    return fails(Delete) ? codeOf(Delete) : disk().real->xDelete(disk().real, name, syncFolder);
 }
 
 sqlite3_vfs vfs;
@@ -277,10 +282,10 @@ sqlite3_vfs vfs;
 
 FaultyVfs::FaultyVfs()
 {
-    disk = Disk();
-    disk.real = sqlite3_vfs_find(nullptr);
-    vfs = *disk.real; // the rest needs no file of ours
-    vfs.szOsFile = int(sizeof(File)) + disk.real->szOsFile;
+    disk() = Disk();
+    disk().real = sqlite3_vfs_find(nullptr);
+    vfs = *disk().real; // the rest needs no file of ours
+    vfs.szOsFile = int(sizeof(File)) + disk().real->szOsFile;
     vfs.zName = "faulty";
     vfs.xOpen = openFile;
     vfs.xDelete = deleteFile;
@@ -291,7 +296,7 @@ FaultyVfs::FaultyVfs()
 FaultyVfs::~FaultyVfs()
 {
     sqlite3_vfs_unregister(&vfs);
-    sqlite3_vfs_register(disk.real, 1);
+    sqlite3_vfs_register(disk().real, 1);
 }
 
 const char* FaultyVfs::name(Fault fault)
@@ -309,18 +314,18 @@ bool FaultyVfs::passes(Fault fault)
 
 void FaultyVfs::failAt(Fault fault, int n)
 {
-    disk.fault = fault;
-    disk.countdown = n;
-    disk.hit = false;
-    disk.cache.clear();
+    disk().fault = fault;
+    disk().countdown = n;
+    disk().hit = false;
+    disk().cache.clear();
 }
 
 bool FaultyVfs::stop()
 {
-    disk.fault = FaultCount;
-    disk.dead = false;
-    disk.cache.clear();
-    return disk.hit;
+    disk().fault = FaultCount;
+    disk().dead = false;
+    disk().cache.clear();
+    return disk().hit;
 }
 
 } // namespace testsupport
