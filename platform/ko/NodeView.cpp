@@ -38,14 +38,14 @@ bool NodeView::holds(const SubViewEntry& list, const NodeID& id) const
 
 kom::smart<NodeEntry> NodeView::createEntry(const NodeID& id)
 {
-    const kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
+    kom::smart<NodeEntry> entry = kom::makeSmart<NodeEntry>(++m_lastInternalId, id);
     m_entriesByNode.insert(id, entry);
     return entry;
 }
 
 kom::smart<SubViewEntry> NodeView::addSubView(const QString& name)
 {
-    const kom::smart<SubViewEntry> list = kom::makeSmart<SubViewEntry>(++m_lastInternalId, name);
+    kom::smart<SubViewEntry> list = kom::makeSmart<SubViewEntry>(++m_lastInternalId, name);
     emit entriesAboutToBeInserted(m_root->internalId(), m_root->count(), m_root->count());
     append(*m_root, list);
     emit entriesInserted();
