@@ -40,7 +40,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
+#include <QSortFilterProxyModel>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTimer>
 #include <QToolBar>
 
@@ -527,6 +529,10 @@ void MainWindow::showDatabase()
     NodeDBViewer* viewer = new NodeDBViewer(this);
     viewer->setWindowFlag(Qt::Window);
     viewer->setAttribute(Qt::WA_DeleteOnClose);
+    // The viewer itself leaves its models behind.
+    auto* sorted = qobject_cast<QSortFilterProxyModel*>(viewer->findChild<QTableView*>()->model());
+    connect(viewer, &QObject::destroyed, sorted, &QObject::deleteLater);
+    connect(viewer, &QObject::destroyed, sorted->sourceModel(), &QObject::deleteLater);
     viewer->show();
 }
 

@@ -296,7 +296,7 @@ bool DeviceIntake::Private::sharesAddress(const Device& device) const
 
 kom::smart<NodeHint> DeviceIntake::Private::hint(const Device& device, const QString& address, int port) const
 {
-    const auto hint = db.nodeDriver(IPDeviceType)->createNodeHint(IPDeviceType);
+    auto hint = db.nodeDriver(IPDeviceType)->createNodeHint(IPDeviceType);
     auto* description = dynamic_cast<NodeHintIPDevice*>(hint.get());
     hint->setName(!device.name.isEmpty() ? device.name : !device.model.isEmpty() ? device.model : address);
     description->address = address;
@@ -313,7 +313,7 @@ QString DeviceIntake::Private::nodeOf(const Device& device)
 {
     for (const QString& address : device.addresses) {
         for (const Device::Service& service : device.services) {
-            const QString id = db.lookupHint(*hint(device, address, service.port));
+            QString id = db.lookupHint(*hint(device, address, service.port));
             if (!id.isEmpty())
                 return id;
         }

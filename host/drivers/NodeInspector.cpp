@@ -66,7 +66,8 @@ private:
 
     void store()
     {
-        InspectorWidget::ok(); // also for devices, whose base records no name
+        // Also for devices, whose base records no name.
+        InspectorWidget::ok(); // NOLINT(bugprone-parent-virtual-call)
         if (Node* node = NodeDB::getDB()->beginUpdateNode(this->nodeId(), -1)) {
             m_stack->accept(node);
             NodeDB::getDB()->endUpdateNode(node);

@@ -30,6 +30,10 @@ constexpr int VersionOffset = 60;
 constexpr int ApplicationOffset = 68;
 constexpr char Magic[] = "SQLite format 3"; // with its final zero
 
+// And of its rollback journal.
+constexpr char JournalMagic[] = "\xd9\xd5\x05\xf9\x20\xa1\x63\xd7";
+constexpr int JournalPagesOffset = 16; // pages of the database before the transaction
+
 [[noreturn]] void fail(StoreError::Kind kind, const QString& file, const QString& detail)
 {
     throw StoreFailure{StoreError::make(kind, file, detail)};
@@ -55,6 +59,20 @@ QByteArray readHeader(const QString& file)
 quint32 numberAt(const QByteArray& header, int offset)
 {
     return qFromBigEndian<quint32>(header.constData() + offset);
+}
+
+/// Whether power was lost while the very first transaction went into the file, its first page not yet
+/// there. SQLite makes it an empty one again, as its journal says it was.
+bool wasCutAtCreation(const QString& file, const QByteArray& header)
+{
+    if (header.count('\0') != header.size())
+        return false;
+    QFile journal(file + QLatin1String("-journal"));
+    if (!journal.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray start = journal.read(JournalPagesOffset + 4);
+    return start.size() == JournalPagesOffset + 4 && start.startsWith(JournalMagic) &&
+           numberAt(start, JournalPagesOffset) == 0;
 }
 
 void checkHeader(const QString& file, const QByteArray& header, int version)
@@ -88,7 +106,7 @@ bool create(const QString& file)
 void check(const QString& file, int version)
 {
     const QByteArray header = readHeader(file);
-    if (!header.isEmpty())
+    if (!header.isEmpty() && !wasCutAtCreation(file, header))
         checkHeader(file, header, version);
     const QFileInfo info(file);
     if (!info.isWritable() || !QFileInfo(info.absolutePath()).isWritable())

@@ -332,7 +332,7 @@ QString RecordingFolderAssignmentDialog::selectedNode() const
 
 QString RecordingFolderAssignmentDialog::selectedNodeOrComplain()
 {
-    const QString id = selectedNode();
+    QString id = selectedNode();
     if (id.isEmpty())
         QMessageBox::information(this, tr("No entry selected"), tr("Please select an entry."));
     return id;

@@ -202,7 +202,7 @@ QString NodeDBUtils::createRecordingFolderNode(const QString& cameraId, bool use
     const bool isVolume = !KoFFSDevice::get(folder.toStdWString()).null();
     hint->addProperty(kogen::BoolProperty(latin1("KoFFS"), isVolume));
 
-    const QString existing = NodeDB::getDB()->lookupHint(*hint);
+    QString existing = NodeDB::getDB()->lookupHint(*hint);
     if (existing.isEmpty()) {
         NodeDB::getDB()->newNodeHint(*hint);
         return NodeDB::getDB()->lookupHint(*hint);

@@ -70,7 +70,7 @@ bool NodeView::holds(const SubViewEntry& list, const NodeID& id) const
 
 kom::smart<SubViewEntry> NodeView::addSubView(const QString& name)
 {
-    const kom::smart<SubViewEntry> list = kom::makeSmart<SubViewEntry>(++m_lastInternalId, name);
+    kom::smart<SubViewEntry> list = kom::makeSmart<SubViewEntry>(++m_lastInternalId, name);
     m_entries.push_back(list);
     emit entriesAboutToBeInserted(m_root->internalId(), m_root->count(), m_root->count());
     m_root->append(list);

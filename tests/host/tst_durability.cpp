@@ -1,8 +1,6 @@
-#include "StoreTesting.h"
-#include "audit/AuditLog.h"
-#include "audit/ProgramLogEntry.h"
+#include "Workloads.h"
 #include "ko/Environments.h"
-#include "store/SqliteStore.h"
+#include "support/Soak.h"
 #include "support/TestMain.h"
 
 #include <QDir>
@@ -18,30 +16,16 @@ using namespace testsupport;
 
 namespace {
 
-const QLatin1String mainCamera("main");
-
-/// Edit number i of an endless row: whole, it leaves i in six places and the nodes "i", "i-1" and "i-2".
-class Editor : public QObject
+/// Does the steps of a workload without end, and says the number of each one that is stored.
+class Worker : public QObject
 {
 public:
-    explicit Editor(std::unique_ptr<HostNodeDB> db)
+    Worker(std::unique_ptr<HostNodeDB> db, std::unique_ptr<Workload> workload)
         : m_db(std::move(db))
-        , m_number(m_db->globalRecordingFolderPath().toInt())
-        , m_camera(named(*m_db, mainCamera))
+        , m_workload(std::move(workload))
+        , m_number(m_workload->stored(*m_db).least)
     {
-        if (m_camera.isEmpty())
-            m_camera = addCamera(*m_db, mainCamera, QLatin1String("0"));
         next();
-    }
-
-    static QString named(const HostNodeDB& db, const QString& name)
-    {
-        const QVector<NodeSummary> all = db.summaries();
-        for (const NodeSummary& summary : all) {
-            if (summary.name == name)
-                return summary.id;
-        }
-        return QString();
     }
 
 private:
@@ -50,26 +34,12 @@ private:
         QMetaObject::invokeMethod(
             this,
             [this] {
-                edit(++m_number);
+                if (!m_workload->step(*m_db, ++m_number))
+                    qFatal("step %d could not be done", m_number);
                 QMetaObject::invokeMethod(
                     this, [this] { confirm(); }, Qt::QueuedConnection);
             },
             Qt::QueuedConnection);
-    }
-
-    void edit(int i)
-    {
-        const QString text = QString::number(i);
-        Node* node = m_db->beginUpdateNode(m_camera, -1);
-        node->setStringProperty(QLatin1String("Address"), text);
-        node->setStringProperty(QLatin1String("Model"), text + QString(500, QLatin1Char('.')));
-        node->setIntProperty(QLatin1String("Port"), i);
-        m_db->endUpdateNode(node);
-        m_db->auditLog().log(ProgramLogEntry(1, text));
-        const QString added = addNode(*m_db, RecordingFolderType, text, text);
-        m_db->addNodeRelation(m_camera, added, RecordingFolderRelation);
-        m_db->removeNode(named(*m_db, QString::number(i - 3)));
-        m_db->setGlobalRecordingFolderPath(text);
     }
 
     /// The event loop has come round; this call was put into its queue after the one that stores.
@@ -81,8 +51,8 @@ private:
     }
 
     const std::unique_ptr<HostNodeDB> m_db;
+    const std::unique_ptr<Workload> m_workload;
     int m_number;
-    QString m_camera;
 };
 
 } // namespace
@@ -92,147 +62,127 @@ class TestDurability : public QObject
     Q_OBJECT
 
 private slots:
-    void confirmedEditsSurviveKills();
+    void confirmedStepsSurviveKills_data();
+    void confirmedStepsSurviveKills();
     void firstStartSurvivesKills();
     void migrationSurvivesKills();
     void changesAreStoredAtTheEnd();
 
 private:
-    static void start(QProcess& process, const QString& mode, const QString& file);
-    static int expectWhole(const QString& file);
+    static void start(QProcess& process, const QString& workload, const QString& file);
 };
 
-void TestDurability::start(QProcess& process, const QString& mode, const QString& file)
+void TestDurability::start(QProcess& process, const QString& workload, const QString& file)
 {
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(), {mode, file});
+    process.start(QCoreApplication::applicationFilePath(), {QLatin1String("--work"), workload, file});
     QVERIFY(process.waitForStarted());
 }
 
-/// The number of the last edit; everything it did must be there and nothing of another one.
-int TestDurability::expectWhole(const QString& file)
+void TestDurability::confirmedStepsSurviveKills_data()
 {
-    const std::unique_ptr<HostNodeDB> db = openDatabase(file);
-    if (!db)
-        return -1;
-    const int number = db->globalRecordingFolderPath().toInt();
-    const QString camera = Editor::named(*db, mainCamera);
-    if (number == 0)
-        return db->summaries().count() <= 1 ? 0 : -2;
-    const QString text = QString::number(number);
-    const kom::smart<const Node> node = db->node(camera);
-    QStringList names(mainCamera);
-    for (int i = qMax(1, number - 2); i <= number; ++i)
-        names.append(QString::number(i));
-    QStringList found;
-    const QVector<NodeSummary> all = db->summaries();
-    for (const NodeSummary& summary : all)
-        found.append(summary.name);
-    const bool whole = node->stringProperty(QLatin1String("Address"), QString()) == text &&
-                       db->summary(camera).location == text &&
-                       node->stringProperty(QLatin1String("Model"), QString()).startsWith(text + '.') &&
-                       node->intProperty(QLatin1String("Port"), 0) == number && found == names &&
-                       db->relatedNodes(camera, RecordingFolderRelation).count() == names.count() - 1 &&
-                       db->auditLog().count() == number;
-    return whole ? number : -3;
+    QTest::addColumn<int>("lives");
+    QTest::newRow("edits") << soakOr(80, 16);
+    QTest::newRow("imports") << soakOr(70, 8);
+    QTest::newRow("mass assignments") << soakOr(70, 8);
 }
 
-void TestDurability::confirmedEditsSurviveKills()
+void TestDurability::confirmedStepsSurviveKills()
 {
+    QFETCH(int, lives);
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
+    const std::unique_ptr<Workload> workload = makeWorkload(name);
     const QTemporaryDir folder;
     const QString file = folder.filePath(QLatin1String("nodes.db"));
+    workload->prepare(*openDatabase(file));
     int confirmed = 0;
-    int lost = 0;
-    for (int round = 0; round < 40; ++round) {
-        QProcess editor;
-        start(editor, QLatin1String("--edit"), file);
-        const int atLeast = round % 4; // some are killed before they have confirmed anything
+    int unconfirmed = 0;
+    int cut = 0;
+    for (int life = 0; life < lives; ++life) {
+        QProcess worker;
+        start(worker, name, file);
+        const int atLeast = life % 4; // some are killed before they have confirmed anything
         QElapsedTimer timer;
         timer.start();
-        while (atLeast > 0 && !editor.canReadLine() && timer.elapsed() < 20000)
-            editor.waitForReadyRead(1000);
+        while (atLeast > 0 && !worker.canReadLine() && timer.elapsed() < 20000)
+            worker.waitForReadyRead(1000);
         QThread::msleep(QRandomGenerator::global()->bounded(60));
-        editor.kill();
-        QVERIFY(editor.waitForFinished());
-        QCOMPARE(editor.exitStatus(), QProcess::CrashExit);
-        const QList<QByteArray> lines = editor.readAllStandardOutput().split('\n');
+        worker.kill();
+        QVERIFY(worker.waitForFinished());
+        QCOMPARE(worker.exitStatus(), QProcess::CrashExit);
+        const QList<QByteArray> lines = worker.readAllStandardOutput().split('\n');
         for (const QByteArray& line : lines)
             confirmed = qMax(confirmed, line.toInt());
-        QCOMPARE(PlainSql(file).run(QLatin1String("PRAGMA integrity_check")).toString(), QLatin1String("ok"));
-        const int stored = expectWhole(file);
-        QVERIFY2(stored == confirmed || stored == confirmed + 1,
-                 qPrintable(QString::fromLatin1("confirmed %1, stored %2").arg(confirmed).arg(stored)));
-        lost += stored == confirmed ? 0 : 1;
-        confirmed = stored;
+        QVERIFY(isSound(file));
+        const std::unique_ptr<HostNodeDB> db = openDatabase(file);
+        QVERIFY(db);
+        const Stored stored = workload->stored(*db);
+        QVERIFY2(stored.least >= confirmed && stored.most <= confirmed + 1,
+                 qPrintable(QString::fromLatin1("confirmed %1, stored %2 to %3")
+                                .arg(confirmed)
+                                .arg(stored.least)
+                                .arg(stored.most)));
+        QVERIFY(stored.least == stored.most || !workload->isOneTurn());
+        unconfirmed += stored.least == confirmed ? 0 : 1;
+        cut += stored.least == stored.most ? 0 : 1;
+        confirmed = stored.least;
     }
-    QVERIFY2(confirmed > 100, qPrintable(QString::number(confirmed)));
-    qInfo("%d edits, %d of 40 kills came between a commit and its confirmation", confirmed, lost);
+    QVERIFY2(confirmed > lives / 2, qPrintable(QString::number(confirmed)));
+    qInfo("%d lives, %d steps; %d kills came between a commit and its confirmation, %d between the commits "
+          "of a step",
+          lives, confirmed, unconfirmed, cut);
 }
 
 void TestDurability::firstStartSurvivesKills()
 {
-    for (int round = 0; round < 20; ++round) {
+    const int lives = soakOr(20, 10);
+    for (int life = 0; life < lives; ++life) {
         const QTemporaryDir folder;
         const QString file = folder.filePath(QLatin1String("nodes.db"));
-        QProcess editor;
-        start(editor, QLatin1String("--edit"), file);
+        QProcess worker;
+        start(worker, QLatin1String("edits"), file);
         QElapsedTimer timer;
         timer.start();
         while (!QFile::exists(file) && timer.elapsed() < 20000)
             QThread::usleep(100);
         QThread::usleep(QRandomGenerator::global()->bounded(3000));
-        editor.kill();
-        QVERIFY(editor.waitForFinished());
-        QVERIFY(expectWhole(file) >= 0);
-        QCOMPARE(openDatabase(file)->environments().getList().count(), 1);
+        worker.kill();
+        QVERIFY(worker.waitForFinished());
+        const std::unique_ptr<HostNodeDB> db = openDatabase(file);
+        QVERIFY(db && Edits().stored(*db).least >= 0);
+        QCOMPARE(db->environments().getList().count(), 1);
     }
 }
 
 void TestDurability::migrationSurvivesKills()
 {
+    const int cameras = 30000;
+    const int lives = soakOr(60, 10);
     const QTemporaryDir folder;
     const QString original = folder.filePath(QLatin1String("original.db"));
-    {
-        StoreError error;
-        const std::unique_ptr<SqliteStore> store =
-            SqliteStore::open(original, &error, SqliteStore::Check::First, 1);
-        QVERIFY(store);
-        Transaction transaction(*store, Transaction::Write);
-        for (int i = 1; i <= 30000; ++i)
-            store->run("INSERT INTO nodes VALUES (?, ?, 2, 'camera', '', -1, ?)",
-                       {i, QString::number(i), QString::number(i)});
-        transaction.commit();
-    }
+    makeOldDatabase(original, cameras);
+    const QString file = folder.filePath(QLatin1String("nodes.db"));
     int old = 0;
-    for (int round = 0; round < 20; ++round) {
-        const QString file = folder.filePath(QString::fromLatin1("%1.db").arg(round));
+    for (int life = 0; life < lives; ++life) {
         QVERIFY(QFile::copy(original, file));
-        QProcess editor;
-        start(editor, QLatin1String("--edit"), file);
+        QProcess worker;
+        start(worker, QLatin1String("edits"), file);
         QElapsedTimer timer;
         timer.start();
         const QStringList backup = {QFileInfo(file).fileName() + QLatin1String(".backup*")};
         while (QDir(folder.path()).entryList(backup).isEmpty() && timer.elapsed() < 20000)
             QThread::usleep(100);
-        QThread::usleep(QRandomGenerator::global()->bounded(40000));
-        editor.kill();
-        QVERIFY(editor.waitForFinished());
-        QString version;
-        {
-            PlainSql plain(file);
-            QCOMPARE(plain.run(QLatin1String("PRAGMA integrity_check")).toString(), QLatin1String("ok"));
-            version = plain.run(QLatin1String("PRAGMA user_version")).toString();
-            QVERIFY(plain.run(QLatin1String("SELECT count(*) FROM nodes")).toInt() >= 30000);
-            const int indexes = plain
-                                    .run(QLatin1String("SELECT count(*) FROM sqlite_master WHERE name IN "
-                                                       "('nodes_lookup', 'relations_destination')"))
-                                    .toInt();
-            QCOMPARE(indexes, version == QLatin1String("1") ? 0 : 2);
-        }
-        old += version == QLatin1String("1") ? 1 : 0;
+        QThread::usleep(QRandomGenerator::global()->bounded(life % 2 == 0 ? 40000 : 400000));
+        worker.kill();
+        QVERIFY(worker.waitForFinished());
+        QVERIFY(isSound(file));
+        const int version = wholeVersion(file, cameras);
+        QVERIFY(version >= 1);
+        old += version == 1 ? 1 : 0;
         QVERIFY(openDatabase(file));
+        removeDatabase(file);
     }
-    qInfo("%d of 20 kills came before the commit of the migration", old);
+    qInfo("%d of %d kills came before the commit of the migration", old, lives);
 }
 
 void TestDurability::changesAreStoredAtTheEnd()
@@ -247,11 +197,13 @@ int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.value(1) == QLatin1String("--edit")) {
-        std::unique_ptr<HostNodeDB> db = openDatabase(arguments.value(2));
-        if (!db)
+    if (arguments.value(1) == QLatin1String("--work")) {
+        std::unique_ptr<Workload> workload = makeWorkload(arguments.value(2));
+        std::unique_ptr<HostNodeDB> db = openDatabase(arguments.value(3));
+        if (!db || !workload)
             return 1;
-        const Editor editor(std::move(db));
+        QApplication::setQuitOnLastWindowClosed(false); // a dialog comes and goes with each step
+        const Worker worker(std::move(db), std::move(workload));
         return QApplication::exec();
     }
     testsupport::prepareApplication();
