@@ -11,8 +11,7 @@ namespace {
 const char* const names[] = {
     "<b>Gate</b><img src='file:///etc/passwd'>",
     "Gate\x1b[31m\r\nred\a",
-    "Gate \xe2\x80\xae"
-    "3pm.1",
+    "Gate \342\200\2563pm.1",
     "%s%n%1%2 $(reboot) '; drop table nodes; --",
     "Ga\xe2\x80\x8bte\xef\xbb\xbf\xe2\x81\xa0",
     "WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW",
