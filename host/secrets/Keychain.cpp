@@ -37,7 +37,10 @@ Outcome run(QKeychain::Job* job, int patience)
             outcome->text = reader->textData();
         loop.quit();
     });
-    QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(patience);
     job->start();
     if (!outcome->finished)
         loop.exec(QEventLoop::ExcludeUserInputEvents);
