@@ -38,18 +38,46 @@ bool writeAll(int file, const QByteArray& data)
     return ::write(file, data.constData(), std::size_t(data.size())) == data.size() && ::fsync(file) == 0;
 }
 
-/// False, with errno, if the file is there already or could not be written in full.
+bool flushFolder(const QString& name)
+{
+    const int folder = ::open(QFile::encodeName(name).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return false;
+    const bool good = ::fsync(folder) == 0;
+    const int error = errno;
+    ::close(folder);
+    errno = error;
+    return good;
+}
+
+/// Gives the file \a draft the name \a path, if no file has it.
+bool publish(const QByteArray& draft, const QByteArray& path)
+{
+    if (::link(draft.constData(), path.constData()) == 0) {
+        ::unlink(draft.constData());
+        return true;
+    }
+    return errno != EEXIST &&
+           ::rename(draft.constData(), path.constData()) == 0; // no links on some file systems
+}
+
+/// False, with errno, if the file is there already or could not be written in full. The name appears with
+/// the whole key behind it, or never: half a key would be kept for ever.
 bool createKeyFile(const QString& name, const QByteArray& key)
 {
     const QByteArray path = QFile::encodeName(name);
-    const int file = ::open(path.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    const QByteArray draft = path + ".new";
+    ::unlink(draft.constData()); // of a program that was killed here
+    const int file = ::open(draft.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (file < 0)
         return false;
-    const bool good = ::fchmod(file, S_IRUSR | S_IWUSR) == 0 && writeAll(file, toText(key).toLatin1() + '\n');
+    const bool good = ::fchmod(file, S_IRUSR | S_IWUSR) == 0 &&
+                      writeAll(file, toText(key).toLatin1() + '\n') && publish(draft, path) &&
+                      flushFolder(QFileInfo(name).absolutePath());
     const int error = errno;
     ::close(file);
     if (!good)
-        ::unlink(path.constData());
+        ::unlink(draft.constData());
     errno = error;
     return good;
 }
@@ -136,10 +164,9 @@ private:
         }
         const QByteArray key = Sealer::newKey();
         QString stored;
-        if (m_answer == Keychain::NoEntry && m_keychain.write(toText(key)) &&
-            m_keychain.read(&stored) == Keychain::Found && fromText(stored) == key)
-            m_keys.push_back(key);
-        else if (!m_hasFile && createKeyFile(m_places.keyFile, key))
+        const bool inKeychain = m_answer == Keychain::NoEntry && m_keychain.write(toText(key)) &&
+                                m_keychain.read(&stored) == Keychain::Found && fromText(stored) == key;
+        if (inKeychain || (!m_hasFile && createKeyFile(m_places.keyFile, key)))
             m_keys.push_back(key);
         else if (!m_hasFile)
             m_problems.append(QLatin1String("the key file cannot be made: ") +

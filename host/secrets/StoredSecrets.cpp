@@ -22,7 +22,7 @@ struct Clear
 /// What is sealed, and looked at again: the text in the clear exists nowhere else after this.
 QString sealed(const SqliteStore& store, const QString& owner, const QString& key, const QString& text)
 {
-    const QString result = Secrets::seal(owner, key, text);
+    QString result = Secrets::seal(owner, key, text);
     if (Secrets::open(owner, key, result) != text)
         throw StoreFailure{
             StoreError::make(StoreError::Other, store.fileName(), QLatin1String("sealing failed"))};

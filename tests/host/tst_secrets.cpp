@@ -82,10 +82,19 @@ QVector<QByteArray> base64(const QByteArray& bytes)
     return forms;
 }
 
+/// "%2F" as "%2f".
+QByteArray withLowerHex(QByteArray percentEncoded)
+{
+    for (int at = percentEncoded.indexOf('%'); at >= 0; at = percentEncoded.indexOf('%', at + 1))
+        percentEncoded.replace(at, 3, percentEncoded.mid(at, 3).toLower());
+    return percentEncoded;
+}
+
 QVector<QByteArray> formsOf(const QString& password)
 {
     const QByteArray utf8 = password.toUtf8();
-    QVector<QByteArray> forms = {utf8, QUrl::toPercentEncoding(password)};
+    const QByteArray percent = QUrl::toPercentEncoding(password);
+    QVector<QByteArray> forms = {utf8, percent, withLowerHex(percent)};
     forms += base64(utf8);
     const QVector<QByteArray> wide = utf16(password);
     for (const QByteArray& bytes : wide)
@@ -128,6 +137,7 @@ private slots:
     void onlySealedTextsLookSealed();
 
     void keyFileIsPrivateAndKept();
+    void halfWrittenKeyFileIsNone();
     void unreadableKeyFileIsNotReplaced();
     void withoutAnyPlaceTheKeyLastsForTheProcess();
     void twoProcessesMakeOneKey();
@@ -272,6 +282,18 @@ void tst_Secrets::keyFileIsPrivateAndKept()
     const QByteArray before = digest(places().keyFile);
     QCOMPARE(*InstallationKey::load(places()).sealer.open(sealed, owner, field), QLatin1String("s3cret"));
     QCOMPARE(digest(places().keyFile), before);
+}
+
+void tst_Secrets::halfWrittenKeyFileIsNone()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String("config")));
+    const QString draft = places().keyFile + QLatin1String(".new");
+    QFile file(draft);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("half") > 0);
+    file.close();
+    QVERIFY(InstallationKey::load(places()).kept);
+    QCOMPARE(mode(places().keyFile), 0600);
+    QVERIFY(!QFile::exists(draft));
 }
 
 void tst_Secrets::unreadableKeyFileIsNotReplaced()
