@@ -58,6 +58,25 @@ const unsigned listOptions = 17; ///< as the other lists of nodes pass them
 
 const char csvFilter[] = QT_TRANSLATE_NOOP("ko::MainWindow", "Lists of cameras (*.csv);;All files (*)");
 
+/// What the list shows as the recording of \a node. No member, because the view still asks while it goes
+/// down with its window.
+QString recordingText(const HostNodeDB& db, const NodeSummary& node)
+{
+    switch (node.recordingUsage) {
+    case -1:
+        return QString();
+    case 0:
+        return node.type == RecordingFolderType ? QString() : MainWindow::tr("Via camera");
+    case 1:
+    case 3: // the forms 3 and 4 are of older databases
+        return MainWindow::tr("Default file server path");
+    default: {
+        const QStringList folders = db.relatedNodes(node.id, RecordingFolderRelation);
+        return folders.isEmpty() ? QString() : db.summary(folders.first()).location;
+    }
+    }
+}
+
 } // namespace
 
 /// One entry of the menus.
@@ -77,7 +96,7 @@ struct MainWindow::Command
 MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     : QMainWindow(parent)
     , m_db(db)
-    , m_model(new NodeListModel([this](const NodeSummary& node) { return recordingText(node); }, this))
+    , m_model(new NodeListModel([&db](const NodeSummary& node) { return recordingText(db, node); }, this))
     , m_view(new NodeListView(this))
     , m_search(new QLineEdit(this))
     , m_types(new QComboBox(this))
@@ -300,23 +319,6 @@ void MainWindow::createCommands()
         m_search->selectAll();
     });
     addAction(find);
-}
-
-QString MainWindow::recordingText(const NodeSummary& node) const
-{
-    switch (node.recordingUsage) {
-    case -1:
-        return QString();
-    case 0:
-        return node.type == RecordingFolderType ? QString() : tr("Via camera");
-    case 1:
-    case 3: // the forms 3 and 4 are of older databases
-        return tr("Default file server path");
-    default: {
-        const QStringList folders = m_db.relatedNodes(node.id, RecordingFolderRelation);
-        return folders.isEmpty() ? QString() : m_db.summary(folders.first()).location;
-    }
-    }
 }
 
 void MainWindow::nodeChanged(ko::NodeID id)

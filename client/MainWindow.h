@@ -66,7 +66,6 @@ private:
     void createCommands();
     void createToolBar();
     void openEditor(const QString& id, bool readOnly);
-    QString recordingText(const NodeSummary& node) const;
     QStringList selectedNames(const QStringList& ids) const;
     QStringList selectedDevices() const;
     void logChanges(const QStringList& ids);
