@@ -172,7 +172,7 @@ void HostNodeDB::Private::start(HostNodeDB* database, Check when)
 void HostNodeDB::Private::checkBehind()
 {
     check = std::async(std::launch::async, [this, file = store->fileName()] {
-        const StoreError error = SqliteStore::findDamage(file);
+        StoreError error = SqliteStore::findDamage(file);
         QMetaObject::invokeMethod(
             q, [this, error] { emit q->checked(error); }, Qt::QueuedConnection);
         return error;

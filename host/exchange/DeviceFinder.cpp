@@ -54,7 +54,7 @@ void DeviceFinder::added(const QString& id, const SurveyRow& row)
 
 QString DeviceFinder::findByAddress(const SurveyRow& row, const NodeHint& hint, QString* reason)
 {
-    const QString id = NodeDB::getDB()->lookupHint(hint);
+    QString id = NodeDB::getDB()->lookupHint(hint);
     if (!id.isEmpty()) {
         m_known.insert(id);
         return id;

@@ -39,7 +39,7 @@ kom::smart<NodeHintIPDevice> describe(const SurveyRow& row)
     const auto driver = NodeDB::getDB()->nodeDriver(typeOf(row));
     if (driver.null())
         return kom::smart<NodeHintIPDevice>();
-    const auto hint = driver->createNodeHint(typeOf(row)).cast<NodeHintIPDevice>();
+    auto hint = driver->createNodeHint(typeOf(row)).cast<NodeHintIPDevice>();
     for (int column = 0; column < SurveyFields::Count && !hint.null(); ++column) {
         const SurveyField& field = SurveyFields::field(column);
         if (field.describe && row.has(field.column))
