@@ -14,7 +14,7 @@ void forbidCoreDumps()
     const rlimit none = {0, 0};
     if (::setrlimit(RLIMIT_CORE, &none) != 0)
         std::perror("core dumps cannot be limited");
-#ifndef __SANITIZE_ADDRESS__ // the search for leaks must look into the process
+#ifndef KO_SANITIZE // the search for leaks must look into the process
     if (::prctl(PR_SET_DUMPABLE, 0) != 0)
         std::perror("core dumps cannot be switched off");
 #endif

@@ -40,6 +40,7 @@ endif()
 if(KO_SANITIZE)
     target_compile_options(ko_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                            -fno-omit-frame-pointer)
+    target_compile_definitions(ko_flags INTERFACE KO_SANITIZE)
     target_link_options(ko_flags INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -8,14 +8,71 @@
 #include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QThread>
 
+#include <csignal>
+
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace ko;
 
 namespace {
 
 const char clientArgument[] = "--as-client";
+
+/// A program in a folder of its own that may leave a core dump as large as it likes.
+class DumpableProcess
+{
+public:
+    explicit DumpableProcess(const QStringList& command)
+    {
+        std::vector<QByteArray> words;
+        for (const QString& word : command)
+            words.push_back(QFile::encodeName(word));
+        std::vector<char*> argv;
+        for (QByteArray& word : words)
+            argv.push_back(word.data());
+        argv.push_back(nullptr);
+        const QByteArray folder = QFile::encodeName(m_folder.path());
+        m_pid = ::fork();
+        if (m_pid == 0) {
+            rlimit limit;
+            if (::getrlimit(RLIMIT_CORE, &limit) == 0) {
+                limit.rlim_cur = limit.rlim_max;
+                ::setrlimit(RLIMIT_CORE, &limit);
+            }
+            if (::chdir(folder.constData()) == 0)
+                ::execv(argv[0], argv.data());
+            ::_exit(127);
+        }
+    }
+    Q_DISABLE_COPY(DumpableProcess)
+    ~DumpableProcess()
+    {
+        if (m_pid > 0 && !m_ended) {
+            ::kill(m_pid, SIGKILL);
+            ::waitpid(m_pid, nullptr, 0);
+        }
+    }
+
+    /// Whether the process aborts, and with a dump.
+    bool abort(bool* dumped)
+    {
+        int status = 0;
+        ::kill(m_pid, SIGABRT);
+        m_ended = ::waitpid(m_pid, &status, 0) == m_pid;
+        *dumped = m_ended && (WCOREDUMP(status) || !QDir(m_folder.path()).isEmpty());
+        return m_ended && WIFSIGNALED(status) && WTERMSIG(status) == SIGABRT;
+    }
+
+private:
+    const QTemporaryDir m_folder;
+    pid_t m_pid;
+    bool m_ended = false;
+};
 
 /// How one call of the program ended.
 struct Call
@@ -51,6 +108,7 @@ private slots:
     void badDatabases();
     void lockedDatabase();
     void damageFoundWithTheWindowOpen();
+    void noCoreDump();
     void backupAndRestore();
     void restoreOfNothing();
 
@@ -287,6 +345,27 @@ void tst_CommandLine::damageFoundWithTheWindowOpen()
     client.kill();
     QVERIFY(client.waitForFinished());
     QCOMPARE(contentOf(m_database).size(), sound.size());
+}
+
+void tst_CommandLine::noCoreDump()
+{
+    bool dumped = false;
+    {
+        DumpableProcess other({QStringLiteral("/bin/sleep"), QStringLiteral("60")});
+        QThread::msleep(200); // it must have become the other program
+        QVERIFY(other.abort(&dumped));
+    }
+    if (!dumped) {
+        QTest::qSkip("this system writes no core dumps", __FILE__, __LINE__);
+        return;
+    }
+    onDatabase({"--import", write("in.csv", "name,address,password\nGate,10.0.0.1,s3cret\n")});
+    const QString inUse = m_database + QStringLiteral("-wal");
+    QVERIFY(!QFile::exists(inUse));
+    DumpableProcess client({QStringLiteral(KO_KOCLIENT), QStringLiteral("--db"), m_database});
+    QVERIFY(QTest::qWaitFor([&] { return QFile::exists(inUse); }, 20000));
+    QVERIFY(client.abort(&dumped));
+    QVERIFY(!dumped);
 }
 
 void tst_CommandLine::backupAndRestore()

@@ -16,8 +16,6 @@
 
 #include <algorithm>
 
-#include <malloc.h>
-
 using namespace ko;
 using testsupport::child;
 using testsupport::NetworkNamespaces;
@@ -32,12 +30,6 @@ const IPDeviceNode* device(HostNodeDB& db, const QString& id, kom::smart<const N
 {
     holder = db.node(id);
     return dynamic_cast<const IPDeviceNode*>(holder.get());
-}
-
-qint64 bytesInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return qint64(info.uordblks + info.hblkhd);
 }
 
 } // namespace
@@ -370,7 +362,7 @@ void tst_Scans::burstOfDevices()
             db.removeNode(node.id);
         QVERIFY(db.flush());
         QTRY_VERIFY(db.deviceIntake().isIdle());
-        bytes.append(bytesInUse());
+        bytes.append(testsupport::heapInUse());
     }
     // The first round fills what is kept for later, such as the store's cache.
     const qint64 growth = bytes.last() - bytes.at(1);

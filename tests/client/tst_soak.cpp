@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/ProcessResources.h"
 #include "support/Soak.h"
 #include "support/TestMain.h"
 
@@ -22,8 +23,6 @@
 
 #include <atomic>
 #include <cstdio>
-
-#include <malloc.h>
 
 /// The toolkit's table of functions for debuggers: a version, the size, a version, then those that are called
 /// with each QObject that comes and with each that goes.
@@ -64,8 +63,7 @@ Measure measure()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
-    const struct mallinfo2 heap = mallinfo2();
-    return {qint64(heap.uordblks + heap.hblkhd), liveObjects, int(QApplication::allWidgets().size())};
+    return {testsupport::heapInUse(), liveObjects, int(QApplication::allWidgets().size())};
 }
 
 /// Not through the test's log, which the platform plugin's warnings fill up.

@@ -173,6 +173,8 @@ QString TestTwoProcesses::answer()
     timer.start();
     while (!m_other->canReadLine() && timer.elapsed() < 60000)
         m_other->waitForReadyRead(1000);
+    if (!m_other->canReadLine())
+        QTest::qFail("the other process does not answer", __FILE__, __LINE__);
     return QString::fromUtf8(m_other->readLine()).trimmed();
 }
 
