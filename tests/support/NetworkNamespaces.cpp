@@ -125,6 +125,10 @@ QString NetworkNamespaces::missing()
 
 NetworkNamespaces::~NetworkNamespaces()
 {
+    // Left to the end of the second network, the cable would stay for a while, and the next one has its name.
+    if (m_isConnected &&
+        !run(Here, QStringLiteral("ip"), {QStringLiteral("link"), QStringLiteral("delete"), hereInterface()}))
+        qWarning("%s", qPrintable(m_error));
     while (!m_processes.empty()) { // the latest first: a daemon before its bus
         end(m_processes.back().get());
         m_processes.pop_back();
@@ -188,9 +192,10 @@ bool NetworkNamespaces::connectSite(int prefix)
     const auto ip = [this](Side side, const QString& words) {
         return run(side, QStringLiteral("ip"), words.split(QLatin1Char(' ')));
     };
-    return ip(Here, QStringLiteral("link add %1 type veth peer name %2 netns %3")
-                        .arg(hereInterface(), siteInterface())
-                        .arg(m_site)) &&
+    m_isConnected = ip(Here, QStringLiteral("link add %1 type veth peer name %2 netns %3")
+                                 .arg(hereInterface(), siteInterface())
+                                 .arg(m_site));
+    return m_isConnected &&
            ip(Here, QStringLiteral("addr add 10.99.0.1/%1 dev %2").arg(prefix).arg(hereInterface())) &&
            addSiteAddress(QStringLiteral("10.99.0.2"), prefix) &&
            ip(Here, QStringLiteral("link set %1 up").arg(hereInterface())) &&

@@ -56,6 +56,7 @@ private:
     bool startDaemons(Side side);
 
     qint64 m_site = 0; ///< process that keeps its namespaces
+    bool m_isConnected = false;
     QString m_error;
     std::vector<std::unique_ptr<QProcess>> m_processes;
 };
