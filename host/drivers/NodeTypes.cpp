@@ -6,8 +6,13 @@
 #include "ko/NodeHintIPDevice.h"
 #include "kogen/Property.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHash>
+#include <QImage>
+#include <QPalette>
+#include <QPixmap>
+
+#include <algorithm>
 
 namespace ko {
 
@@ -139,6 +144,25 @@ void describeDevice(NodeData& data, const NodeHintIPDevice& hint)
     ProxyProperties::write(data, hint.proxy);
 }
 
+constexpr int White = 245;
+constexpr int Edge = 55; // steps of gray below white that edges are smoothed over
+
+/// What stands for \a picture on a selection: its shape in the color of the text there, open where it is
+/// white. The toolkit's tint would leave a blue camera on a blue ground.
+QPixmap onSelection(const QImage& picture)
+{
+    const QRgb ink = QGuiApplication::palette().color(QPalette::HighlightedText).rgb();
+    QImage shape = picture.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < shape.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(shape.scanLine(y));
+        std::transform(line, line + shape.width(), line, [ink](QRgb pixel) {
+            const int cover = qBound(0, White - qGray(pixel), Edge) * qAlpha(pixel) / Edge;
+            return qRgba(qRed(ink), qGreen(ink), qBlue(ink), cover);
+        });
+    }
+    return QPixmap::fromImage(shape);
+}
+
 } // namespace
 
 QList<ENodeType> all()
@@ -163,7 +187,10 @@ QIcon icon(ENodeType type)
     QIcon& icon = icons[type];
     if (icon.isNull()) {
         const TypeInfo* info = find(type);
-        icon = QIcon(QString::fromLatin1(":/host/%1.png").arg(QLatin1String(info ? info->icon : "node")));
+        const QString name = QLatin1String(":/host/") + QLatin1String(info ? info->icon : "node");
+        icon = QIcon(name + QLatin1String(".png"));
+        for (const char* end : {".png", "@2x.png"})
+            icon.addPixmap(onSelection(QImage(name + QLatin1String(end))), QIcon::Selected);
     }
     return icon;
 }

@@ -4,12 +4,15 @@
 
 #include "dialogs/EditNodeDialog.h"
 #include "drivers/InspectorPages.h"
+#include "drivers/NodeTypes.h"
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QDir>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPalette>
 #include <QProcess>
 #include <QScopeGuard>
@@ -151,6 +154,7 @@ private slots:
     void doubleScale();
     void icons_data();
     void icons();
+    void selectedIcons();
 };
 
 void tst_Windows::inspectors_data()
@@ -252,6 +256,28 @@ void tst_Windows::icons()
     const QString doubled = QString(file).replace(QLatin1String(".png"), QLatin1String("@2x.png"));
     if (!file.contains(QLatin1String("@2x")))
         QCOMPARE(QImage(doubled).size(), picture.size() * 2);
+}
+
+void tst_Windows::selectedIcons()
+{
+    const QColor selection = QApplication::palette().color(QPalette::Highlight);
+    const QDir pictures(QStringLiteral("pictures"));
+    QVERIFY(pictures.mkpath(QStringLiteral(".")));
+    const QList<ENodeType> types = NodeTypes::all();
+    for (const ENodeType type : types) {
+        const QIcon icon = NodeTypes::icon(type);
+        for (const double ratio : {1.0, 2.0}) {
+            QImage picture(QSize(24, 16) * ratio, QImage::Format_ARGB32_Premultiplied);
+            picture.setDevicePixelRatio(ratio);
+            picture.fill(Qt::transparent);
+            QPainter painter(&picture);
+            icon.paint(&painter, QRect(0, 0, 24, 16), Qt::AlignCenter, QIcon::Selected);
+            painter.end();
+            QVERIFY2(visibleShare(picture, selection) > 0.6, qPrintable(NodeTypes::readableName(type)));
+            QVERIFY(
+                picture.save(pictures.filePath(QStringLiteral("selected-%1x%2.png").arg(type).arg(ratio))));
+        }
+    }
 }
 
 KO_TEST_MAIN(tst_Windows)
