@@ -19,9 +19,8 @@ constexpr char Mark[] = "***";
 ///   "password":"x" in JSON, escaped JSON in JSON, a list or an object as the value);
 /// - what follows "Authorization:" to the end of the line.
 ///
-/// Rather takes too much than too little: a host name goes along when a later part of its URL has an "@". A
-/// text that passed once comes out the same when it passes again. Never slower than in proportion to the
-/// length of the text.
+/// Rather takes too much than too little: a host name goes along when a later part of its URL has an "@".
+/// Never slower than in proportion to the length of the text.
 KO_HOST_EXPORT QString redacted(const QString& text);
 
 } // namespace Redaction
