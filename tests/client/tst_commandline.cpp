@@ -1,3 +1,4 @@
+#include "support/ExecArguments.h"
 #include "support/HostFixture.h"
 #include "support/TestMain.h"
 
@@ -29,13 +30,7 @@ class DumpableProcess
 public:
     explicit DumpableProcess(const QStringList& command)
     {
-        std::vector<QByteArray> words;
-        for (const QString& word : command)
-            words.push_back(QFile::encodeName(word));
-        std::vector<char*> argv;
-        for (QByteArray& word : words)
-            argv.push_back(word.data());
-        argv.push_back(nullptr);
+        const testsupport::ExecArguments arguments(command);
         const QByteArray folder = QFile::encodeName(m_folder.path());
         m_pid = ::fork();
         if (m_pid == 0) {
@@ -45,7 +40,7 @@ public:
                 ::setrlimit(RLIMIT_CORE, &limit);
             }
             if (::chdir(folder.constData()) == 0)
-                ::execv(argv[0], argv.data());
+                ::execv(arguments.program(), arguments.data());
             ::_exit(127);
         }
     }
@@ -61,6 +56,8 @@ public:
     /// Whether the process aborts, and with a dump.
     bool abort(bool* dumped)
     {
+        if (m_pid <= 0) // that would be all processes
+            return false;
         int status = 0;
         ::kill(m_pid, SIGABRT);
         m_ended = ::waitpid(m_pid, &status, 0) == m_pid;

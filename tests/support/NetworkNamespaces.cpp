@@ -1,5 +1,7 @@
 #include "support/NetworkNamespaces.h"
 
+#include "support/ExecArguments.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QStandardPaths>
@@ -73,15 +75,9 @@ QString failure(QProcess& process, const QString& program)
 
 void execute(const QStringList& command)
 {
-    std::vector<QByteArray> words;
-    for (const QString& word : command)
-        words.push_back(QFile::encodeName(word));
-    std::vector<char*> pointers;
-    for (QByteArray& word : words)
-        pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-    execvp(pointers[0], pointers.data());
-    std::perror(pointers[0]);
+    const ExecArguments arguments(command);
+    execvp(arguments.program(), arguments.data());
+    std::perror(arguments.program());
     std::exit(1);
 }
 
