@@ -15,6 +15,9 @@ namespace {
 const int pagesAtOnce = 1000;
 const int pause = 20; // milliseconds, while another process writes
 
+/// Bytes. The longest texts of nodes have some thousands of characters.
+const int longestValue = 16 * 1024 * 1024;
+
 struct Finalize
 {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
@@ -34,10 +37,6 @@ QString textOf(sqlite3_stmt* row, int column)
                              sqlite3_column_bytes(row, column));
 }
 
-/// Parents before children, so that references hold.
-const char* const tables[] = {"nodes",        "properties", "relations",  "settings",
-                              "environments", "audit",      "program_log"};
-
 /// The order that is reversed by going backwards.
 const char* orderOf(const QString& table)
 {
@@ -47,6 +46,9 @@ const char* orderOf(const QString& table)
 }
 
 } // namespace
+
+const char* const SqliteFile::Tables[7] = {"nodes",        "properties", "relations",  "settings",
+                                           "environments", "audit",      "program_log"};
 
 SqliteFile::SqliteFile(const QString& file, Mode mode)
     : m_file(file)
@@ -59,6 +61,7 @@ SqliteFile::SqliteFile(const QString& file, Mode mode)
         throw StoreFailure{StoreError::make(SqliteStore::kindOf(result), file, QLatin1String("open"))};
     }
     sqlite3_busy_timeout(m_handle, SqliteStore::BusyTimeout);
+    harden(m_handle);
 }
 
 SqliteFile::~SqliteFile()
@@ -73,9 +76,38 @@ void SqliteFile::check(int result) const
                                             QString::fromUtf8(sqlite3_errmsg(m_handle)))};
 }
 
-void SqliteFile::execute(const char* sql)
+void SqliteFile::harden(sqlite3* handle)
 {
-    check(sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr));
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, longestValue);
+}
+
+void SqliteFile::setCheckpointOnClose(sqlite3* handle, bool on)
+{
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, on ? 0 : 1, nullptr);
+}
+
+void SqliteFile::requireSound()
+{
+    const int version = text("PRAGMA user_version").toInt();
+    int result = SQLITE_OK;
+    const QString difference = StoreSchema::difference(m_handle, version, StoreSchema::Extent::Only, &result);
+    check(result);
+    if (!difference.isEmpty())
+        throw StoreFailure{StoreError::make(StoreError::OtherTables, m_file, difference)};
+    const QString damage = text("PRAGMA integrity_check(1)");
+    if (damage != QLatin1String("ok"))
+        throw StoreFailure{StoreError::make(StoreError::Damaged, m_file, damage)};
+    if (!text("PRAGMA foreign_key_check").isEmpty())
+        throw StoreFailure{StoreError::make(StoreError::Damaged, m_file, QLatin1String("broken references"))};
+}
+
+void SqliteFile::execute(const QByteArray& sql)
+{
+    check(sqlite3_exec(m_handle, sql.constData(), nullptr, nullptr, nullptr));
 }
 
 QString SqliteFile::text(const char* sql)
@@ -96,22 +128,50 @@ void SqliteFile::attach(const QString& file, const char* name)
 
 void SqliteFile::copyTo(SqliteFile& target)
 {
-    sqlite3_backup* backup = sqlite3_backup_init(target.m_handle, "main", m_handle, "main");
-    if (!backup)
-        target.check(sqlite3_errcode(target.m_handle));
-    int waited = 0;
+    // Without a transaction each commit of another program would make SQLite begin anew.
+    execute("BEGIN");
+    text("PRAGMA user_version");
     int result = SQLITE_OK;
-    while (result == SQLITE_OK || result == SQLITE_BUSY || result == SQLITE_LOCKED) {
-        result = sqlite3_backup_step(backup, pagesAtOnce);
-        if (result != SQLITE_BUSY && result != SQLITE_LOCKED)
+    const int finished = copyPages(target, &result);
+    execute("COMMIT");
+    target.check(result == SQLITE_DONE ? finished : result);
+}
+
+/// The result of the last step, and that of the end.
+int SqliteFile::copyPages(SqliteFile& target, int* result)
+{
+    sqlite3_backup* backup = sqlite3_backup_init(target.m_handle, "main", m_handle, "main");
+    if (!backup) {
+        *result = sqlite3_errcode(target.m_handle);
+        return *result;
+    }
+    int waited = 0;
+    do {
+        *result = sqlite3_backup_step(backup, pagesAtOnce);
+        if (*result != SQLITE_BUSY && *result != SQLITE_LOCKED)
             continue;
         if (waited > SqliteStore::BusyTimeout)
             break;
         waited += pause;
         sqlite3_sleep(pause);
-    }
-    const int finished = sqlite3_backup_finish(backup);
-    target.check(result == SQLITE_DONE ? finished : result);
+    } while (*result == SQLITE_OK || *result == SQLITE_BUSY || *result == SQLITE_LOCKED);
+    return sqlite3_backup_finish(backup);
+}
+
+void SqliteFile::replace(SqliteFile& target)
+{
+    // Whoever uses a database with a log has a lock on it all the time; whoever comes now waits for this one.
+    target.execute("PRAGMA locking_mode = EXCLUSIVE");
+    if (target.text("PRAGMA journal_mode = DELETE") != QLatin1String("delete"))
+        throw StoreFailure{StoreError::make(StoreError::Locked, target.m_file, QLatin1String("in use"))};
+    target.text(
+        "PRAGMA journal_mode = TRUNCATE"); // a journal of nothing is all that a lock kept so long leaves
+    target.execute("BEGIN EXCLUSIVE");
+    target.execute("COMMIT");
+    copyTo(target);
+    target.execute("PRAGMA locking_mode = NORMAL");
+    target.text("PRAGMA user_version");          // the lock goes
+    target.text("PRAGMA journal_mode = DELETE"); // and so does the journal
 }
 
 qint64 SqliteFile::copyRows(SqliteFile& target)
@@ -119,7 +179,7 @@ qint64 SqliteFile::copyRows(SqliteFile& target)
     qint64 rows = 0;
     target.execute("PRAGMA foreign_keys = OFF");
     target.execute("BEGIN");
-    for (const char* table : tables) {
+    for (const char* table : Tables) {
         // What lies behind a bad page is reached from the other end.
         rows += copyTable(target, QLatin1String(table), false);
         rows += copyTable(target, QLatin1String(table), true);

@@ -1,6 +1,7 @@
 #ifndef KO_SQLITEFILE_H
 #define KO_SQLITEFILE_H
 
+#include <QByteArray>
 #include <QString>
 
 struct sqlite3;
@@ -9,6 +10,8 @@ namespace ko {
 
 /// A database file opened with SQLite's own interface, for what QtSql has no words for. Everything throws
 /// StoreFailure.
+///
+/// Whoever wrote the file may mean harm: its triggers and views do not run.
 class SqliteFile
 {
 public:
@@ -17,24 +20,43 @@ public:
     SqliteFile(const QString& file, Mode mode);
     ~SqliteFile();
 
-    void execute(const char* sql);
+    /// What every connection of this program is told before it reads: triggers and views of the file do not
+    /// run, nothing in it may change the schema, and no value is longer than a node needs.
+    static void harden(sqlite3* handle);
+
+    /// What a copy row by row takes over: parents before children, so that references hold.
+    static const char* const Tables[7];
+
+    /// Whether closing may bring the log into the file: not as long as the file may be a damaged one.
+    static void setCheckpointOnClose(sqlite3* handle, bool on);
+
+    void execute(const QByteArray& sql);
+
+    /// Throws unless the tables are those of the version that the file says it has, and nothing else is
+    /// there, all pages are sound and all references lead somewhere.
+    void requireSound();
 
     /// First column of the first row.
     QString text(const char* sql);
 
     void attach(const QString& file, const char* name);
 
-    /// Makes \a target the same as this one, in one transaction of the target, whoever reads or writes
-    /// either.
+    /// Makes \a target the same as this one is now, in one transaction of the target, whoever reads or
+    /// writes either.
     void copyTo(SqliteFile& target);
 
+    /// The same, and \a target is then one file without a log. Throws, with \a target as it was, if another
+    /// program has it open.
+    void replace(SqliteFile& target);
+
     /// Inserts all rows that can be read into the tables of the same names of \a target, in both ways of
-    /// going through a table, and answers how many there were. Rows that do not fit are left out.
+    /// going through a table, and returns how many there were. Rows that do not fit are left out.
     qint64 copyRows(SqliteFile& target);
 
 private:
     Q_DISABLE_COPY(SqliteFile)
     void check(int result) const;
+    int copyPages(SqliteFile& target, int* result);
     qint64 copyTable(SqliteFile& target, const QString& table, bool backwards);
 
     const QString m_file;

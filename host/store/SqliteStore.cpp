@@ -2,6 +2,9 @@
 
 #include "secrets/Secrets.h"
 #include "secrets/StoredSecrets.h"
+#include "store/DraftFile.h"
+#include "store/SqliteFile.h"
+#include "store/StoreBackup.h"
 #include "store/StoreFile.h"
 
 #include <QDateTime>
@@ -77,21 +80,41 @@ bool SqliteStore::Rows::next()
 std::unique_ptr<SqliteStore> SqliteStore::open(const QString& file, StoreError* error, Check check,
                                                int version)
 {
-    bool created = false;
+    Opening opening;
+    opening.check = check;
+    opening.version = version;
+    return open(file, error, opening);
+}
+
+std::unique_ptr<SqliteStore> SqliteStore::open(const QString& file, StoreError* error, const Opening& opening)
+{
     try {
-        created = StoreFile::create(file);
-        checkFile(file, check, version);
-        std::unique_ptr<SqliteStore> store(new SqliteStore(file, ReadWrite));
-        store->prepare(version);
         *error = StoreError();
-        return store;
+        return openOrThrow(StoreFile::resolved(file), opening);
     } catch (const StoreFailure& failure) {
         *error = failure.error;
+        return nullptr;
     }
-    // Whoever opened the file meanwhile has written to it.
-    if (created && QFileInfo(file).size() == 0)
-        QFile::remove(file);
-    return nullptr;
+}
+
+std::unique_ptr<SqliteStore> SqliteStore::openOrThrow(const QString& file, const Opening& opening)
+{
+    if (!opening.mayBeEmptied && StoreBackup::isEmptied(file))
+        throw StoreFailure{StoreError::make(StoreError::Emptied, file, QLatin1String("a log or backups"))};
+    const bool created = StoreFile::create(file);
+    try {
+        checkFile(file, opening);
+        std::unique_ptr<SqliteStore> store(new SqliteStore(file, ReadWrite));
+        store->prepare(opening);
+        StoreFile::keepPrivate(file);
+        DraftFile::removeLeftovers(file, StoreBackup::folderOf(file));
+        return store;
+    } catch (const StoreFailure&) {
+        // Whoever opened the file meanwhile has written to it.
+        if (created && QFileInfo(file).size() == 0)
+            QFile::remove(file);
+        throw;
+    }
 }
 
 SqliteStore::SqliteStore(const QString& file, Mode mode)
@@ -104,8 +127,10 @@ SqliteStore::SqliteStore(const QString& file, Mode mode)
         options += QLatin1String(";QSQLITE_OPEN_READONLY");
     m_database.setConnectOptions(options);
     m_database.setDatabaseName(file);
-    if (m_database.open())
+    if (m_database.open()) {
+        SqliteFile::harden(handle());
         return;
+    }
     const QSqlError error = m_database.lastError();
     m_database = QSqlDatabase();
     QSqlDatabase::removeDatabase(m_connection);
@@ -120,19 +145,36 @@ SqliteStore::~SqliteStore()
     QSqlDatabase::removeDatabase(m_connection);
 }
 
-void SqliteStore::checkFile(const QString& file, Check check, int version)
+void SqliteStore::checkFile(const QString& file, const Opening& opening)
 {
-    StoreFile::check(file, version);
+    StoreFile::check(file, opening.version);
     // What a crash left in the write-ahead log would go into the file when the last connection closes,
     // unless that may only read.
     const bool hasLog = QFile::exists(file + QLatin1String("-wal"));
     SqliteStore probe(file, hasLog ? ReadOnly : ReadWrite);
     const int found = probe.userVersion();
-    if (found > version)
+    if (found > opening.version)
         throw StoreFailure{StoreError::make(StoreError::NewerVersion, file, QLatin1String("in its log"))};
-    const bool writesAtOnce = found < version || StoredSecrets::isPending(probe);
-    if (check == Check::First || writesAtOnce)
+    probe.checkTables(found);
+    const bool hasLogMode = probe.value("PRAGMA journal_mode").toString() == QLatin1String("wal");
+    const bool writesAtOnce = !hasLogMode || found < opening.version || StoredSecrets::isPending(probe);
+    if (opening.check == Check::First || writesAtOnce)
         probe.findDamage();
+}
+
+void SqliteStore::checkTables(int version)
+{
+    int result = 0;
+    const QString difference = StoreSchema::difference(handle(), version, StoreSchema::Extent::Ours, &result);
+    if (result != 0)
+        throw StoreFailure{StoreError::make(kindOf(result), m_file, QLatin1String("its tables"))};
+    if (!difference.isEmpty())
+        throw StoreFailure{StoreError::make(StoreError::OtherTables, m_file, difference)};
+}
+
+void SqliteStore::setSound()
+{
+    SqliteFile::setCheckpointOnClose(handle(), true);
 }
 
 StoreError SqliteStore::findDamage(const QString& file)
@@ -152,8 +194,11 @@ void SqliteStore::findDamage()
         throw StoreFailure{StoreError::make(StoreError::Damaged, m_file, result)};
 }
 
-void SqliteStore::prepare(int version)
+void SqliteStore::prepare(const Opening& opening)
 {
+    const int version = opening.version;
+    const bool hasLog = QFileInfo(m_file + QLatin1String("-wal")).size() > 0;
+    SqliteFile::setCheckpointOnClose(handle(), opening.check == Check::First || !hasLog);
     execute(QLatin1String("PRAGMA foreign_keys = ON"));
     if (userVersion() == 0)
         create(version);
@@ -161,7 +206,7 @@ void SqliteStore::prepare(int version)
     execute(QLatin1String("PRAGMA synchronous = FULL"));
     const int found = userVersion();
     if (found < version)
-        migrate(found, version);
+        migrate(found, opening);
     StoredSecrets::sealPending(*this);
     const Transaction attempt(*this, Transaction::Write); // finds out now whether writing is possible
 }
@@ -178,41 +223,43 @@ void SqliteStore::create(int version)
     transaction.commit();
 }
 
-void SqliteStore::migrate(int from, int to)
+void SqliteStore::migrate(int from, const Opening& opening)
 {
-    const QString copy = backUp(from);
+    const QString copy = opening.keepsCopy ? backUp(from) : QString();
+    const auto removeCopy = [&copy] {
+        if (!copy.isEmpty())
+            QFile::remove(copy);
+    };
     try {
         Transaction transaction(*this, Transaction::Write);
         if (userVersion() == from) {
-            applySteps(from, to);
+            applySteps(from, opening.version);
             transaction.commit();
             return;
         }
     } catch (const StoreFailure&) {
-        QFile::remove(copy); // nothing has changed, and the next try makes its own
+        removeCopy(); // nothing has changed, and the next try makes its own
         throw;
     }
-    QFile::remove(copy); // another process has migrated, and kept its own
+    removeCopy(); // another process has migrated, and kept its own
 }
 
+/// A copy gets its name when it is whole and its passwords are sealed.
 QString SqliteStore::backUp(int version)
 {
     const QString time = QDateTime::currentDateTimeUtc().toString(QLatin1String("yyyyMMdd'T'HHmmss'Z'"));
     const QString name = QString::fromLatin1("%1.backup-v%2-%3").arg(m_file).arg(version).arg(time);
-    QString copy = name;
-    for (int i = 2; !StoreFile::create(copy); ++i)
-        copy = name + QString::fromLatin1("-%1").arg(i);
-    try {
-        run("VACUUM INTO ?", {copy});
+    for (int i = 1;; ++i) {
+        const QString copy = i == 1 ? name : name + QString::fromLatin1("-%1").arg(i);
+        DraftFile draft(copy);
+        run("VACUUM INTO ?", {draft.name()});
         if (version < StoreSchema::FirstSealed && Secrets::isKeyKept()) {
-            SqliteStore saved(copy, ReadWrite);
+            SqliteStore saved(draft.name(), ReadWrite);
             StoredSecrets::seal(saved);
         }
-    } catch (const StoreFailure&) {
-        QFile::remove(copy);
-        throw;
+        if (draft.publish())
+            return copy;
     }
-    return copy;
 }
 
 int SqliteStore::userVersion()
@@ -250,11 +297,16 @@ SqliteStore::Rows SqliteStore::run(const char* sql, const QVariantList& values)
     return Rows(*this, query);
 }
 
-SqliteRows SqliteStore::read(const char* sql) const
+sqlite3* SqliteStore::handle() const
 {
     // The driver is linked with the same SQLite.
     const QVariant handle = m_database.driver()->handle();
-    return SqliteRows(*static_cast<sqlite3* const*>(handle.constData()), m_file, sql);
+    return *static_cast<sqlite3* const*>(handle.constData());
+}
+
+SqliteRows SqliteStore::read(const char* sql) const
+{
+    return SqliteRows(handle(), m_file, sql);
 }
 
 QVariant SqliteStore::value(const char* sql, const QVariantList& values)

@@ -34,12 +34,23 @@ public:
         ByUser, ///< whoever opens calls findDamage() before the first write
     };
 
+    struct Opening
+    {
+        Check check = Check::First;
+        bool mayBeEmptied = false; ///< make it anew also where a log or backups tell of an older one
+        bool keepsCopy = true;     ///< of the file as it was, beside it, when it is migrated
+        int version = StoreSchema::latest(); ///< another one serves the tests of migration
+    };
+
     /// Opens \a file after looking whether it may be opened; a missing or empty file becomes an empty
-    /// database of mode 0600. An older version is checked and migrated, with a copy of the file kept
-    /// beside it. On failure null and \a error, and the file is as it was. \a version serves the tests of
-    /// migration.
+    /// database of mode 0600. An older version is checked and migrated. On failure null and \a error, and
+    /// the file is as it was.
+    static std::unique_ptr<SqliteStore> open(const QString& file, StoreError* error, const Opening& opening);
     static std::unique_ptr<SqliteStore> open(const QString& file, StoreError* error,
                                              Check check = Check::First, int version = StoreSchema::latest());
+
+    /// With Check::ByUser, after findDamage() found nothing: from now on the file may be changed.
+    void setSound();
 
     /// Looks through every page of \a file, which may be in use. From any thread.
     static StoreError findDamage(const QString& file);
@@ -88,11 +99,14 @@ private:
     SqliteStore(const QString& file, Mode mode);
     Q_DISABLE_COPY(SqliteStore)
 
-    static void checkFile(const QString& file, Check check, int version);
+    static std::unique_ptr<SqliteStore> openOrThrow(const QString& file, const Opening& opening);
+    static void checkFile(const QString& file, const Opening& opening);
+    void checkTables(int version);
     void findDamage();
-    void prepare(int version);
+    void prepare(const Opening& opening);
     void create(int version);
-    void migrate(int from, int to);
+    void migrate(int from, const Opening& opening);
+    sqlite3* handle() const;
     QString backUp(int version);
     int userVersion();
     void applySteps(int from, int to);

@@ -1,5 +1,6 @@
 #include "store/StoreBackup.h"
 
+#include "store/DraftFile.h"
 #include "store/SqliteFile.h"
 #include "store/SqliteStore.h"
 #include "store/StoreFile.h"
@@ -7,8 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <cstdio>
 
 namespace ko {
 
@@ -23,37 +22,12 @@ QString timeName(const QDateTime& time)
     return time.toUTC().toString(QLatin1String(TimeFormat));
 }
 
-/// A file beside \a file that is deleted when it goes, unless it was moved to its place.
-class Draft
+[[noreturn]] void fail(StoreError::Kind kind, const QString& file, const char* detail)
 {
-public:
-    explicit Draft(const QString& file)
-        : m_name(file + QLatin1String(".new-") + timeName(QDateTime::currentDateTimeUtc()))
-    {
-        if (!StoreFile::create(m_name))
-            throw StoreFailure{StoreError::make(StoreError::CannotOpen, m_name, QLatin1String("exists"))};
-    }
+    throw StoreFailure{StoreError::make(kind, file, QLatin1String(detail))};
+}
 
-    ~Draft()
-    {
-        for (const char* end : {"", "-wal", "-shm", "-journal"})
-            QFile::remove(m_name + QLatin1String(end));
-    }
-
-    const QString& name() const { return m_name; }
-
-    void moveTo(const QString& target)
-    {
-        if (std::rename(QFile::encodeName(m_name).constData(), QFile::encodeName(target).constData()) != 0)
-            throw StoreFailure{StoreError::make(StoreError::ReadOnly, target, QLatin1String("rename"))};
-    }
-
-private:
-    Q_DISABLE_COPY(Draft)
-    const QString m_name;
-};
-
-/// Answers whether \a work ended without a failure.
+/// Returns whether \a work ended without a failure.
 template <class Work>
 bool succeeds(Work work, StoreError* error)
 {
@@ -69,10 +43,7 @@ bool succeeds(Work work, StoreError* error)
 void verifyOrThrow(const QString& file)
 {
     StoreFile::checkHeader(file, StoreSchema::latest());
-    SqliteFile opened(file, SqliteFile::ReadOnly);
-    const QString result = opened.text("PRAGMA integrity_check(1)");
-    if (result != QLatin1String("ok"))
-        throw StoreFailure{StoreError::make(StoreError::Damaged, file, result)};
+    SqliteFile(file, SqliteFile::ReadOnly).requireSound();
 }
 
 void copy(const QString& from, const QString& to)
@@ -82,30 +53,34 @@ void copy(const QString& from, const QString& to)
     source.copyTo(target);
 }
 
+/// Throws if a copy of \a database must not go to \a target.
+void checkTarget(const QString& database, const QString& target)
+{
+    if (StoreFile::isSame(database, target))
+        fail(StoreError::SameFile, target, "the same file");
+    if (QFileInfo::exists(target))
+        StoreFile::check(target, StoreSchema::latest());
+    // A new file would get what is in the old one's log.
+    else if (QFileInfo::exists(target + QLatin1String("-wal")))
+        fail(StoreError::Emptied, target, "a log without its database");
+}
+
 void writeOrThrow(const QString& database, const QString& target)
 {
     StoreFile::checkHeader(database, StoreSchema::latest());
-    Draft draft(target);
+    checkTarget(database, target);
+    DraftFile draft(target);
     copy(database, draft.name());
     SqliteFile(draft.name(), SqliteFile::ReadWrite).execute("PRAGMA journal_mode = DELETE"); // one file
     verifyOrThrow(draft.name());
-    draft.moveTo(target);
-}
-
-/// Numbers go on where the present database stands, so that programs that have it open do not take
-/// changes of the backup for those that they know, nor its nodes for others.
-void continueNumbers(const QString& restored, const QString& present)
-{
-    SqliteFile file(restored, SqliteFile::ReadWrite);
-    file.execute("DELETE FROM changes");
-    try {
-        file.attach(present, "present");
-        file.execute("UPDATE main.sqlite_sequence SET seq = max(seq, coalesce((SELECT seq FROM"
-                     " present.sqlite_sequence AS other WHERE other.name = sqlite_sequence.name), 0))");
-    } catch (const StoreFailure&) {
-        // The present one cannot be read; nobody has it open then.
-    }
-    file.execute("UPDATE sqlite_sequence SET seq = seq + 1 WHERE name = 'changes'");
+    if (draft.publish())
+        return;
+    // A program that has only just opened the file would go on with one that has no name any more, were it
+    // replaced. Its content can be, which every program sees.
+    checkTarget(database, target);
+    SqliteFile present(target, SqliteFile::ReadWrite);
+    SqliteFile(draft.name(), SqliteFile::ReadOnly).replace(present);
+    StoreFile::keepPrivate(target);
 }
 
 /// Files are named by their times down to the millisecond; two in one are told apart by waiting for the next.
@@ -122,14 +97,100 @@ QString newName(const QString& database)
 /// Whether the file holds nothing that a backup could keep.
 bool isUnusable(const StoreError& error)
 {
-    return error.kind == StoreError::Damaged || error.kind == StoreError::NotADatabase;
+    return error.kind == StoreError::Damaged || error.kind == StoreError::NotADatabase ||
+           error.kind == StoreError::OtherTables;
+}
+
+/// Opens \a database, made if need be, and closes it again. Throws.
+void bringUpToDate(const QString& database)
+{
+    SqliteStore::Opening opening;
+    opening.keepsCopy = false;
+    opening.mayBeEmptied = true;
+    StoreError error;
+    SqliteStore::open(database, &error, opening).reset();
+    if (error)
+        throw StoreFailure{error};
+}
+
+/// Makes \a database one that can be opened; what is there and cannot is moved out of the way. Returns
+/// whether there was anything.
+bool makeUsable(const QString& database)
+{
+    const bool emptied = isEmptied(database);
+    if (emptied)
+        StoreFile::moveAside(database); // with its log, which would go into what comes in its place
+    const bool hasContent = QFileInfo(database).size() > 0;
+    try {
+        bringUpToDate(database);
+        return hasContent;
+    } catch (const StoreFailure& failure) {
+        if (!isUnusable(failure.error))
+            throw;
+    }
+    StoreFile::moveAside(database);
+    bringUpToDate(database);
+    return false;
+}
+
+void keepPresent(const QString& database)
+{
+    StoreError error;
+    add(database, &error);
+    if (error)
+        throw StoreFailure{error};
+}
+
+/// Gives \a database, which programs may have open, the rows of \a restored in one transaction. Numbers of
+/// nodes and changes go on from where the database is at that moment, so that no program takes a change for
+/// one that it knows, and all of them look at everything.
+void replaceRows(const QString& database, const QString& restored, bool keep)
+{
+    SqliteFile file(database, SqliteFile::ReadWrite);
+    file.attach(restored, "restored");
+    file.execute("BEGIN IMMEDIATE");
+    if (keep)
+        keepPresent(database); // now, when nobody can add to it any more
+    file.execute("DELETE FROM main.changes");
+    for (const char* table : SqliteFile::Tables) {
+        const QByteArray name(table);
+        file.execute("DELETE FROM main." + name);
+        file.execute("INSERT INTO main." + name + " SELECT * FROM restored." + name);
+    }
+    file.execute("INSERT INTO main.sqlite_sequence SELECT name, seq FROM restored.sqlite_sequence"
+                 " WHERE name NOT IN (SELECT name FROM main.sqlite_sequence)");
+    file.execute("UPDATE main.sqlite_sequence SET seq = max(seq, coalesce((SELECT other.seq FROM"
+                 " restored.sqlite_sequence AS other WHERE other.name = sqlite_sequence.name), 0))");
+    file.execute("UPDATE main.sqlite_sequence SET seq = seq + 1 WHERE name = 'changes'");
+    file.execute("COMMIT");
+}
+
+void restoreOrThrow(const QString& backup, const QString& database)
+{
+    if (StoreFile::isSame(backup, database))
+        fail(StoreError::SameFile, database, "the same file");
+    verifyOrThrow(backup);
+    DraftFile draft(database);
+    copy(backup, draft.name());
+    bringUpToDate(draft.name());
+    const bool keep = makeUsable(database);
+    try {
+        replaceRows(database, draft.name(), keep);
+    } catch (const StoreFailure& failure) {
+        if (!keep || !isUnusable(failure.error))
+            throw;
+        StoreFile::moveAside(database); // what is damaged cannot be kept in another way
+        bringUpToDate(database);
+        replaceRows(database, draft.name(), false);
+    }
+    verifyOrThrow(database);
 }
 
 } // namespace
 
 bool write(const QString& database, const QString& target, StoreError* error)
 {
-    return succeeds([&] { writeOrThrow(database, target); }, error);
+    return succeeds([&] { writeOrThrow(StoreFile::resolved(database), StoreFile::resolved(target)); }, error);
 }
 
 bool verify(const QString& file, StoreError* error)
@@ -139,29 +200,7 @@ bool verify(const QString& file, StoreError* error)
 
 bool restore(const QString& backup, const QString& database, StoreError* error)
 {
-    return succeeds(
-        [&] {
-            verifyOrThrow(backup);
-            StoreError notKept;
-            if (QFile::exists(database))
-                add(database, &notKept);
-            const bool unusable = isUnusable(notKept);
-            if (notKept && !unusable)
-                throw StoreFailure{notKept};
-            Draft draft(database);
-            copy(backup, draft.name());
-            StoreError failed;
-            SqliteStore::open(draft.name(), &failed).reset(); // brings it up to date
-            if (failed)
-                throw StoreFailure{failed};
-            continueNumbers(draft.name(), database);
-            if (unusable)
-                StoreFile::moveAside(database);
-            StoreFile::create(database);
-            copy(draft.name(), database);
-            verifyOrThrow(database);
-        },
-        error);
+    return succeeds([&] { restoreOrThrow(backup, StoreFile::resolved(database)); }, error);
 }
 
 QString folderOf(const QString& database)
@@ -209,6 +248,14 @@ void removeOld(const QString& database, int days)
     }
 }
 
+bool isEmptied(const QString& database)
+{
+    const QFileInfo info(database);
+    if (info.size() > 0 || (info.exists() && !info.isFile()))
+        return false;
+    return QFileInfo(database + QLatin1String("-wal")).size() > 0 || !backups(database).isEmpty();
+}
+
 QString newestGood(const QString& database)
 {
     const QVector<Backup> found = backups(database);
@@ -226,11 +273,8 @@ QString salvage(const QString& database, StoreError* error)
     qint64 rows = 0;
     const bool done = succeeds(
         [&] {
-            Draft draft(target);
-            StoreError failed;
-            SqliteStore::open(draft.name(), &failed).reset();
-            if (failed)
-                throw StoreFailure{failed};
+            DraftFile draft(target);
+            bringUpToDate(draft.name());
             {
                 SqliteFile source(database, SqliteFile::ReadOnly);
                 SqliteFile saved(draft.name(), SqliteFile::ReadWrite);
@@ -241,7 +285,9 @@ QString salvage(const QString& database, StoreError* error)
             if (rows == 0)
                 throw StoreFailure{
                     StoreError::make(StoreError::Damaged, database, QLatin1String("nothing could be read"))};
-            draft.moveTo(target);
+            SqliteFile(draft.name(), SqliteFile::ReadWrite).execute("PRAGMA journal_mode = DELETE");
+            if (!draft.publish())
+                fail(StoreError::CannotOpen, target, "exists");
         },
         error);
     return done ? target : QString();

@@ -15,8 +15,9 @@ namespace ko {
 namespace StoreBackup {
 
 /// Copies \a database as it is now, what others write meanwhile included or not, to \a target. The copy is
-/// looked through completely before it takes the place of a file of that name; it is its owner's alone.
-/// False and \a error when there is no good copy; a file of that name is then as it was.
+/// looked through completely before \a target is touched; it is its owner's alone. A node database of that
+/// name is replaced if no program has it open; anything else of that name, and \a database itself, is
+/// refused. False and \a error when there is no good copy; a file of that name is then as it was.
 KO_HOST_EXPORT bool write(const QString& database, const QString& target, StoreError* error);
 
 /// Gives \a database the content of \a backup, in one step that all programs see as a change by another
@@ -24,10 +25,11 @@ KO_HOST_EXPORT bool write(const QString& database, const QString& target, StoreE
 /// read. A backup of an older version is brought up to date on the way; it stays as it is itself.
 KO_HOST_EXPORT bool restore(const QString& backup, const QString& database, StoreError* error);
 
-/// Whether the whole of the file is sound; slower than what is looked at when a database is opened.
+/// Whether the whole of the file is sound and holds our tables and nothing else; slower than what is looked
+/// at when a database is opened.
 KO_HOST_EXPORT bool verify(const QString& file, StoreError* error);
 
-/// Saves what can still be read of a damaged database into a new one beside it, row by row, and answers
+/// Saves what can still be read of a damaged database into a new one beside it, row by row, and returns
 /// its name; empty and \a error if nothing could be read. \a database itself stays as it is.
 KO_HOST_EXPORT QString salvage(const QString& database, StoreError* error);
 
@@ -43,11 +45,14 @@ struct Backup
 /// The backups of a database, newest first; by name, none is opened.
 KO_HOST_EXPORT QVector<Backup> backups(const QString& database);
 
-/// Makes a backup in folderOf(\a database) and answers its name; empty and \a error if that failed.
+/// Makes a backup in folderOf(\a database) and returns its name; empty and \a error if that failed.
 KO_HOST_EXPORT QString add(const QString& database, StoreError* error);
 
 /// Deletes backups that are older than \a days, but never the newest that is left.
 KO_HOST_EXPORT void removeOld(const QString& database, int days);
+
+/// Whether \a database is missing or empty although a log or backups of it say that it held something.
+bool isEmptied(const QString& database);
 
 /// The newest backup that verify() finds sound, or an empty text.
 KO_HOST_EXPORT QString newestGood(const QString& database);

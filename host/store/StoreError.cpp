@@ -23,6 +23,15 @@ const char* pattern(StoreError::Kind kind)
         return QT_TRANSLATE_NOOP(
             "ko::StoreError", "\"%1\" is a database of another program and holds no nodes. It was left as "
                               "it is. Choose your node database, or a new file name to start an empty one.");
+    case StoreError::OtherTables:
+        return QT_TRANSLATE_NOOP("ko::StoreError",
+                                 "The tables of the node database \"%1\" were changed by another program and "
+                                 "cannot be trusted. It was left as it is. Put a backup copy in its place.");
+    case StoreError::Emptied:
+        return QT_TRANSLATE_NOOP("ko::StoreError",
+                                 "The node database \"%1\" is empty or gone, but its log or its backups are "
+                                 "still there. Nothing was changed. Restore a backup of it, or choose a new "
+                                 "file name to start an empty one.");
     case StoreError::Damaged:
         return QT_TRANSLATE_NOOP(
             "ko::StoreError", "The node database \"%1\" is damaged. It was left as it is. Move it to a safe "
@@ -50,6 +59,14 @@ const char* pattern(StoreError::Kind kind)
         return QT_TRANSLATE_NOOP(
             "ko::StoreError", "The node database \"%1\" cannot be opened. Check that its folder exists, that "
                               "the disk or network drive is connected, and that you may read the file.");
+    case StoreError::NotAFile:
+        return QT_TRANSLATE_NOOP("ko::StoreError",
+                                 "\"%1\" is a folder, a device or a pipe and cannot hold a node database. It "
+                                 "was left as it is. Choose another file.");
+    case StoreError::SameFile:
+        return QT_TRANSLATE_NOOP("ko::StoreError",
+                                 "\"%1\" is the node database itself and was left as it is. Choose another "
+                                 "file for the copy.");
     case StoreError::SealedElsewhere:
         return QT_TRANSLATE_NOOP(
             "ko::StoreError",

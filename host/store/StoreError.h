@@ -15,12 +15,16 @@ struct StoreError
         None,
         NotADatabase, ///< the file is something else
         OtherProgram, ///< a database, but not a node database
+        OtherTables,  ///< a node database whose tables another program has changed
+        Emptied,      ///< empty or missing, with a log or backups beside it that say that it was not always
         Damaged,
         NewerVersion, ///< written by a newer version of this program
         ReadOnly,     ///< file or folder may not be written
         Locked,       ///< held by another program longer than we wait
         DiskFull,
         CannotOpen,      ///< no such folder, no permission to read, ...
+        NotAFile,        ///< a folder, a device, a pipe or a socket
+        SameFile,        ///< a copy would go into the database that it is made of
         SealedElsewhere, ///< passwords cannot be opened; the database can be used
         KeyNotKept,      ///< passwords given now are lost with the program
         Other

@@ -4,6 +4,7 @@
 #include "store/StoreSchema.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
@@ -46,11 +47,22 @@ StoreError::Kind kindOf(int code)
     return code == ENOSPC || code == EDQUOT ? StoreError::DiskFull : StoreError::CannotOpen;
 }
 
+QString systemError()
+{
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
 QByteArray readHeader(const QString& file)
 {
-    QFile reader(file);
-    if (QFileInfo(file).isDir() || !reader.open(QIODevice::ReadOnly))
-        fail(StoreError::CannotOpen, file, reader.errorString());
+    // Without waiting: nobody may ever write into a pipe.
+    const int descriptor = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        fail(errno == ENXIO ? StoreError::NotAFile : StoreError::CannotOpen, file, systemError());
+    QFile reader;
+    reader.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle);
+    struct stat info = {};
+    if (::fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode))
+        fail(StoreError::NotAFile, file, QLatin1String("no regular file"));
     // All of it will be looked through, and SQLite asks for page after page.
     ::posix_fadvise(reader.handle(), 0, 0, POSIX_FADV_WILLNEED);
     return reader.read(HeaderSize);
@@ -90,6 +102,43 @@ void checkHeader(const QString& file, const QByteArray& header, int version)
 
 } // namespace
 
+const char* const Companions[3] = {"-wal", "-shm", "-journal"};
+
+QString resolved(const QString& file)
+{
+    QFileInfo info(file);
+    // A link to a file that is not there yet: SQLite makes it where the link points.
+    for (int links = 0; links < 40 && info.isSymLink() && !info.exists(); ++links)
+        info.setFile(info.symLinkTarget());
+    if (info.exists())
+        return info.canonicalFilePath();
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? info.absoluteFilePath() : QDir(folder).filePath(info.fileName());
+}
+
+bool isSame(const QString& file, const QString& other)
+{
+    struct stat a = {};
+    struct stat b = {};
+    return ::stat(QFile::encodeName(file).constData(), &a) == 0 &&
+           ::stat(QFile::encodeName(other).constData(), &b) == 0 && a.st_dev == b.st_dev &&
+           a.st_ino == b.st_ino;
+}
+
+bool belongsToDatabase(const QString& file)
+{
+    const auto isDatabase = [](const QString& name) {
+        QFile reader(name);
+        return QFileInfo(name).isFile() && reader.open(QIODevice::ReadOnly) &&
+               reader.read(sizeof Magic) == QByteArray(Magic, sizeof Magic);
+    };
+    const QString name = resolved(file);
+    return isDatabase(name) ||
+           std::any_of(std::begin(Companions), std::end(Companions), [&](const char* end) {
+               return name.endsWith(QLatin1String(end)) && isDatabase(name.chopped(int(qstrlen(end))));
+           });
+}
+
 bool create(const QString& file)
 {
     const int descriptor =
@@ -97,10 +146,37 @@ bool create(const QString& file)
     if (descriptor < 0 && errno == EEXIST)
         return false;
     if (descriptor < 0)
-        fail(kindOf(errno), file, QString::fromLocal8Bit(std::strerror(errno)));
+        fail(kindOf(errno), file, systemError());
     ::fchmod(descriptor, S_IRUSR | S_IWUSR); // an odd umask takes bits away
     ::close(descriptor);
     return true;
+}
+
+void keepPrivate(const QString& file)
+{
+    const auto restrict = [](const QString& name) {
+        const QByteArray path = QFile::encodeName(name);
+        struct stat info = {};
+        if (::stat(path.constData(), &info) != 0)
+            return;
+        const mode_t shared = info.st_mode & S_IWGRP ? S_IRWXO : S_IRWXG | S_IRWXO;
+        if (info.st_mode & shared)
+            ::chmod(path.constData(), info.st_mode & ~shared & 07777); // fails where it is another user's
+    };
+    restrict(file);
+    for (const char* end : Companions)
+        restrict(file + QLatin1String(end));
+}
+
+bool flushFolder(const QString& file)
+{
+    const QByteArray folder = QFile::encodeName(QFileInfo(file).absolutePath());
+    const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool flushed = ::fsync(descriptor) == 0;
+    ::close(descriptor);
+    return flushed;
 }
 
 void check(const QString& file, int version)
@@ -122,9 +198,9 @@ void moveAside(const QString& file)
 {
     const QString time = QDateTime::currentDateTimeUtc().toString(QLatin1String("yyyyMMdd'T'HHmmsszzz'Z'"));
     const QString aside = file + QLatin1String(".damaged-") + time;
-    if (!QFile::rename(file, aside))
+    if (QFileInfo::exists(file) && !QFile::rename(file, aside))
         fail(StoreError::ReadOnly, file, QLatin1String("rename"));
-    for (const char* end : {"-wal", "-shm"})
+    for (const char* end : Companions)
         QFile::rename(file + QLatin1String(end), aside + QLatin1String(end));
 }
 

@@ -10,8 +10,28 @@ namespace ko {
 /// What can be told about a database file without opening it as one. Failures are thrown as StoreFailure.
 namespace StoreFile {
 
+/// What SQLite keeps beside a database, under its name with these endings.
+extern const char* const Companions[3];
+
+/// The absolute name of \a file, links followed. SQLite looks for the log beside the file itself, not
+/// beside a link to it, and could take a name that begins with "file:" for something else than a name.
+KO_HOST_EXPORT QString resolved(const QString& file);
+
+/// Whether both are one file, by whatever names. False if one is missing.
+KO_HOST_EXPORT bool isSame(const QString& file, const QString& other);
+
+/// Whether \a file is an SQLite database, of whatever program, or what SQLite keeps beside one.
+bool belongsToDatabase(const QString& file);
+
 /// Makes an empty file that only its owner may read. False if \a file was there before.
 bool create(const QString& file);
+
+/// Takes from everybody but the owner the right to read \a file and what SQLite keeps beside it. A group
+/// that may write keeps its rights: such a database is shared on purpose.
+void keepPrivate(const QString& file);
+
+/// Puts names that were given or taken in the folder of \a file on the disk; false if that failed.
+bool flushFolder(const QString& file);
 
 /// Throws unless \a file is empty or a node database of \a version or older that may be written.
 void check(const QString& file, int version);
@@ -19,7 +39,8 @@ void check(const QString& file, int version);
 /// Throws unless \a file begins as a node database of \a version or older does.
 void checkHeader(const QString& file, int version);
 
-/// Gives a file that cannot be used, and what SQLite keeps beside it, a new name that tells when.
+/// Gives a file that cannot be used, and what SQLite keeps beside it, a new name that tells when. The file
+/// itself may be missing.
 void moveAside(const QString& file);
 
 /// Whether the disk under \a file is as good as full.

@@ -1,5 +1,12 @@
 #include "store/StoreSchema.h"
 
+#include <QStringList>
+
+#include <algorithm>
+#include <memory>
+
+#include <sqlite3.h>
+
 namespace ko {
 
 namespace StoreSchema {
@@ -46,7 +53,64 @@ const QVector<QVector<const char*>>& steps()
     return steps;
 }
 
+/// All that a database has, as texts that begin with the kind and the name of a thing and are in order.
+QStringList objects(sqlite3* handle, int* error)
+{
+    QStringList found;
+    sqlite3_stmt* rows = nullptr;
+    // An administrator's ANALYZE leaves tables of statistics.
+    *error = sqlite3_prepare_v2(handle,
+                                "SELECT type || ' ' || name || ' ' || tbl_name || ' ' || coalesce(sql, '')"
+                                " FROM main.sqlite_schema WHERE name NOT GLOB 'sqlite_stat[0-9]' ORDER BY 1",
+                                -1, &rows, nullptr);
+    int result = *error == SQLITE_OK ? SQLITE_ROW : *error;
+    while (result == SQLITE_ROW && (result = sqlite3_step(rows)) == SQLITE_ROW)
+        found.append(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(rows, 0))));
+    sqlite3_finalize(rows);
+    *error = result == SQLITE_DONE ? SQLITE_OK : result;
+    return found;
+}
+
+/// What a new database of this version has.
+QStringList expectedObjects(int version, int* error)
+{
+    sqlite3* handle = nullptr;
+    *error = sqlite3_open_v2(":memory:", &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_MEMORY, nullptr);
+    const std::unique_ptr<sqlite3, int (*)(sqlite3*)> closing(handle, &sqlite3_close);
+    for (int step = 0; step < version && *error == SQLITE_OK; ++step) {
+        const QVector<const char*> statements = stepFrom(step);
+        for (const char* statement : statements) {
+            if (*error == SQLITE_OK)
+                *error = sqlite3_exec(handle, statement, nullptr, nullptr, nullptr);
+        }
+    }
+    return *error == SQLITE_OK ? objects(handle, error) : QStringList();
+}
+
+QString firstWords(const QString& object)
+{
+    return object.section(QLatin1Char(' '), 0, 1);
+}
+
 } // namespace
+
+QString difference(sqlite3* handle, int version, Extent extent, int* error)
+{
+    QStringList found = objects(handle, error);
+    if (*error != SQLITE_OK)
+        return QString();
+    const QStringList expected = expectedObjects(version, error);
+    for (const QString& object : expected) {
+        if (!found.removeOne(object))
+            return QLatin1String("not as it should be: ") + firstWords(object);
+    }
+    const auto isForeign = [extent](const QString& object) {
+        return extent == Extent::Only || object.startsWith(QLatin1String("trigger "));
+    };
+    const auto foreign = std::find_if(found.constBegin(), found.constEnd(), isForeign);
+    return foreign == found.constEnd() ? QString()
+                                       : QLatin1String("should not be there: ") + firstWords(*foreign);
+}
 
 int latest()
 {

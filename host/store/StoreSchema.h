@@ -3,7 +3,10 @@
 
 #include "HostExport.h"
 
+#include <QString>
 #include <QVector>
+
+struct sqlite3;
 
 namespace ko {
 
@@ -22,6 +25,16 @@ KO_HOST_EXPORT int latest();
 
 /// The statements that lead from \a version to the next.
 QVector<const char*> stepFrom(int version);
+
+enum class Extent {
+    Ours, ///< our tables and indexes are there as we make them, and there are no triggers
+    Only, ///< and nothing else is there
+};
+
+/// What differs in the database that \a handle is open on from what \a version makes, in words for a log;
+/// empty if nothing does. A table may be a view that never ends, and a trigger may do anything: nothing else
+/// may be read or written before this was looked at. \a error is SQLite's code if it could not be read.
+QString difference(sqlite3* handle, int version, Extent extent, int* error);
 
 } // namespace StoreSchema
 

@@ -231,7 +231,7 @@ void TestBadFiles::missingFolder()
 void TestBadFiles::folderInsteadOfAFile()
 {
     QVERIFY(QDir().mkpath(m_file));
-    expectRefused(StoreError::CannotOpen);
+    expectRefused(StoreError::NotAFile);
 }
 
 void TestBadFiles::writeProtected_data()
