@@ -17,6 +17,7 @@
 #include "secrets/Secrets.h"
 
 #include <QRandomGenerator>
+#include <QScopedValueRollback>
 #include <QTimer>
 #include <QUuid>
 
@@ -71,7 +72,8 @@ public:
 
     void start(HostNodeDB* database, Check when);
     void checkBehind();
-    void waitForCheck() const;
+    void waitForCheck();
+    void finish();
 
     // LogStore
     void append(const AuditRow& row) override;
@@ -88,8 +90,9 @@ public:
     void announce(const Notices& notices);
     void scheduleFlush();
     bool flush();
+    bool storeAfter(const std::function<void()>& work);
     bool writeFailed(const StoreError& error);
-    void written(const StoreWriter& writer, qint64 lastChange);
+    void written(const StoreWriter& writer, qint64 lastChange, Notices* notices);
     void readFailed(const StoreError& error);
     template <class Read>
     auto reading(Read read) -> decltype(read());
@@ -128,6 +131,7 @@ public:
     QTimer programLineTimer;
     std::shared_future<StoreError> check; ///< of the file, when that goes on in the background
     bool flushScheduled = false;
+    bool isAlone = false; ///< within runAlone()
     bool failing = false;
     QString lastDamage;
 };
@@ -169,6 +173,17 @@ void HostNodeDB::Private::start(HostNodeDB* database, Check when)
     poll.start(PollInterval);
 }
 
+/// Stores what waits and lets go of the file, which stays as it is when it was found damaged.
+void HostNodeDB::Private::finish()
+{
+    try {
+        waitForCheck();
+        flush();
+    } catch (const StoreFailure& failure) {
+        LogQt::line(LogQt::Error, QString::fromLatin1("Not stored: %1").arg(failure.error.detail));
+    }
+}
+
 void HostNodeDB::Private::checkBehind()
 {
     check = std::async(std::launch::async, [this, file = store->fileName()] {
@@ -180,10 +195,13 @@ void HostNodeDB::Private::checkBehind()
 }
 
 /// Throws what a check in the background has found.
-void HostNodeDB::Private::waitForCheck() const
+void HostNodeDB::Private::waitForCheck()
 {
-    if (check.valid() && check.get())
+    if (!check.valid())
+        return;
+    if (check.get())
         throw StoreFailure{check.get()};
+    store->setSound();
 }
 
 /// A new database has one environment; another process may be making it at the same time.
@@ -230,12 +248,10 @@ HostNodeDB::HostNodeDB(std::unique_ptr<Private> opened, Check check)
 HostNodeDB::~HostNodeDB()
 {
     blockSignals(true);
-    if (d->check.valid())
-        d->check.wait();
     Secrets::setListener(nullptr);
     d->scanners.clear();
     d->intake.reset();
-    flush();
+    d->finish();
 }
 
 QString HostNodeDB::fileName() const
@@ -277,7 +293,7 @@ kom::smart<const Node> HostNodeDB::Private::snapshot(NodeRecord* record)
         data.type = record->summary.type();
         data.name = record->summary.name();
         // False: another process removed it, which will be announced.
-        if (tables.readProperties(record->order, &data.properties))
+        if (tables.readProperties(data.id, &data.properties))
             memory.setData(*record, data);
         return record->snapshot;
     });
@@ -321,8 +337,8 @@ bool HostNodeDB::Private::readLookupKeys()
     if (cache.lookupReady())
         return true;
     return reading([this, &cache] {
-        tables.forEachLookupKey([&cache](qint64 n, const QString& key) {
-            if (NodeRecord* record = cache.findOrder(n))
+        tables.forEachLookupKey([&cache](const NodeID& id, const QString& key) {
+            if (NodeRecord* record = cache.find(id))
                 cache.setLookupKey(*record, key);
         });
         for (auto it = memory.pending.nodes.begin(); it != memory.pending.nodes.end(); ++it) {
@@ -719,8 +735,25 @@ void HostNodeDB::Private::scheduleFlush()
 
 bool HostNodeDB::Private::flush()
 {
-    if (memory.pending.isEmpty())
-        return true;
+    return memory.pending.isEmpty() || isAlone || storeAfter(nullptr);
+}
+
+HostNodeDB::Outcome HostNodeDB::runAlone(const std::function<void()>& work)
+{
+    bool hasRun = false;
+    const auto noteAndRun = [&] {
+        hasRun = true;
+        work();
+    };
+    const bool isStored = d->storeAfter(noteAndRun);
+    if (!hasRun)
+        return Outcome::NotRun;
+    return isStored ? Outcome::Stored : Outcome::NotStored;
+}
+
+/// Stores what waits after \a work, if there is any, has added to it.
+bool HostNodeDB::Private::storeAfter(const std::function<void()>& work)
+{
     Notices notices;
     StoreError error;
     try {
@@ -728,11 +761,16 @@ bool HostNodeDB::Private::flush()
         Transaction transaction(*store, Transaction::Write);
         // Now nobody else can write, so what is brought in here is what is written upon.
         notices = memory.take(readForeignChanges());
+        if (work) {
+            const QScopedValueRollback<bool> alone(isAlone, true);
+            announce(std::exchange(notices, Notices()));
+            work();
+        }
         StoreWriter writer(tables, memory.cache);
         writer.write(memory.pending);
         const qint64 lastChange = tables.lastChange();
         transaction.commit();
-        written(writer, lastChange);
+        written(writer, lastChange, &notices);
     } catch (const StoreFailure& failure) {
         error = failure.error;
     }
@@ -746,7 +784,7 @@ bool HostNodeDB::Private::flush()
     return true;
 }
 
-void HostNodeDB::Private::written(const StoreWriter& writer, qint64 lastChange)
+void HostNodeDB::Private::written(const StoreWriter& writer, qint64 lastChange, Notices* notices)
 {
     for (const auto& inserted : writer.insertedNodes())
         memory.cache.setStored(*inserted.first, inserted.second);
@@ -754,6 +792,10 @@ void HostNodeDB::Private::written(const StoreWriter& writer, qint64 lastChange)
     memory.lastChange = lastChange;
     retry.stop();
     programLineTimer.stop();
+    for (const NodeID& id : writer.missingNodes()) {
+        memory.removeNode(*memory.cache.find(id));
+        notices->removed(id);
+    }
 }
 
 bool HostNodeDB::Private::writeFailed(const StoreError& error)
@@ -830,6 +872,8 @@ StoreState HostNodeDB::Private::readForeignChanges()
 
 void HostNodeDB::syncForeignChanges()
 {
+    if (d->isAlone)
+        return;
     Notices notices;
     try {
         const qint64 version = d->store->dataVersion();

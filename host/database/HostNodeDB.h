@@ -6,6 +6,7 @@
 #include "ko/NodeDB.h"
 #include "store/StoreError.h"
 
+#include <functional>
 #include <memory>
 
 namespace ko {
@@ -106,6 +107,18 @@ public:
 
     /// Stores all changes now. False when that failed; storeFailed() has been emitted then.
     bool flush();
+
+    enum class Outcome {
+        Stored,
+        NotStored, ///< what was done waits in memory
+        NotRun     ///< another program holds the file, or it cannot be written; nothing was done
+    };
+
+    /// Runs \a work, in which no other program can change the database, and stores what it changed: what
+    /// lookupHint() does not find there is not added by two programs. Others wait meanwhile, two seconds at
+    /// most, so keep it short. Within it nothing else is stored or brought in. Unless all is stored,
+    /// storeFailed() has been emitted.
+    Outcome runAlone(const std::function<void()>& work);
     bool hasUnstoredChanges() const;
 
     /// The nodes of which something is not stored, removed ones included.

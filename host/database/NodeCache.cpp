@@ -38,7 +38,7 @@ const QStringList& NodeCache::ids() const
 NodeRecord& NodeCache::insert(qint64 order, const PackedSummary& summary)
 {
     m_ids.clear();
-    // Nearly always behind all others.
+    // Nearly always after all others.
     NodeRecord& record = m_nodes.emplace_hint(m_nodes.end(), order, NodeRecord())->second;
     record.order = order;
     record.summary = summary;
@@ -47,9 +47,22 @@ NodeRecord& NodeCache::insert(qint64 order, const PackedSummary& summary)
     return record;
 }
 
+NodeRecord& NodeCache::insertStored(qint64 order, const PackedSummary& summary)
+{
+    return insert(qMin(order, FirstUnstored - 1), summary);
+}
+
 NodeRecord& NodeCache::append(const PackedSummary& summary)
 {
     return insert(m_nextUnstored++, summary);
+}
+
+NodeCache::Map::iterator NodeCache::placeOf(const NodeRecord& record)
+{
+    auto place = m_nodes.lower_bound(record.order);
+    while (&place->second != &record)
+        ++place;
+    return place;
 }
 
 void NodeCache::remove(NodeRecord& record)
@@ -58,15 +71,15 @@ void NodeCache::remove(NodeRecord& record)
     setLookupKey(record, QString());
     if (m_indexed)
         m_byId.remove(&record);
-    m_nodes.erase(record.order);
+    m_nodes.erase(placeOf(record));
 }
 
 void NodeCache::setStored(NodeRecord& record, qint64 order)
 {
     m_ids.clear();
-    Map::node_type node = m_nodes.extract(record.order);
-    node.key() = order;
-    record.order = order;
+    Map::node_type node = m_nodes.extract(placeOf(record));
+    record.order = qMin(order, FirstUnstored - 1);
+    node.key() = record.order;
     m_nodes.insert(std::move(node));
 }
 
@@ -85,12 +98,6 @@ void NodeCache::setLookupKey(NodeRecord& record, const QString& key)
     record.lookupKey = key;
     if (!key.isEmpty())
         m_byLookupKey.insert(key, &record);
-}
-
-NodeRecord* NodeCache::findOrder(qint64 order)
-{
-    const auto found = m_nodes.find(order);
-    return found == m_nodes.end() ? nullptr : &found->second;
 }
 
 const NodeRecord* NodeCache::findLookupKey(const QString& key) const

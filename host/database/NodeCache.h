@@ -16,8 +16,10 @@ namespace ko {
 /// What is in memory of one node.
 struct NodeRecord
 {
-    qint64 order = 0;      ///< its number in the store; larger than all of these while it is not stored yet
-    PackedSummary summary; ///< its identifier stays the same
+    /// Its number in the store when that was last looked at, for the order only: other programs may change
+    /// it. Larger than all of these while the node is not stored yet.
+    qint64 order = 0;
+    PackedSummary summary;           ///< its identifier stays the same
     kom::smart<const Node> snapshot; ///< null until somebody needs the properties
     QString lookupKey;               ///< kept once NodeCache::lookupReady()
     void* context = nullptr;         ///< null: none
@@ -33,12 +35,16 @@ struct NodeRecord
 class NodeCache
 {
 public:
-    typedef std::map<qint64, NodeRecord> Map;
+    /// Another program may have given the number of one node to a second one: both are here until it is known
+    /// what became of the first.
+    typedef std::multimap<qint64, NodeRecord> Map;
 
     static constexpr qint64 FirstUnstored = qint64(1) << 62;
 
     Map::const_iterator begin() const { return m_nodes.begin(); }
     Map::const_iterator end() const { return m_nodes.end(); }
+    Map::iterator begin() { return m_nodes.begin(); }
+    Map::iterator end() { return m_nodes.end(); }
     int count() const { return int(m_nodes.size()); }
 
     NodeRecord* find(const NodeID& id) const;
@@ -46,14 +52,14 @@ public:
     /// The identifiers of all nodes; kept until a node comes, goes or changes its place.
     const QStringList& ids() const;
 
-    /// Adds a node of the store.
-    NodeRecord& insert(qint64 order, const PackedSummary& summary);
+    /// Adds a node of the store that is not here yet.
+    NodeRecord& insertStored(qint64 order, const PackedSummary& summary);
 
     /// Adds a node that is not stored yet.
     NodeRecord& append(const PackedSummary& summary);
     void remove(NodeRecord& record);
 
-    /// The node is stored now under this number.
+    /// The node has this number in the store now.
     void setStored(NodeRecord& record, qint64 order);
 
     // The lookup index is filled by its user, on first use.
@@ -61,12 +67,14 @@ public:
     void setLookupReady() { m_lookupReady = true; }
     void clearLookup();
     void setLookupKey(NodeRecord& record, const QString& key);
-    NodeRecord* findOrder(qint64 order);
 
     /// The oldest node with this key.
     const NodeRecord* findLookupKey(const QString& key) const;
 
 private:
+    NodeRecord& insert(qint64 order, const PackedSummary& summary);
+    Map::iterator placeOf(const NodeRecord& record);
+
     Map m_nodes;
     mutable NodeIndex m_byId; ///< empty until a node is looked for
     mutable bool m_indexed = false;

@@ -15,7 +15,7 @@ void Notices::add(Kind kind, const NodeID& id)
 void NodeMemory::load(NodeTables& tables)
 {
     lastChange = tables.lastChange();
-    tables.forEachNode([this](qint64 n, const PackedSummary& summary) { cache.insert(n, summary); });
+    tables.forEachNode([this](qint64 n, const PackedSummary& summary) { cache.insertStored(n, summary); });
     const QVector<RelationRow> rows = tables.relations();
     for (const RelationRow& relation : rows)
         relations.add(relation);
@@ -52,7 +52,7 @@ void NodeMemory::takeNode(const StoreState::NodeState& node, bool always, Notice
     if (pending.removes(node.id))
         return;
     if (!record) {
-        NodeRecord& added = cache.insert(node.row.n, PackedSummary(node.row.summary));
+        NodeRecord& added = cache.insertStored(node.row.n, PackedSummary(node.row.summary));
         if (cache.lookupReady())
             cache.setLookupKey(added, node.row.lookupKey);
         notices->inserted(node.id);
@@ -64,6 +64,8 @@ void NodeMemory::takeNode(const StoreState::NodeState& node, bool always, Notice
 bool NodeMemory::takeRow(NodeRecord& record, const StoreState::NodeState& node)
 {
     const PackedSummary before = record.summary;
+    if (record.order != node.row.n)
+        cache.setStored(record, node.row.n);
     if (!node.properties) {
         record.summary = PackedSummary(node.row.summary);
         if (cache.lookupReady())
@@ -88,10 +90,10 @@ void NodeMemory::removeMissing(const StoreState& state, Notices* notices)
     for (const StoreState::NodeState& node : state.nodes)
         stored.insert(node.id);
     QVector<NodeRecord*> missing;
-    for (const auto& entry : cache) {
+    for (auto& entry : cache) {
         const NodeID id = entry.second.summary.id();
         if (!stored.contains(id) && !pending.inserts(id))
-            missing.append(cache.find(id));
+            missing.append(&entry.second);
     }
     for (NodeRecord* record : missing) {
         notices->removed(record->summary.id());

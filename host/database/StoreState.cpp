@@ -60,7 +60,7 @@ StoreState StoreState::read(NodeTables& tables, const StoreQuery& query,
     for (NodeState& node : state.nodes) {
         if (node.row.n && needsProperties(node.id)) {
             node.properties.emplace();
-            tables.readProperties(node.row.n, &*node.properties);
+            tables.readProperties(node.id, &*node.properties);
         }
     }
     state.hasSettings = query.settings;

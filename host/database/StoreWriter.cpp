@@ -57,9 +57,15 @@ void StoreWriter::insertNode(NodeRecord* record)
 
 void StoreWriter::updateNode(const NodeRecord& record, const PendingChanges::Change& change)
 {
-    m_tables.updateNode(record.order, record.summary.unpacked(), NodeTypes::lookupKey(record.data()));
+    const NodeID id = record.summary.id();
+    const qint64 n = m_tables.number(id);
+    if (n == 0) { // removed by a program that did not say so
+        m_missing.append(id);
+        return;
+    }
+    m_tables.updateNode(n, record.summary.unpacked(), NodeTypes::lookupKey(record.data()));
     for (auto it = change.properties.begin(); it != change.properties.end(); ++it)
-        m_tables.setProperty(record.order, it.key(), it.value());
+        m_tables.setProperty(n, it.key(), it.value());
 }
 
 void StoreWriter::writeRelation(const PendingChanges::RelationChange& change)

@@ -18,6 +18,9 @@ public:
     /// The numbers of the nodes that write() inserted; to be given to the cache after the commit.
     const QVector<QPair<NodeRecord*, qint64>>& insertedNodes() const { return m_inserted; }
 
+    /// Nodes to be changed that the store does not have.
+    const QVector<NodeID>& missingNodes() const { return m_missing; }
+
 private:
     void writeNode(const NodeID& id, const PendingChanges::Change& change);
     void insertNode(NodeRecord* record);
@@ -28,6 +31,7 @@ private:
     NodeTables& m_tables;
     const NodeCache& m_cache;
     QVector<QPair<NodeRecord*, qint64>> m_inserted;
+    QVector<NodeID> m_missing;
     bool m_noted = false;
 };
 

@@ -1,10 +1,24 @@
 #include "store/NodeTables.h"
 
+#include "ko/LogQt.h"
 #include "store/PropertyCoding.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
 
 namespace ko {
 
 namespace {
+
+/// What comes back the same from a QString, by which the node will be asked for.
+bool isIdentifier(std::string_view utf8)
+{
+    const auto isPlain = [](char c) { return c > 0; };
+    if (std::all_of(utf8.begin(), utf8.end(), isPlain))
+        return !utf8.empty();
+    return QString::fromUtf8(utf8.data(), int(utf8.size())).toStdString() == utf8;
+}
 
 /// A null string would be bound as NULL, which no column takes.
 QString notNull(const QString& text)
@@ -42,9 +56,15 @@ NodeTables::NodeTables(SqliteStore& store)
 void NodeTables::forEachNode(const std::function<void(qint64, const PackedSummary&)>& visit)
 {
     SqliteRows rows = m_store.read("SELECT n, id, type, name, location, recording FROM nodes ORDER BY n");
-    while (rows.next())
-        visit(rows.number(0), PackedSummary(rows.utf8(1), ENodeType(rows.number(2)), rows.utf8(3),
-                                            rows.utf8(4), int(rows.number(5))));
+    while (rows.next()) {
+        if (isIdentifier(rows.utf8(1)))
+            visit(rows.number(0), PackedSummary(rows.utf8(1), ENodeType(rows.number(2)), rows.utf8(3),
+                                                rows.utf8(4), int(rows.number(5))));
+        else
+            LogQt::line(
+                LogQt::Error,
+                QString::fromLatin1("Node %1 is left out: its identifier is no text").arg(rows.number(0)));
+    }
 }
 
 NodeRow NodeTables::node(const NodeID& id)
@@ -58,22 +78,28 @@ NodeRow NodeTables::node(const NodeID& id)
     return row;
 }
 
-void NodeTables::forEachLookupKey(const std::function<void(qint64, const QString&)>& visit)
+void NodeTables::forEachLookupKey(const std::function<void(const NodeID&, const QString&)>& visit)
 {
-    SqliteStore::Rows rows = m_store.run("SELECT n, lookup FROM nodes WHERE lookup <> ''");
+    SqliteStore::Rows rows = m_store.run("SELECT id, lookup FROM nodes WHERE lookup <> ''");
     while (rows.next())
-        visit(rows.number(0), rows.text(1));
+        visit(rows.text(0), rows.text(1));
 }
 
-bool NodeTables::readProperties(qint64 n, PropertyList* properties)
+qint64 NodeTables::number(const NodeID& id)
 {
-    SqliteStore::Rows rows =
-        m_store.run("SELECT key, type, value FROM properties WHERE node = ? ORDER BY key", {n});
+    return m_store.value("SELECT n FROM nodes WHERE id = ?", {notNull(id)}).toLongLong();
+}
+
+bool NodeTables::readProperties(const NodeID& id, PropertyList* properties)
+{
+    SqliteStore::Rows rows = m_store.run("SELECT key, type, value FROM properties"
+                                         " WHERE node = (SELECT n FROM nodes WHERE id = ?) ORDER BY key",
+                                         {notNull(id)});
     while (rows.next()) {
         const QVariant value = PropertyCoding::decode(int(rows.number(1)), rows.value(2));
         properties->set(rows.text(0), value);
     }
-    return properties->count() > 0 || m_store.value("SELECT 1 FROM nodes WHERE n = ?", {n}).isValid();
+    return properties->count() > 0 || number(id) != 0;
 }
 
 qint64 NodeTables::insertNode(const NodeSummary& summary, const QString& lookupKey)
@@ -225,7 +251,8 @@ qint64 NodeTables::programLineCount()
 
 qint64 NodeTables::lastChange()
 {
-    return m_store.value("SELECT seq FROM sqlite_sequence WHERE name = 'changes'").toLongLong();
+    const qint64 last = m_store.value("SELECT seq FROM sqlite_sequence WHERE name = 'changes'").toLongLong();
+    return qBound<qint64>(0, last, std::numeric_limits<qint64>::max() - 1); // another program's may be any
 }
 
 bool NodeTables::hasChangesSince(qint64 seq)

@@ -53,15 +53,20 @@ public:
 
     explicit NodeTables(SqliteStore& store);
 
-    /// All nodes with their numbers, in ascending order of these.
+    /// All nodes with their numbers, in ascending order of these. One whose identifier is no text, which
+    /// only another program can have written, is left out.
     void forEachNode(const std::function<void(qint64 n, const PackedSummary&)>& visit);
     NodeRow node(const NodeID& id);
 
-    /// Key and number of all nodes that have a key.
-    void forEachLookupKey(const std::function<void(qint64, const QString&)>& visit);
+    /// Identifier and key of all nodes that have a key.
+    void forEachLookupKey(const std::function<void(const NodeID&, const QString&)>& visit);
+
+    /// The number of a node, 0 if there is none. Good for the current transaction: to change a node by a
+    /// number that was read before may change another one.
+    qint64 number(const NodeID& id);
 
     /// False if the node is gone.
-    bool readProperties(qint64 n, PropertyList* properties);
+    bool readProperties(const NodeID& id, PropertyList* properties);
 
     qint64 insertNode(const NodeSummary& summary, const QString& lookupKey);
     void updateNode(qint64 n, const NodeSummary& summary, const QString& lookupKey);

@@ -78,7 +78,9 @@ QVariant floatFromStored(const QVariant& value)
     if (text == QLatin1String("nan"))
         return std::numeric_limits<float>::quiet_NaN();
     const float infinity = std::numeric_limits<float>::infinity();
-    return text == QLatin1String("inf") ? infinity : -infinity;
+    if (text == QLatin1String("inf") || text == QLatin1String("-inf"))
+        return text == QLatin1String("inf") ? infinity : -infinity;
+    return 0.0F; // another program wrote it
 }
 
 } // namespace
