@@ -8,6 +8,7 @@
 #include "discovery/ArpScanner.h"
 #include "discovery/MdnsScanner.h"
 #include "exchange/CameraSurvey.h"
+#include "exchange/ExportFile.h"
 #include "store/BackupKeeper.h"
 #include "store/StoreBackup.h"
 #include "store/StoreFile.h"
@@ -164,8 +165,11 @@ QString CommandLine::databaseFile() const
 
 int CommandLine::runTask()
 {
-    if (!m_backup.isEmpty() || !m_restore.isEmpty())
-        return copyDatabase();
+    if (!m_backup.isEmpty() || !m_restore.isEmpty()) {
+        const int copied = copyDatabase();
+        if (copied != Good || (m_import.isEmpty() && m_export.isEmpty()))
+            return copied;
+    }
     if (needsWindow())
         return runWindow();
     const std::unique_ptr<HostNodeDB> db = open(false);
@@ -280,7 +284,8 @@ int CommandLine::exportCameras() const
         say(stderr, result.error);
         return Failed;
     }
-    say(stdout, QCoreApplication::translate("CommandLine", "%1 written").arg(result.written));
+    say(ExportFile::isStandardOutput(m_export) ? stderr : stdout,
+        QCoreApplication::translate("CommandLine", "%1 written").arg(result.written));
     if (result.skipped > 0)
         say(stderr, QCoreApplication::translate("CommandLine", "%1 without name and address left out")
                         .arg(result.skipped));

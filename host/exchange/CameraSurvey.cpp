@@ -1,6 +1,7 @@
 #include "exchange/CameraSurvey.h"
 
 #include "exchange/CsvWriter.h"
+#include "exchange/ExportFile.h"
 #include "exchange/ProgressReport.h"
 #include "exchange/RecordingPath.h"
 #include "exchange/SurveyFields.h"
@@ -10,7 +11,6 @@
 #include "secrets/Redaction.h"
 
 #include <QCoreApplication>
-#include <QSaveFile>
 
 namespace ko {
 
@@ -97,19 +97,9 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
         result.error = say("There is no database.");
         return result;
     }
-    QSaveFile file(fileName);
-    // Set before anything is in it: the file holds passwords.
-    const bool opened =
-        file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    const bool complete = opened && writeDevices(&file, passwords, progress, &result);
-    if (!complete || !file.commit()) {
-        // After half a write the toolkit knows no reason yet; the next one gets it from the system.
-        if (file.isOpen())
-            file.flush();
-        if (!result.cancelled)
-            result.error = say("%1 cannot be written: %2").arg(fileName, file.errorString());
-        file.cancelWriting();
-    }
+    ExportFile file(fileName);
+    if (!file.open() || !writeDevices(file.device(), passwords, progress, &result) || !file.commit())
+        result.error = result.cancelled ? QString() : file.whyNot();
     return result;
 }
 
