@@ -15,6 +15,7 @@
 #include "ko/NodeHint.h"
 #include "recording/VolumeProbe.h"
 #include "secrets/Secrets.h"
+#include "secrets/StoredSecrets.h"
 
 #include <QRandomGenerator>
 #include <QTimer>
@@ -57,7 +58,7 @@ void sealPasswords(NodeData& data)
 {
     for (const QString& key : Secrets::properties()) {
         const QVariant password = data.properties.value(key);
-        if (password.userType() == QMetaType::QString)
+        if (password.isValid())
             data.properties.set(key, Secrets::seal(data.id, key, password.toString()));
     }
 }
@@ -88,6 +89,7 @@ public:
     void announce(const Notices& notices);
     void scheduleFlush();
     bool flush();
+    void lookForKey();
     bool writeFailed(const StoreError& error);
     void written(const StoreWriter& writer, qint64 lastChange);
     void readFailed(const StoreError& error);
@@ -129,6 +131,7 @@ public:
     std::shared_future<StoreError> check; ///< of the file, when that goes on in the background
     bool flushScheduled = false;
     bool failing = false;
+    bool keyMissing = false; ///< which is why it fails
     QString lastDamage;
 };
 
@@ -153,19 +156,20 @@ void HostNodeDB::Private::start(HostNodeDB* database, Check when)
         checkBehind();
     createDefaultEnvironment();
     intake = std::make_unique<DeviceIntake>(*q);
+    Secrets::setClearAllowed(memory.settings.contains(QLatin1String(StoredSecrets::Pending)));
     Secrets::setListener([this](StoreError::Kind kind) {
-        const bool unread = kind == StoreError::SealedElsewhere;
+        const bool sealed = kind == StoreError::SealedElsewhere;
         readFailed(StoreError::make(
             kind, store->fileName(),
-            QLatin1String(unread ? "a password cannot be opened" : "the key of the passwords is not kept")));
+            QLatin1String(sealed ? "a password cannot be opened" : "a password is not sealed")));
     });
     settingsTaken();
     QObject::connect(&proxy, &GlobalNetworkProxy::globalProxyDataChanged, q, [this] { proxyChanged(); });
     QObject::connect(&poll, &QTimer::timeout, q, &HostNodeDB::syncForeignChanges);
     retry.setSingleShot(true);
-    QObject::connect(&retry, &QTimer::timeout, q, &HostNodeDB::flush);
+    QObject::connect(&retry, &QTimer::timeout, q, [this] { flush(); });
     programLineTimer.setSingleShot(true);
-    QObject::connect(&programLineTimer, &QTimer::timeout, q, &HostNodeDB::flush);
+    QObject::connect(&programLineTimer, &QTimer::timeout, q, [this] { flush(); });
     poll.start(PollInterval);
 }
 
@@ -235,7 +239,7 @@ HostNodeDB::~HostNodeDB()
     Secrets::setListener(nullptr);
     d->scanners.clear();
     d->intake.reset();
-    flush();
+    d->flush();
 }
 
 QString HostNodeDB::fileName() const
@@ -756,12 +760,20 @@ void HostNodeDB::Private::written(const StoreWriter& writer, qint64 lastChange)
     programLineTimer.stop();
 }
 
+/// Only when somebody asks for it: the keychain may in turn ask the user, and runs an event loop.
+void HostNodeDB::Private::lookForKey()
+{
+    if (failing && keyMissing && Secrets::prepareAgain())
+        settingsTaken(); // its password may be readable now
+}
+
 bool HostNodeDB::Private::writeFailed(const StoreError& error)
 {
     if (!failing)
         LogQt::line(LogQt::Error,
                     QString::fromLatin1("Writing the node database failed: %1").arg(error.detail));
     failing = true;
+    keyMissing = error.kind == StoreError::KeyNotKept;
     retry.start(RetryInterval);
     emit q->storeFailed(error);
     return false;
@@ -769,6 +781,7 @@ bool HostNodeDB::Private::writeFailed(const StoreError& error)
 
 bool HostNodeDB::flush()
 {
+    d->lookForKey();
     return d->flush();
 }
 

@@ -232,8 +232,8 @@ private:
 } // namespace
 
 /// Read again until nothing changes: a mark no longer has the blanks and quotes of what it stands for, so
-/// another rule may now see more in the text around it. Each reading only hides, takes time in proportion, and
-/// there are so many at most: a text that was made to need more shows nothing at all.
+/// another rule may now see more in the text around it. Each reading only hides, takes time in proportion,
+/// and there are so many at most: a text that was made to need more shows nothing at all.
 QString redacted(const QString& text)
 {
     QString shown = text;

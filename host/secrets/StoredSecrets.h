@@ -12,7 +12,7 @@ namespace StoredSecrets {
 inline constexpr char Pending[] = "secrets.toSeal";
 
 /// Seals every password of the database that is not sealed, in one transaction, then writes the file anew,
-/// so that nothing of them is left in its unused parts or its log. Takes a key that is kept.
+/// so that nothing of them is left in its unused parts or its log. Takes a key.
 void seal(SqliteStore& store);
 
 /// What \ref Pending says; false for an older version.

@@ -22,7 +22,8 @@ struct StoreError
         DiskFull,
         CannotOpen,      ///< no such folder, no permission to read, ...
         SealedElsewhere, ///< passwords cannot be opened; the database can be used
-        KeyNotKept,      ///< passwords given now are lost with the program
+        NotSealed,       ///< passwords were put there by something else; the database can be used
+        KeyNotKept,      ///< there is no key with which passwords could be stored
         Other
     };
 

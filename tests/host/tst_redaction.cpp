@@ -94,8 +94,8 @@ void tst_Redaction::everyPasswordInEveryPlace()
 
 void tst_Redaction::anyTextEndsSoonAndStaysTheSame()
 {
-    const QString parts[] = {"password", "\"", "\\", ":", "=", "://", "@", "[",  "{",
-                             "}",        "]",  "'",  " ", "a", "&",   ",", "\n", "authorization",
+    const QString parts[] = {"password", "\"", "\\", ":",     "=",         "://", "@", "[",  "{",
+                             "}",        "]",  "'",  " ",     "a",         "&",   ",", "\n", "authorization",
                              "***",      "?",  "/",  "://u:", "password='"};
     QRandomGenerator random(20);
     for (int round = 0; round < 20000; ++round) {
