@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "DatabaseRecovery.h"
+#include "KeychainNotice.h"
 #include "MainWindow.h"
 #include "Tour.h"
 #include "audit/ProgramLog.h"
@@ -166,6 +167,10 @@ int CommandLine::runTask()
 {
     if (!m_backup.isEmpty() || !m_restore.isEmpty())
         return copyDatabase();
+    const bool interactive = needsWindow() && m_tour.isEmpty();
+    KeychainNotice notice(interactive ? KeychainNotice::Way::Window : KeychainNotice::Way::Line);
+    if (!notice.prepare())
+        return Good;
     if (needsWindow())
         return runWindow();
     const std::unique_ptr<HostNodeDB> db = open(false);
