@@ -182,9 +182,13 @@ private:
     void make()
     {
         const QByteArray key = Sealer::newKey();
-        if (m_answer == Keychain::NoEntry && giveToKeychain(key))
+        if ((m_answer == Keychain::NoEntry && giveToKeychain(key)) || giveToFile(key))
             m_keys.push_back(key);
-        else if (m_answer == Keychain::Closed)
+    }
+
+    bool giveToFile(const QByteArray& key)
+    {
+        if (m_answer == Keychain::Closed)
             m_problems.append(QLatin1String("the keychain did not take the key"));
         else if (QFile::exists(m_marker))
             m_problems.append(
@@ -192,10 +196,11 @@ private:
                               "more, remove ") +
                 m_marker);
         else if (createKeyFile(m_places.keyFile, key))
-            m_keys.push_back(key);
+            return true;
         else
             m_problems.append(QLatin1String("the key file cannot be made: ") +
                               QString::fromLocal8Bit(std::strerror(errno)));
+        return false;
     }
 
     /// The marker goes first: without it, a start that finds no keychain would make a key of its own.
