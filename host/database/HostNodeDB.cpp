@@ -53,16 +53,6 @@ NodeID newNodeId()
     return id;
 }
 
-/// Of a node that comes into being: what describes it has them in the clear.
-void sealPasswords(NodeData& data)
-{
-    for (const QString& key : Secrets::properties()) {
-        const QVariant password = data.properties.value(key);
-        if (password.isValid())
-            data.properties.set(key, Secrets::seal(data.id, key, password.toString()));
-    }
-}
-
 } // namespace
 
 class HostNodeDB::Private : public LogStore
@@ -438,7 +428,7 @@ void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
 NodeID HostNodeDB::Private::insert(NodeData data)
 {
     data.id = newNodeId();
-    sealPasswords(data);
+    StoredSecrets::seal(data);
     NodeRecord& record = memory.cache.append(PackedSummary(NodeTypes::summaryOf(data)));
     record.context = data.context;
     memory.setData(record, data);
