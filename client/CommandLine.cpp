@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "DatabaseRecovery.h"
+#include "KeychainNotice.h"
 #include "MainWindow.h"
 #include "Tour.h"
 #include "audit/ProgramLog.h"
@@ -170,6 +171,10 @@ int CommandLine::runTask()
         if (copied != Good || (m_import.isEmpty() && m_export.isEmpty()))
             return copied;
     }
+    const bool interactive = needsWindow() && m_tour.isEmpty();
+    KeychainNotice notice(interactive ? KeychainNotice::Way::Window : KeychainNotice::Way::Line);
+    if (!notice.prepare())
+        return Good;
     if (needsWindow())
         return runWindow();
     const std::unique_ptr<HostNodeDB> db = open(false);

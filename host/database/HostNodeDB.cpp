@@ -15,6 +15,7 @@
 #include "ko/NodeHint.h"
 #include "recording/VolumeProbe.h"
 #include "secrets/Secrets.h"
+#include "secrets/StoredSecrets.h"
 
 #include <QRandomGenerator>
 #include <QScopedValueRollback>
@@ -53,16 +54,6 @@ NodeID newNodeId()
     return id;
 }
 
-/// Of a node that comes into being: what describes it has them in the clear.
-void sealPasswords(NodeData& data)
-{
-    for (const QString& key : Secrets::properties()) {
-        const QVariant password = data.properties.value(key);
-        if (password.userType() == QMetaType::QString)
-            data.properties.set(key, Secrets::seal(data.id, key, password.toString()));
-    }
-}
-
 } // namespace
 
 class HostNodeDB::Private : public LogStore
@@ -91,6 +82,7 @@ public:
     void scheduleFlush();
     bool flush();
     bool storeAfter(const std::function<void()>& work);
+    void lookForKey();
     bool writeFailed(const StoreError& error);
     void written(const StoreWriter& writer, qint64 lastChange, Notices* notices);
     void readFailed(const StoreError& error);
@@ -133,6 +125,7 @@ public:
     bool flushScheduled = false;
     bool isAlone = false; ///< within runAlone()
     bool failing = false;
+    bool keyMissing = false; ///< which is why it fails
     QString lastDamage;
 };
 
@@ -157,19 +150,20 @@ void HostNodeDB::Private::start(HostNodeDB* database, Check when)
         checkBehind();
     createDefaultEnvironment();
     intake = std::make_unique<DeviceIntake>(*q);
+    Secrets::setClearAllowed(memory.settings.contains(QLatin1String(StoredSecrets::Pending)));
     Secrets::setListener([this](StoreError::Kind kind) {
-        const bool unread = kind == StoreError::SealedElsewhere;
+        const bool sealed = kind == StoreError::SealedElsewhere;
         readFailed(StoreError::make(
             kind, store->fileName(),
-            QLatin1String(unread ? "a password cannot be opened" : "the key of the passwords is not kept")));
+            QLatin1String(sealed ? "a password cannot be opened" : "a password is not sealed")));
     });
     settingsTaken();
     QObject::connect(&proxy, &GlobalNetworkProxy::globalProxyDataChanged, q, [this] { proxyChanged(); });
     QObject::connect(&poll, &QTimer::timeout, q, &HostNodeDB::syncForeignChanges);
     retry.setSingleShot(true);
-    QObject::connect(&retry, &QTimer::timeout, q, &HostNodeDB::flush);
+    QObject::connect(&retry, &QTimer::timeout, q, [this] { flush(); });
     programLineTimer.setSingleShot(true);
-    QObject::connect(&programLineTimer, &QTimer::timeout, q, &HostNodeDB::flush);
+    QObject::connect(&programLineTimer, &QTimer::timeout, q, [this] { flush(); });
     poll.start(PollInterval);
 }
 
@@ -450,7 +444,7 @@ void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
 NodeID HostNodeDB::Private::insert(NodeData data)
 {
     data.id = newNodeId();
-    sealPasswords(data);
+    StoredSecrets::seal(data);
     NodeRecord& record = memory.cache.append(PackedSummary(NodeTypes::summaryOf(data)));
     record.context = data.context;
     memory.setData(record, data);
@@ -798,12 +792,20 @@ void HostNodeDB::Private::written(const StoreWriter& writer, qint64 lastChange, 
     }
 }
 
+/// Only when somebody asks for it: the keychain may in turn ask the user, and runs an event loop.
+void HostNodeDB::Private::lookForKey()
+{
+    if (failing && keyMissing && Secrets::prepareAgain())
+        settingsTaken(); // its password may be readable now
+}
+
 bool HostNodeDB::Private::writeFailed(const StoreError& error)
 {
     if (!failing)
         LogQt::line(LogQt::Error,
                     QString::fromLatin1("Writing the node database failed: %1").arg(error.detail));
     failing = true;
+    keyMissing = error.kind == StoreError::KeyNotKept;
     retry.start(RetryInterval);
     emit q->storeFailed(error);
     return false;
@@ -811,6 +813,7 @@ bool HostNodeDB::Private::writeFailed(const StoreError& error)
 
 bool HostNodeDB::flush()
 {
+    d->lookForKey();
     return d->flush();
 }
 

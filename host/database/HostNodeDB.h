@@ -105,7 +105,9 @@ public:
     /// Where a ProgramLog for this database keeps its lines.
     LogStore& logStore();
 
-    /// Stores all changes now. False when that failed; storeFailed() has been emitted then.
+    /// Stores all changes now. False when that failed; storeFailed() has been emitted then. Looks for the key
+    /// of the passwords again when the last try failed without it, which may take until the user has opened
+    /// the keychain.
     bool flush();
 
     enum class Outcome {

@@ -1,6 +1,7 @@
 #include "database/StoreWriter.h"
 
 #include "drivers/NodeTypes.h"
+#include "secrets/Secrets.h"
 
 namespace ko {
 
@@ -20,7 +21,8 @@ void StoreWriter::write(const PendingChanges& pending)
     for (const PendingChanges::RelationChange& change : pending.relations)
         writeRelation(change);
     for (auto it = pending.settings.begin(); it != pending.settings.end(); ++it)
-        m_tables.setSetting(it.key(), it.value());
+        m_tables.setSetting(it.key(),
+                            sealed(QLatin1String(Secrets::Settings), it.key(), it.value()).toString());
     if (pending.environments)
         m_tables.setEnvironments(*pending.environments);
     if (pending.environments || !pending.settings.isEmpty())
@@ -51,7 +53,7 @@ void StoreWriter::insertNode(NodeRecord* record)
     const NodeData data = record->data();
     const qint64 n = m_tables.insertNode(record->summary.unpacked(), NodeTypes::lookupKey(data));
     for (const PropertyList::Entry& entry : data.properties)
-        m_tables.setProperty(n, entry.name, entry.value);
+        m_tables.setProperty(n, entry.name, sealed(data.id, entry.name, entry.value));
     m_inserted.append({record, n});
 }
 
@@ -65,7 +67,18 @@ void StoreWriter::updateNode(const NodeRecord& record, const PendingChanges::Cha
     }
     m_tables.updateNode(n, record.summary.unpacked(), NodeTypes::lookupKey(record.data()));
     for (auto it = change.properties.begin(); it != change.properties.end(); ++it)
-        m_tables.setProperty(n, it.key(), it.value());
+        m_tables.setProperty(n, it.key(), sealed(id, it.key(), it.value()));
+}
+
+QVariant StoreWriter::sealed(const QString& owner, const QString& key, const QVariant& value) const
+{
+    if (value.userType() != QMetaType::QString)
+        return value;
+    const std::optional<QString> text = Secrets::toStore(owner, key, value.toString());
+    if (!text)
+        throw StoreFailure{
+            StoreError::make(StoreError::KeyNotKept, m_tables.fileName(), QLatin1String("no key"))};
+    return *text;
 }
 
 void StoreWriter::writeRelation(const PendingChanges::RelationChange& change)

@@ -13,6 +13,7 @@ class StoreWriter
 public:
     StoreWriter(NodeTables& tables, const NodeCache& cache);
 
+    /// Throws StoreError::KeyNotKept when a password is held in memory for want of a key.
     void write(const PendingChanges& pending);
 
     /// The numbers of the nodes that write() inserted; to be given to the cache after the commit.
@@ -26,6 +27,7 @@ private:
     void insertNode(NodeRecord* record);
     void updateNode(const NodeRecord& record, const PendingChanges::Change& change);
     void writeRelation(const PendingChanges::RelationChange& change);
+    QVariant sealed(const QString& owner, const QString& key, const QVariant& value) const;
     void note(ChangeRow::Kind kind, const NodeID& id);
 
     NodeTables& m_tables;

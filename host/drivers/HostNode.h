@@ -78,9 +78,10 @@ protected:
             m_data.properties.set(name, isPassword(name, value) ? sealed(name, value.toString()) : value);
     }
 
+    /// Of whatever type: one of another that was put into the database is no password of ours.
     static bool isPassword(const QString& name, const QVariant& value)
     {
-        return value.userType() == QMetaType::QString && Secrets::isSecret(name);
+        return value.isValid() && Secrets::isSecret(name);
     }
 
     QString sealed(const QString& name, const QString& password) const

@@ -1,14 +1,17 @@
 #include "exchange/CameraSurvey.h"
 
+#include "drivers/PropertyKeys.h"
 #include "exchange/CsvWriter.h"
 #include "exchange/ExportFile.h"
 #include "exchange/ProgressReport.h"
 #include "exchange/RecordingPath.h"
+#include "exchange/Sample.h"
 #include "exchange/SurveyFields.h"
 #include "exchange/SurveyImport.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "secrets/Redaction.h"
+#include "secrets/Secrets.h"
 
 #include <QCoreApplication>
 
@@ -61,11 +64,26 @@ bool canBeToldApart(const IPDeviceNode& device)
     return !device.name().trimmed().isEmpty() || !device.address().trimmed().isEmpty();
 }
 
+/// There is one, and it is shown empty.
+bool hasUnreadPassword(const IPDeviceNode& device)
+{
+    if (!device.password(0).isEmpty())
+        return false;
+    const auto stored = device.properties()[QLatin1String(PropertyKeys::Password)];
+    return !stored.null() && !stored->value().toString().isEmpty();
+}
+
+QString nameOf(const IPDeviceNode& device)
+{
+    return device.name().trimmed().isEmpty() ? device.address() : device.name();
+}
+
 /// Writes all devices; false on an error and when cancelled.
 bool writeDevices(QIODevice* file, Passwords passwords, const Progress& progress, ExportResult* result)
 {
     CsvWriter writer(file);
     ProgressReport report(progress);
+    Sample unread;
     bool good = writer.writeRecord(titles());
     const QStringList ids = NodeDB::getDB()->nodeIdList(AllNodeTypes);
     for (int i = 0; i < ids.size() && good; ++i) {
@@ -77,10 +95,16 @@ bool writeDevices(QIODevice* file, Passwords passwords, const Progress& progress
         if (device.null())
             continue;
         const bool wanted = canBeToldApart(*device);
+        if (wanted && passwords == Passwords::Write && hasUnreadPassword(*device))
+            unread.add(nameOf(*device));
         good = !wanted || writer.writeRecord(record(*device, passwords));
         ++(wanted ? result->written : result->skipped);
     }
-    return good;
+    if (!unread.isEmpty())
+        result->error = say("Nothing was written, because these passwords cannot be read: %1. Unlock your "
+                            "keychain, bring the key file back, or leave the passwords out.")
+                            .arg(unread.text());
+    return good && unread.isEmpty();
 }
 
 } // namespace
@@ -97,9 +121,13 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
         result.error = say("There is no database.");
         return result;
     }
+    if (passwords == Passwords::Write)
+        Secrets::prepareAgain();
     ExportFile file(fileName);
-    if (!file.open() || !writeDevices(file.device(), passwords, progress, &result) || !file.commit())
-        result.error = result.cancelled ? QString() : file.whyNot();
+    const bool written =
+        file.open() && writeDevices(file.device(), passwords, progress, &result) && file.commit();
+    if (!written && !result.cancelled && result.error.isEmpty())
+        result.error = file.whyNot();
     return result;
 }
 

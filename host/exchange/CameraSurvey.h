@@ -57,11 +57,12 @@ enum class Passwords {
 
 /// Adds and changes devices as the file says. All changes of a line are made in one turn of the event
 /// loop. Changes go into the audit log: "NRen" and "NChg" for each device that was changed, and one
-/// "NImp" at the end if there was any change.
+/// "NImp" at the end if there was any change. A list with passwords is refused as a whole when they cannot be
+/// stored.
 KO_HOST_EXPORT ImportResult importCameras(const QString& fileName, const Progress& progress = Progress());
 
 /// Writes all devices, readable by the user alone. A file of this name is replaced when all is written,
-/// and stays as it is on an error and when cancelled.
+/// and stays as it is on an error and when cancelled. With passwords, one that cannot be read is an error.
 KO_HOST_EXPORT ExportResult exportCameras(const QString& fileName, Passwords passwords,
                                           const Progress& progress = Progress());
 

@@ -11,6 +11,7 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHintIPDevice.h"
+#include "secrets/Secrets.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -114,7 +115,7 @@ SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress
 
 CameraSurvey::ImportResult SurveyImport::run()
 {
-    if (open() && readFile(Pass::Check))
+    if (open() && readFile(Pass::Check) && canStorePasswords())
         readFile(Pass::Apply);
     if (m_result.added + m_result.updated > 0) {
         ActionLog::getInstance()->log(ImportLogEntry(QFileInfo(m_file).fileName(), m_result.added,
@@ -155,6 +156,8 @@ bool SurveyImport::readFile(Pass pass)
         }
         QString reason = reader.recordError();
         const SurveyRow row = reason.isEmpty() ? SurveyRow::read(header, cells, &reason) : SurveyRow();
+        if (reason.isEmpty() && pass == Pass::Check && row.has(SurveyColumn::Password))
+            m_passwords.add(QString::number(reader.line()));
         if (reason.isEmpty() && !row.isEmpty() && pass == Pass::Apply)
             import(row, &reason);
         if (!reason.isEmpty())
@@ -166,6 +169,19 @@ bool SurveyImport::readFile(Pass pass)
         }
     }
     m_result.cancelled = true;
+    return false;
+}
+
+/// Before the first change: a device that was added without its password would be there the next time.
+bool SurveyImport::canStorePasswords()
+{
+    if (m_passwords.isEmpty() || Secrets::prepareAgain())
+        return true;
+    m_result.error =
+        say("The passwords of the list (in line %1) cannot be stored, because the key that seals "
+            "them is not there. Unlock your keychain, bring the key file back, or make your "
+            "configuration folder writable. Nothing was imported.")
+            .arg(m_passwords.text());
     return false;
 }
 

@@ -4,6 +4,7 @@
 #include "exchange/CameraSurvey.h"
 #include "exchange/DeviceFinder.h"
 #include "exchange/ProgressReport.h"
+#include "exchange/Sample.h"
 
 #include <QFile>
 
@@ -25,6 +26,7 @@ private:
 
     bool open();
     bool readFile(Pass pass);
+    bool canStorePasswords();
     bool readHeader(CsvReader& reader, SurveyHeader* header);
     void import(const SurveyRow& row, QString* reason);
     void add(const SurveyRow& row, NodeHint& hint, QString* reason);
@@ -34,6 +36,7 @@ private:
     ProgressReport m_progress;
     CameraSurvey::ImportResult m_result;
     DeviceFinder m_finder;
+    Sample m_passwords; ///< the lines that have one
 };
 
 } // namespace ko

@@ -84,8 +84,9 @@ bool createKeyFile(const QString& name, const QByteArray& key)
 
 bool createFolder(const QString& name)
 {
-    if (QFileInfo::exists(name))
-        return true;
+    const QFileInfo info(name);
+    if (info.exists())
+        return info.isDir();
     return QDir().mkpath(name) &&
            QFile::setPermissions(name, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
@@ -96,46 +97,55 @@ class Search
 public:
     explicit Search(const InstallationKey::Places& places)
         : m_places(places)
-        , m_keychain(places.keychain, places.keychainPatience)
+        , m_marker(places.keyFile + QLatin1String(".keychain"))
+        , m_keychain(places.keychain, places.keychainPatience, places.keychainWait)
     {
     }
 
     InstallationKey run()
     {
-        const bool hasFolder =
-            !m_places.keyFile.isEmpty() && createFolder(QFileInfo(m_places.keyFile).absolutePath());
-        QLockFile lock(m_places.keyFile + QLatin1String(".lock"));
-        const bool locked = hasFolder && lock.tryLock(LockPatience);
-        askKeychain();
-        readFile();
-        if (m_keys.empty())
-            makeKey(locked);
+        look();
+        if (m_keys.empty() && m_problems.isEmpty())
+            makeUnderLock();
         InstallationKey result;
-        result.kept = !m_keys.empty();
-        if (m_keys.empty())
-            m_keys.push_back(Sealer::newKey());
         result.sealer = Sealer(m_keys);
         result.problem = m_problems.join(QLatin1String("; "));
         return result;
     }
 
 private:
+    void look()
+    {
+        m_keys.clear();
+        askKeychain();
+        readFile();
+    }
+
     void askKeychain()
     {
         if (m_places.keychain.isEmpty())
             return;
         QString text;
         m_answer = m_keychain.read(&text);
-        if (m_answer == Keychain::Found)
-            take(fromText(text), QLatin1String("the keychain has something else in the place of the key"));
+        if (m_answer == Keychain::Closed)
+            m_problems.append(QLatin1String("the keychain was not opened"));
+        if (m_answer != Keychain::Found)
+            return;
+        take(fromText(text), QLatin1String("the keychain has something else in the place of the key"));
+        if (!m_keys.empty())
+            setMarker(); // also for a key of a version that left none
     }
 
     void readFile()
     {
-        QFile file(m_places.keyFile);
-        m_hasFile = !m_places.keyFile.isEmpty() && QFileInfo::exists(m_places.keyFile);
-        if (!m_hasFile)
+        const QFileInfo info(m_places.keyFile);
+        if (m_places.keyFile.isEmpty() || !(info.exists() || info.isSymLink()))
             return;
+        QFile file(m_places.keyFile);
+        if (!info.isFile()) { // opening a pipe may wait for ever
+            m_problems.append(QLatin1String("the key file is no regular file"));
+            return;
+        }
         if (!file.open(QIODevice::ReadOnly)) {
             m_problems.append(QLatin1String("the key file cannot be read: ") + file.errorString());
             return;
@@ -155,28 +165,76 @@ private:
             m_keys.push_back(key);
     }
 
-    void makeKey(bool locked)
+    void makeUnderLock()
     {
-        // Without the lock another program may be making a key, which this one must not replace.
-        if (!locked) {
+        const bool hasFolder =
+            !m_places.keyFile.isEmpty() && createFolder(QFileInfo(m_places.keyFile).absolutePath());
+        QLockFile lock(m_places.keyFile + QLatin1String(".lock"));
+        if (!hasFolder || !lock.tryLock(LockPatience)) {
             m_problems.append(QLatin1String("the folder of the key file cannot be locked"));
             return;
         }
+        look(); // another program may have made one meanwhile
+        if (m_keys.empty() && m_problems.isEmpty())
+            make();
+    }
+
+    void make()
+    {
         const QByteArray key = Sealer::newKey();
-        QString stored;
-        const bool inKeychain = m_answer == Keychain::NoEntry && m_keychain.write(toText(key)) &&
-                                m_keychain.read(&stored) == Keychain::Found && fromText(stored) == key;
-        if (inKeychain || (!m_hasFile && createKeyFile(m_places.keyFile, key)))
+        if ((m_answer == Keychain::NoEntry && giveToKeychain(key)) || giveToFile(key))
             m_keys.push_back(key);
-        else if (!m_hasFile)
+    }
+
+    bool giveToFile(const QByteArray& key)
+    {
+        if (m_answer == Keychain::Closed)
+            m_problems.append(QLatin1String("the keychain did not take the key"));
+        else if (QFile::exists(m_marker))
+            m_problems.append(
+                QLatin1String("the key is in a keychain that is not there; if there is none any "
+                              "more, remove ") +
+                m_marker);
+        else if (createKeyFile(m_places.keyFile, key))
+            return true;
+        else
             m_problems.append(QLatin1String("the key file cannot be made: ") +
                               QString::fromLocal8Bit(std::strerror(errno)));
+        return false;
+    }
+
+    /// The marker goes first: without it, a start that finds no keychain would make a key of its own.
+    bool giveToKeychain(const QByteArray& key)
+    {
+        const bool marked = QFile::exists(m_marker);
+        if (!marked && !setMarker())
+            return false;
+        m_keychain.write(toText(key));
+        QString stored;
+        m_answer = m_keychain.read(&stored);
+        if (m_answer == Keychain::Found && fromText(stored) == key)
+            return true;
+        if (m_answer == Keychain::NoEntry && !marked)
+            QFile::remove(m_marker);
+        else
+            m_answer = Keychain::Closed;
+        return false;
+    }
+
+    bool setMarker() const
+    {
+        QFile file(m_marker);
+        if (m_places.keyFile.isEmpty() || file.exists())
+            return file.exists();
+        return createFolder(QFileInfo(m_marker).absolutePath()) && file.open(QIODevice::WriteOnly) &&
+               file.write("The key is in the keychain.\n") > 0 && file.flush() &&
+               ::fsync(file.handle()) == 0 && flushFolder(QFileInfo(m_marker).absolutePath());
     }
 
     const InstallationKey::Places m_places;
+    const QString m_marker;
     const Keychain m_keychain;
     Keychain::Answer m_answer = Keychain::NotThere;
-    bool m_hasFile = false;
     std::vector<QByteArray> m_keys;
     QStringList m_problems;
 };

@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace ko {
 
 namespace Redaction {
 
 namespace {
+
+constexpr int MaximumReadings = 8; // random texts take three at most, the last of which changes nothing
 
 const char* const telltales[] = {"password", "passwd", "passwort", "passphrase", "passcode", "pwd",
                                  "secret",   "apikey", "api_key",  "api-key",    "token",    "credential"};
@@ -228,9 +231,18 @@ private:
 
 } // namespace
 
+/// Read again until nothing changes: a mark no longer has the blanks and quotes of what it stands for, so
+/// another rule may now see more in the text around it. Each reading only hides, takes time in proportion,
+/// and there are so many at most: a text that was made to need more shows nothing at all.
 QString redacted(const QString& text)
 {
-    return Reader(text).run();
+    QString shown = text;
+    for (int reading = 0; reading < MaximumReadings; ++reading) {
+        const QString before = std::exchange(shown, Reader(shown).run());
+        if (shown == before)
+            return shown;
+    }
+    return QLatin1String(Mark);
 }
 
 } // namespace Redaction

@@ -20,7 +20,8 @@ constexpr char Mark[] = "***";
 /// - what follows "Authorization:" to the end of the line.
 ///
 /// Rather takes too much than too little: a host name goes along when a later part of its URL has an "@".
-/// Never slower than in proportion to the length of the text.
+/// Never slower than in proportion to the length of the text. What is redacted stays the same when it is
+/// redacted again.
 KO_HOST_EXPORT QString redacted(const QString& text);
 
 } // namespace Redaction

@@ -6,6 +6,7 @@
 #include <QMutex>
 #include <QMutexLocker>
 
+#include <cstring>
 #include <set>
 
 namespace ko {
@@ -14,12 +15,17 @@ namespace Secrets {
 
 namespace {
 
+constexpr char Held[] = "held:"; // before what is sealed for the memory alone
+
 struct State
 {
     QMutex mutex;
     InstallationKey::Places places;
     bool hasPlaces = false;
+    KeychainWait* wait = nullptr;
     std::shared_ptr<const InstallationKey> key;
+    bool clearAllowed = false;
+    std::set<QString> unread; ///< stored texts that were shown empty
     std::function<void(StoreError::Kind)> listener;
     std::set<StoreError::Kind> told;
 };
@@ -50,6 +56,76 @@ void tell(StoreError::Kind kind)
     listener(kind);
 }
 
+/// Holds in memory what cannot be sealed for the store, with a key that nobody else ever has.
+const Sealer& holder()
+{
+    static const Sealer holder({Sealer::newKey()});
+    return holder;
+}
+
+QString withoutHeld(const QString& text)
+{
+    return text.mid(int(std::strlen(Held)));
+}
+
+bool isHeld(const QString& text)
+{
+    return text.startsWith(QLatin1String(Held)) && Sealer::isSealed(withoutHeld(text));
+}
+
+bool isClearAllowed()
+{
+    const QMutexLocker locker(&state().mutex);
+    return state().clearAllowed;
+}
+
+std::optional<QString> opened(const QString& owner, const QString& property, const QString& stored)
+{
+    if (isHeld(stored))
+        return holder().open(withoutHeld(stored), owner, property);
+    if (Sealer::isSealed(stored))
+        return key()->sealer.open(stored, owner, property);
+    return stored.isEmpty() || isClearAllowed() ? std::make_optional(stored) : std::nullopt;
+}
+
+void noteUnread(const QString& stored)
+{
+    {
+        const QMutexLocker locker(&state().mutex);
+        state().unread.insert(stored);
+    }
+    tell(Sealer::isSealed(stored) ? StoreError::SealedElsewhere : StoreError::NotSealed);
+}
+
+/// Whoever writes an empty password in the place of one that was shown empty has not removed it, also when
+/// the key has come back since.
+bool wasUnread(const QString& stored)
+{
+    const QMutexLocker locker(&state().mutex);
+    return state().unread.count(stored) > 0;
+}
+
+/// Asking the keychain runs an event loop, from which somebody may come here again.
+void load()
+{
+    InstallationKey::Places places = InstallationKey::Places::standard();
+    {
+        const QMutexLocker locker(&state().mutex);
+        if (state().hasPlaces)
+            places = state().places;
+        places.keychainWait = state().wait;
+    }
+    auto loaded = std::make_shared<const InstallationKey>(InstallationKey::load(places));
+    const QString problem = loaded->problem;
+    {
+        const QMutexLocker locker(&state().mutex);
+        if (!state().key || !state().key->sealer.canSeal())
+            state().key = std::move(loaded);
+    }
+    if (!problem.isEmpty())
+        LogQt::line(LogQt::Error, QString::fromLatin1("The installation's key: %1").arg(problem));
+}
+
 } // namespace
 
 const QStringList& properties()
@@ -73,57 +149,73 @@ void setPlaces(const InstallationKey::Places& places)
     state().key.reset();
 }
 
+void setKeychainWait(KeychainWait* wait)
+{
+    const QMutexLocker locker(&state().mutex);
+    state().wait = wait;
+}
+
 void prepare()
 {
-    InstallationKey::Places places;
     {
         const QMutexLocker locker(&state().mutex);
         if (state().key)
             return;
-        places = state().hasPlaces ? state().places : InstallationKey::Places::standard();
     }
-    // Asking the keychain runs an event loop, from which somebody may come here again.
-    auto loaded = std::make_shared<const InstallationKey>(InstallationKey::load(places));
-    const QString problem = loaded->problem;
-    {
-        const QMutexLocker locker(&state().mutex);
-        if (!state().key)
-            state().key = std::move(loaded);
-    }
-    if (!problem.isEmpty())
-        LogQt::line(LogQt::Error, QString::fromLatin1("The installation's key: %1").arg(problem));
+    load();
+}
+
+bool prepareAgain()
+{
+    if (!isKeyKept())
+        load();
+    return isKeyKept();
 }
 
 bool isKeyKept()
 {
-    return key()->kept;
+    return key()->sealer.canSeal();
+}
+
+void setClearAllowed(bool allowed)
+{
+    const QMutexLocker locker(&state().mutex);
+    state().clearAllowed = allowed;
 }
 
 QString open(const QString& owner, const QString& property, const QString& stored)
 {
-    if (owner.isEmpty() || !Sealer::isSealed(stored))
+    if (owner.isEmpty())
         return stored;
-    const std::optional<QString> opened = key()->sealer.open(stored, owner, property);
-    if (!opened)
-        tell(StoreError::SealedElsewhere);
-    return opened.value_or(QString());
+    const std::optional<QString> clear = opened(owner, property, stored);
+    if (!clear)
+        noteUnread(stored);
+    return clear.value_or(QString());
 }
 
 QString seal(const QString& owner, const QString& property, const QString& clear, const QString& before)
 {
     if (owner.isEmpty())
         return clear;
-    const std::shared_ptr<const InstallationKey> installation = key();
-    if (Sealer::isSealed(before)) {
-        const std::optional<QString> opened = installation->sealer.open(before, owner, property);
-        if (opened ? *opened == clear : clear.isEmpty())
-            return before;
-    }
+    const std::optional<QString> stands = opened(owner, property, before);
+    if (stands ? *stands == clear : clear.isEmpty())
+        return before;
     if (clear.isEmpty())
-        return clear;
-    if (!installation->kept)
-        tell(StoreError::KeyNotKept);
-    return installation->sealer.seal(clear, owner, property);
+        return wasUnread(before) ? before : clear;
+    const std::shared_ptr<const InstallationKey> installation = key();
+    return installation->sealer.canSeal() ? installation->sealer.seal(clear, owner, property)
+                                          : QLatin1String(Held) + holder().seal(clear, owner, property);
+}
+
+std::optional<QString> toStore(const QString& owner, const QString& property, const QString& sealed)
+{
+    const std::optional<QString> held = isHeld(sealed) ? opened(owner, property, sealed) : std::nullopt;
+    if (!held)
+        return sealed;
+    const std::shared_ptr<const InstallationKey> installation = key();
+    if (!installation->sealer.canSeal())
+        return std::nullopt;
+    return installation->sealer.seal(*held, owner, property);
 }
 
 void setListener(std::function<void(StoreError::Kind)> listener)

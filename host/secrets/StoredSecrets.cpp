@@ -22,11 +22,14 @@ struct Clear
 /// What is sealed, and looked at again: the text in the clear exists nowhere else after this.
 QString sealed(const SqliteStore& store, const QString& owner, const QString& key, const QString& text)
 {
-    QString result = Secrets::seal(owner, key, text);
-    if (Secrets::open(owner, key, result) != text)
+    const std::optional<QString> result = Secrets::toStore(owner, key, Secrets::seal(owner, key, text));
+    if (!result)
+        throw StoreFailure{
+            StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key"))};
+    if (Secrets::open(owner, key, *result) != text)
         throw StoreFailure{
             StoreError::make(StoreError::Other, store.fileName(), QLatin1String("sealing failed"))};
-    return result;
+    return *result;
 }
 
 QVector<Clear> clearPasswords(SqliteStore& store)
@@ -77,6 +80,15 @@ void seal(SqliteStore& store)
     emptyLog(store);
 }
 
+void seal(NodeData& data)
+{
+    for (const QString& key : Secrets::properties()) {
+        const QVariant password = data.properties.value(key);
+        if (password.isValid())
+            data.properties.set(key, Secrets::seal(data.id, key, password.toString()));
+    }
+}
+
 bool isPending(SqliteStore& store)
 {
     return store.value("PRAGMA user_version").toInt() >= StoreSchema::FirstSealed &&
@@ -90,7 +102,7 @@ void sealPending(SqliteStore& store)
     try {
         if (!Secrets::isKeyKept())
             throw StoreFailure{
-                StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key is kept"))};
+                StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key"))};
         seal(store);
         store.run("DELETE FROM settings WHERE key = ?", {QLatin1String(Pending)});
     } catch (const StoreFailure& failure) {

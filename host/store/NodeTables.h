@@ -53,6 +53,8 @@ public:
 
     explicit NodeTables(SqliteStore& store);
 
+    const QString& fileName() const { return m_store.fileName(); }
+
     /// All nodes with their numbers, in ascending order of these. One whose identifier is no text, which
     /// only another program can have written, is left out.
     void forEachNode(const std::function<void(qint64 n, const PackedSummary&)>& visit);

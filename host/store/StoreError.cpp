@@ -74,12 +74,19 @@ const char* pattern(StoreError::Kind kind)
             "because the key that they were sealed with is not there. Unlock your keychain "
             "or bring the key file back, and start the program again. They stay in the "
             "database until you give new ones.");
+    case StoreError::NotSealed:
+        return QT_TRANSLATE_NOOP(
+            "ko::StoreError",
+            "Some passwords in the node database \"%1\" were changed by something other than "
+            "this program, and are shown empty. They stay in the database until you give new "
+            "ones. Find out who can write to the file, or go back to a backup.");
     case StoreError::KeyNotKept:
         return QT_TRANSLATE_NOOP(
-            "ko::StoreError", "The key for the passwords in the node database \"%1\" can be kept neither in "
-                              "your keychain nor in a file. Passwords that you give now are lost when you "
-                              "close the program. Make your configuration folder writable, and start the "
-                              "program again.");
+            "ko::StoreError",
+            "Passwords cannot be stored in the node database \"%1\", because the key that "
+            "seals them can be found neither in your keychain nor in a file, nor kept there. "
+            "Unlock your keychain, bring the key file back, or make your configuration "
+            "folder writable, and try again.");
     case StoreError::Other:
         break;
     }

@@ -26,7 +26,8 @@ struct StoreError
         NotAFile,        ///< a folder, a device, a pipe or a socket
         SameFile,        ///< a copy would go into the database that it is made of
         SealedElsewhere, ///< passwords cannot be opened; the database can be used
-        KeyNotKept,      ///< passwords given now are lost with the program
+        NotSealed,       ///< passwords were put there by something else; the database can be used
+        KeyNotKept,      ///< there is no key with which passwords could be stored
         Other
     };
 

@@ -1,3 +1,4 @@
+#include "secrets/Secrets.h"
 #include "support/HostFixture.h"
 #include "support/PassThroughNodeDB.h"
 #include "support/TestMain.h"
@@ -287,7 +288,10 @@ void tst_PageRoundTrip::storedValuesComeBack()
         db.data.id = QString("n%1").arg(round);
         db.data.type = nodeType;
         for (const auto& entry : start)
-            db.data.properties.set(entry.first, entry.second);
+            db.data.properties.set(entry.first,
+                                   Secrets::isSecret(entry.first)
+                                       ? Secrets::seal(db.data.id, entry.first, entry.second.toString())
+                                       : entry.second);
         const QString id = db.data.id;
 
         Expectation expected(start);

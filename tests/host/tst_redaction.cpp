@@ -50,6 +50,7 @@ void tst_Redaction::texts_data()
     row("json in json", R"({"data":"{\"Password\":\"a\\\"b\",\"User\":\"u\"}"})",
         R"({"data":"{\"Password\":\"***\",\"User\":\"u\"}"})");
     row("header", "Authorization: Basic dTpw== x\nHost: h", "Authorization: ***\nHost: h");
+    row("quotes that held a blank", "://u:password='a b'@h", "://u:***@h");
     row("unclosed", "{\"password\":\"abc", "{\"password\":\"***");
     row("not latin", "Passwort: Zaun-\xC3\xA4", "Passwort: ***");
 }
@@ -93,16 +94,16 @@ void tst_Redaction::everyPasswordInEveryPlace()
 
 void tst_Redaction::anyTextEndsSoonAndStaysTheSame()
 {
-    const QString parts[] = {"password", "\"", "\\", ":", "=", "://", "@", "[",  "{",
-                             "}",        "]",  "'",  " ", "a", "&",   ",", "\n", "authorization",
-                             "***",      "?",  "/"};
+    const QString parts[] = {"password", "\"", "\\", ":",     "=",         "://", "@", "[",  "{",
+                             "}",        "]",  "'",  " ",     "a",         "&",   ",", "\n", "authorization",
+                             "***",      "?",  "/",  "://u:", "password='"};
     QRandomGenerator random(20);
     for (int round = 0; round < 20000; ++round) {
         QString text;
         for (int i = random.bounded(30); i > 0; --i)
             text += parts[random.bounded(int(std::size(parts)))];
         const QString once = redacted(text);
-        QVERIFY2(redacted(once).size() <= once.size() + 2, qPrintable(text));
+        QVERIFY2(redacted(once) == once, qPrintable(text));
     }
 }
 

@@ -139,7 +139,11 @@ private slots:
     void keyFileIsPrivateAndKept();
     void halfWrittenKeyFileIsNone();
     void unreadableKeyFileIsNotReplaced();
-    void withoutAnyPlaceTheKeyLastsForTheProcess();
+    void keyFileThatIsAPipe();
+    void keyInAKeychainThatIsNotThere();
+    void withoutAKeyNothingIsStored();
+    void editorOpenWhileTheKeyComesBack();
+    void listsNeedTheKey();
     void twoProcessesMakeOneKey();
     void keychain();
     void keychainThatNeverAnswers();
@@ -147,6 +151,8 @@ private slots:
     void nodesHandOutSealedPasswords();
     void samePasswordIsNoChange();
     void movedInTheDatabase();
+    void alteredPasswordIsNone_data();
+    void alteredPasswordIsNone();
     void unopenedPasswordStays();
     void globalProxy();
     void oldDatabaseIsSealed();
@@ -159,6 +165,8 @@ private slots:
 private:
     QString path(const char* name) const { return m_folder->filePath(QLatin1String(name)); }
     InstallationKey::Places places() const;
+    void checkOpenKeychain(const InstallationKey::Places& chain);
+    void checkLockedKeychain(const InstallationKey::Places& chain);
     void useNewKey(const char* file);
     QString stored(const QString& id, const char* key) const;
 
@@ -274,7 +282,7 @@ void tst_Secrets::keyFileIsPrivateAndKept()
     const mode_t old = ::umask(0);
     const InstallationKey made = InstallationKey::load(places());
     ::umask(old);
-    QVERIFY(made.kept);
+    QVERIFY(made.sealer.canSeal());
     QCOMPARE(made.problem, QString());
     QCOMPARE(mode(places().keyFile), 0600);
     QCOMPARE(mode(path("config")), 0700);
@@ -291,7 +299,7 @@ void tst_Secrets::halfWrittenKeyFileIsNone()
     QFile file(draft);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("half") > 0);
     file.close();
-    QVERIFY(InstallationKey::load(places()).kept);
+    QVERIFY(InstallationKey::load(places()).sealer.canSeal());
     QCOMPARE(mode(places().keyFile), 0600);
     QVERIFY(!QFile::exists(draft));
 }
@@ -303,29 +311,159 @@ void tst_Secrets::unreadableKeyFileIsNotReplaced()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no key\n") > 0);
     file.close();
     const InstallationKey key = InstallationKey::load(places());
-    QVERIFY(!key.kept);
-    QVERIFY(key.sealer.canSeal());
+    QVERIFY(!key.sealer.canSeal());
     QVERIFY(!key.problem.isEmpty());
     QCOMPARE(content(places().keyFile), QByteArray("no key\n"));
 }
 
-void tst_Secrets::withoutAnyPlaceTheKeyLastsForTheProcess()
+void tst_Secrets::keyFileThatIsAPipe()
 {
+    QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String("config")));
+    QCOMPARE(::mkfifo(QFile::encodeName(places().keyFile).constData(), 0600), 0);
+    const InstallationKey key = InstallationKey::load(places()); // comes back
+    QVERIFY(!key.sealer.canSeal());
+    QVERIFY(!key.problem.isEmpty());
+}
+
+void tst_Secrets::keyInAKeychainThatIsNotThere()
+{
+    InstallationKey::Places chain = places();
+    chain.keychain = QLatin1String("konodeui-test"); // the bus of tests has none
+    QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String("config")));
+    QFile marker(chain.keyFile + QLatin1String(".keychain"));
+    QVERIFY(marker.open(QIODevice::WriteOnly));
+    const InstallationKey none = InstallationKey::load(chain);
+    QVERIFY(!none.sealer.canSeal());
+    QVERIFY2(none.problem.contains(marker.fileName()), qPrintable(none.problem));
+    QVERIFY(!QFile::exists(chain.keyFile));
+    QVERIFY(marker.remove());
+    QVERIFY(InstallationKey::load(chain).sealer.canSeal());
+    QVERIFY(QFile::exists(chain.keyFile));
+}
+
+void tst_Secrets::withoutAKeyNothingIsStored()
+{
+    QString id;
+    {
+        const auto db = openDatabase(m_file);
+        id = addCamera(*db, QLatin1String("a"), QLatin1String("10.0.0.1"));
+        setText(*db, id, "Password", QLatin1String("before"));
+    }
+    const QString before = stored(id, "Password");
+    // The folder of the key cannot be made: a file has its name.
+    QVERIFY(QFile::rename(path("config"), path("kept")));
+    QFile obstacle(path("config"));
+    QVERIFY(obstacle.open(QIODevice::WriteOnly));
+    Secrets::setPlaces(places());
+    const auto db = openDatabase(m_file);
+    QVERIFY(db);
+    QSignalSpy failed(db.get(), SIGNAL(storeFailed(ko::StoreError)));
+    setText(*db, id, "Password", QLatin1String("s3cret"));
+    const QString added = addCamera(*db, QLatin1String("b"), QLatin1String("10.0.0.2"));
+    setText(*db, added, "Password", QLatin1String("s3cret2"));
+    db->globalProxy().setSaveProxyPassword(true);
+    db->globalProxy().setProxyUser(QLatin1String("joe"), QLatin1String("pr0xy"));
+    QVERIFY(!db->flush());
+    QCOMPARE(failed.last().at(0).value<StoreError>().kind, StoreError::KeyNotKept);
+    // What was confirmed is there, and nowhere else.
+    QCOMPARE(text(*db, id, "Password"), QLatin1String("s3cret"));
+    QCOMPARE(text(*db, added, "Password"), QLatin1String("s3cret2"));
+    QVERIFY(db->hasUnstoredChanges());
+    QCOMPARE(stored(id, "Password"), before);
+    QCOMPARE(PlainSql(m_file).run(QLatin1String("SELECT count(*) FROM nodes")).toInt(), 1);
+    QVERIFY(!filesWith({QLatin1String("s3cret"), QLatin1String("pr0xy")}, path("db")).size());
+    // The folder is back: trying again looks for the key again.
+    QVERIFY(obstacle.remove());
+    QVERIFY(QFile::rename(path("kept"), path("config")));
+    QVERIFY(db->flush());
+    QVERIFY(!db->hasUnstoredChanges());
+    const auto other = openDatabase(m_file);
+    QCOMPARE(text(*other, id, "Password"), QLatin1String("s3cret"));
+    QCOMPARE(text(*other, added, "Password"), QLatin1String("s3cret2"));
+    QCOMPARE(other->globalProxy().proxyPassword(), QLatin1String("pr0xy"));
+    QVERIFY(Sealer::isSealed(stored(id, "Password")));
+    setText(*db, id, "Name", QLatin1String("renamed")); // what was held in memory goes on standing for it
+    QCOMPARE(text(*db, id, "Password"), QLatin1String("s3cret"));
+    QVERIFY(db->flush());
+    QCOMPARE(text(*openDatabase(m_file), id, "Password"), QLatin1String("s3cret"));
+}
+
+/// An editor that was opened while the key was away writes the empty password back that it shows.
+void tst_Secrets::editorOpenWhileTheKeyComesBack()
+{
+    QString id;
+    {
+        const auto db = openDatabase(m_file);
+        id = addCamera(*db, QLatin1String("a"), QLatin1String("10.0.0.1"));
+        setText(*db, id, "Password", QLatin1String("s3cret"));
+        db->globalProxy().setSaveProxyPassword(true);
+        db->globalProxy().setProxyUser(QLatin1String("joe"), QLatin1String("pr0xy"));
+    }
+    QVERIFY(QFile::rename(path("config"), path("kept")));
+    QFile obstacle(path("config"));
+    QVERIFY(obstacle.open(QIODevice::WriteOnly));
+    Secrets::setPlaces(places());
+    const auto db = openDatabase(m_file);
+    const QString shown = text(*db, id, "Password");
+    QCOMPARE(shown, QString());
+    QCOMPARE(db->globalProxy().proxyPassword(), QString());
+    addCamera(*db, QLatin1String("b"), QLatin1String("10.0.0.2"));
+    setText(*db, db->nodeIdList(IPDeviceType).constLast(), "Password", QLatin1String("other"));
+    QVERIFY(!db->flush());
+    QVERIFY(obstacle.remove());
+    QVERIFY(QFile::rename(path("kept"), path("config")));
+    QVERIFY(db->flush());
+    QCOMPARE(db->globalProxy().proxyPassword(), QLatin1String("pr0xy"));
+    QCOMPARE(text(*db, id, "Password"), QLatin1String("s3cret"));
+    setText(*db, id, "Password", shown);
+    db->globalProxy().setUseProxy(true);
+    QVERIFY(db->flush());
+    const auto other = openDatabase(m_file);
+    QCOMPARE(text(*other, id, "Password"), QLatin1String("s3cret"));
+    QCOMPARE(other->globalProxy().proxyPassword(), QLatin1String("pr0xy"));
+}
+
+void tst_Secrets::listsNeedTheKey()
+{
+    QFile list(path("cameras.csv"));
+    QVERIFY(list.open(QIODevice::WriteOnly));
+    list.write("name,address,password\nGate,10.0.0.1,s3cret\nYard,10.0.0.2,\n");
+    list.close();
+    {
+        const auto db = openDatabase(m_file);
+        QCOMPARE(CameraSurvey::importCameras(list.fileName()).added, 2);
+    }
+    const QString sealed = PlainSql(m_file)
+                               .run(QLatin1String("SELECT value FROM properties WHERE key = 'Password' AND "
+                                                  "value <> ''"))
+                               .toString();
     InstallationKey::Places nowhere;
     nowhere.keyFile = QLatin1String("/proc/no such folder/key");
     Secrets::setPlaces(nowhere);
     const auto db = openDatabase(m_file);
-    QVERIFY(db);
-    QSignalSpy damaged(db.get(), SIGNAL(storeDamaged(ko::StoreError)));
-    const QString first = addCamera(*db, QLatin1String("a"), QLatin1String("10.0.0.1"));
-    setText(*db, first, "Password", QLatin1String("s3cret"));
-    setText(*db, first, "Password", QLatin1String("s3cret2"));
-    QCOMPARE(text(*db, first, "Password"), QLatin1String("s3cret2"));
+    QVERIFY(list.open(QIODevice::WriteOnly));
+    list.write("name,address,password\nDock,10.0.0.3,\nGate,10.0.0.1,other\n");
+    list.close();
+    const auto imported = CameraSurvey::importCameras(list.fileName());
+    QVERIFY2(imported.error.contains(QLatin1String("line 3")), qPrintable(imported.error));
+    QVERIFY(!imported.error.contains(QLatin1String("other")));
+    QCOMPARE(imported.added + imported.updated, 0);
+    const auto exported = CameraSurvey::exportCameras(path("out.csv"), CameraSurvey::Passwords::Write);
+    QVERIFY2(exported.error.contains(QLatin1String("Gate")), qPrintable(exported.error));
+    QVERIFY(!exported.error.contains(QLatin1String("Yard")));
+    QVERIFY(!QFile::exists(path("out.csv")));
+    // What has no passwords needs no key.
+    QCOMPARE(CameraSurvey::exportCameras(path("out.csv"), CameraSurvey::Passwords::LeaveOut).error,
+             QString());
+    const auto again = CameraSurvey::importCameras(path("out.csv"));
+    QCOMPARE(again.error, QString());
+    QCOMPARE(again.unchanged, 2);
     QVERIFY(db->flush());
-    QVERIFY(Sealer::isSealed(stored(first, "Password")));
-    QCoreApplication::processEvents();
-    QCOMPARE(damaged.count(), 1); // told once
-    QCOMPARE(damaged.at(0).at(0).value<StoreError>().kind, StoreError::KeyNotKept);
+    QCOMPARE(PlainSql(m_file).run(QLatin1String("SELECT count(*) FROM nodes")).toInt(), 2);
+    QCOMPARE(PlainSql(m_file)
+                 .run(QLatin1String("SELECT value FROM properties WHERE key = 'Password' AND value <> ''"))
+                 .toString(),
+             sealed);
 }
 
 void tst_Secrets::twoProcessesMakeOneKey()
@@ -362,6 +500,49 @@ void tst_Secrets::twoProcessesMakeOneKey()
     }
 }
 
+/// Where the keychain is open.
+void tst_Secrets::checkOpenKeychain(const InstallationKey::Places& chain)
+{
+    const InstallationKey made = InstallationKey::load(chain);
+    QCOMPARE(made.problem, QString());
+    QVERIFY(made.sealer.canSeal());
+    QVERIFY(!QFile::exists(chain.keyFile)); // the keychain has it
+    const QString marker = chain.keyFile + QLatin1String(".keychain");
+    QVERIFY(QFile::remove(marker)); // of a version that left none
+    const QString sealed = made.sealer.seal(QLatin1String("s3cret"), owner, field);
+    const InstallationKey again = InstallationKey::load(chain);
+    QCOMPARE(again.sealer.open(sealed, owner, field).value_or(QString()), QLatin1String("s3cret"));
+    // A file that was used while there was no keychain still opens; the keychain's key seals.
+    QVERIFY(QFile::remove(marker));
+    const QString fromFile = InstallationKey::load(places()).sealer.seal(QLatin1String("old"), owner, field);
+    const InstallationKey both = InstallationKey::load(chain);
+    QCOMPARE(both.sealer.open(fromFile, owner, field).value_or(QString()), QLatin1String("old"));
+    QVERIFY(made.sealer.open(both.sealer.seal(QLatin1String("new"), owner, field), owner, field));
+    QVERIFY(QFile::remove(chain.keyFile) && QFile::remove(marker));
+}
+
+/// Where it stays locked, which the library calls a missing entry; also without the marker, as of old.
+void tst_Secrets::checkLockedKeychain(const InstallationKey::Places& chain)
+{
+    const QStringList lock = {QLatin1String("--session"),
+                              QLatin1String("--print-reply=literal"),
+                              QLatin1String("--dest=org.freedesktop.secrets"),
+                              QLatin1String("/org/freedesktop/secrets"),
+                              QLatin1String("org.freedesktop.Secret.Service.Lock"),
+                              QLatin1String("array:objpath:/org/freedesktop/secrets/collection/login")};
+    QCOMPARE(QProcess::execute(QLatin1String("dbus-send"), lock), 0);
+    const InstallationKey locked = InstallationKey::load(chain);
+    QVERIFY(!locked.sealer.canSeal());
+    QVERIFY(!locked.problem.isEmpty());
+    QVERIFY(!QFile::exists(chain.keyFile));
+    // Where the keychain surely has none and takes none, it is made in the file.
+    InstallationKey::Places other = chain;
+    other.keychain = QLatin1String("konodeui-other");
+    QVERIFY(InstallationKey::load(other).sealer.canSeal());
+    QVERIFY(QFile::exists(chain.keyFile));
+    QVERIFY(!QFile::exists(chain.keyFile + QLatin1String(".keychain")));
+}
+
 /// In a session of its own with an unlocked keychain, this test runs again as another process.
 void tst_Secrets::keychain()
 {
@@ -370,19 +551,8 @@ void tst_Secrets::keychain()
         qputenv("DBUS_SESSION_BUS_ADDRESS", bus);
         InstallationKey::Places chain = places();
         chain.keychain = QLatin1String("konodeui-test");
-        const InstallationKey made = InstallationKey::load(chain);
-        QCOMPARE(made.problem, QString());
-        QVERIFY(made.kept);
-        QVERIFY(!QFile::exists(chain.keyFile)); // the keychain has it
-        const QString sealed = made.sealer.seal(QLatin1String("s3cret"), owner, field);
-        const InstallationKey again = InstallationKey::load(chain);
-        QCOMPARE(again.sealer.open(sealed, owner, field).value_or(QString()), QLatin1String("s3cret"));
-        // A file that was used while there was no keychain still opens; the keychain's key seals.
-        const QString fromFile =
-            InstallationKey::load(places()).sealer.seal(QLatin1String("old"), owner, field);
-        const InstallationKey both = InstallationKey::load(chain);
-        QCOMPARE(both.sealer.open(fromFile, owner, field).value_or(QString()), QLatin1String("old"));
-        QVERIFY(made.sealer.open(both.sealer.seal(QLatin1String("new"), owner, field), owner, field));
+        checkOpenKeychain(chain);
+        checkLockedKeychain(chain);
         return;
     }
     QVERIFY2(!QStandardPaths::findExecutable(QLatin1String("gnome-keyring-daemon")).isEmpty(),
@@ -415,7 +585,9 @@ void tst_Secrets::keychainThatNeverAnswers()
     chain.keychainPatience = 300;
     const InstallationKey key = InstallationKey::load(chain);
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
-    QVERIFY(key.kept); // in the file
+    QVERIFY(!key.sealer.canSeal()); // it may have one
+    QVERIFY(!key.problem.isEmpty());
+    QVERIFY(!QFile::exists(chain.keyFile));
 }
 
 void tst_Secrets::nodesHandOutSealedPasswords()
@@ -505,6 +677,65 @@ void tst_Secrets::movedInTheDatabase()
     QCoreApplication::processEvents();
     QCOMPARE(damaged.count(), 1);
     QCOMPARE(damaged.at(0).at(0).value<StoreError>().kind, StoreError::SealedElsewhere);
+}
+
+void tst_Secrets::alteredPasswordIsNone_data()
+{
+    QTest::addColumn<QString>("altered"); // in SQL, of what is sealed
+    QTest::newRow("clear") << QString::fromLatin1("'planted'");
+    QTest::newRow("cut off") << QString::fromLatin1("substr(value, 1, length(value) - 1)");
+    QTest::newRow("no prefix") << QString::fromLatin1("substr(value, 9)");
+    QTest::newRow("longer") << QString::fromLatin1("value || 'x'");
+    QTest::newRow("another version") << QString::fromLatin1("replace(value, 'sealed1:', 'sealed2:')");
+    QTest::newRow("held") << QString::fromLatin1("'held:' || value");
+    QTest::newRow("a number") << QString::fromLatin1("4711");
+    QTest::newRow("a flag") << QString::fromLatin1("1");
+}
+
+void tst_Secrets::alteredPasswordIsNone()
+{
+    QFETCH(QString, altered);
+    QString id;
+    {
+        const auto db = openDatabase(m_file);
+        id = addCamera(*db, QLatin1String("a"), QLatin1String("10.0.0.1"));
+        auto* device = dynamic_cast<IPDeviceNode*>(db->beginUpdateNode(id, -1));
+        device->setUser(QLatin1String("u"), QLatin1String("s3cret"));
+        device->proxy().setProxyUser(QLatin1String("joe"), QLatin1String("pr0xy"));
+        db->endUpdateNode(device);
+        db->globalProxy().setSaveProxyPassword(true);
+        db->globalProxy().setProxyUser(QLatin1String("g"), QLatin1String("gl0bal"));
+    }
+    for (const char* where : {"properties SET value = %1 WHERE key IN ('Password', 'ProxyPassword')",
+                              "settings SET value = %1 WHERE key = 'proxy.password'"})
+        PlainSql(m_file).run(QLatin1String("UPDATE ") + QString::fromLatin1(where).arg(altered));
+    const bool otherType = altered == QLatin1String("1");
+    if (otherType)
+        PlainSql(m_file).run(QLatin1String("UPDATE properties SET type = 1 WHERE key = 'Password'"));
+    const QString before = stored(id, "Password");
+    {
+        const auto db = openDatabase(m_file);
+        QSignalSpy damaged(db.get(), SIGNAL(storeDamaged(ko::StoreError)));
+        const auto seen = db->node(id).cast<const IPDeviceNode>();
+        QCOMPARE(seen->password(0), QString());
+        QCOMPARE(seen->proxy().proxyPassword(), QString());
+        QCOMPARE(db->globalProxy().proxyPassword(), QString());
+        QCoreApplication::processEvents();
+        QCOMPARE(damaged.count(), 1);
+        QCOMPARE(damaged.at(0).at(0).value<StoreError>().kind, StoreError::NotSealed);
+        // A page writes back what it showed: it stays, and is not sealed.
+        auto* device = dynamic_cast<IPDeviceNode*>(db->beginUpdateNode(id, -1));
+        device->setUser(QLatin1String("new user"), QString());
+        device->proxy().setProxyAddress(QLatin1String("proxy"), 1);
+        db->endUpdateNode(device);
+        db->globalProxy().setUseProxy(true);
+        QVERIFY(db->flush());
+        QVERIFY(otherType || stored(id, "Password") == before);
+        QCOMPARE(text(*db, id, "Password"), QString());
+        // A new one replaces it.
+        setText(*db, id, "Password", QLatin1String("typed"));
+    }
+    QCOMPARE(text(*openDatabase(m_file), id, "Password"), QLatin1String("typed"));
 }
 
 void tst_Secrets::unopenedPasswordStays()

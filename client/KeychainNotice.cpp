@@ -1,0 +1,74 @@
+#include "KeychainNotice.h"
+
+#include "secrets/Secrets.h"
+
+#include <QApplication>
+#include <QPushButton>
+
+#include <cstdio>
+
+namespace ko {
+
+namespace {
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("KeychainNotice", text);
+}
+
+} // namespace
+
+KeychainNotice::KeychainNotice(Way way)
+    : m_way(way)
+{
+    Secrets::setKeychainWait(this);
+}
+
+KeychainNotice::~KeychainNotice()
+{
+    Secrets::setKeychainWait(nullptr);
+}
+
+bool KeychainNotice::prepare()
+{
+    m_starting = true;
+    Secrets::prepare();
+    m_starting = false;
+    return !m_quit;
+}
+
+bool KeychainNotice::begin(const std::function<void()>& giveUp)
+{
+    if (m_way == Way::Line) {
+        std::fprintf(stderr, "%s\n",
+                     qPrintable(translated("Waiting for the keychain. Unlock it if it asks for that.")));
+        return false;
+    }
+    m_box = std::make_unique<QMessageBox>(QMessageBox::Information, translated("Keychain"),
+                                          translated("Waiting for your keychain."), QMessageBox::NoButton,
+                                          QApplication::activeWindow());
+    m_box->setObjectName(QStringLiteral("keychainBox"));
+    m_box->setTextFormat(Qt::PlainText);
+    m_box->setInformativeText(
+        translated("It has the key of the stored passwords. Unlock it if it asks for that.\n\n"
+                   "Without the key, stored passwords are shown empty and new ones cannot be stored."));
+    QPushButton* goOn = m_box->addButton(translated("Continue Without Passwords"), QMessageBox::AcceptRole);
+    QPushButton* quit = m_starting ? m_box->addButton(translated("Quit"), QMessageBox::RejectRole) : nullptr;
+    m_box->setEscapeButton(quit ? quit : goOn);
+    QObject::connect(m_box.get(), &QDialog::finished, m_box.get(), [this, giveUp, quit] {
+        m_quit = quit && m_box->clickedButton() == quit;
+        giveUp();
+    });
+    m_box->setWindowModality(Qt::ApplicationModal);
+    m_box->show();
+    return true;
+}
+
+void KeychainNotice::end()
+{
+    if (m_box)
+        m_box->disconnect();
+    m_box.reset();
+}
+
+} // namespace ko
