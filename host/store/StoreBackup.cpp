@@ -205,7 +205,7 @@ bool restore(const QString& backup, const QString& database, StoreError* error)
 
 QString folderOf(const QString& database)
 {
-    return database + QLatin1String(".backups");
+    return StoreFile::resolved(database) + QLatin1String(".backups");
 }
 
 QVector<Backup> backups(const QString& database)

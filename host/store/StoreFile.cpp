@@ -106,14 +106,17 @@ const char* const Companions[3] = {"-wal", "-shm", "-journal"};
 
 QString resolved(const QString& file)
 {
-    QFileInfo info(file);
+    // By hand, because the toolkit has a meaning of its own for names that begin with ":".
+    const bool isAbsolute = file.startsWith(QLatin1Char('/'));
+    QFileInfo info(isAbsolute ? file : QDir::currentPath() + QLatin1Char('/') + file);
     // A link to a file that is not there yet: SQLite makes it where the link points.
     for (int links = 0; links < 40 && info.isSymLink() && !info.exists(); ++links)
         info.setFile(info.symLinkTarget());
     if (info.exists())
         return info.canonicalFilePath();
     const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
-    return folder.isEmpty() ? info.absoluteFilePath() : QDir(folder).filePath(info.fileName());
+    return folder.isEmpty() ? info.absoluteFilePath()
+                            : QDir::cleanPath(folder + QLatin1Char('/') + info.fileName());
 }
 
 bool isSame(const QString& file, const QString& other)
