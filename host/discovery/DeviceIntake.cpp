@@ -7,6 +7,7 @@
 #include "discovery/NetworkText.h"
 #include "discovery/Scanner.h"
 #include "discovery/ServiceTypes.h"
+#include "discovery/SightingFilter.h"
 #include "interfaces/INodeDriverComponent.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/LogQt.h"
@@ -73,14 +74,6 @@ int rankOfAddress(const QString& address)
     return !isIPv6(address) ? 0 : address.startsWith(QLatin1String("fe80"), Qt::CaseInsensitive) ? 2 : 1;
 }
 
-/// An address that every device may claim says nothing about any.
-QString usableMac(const QString& text)
-{
-    const QString mac = text.size() > 32 ? QString() : MACAddress(text).toString(true);
-    const bool group = !mac.isEmpty() && QString(mac.at(1)).toInt(nullptr, 16) % 2 == 1;
-    return group || mac == QLatin1String("00:00:00:00:00:00") ? QString() : mac;
-}
-
 bool contradict(const QString& a, const QString& b)
 {
     return !a.isEmpty() && !b.isEmpty() && a.compare(b, Qt::CaseInsensitive) != 0;
@@ -89,20 +82,6 @@ bool contradict(const QString& a, const QString& b)
 QString instanceKey(const DiscoveredDevice& seen)
 {
     return QStringList{seen.service, QString::number(seen.port), seen.name.toLower()}.join(QChar(0x1f));
-}
-
-/// False when nothing can be made of it.
-bool clean(DiscoveredDevice& seen)
-{
-    seen.address = NetworkText::address(seen.address.left(100));
-    if (seen.address.isEmpty() || seen.port < 0 || seen.port > 65535)
-        return false;
-    seen.name = NetworkText::cleaned(seen.name, DeviceIntake::NameLength);
-    seen.model = NetworkText::cleaned(seen.model, DeviceIntake::TextLength);
-    seen.version = NetworkText::cleaned(seen.version, DeviceIntake::TextLength);
-    seen.service = NetworkText::cleaned(seen.service, DeviceIntake::TextLength);
-    seen.macAddress = usableMac(seen.macAddress);
-    return true;
 }
 
 } // namespace
@@ -131,6 +110,7 @@ public:
     DeviceIntake& q;
     HostNodeDB& db;
     KnownAddresses known;
+    SightingFilter filter;
     QTimer timer;
     QElapsedTimer clock;
     std::deque<DiscoveredDevice> waiting;
@@ -187,7 +167,7 @@ void DeviceIntake::Private::work()
 
 void DeviceIntake::Private::sighted(DiscoveredDevice seen)
 {
-    if (!clean(seen))
+    if (!filter.pass(seen))
         return;
     Device* device = atSameAddress(seen);
     if (!device)
@@ -436,6 +416,7 @@ void DeviceIntake::beginScan()
     ++d->scan;
     d->newInScan = 0;
     d->saidDropped = false;
+    d->filter.beginScan();
     QSet<const Device*> gone;
     for (const auto& device : d->devices) {
         const bool isNoted = std::find(d->changedDevices.cbegin(), d->changedDevices.cend(), device.get()) !=
