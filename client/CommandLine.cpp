@@ -8,6 +8,7 @@
 #include "discovery/ArpScanner.h"
 #include "discovery/MdnsScanner.h"
 #include "exchange/CameraSurvey.h"
+#include "ko/Terminal.h"
 #include "store/BackupKeeper.h"
 #include "store/StoreBackup.h"
 #include "store/StoreFile.h"
@@ -19,7 +20,6 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-#include <cstdio>
 #include <memory>
 
 #ifdef Q_OS_UNIX
@@ -30,9 +30,12 @@ namespace ko {
 
 namespace {
 
-void say(FILE* stream, const QString& text)
+using Terminal::say;
+
+/// The toolkit quotes names of files and other texts too.
+void sayMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 {
-    std::fprintf(stream, "%s\n", text.toLocal8Bit().constData());
+    say(stderr, text);
 }
 
 /// What the program keeps holds passwords; it is for its user alone.
@@ -123,9 +126,12 @@ bool CommandLine::parse()
     }
     if (parser.isSet(help) || parser.isSet(version)) {
         const QCoreApplication application(m_argc, m_argv); // the texts name the program
-        say(stdout, parser.isSet(help) ? parser.helpText().trimmed()
-                                       : QCoreApplication::applicationName() + QLatin1Char(' ') +
-                                             QCoreApplication::applicationVersion());
+        const QString text = parser.isSet(help) ? parser.helpText().trimmed()
+                                                : QCoreApplication::applicationName() + QLatin1Char(' ') +
+                                                      QCoreApplication::applicationVersion();
+        const QStringList lines = text.split(QLatin1Char('\n'));
+        for (const QString& line : lines)
+            say(stdout, line);
         return false;
     }
     m_database = parser.value(db);
@@ -143,6 +149,7 @@ bool CommandLine::parse()
 
 int CommandLine::run()
 {
+    qInstallMessageHandler(sayMessage);
     if (!parse())
         return m_exitCode;
     keepFilesPrivate();

@@ -3,6 +3,7 @@
 #include "database/HostNodeDB.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHint.h"
+#include "ko/OutsideText.h"
 
 #include <QCoreApplication>
 
@@ -92,7 +93,7 @@ QString DeviceFinder::findByName(const SurveyRow& row, QString* reason)
     const QStringList candidates = m_byName.values(name);
     for (const QString& candidate : candidates) {
         const auto node = device(candidate);
-        if (node.null() || m_known.contains(candidate) || node->name() != name)
+        if (node.null() || m_known.contains(candidate) || OutsideText::fit(node->name()) != name)
             continue;
         (node->address().isEmpty() ? without : withAddress).append(candidate);
     }
@@ -107,7 +108,7 @@ void DeviceFinder::readDevices()
         return;
     m_isRead = true;
     const auto insert = [this](const QString& id, const QString& name, const QString& address) {
-        m_byName.insert(name, id);
+        m_byName.insert(OutsideText::fit(name), id); // as names in a survey are
         m_byAddress.insert(addressKey(address), id);
     };
     // Summaries are in memory; without them every node has to be looked at once.

@@ -96,6 +96,7 @@ private slots:
     void importAndExport();
     void importTwiceAddsNothing();
     void badLinesAreNamed();
+    void foreignTextsDoNotSteerTheTerminal();
     void badLists_data();
     void badLists();
     void exportWithoutPasswords();
@@ -223,6 +224,25 @@ void tst_CommandLine::badLinesAreNamed()
     QVERIFY(!result.complained.contains("many")); // it could be a password in the wrong column
     QVERIFY(result.said.contains("2 added"));
     QVERIFY(result.said.contains("1 lines with errors"));
+}
+
+void tst_CommandLine::foreignTextsDoNotSteerTheTerminal()
+{
+    const QString list = write("in\x1b[2J.csv", "name,address,\x1b]0;owned\x07,a\xe2\x80\xae"
+                                                "b,port\n"
+                                                "Gate,10.0.0.1,,,x\n");
+    const Call result = onDatabase({"--import", list});
+    QCOMPARE(result.exitCode, int(CommandLine::SomeLinesBad));
+    QVERIFY2(result.complained.contains("\"\\x1b]0;owned\\x07\""), qPrintable(result.complained));
+    QVERIFY(result.complained.contains("\"a\\u202eb\""));
+    QVERIFY(result.complained.contains("in\\x1b[2J.csv, line 2"));
+    for (const Call& call : {result, onDatabase({"--import", list + "\x1b[31m"}),
+                             onDatabase({"--export", m_folder->filePath("no\nthing\x1b/x")}),
+                             onDatabase({"--un\x1bknown"}), onDatabase({"\x1b[31m"})}) {
+        QVERIFY(!call.complained.isEmpty());
+        QVERIFY(!call.complained.contains('\x1b') && !call.complained.contains('\x07'));
+        QVERIFY(!call.said.contains('\x1b'));
+    }
 }
 
 void tst_CommandLine::badLists_data()
