@@ -181,7 +181,7 @@ int CommandLine::runTask()
     const ProgramLog log(db->logStore());
     if (m_checkTour)
         return Tour::check(*db) ? Good : Failed;
-    const int imported = m_import.isEmpty() ? Good : importCameras(*db);
+    const int imported = m_import.isEmpty() ? Good : importCameras();
     return imported == Failed || m_export.isEmpty() ? imported : qMax(imported, exportCameras());
 }
 
@@ -252,13 +252,12 @@ bool CommandLine::runTour(HostNodeDB& db, MainWindow& window) const
     return m_tourCameras > 0 ? tour.runScans(m_tourCameras) : tour.run(m_survey);
 }
 
-int CommandLine::importCameras(HostNodeDB& db) const
+int CommandLine::importCameras() const
 {
     const CameraSurvey::ImportResult result = CameraSurvey::importCameras(m_import, [](qint64, qint64) {
         QCoreApplication::processEvents(); // the database stores what was done so far
         return true;
     });
-    const bool stored = db.flush();
     for (const CameraSurvey::BadLine& line : result.badLines)
         say(stderr, QCoreApplication::translate("CommandLine", "%1, line %2: %3")
                         .arg(m_import, QString::number(line.line), line.reason));
@@ -266,17 +265,16 @@ int CommandLine::importCameras(HostNodeDB& db) const
         say(stderr, QCoreApplication::translate("CommandLine", "Column \"%1\" is not used.").arg(column));
     if (!result.error.isEmpty())
         say(stderr, result.error);
-    if (!stored)
-        say(stderr, QCoreApplication::translate("CommandLine", "The cameras could not be stored."));
     say(stdout,
         QCoreApplication::translate("CommandLine", "%1 added, %2 updated, %3 unchanged, %4 lines with errors")
             .arg(result.added)
             .arg(result.updated)
             .arg(result.unchanged)
             .arg(result.badLines.size()));
-    if (!result.error.isEmpty() || !stored)
+    const bool isPart = result.storeFailed && result.added + result.updated > 0;
+    if (!result.error.isEmpty() && !isPart)
         return Failed;
-    return result.badLines.isEmpty() ? Good : SomeLinesBad;
+    return isPart || !result.badLines.isEmpty() ? SomeLinesBad : Good;
 }
 
 int CommandLine::exportCameras() const

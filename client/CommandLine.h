@@ -30,7 +30,7 @@ private:
     std::unique_ptr<HostNodeDB> open(bool checkBehind) const;
     bool showWindow(HostNodeDB& db, int* exitCode) const;
     bool runTour(HostNodeDB& db, MainWindow& window) const;
-    int importCameras(HostNodeDB& db) const;
+    int importCameras() const;
     int exportCameras() const;
     int copyDatabase() const;
 

@@ -1,5 +1,6 @@
 #include "exchange/SurveyImport.h"
 
+#include "database/HostNodeDB.h"
 #include "exchange/CsvReader.h"
 #include "exchange/ImportLogEntry.h"
 #include "exchange/RecordingPath.h"
@@ -108,7 +109,7 @@ void logChange(const QString& id, const QString& oldName)
 
 SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress& progress)
     : m_file(fileName)
-    , m_progress(progress)
+    , m_progress([this, progress](qint64 done, qint64 total) { return goOn(progress, done, total); })
 {
 }
 
@@ -116,11 +117,58 @@ CameraSurvey::ImportResult SurveyImport::run()
 {
     if (open() && readFile(Pass::Check))
         readFile(Pass::Apply);
-    if (m_result.added + m_result.updated > 0) {
-        ActionLog::getInstance()->log(ImportLogEntry(QFileInfo(m_file).fileName(), m_result.added,
-                                                     m_result.updated, m_result.badLines.size()));
+    log();
+    if (!m_result.storeFailed && !store())
+        log();
+    return m_result; // an entry of the log that waits is stored with the next changes
+}
+
+/// Between two lines. What the import did is stored before anybody else has a say, and what others did then
+/// is stored before it goes on: so nothing but its own work is taken back when storing fails.
+bool SurveyImport::goOn(const CameraSurvey::Progress& progress, qint64 done, qint64 total)
+{
+    return store() && (!progress || progress(done, total)) && store();
+}
+
+/// False when that failed: nothing more is tried then. Other hosts store in their own way.
+bool SurveyImport::store()
+{
+    auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB());
+    QString reason;
+    const auto connection =
+        db ? QObject::connect(db, &HostNodeDB::storeFailed,
+                              [&reason](const StoreError& error) { reason = error.message; })
+           : QMetaObject::Connection();
+    const bool stored = !db || db->flush();
+    QObject::disconnect(connection);
+    if (!stored)
+        storeFailed(reason);
+    m_storedAdded = m_result.added;
+    m_storedUpdated = m_result.updated;
+    return stored;
+}
+
+void SurveyImport::storeFailed(const QString& reason)
+{
+    if (m_result.added > m_storedAdded || m_result.updated > m_storedUpdated) {
+        qobject_cast<HostNodeDB*>(NodeDB::getDB())->discardUnstoredChanges();
+        m_isLogged = false;
     }
-    return m_result;
+    m_result.added = m_storedAdded;
+    m_result.updated = m_storedUpdated;
+    m_result.storeFailed = true;
+    m_result.error = say("%1 The import has stopped there; only what is counted here is stored. Import the "
+                         "file again for the rest.")
+                         .arg(reason);
+}
+
+void SurveyImport::log()
+{
+    if (m_isLogged || m_result.added + m_result.updated == 0 || !NodeDB::getDB())
+        return;
+    m_isLogged = true;
+    ActionLog::getInstance()->log(ImportLogEntry(QFileInfo(m_file).fileName(), m_result.added,
+                                                 m_result.updated, m_result.badLines.size()));
 }
 
 bool SurveyImport::open()
@@ -165,7 +213,7 @@ bool SurveyImport::readFile(Pass pass)
             return false;
         }
     }
-    m_result.cancelled = true;
+    m_result.cancelled = m_result.error.isEmpty();
     return false;
 }
 

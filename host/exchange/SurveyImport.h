@@ -23,6 +23,10 @@ public:
 private:
     enum class Pass { Check, Apply };
 
+    bool goOn(const CameraSurvey::Progress& progress, qint64 done, qint64 total);
+    bool store();
+    void storeFailed(const QString& reason);
+    void log();
     bool open();
     bool readFile(Pass pass);
     bool readHeader(CsvReader& reader, SurveyHeader* header);
@@ -33,6 +37,9 @@ private:
     QFile m_file;
     ProgressReport m_progress;
     CameraSurvey::ImportResult m_result;
+    int m_storedAdded = 0;
+    int m_storedUpdated = 0;
+    bool m_isLogged = false;
     DeviceFinder m_finder;
 };
 

@@ -5,6 +5,7 @@
 #include "CommandLine.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QSqlDatabase>
@@ -97,6 +98,8 @@ private slots:
     void importTwiceAddsNothing();
     void badLinesAreNamed();
     void foreignTextsDoNotSteerTheTerminal();
+    void importOnAFullDisk_data();
+    void importOnAFullDisk();
     void badLists_data();
     void badLists();
     void exportWithoutPasswords();
@@ -111,7 +114,8 @@ private slots:
     void restoreOfNothing();
 
 private:
-    Call call(const QStringList& arguments);
+    static Call call(const QStringList& arguments, int kilobytes = 0);
+    int devices();
     Call onDatabase(const QStringList& arguments)
     {
         return call(QStringList{"--db", m_database} + arguments);
@@ -129,10 +133,17 @@ void tst_CommandLine::init()
     m_database = m_folder->filePath("nodes.kodb");
 }
 
-Call tst_CommandLine::call(const QStringList& arguments)
+/// With \a kilobytes no file can become larger than that.
+Call tst_CommandLine::call(const QStringList& arguments, int kilobytes)
 {
     QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), QStringList(clientArgument) + arguments);
+    const QString limit = QString("ulimit -f %1; trap '' XFSZ; exec \"$0\" \"$@\"").arg(2 * kilobytes);
+    const QStringList command =
+        QStringList{QCoreApplication::applicationFilePath(), clientArgument} + arguments;
+    if (kilobytes > 0)
+        process.start("/bin/sh", QStringList{"-c", limit} + command);
+    else
+        process.start(command.at(0), command.mid(1));
     Call result;
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
         return result;
@@ -140,6 +151,13 @@ Call tst_CommandLine::call(const QStringList& arguments)
     result.said = QString::fromLocal8Bit(process.readAllStandardOutput());
     result.complained = QString::fromLocal8Bit(process.readAllStandardError());
     return result;
+}
+
+int tst_CommandLine::devices()
+{
+    StoreError error;
+    const std::unique_ptr<HostNodeDB> db = HostNodeDB::open(m_database, &error);
+    return db ? int(db->summaries().size()) : -1;
 }
 
 QString tst_CommandLine::write(const char* name, const QByteArray& content)
@@ -243,6 +261,44 @@ void tst_CommandLine::foreignTextsDoNotSteerTheTerminal()
         QVERIFY(!call.complained.contains('\x1b') && !call.complained.contains('\x07'));
         QVERIFY(!call.said.contains('\x1b'));
     }
+}
+
+void tst_CommandLine::importOnAFullDisk_data()
+{
+    QTest::addColumn<int>("kilobytes");
+    QTest::addColumn<bool>("storesSome");
+    QTest::newRow("nothing fits") << 40 << false;
+    QTest::newRow("something fits") << 1000 << true;
+}
+
+/// A limit to the size of files is to the database what a full disk is; the journal reaches it first.
+void tst_CommandLine::importOnAFullDisk()
+{
+    QFETCH(int, kilobytes);
+    QFETCH(bool, storesSome);
+    const int count = 4000;
+    QByteArray lines = "name,address\n";
+    for (int i = 0; i < count; ++i)
+        lines += QStringLiteral("Camera %1,10.1.%2.%3\n").arg(i).arg(i / 200).arg(i % 200).toLatin1();
+    const QString list = write("in.csv", lines);
+    QCOMPARE(onDatabase({"--import", write("first.csv", "name,address\nGate,10.0.0.1\n")}).exitCode, 0);
+
+    QElapsedTimer clock;
+    clock.start();
+    const Call result = call({"--db", m_database, "--import", list}, kilobytes);
+    QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
+    const int stored = devices() - 1;
+    QCOMPARE(stored > 0, storesSome);
+    QVERIFY(stored < count);
+    QVERIFY2(result.said.startsWith(QString("%1 added, 0 updated, 0 unchanged").arg(stored)),
+             qPrintable(result.said));
+    QVERIFY2(result.complained.contains("The import has stopped"), qPrintable(result.complained));
+    QCOMPARE(result.exitCode, int(storesSome ? CommandLine::SomeLinesBad : CommandLine::Failed));
+
+    const Call again = onDatabase({"--import", list});
+    QVERIFY2(
+        again.said.startsWith(QString("%1 added, 0 updated, %2 unchanged").arg(count - stored).arg(stored)),
+        qPrintable(again.said));
 }
 
 void tst_CommandLine::badLists_data()
