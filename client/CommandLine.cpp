@@ -8,6 +8,7 @@
 #include "discovery/ArpScanner.h"
 #include "discovery/MdnsScanner.h"
 #include "exchange/CameraSurvey.h"
+#include "exchange/FileName.h"
 #include "ko/Terminal.h"
 #include "store/BackupKeeper.h"
 #include "store/StoreBackup.h"
@@ -116,7 +117,7 @@ bool CommandLine::parse()
 
     QStringList arguments;
     for (int i = 0; i < m_argc; ++i)
-        arguments.append(QString::fromLocal8Bit(m_argv[i]));
+        arguments.append(FileName::fromBytes(m_argv[i]));
     if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
         say(stderr, parser.errorText().isEmpty()
                         ? translated("Unexpected argument: %1").arg(parser.positionalArguments().value(0))
@@ -144,7 +145,20 @@ bool CommandLine::parse()
     m_tourCameras = parser.value(tourScans).toInt();
     m_leaveOutPasswords = parser.isSet(noPasswords);
     m_checkTour = parser.isSet(checkTour);
-    return true;
+    return canBeNamed({m_database, m_export, m_backup, m_restore, m_tour, m_survey});
+}
+
+/// All but the list to import, which is opened by the bytes of its name.
+bool CommandLine::canBeNamed(const QStringList& files)
+{
+    for (const QString& file : files) {
+        const QString refusal = FileName::refusal(file);
+        if (refusal.isEmpty())
+            continue;
+        say(stderr, refusal);
+        m_exitCode = Failed;
+    }
+    return m_exitCode == Good;
 }
 
 int CommandLine::run()

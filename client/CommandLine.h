@@ -1,7 +1,7 @@
 #ifndef KO_COMMANDLINE_H
 #define KO_COMMANDLINE_H
 
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -23,6 +23,7 @@ public:
 
 private:
     bool parse();
+    bool canBeNamed(const QStringList& files);
     bool needsWindow() const;
     QString databaseFile() const;
     int runTask();

@@ -1,6 +1,7 @@
 #include "exchange/CameraSurvey.h"
 
 #include "exchange/CsvWriter.h"
+#include "exchange/FileName.h"
 #include "exchange/ProgressReport.h"
 #include "exchange/RecordingPath.h"
 #include "exchange/SurveyFields.h"
@@ -97,6 +98,9 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
         result.error = say("There is no database.");
         return result;
     }
+    result.error = FileName::refusal(fileName);
+    if (!result.error.isEmpty())
+        return result;
     QSaveFile file(fileName);
     // Set before anything is in it: the file holds passwords.
     const bool opened =

@@ -2,6 +2,7 @@
 
 #include "database/HostNodeDB.h"
 #include "exchange/CsvReader.h"
+#include "exchange/FileName.h"
 #include "exchange/ImportLogEntry.h"
 #include "exchange/RecordingPath.h"
 #include "inspector/NodeChangeLogEntry.h"
@@ -12,9 +13,15 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHintIPDevice.h"
+#include "ko/OutsideText.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace ko {
 
@@ -95,6 +102,20 @@ bool write(const QString& id, const SurveyRow& row)
     return device;
 }
 
+/// Whoever closes one of its files takes the locks away by which other programs know that it is in use.
+bool isDatabase(const struct stat& info)
+{
+    const auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB());
+    const QByteArray name = db ? QFile::encodeName(db->fileName()) : QByteArray();
+    for (const char* suffix : {"", "-wal", "-shm"}) {
+        struct stat own = {};
+        if (db && ::stat((name + suffix).constData(), &own) == 0 && own.st_dev == info.st_dev &&
+            own.st_ino == info.st_ino)
+            return true;
+    }
+    return false;
+}
+
 void logChange(const QString& id, const QString& oldName)
 {
     const auto node = NodeDB::getDB()->node(id);
@@ -108,7 +129,7 @@ void logChange(const QString& id, const QString& oldName)
 } // namespace
 
 SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress& progress)
-    : m_file(fileName)
+    : m_fileName(fileName)
     , m_progress([this, progress](qint64 done, qint64 total) { return goOn(progress, done, total); })
 {
 }
@@ -167,21 +188,36 @@ void SurveyImport::log()
     if (m_isLogged || m_result.added + m_result.updated == 0 || !NodeDB::getDB())
         return;
     m_isLogged = true;
-    ActionLog::getInstance()->log(ImportLogEntry(QFileInfo(m_file).fileName(), m_result.added,
-                                                 m_result.updated, m_result.badLines.size()));
+    const QString name = OutsideText::visible(QFileInfo(m_fileName).fileName());
+    ActionLog::getInstance()->log(
+        ImportLogEntry(name, m_result.added, m_result.updated, m_result.badLines.size()));
 }
 
 bool SurveyImport::open()
 {
-    const QFileInfo info(m_file);
-    // A pipe cannot be read twice, and opening one may wait for ever.
-    if (!NodeDB::getDB())
+    const QByteArray name = FileName::toBytes(m_fileName);
+    struct stat info = {};
+    const bool exists = ::stat(name.constData(), &info) == 0;
+    if (!NodeDB::getDB()) {
         m_result.error = say("There is no database.");
-    else if (info.exists() && !info.isFile())
-        m_result.error = say("%1 is not a regular file.").arg(m_file.fileName());
-    else if (!m_file.open(QIODevice::ReadOnly))
-        m_result.error = say("%1 cannot be read: %2").arg(m_file.fileName(), m_file.errorString());
-    return m_result.error.isEmpty();
+        return false;
+    }
+    if (exists && !S_ISREG(info.st_mode)) { // a pipe can't be read twice, and opening one may wait for ever
+        m_result.error = say("%1 is not a regular file.").arg(m_fileName);
+        return false;
+    }
+    if (exists && isDatabase(info)) {
+        m_result.error = say("%1 is the node database itself.").arg(m_fileName);
+        return false;
+    }
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    const QString reason = qt_error_string(errno);
+    if (descriptor >= 0 && m_file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return true;
+    m_result.error = exists ? QString() : FileName::refusal(m_fileName);
+    if (m_result.error.isEmpty())
+        m_result.error = say("%1 cannot be read: %2").arg(m_fileName, reason);
+    return false;
 }
 
 /// Reads all lines, and imports them in the second pass; false when the import must not go on.

@@ -34,7 +34,8 @@ private:
     void add(const SurveyRow& row, NodeHint& hint, QString* reason);
     void update(const QString& id, const SurveyRow& row, QString* reason);
 
-    QFile m_file;
+    const QString m_fileName;
+    QFile m_file; ///< without a name, see FileName
     ProgressReport m_progress;
     CameraSurvey::ImportResult m_result;
     int m_storedAdded = 0;

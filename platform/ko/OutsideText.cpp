@@ -97,8 +97,8 @@ QString spelt(uint code)
         return QLatin1String("\\r");
     if (code == '\t')
         return QLatin1String("\\t");
-    if (code <= 0xff)
-        return QLatin1String("\\x") + hex(code, 2);
+    if (code <= 0xff || (code >= 0xdc80 && code <= 0xdcff)) // the halves stand for bytes in names of files
+        return QLatin1String("\\x") + hex(code & 0xff, 2);
     return code <= 0xffff ? QLatin1String("\\u") + hex(code, 4) : QLatin1String("\\U") + hex(code, 8);
 }
 

@@ -3,16 +3,19 @@
 #include "support/TestMain.h"
 
 #include "CommandLine.h"
+#include "audit/AuditLog.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QThread>
 
 #include <csignal>
+#include <cstdio>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -100,6 +103,8 @@ private slots:
     void foreignTextsDoNotSteerTheTerminal();
     void importOnAFullDisk_data();
     void importOnAFullDisk();
+    void namesThatAreNoText_data();
+    void namesThatAreNoText();
     void badLists_data();
     void badLists();
     void exportWithoutPasswords();
@@ -115,6 +120,7 @@ private slots:
 
 private:
     static Call call(const QStringList& arguments, int kilobytes = 0);
+    static Call run(const QString& program, const QStringList& arguments);
     int devices();
     Call onDatabase(const QStringList& arguments)
     {
@@ -136,14 +142,17 @@ void tst_CommandLine::init()
 /// With \a kilobytes no file can become larger than that.
 Call tst_CommandLine::call(const QStringList& arguments, int kilobytes)
 {
-    QProcess process;
     const QString limit = QString("ulimit -f %1; trap '' XFSZ; exec \"$0\" \"$@\"").arg(2 * kilobytes);
     const QStringList command =
         QStringList{QCoreApplication::applicationFilePath(), clientArgument} + arguments;
-    if (kilobytes > 0)
-        process.start("/bin/sh", QStringList{"-c", limit} + command);
-    else
-        process.start(command.at(0), command.mid(1));
+    return kilobytes > 0 ? run("/bin/sh", QStringList{"-c", limit} + command)
+                         : run(command.at(0), command.mid(1));
+}
+
+Call tst_CommandLine::run(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
     Call result;
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
         return result;
@@ -299,6 +308,44 @@ void tst_CommandLine::importOnAFullDisk()
     QVERIFY2(
         again.said.startsWith(QString("%1 added, 0 updated, %2 unchanged").arg(count - stored).arg(stored)),
         qPrintable(again.said));
+}
+
+void tst_CommandLine::namesThatAreNoText_data()
+{
+    QTest::addColumn<QString>("option");
+    for (const char* option :
+         {"--import ", "--import=", "--export ", "--backup ", "--restore ", "--db ", "--db="})
+        QTest::newRow(option) << option;
+}
+
+/// The toolkit's own decoding gives the name of another file.
+void tst_CommandLine::namesThatAreNoText()
+{
+    QFETCH(QString, option);
+    QCOMPARE(onDatabase({"--import", write("first.csv", "name,address\nGate,10.0.0.1\n")}).exitCode, 0);
+    const QByteArray name = QFile::encodeName(m_folder->filePath("in")) + "\xff.csv";
+    const QByteArray other = QFile::encodeName(m_folder->filePath("in")) + "\xef\xbf\xbd.csv";
+    FILE* list = std::fopen(name.constData(), "w");
+    QVERIFY(list && std::fputs("name,address\nYard,10.0.0.2\n", list) > 0);
+    std::fclose(list);
+    const auto removal = qScopeGuard([&name] { ::unlink(name.constData()); }); // the toolkit can't
+
+    const QString script = "exec \"$0\" " + QString(clientArgument) + " --db \"$1\" " + option +
+                           "\"$(printf '%s/in\\377.csv' \"$2\")\"";
+    const Call result =
+        run("/bin/sh", {"-c", script, QCoreApplication::applicationFilePath(), m_database, m_folder->path()});
+    QVERIFY(::access(other.constData(), F_OK) != 0);
+    if (option.startsWith("--import")) {
+        QVERIFY2(result.said.startsWith("1 added"), qPrintable(result.said + result.complained));
+        QCOMPARE(result.exitCode, 0);
+        StoreError error;
+        const auto db = HostNodeDB::open(m_database, &error);
+        QVERIFY(db->auditLog().entries(0, 1, true).front().entry->text().contains("from in\\xff.csv:"));
+    } else {
+        QVERIFY2(result.complained.contains("in\\xff.csv\" cannot be used"), qPrintable(result.complained));
+        QCOMPARE(result.exitCode, int(CommandLine::Failed));
+        QCOMPARE(devices(), 1);
+    }
 }
 
 void tst_CommandLine::badLists_data()

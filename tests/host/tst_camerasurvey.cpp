@@ -17,6 +17,7 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace ko;
 using namespace ko::CameraSurvey;
@@ -160,6 +161,7 @@ private slots:
     void refusedFilesChangeNothing();
     void refusedPlaces_data();
     void refusedPlaces();
+    void databaseItselfIsNotOpened();
     void tooManyBadLines();
     void badLinesAreNamed_data();
     void badLinesAreNamed();
@@ -364,6 +366,9 @@ void tst_CameraSurvey::refusedPlaces_data()
                              << "%1 cannot be read: No such file or directory";
     QTest::newRow("folder") << "folder"
                             << "%1 is not a regular file.";
+    QTest::newRow("name that a dialog could not read")
+        << QString("in%1.csv").arg(QChar(QChar::ReplacementCharacter))
+        << "The file \"%1\" cannot be used: its name is no text in the encoding of this system. Rename it.";
     QTest::newRow("pipe") << "pipe"
                           << "%1 is not a regular file.";
 }
@@ -377,6 +382,25 @@ void tst_CameraSurvey::refusedPlaces()
     const QString fileName = m_folder->filePath(place);
     QCOMPARE(importCameras(fileName).error, error.arg(fileName));
     QCOMPARE(db->calls, QStringList());
+}
+
+/// To open and close it would take its locks away.
+void tst_CameraSurvey::databaseItselfIsNotOpened()
+{
+    db.reset();
+    const testsupport::HostFixture host;
+    const auto locks = [] {
+        QFile file("/proc/locks");
+        return file.open(QIODevice::ReadOnly) ? file.readAll().count(" " + QByteArray::number(getpid()) + " ")
+                                              : -1;
+    };
+    const QString link = path("link.csv");
+    QVERIFY(QFile::link(host.fileName(), link));
+    const auto before = locks();
+    QVERIFY(before > 0);
+    for (const QString& file : {host.fileName(), host.fileName() + "-wal", host.fileName() + "-shm", link})
+        QCOMPARE(importCameras(file).error, file + " is the node database itself.");
+    QCOMPARE(locks(), before);
 }
 
 void tst_CameraSurvey::tooManyBadLines()
