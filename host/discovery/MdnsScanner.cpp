@@ -3,6 +3,8 @@
 #include "discovery/MdnsSession.h"
 #include "ko/LogQt.h"
 
+#include <avahi-common/error.h>
+
 #include <utility>
 
 namespace ko {
@@ -53,17 +55,18 @@ ScannerState MdnsScanner::state() const
 void MdnsScanner::take(const MdnsReport& report)
 {
     const std::shared_ptr<MdnsSession> session = m_session;
-    if (!report.error.isEmpty())
-        LogQt::line(LogQt::Warning,
-                    QString::fromLatin1("The mDNS scan waits for the Avahi daemon: %1").arg(report.error));
+    if (report.error != 0)
+        LogQt::line(LogQt::Warning, QString::fromLatin1("The mDNS scan waits for the Avahi daemon: %1")
+                                        .arg(QString::fromUtf8(avahi_strerror(report.error))));
     if (!report.devices.isEmpty())
         emit found(report.devices);
     if (session != m_session) // a receiver stopped it
         return;
     ScannerState state = report.state;
+    const bool isMissing = report.error == AVAHI_ERR_NO_DAEMON || report.error == AVAHI_ERR_DISCONNECTED;
     if (state.phase == ScannerState::Unavailable)
-        state.reason = report.error.isEmpty() ? tr("the Avahi daemon does not answer")
-                                              : tr("the Avahi daemon is not running");
+        state.reason =
+            isMissing ? tr("the Avahi daemon is not running") : tr("the Avahi daemon does not answer");
     setState(state);
 }
 

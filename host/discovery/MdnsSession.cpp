@@ -189,10 +189,10 @@ void MdnsSession::failed(int error)
 void MdnsSession::unavailable()
 {
     if (!std::exchange(m_saidMissing, true))
-        post(ScannerState::Unavailable, QString::fromUtf8(avahi_strerror(m_error)));
+        post(ScannerState::Unavailable, m_error);
 }
 
-void MdnsSession::post(ScannerState::Phase phase, const QString& error)
+void MdnsSession::post(ScannerState::Phase phase, int error)
 {
     MdnsReport report;
     report.devices = std::exchange(m_found, {});

@@ -24,7 +24,7 @@ struct MdnsReport
 {
     QVector<DiscoveredDevice> devices;
     ScannerState state; ///< without texts
-    QString error;      ///< of the daemon, once until it is there again; empty for none
+    int error = 0;      ///< number of Avahi; told once until the daemon is there again
 };
 
 /// Everything that talks to the daemon, from start() to stop(), in a thread of its own: each call waits for
@@ -78,7 +78,7 @@ private:
     void setPoll(AvahiSimplePoll* poll);
     void failed(int error);
     void unavailable();
-    void post(ScannerState::Phase phase, const QString& error = QString());
+    void post(ScannerState::Phase phase, int error = 0);
     void resolveNext();
     void dropLate();
     void resolved(AvahiServiceResolver* resolver, const DiscoveredDevice* device);

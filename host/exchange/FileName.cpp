@@ -30,7 +30,7 @@ bool isText(const QString& name)
 
 QString fromBytes(const QByteArray& bytes)
 {
-    const QString text = QFile::decodeName(bytes);
+    QString text = QFile::decodeName(bytes);
     if (QFile::encodeName(text) == bytes)
         return text;
     QString name;

@@ -227,6 +227,7 @@ void MdnsScannerTest::daemonComesAndGoes()
         found.clear();
     }
     QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Unavailable), 10000);
+    QCOMPARE(scanner.state().reason, QStringLiteral("the Avahi daemon is not running"));
     end(m_bus); // the bus itself goes
     QTest::qWait(2500);
     QCOMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
