@@ -15,8 +15,8 @@ namespace ko {
 /// Messages never repeat what stands in a cell, which may be a password in the wrong column.
 namespace CameraSurvey {
 
-/// Called between lines, after at most 20 ms or 100 lines, with how far the work is. It may run the
-/// event loop and so show progress and store what was done; false cancels. What was done stays.
+/// Called between lines, after at most 20 ms or 100 lines, with how far the work is; what an import did so
+/// far is stored by then. It may run the event loop and so show progress; false cancels. What was done stays.
 typedef std::function<bool(qint64 done, qint64 total)> Progress;
 
 struct BadLine

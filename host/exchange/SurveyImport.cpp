@@ -130,13 +130,15 @@ void logChange(const QString& id, const QString& oldName)
 
 SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress& progress)
     : m_fileName(fileName)
-    , m_progress([this, progress](qint64 done, qint64 total) { return goOn(progress, done, total); })
+    , m_progress(progress
+                     ? [this, progress](qint64 done, qint64 total) { return goOn(progress, done, total); }
+                     : CameraSurvey::Progress())
 {
 }
 
 CameraSurvey::ImportResult SurveyImport::run()
 {
-    if (open() && readFile(Pass::Check))
+    if (open() && readFile(Pass::Check) && store())
         readFile(Pass::Apply);
     log();
     if (!m_result.storeFailed && !store())
@@ -145,10 +147,11 @@ CameraSurvey::ImportResult SurveyImport::run()
 }
 
 /// Between two lines. What the import did is stored before anybody else has a say, and what others did then
-/// is stored before it goes on: so nothing but its own work is taken back when storing fails.
+/// is stored before it goes on: so nothing but its own work is taken back when storing fails. Without anybody
+/// to ask, all of it is one commit.
 bool SurveyImport::goOn(const CameraSurvey::Progress& progress, qint64 done, qint64 total)
 {
-    return store() && (!progress || progress(done, total)) && store();
+    return store() && progress(done, total) && store();
 }
 
 /// False when that failed: nothing more is tried then. Other hosts store in their own way.
