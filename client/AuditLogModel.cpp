@@ -1,6 +1,7 @@
 #include "AuditLogModel.h"
 
 #include "audit/AuditLog.h"
+#include "ko/OutsideText.h"
 
 #include <QLocale>
 
@@ -74,7 +75,9 @@ void AuditLogModel::fetchMore(const QModelIndex& parent)
         const QString time = record.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
         const QString user =
             record.host.isEmpty() ? record.user : QStringLiteral("%1 (%2)").arg(record.user, record.host);
-        m_rows.append(Row{{time, user, record.entry->title(), record.entry->text()}});
+        // A line break would hide what follows it here, and make a second entry of it where it is copied to.
+        m_rows.append(Row{{time, OutsideText::visible(user), OutsideText::visible(record.entry->title()),
+                           OutsideText::visible(record.entry->text())}});
     }
     endInsertRows();
 }

@@ -10,6 +10,8 @@
 #include "discovery/MdnsScanner.h"
 #include "exchange/CameraSurvey.h"
 #include "exchange/ExportFile.h"
+#include "exchange/FileName.h"
+#include "ko/Terminal.h"
 #include "store/BackupKeeper.h"
 #include "store/StoreBackup.h"
 #include "store/StoreFile.h"
@@ -21,7 +23,6 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-#include <cstdio>
 #include <memory>
 
 #ifdef Q_OS_UNIX
@@ -32,9 +33,12 @@ namespace ko {
 
 namespace {
 
-void say(FILE* stream, const QString& text)
+using Terminal::say;
+
+/// The toolkit quotes names of files and other texts too.
+void sayMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 {
-    std::fprintf(stream, "%s\n", text.toLocal8Bit().constData());
+    say(stderr, text);
 }
 
 /// What the program keeps holds passwords; it is for its user alone.
@@ -115,7 +119,7 @@ bool CommandLine::parse()
 
     QStringList arguments;
     for (int i = 0; i < m_argc; ++i)
-        arguments.append(QString::fromLocal8Bit(m_argv[i]));
+        arguments.append(FileName::fromBytes(m_argv[i]));
     if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
         say(stderr, parser.errorText().isEmpty()
                         ? translated("Unexpected argument: %1").arg(parser.positionalArguments().value(0))
@@ -125,9 +129,12 @@ bool CommandLine::parse()
     }
     if (parser.isSet(help) || parser.isSet(version)) {
         const QCoreApplication application(m_argc, m_argv); // the texts name the program
-        say(stdout, parser.isSet(help) ? parser.helpText().trimmed()
-                                       : QCoreApplication::applicationName() + QLatin1Char(' ') +
-                                             QCoreApplication::applicationVersion());
+        const QString text = parser.isSet(help) ? parser.helpText().trimmed()
+                                                : QCoreApplication::applicationName() + QLatin1Char(' ') +
+                                                      QCoreApplication::applicationVersion();
+        const QStringList lines = text.split(QLatin1Char('\n'));
+        for (const QString& line : lines)
+            say(stdout, line);
         return false;
     }
     m_database = parser.value(db);
@@ -140,11 +147,25 @@ bool CommandLine::parse()
     m_tourCameras = parser.value(tourScans).toInt();
     m_leaveOutPasswords = parser.isSet(noPasswords);
     m_checkTour = parser.isSet(checkTour);
-    return true;
+    return canBeNamed({m_database, m_export, m_backup, m_restore, m_tour, m_survey});
+}
+
+/// All but the list to import, which is opened by the bytes of its name.
+bool CommandLine::canBeNamed(const QStringList& files)
+{
+    for (const QString& file : files) {
+        const QString refusal = FileName::refusal(file);
+        if (refusal.isEmpty())
+            continue;
+        say(stderr, refusal);
+        m_exitCode = Failed;
+    }
+    return m_exitCode == Good;
 }
 
 int CommandLine::run()
 {
+    qInstallMessageHandler(sayMessage);
     if (!parse())
         return m_exitCode;
     keepFilesPrivate();
@@ -183,7 +204,7 @@ int CommandLine::runTask()
     const ProgramLog log(db->logStore());
     if (m_checkTour)
         return Tour::check(*db) ? Good : Failed;
-    const int imported = m_import.isEmpty() ? Good : importCameras(*db);
+    const int imported = m_import.isEmpty() ? Good : importCameras();
     return imported == Failed || m_export.isEmpty() ? imported : qMax(imported, exportCameras());
 }
 
@@ -254,13 +275,12 @@ bool CommandLine::runTour(HostNodeDB& db, MainWindow& window) const
     return m_tourCameras > 0 ? tour.runScans(m_tourCameras) : tour.run(m_survey);
 }
 
-int CommandLine::importCameras(HostNodeDB& db) const
+int CommandLine::importCameras() const
 {
     const CameraSurvey::ImportResult result = CameraSurvey::importCameras(m_import, [](qint64, qint64) {
         QCoreApplication::processEvents(); // the database stores what was done so far
         return true;
     });
-    const bool stored = db.flush();
     for (const CameraSurvey::BadLine& line : result.badLines)
         say(stderr, QCoreApplication::translate("CommandLine", "%1, line %2: %3")
                         .arg(m_import, QString::number(line.line), line.reason));
@@ -268,17 +288,16 @@ int CommandLine::importCameras(HostNodeDB& db) const
         say(stderr, QCoreApplication::translate("CommandLine", "Column \"%1\" is not used.").arg(column));
     if (!result.error.isEmpty())
         say(stderr, result.error);
-    if (!stored)
-        say(stderr, QCoreApplication::translate("CommandLine", "The cameras could not be stored."));
     say(stdout,
         QCoreApplication::translate("CommandLine", "%1 added, %2 updated, %3 unchanged, %4 lines with errors")
             .arg(result.added)
             .arg(result.updated)
             .arg(result.unchanged)
             .arg(result.badLines.size()));
-    if (!result.error.isEmpty() || !stored)
+    const bool isPart = result.storeFailed && result.added + result.updated > 0;
+    if (!result.error.isEmpty() && !isPart)
         return Failed;
-    return result.badLines.isEmpty() ? Good : SomeLinesBad;
+    return isPart || !result.badLines.isEmpty() ? SomeLinesBad : Good;
 }
 
 int CommandLine::exportCameras() const

@@ -1,7 +1,7 @@
 #ifndef KO_COMMANDLINE_H
 #define KO_COMMANDLINE_H
 
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -23,6 +23,7 @@ public:
 
 private:
     bool parse();
+    bool canBeNamed(const QStringList& files);
     bool needsWindow() const;
     QString databaseFile() const;
     int runTask();
@@ -30,7 +31,7 @@ private:
     std::unique_ptr<HostNodeDB> open(bool checkBehind) const;
     bool showWindow(HostNodeDB& db, int* exitCode) const;
     bool runTour(HostNodeDB& db, MainWindow& window) const;
-    int importCameras(HostNodeDB& db) const;
+    int importCameras() const;
     int exportCameras() const;
     int copyDatabase() const;
 

@@ -1,5 +1,6 @@
 #include "ImportReportDialog.h"
 
+#include "ko/OutsideText.h"
 #include "ko/dialogFlags.h"
 
 #include <QDialogButtonBox>
@@ -18,7 +19,7 @@ QString details(const CameraSurvey::ImportResult& result)
         lines.append(ImportReportDialog::tr("Line %1: %2").arg(QString::number(line.line), line.reason));
     if (!result.ignoredColumns.isEmpty())
         lines.append(ImportReportDialog::tr("Columns that are not used: %1")
-                         .arg(result.ignoredColumns.join(QLatin1String(", "))));
+                         .arg(OutsideText::visible(result.ignoredColumns.join(QLatin1String(", ")))));
     return lines.join(QLatin1Char('\n'));
 }
 

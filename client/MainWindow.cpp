@@ -544,10 +544,13 @@ void MainWindow::importCameras()
     if (file.isEmpty())
         return;
     SurveyProgress progress(tr("Importing cameras..."), this);
+    m_isImporting = true;
     const CameraSurvey::ImportResult result = CameraSurvey::importCameras(file, progress.callback());
     progress.finish();
     ImportReportDialog report(result, this);
     report.exec();
+    m_isImporting = false;
+    m_db.flush(); // what still waits is a case for the other box
 }
 
 void MainWindow::exportCameras()
@@ -601,6 +604,8 @@ QString MainWindow::unstoredText() const
 
 void MainWindow::storeFailed(const ko::StoreError& error)
 {
+    if (m_isImporting)
+        return;
     if (m_failure) {
         m_failure->setText(error.message);
         m_failure->setInformativeText(unstoredText());

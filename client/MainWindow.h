@@ -84,6 +84,7 @@ private:
     QSet<QString> m_changed;   ///< taken into the list together at the end of the turn
     QSet<QString> m_removed;
     QPointer<QMessageBox> m_failure;
+    bool m_isImporting = false; ///< whose report tells when storing fails
 };
 
 } // namespace ko

@@ -1,5 +1,7 @@
 #include "NameList.h"
 
+#include "ko/OutsideText.h"
+
 #include <QCoreApplication>
 
 namespace ko {
@@ -20,7 +22,8 @@ QString listOfNames(const QStringList& names)
     QStringList lines;
     const QStringList named = names.mid(0, namedAtMost);
     for (const QString& name : named)
-        lines.append(QStringLiteral("    ") + (name.isEmpty() ? translated("(unnamed)") : name));
+        lines.append(QStringLiteral("    ") +
+                     (name.isEmpty() ? translated("(unnamed)") : OutsideText::visible(name)));
     const int more = int(names.size()) - namedAtMost;
     if (more > 0)
         lines.append(QStringLiteral("    ") + translated("and %n more", more));

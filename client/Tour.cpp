@@ -7,6 +7,7 @@
 #include "database/HostNodeDB.h"
 #include "exchange/CameraSurvey.h"
 #include "ko/IPDeviceNode.h"
+#include "ko/Terminal.h"
 
 #include <QAction>
 #include <QApplication>
@@ -35,8 +36,7 @@ const int ScanPatience = 60000; // ms
 
 void say(const QString& text)
 {
-    std::printf("%s\n", text.toLocal8Bit().constData());
-    std::fflush(stdout);
+    Terminal::say(stdout, text);
 }
 
 void settle()

@@ -1,6 +1,8 @@
 #include "Input.h"
 
 #include "discovery/MdnsTxt.h"
+#include "discovery/NetworkText.h"
+#include "ko/OutsideText.h"
 
 using namespace ko;
 
@@ -12,5 +14,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QString value = QString::fromUtf8(entry.mid(entry.indexOf('=') + 1));
     for (const QString& taken : {device.model, device.version, device.macAddress})
         fuzz::require(taken.isEmpty() || (entry.contains('=') && taken == value), "only the value is taken");
+    const QString shown = NetworkText::cleaned(value, 100);
+    fuzz::require(shown.size() <= 100 && OutsideText::visible(shown) == shown,
+                  "all that is left can be seen");
+    fuzz::require(NetworkText::cleaned(shown, 100) == shown, "nothing is left to clean");
     return 0;
 }

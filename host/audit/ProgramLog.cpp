@@ -2,12 +2,12 @@
 
 #include "audit/LogStore.h"
 #include "audit/ProgramLogEntry.h"
+#include "ko/OutsideText.h"
+#include "ko/Terminal.h"
 #include "secrets/Redaction.h"
 
 #include <QCoreApplication>
 #include <QThread>
-
-#include <cstdio>
 
 namespace ko {
 
@@ -28,8 +28,8 @@ void ProgramLog::write(int level, const QString& line)
     ProgramRow row;
     row.time = QDateTime::currentMSecsSinceEpoch();
     row.level = level;
-    row.line = Redaction::redacted(line);
-    std::fprintf(stderr, "%s\n", row.line.toLocal8Bit().constData());
+    row.line = OutsideText::visible(Redaction::redacted(line)); // one line stays one line
+    Terminal::say(stderr, row.line);
     if (QThread::currentThread() == thread())
         m_store.append(row);
     else

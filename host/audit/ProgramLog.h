@@ -15,8 +15,8 @@ class LogStore;
 
 /// Takes the lines of LogQt while it lives: to the standard error stream and into the node database.
 ///
-/// Passwords in lines are replaced first, see Redaction. A line is on disk about a second later, or with the
-/// next change of a node; the newest 10,000 are kept.
+/// Passwords in lines are replaced first, see Redaction, and what cannot be seen is spelt out. A line is on
+/// disk about a second later, or with the next change of a node; the newest 10,000 are kept.
 class KO_HOST_EXPORT ProgramLog : public QObject, public LogSink
 {
     Q_OBJECT

@@ -81,7 +81,7 @@ public:
     void announce(const Notices& notices);
     void scheduleFlush();
     bool flush();
-    bool storeAfter(const std::function<void()>& work);
+    bool storeAfter(const std::function<void()>& work, StoreError* error);
     void lookForKey();
     bool writeFailed(const StoreError& error);
     void written(const StoreWriter& writer, qint64 lastChange, Notices* notices);
@@ -729,27 +729,32 @@ void HostNodeDB::Private::scheduleFlush()
 
 bool HostNodeDB::Private::flush()
 {
-    return memory.pending.isEmpty() || isAlone || storeAfter(nullptr);
+    if (memory.pending.isEmpty() || isAlone)
+        return true;
+    StoreError error;
+    return storeAfter(nullptr, &error) || writeFailed(error);
 }
 
-HostNodeDB::Outcome HostNodeDB::runAlone(const std::function<void()>& work)
+HostNodeDB::Outcome HostNodeDB::runAlone(const std::function<void()>& work, StoreError* error)
 {
     bool hasRun = false;
     const auto noteAndRun = [&] {
         hasRun = true;
         work();
     };
-    const bool isStored = d->storeAfter(noteAndRun);
+    if (d->storeAfter(noteAndRun, error))
+        return Outcome::Stored;
     if (!hasRun)
         return Outcome::NotRun;
-    return isStored ? Outcome::Stored : Outcome::NotStored;
+    d->writeFailed(*error);
+    return Outcome::NotStored;
 }
 
 /// Stores what waits after \a work, if there is any, has added to it.
-bool HostNodeDB::Private::storeAfter(const std::function<void()>& work)
+bool HostNodeDB::Private::storeAfter(const std::function<void()>& work, StoreError* error)
 {
     Notices notices;
-    StoreError error;
+    *error = StoreError();
     try {
         waitForCheck();
         Transaction transaction(*store, Transaction::Write);
@@ -766,16 +771,14 @@ bool HostNodeDB::Private::storeAfter(const std::function<void()>& work)
         transaction.commit();
         written(writer, lastChange, &notices);
     } catch (const StoreFailure& failure) {
-        error = failure.error;
+        *error = failure.error;
     }
     announce(notices);
-    if (error)
-        return writeFailed(error);
-    if (failing) {
+    if (failing && !*error) {
         failing = false;
         emit q->storeRecovered();
     }
-    return true;
+    return !*error;
 }
 
 void HostNodeDB::Private::written(const StoreWriter& writer, qint64 lastChange, Notices* notices)

@@ -112,15 +112,15 @@ public:
 
     enum class Outcome {
         Stored,
-        NotStored, ///< what was done waits in memory
+        NotStored, ///< what was done waits in memory; storeFailed() has been emitted
         NotRun     ///< another program holds the file, or it cannot be written; nothing was done
     };
 
     /// Runs \a work, in which no other program can change the database, and stores what it changed: what
     /// lookupHint() does not find there is not added by two programs. Others wait meanwhile, two seconds at
-    /// most, so keep it short. Within it nothing else is stored or brought in. Unless all is stored,
-    /// storeFailed() has been emitted.
-    Outcome runAlone(const std::function<void()>& work);
+    /// most, so keep it short. Within it nothing else is stored or brought in. \a error tells why it was not
+    /// stored or not run.
+    Outcome runAlone(const std::function<void()>& work, StoreError* error);
     bool hasUnstoredChanges() const;
 
     /// The nodes of which something is not stored, removed ones included.

@@ -7,6 +7,7 @@
 #include "discovery/NetworkText.h"
 #include "discovery/Scanner.h"
 #include "discovery/ServiceTypes.h"
+#include "discovery/SightingFilter.h"
 #include "interfaces/INodeDriverComponent.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/LogQt.h"
@@ -26,6 +27,7 @@ namespace ko {
 namespace {
 
 const int Slice = 2;      // ms of work in one turn of the event loop; storing and painting take as much again
+const int Patience = 500; // ms; until the next try, when another program holds the database
 const int Ripening = 500; // ms; in which the other services and addresses of a device arrive
 const int DevicesAtOnePlace = 64; // with one address or one name; bounds the work for one sighting
 const int AddressesOfOne = 8;
@@ -73,14 +75,6 @@ int rankOfAddress(const QString& address)
     return !isIPv6(address) ? 0 : address.startsWith(QLatin1String("fe80"), Qt::CaseInsensitive) ? 2 : 1;
 }
 
-/// An address that every device may claim says nothing about any.
-QString usableMac(const QString& text)
-{
-    const QString mac = text.size() > 32 ? QString() : MACAddress(text).toString(true);
-    const bool group = !mac.isEmpty() && QString(mac.at(1)).toInt(nullptr, 16) % 2 == 1;
-    return group || mac == QLatin1String("00:00:00:00:00:00") ? QString() : mac;
-}
-
 bool contradict(const QString& a, const QString& b)
 {
     return !a.isEmpty() && !b.isEmpty() && a.compare(b, Qt::CaseInsensitive) != 0;
@@ -89,20 +83,6 @@ bool contradict(const QString& a, const QString& b)
 QString instanceKey(const DiscoveredDevice& seen)
 {
     return QStringList{seen.service, QString::number(seen.port), seen.name.toLower()}.join(QChar(0x1f));
-}
-
-/// False when nothing can be made of it.
-bool clean(DiscoveredDevice& seen)
-{
-    seen.address = NetworkText::address(seen.address.left(100));
-    if (seen.address.isEmpty() || seen.port < 0 || seen.port > 65535)
-        return false;
-    seen.name = NetworkText::cleaned(seen.name, DeviceIntake::NameLength);
-    seen.model = NetworkText::cleaned(seen.model, DeviceIntake::TextLength);
-    seen.version = NetworkText::cleaned(seen.version, DeviceIntake::TextLength);
-    seen.service = NetworkText::cleaned(seen.service, DeviceIntake::TextLength);
-    seen.macAddress = usableMac(seen.macAddress);
-    return true;
 }
 
 } // namespace
@@ -114,6 +94,7 @@ public:
 
     void schedule(int delay);
     void work();
+    bool isRipe() const;
     void sighted(DiscoveredDevice seen);
     Device* atSameAddress(const DiscoveredDevice& seen) const;
     Device* elsewhere(const DiscoveredDevice& seen) const;
@@ -131,6 +112,7 @@ public:
     DeviceIntake& q;
     HostNodeDB& db;
     KnownAddresses known;
+    SightingFilter filter;
     QTimer timer;
     QElapsedTimer clock;
     std::deque<DiscoveredDevice> waiting;
@@ -172,22 +154,33 @@ void DeviceIntake::Private::work()
         waiting.pop_front();
         sighted(seen);
     }
-    if (waiting.empty() && !ripening.empty() && known.readMacs(slice, Slice)) {
-        while (!ripening.empty() && ripening.front()->due <= clock.elapsed() && !slice.hasExpired(Slice)) {
-            Device* device = ripening.front();
-            ripening.pop_front();
-            settle(*device);
-        }
+    bool isHeld = false;
+    if (waiting.empty() && isRipe() && known.readMacs(slice, Slice)) {
+        // Alone, so that two programs that scan one network do not both find a device missing, and add it.
+        const auto settleSome = [&] {
+            while (isRipe() && !slice.hasExpired(Slice) && known.readMacs(slice, Slice)) {
+                Device* device = ripening.front();
+                ripening.pop_front();
+                settle(*device);
+            }
+        };
+        StoreError error;
+        isHeld = db.runAlone(settleSome, &error) == HostNodeDB::Outcome::NotRun;
     }
     if (!waiting.empty())
         schedule(0);
     else if (!ripening.empty())
-        schedule(int(std::max<qint64>(0, ripening.front()->due - clock.elapsed())));
+        schedule(isHeld ? Patience : int(std::max<qint64>(0, ripening.front()->due - clock.elapsed())));
+}
+
+bool DeviceIntake::Private::isRipe() const
+{
+    return !ripening.empty() && ripening.front()->due <= clock.elapsed();
 }
 
 void DeviceIntake::Private::sighted(DiscoveredDevice seen)
 {
-    if (!clean(seen))
+    if (!filter.pass(seen))
         return;
     Device* device = atSameAddress(seen);
     if (!device)
@@ -436,6 +429,7 @@ void DeviceIntake::beginScan()
     ++d->scan;
     d->newInScan = 0;
     d->saidDropped = false;
+    d->filter.beginScan();
     QSet<const Device*> gone;
     for (const auto& device : d->devices) {
         const bool isNoted = std::find(d->changedDevices.cbegin(), d->changedDevices.cend(), device.get()) !=

@@ -7,9 +7,15 @@
 
 namespace ko {
 
+class MdnsSession;
+struct MdnsReport;
+
 /// "mDNS": listens through the Avahi daemon for the services in ServiceTypes.h, on all interfaces, IPv4
 /// and IPv6. When the daemon is missing or goes away, the scanner says so once, waits for it and begins
 /// again. It is never done; stop() makes it Cancelled.
+///
+/// A daemon that hangs blocks calls for up to 25 seconds. stop() and the destructor do not wait for that, but
+/// what is started next does, for all scanners of the process, and is Unavailable until then.
 class KO_HOST_EXPORT MdnsScanner : public Scanner
 {
     Q_OBJECT
@@ -24,13 +30,11 @@ public:
     ScannerState state() const override;
 
 private:
-    class Worker;
-
+    void take(const MdnsReport& report);
     void setState(const ScannerState& state);
 
-    std::unique_ptr<Worker> m_worker;
+    std::shared_ptr<MdnsSession> m_session;
     ScannerState m_state;
-    int m_run = 0; ///< what is still on its way from an earlier run is not reported
 };
 
 } // namespace ko

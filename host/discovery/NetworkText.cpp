@@ -1,5 +1,7 @@
 #include "discovery/NetworkText.h"
 
+#include "ko/OutsideText.h"
+
 #include <QHostAddress>
 
 namespace ko {
@@ -10,54 +12,14 @@ namespace {
 
 const int LongestAddress = 64; // 39 for IPv6, and a zone
 
-bool isBlank(uint character)
-{
-    return character == '\t' || character == '\n' || character == '\r' || QChar::isSpace(character);
-}
-
-bool isUnfit(uint character)
-{
-    switch (QChar::category(character)) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Other_Surrogate:
-    case QChar::Other_PrivateUse:
-    case QChar::Other_NotAssigned:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 QString cleaned(const QString& text, int limit)
 {
     // A bound on the work too: what is thrown away must not be endless.
-    const QString input = text.left(8 * limit);
-    QString result;
-    for (int i = 0; i < input.size(); ++i) {
-        uint character = input.at(i).unicode();
-        if (input.at(i).isHighSurrogate() && i + 1 < input.size() && input.at(i + 1).isLowSurrogate())
-            character = QChar::surrogateToUcs4(input.at(i), input.at(i + 1));
-        if (QChar::requiresSurrogates(character))
-            ++i;
-        const bool blank = isBlank(character);
-        if ((!blank && isUnfit(character)) || (blank && result.endsWith(QLatin1Char(' '))))
-            continue;
-        const QString piece = blank ? QString(QLatin1Char(' '))
-                                    : QString::fromUcs4(
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-                                          reinterpret_cast<const char32_t*>(&character),
-#else
-                                          &character,
-#endif
-                                          1);
-        if (result.size() + piece.size() > limit)
-            break;
-        result += piece;
-    }
-    return result.trimmed();
+    const QString line = OutsideText::fit(text.left(8 * limit)).simplified();
+    const bool isCutInPair = line.size() > limit && line.at(limit - 1).isHighSurrogate();
+    return line.left(isCutInPair ? limit - 1 : limit).trimmed();
 }
 
 QString address(const QString& text)

@@ -10,8 +10,8 @@ namespace ko {
 /// Makes texts fit for use that come from a network where anybody may say anything.
 namespace NetworkText {
 
-/// At most \a limit UTF-16 units on one line: without control, format (bidirectional overrides, zero
-/// width), private, unassigned and half characters; blanks of any kind and number are one blank.
+/// At most \a limit UTF-16 units on one line, without what cannot be seen, see OutsideText; blanks of any
+/// kind and number are one blank.
 KO_HOST_EXPORT QString cleaned(const QString& text, int limit);
 
 /// The address in its usual notation; empty when it is no IP address of a single host.

@@ -27,7 +27,8 @@ struct ScannerState
 };
 
 /// One way to find devices on the network. The object lives in the GUI thread and never blocks it: the
-/// work is done in a thread of its own, which is gone when stop() has returned.
+/// work is done in a thread of its own. A thread that may have to wait for another program ends by itself
+/// after stop(); only one that never does is waited for.
 class KO_HOST_EXPORT Scanner : public QObject
 {
     Q_OBJECT

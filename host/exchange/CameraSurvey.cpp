@@ -3,6 +3,7 @@
 #include "drivers/PropertyKeys.h"
 #include "exchange/CsvWriter.h"
 #include "exchange/ExportFile.h"
+#include "exchange/FileName.h"
 #include "exchange/ProgressReport.h"
 #include "exchange/RecordingPath.h"
 #include "exchange/Sample.h"
@@ -121,6 +122,9 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
         result.error = say("There is no database.");
         return result;
     }
+    result.error = FileName::refusal(fileName);
+    if (!result.error.isEmpty())
+        return result;
     if (passwords == Passwords::Write)
         Secrets::prepareAgain();
     ExportFile file(fileName);

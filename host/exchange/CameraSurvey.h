@@ -15,8 +15,8 @@ namespace ko {
 /// Messages never repeat what stands in a cell, which may be a password in the wrong column.
 namespace CameraSurvey {
 
-/// Called between lines, after at most 20 ms or 100 lines, with how far the work is. It may run the
-/// event loop and so show progress and store what was done; false cancels. What was done stays.
+/// Called between lines, after at most 20 ms or 100 lines, with how far the work is; what an import did so
+/// far is stored by then. It may run the event loop and so show progress; false cancels. What was done stays.
 typedef std::function<bool(qint64 done, qint64 total)> Progress;
 
 struct BadLine
@@ -30,7 +30,7 @@ enum { MaximumBadLines = 10000 };
 
 struct ImportResult
 {
-    int added = 0;
+    int added = 0; ///< and stored, as those that were updated
     int updated = 0;
     int unchanged = 0;
     QVector<BadLine> badLines; ///< these lines changed nothing; without an error all others were taken
@@ -38,8 +38,9 @@ struct ImportResult
     bool cancelled = false;
 
     /// Why the import stopped, empty if it did not. The file is checked as a whole before the first
-    /// change, so nothing was changed unless the file was changed or removed meanwhile.
+    /// change, so nothing was changed unless the file was changed or removed meanwhile, or storing failed.
     QString error;
+    bool storeFailed = false; ///< that is why
 };
 
 struct ExportResult
@@ -55,10 +56,10 @@ enum class Passwords {
     LeaveOut ///< neither the column nor those that stand in URLs or other cells
 };
 
-/// Adds and changes devices as the file says. All changes of a line are made in one turn of the event
-/// loop. Changes go into the audit log: "NRen" and "NChg" for each device that was changed, and one
-/// "NImp" at the end if there was any change. A list with passwords is refused as a whole when they cannot be
-/// stored.
+/// Adds and changes devices as the file says. All changes of a line are stored together. When storing fails
+/// the import stops, and what could not be stored is taken back. Changes go into the audit log: "NRen" and
+/// "NChg" for each device that was changed, and one "NImp" at the end if there was any change.
+/// A list with passwords is refused as a whole when they cannot be stored.
 KO_HOST_EXPORT ImportResult importCameras(const QString& fileName, const Progress& progress = Progress());
 
 /// Writes all devices, readable by the user alone. A file of this name is replaced when all is written,

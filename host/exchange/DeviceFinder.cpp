@@ -3,6 +3,7 @@
 #include "database/HostNodeDB.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHint.h"
+#include "ko/OutsideText.h"
 
 #include <QCoreApplication>
 
@@ -31,8 +32,9 @@ bool agrees(const SurveyRow& row, SurveyColumn column, const IPDeviceNode& node)
     return !row.has(column) || row.value(column) == SurveyFields::field(int(column)).read(node);
 }
 
-QString onlyOne(const QStringList& ids, const char* severalReason, QString* reason)
+QString onlyOne(QStringList ids, const char* severalReason, QString* reason)
 {
+    ids.removeDuplicates();
     if (ids.size() > 1)
         *reason = say(severalReason);
     return ids.size() == 1 ? ids.first() : QString();
@@ -92,7 +94,7 @@ QString DeviceFinder::findByName(const SurveyRow& row, QString* reason)
     const QStringList candidates = m_byName.values(name);
     for (const QString& candidate : candidates) {
         const auto node = device(candidate);
-        if (node.null() || m_known.contains(candidate) || node->name() != name)
+        if (node.null() || m_known.contains(candidate) || OutsideText::fit(node->name()) != name)
             continue;
         (node->address().isEmpty() ? without : withAddress).append(candidate);
     }
@@ -101,15 +103,25 @@ QString DeviceFinder::findByName(const SurveyRow& row, QString* reason)
                    reason);
 }
 
+void DeviceFinder::changed(const QString& id)
+{
+    const auto node = m_isRead ? device(id) : kom::smart<const IPDeviceNode>();
+    if (!node.null())
+        insert(id, node->name(), node->address());
+}
+
+/// What else is still here of a device does no harm: find() looks at it again.
+void DeviceFinder::insert(const QString& id, const QString& name, const QString& address)
+{
+    m_byName.insert(OutsideText::fit(name), id); // as names in a survey are
+    m_byAddress.insert(addressKey(address), id);
+}
+
 void DeviceFinder::readDevices()
 {
     if (m_isRead)
         return;
     m_isRead = true;
-    const auto insert = [this](const QString& id, const QString& name, const QString& address) {
-        m_byName.insert(name, id);
-        m_byAddress.insert(addressKey(address), id);
-    };
     // Summaries are in memory; without them every node has to be looked at once.
     if (const auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB())) {
         const QVector<NodeSummary> summaries = db->summaries();

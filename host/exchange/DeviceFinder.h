@@ -15,7 +15,7 @@ class NodeHint;
 ///
 /// The database decides by its own rule where the line says enough for it. Where port or channel are
 /// left open, the one device at that address is meant; without an address, the one with that name. Such
-/// a guess only ever finds devices that were there before the import, so that two lines of one survey
+/// a guess only ever finds devices that the import has not added itself, so that two lines of one survey
 /// don't become one device; lines without an address are also the same device when their names are.
 class DeviceFinder
 {
@@ -26,10 +26,14 @@ public:
     /// To be called for each device that the import adds.
     void added(const QString& id, const SurveyRow& row);
 
+    /// To be called for each device that somebody else adds or changes meanwhile.
+    void changed(const QString& id);
+
 private:
     QString findByAddress(const SurveyRow& row, const NodeHint& hint, QString* reason);
     QString findByName(const SurveyRow& row, QString* reason);
     void readDevices();
+    void insert(const QString& id, const QString& name, const QString& address);
 
     bool m_isRead = false;
     QMultiHash<QString, QString> m_byAddress;

@@ -13,8 +13,14 @@ class ProgressReport
 public:
     explicit ProgressReport(const CameraSurvey::Progress& progress);
 
-    /// Whether to go on with the next line; once false, always false.
+    /// Whether to go on with the next line; once false, always false. Asks when isDue().
     bool goOn(qint64 done, qint64 total);
+
+    /// Whether it is time to ask again: after a hundred lines or 20 ms. Once for each line.
+    bool isDue();
+
+    /// Asks now.
+    bool ask(qint64 done, qint64 total);
 
 private:
     const CameraSurvey::Progress m_progress;

@@ -3,6 +3,7 @@
 #include "interfaces/ISupportsChannels.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHintIPDevice.h"
+#include "ko/OutsideText.h"
 
 #include <QCoreApplication>
 
@@ -35,9 +36,23 @@ QString lineOfText(const QString& cell, QString* reason)
     return checkedText(cell, reason);
 }
 
+/// As it is: a credential means what it is made of.
 QString text(const QString& cell, QString* reason)
 {
     return cell.trimmed().isEmpty() ? QString() : lineOfText(cell, reason);
+}
+
+QString shownText(const QString& cell, QString* reason)
+{
+    return text(OutsideText::fit(text(cell, reason)), reason);
+}
+
+/// Another path would be another folder.
+QString path(const QString& cell, QString* reason)
+{
+    if (OutsideText::fit(cell) != cell)
+        *reason = say("it holds characters that cannot be seen");
+    return text(cell, reason);
 }
 
 /// Names may go over several lines; programs that save a table again change the kind of line break.
@@ -45,12 +60,13 @@ QString name(const QString& cell, QString* reason)
 {
     QString lines = cell;
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    return lines.trimmed().isEmpty() ? QString() : checkedText(lines, reason);
+    lines = OutsideText::fit(checkedText(lines, reason));
+    return lines.trimmed().isEmpty() ? QString() : lines;
 }
 
 QString address(const QString& cell, QString* reason)
 {
-    return lineOfText(cell.trimmed(), reason);
+    return OutsideText::fit(lineOfText(cell.trimmed(), reason)).trimmed();
 }
 
 QString number(const QString& cell, int from, int to, const char* rule, QString* reason)
@@ -194,7 +210,7 @@ const SurveyField fields[] = {
     {SurveyColumn::Channel, "channel", channel, channelOf, setChannel,
      [](Hint hint, Value value) { hint.channel = value.toInt(); }},
 
-    {SurveyColumn::Model, "model", text, [](Device node) { return node.model(); },
+    {SurveyColumn::Model, "model", shownText, [](Device node) { return node.model(); },
      [](WritableDevice node, Value value) { node.setModel(value); },
      [](Hint hint, Value value) { hint.model = value; }},
 
@@ -202,7 +218,7 @@ const SurveyField fields[] = {
      [](WritableDevice node, Value value) { node.setMacAddress(MACAddress(value)); },
      [](Hint hint, Value value) { hint.macAddress = MACAddress(value); }},
 
-    {SurveyColumn::RecordingPath, "recording path", text, nullptr, nullptr, nullptr},
+    {SurveyColumn::RecordingPath, "recording path", path, nullptr, nullptr, nullptr},
     {SurveyColumn::Type, "type", type, nullptr, nullptr, nullptr},
 };
 

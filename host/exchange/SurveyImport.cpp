@@ -1,6 +1,8 @@
 #include "exchange/SurveyImport.h"
 
+#include "database/HostNodeDB.h"
 #include "exchange/CsvReader.h"
+#include "exchange/FileName.h"
 #include "exchange/ImportLogEntry.h"
 #include "exchange/RecordingPath.h"
 #include "inspector/NodeChangeLogEntry.h"
@@ -11,10 +13,17 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHintIPDevice.h"
+#include "ko/OutsideText.h"
 #include "secrets/Secrets.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QScopedValueRollback>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace ko {
 
@@ -95,6 +104,20 @@ bool write(const QString& id, const SurveyRow& row)
     return device;
 }
 
+/// Where locks belong to the process, whoever closes one of its files takes them away.
+bool isDatabase(const struct stat& info)
+{
+    const auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB());
+    const QByteArray name = db ? QFile::encodeName(db->fileName()) : QByteArray();
+    for (const char* suffix : {"", "-wal", "-shm"}) {
+        struct stat own = {};
+        if (db && ::stat((name + suffix).constData(), &own) == 0 && own.st_dev == info.st_dev &&
+            own.st_ino == info.st_ino)
+            return true;
+    }
+    return false;
+}
+
 void logChange(const QString& id, const QString& oldName)
 {
     const auto node = NodeDB::getDB()->node(id);
@@ -108,33 +131,103 @@ void logChange(const QString& id, const QString& oldName)
 } // namespace
 
 SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress& progress)
-    : m_file(fileName)
+    : m_fileName(fileName)
     , m_progress(progress)
 {
 }
 
 CameraSurvey::ImportResult SurveyImport::run()
 {
-    if (open() && readFile(Pass::Check) && canStorePasswords())
+    if (open() && readFile(Pass::Check) && canStorePasswords()) {
+        followOthers();
         readFile(Pass::Apply);
-    if (m_result.added + m_result.updated > 0) {
-        ActionLog::getInstance()->log(ImportLogEntry(QFileInfo(m_file).fileName(), m_result.added,
-                                                     m_result.updated, m_result.badLines.size()));
     }
-    return m_result;
+    log();
+    if (!m_result.storeFailed && !store([] {}))
+        log();
+    return m_result; // an entry of the log that waits is stored with the next changes
+}
+
+/// Other programs and other windows add devices between two parts of the list.
+void SurveyImport::followOthers()
+{
+    for (const auto signal : {&NodeDB::nodeInserted, &NodeDB::nodeUpdated})
+        QObject::connect(NodeDB::getDB(), signal, &m_context, [this](const NodeID& id) {
+            if (!m_isImporting)
+                m_finder.changed(id);
+        });
+}
+
+/// Stores what \a work did. False when that failed: nothing more is tried then. What others did is stored
+/// before, so that nothing but this is taken back.
+bool SurveyImport::store(const std::function<void()>& work)
+{
+    auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB());
+    if (!db) {
+        work(); // other hosts store in their own way
+        return true;
+    }
+    StoreError error;
+    const auto nothing = [] {};
+    // Alone, so that two programs that import one list do not both find a device missing, and add it.
+    const bool stored = db->runAlone(nothing, &error) == HostNodeDB::Outcome::Stored &&
+                        db->runAlone(work, &error) == HostNodeDB::Outcome::Stored;
+    if (!stored)
+        storeFailed(error.message);
+    m_storedAdded = m_result.added;
+    m_storedUpdated = m_result.updated;
+    return stored;
+}
+
+void SurveyImport::storeFailed(const QString& reason)
+{
+    if (m_result.added > m_storedAdded || m_result.updated > m_storedUpdated) {
+        qobject_cast<HostNodeDB*>(NodeDB::getDB())->discardUnstoredChanges();
+        m_isLogged = false;
+    }
+    m_result.added = m_storedAdded;
+    m_result.updated = m_storedUpdated;
+    m_result.storeFailed = true;
+    m_result.error = say("%1 The import has stopped there; only what is counted here is stored. Import the "
+                         "file again for the rest.")
+                         .arg(reason);
+}
+
+void SurveyImport::log()
+{
+    if (m_isLogged || m_result.added + m_result.updated == 0 || !NodeDB::getDB())
+        return;
+    m_isLogged = true;
+    const QString name = OutsideText::visible(QFileInfo(m_fileName).fileName());
+    ActionLog::getInstance()->log(
+        ImportLogEntry(name, m_result.added, m_result.updated, m_result.badLines.size()));
 }
 
 bool SurveyImport::open()
 {
-    const QFileInfo info(m_file);
-    // A pipe cannot be read twice, and opening one may wait for ever.
-    if (!NodeDB::getDB())
+    const QByteArray name = FileName::toBytes(m_fileName);
+    struct stat info = {};
+    const bool exists = ::stat(name.constData(), &info) == 0;
+    if (!NodeDB::getDB()) {
         m_result.error = say("There is no database.");
-    else if (info.exists() && !info.isFile())
-        m_result.error = say("%1 is not a regular file.").arg(m_file.fileName());
-    else if (!m_file.open(QIODevice::ReadOnly))
-        m_result.error = say("%1 cannot be read: %2").arg(m_file.fileName(), m_file.errorString());
-    return m_result.error.isEmpty();
+        return false;
+    }
+    if (exists && !S_ISREG(info.st_mode)) { // a pipe can't be read twice, and opening one may wait for ever
+        m_result.error = say("%1 is not a regular file.").arg(m_fileName);
+        return false;
+    }
+    if (exists && isDatabase(info)) {
+        m_result.error = say("%1 is the node database itself.").arg(m_fileName);
+        return false;
+    }
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    const QString reason = qt_error_string(errno);
+    if (descriptor >= 0 && m_file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return true;
+    m_result.error = exists ? QString() : FileName::refusal(m_fileName);
+    if (m_result.error.isEmpty())
+        m_result.error = say("%1 cannot be read: %2").arg(m_fileName, reason);
+    return false;
 }
 
 /// Reads all lines, and imports them in the second pass; false when the import must not go on.
@@ -148,18 +241,35 @@ bool SurveyImport::readFile(Pass pass)
         return false;
 
     const qint64 doneBefore = pass == Pass::Apply ? m_file.size() : 0;
+    bool more = true;
+    const auto read = [&] { more = readSome(reader, header, pass); };
+    while (more && m_progress.ask(doneBefore + reader.bytesRead(), 2 * m_file.size())) {
+        if (pass == Pass::Check)
+            read();
+        else if (!store(read))
+            return false;
+    }
+    m_result.cancelled = more;
+    return !more && m_result.error.isEmpty();
+}
+
+/// Until it is time to tell how far it is; false when nothing more is to be read.
+bool SurveyImport::readSome(CsvReader& reader, const SurveyHeader& header, Pass pass)
+{
     QStringList cells;
-    while (m_progress.goOn(doneBefore + reader.bytesRead(), 2 * m_file.size())) {
+    do {
         if (!reader.readRecord(&cells)) {
             m_result.error = reader.error();
-            return m_result.error.isEmpty();
+            return false;
         }
         QString reason = reader.recordError();
         const SurveyRow row = reason.isEmpty() ? SurveyRow::read(header, cells, &reason) : SurveyRow();
         if (reason.isEmpty() && pass == Pass::Check && row.has(SurveyColumn::Password))
             m_passwords.add(QString::number(reader.line()));
-        if (reason.isEmpty() && !row.isEmpty() && pass == Pass::Apply)
+        if (reason.isEmpty() && !row.isEmpty() && pass == Pass::Apply) {
+            const QScopedValueRollback<bool> importing(m_isImporting, true);
             import(row, &reason);
+        }
         if (!reason.isEmpty())
             m_result.badLines.append({reader.line(), reason});
         if (m_result.badLines.size() >= CameraSurvey::MaximumBadLines) {
@@ -167,9 +277,8 @@ bool SurveyImport::readFile(Pass pass)
                 say("%1 lines are bad; this is no list of cameras.").arg(int(CameraSurvey::MaximumBadLines));
             return false;
         }
-    }
-    m_result.cancelled = true;
-    return false;
+    } while (!m_progress.isDue());
+    return true;
 }
 
 /// Before the first change: a device that was added without its password would be there the next time.

@@ -24,18 +24,29 @@ public:
 private:
     enum class Pass { Check, Apply };
 
+    void followOthers();
+    bool store(const std::function<void()>& work);
+    void storeFailed(const QString& reason);
+    void log();
     bool open();
     bool readFile(Pass pass);
+    bool readSome(CsvReader& reader, const SurveyHeader& header, Pass pass);
     bool canStorePasswords();
     bool readHeader(CsvReader& reader, SurveyHeader* header);
     void import(const SurveyRow& row, QString* reason);
     void add(const SurveyRow& row, NodeHint& hint, QString* reason);
     void update(const QString& id, const SurveyRow& row, QString* reason);
 
-    QFile m_file;
+    const QString m_fileName;
+    QFile m_file; ///< without a name, see FileName
     ProgressReport m_progress;
     CameraSurvey::ImportResult m_result;
+    int m_storedAdded = 0;
+    int m_storedUpdated = 0;
+    bool m_isLogged = false;
+    bool m_isImporting = false; ///< a line, and not taking in what others did
     DeviceFinder m_finder;
+    const QObject m_context;
     Sample m_passwords; ///< the lines that have one
 };
 

@@ -1,8 +1,7 @@
 #include "ko/LogQt.h"
 
 #include "ko/MutexLocker.h"
-
-#include <cstdio>
+#include "ko/Terminal.h"
 
 namespace ko {
 
@@ -19,7 +18,7 @@ void LogQt::write(int level, const QString& line)
     if (m_sink)
         m_sink->write(level, line);
     else
-        std::fprintf(stderr, "%s\n", line.toLocal8Bit().constData());
+        Terminal::say(stderr, line);
 }
 
 void LogQt::setSink(LogSink* sink)

@@ -40,6 +40,7 @@ private slots:
     void auditLogIsSearched();
     void auditLogSearchReadsWhatWasNotRead();
     void auditLogRowsAreCopied();
+    void auditLogEntriesStayOnTheirLine();
     void auditLogModelKeepsTheRules();
     void preferencesAreWrittenOnOk();
     void preferencesAreLeftAloneOnCancel();
@@ -129,6 +130,24 @@ void tst_ClientDialogs::auditLogRowsAreCopied()
     QCOMPARE(int(lines.size()), 2);
     QVERIFY(lines.at(0).contains(QLatin1String("Gate 2")) && lines.at(1).contains(QLatin1String("Gate 0")));
     QCOMPARE(int(lines.at(0).count(QLatin1Char('\t'))), view->model()->columnCount() - 1);
+}
+
+void tst_ClientDialogs::auditLogEntriesStayOnTheirLine()
+{
+    log(1, QString::fromUtf8("Gate\n2020-01-01\tadmin\u202e"));
+    AuditLogDialog dialog(db().auditLog());
+    dialog.show();
+    QTableView* view = child<QTableView>(&dialog, "entriesTableView");
+    view->setFocus();
+    view->selectRow(0);
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+    const QString copied = QApplication::clipboard()->text();
+    QVERIFY2(copied.contains(QLatin1String("Gate\\n2020-01-01\\tadmin\\u202e")), qPrintable(copied));
+    QCOMPARE(copied.count(QLatin1Char('\n')), 0);
+    QCOMPARE(int(copied.count(QLatin1Char('\t'))), view->model()->columnCount() - 1);
+    // The entry itself is as it was logged.
+    QVERIFY(db().auditLog().entries(0, 1, true).front().entry->text().contains(QLatin1Char('\n')));
 }
 
 void tst_ClientDialogs::auditLogModelKeepsTheRules()

@@ -3,15 +3,19 @@
 #include "support/TestMain.h"
 
 #include "CommandLine.h"
+#include "audit/AuditLog.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QThread>
 
 #include <csignal>
+#include <cstdio>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -96,6 +100,11 @@ private slots:
     void importAndExport();
     void importTwiceAddsNothing();
     void badLinesAreNamed();
+    void foreignTextsDoNotSteerTheTerminal();
+    void importOnAFullDisk_data();
+    void importOnAFullDisk();
+    void namesThatAreNoText_data();
+    void namesThatAreNoText();
     void badLists_data();
     void badLists();
     void exportWithoutPasswords();
@@ -110,7 +119,9 @@ private slots:
     void restoreOfNothing();
 
 private:
-    Call call(const QStringList& arguments);
+    static Call call(const QStringList& arguments, int kilobytes = 0);
+    static Call run(const QString& program, const QStringList& arguments);
+    int devices();
     Call onDatabase(const QStringList& arguments)
     {
         return call(QStringList{"--db", m_database} + arguments);
@@ -128,10 +139,20 @@ void tst_CommandLine::init()
     m_database = m_folder->filePath("nodes.kodb");
 }
 
-Call tst_CommandLine::call(const QStringList& arguments)
+/// With \a kilobytes no file can become larger than that.
+Call tst_CommandLine::call(const QStringList& arguments, int kilobytes)
+{
+    const QString limit = QString("ulimit -f %1; trap '' XFSZ; exec \"$0\" \"$@\"").arg(2 * kilobytes);
+    const QStringList command =
+        QStringList{QCoreApplication::applicationFilePath(), clientArgument} + arguments;
+    return kilobytes > 0 ? run("/bin/sh", QStringList{"-c", limit} + command)
+                         : run(command.at(0), command.mid(1));
+}
+
+Call tst_CommandLine::run(const QString& program, const QStringList& arguments)
 {
     QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), QStringList(clientArgument) + arguments);
+    process.start(program, arguments);
     Call result;
     if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
         return result;
@@ -139,6 +160,13 @@ Call tst_CommandLine::call(const QStringList& arguments)
     result.said = QString::fromLocal8Bit(process.readAllStandardOutput());
     result.complained = QString::fromLocal8Bit(process.readAllStandardError());
     return result;
+}
+
+int tst_CommandLine::devices()
+{
+    StoreError error;
+    const std::unique_ptr<HostNodeDB> db = HostNodeDB::open(m_database, &error);
+    return db ? int(db->summaries().size()) : -1;
 }
 
 QString tst_CommandLine::write(const char* name, const QByteArray& content)
@@ -223,6 +251,101 @@ void tst_CommandLine::badLinesAreNamed()
     QVERIFY(!result.complained.contains("many")); // it could be a password in the wrong column
     QVERIFY(result.said.contains("2 added"));
     QVERIFY(result.said.contains("1 lines with errors"));
+}
+
+void tst_CommandLine::foreignTextsDoNotSteerTheTerminal()
+{
+    const QString list = write("in\x1b[2J.csv", "name,address,\x1b]0;owned\x07,a\xe2\x80\xae"
+                                                "b,port\n"
+                                                "Gate,10.0.0.1,,,x\n");
+    const Call result = onDatabase({"--import", list});
+    QCOMPARE(result.exitCode, int(CommandLine::SomeLinesBad));
+    QVERIFY2(result.complained.contains("\"\\x1b]0;owned\\x07\""), qPrintable(result.complained));
+    QVERIFY(result.complained.contains("\"a\\u202eb\""));
+    QVERIFY(result.complained.contains("in\\x1b[2J.csv, line 2"));
+    for (const Call& call : {result, onDatabase({"--import", list + "\x1b[31m"}),
+                             onDatabase({"--export", m_folder->filePath("no\nthing\x1b/x")}),
+                             onDatabase({"--un\x1bknown"}), onDatabase({"\x1b[31m"})}) {
+        QVERIFY(!call.complained.isEmpty());
+        QVERIFY(!call.complained.contains('\x1b') && !call.complained.contains('\x07'));
+        QVERIFY(!call.said.contains('\x1b'));
+    }
+}
+
+void tst_CommandLine::importOnAFullDisk_data()
+{
+    QTest::addColumn<int>("kilobytes");
+    QTest::addColumn<bool>("storesSome");
+    QTest::newRow("nothing fits") << 40 << false;
+    QTest::newRow("something fits") << 1000 << true;
+}
+
+/// A limit to the size of files is to the database what a full disk is; the journal reaches it first.
+void tst_CommandLine::importOnAFullDisk()
+{
+    QFETCH(int, kilobytes);
+    QFETCH(bool, storesSome);
+    const int count = 4000;
+    QByteArray lines = "name,address\n";
+    for (int i = 0; i < count; ++i)
+        lines += QStringLiteral("Camera %1,10.1.%2.%3\n").arg(i).arg(i / 200).arg(i % 200).toLatin1();
+    const QString list = write("in.csv", lines);
+    QCOMPARE(onDatabase({"--import", write("first.csv", "name,address\nGate,10.0.0.1\n")}).exitCode, 0);
+
+    QElapsedTimer clock;
+    clock.start();
+    const Call result = call({"--db", m_database, "--import", list}, kilobytes);
+    QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
+    const int stored = devices() - 1;
+    QCOMPARE(stored > 0, storesSome);
+    QVERIFY(stored < count);
+    QVERIFY2(result.said.startsWith(QString("%1 added, 0 updated, 0 unchanged").arg(stored)),
+             qPrintable(result.said));
+    QVERIFY2(result.complained.contains("The import has stopped"), qPrintable(result.complained));
+    QCOMPARE(result.exitCode, int(storesSome ? CommandLine::SomeLinesBad : CommandLine::Failed));
+
+    const Call again = onDatabase({"--import", list});
+    QVERIFY2(
+        again.said.startsWith(QString("%1 added, 0 updated, %2 unchanged").arg(count - stored).arg(stored)),
+        qPrintable(again.said));
+}
+
+void tst_CommandLine::namesThatAreNoText_data()
+{
+    QTest::addColumn<QString>("option");
+    for (const char* option :
+         {"--import ", "--import=", "--export ", "--backup ", "--restore ", "--db ", "--db="})
+        QTest::newRow(option) << option;
+}
+
+/// The toolkit's own decoding gives the name of another file.
+void tst_CommandLine::namesThatAreNoText()
+{
+    QFETCH(QString, option);
+    QCOMPARE(onDatabase({"--import", write("first.csv", "name,address\nGate,10.0.0.1\n")}).exitCode, 0);
+    const QByteArray name = QFile::encodeName(m_folder->filePath("in")) + "\xff.csv";
+    const QByteArray other = QFile::encodeName(m_folder->filePath("in")) + "\xef\xbf\xbd.csv";
+    FILE* list = std::fopen(name.constData(), "w");
+    QVERIFY(list && std::fputs("name,address\nYard,10.0.0.2\n", list) > 0);
+    std::fclose(list);
+    const auto removal = qScopeGuard([&name] { ::unlink(name.constData()); }); // the toolkit can't
+
+    const QString script = "exec \"$0\" " + QString(clientArgument) + " --db \"$1\" " + option +
+                           "\"$(printf '%s/in\\377.csv' \"$2\")\"";
+    const Call result =
+        run("/bin/sh", {"-c", script, QCoreApplication::applicationFilePath(), m_database, m_folder->path()});
+    QVERIFY(::access(other.constData(), F_OK) != 0);
+    if (option.startsWith("--import")) {
+        QVERIFY2(result.said.startsWith("1 added"), qPrintable(result.said + result.complained));
+        QCOMPARE(result.exitCode, 0);
+        StoreError error;
+        const auto db = HostNodeDB::open(m_database, &error);
+        QVERIFY(db->auditLog().entries(0, 1, true).front().entry->text().contains("from in\\xff.csv:"));
+    } else {
+        QVERIFY2(result.complained.contains("in\\xff.csv\" cannot be used"), qPrintable(result.complained));
+        QCOMPARE(result.exitCode, int(CommandLine::Failed));
+        QCOMPARE(devices(), 1);
+    }
 }
 
 void tst_CommandLine::badLists_data()

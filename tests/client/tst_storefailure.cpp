@@ -3,8 +3,14 @@
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
+#include "audit/AuditLog.h"
 #include "dialogs/RecordingFolderMassAssignmentDialog.h"
 
+#include <QAction>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -60,6 +66,7 @@ private slots:
     void retryStoresAll();
     void discardLeavesAllAsTheyWere();
     void namesAreShownAsTheyAre();
+    void importTellsWhatIsStored();
 
 private:
     void assign();
@@ -170,6 +177,60 @@ void tst_StoreFailure::namesAreShownAsTheyAre()
     m_other->run("ROLLBACK");
     QTRY_VERIFY_WITH_TIMEOUT(!failureBox() || !failureBox()->isVisible(), 8000); // tried again by itself
     QVERIFY(!m_host->db()->hasUnstoredChanges());
+}
+
+void tst_StoreFailure::importTellsWhatIsStored()
+{
+    const QString list = m_host->fileName() + QStringLiteral(".csv");
+    QFile file(list);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("name,address\n");
+    for (int i = 0; i < 1000; ++i)
+        file.write(QStringLiteral("New %1,10.1.%2.%3\n").arg(i).arg(i / 200).arg(i % 200).toLatin1());
+    file.close();
+    int inserted = 0;
+    connect(m_host->db(), &NodeDB::nodeInserted, this, [&] {
+        if (++inserted == 250) // between two parts of the list; within one, the import keeps others out
+            QTimer::singleShot(0, this, [this] { m_other->run("BEGIN IMMEDIATE"); });
+    });
+    QString told;
+    bool otherBox = true;
+    std::unique_ptr<testsupport::ModalAnswer> report;
+    const testsupport::ModalAnswer chooser([&](QDialog* dialog) {
+        report = std::make_unique<testsupport::ModalAnswer>([&](QDialog* shown) {
+            told = child<QLabel>(shown, "summaryLabel")->text();
+            otherBox = failureBox();
+            shown->reject();
+        });
+        qobject_cast<QFileDialog*>(dialog)->selectFile(list);
+        dialog->accept();
+    });
+    QElapsedTimer clock;
+    clock.start();
+    child<QAction>(m_window.get(), "actionImport")->trigger();
+    QVERIFY(report && report->fired());
+    QVERIFY2(clock.elapsed() < 10000, qPrintable(QString::number(clock.elapsed()))); // two attempts
+    const int stored = m_other->run("SELECT count(*) FROM nodes WHERE name LIKE 'New %'").toInt();
+    QVERIFY(stored >= 250 && stored < 1000);
+    QVERIFY2(told.contains(QStringLiteral("%1 added, 0 updated").arg(stored)), qPrintable(told));
+    QVERIFY2(told.contains(QStringLiteral("held by another program")) &&
+                 told.contains(QStringLiteral("has stopped")),
+             qPrintable(told));
+    QVERIFY(!otherBox);
+    QCOMPARE(int(m_host->db()->summaries().size()), 40 + stored);
+    // What waits now is the entry of the log about those that are stored.
+    QTRY_VERIFY(failureBox());
+    QVERIFY(!failureBox()->informativeText().contains(QStringLiteral("New ")));
+    m_other->run("ROLLBACK");
+    const QList<QAbstractButton*> buttons = failureBox()->buttons();
+    for (QAbstractButton* button : buttons) {
+        if (button->text() == QStringLiteral("Retry"))
+            QTest::mouseClick(button, Qt::LeftButton);
+    }
+    QTRY_VERIFY(!m_host->db()->hasUnstoredChanges());
+    QCOMPARE(m_other->run("SELECT count(*) FROM nodes").toInt(), 40 + stored);
+    const QString entry = m_host->db()->auditLog().entries(0, 1, true).front().entry->text();
+    QVERIFY2(entry.contains(QStringLiteral(": %1 added").arg(stored)), qPrintable(entry));
 }
 
 KO_TEST_MAIN(tst_StoreFailure)

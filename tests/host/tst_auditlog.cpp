@@ -69,6 +69,7 @@ private slots:
     void entryThatFailedIsNotLost();
 
     void programLinesComeBack();
+    void programLinesStayOnOneLine();
     void programLinesOfOtherThreads();
     void programLogIsBounded();
     void programLinesAloneAreStoredWithinSeconds();
@@ -230,6 +231,14 @@ void TestAuditLog::programLinesComeBack()
     QVERIFY(records.at(0).code == FourChars("Prog"));
     QVERIFY(logEntryFactory().create("Prog"));
     QCOMPARE(logEntryFactory().title("Prog"), QLatin1String("Program log"));
+}
+
+void TestAuditLog::programLinesStayOnOneLine()
+{
+    const ProgramLog log(m_db->logStore());
+    LogQt::line(LogQt::Warning, QString::fromUtf8("Camera \x1b[2J\nLogin \u202e"));
+    QCOMPARE(log.entries(0, 1, true).front().entry->text(),
+             QString::fromUtf8("Level 2: Camera \\x1b[2J\\nLogin \\u202e"));
 }
 
 void TestAuditLog::programLinesOfOtherThreads()

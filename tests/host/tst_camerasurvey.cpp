@@ -1,3 +1,4 @@
+#include "support/FileLockLines.h"
 #include "support/HostFixture.h"
 #include "support/SmallHost.h"
 #include "support/TestMain.h"
@@ -17,6 +18,7 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace ko;
 using namespace ko::CameraSurvey;
@@ -154,10 +156,13 @@ private slots:
     void addsDevices();
     void newDeviceTakesDefaults();
     void columnsInAnyOrderAndCase();
+    void unseenSignsAreLeftOut();
+    void namesWithUnseenSignsAreFound();
     void refusedFilesChangeNothing_data();
     void refusedFilesChangeNothing();
     void refusedPlaces_data();
     void refusedPlaces();
+    void databaseItselfIsNotOpened();
     void tooManyBadLines();
     void badLinesAreNamed_data();
     void badLinesAreNamed();
@@ -284,6 +289,32 @@ void tst_CameraSurvey::columnsInAnyOrderAndCase()
              QStringList({"2", "Gate", "10.0.0.1", "443", "yes", "", "", "", "", "00:11:22:AA:BB:CC"}));
 }
 
+void tst_CameraSurvey::unseenSignsAreLeftOut()
+{
+    const QString persian = QString::fromUtf8("\u0645\u06cc\u200c\u062e");
+    const QString line = QString::fromUtf8("\"Ga\u200bte\u202e\n\u20282\",10.0.0.1\ufeff,,,ro\u200bot,"
+                                           "p\u202ess,,M\u200e1,,\n") +
+                         persian + ",10.0.0.2,,,,,,,,\n";
+    QCOMPARE(counts(import(header() + line.toUtf8())), QString("2 added, 0 updated, 0 unchanged, 0 bad"));
+    QCOMPARE(valuesOf("new1"),
+             QStringList({"2", "Gate\n 2", "10.0.0.1", "80", "no", QString::fromUtf8("ro\u200bot"),
+                          QString::fromUtf8("p\u202ess"), "", "M1", ""}));
+    QCOMPARE(valuesOf("new2").at(1), persian);
+    QCOMPARE(counts(import(header() + line.toUtf8())), QString("0 added, 0 updated, 2 unchanged, 0 bad"));
+}
+
+/// A user may give such a name; a list that was exported with it still means the same device.
+void tst_CameraSurvey::namesWithUnseenSignsAreFound()
+{
+    import("name,address\nGate,\n");
+    Node* node = db->beginUpdateNode("new1", -1);
+    node->setStringProperty("Name", QString::fromUtf8("Ga\u200bte"));
+    db->endUpdateNode(node);
+    const QByteArray line = QString::fromUtf8("name,address,model\nGa\u200bte,,M1\n").toUtf8();
+    QCOMPARE(counts(import(line)), QString("0 added, 1 updated, 0 unchanged, 0 bad"));
+    QCOMPARE(valuesOf("new1").at(8), QString("M1"));
+}
+
 void tst_CameraSurvey::refusedFilesChangeNothing_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -336,6 +367,9 @@ void tst_CameraSurvey::refusedPlaces_data()
                              << "%1 cannot be read: No such file or directory";
     QTest::newRow("folder") << "folder"
                             << "%1 is not a regular file.";
+    QTest::newRow("name that a dialog could not read")
+        << QString("in%1.csv").arg(QChar(QChar::ReplacementCharacter))
+        << "The file \"%1\" cannot be used: its name is no text in the encoding of this system. Rename it.";
     QTest::newRow("pipe") << "pipe"
                           << "%1 is not a regular file.";
 }
@@ -349,6 +383,20 @@ void tst_CameraSurvey::refusedPlaces()
     const QString fileName = m_folder->filePath(place);
     QCOMPARE(importCameras(fileName).error, error.arg(fileName));
     QCOMPARE(db->calls, QStringList());
+}
+
+/// Where locks belong to the process, to open and close it would take them away.
+void tst_CameraSurvey::databaseItselfIsNotOpened()
+{
+    db.reset();
+    const testsupport::HostFixture host;
+    const QString link = path("link.csv");
+    QVERIFY(QFile::link(host.fileName(), link));
+    const QStringList before = testsupport::lockLines(host.fileName());
+    QVERIFY(!before.isEmpty());
+    for (const QString& file : {host.fileName(), host.fileName() + "-wal", host.fileName() + "-shm", link})
+        QCOMPARE(importCameras(file).error, file + " is the node database itself.");
+    QCOMPARE(testsupport::lockLines(host.fileName()), before);
 }
 
 void tst_CameraSurvey::tooManyBadLines()
@@ -404,6 +452,11 @@ void tst_CameraSurvey::badLinesAreNamed_data()
                                << "bad name: it is longer than 1024 characters";
     QTest::newRow("long path") << "x,10.0.0.9,,,,,,,," + QByteArray(1025, 'n')
                                << "bad recording path: it is longer than 1024 characters";
+    QTest::newRow("path that shows another one")
+        << QByteArray("x,10.0.0.9,,,,,,,,/a/\xe2\x80\xae/b")
+        << "bad recording path: it holds characters that cannot be seen";
+    QTest::newRow("name of nothing that is seen")
+        << QByteArray("\xe2\x80\x8b,\xef\xbb\xbf,80,,root,,,,,") << "there is neither a name nor an address";
     QTest::newRow("text behind a quote")
         << QByteArray("\"x\"y,10.0.0.9,,,,,,,,") << "text follows the closing quote of a cell";
     QTest::newRow("the first of two reasons") << QByteArray("x,10.0.0.9,x,maybe,,,,,,") << port;

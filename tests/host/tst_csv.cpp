@@ -161,6 +161,7 @@ private slots:
 
     void formulas_data();
     void formulas();
+    void allShortCellsComeBack();
     void foreignApostrophesStay();
     void writesWhatEverySpreadsheetTakes();
     void whatTextCannotHoldIsReplaced();
@@ -426,7 +427,18 @@ void tst_Csv::formulas_data()
     QTest::newRow("harmless") << "1=1" << QByteArray("1=1");
     QTest::newRow("only an apostrophe") << "'" << QByteArray("'");
     QTest::newRow("apostrophe and text") << "'s Gravenhage" << QByteArray("'s Gravenhage");
-    QTest::newRow("equals behind a blank") << " =1" << QByteArray("\" =1\"");
+    QTest::newRow("LF") << "\nx" << QByteArray("\"'\nx\"");
+    QTest::newRow("equals behind a line break") << "\n=1" << QByteArray("\"'\n=1\"");
+    QTest::newRow("equals behind a blank") << " =1" << QByteArray("' =1");
+    QTest::newRow("plus behind other blanks")
+        << QString::fromUtf8("\u00a0\u3000+1") << QString::fromUtf8("'\u00a0\u3000+1").toUtf8();
+    QTest::newRow("at behind what has no width")
+        << QString::fromUtf8("\u200b\ufeff@x") << QString::fromUtf8("'\u200b\ufeff@x").toUtf8();
+    QTest::newRow("behind an apostrophe and a blank") << "' =1" << QByteArray("'' =1");
+    for (const char* sign : {"\uff1d", "\uff0b", "\uff0d", "\uff20"})
+        QTest::newRow(sign) << QString::fromUtf8(sign) + "1"
+                            << "'" + QByteArray(sign) + "1";
+    QTest::newRow("blank") << " 1=1" << QByteArray("\" 1=1\"");
 }
 
 void tst_Csv::formulas()
@@ -436,6 +448,23 @@ void tst_Csv::formulas()
     const QByteArray file = written({{cell, "b"}});
     QCOMPARE(file, "\xef\xbb\xbf" + bytes + ",b\r\n");
     QCOMPARE(readAll(file).records, QList<QStringList>({{cell, "b"}}));
+}
+
+void tst_Csv::allShortCellsComeBack()
+{
+    const QString signs = QString::fromUtf8("'= \t\n\r\"a,\uff1d\u3000\u200b");
+    const int count = int(signs.size());
+    QList<QStringList> records;
+    for (int i = 0; i < count * count * count * count; ++i) {
+        QString cell;
+        for (int rest = i; rest > 0; rest /= count)
+            cell += signs.at(rest % count);
+        records.append({"x", cell});
+    }
+    QCOMPARE(records.at(1).at(1), QString("="));
+    const Reading reading = readAll(written(records));
+    QCOMPARE(reading.error, QString());
+    QVERIFY(reading.records == records);
 }
 
 void tst_Csv::foreignApostrophesStay()

@@ -1,5 +1,6 @@
 #include "audit/AuditLog.h"
 #include "discovery/DeviceIntake.h"
+#include "discovery/NearbyAddresses.h"
 #include "discovery/NetworkText.h"
 #include "discovery/Scanner.h"
 #include "ko/IPDeviceNode.h"
@@ -11,6 +12,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QNetworkInterface>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -94,6 +96,10 @@ private slots:
     void textIsCleaned();
     void addressesAreOfOneHost_data();
     void addressesAreOfOneHost();
+    void addressesAreNearby_data();
+    void addressesAreNearby();
+    void ownNetworksAreNearby();
+    void farAddressesAreNotTakenOver();
     void scannersAreCalledByName();
     void deviceBecomesNode();
     void portIsDefaultWhenUnknown();
@@ -213,6 +219,73 @@ void DeviceIntakeTest::addressesAreOfOneHost()
 {
     QFETCH(QString, text);
     QTEST(NetworkText::address(text), "expected");
+}
+
+void DeviceIntakeTest::addressesAreNearby_data()
+{
+    QTest::addColumn<bool>("expected");
+    const auto rows = [](bool expected, const QStringList& addresses) {
+        for (const QString& address : addresses)
+            QTest::newRow(qPrintable(address)) << expected;
+    };
+    rows(true, {"10.0.0.7", "10.255.255.255", "172.16.0.1", "172.31.255.254", "192.168.1.1", "169.254.3.4",
+                "100.64.0.1", "100.127.255.254", "fd00::7", "fe80::1%eth0", "fe80::1"});
+    // In a network that is attached here, with addresses of its own.
+    rows(true, {"203.0.113.1", "203.0.113.126", "2001:db8:1:2::7", "198.51.100.9", "192.0.2.0", "192.0.2.1"});
+    rows(false, {"127.0.0.1", "127.8.8.8", "::1", "::", "0.0.0.0", "0.1.2.3", "224.0.0.251", "239.1.1.1",
+                 "ff02::fb", "255.255.255.255", "240.0.0.1", "250.1.2.3"});
+    rows(false, {"8.8.8.8", "172.32.0.1", "100.128.0.1", "192.169.0.1", "203.0.113.200", "198.51.100.10",
+                 "2001:db8:1:3::7", "64:ff9b::7f00:1", "::7f00:1"});
+    rows(false, {"203.0.113.127", "10.7.0.255"}); // all hosts of an attached network
+}
+
+void DeviceIntakeTest::addressesAreNearby()
+{
+    QFETCH(bool, expected);
+    NearbyAddresses nearby({{QHostAddress("203.0.113.5"), 25},
+                            {QHostAddress("198.51.100.9"), 32},
+                            {QHostAddress("192.0.2.1"), 31},
+                            {QHostAddress("10.7.0.1"), 24},
+                            {QHostAddress("127.0.0.1"), 8},
+                            {QHostAddress("::1"), 128},
+                            {QHostAddress("2001:db8:1:2::1"), 64}});
+    const QHostAddress address{QString::fromLatin1(QTest::currentDataTag())};
+    QVERIFY(!address.isNull());
+    QCOMPARE(nearby.contains(address), expected);
+}
+
+void DeviceIntakeTest::ownNetworksAreNearby()
+{
+    NearbyAddresses nearby;
+    NearbyAddresses none{QVector<NearbyAddresses::Network>()};
+    const QList<QHostAddress> all = QNetworkInterface::allAddresses();
+    for (const QHostAddress& own : all)
+        QVERIFY2(nearby.contains(own) != own.isLoopback(), qPrintable(own.toString()));
+    QVERIFY(!nearby.contains(QHostAddress("8.8.8.8")));
+    QVERIFY(!none.contains(QHostAddress("192.0.2.1")) && none.contains(QHostAddress("10.0.0.1")));
+}
+
+void DeviceIntakeTest::farAddressesAreNotTakenOver()
+{
+    const LogLines log;
+    const auto announce = [this] {
+        feed({seen("Mine", "127.0.0.1", 80, http), seen("Mine too", "::1", 80, http),
+              seen("Reserved", "240.0.0.1", 80, http), seen("Far", "8.8.8.8", 80, http),
+              seen("Here", "10.0.0.7", 80, http)});
+    };
+    announce();
+    QCOMPARE(ids().size(), 1);
+    QCOMPARE(node(0)->name(), QString("Here"));
+    QCOMPARE(log.lines, QStringList("The network scan leaves out announced addresses of other networks, "
+                                    "such as 127.0.0.1"));
+    announce();
+    QCOMPARE(int(log.lines.size()), 1);
+    db().deviceIntake().beginScan();
+    announce();
+    QCOMPARE(int(log.lines.size()), 2);
+    // What a user enters is his own matter.
+    m_host->add(IPDeviceType, "Mine", "127.0.0.1");
+    QCOMPARE(ids().size(), 2);
 }
 
 void DeviceIntakeTest::scannersAreCalledByName()

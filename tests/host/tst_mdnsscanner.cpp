@@ -5,9 +5,14 @@
 #include "support/ProcessResources.h"
 #include "support/TestMain.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTest>
+
+#include <csignal>
+#include <cstdio>
+#include <memory>
 
 #include <net/if.h>
 
@@ -35,6 +40,26 @@ void end(QProcess& process)
     process.waitForFinished();
 }
 
+/// A process that takes part in nothing for a while, but is still there.
+class StoppedProcess
+{
+public:
+    explicit StoppedProcess(const QProcess& process)
+        : m_id(pid_t(process.processId()))
+    {
+        ::kill(m_id, SIGSTOP);
+    }
+    Q_DISABLE_COPY(StoppedProcess)
+    ~StoppedProcess() { goOn(); }
+    void goOn() const { ::kill(m_id, SIGCONT); }
+
+private:
+    const pid_t m_id;
+};
+
+const char scanArgument[] = "--scan-and-end";
+const int Instant = 100; // ms
+
 } // namespace
 
 class MdnsScannerTest : public QObject
@@ -50,6 +75,8 @@ private slots:
     void daemonComesAndGoes();
     void limitAndInterfaces();
     void onAndOffLeavesNothing();
+    void daemonThatHangsHoldsNobodyUp();
+    void programEndsWhileTheDaemonHangs();
 
 private:
     bool startBus();
@@ -200,6 +227,7 @@ void MdnsScannerTest::daemonComesAndGoes()
         found.clear();
     }
     QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Unavailable), 10000);
+    QCOMPARE(scanner.state().reason, QStringLiteral("the Avahi daemon is not running"));
     end(m_bus); // the bus itself goes
     QTest::qWait(2500);
     QCOMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
@@ -237,13 +265,86 @@ void MdnsScannerTest::onAndOffLeavesNothing()
     scanner.start(0xFFFFFFFF, -1);
     QTest::qWait(500);
     scanner.stop();
+    QTest::qWait(500); // its thread ends by itself
     const ProcessResources before;
     for (int i = 0; i < 100; ++i) {
         scanner.start(0xFFFFFFFF, -1);
         QTest::qWait(i % 10 * 3);
         scanner.stop();
     }
-    QVERIFY(ProcessResources() == before);
+    QTRY_VERIFY(ProcessResources() == before);
+}
+
+void MdnsScannerTest::daemonThatHangsHoldsNobodyUp()
+{
+    KO_NEED_NETWORKS();
+    const LogLines log;
+    QVERIFY(startBus() && startDaemon());
+    QProcess publisher;
+    QVERIFY(publish(publisher, QStringLiteral("Gate"), 8554));
+    const ProcessResources before;
+    const StoppedProcess stopped(m_daemon);
+    qint64 longest = 0;
+    auto scanner = std::make_unique<MdnsScanner>();
+    for (int i = 0; i < 20; ++i) {
+        scanner->start(0xFFFFFFFF, -1);
+        QTest::qWait(i == 0 ? 500 : 20);
+        QElapsedTimer clock;
+        clock.start();
+        scanner->stop();
+        if (i % 5 == 4)
+            scanner = std::make_unique<MdnsScanner>();
+        longest = qMax(longest, clock.elapsed());
+    }
+    QVERIFY2(longest < Instant, qPrintable(QString::number(longest)));
+    // The first waits for its answer; the others did not even ask.
+    QTRY_COMPARE(ProcessResources().threads, before.threads + 1);
+
+    QVector<DiscoveredDevice> found;
+    connect(scanner.get(), &Scanner::found, this,
+            [&found](const QVector<DiscoveredDevice>& some) { found += some; });
+    scanner->start(0xFFFFFFFF, -1);
+    QTRY_COMPARE(int(scanner->state().phase), int(ScannerState::Unavailable));
+    QCOMPARE(scanner->state().reason, QStringLiteral("the Avahi daemon does not answer"));
+    stopped.goOn();
+    QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 15000);
+    QTRY_COMPARE(int(scanner->state().phase), int(ScannerState::Running));
+    scanner.reset();
+    QTRY_COMPARE(ProcessResources().threads, before.threads);
+    QTRY_VERIFY(ProcessResources().descriptors <= before.descriptors); // that of the publisher may close
+    QCOMPARE(log.lines, QStringList());
+    end(publisher);
+}
+
+void MdnsScannerTest::programEndsWhileTheDaemonHangs()
+{
+    KO_NEED_NETWORKS();
+    QVERIFY(startBus() && startDaemon());
+    QProcess publisher;
+    QVERIFY(publish(publisher, QStringLiteral("Gate"), 8554)); // now the daemon is on the bus
+    const StoppedProcess stopped(m_daemon);
+    QProcess program;
+    QVERIFY(launch(program, QCoreApplication::applicationFilePath(), {QLatin1String(scanArgument)}));
+    QVERIFY(program.waitForReadyRead()); // it is about to end
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(program.waitForFinished());
+    QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+    stopped.goOn();
+    end(publisher);
+}
+
+/// Scans for a moment, in a process of its own.
+static int scanAndEnd()
+{
+    MdnsScanner scanner;
+    scanner.start(0xFFFFFFFF, -1);
+    QTest::qWait(500);
+    std::puts("enough");
+    std::fflush(stdout);
+    return 0;
 }
 
 int main(int argc, char** argv)
@@ -251,6 +352,8 @@ int main(int argc, char** argv)
     NetworkNamespaces::enter(argv);
     QApplication app(argc, argv);
     testsupport::prepareApplication();
+    if (argc > 1 && QByteArray(argv[1]) == scanArgument)
+        return scanAndEnd();
     MdnsScannerTest test;
     return QTest::qExec(&test, argc, argv);
 }

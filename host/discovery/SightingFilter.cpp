@@ -1,0 +1,44 @@
+#include "discovery/SightingFilter.h"
+
+#include "discovery/DeviceIntake.h"
+#include "discovery/NetworkText.h"
+#include "ko/LogQt.h"
+#include "ko/MACAddress.h"
+
+#include <utility>
+
+namespace ko {
+
+namespace {
+
+/// An address that every device may claim says nothing about any.
+QString usableMac(const QString& text)
+{
+    const QString mac = text.size() > 32 ? QString() : MACAddress(text).toString(true);
+    const bool group = !mac.isEmpty() && QString(mac.at(1)).toInt(nullptr, 16) % 2 == 1;
+    return group || mac == QLatin1String("00:00:00:00:00:00") ? QString() : mac;
+}
+
+} // namespace
+
+bool SightingFilter::pass(DiscoveredDevice& seen)
+{
+    seen.address = NetworkText::address(seen.address.left(100));
+    if (seen.address.isEmpty() || seen.port < 0 || seen.port > 65535)
+        return false;
+    if (!m_nearby.contains(QHostAddress(seen.address))) {
+        if (!std::exchange(m_saidFar, true))
+            LogQt::line(LogQt::Info, QString::fromLatin1("The network scan leaves out announced addresses "
+                                                         "of other networks, such as %1")
+                                         .arg(seen.address));
+        return false;
+    }
+    seen.name = NetworkText::cleaned(seen.name, DeviceIntake::NameLength);
+    seen.model = NetworkText::cleaned(seen.model, DeviceIntake::TextLength);
+    seen.version = NetworkText::cleaned(seen.version, DeviceIntake::TextLength);
+    seen.service = NetworkText::cleaned(seen.service, DeviceIntake::TextLength);
+    seen.macAddress = usableMac(seen.macAddress);
+    return true;
+}
+
+} // namespace ko
