@@ -4,6 +4,7 @@
 #include "support/TestMain.h"
 
 #include "audit/ProgramLog.h"
+#include "discovery/DeviceIntake.h"
 #include "store/BackupKeeper.h"
 #include "store/StoreBackup.h"
 
@@ -78,14 +79,39 @@ int runClient(const QString& file)
     return QCoreApplication::exec();
 }
 
-QString baseAddress(int i)
-{
-    return QString::fromLatin1("10.0.0.%1").arg(i);
-}
-
 QString lineAddress(int list, int i)
 {
     return QString::fromLatin1("10.7.%1.%2").arg(list).arg(i);
+}
+
+/// A client that scans a network with the devices of the first list; run in a process of its own.
+int runScan(const QString& file)
+{
+    StoreError error;
+    const std::unique_ptr<HostNodeDB> db = HostNodeDB::open(file, &error);
+    if (!db)
+        return 3;
+    QVector<DiscoveredDevice> devices;
+    for (int i = 0; i < Lines; ++i) {
+        DiscoveredDevice device;
+        device.address = device.name = device.model = lineAddress(0, i);
+        device.port = 80;
+        device.service = QLatin1String("_http._tcp");
+        devices.append(device);
+    }
+    db->deviceIntake().take(devices);
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&db] {
+        if (db->deviceIntake().isIdle())
+            QCoreApplication::exit(db->flush() ? 0 : 2);
+    });
+    timer.start(10);
+    return QCoreApplication::exec();
+}
+
+QString baseAddress(int i)
+{
+    return QString::fromLatin1("10.0.0.%1").arg(i);
 }
 
 void makeList(const QString& name, int list)
@@ -192,6 +218,7 @@ void TestCommandPairs::round(Random& random)
     makeList(path("1.csv"), 1);
     const QVector<QStringList> commands = {
         {"client", file},
+        {"scan", file},
         {"--db", file, "--import", path("0.csv")},
         {"--db", file, "--import", path("0.csv")},
         {"--db", file, "--import", path("1.csv")},
@@ -230,7 +257,8 @@ void TestCommandPairs::round(Random& random)
                  (what + QByteArray::number(code)).constData());
         restored |= pair[i].contains(QLatin1String("--restore")) && code <= 0;
         replaced |= onOther && code <= 0;
-        const bool imports = pair[i].contains(QLatin1String("--import"));
+        const bool imports =
+            pair[i].contains(QLatin1String("--import")) || pair[i].contains(QLatin1String("scan"));
         for (int line = 0; imports && code == 0 && line < Lines && pair[i].contains(file); ++line)
             m_confirmed.append(lineAddress(pair[i].last() == path("1.csv"), line));
         const QList<QByteArray> said = programs[i]->output.split('\n');
@@ -327,6 +355,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     if (argc == 3 && QByteArray(argv[1]) == "client")
         return runClient(QFile::decodeName(argv[2]));
+    if (argc == 3 && QByteArray(argv[1]) == "scan")
+        return runScan(QFile::decodeName(argv[2]));
     prepareApplication();
     TestCommandPairs test;
     return QTest::qExec(&test, argc, argv);
