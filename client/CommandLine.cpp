@@ -2,6 +2,7 @@
 
 #include "DatabaseRecovery.h"
 #include "MainWindow.h"
+#include "PlainMessageBox.h"
 #include "Tour.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
@@ -59,15 +60,13 @@ void warnAboutNetwork(const QString& file, QWidget* parent)
     if (known.contains(file))
         return;
     settings.setValue(key, known << file);
-    QMessageBox box(QMessageBox::Warning, QCoreApplication::translate("CommandLine", "Node Database"),
-                    QCoreApplication::translate(
-                        "CommandLine", "The node database \"%1\" lies on a network drive. Two programs that "
-                                       "use it there at the same time may damage it. Move it to a disk of "
-                                       "this computer.")
-                        .arg(QDir::toNativeSeparators(file)),
-                    QMessageBox::Ok, parent);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    PlainMessageBox::ask(
+        QMessageBox::Warning, parent, QCoreApplication::translate("CommandLine", "Node Database"),
+        QCoreApplication::translate("CommandLine",
+                                    "The node database \"%1\" lies on a network drive. Two programs that "
+                                    "use it there at the same time may damage it. Move it to a disk of "
+                                    "this computer.")
+            .arg(QDir::toNativeSeparators(file)));
 }
 
 } // namespace
