@@ -28,14 +28,9 @@ public:
     /// either.
     void copyTo(SqliteFile& target);
 
-    /// Inserts all rows that can be read into the tables of the same names of \a target, in both ways of
-    /// going through a table, and answers how many there were. Rows that do not fit are left out.
-    qint64 copyRows(SqliteFile& target);
-
 private:
     Q_DISABLE_COPY(SqliteFile)
     void check(int result) const;
-    qint64 copyTable(SqliteFile& target, const QString& table, bool backwards);
 
     const QString m_file;
     sqlite3* m_handle = nullptr;

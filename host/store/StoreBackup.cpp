@@ -122,7 +122,8 @@ QString newName(const QString& database)
 /// Whether the file holds nothing that a backup could keep.
 bool isUnusable(const StoreError& error)
 {
-    return error.kind == StoreError::Damaged || error.kind == StoreError::NotADatabase;
+    return error.kind == StoreError::Damaged || error.kind == StoreError::NotADatabase ||
+           error.kind == StoreError::OtherProgram; // which a damaged header can look like
 }
 
 } // namespace
@@ -218,33 +219,6 @@ QString newestGood(const QString& database)
             return backup.file;
     }
     return QString();
-}
-
-QString salvage(const QString& database, StoreError* error)
-{
-    const QString target = database + QLatin1String(".salvaged-") + timeName(QDateTime::currentDateTimeUtc());
-    qint64 rows = 0;
-    const bool done = succeeds(
-        [&] {
-            Draft draft(target);
-            StoreError failed;
-            SqliteStore::open(draft.name(), &failed).reset();
-            if (failed)
-                throw StoreFailure{failed};
-            {
-                SqliteFile source(database, SqliteFile::ReadOnly);
-                SqliteFile saved(draft.name(), SqliteFile::ReadWrite);
-                rows = source.copyRows(saved);
-                // The rows may be of a version that sealed no passwords.
-                saved.execute("INSERT OR REPLACE INTO settings VALUES ('secrets.toSeal', '1')");
-            }
-            if (rows == 0)
-                throw StoreFailure{
-                    StoreError::make(StoreError::Damaged, database, QLatin1String("nothing could be read"))};
-            draft.moveTo(target);
-        },
-        error);
-    return done ? target : QString();
 }
 
 } // namespace StoreBackup

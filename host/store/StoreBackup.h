@@ -27,10 +27,6 @@ KO_HOST_EXPORT bool restore(const QString& backup, const QString& database, Stor
 /// Whether the whole of the file is sound; slower than what is looked at when a database is opened.
 KO_HOST_EXPORT bool verify(const QString& file, StoreError* error);
 
-/// Saves what can still be read of a damaged database into a new one beside it, row by row, and answers
-/// its name; empty and \a error if nothing could be read. \a database itself stays as it is.
-KO_HOST_EXPORT QString salvage(const QString& database, StoreError* error);
-
 /// Where the backups of a database lie: the folder "NAME.backups" beside it.
 KO_HOST_EXPORT QString folderOf(const QString& database);
 
