@@ -16,7 +16,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -177,31 +176,27 @@ int CommandLine::runTask()
     return imported == Failed || m_export.isEmpty() ? imported : qMax(imported, exportCameras());
 }
 
-/// Null after the user was told why.
-std::unique_ptr<HostNodeDB> CommandLine::open(bool checkBehind) const
+/// Null after the user was told why. The user of a window may choose another file.
+std::unique_ptr<HostNodeDB> CommandLine::open(bool checkBehind)
 {
     const bool interactive = needsWindow() && m_tour.isEmpty();
     const HostNodeDB::Check check = checkBehind ? HostNodeDB::Check::Behind : HostNodeDB::Check::First;
-    StoreError error;
-    std::unique_ptr<HostNodeDB> db = HostNodeDB::open(databaseFile(), &error, check);
-    if (error.kind == StoreError::Damaged && interactive) {
+    for (;;) {
+        StoreError error;
+        QString file = databaseFile();
+        std::unique_ptr<HostNodeDB> db = HostNodeDB::open(file, &error, check);
+        if (db)
+            return db;
         say(stderr, error.message);
-        if (!DatabaseRecovery::offer(databaseFile(), error, nullptr))
+        if (!interactive || !DatabaseRecovery::offer(&file, error, nullptr))
             return nullptr;
-        db = HostNodeDB::open(databaseFile(), &error);
+        m_database = file;
     }
-    if (db)
-        return db;
-    say(stderr, error.message);
-    if (interactive)
-        QMessageBox::critical(nullptr, QCoreApplication::translate("CommandLine", "Node Database"),
-                              error.message);
-    return nullptr;
 }
 
 /// A large database is looked through while the window is there already. When that finds damage, the window
 /// goes, and the database is opened again as one that is known to be damaged.
-int CommandLine::runWindow() const
+int CommandLine::runWindow()
 {
     for (const bool checkBehind : {m_tour.isEmpty(), false}) {
         const std::unique_ptr<HostNodeDB> db = open(checkBehind);

@@ -77,6 +77,13 @@ QString openFile(QWidget* parent, const QString& title, const QString& filter)
     return dialog.choose();
 }
 
+QString fileOrNewName(QWidget* parent, const QString& title, const QString& filter)
+{
+    Dialog dialog(parent, title, filter, QString());
+    dialog.setFileMode(QFileDialog::AnyFile);
+    return dialog.choose();
+}
+
 QString saveFile(QWidget* parent, const QString& title, const QString& name, const QString& filter)
 {
     Dialog dialog(parent, title, filter, QString());

@@ -21,6 +21,10 @@ namespace FileDialogs {
 /// A file that exists. \a filter as QFileDialog takes it.
 KO_NODEUI_EXPORT QString openFile(QWidget* parent, const QString& title, const QString& filter = QString());
 
+/// A file that exists, or the name of one to be made.
+KO_NODEUI_EXPORT QString fileOrNewName(QWidget* parent, const QString& title,
+                                       const QString& filter = QString());
+
 /// A file to be written; asks before one that exists is chosen. \a name is proposed.
 KO_NODEUI_EXPORT QString saveFile(QWidget* parent, const QString& title, const QString& name,
                                   const QString& filter = QString());
