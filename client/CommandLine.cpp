@@ -3,6 +3,7 @@
 #include "DatabaseRecovery.h"
 #include "KeychainNotice.h"
 #include "MainWindow.h"
+#include "PlainMessageBox.h"
 #include "Tour.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
@@ -19,7 +20,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -65,15 +65,13 @@ void warnAboutNetwork(const QString& file, QWidget* parent)
     if (known.contains(file))
         return;
     settings.setValue(key, known << file);
-    QMessageBox box(QMessageBox::Warning, QCoreApplication::translate("CommandLine", "Node Database"),
-                    QCoreApplication::translate(
-                        "CommandLine", "The node database \"%1\" lies on a network drive. Two programs that "
-                                       "use it there at the same time may damage it. Move it to a disk of "
-                                       "this computer.")
-                        .arg(QDir::toNativeSeparators(file)),
-                    QMessageBox::Ok, parent);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    PlainMessageBox::ask(
+        QMessageBox::Warning, parent, QCoreApplication::translate("CommandLine", "Node Database"),
+        QCoreApplication::translate("CommandLine",
+                                    "The node database \"%1\" lies on a network drive. Two programs that "
+                                    "use it there at the same time may damage it. Move it to a disk of "
+                                    "this computer.")
+            .arg(QDir::toNativeSeparators(file)));
 }
 
 } // namespace
@@ -208,31 +206,27 @@ int CommandLine::runTask()
     return imported == Failed || m_export.isEmpty() ? imported : qMax(imported, exportCameras());
 }
 
-/// Null after the user was told why.
-std::unique_ptr<HostNodeDB> CommandLine::open(bool checkBehind) const
+/// Null after the user was told why. The user of a window may choose another file.
+std::unique_ptr<HostNodeDB> CommandLine::open(bool checkBehind)
 {
     const bool interactive = needsWindow() && m_tour.isEmpty();
     const HostNodeDB::Check check = checkBehind ? HostNodeDB::Check::Behind : HostNodeDB::Check::First;
-    StoreError error;
-    std::unique_ptr<HostNodeDB> db = HostNodeDB::open(databaseFile(), &error, check);
-    if (error.kind == StoreError::Damaged && interactive) {
+    for (;;) {
+        StoreError error;
+        QString file = databaseFile();
+        std::unique_ptr<HostNodeDB> db = HostNodeDB::open(file, &error, check);
+        if (db)
+            return db;
         say(stderr, error.message);
-        if (!DatabaseRecovery::offer(databaseFile(), error, nullptr))
+        if (!interactive || !DatabaseRecovery::offer(&file, error, nullptr))
             return nullptr;
-        db = HostNodeDB::open(databaseFile(), &error);
+        m_database = file;
     }
-    if (db)
-        return db;
-    say(stderr, error.message);
-    if (interactive)
-        QMessageBox::critical(nullptr, QCoreApplication::translate("CommandLine", "Node Database"),
-                              error.message);
-    return nullptr;
 }
 
 /// A large database is looked through while the window is there already. When that finds damage, the window
 /// goes, and the database is opened again as one that is known to be damaged.
-int CommandLine::runWindow() const
+int CommandLine::runWindow()
 {
     for (const bool checkBehind : {m_tour.isEmpty(), false}) {
         const std::unique_ptr<HostNodeDB> db = open(checkBehind);

@@ -27,8 +27,8 @@ private:
     bool needsWindow() const;
     QString databaseFile() const;
     int runTask();
-    int runWindow() const;
-    std::unique_ptr<HostNodeDB> open(bool checkBehind) const;
+    int runWindow();
+    std::unique_ptr<HostNodeDB> open(bool checkBehind);
     bool showWindow(HostNodeDB& db, int* exitCode) const;
     bool runTour(HostNodeDB& db, MainWindow& window) const;
     int importCameras() const;

@@ -1,18 +1,39 @@
 #include "DatabaseRecovery.h"
 
+#include "PlainMessageBox.h"
+#include "store/Salvage.h"
 #include "store/StoreBackup.h"
+#include "utils/FileDialogs.h"
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
+#include <QHash>
 #include <QLocale>
-#include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
+#include <QThread>
+#include <QVector>
+
+#include <functional>
+#include <memory>
 
 namespace ko {
 
 namespace DatabaseRecovery {
 
 namespace {
+
+enum Choice { Quit, OpenAnother, Retry, StartAnew, UseSaved, UseBackup };
+
+/// What there is to put in the place of a damaged file.
+struct Found
+{
+    std::unique_ptr<Salvage> salvage;
+    QString backup;
+
+    QString saved() const { return salvage ? salvage->file() : QString(); }
+};
 
 QString translated(const char* text)
 {
@@ -29,52 +50,181 @@ QString timeOf(const QString& file, const QString& backup)
     return QString();
 }
 
-QString offerText(const QString& file, const QString& saved, const QString& backup)
+QString offerText(const QString& file, const Found& found)
 {
     QStringList lines;
-    lines.append(saved.isEmpty() ? translated("Nothing of it could be read.")
-                                 : translated("What could be read of it was saved as \"%1\".")
-                                       .arg(QDir::toNativeSeparators(saved)));
-    lines.append(backup.isEmpty()
+    lines.append(found.saved().isEmpty()
+                     ? translated("Nothing of it can be read.")
+                     : QCoreApplication::translate("DatabaseRecovery", "%n node(s) of it can still be read.",
+                                                   nullptr, int(found.salvage->nodeCount())));
+    lines.append(found.backup.isEmpty()
                      ? translated("There is no good backup.")
-                     : translated("The newest good backup was made at %1.").arg(timeOf(file, backup)));
-    if (!saved.isEmpty() || !backup.isEmpty())
-        lines.append(translated("Whatever you choose, the damaged file is kept under another name."));
+                     : translated("The newest good backup was made at %1.").arg(timeOf(file, found.backup)));
+    if (!found.saved().isEmpty() || !found.backup.isEmpty())
+        lines.append(translated("If you choose one of these, the damaged file is kept under another name. "
+                                "Otherwise nothing is changed."));
     return lines.join(QLatin1Char('\n'));
+}
+
+/// A file of another kind that has backups was a database until something was written over it.
+bool isDamaged(const QString& file, const StoreError& error)
+{
+    const bool isForeign = error.kind == StoreError::NotADatabase || error.kind == StoreError::OtherProgram;
+    const bool isOurs = error.kind == StoreError::Damaged || error.kind == StoreError::OtherTables ||
+                        error.kind == StoreError::Emptied;
+    return isOurs || (isForeign && !StoreBackup::backups(file).isEmpty());
+}
+
+/// Does \a work in a thread while a box says so: for a large database it takes as long as copying it.
+void doWhileShowing(const QString& text, QWidget* parent, const std::function<void()>& work)
+{
+    QProgressDialog box(text, QString(), 0, 0, parent);
+    box.setWindowTitle(translated("Node Database"));
+    box.setMinimumDuration(0);
+    QEventLoop loop;
+    const std::unique_ptr<QThread> thread(QThread::create(work));
+    QObject::connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    box.show();
+    thread->start();
+    loop.exec();
+    thread->wait();
+}
+
+Found lookFor(const QString& file, QWidget* parent)
+{
+    Found found;
+    doWhileShowing(
+        translated("The node database is damaged. Looking for what can be read and for backups..."), parent,
+        [&] {
+            found.salvage = std::make_unique<Salvage>(file);
+            found.backup = StoreBackup::newestGood(file);
+        });
+    return found;
+}
+
+Choice ask(PlainMessageBox& box, const QVector<Choice>& choices)
+{
+    const struct
+    {
+        Choice choice;
+        const char* text;
+        QMessageBox::ButtonRole role;
+    } buttons[] = {
+        {Quit, QT_TRANSLATE_NOOP("DatabaseRecovery", "Quit"), QMessageBox::RejectRole},
+        {OpenAnother, QT_TRANSLATE_NOOP("DatabaseRecovery", "Open Another..."), QMessageBox::ActionRole},
+        {Retry, QT_TRANSLATE_NOOP("DatabaseRecovery", "Retry"), QMessageBox::AcceptRole},
+        {StartAnew, QT_TRANSLATE_NOOP("DatabaseRecovery", "Start an Empty One"),
+         QMessageBox::DestructiveRole},
+        {UseSaved, QT_TRANSLATE_NOOP("DatabaseRecovery", "Use What Can Be Read"), QMessageBox::AcceptRole},
+        {UseBackup, QT_TRANSLATE_NOOP("DatabaseRecovery", "Restore the Backup"), QMessageBox::AcceptRole},
+    };
+    QHash<const QAbstractButton*, Choice> chosen;
+    for (const auto& each : buttons) {
+        if (!choices.contains(each.choice))
+            continue;
+        QPushButton* button = box.addButton(translated(each.text), each.role);
+        chosen.insert(button, each.choice);
+        if (each.choice == Quit)
+            box.setEscapeButton(button);
+        if (each.choice != StartAnew)
+            box.setDefaultButton(button); // what comes last is best
+    }
+    box.exec();
+    return chosen.value(box.clickedButton(), Quit);
+}
+
+QString damageText(StoreError::Kind kind)
+{
+    switch (kind) {
+    case StoreError::Damaged:
+        return translated("The node database \"%1\" is damaged.");
+    case StoreError::OtherTables:
+        return translated("The tables of the node database \"%1\" were changed by another program.");
+    case StoreError::Emptied:
+        return translated("The node database \"%1\" is empty or gone, although it held something.");
+    default:
+        return translated("The node database \"%1\" is damaged, or another file is in its place.");
+    }
+}
+
+Choice askAboutDamage(const QString& file, const StoreError& error, const Found& found, QWidget* parent)
+{
+    PlainMessageBox box(QMessageBox::Critical, translated("Node Database"),
+                        damageText(error.kind).arg(QDir::toNativeSeparators(file)), QMessageBox::NoButton,
+                        parent);
+    box.setObjectName(QStringLiteral("recoveryBox"));
+    box.setInformativeText(offerText(file, found));
+    box.setDetailedText(error.detail);
+    QVector<Choice> choices = {OpenAnother, Quit};
+    if (error.kind == StoreError::Emptied)
+        choices.append(StartAnew);
+    if (!found.saved().isEmpty())
+        choices.append(UseSaved);
+    if (!found.backup.isEmpty())
+        choices.append(UseBackup);
+    return ask(box, choices);
+}
+
+Choice askAboutOthers(const StoreError& error, QWidget* parent)
+{
+    PlainMessageBox box(QMessageBox::Critical, translated("Node Database"), error.message,
+                        QMessageBox::NoButton, parent);
+    box.setObjectName(QStringLiteral("notOpenedBox"));
+    box.setDetailedText(error.detail);
+    return ask(box, {Quit, Retry, OpenAnother});
+}
+
+/// False if no file was chosen.
+bool chooseAnother(QString* file, QWidget* parent)
+{
+    const QString chosen = FileDialogs::fileOrNewName(parent, translated("Open Node Database"),
+                                                      translated("Node databases (*.kodb);;All files (*)"));
+    if (!chosen.isEmpty())
+        *file = chosen;
+    return !chosen.isEmpty();
+}
+
+void startAnew(const QString& file, QWidget* parent)
+{
+    StoreError error;
+    if (!StoreBackup::startAnew(file, &error))
+        PlainMessageBox::ask(QMessageBox::Critical, parent, translated("Node Database"), error.message);
+}
+
+void putInPlace(const QString& source, const QString& file, QWidget* parent)
+{
+    StoreError error;
+    if (!StoreBackup::restore(source, file, &error))
+        PlainMessageBox::ask(QMessageBox::Critical, parent, translated("Node Database"), error.message);
 }
 
 } // namespace
 
-bool offer(const QString& file, const StoreError& damage, QWidget* parent)
+bool offer(QString* file, const StoreError& error, QWidget* parent)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    StoreError error;
-    const QString saved = StoreBackup::salvage(file, &error);
-    const QString backup = StoreBackup::newestGood(file);
-    QApplication::restoreOverrideCursor();
-
-    QMessageBox box(QMessageBox::Critical, translated("Node Database"),
-                    translated("The node database \"%1\" is damaged.").arg(QDir::toNativeSeparators(file)),
-                    QMessageBox::NoButton, parent);
-    box.setObjectName(QStringLiteral("recoveryBox"));
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(offerText(file, saved, backup));
-    box.setDetailedText(damage.detail);
-    QPushButton* quit = box.addButton(translated("Quit"), QMessageBox::RejectRole);
-    QPushButton* useSaved =
-        saved.isEmpty() ? nullptr : box.addButton(translated("Use What Was Saved"), QMessageBox::AcceptRole);
-    QPushButton* useBackup =
-        backup.isEmpty() ? nullptr : box.addButton(translated("Restore the Backup"), QMessageBox::AcceptRole);
-    box.setDefaultButton(useBackup ? useBackup : useSaved ? useSaved : quit);
-    box.setEscapeButton(quit);
-    box.exec();
-    const QAbstractButton* chosen = box.clickedButton();
-    if (!chosen || chosen == quit)
-        return false;
-    if (StoreBackup::restore(chosen == useBackup ? backup : saved, file, &error))
-        return true;
-    QMessageBox::critical(parent, translated("Node Database"), error.message);
-    return false;
+    const bool damaged = isDamaged(*file, error);
+    const Found found = damaged ? lookFor(*file, parent) : Found();
+    for (;;) {
+        switch (damaged ? askAboutDamage(*file, error, found, parent) : askAboutOthers(error, parent)) {
+        case Quit:
+            return false;
+        case Retry:
+            return true;
+        case OpenAnother:
+            if (chooseAnother(file, parent))
+                return true;
+            break; // and is asked again
+        case StartAnew:
+            startAnew(*file, parent);
+            return true;
+        case UseSaved:
+            putInPlace(found.saved(), *file, parent);
+            return true;
+        case UseBackup:
+            putInPlace(found.backup, *file, parent);
+            return true;
+        }
+    }
 }
 
 } // namespace DatabaseRecovery

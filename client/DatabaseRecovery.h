@@ -9,13 +9,14 @@ namespace ko {
 
 struct StoreError;
 
-/// What a user can do about a damaged database.
+/// What a user can do about a database that cannot be opened.
 namespace DatabaseRecovery {
 
-/// Saves what can be read of the damaged \a file beside it and offers that and the newest good backup.
-/// True if one of them was put in the place of \a file, which is kept under another name then; false if
-/// the user wants neither, or it failed, which has been told.
-bool offer(const QString& file, const StoreError& damage, QWidget* parent);
+/// Says why \a file cannot be opened and does what the user chooses: of a damaged one puts the newest good
+/// backup or what can still be read in its place and keeps it under another name; of others tries again or
+/// takes another file, whose name \a file is then.
+/// False if the user quits, and nothing has changed; otherwise \a file is to be opened again.
+bool offer(QString* file, const StoreError& error, QWidget* parent);
 
 } // namespace DatabaseRecovery
 

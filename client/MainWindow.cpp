@@ -8,10 +8,11 @@
 #include "NodeListModel.h"
 #include "NodeListView.h"
 #include "NodeLogEntries.h"
+#include "PlainMessageBox.h"
 #include "PreferencesDialog.h"
 #include "RemoveNodesBox.h"
 #include "ScannerStatus.h"
-#include "SurveyProgress.h"
+#include "SurveyCommands.h"
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "dialogs/AddNodeDialog.h"
@@ -27,17 +28,17 @@
 #include "inspector/NodeChangeLogEntry.h"
 #include "ko/Node.h"
 #include "ko/dialogFlags.h"
+#include "utils/WindowTitle.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QSortFilterProxyModel>
@@ -55,8 +56,6 @@ namespace {
 const unsigned environmentRow = 0x80;
 const unsigned layoutLists = 0x20;
 const unsigned listOptions = 17; ///< as the other lists of nodes pass them
-
-const char csvFilter[] = QT_TRANSLATE_NOOP("ko::MainWindow", "Lists of cameras (*.csv);;All files (*)");
 
 /// What the list shows as the recording of \a node. No member, because the view still asks while it goes
 /// down with its window.
@@ -101,9 +100,10 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_search(new QLineEdit(this))
     , m_types(new QComboBox(this))
     , m_counts(new QLabel(this))
+    , m_surveys(new SurveyCommands(this))
 {
     setObjectName(QStringLiteral("MainWindow"));
-    setWindowTitle(tr("%1 - Nodes").arg(QFileInfo(db.fileName()).fileName()));
+    setWindowTitle(tr("%1 - Nodes").arg(inWindowTitle(QFileInfo(db.fileName()).fileName())));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
     registerNodeLogEntries();
     createList();
@@ -118,7 +118,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     connect(&m_db, &HostNodeDB::storeFailed, this, &MainWindow::storeFailed);
     connect(&m_db, &HostNodeDB::storeRecovered, this, &MainWindow::storeRecovered);
     connect(&m_db, &HostNodeDB::storeDamaged, this, [this](const StoreError& error) {
-        QMessageBox::critical(this, tr("Node Database"), error.message);
+        PlainMessageBox::ask(QMessageBox::Critical, this, tr("Node Database"), error.message);
     });
 
     connect(&m_db.deviceIntake(), &DeviceIntake::addressChangesChanged, this, [this] {
@@ -540,42 +540,15 @@ void MainWindow::showDatabase()
 
 void MainWindow::importCameras()
 {
-    const QString file = QFileDialog::getOpenFileName(this, tr("Import Cameras"), QString(), tr(csvFilter));
-    if (file.isEmpty())
-        return;
-    SurveyProgress progress(tr("Importing cameras..."), this);
     m_isImporting = true;
-    const CameraSurvey::ImportResult result = CameraSurvey::importCameras(file, progress.callback());
-    progress.finish();
-    ImportReportDialog report(result, this);
-    report.exec();
+    m_surveys->importCameras();
     m_isImporting = false;
     m_db.flush(); // what still waits is a case for the other box
 }
 
 void MainWindow::exportCameras()
 {
-    const QString file = QFileDialog::getSaveFileName(this, tr("Export Cameras"),
-                                                      QStringLiteral("cameras.csv"), tr(csvFilter));
-    if (file.isEmpty())
-        return;
-    const auto withPasswords = QMessageBox::question(
-        this, tr("Export Cameras"),
-        tr("Write the passwords too? Whoever can read the file can then use every camera in it."),
-        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::No);
-    if (withPasswords == QMessageBox::Cancel)
-        return;
-    SurveyProgress progress(tr("Exporting cameras..."), this);
-    const CameraSurvey::ExportResult result =
-        CameraSurvey::exportCameras(file,
-                                    withPasswords == QMessageBox::Yes ? CameraSurvey::Passwords::Write
-                                                                      : CameraSurvey::Passwords::LeaveOut,
-                                    progress.callback());
-    progress.finish();
-    if (!result.error.isEmpty())
-        QMessageBox::critical(this, tr("Export Cameras"), result.error);
-    else if (!result.cancelled)
-        statusBar()->showMessage(tr("%n camera(s) written.", nullptr, result.written), 10000);
+    m_surveys->exportCameras();
 }
 
 void MainWindow::about()
@@ -611,11 +584,10 @@ void MainWindow::storeFailed(const ko::StoreError& error)
         m_failure->setInformativeText(unstoredText());
         return;
     }
-    m_failure = new QMessageBox(QMessageBox::Critical, tr("Changes Are Not Stored"), error.message,
-                                QMessageBox::NoButton, this);
+    m_failure = new PlainMessageBox(QMessageBox::Critical, tr("Changes Are Not Stored"), error.message,
+                                    QMessageBox::NoButton, this);
     m_failure->setObjectName(QStringLiteral("storeFailedBox"));
     m_failure->setAttribute(Qt::WA_DeleteOnClose);
-    m_failure->setTextFormat(Qt::PlainText);
     m_failure->setInformativeText(unstoredText());
     m_failure->setDetailedText(error.detail);
     QPushButton* retry = m_failure->addButton(tr("Retry"), QMessageBox::AcceptRole);
@@ -641,9 +613,13 @@ void MainWindow::storeRecovered()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (m_surveys->closeWindowAfterwards()) {
+        event->ignore();
+        return;
+    }
     if (!m_db.flush()) {
-        const auto answer = QMessageBox::warning(
-            this, tr("Changes Are Not Stored"),
+        const auto answer = PlainMessageBox::ask(
+            QMessageBox::Warning, this, tr("Changes Are Not Stored"),
             tr("There are changes that could not be stored. They are lost when the program is closed now."),
             QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel);
         if (answer != QMessageBox::Discard) {

@@ -11,13 +11,14 @@
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QMessageBox;
 
 namespace ko {
 
 class HostNodeDB;
 class NodeListModel;
 class NodeListView;
+class PlainMessageBox;
+class SurveyCommands;
 
 /// The client's window: the list of all nodes and what can be done with them.
 class MainWindow : public QMainWindow
@@ -79,11 +80,12 @@ private:
     QLineEdit* const m_search;
     QComboBox* const m_types;
     QLabel* const m_counts;
+    SurveyCommands* const m_surveys;
     QList<QAction*> m_forOne;  ///< enabled while one node is selected
     QList<QAction*> m_forSome; ///< enabled while at least one node is selected
     QSet<QString> m_changed;   ///< taken into the list together at the end of the turn
     QSet<QString> m_removed;
-    QPointer<QMessageBox> m_failure;
+    QPointer<PlainMessageBox> m_failure;
     bool m_isImporting = false; ///< whose report tells when storing fails
 };
 

@@ -138,7 +138,8 @@ NodeListModel::Slots NodeListModel::filtered(const Slots& candidates) const
 
 void NodeListModel::show(const Slots& rows)
 {
-    if (rows == m_shown)
+    // Not ==, which in Qt 6 hands the null pointers of two empty lists to memcmp().
+    if (std::equal(rows.begin(), rows.end(), m_shown.begin(), m_shown.end()))
         return;
     beginResetModel();
     m_shown = rows;

@@ -3,10 +3,10 @@
 #include "database/HostNodeDB.h"
 #include "ko/dialogFlags.h"
 #include "pages/ControlDataWidget.h"
+#include "utils/FileDialogs.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -74,8 +74,7 @@ void PreferencesDialog::accept()
 
 void PreferencesDialog::browse()
 {
-    const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("Default File Server Path"), m_path->text());
+    const QString folder = FileDialogs::existingFolder(this, tr("Default File Server Path"), m_path->text());
     if (!folder.isEmpty())
         m_path->setText(folder);
 }

@@ -1,9 +1,9 @@
 #include "RemoveNodesBox.h"
 
 #include "NameList.h"
+#include "PlainMessageBox.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 #include <QPushButton>
 
 namespace ko {
@@ -19,14 +19,13 @@ QString translated(const char* text, int n = -1)
 
 bool confirmRemoval(const QStringList& names, QWidget* parent)
 {
-    QMessageBox box(QMessageBox::Warning, translated("Remove Nodes"), QString(), QMessageBox::Cancel, parent);
-    box.setObjectName(QStringLiteral("removeNodesBox"));
-    box.setTextFormat(Qt::PlainText); // names are text, whatever they look like
     const QString question =
         names.size() == 1
             ? translated("Remove this node? It cannot be brought back.")
             : translated("Remove these %n nodes? They cannot be brought back.", int(names.size()));
-    box.setText(question + QStringLiteral("\n\n") + listOfNames(names));
+    PlainMessageBox box(QMessageBox::Warning, translated("Remove Nodes"),
+                        question + QStringLiteral("\n\n") + listOfNames(names), QMessageBox::Cancel, parent);
+    box.setObjectName(QStringLiteral("removeNodesBox"));
     QPushButton* remove = box.addButton(translated("Remove"), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.setEscapeButton(QMessageBox::Cancel);

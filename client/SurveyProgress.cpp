@@ -17,7 +17,9 @@ SurveyProgress::SurveyProgress(const QString& text, QWidget* parent)
     m_dialog.setWindowModality(Qt::WindowModal);
     m_dialog.setAutoClose(false);
     m_dialog.setAutoReset(false);
+    m_dialog.setMinimumDuration(0); // by itself it waits for seconds, and the window takes input meanwhile
     m_dialog.setValue(0);
+    m_dialog.show();
 }
 
 CameraSurvey::Progress SurveyProgress::callback()
@@ -27,12 +29,6 @@ CameraSurvey::Progress SurveyProgress::callback()
         QCoreApplication::processEvents();
         return !m_dialog.wasCanceled();
     };
-}
-
-void SurveyProgress::finish()
-{
-    m_dialog.reset();
-    m_dialog.hide();
 }
 
 } // namespace ko

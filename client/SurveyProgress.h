@@ -7,7 +7,8 @@
 
 namespace ko {
 
-/// A progress dialog that can be cancelled, and the callback that feeds it.
+/// A progress dialog that can be cancelled, and the callback that feeds it. While it lives its parent's
+/// window takes no input.
 class SurveyProgress
 {
 public:
@@ -15,7 +16,7 @@ public:
 
     /// Good while this object lives.
     CameraSurvey::Progress callback();
-    void finish();
+    void cancel() { m_dialog.cancel(); }
 
 private:
     QProgressDialog m_dialog;

@@ -25,7 +25,6 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}") # of programs; libraries lie side by side
 set(CMAKE_AUTOMOC ON)
-set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
 
 add_library(ko_flags INTERFACE)
@@ -37,7 +36,10 @@ if(KO_FUZZ)
                            -fsanitize=fuzzer-no-link,address,undefined)
     target_link_options(ko_flags INTERFACE -fsanitize=address,undefined)
 endif()
-if(KO_SANITIZE)
+if(KO_SANITIZE STREQUAL "thread")
+    target_compile_options(ko_flags INTERFACE -fsanitize=thread -O1 -fno-omit-frame-pointer)
+    target_link_options(ko_flags INTERFACE -fsanitize=thread)
+elseif(KO_SANITIZE)
     target_compile_options(ko_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                            -fno-omit-frame-pointer)
     target_compile_definitions(ko_flags INTERFACE KO_SANITIZE)
@@ -48,15 +50,22 @@ endif()
 # A room of the house: libko<name>, target KoNodeUI::<name>, its own folder as include root.
 function(ko_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE" ${ARGN})
-    add_library(${name} SHARED ${ARG_SOURCES})
+    # Not AUTOUIC: Ninja does not know what it writes, so a changed form is compiled only by the second build.
+    set(forms ${ARG_SOURCES})
+    list(FILTER forms INCLUDE REGEX "\\.ui$")
+    set(form_headers)
+    qt_wrap_ui(form_headers ${forms})
+    add_library(${name} SHARED ${ARG_SOURCES} ${form_headers})
     add_library(KoNodeUI::${name} ALIAS ${name})
     string(TOUPPER ${name} upper)
     set_target_properties(${name} PROPERTIES
         OUTPUT_NAME ko${name}
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
+        AUTOGEN_BUILD_DIR ${CMAKE_CURRENT_BINARY_DIR}/moc # NAME_autogen may hold headers of forms from older builds
         INSTALL_RPATH "$ORIGIN")
     target_compile_definitions(${name} PRIVATE KO_BUILD_${upper})
+    target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}) # of the forms
     target_include_directories(${name} PUBLIC
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/konodeui>)

@@ -5,9 +5,9 @@
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
 #include "pages/PageTools.h"
+#include "utils/FileDialogs.h"
 
 #include <QCheckBox>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -113,7 +113,7 @@ void PropertyFormPage::store(PropertyAccess& properties) const
 void PropertyFormPage::chooseFolder(const char* key)
 {
     QLineEdit* lineEdit = findChild<QLineEdit*>(QLatin1String(key));
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Select Folder"), lineEdit->text());
+    const QString folder = FileDialogs::existingFolder(this, tr("Select Folder"), lineEdit->text());
     if (!folder.isEmpty())
         lineEdit->setText(folder);
 }

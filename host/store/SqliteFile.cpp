@@ -37,14 +37,6 @@ QString textOf(sqlite3_stmt* row, int column)
                              sqlite3_column_bytes(row, column));
 }
 
-/// The order that is reversed by going backwards.
-const char* orderOf(const QString& table)
-{
-    if (table == QLatin1String("properties"))
-        return "node DESC, key DESC";
-    return table == QLatin1String("settings") ? "key DESC" : "rowid DESC";
-}
-
 } // namespace
 
 const char* const SqliteFile::Tables[7] = {"nodes",        "properties", "relations",  "settings",
@@ -172,51 +164,6 @@ void SqliteFile::replace(SqliteFile& target)
     target.execute("PRAGMA locking_mode = NORMAL");
     target.text("PRAGMA user_version");          // the lock goes
     target.text("PRAGMA journal_mode = DELETE"); // and so does the journal
-}
-
-qint64 SqliteFile::copyRows(SqliteFile& target)
-{
-    qint64 rows = 0;
-    target.execute("PRAGMA foreign_keys = OFF");
-    target.execute("BEGIN");
-    for (const char* table : Tables) {
-        // What lies behind a bad page is reached from the other end.
-        rows += copyTable(target, QLatin1String(table), false);
-        rows += copyTable(target, QLatin1String(table), true);
-    }
-    // Without their nodes these mean nothing.
-    target.execute("DELETE FROM properties WHERE node NOT IN (SELECT n FROM nodes)");
-    target.execute("DELETE FROM relations WHERE source NOT IN (SELECT n FROM nodes)"
-                   " OR destination NOT IN (SELECT n FROM nodes)");
-    target.execute("COMMIT");
-    return rows;
-}
-
-qint64 SqliteFile::copyTable(SqliteFile& target, const QString& table, bool backwards)
-{
-    QByteArray select = "SELECT * FROM " + table.toLatin1();
-    if (backwards)
-        select += QByteArray(" ORDER BY ") + orderOf(table);
-    const Statement rows = prepare(m_handle, select);
-    if (!rows)
-        return 0;
-    const int columns = sqlite3_column_count(rows.get());
-    QByteArrayList places;
-    for (int column = 0; column < columns; ++column)
-        places.append("?");
-    const Statement insert = prepare(target.m_handle, "INSERT OR IGNORE INTO " + table.toLatin1() +
-                                                          " VALUES (" + places.join(", ") + ")");
-    if (!insert)
-        return 0;
-    qint64 copied = 0;
-    while (sqlite3_step(rows.get()) == SQLITE_ROW) { // ends at the first page that cannot be read
-        for (int column = 0; column < columns; ++column)
-            sqlite3_bind_value(insert.get(), column + 1, sqlite3_column_value(rows.get(), column));
-        if (sqlite3_step(insert.get()) == SQLITE_DONE)
-            copied += sqlite3_changes(target.m_handle);
-        sqlite3_reset(insert.get());
-    }
-    return copied;
 }
 
 } // namespace ko

@@ -49,15 +49,10 @@ public:
     /// program has it open.
     void replace(SqliteFile& target);
 
-    /// Inserts all rows that can be read into the tables of the same names of \a target, in both ways of
-    /// going through a table, and returns how many there were. Rows that do not fit are left out.
-    qint64 copyRows(SqliteFile& target);
-
 private:
     Q_DISABLE_COPY(SqliteFile)
     void check(int result) const;
     int copyPages(SqliteFile& target, int* result);
-    qint64 copyTable(SqliteFile& target, const QString& table, bool backwards);
 
     const QString m_file;
     sqlite3* m_handle = nullptr;

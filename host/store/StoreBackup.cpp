@@ -94,11 +94,13 @@ QString newName(const QString& database)
     return file;
 }
 
-/// Whether the file holds nothing that a backup could keep.
-bool isUnusable(const StoreError& error)
+/// Whether the file holds nothing that a backup could keep. What is no node database at all is somebody
+/// else's, unless backups tell that something was written over one.
+bool isUnusable(const QString& database, const StoreError& error)
 {
-    return error.kind == StoreError::Damaged || error.kind == StoreError::NotADatabase ||
-           error.kind == StoreError::OtherTables;
+    if (error.kind == StoreError::NotADatabase || error.kind == StoreError::OtherProgram)
+        return !backups(database).isEmpty();
+    return error.kind == StoreError::Damaged || error.kind == StoreError::OtherTables;
 }
 
 /// Opens \a database, made if need be, and closes it again. Throws.
@@ -125,7 +127,7 @@ bool makeUsable(const QString& database)
         bringUpToDate(database);
         return hasContent;
     } catch (const StoreFailure& failure) {
-        if (!isUnusable(failure.error))
+        if (!isUnusable(database, failure.error))
             throw;
     }
     StoreFile::moveAside(database);
@@ -177,7 +179,7 @@ void restoreOrThrow(const QString& backup, const QString& database)
     try {
         replaceRows(database, draft.name(), keep);
     } catch (const StoreFailure& failure) {
-        if (!keep || !isUnusable(failure.error))
+        if (!keep || !isUnusable(database, failure.error))
             throw;
         StoreFile::moveAside(database); // what is damaged cannot be kept in another way
         bringUpToDate(database);
@@ -201,6 +203,16 @@ bool verify(const QString& file, StoreError* error)
 bool restore(const QString& backup, const QString& database, StoreError* error)
 {
     return succeeds([&] { restoreOrThrow(backup, StoreFile::resolved(database)); }, error);
+}
+
+bool startAnew(const QString& database, StoreError* error)
+{
+    return succeeds(
+        [&] {
+            StoreFile::moveAside(StoreFile::resolved(database));
+            bringUpToDate(database);
+        },
+        error);
 }
 
 QString folderOf(const QString& database)
@@ -265,32 +277,6 @@ QString newestGood(const QString& database)
             return backup.file;
     }
     return QString();
-}
-
-QString salvage(const QString& database, StoreError* error)
-{
-    const QString target = database + QLatin1String(".salvaged-") + timeName(QDateTime::currentDateTimeUtc());
-    qint64 rows = 0;
-    const bool done = succeeds(
-        [&] {
-            DraftFile draft(target);
-            bringUpToDate(draft.name());
-            {
-                SqliteFile source(database, SqliteFile::ReadOnly);
-                SqliteFile saved(draft.name(), SqliteFile::ReadWrite);
-                rows = source.copyRows(saved);
-                // The rows may be of a version that sealed no passwords.
-                saved.execute("INSERT OR REPLACE INTO settings VALUES ('secrets.toSeal', '1')");
-            }
-            if (rows == 0)
-                throw StoreFailure{
-                    StoreError::make(StoreError::Damaged, database, QLatin1String("nothing could be read"))};
-            SqliteFile(draft.name(), SqliteFile::ReadWrite).execute("PRAGMA journal_mode = DELETE");
-            if (!draft.publish())
-                fail(StoreError::CannotOpen, target, "exists");
-        },
-        error);
-    return done ? target : QString();
 }
 
 } // namespace StoreBackup

@@ -25,13 +25,13 @@ KO_HOST_EXPORT bool write(const QString& database, const QString& target, StoreE
 /// read. A backup of an older version is brought up to date on the way; it stays as it is itself.
 KO_HOST_EXPORT bool restore(const QString& backup, const QString& database, StoreError* error);
 
+/// Makes an empty database in the place of \a database, which no program may have open. What is there is kept
+/// under another name; its backups stay.
+KO_HOST_EXPORT bool startAnew(const QString& database, StoreError* error);
+
 /// Whether the whole of the file is sound and holds our tables and nothing else; slower than what is looked
 /// at when a database is opened.
 KO_HOST_EXPORT bool verify(const QString& file, StoreError* error);
-
-/// Saves what can still be read of a damaged database into a new one beside it, row by row, and returns
-/// its name; empty and \a error if nothing could be read. \a database itself stays as it is.
-KO_HOST_EXPORT QString salvage(const QString& database, StoreError* error);
 
 /// Where the backups of a database lie: the folder "NAME.backups" beside it.
 KO_HOST_EXPORT QString folderOf(const QString& database);

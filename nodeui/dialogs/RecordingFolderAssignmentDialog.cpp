@@ -10,12 +10,12 @@
 #include "ko/connect.h"
 #include "kogen/Property.h"
 #include "recording/KoFFSDevice.h"
+#include "utils/FileDialogs.h"
 #include "utils/NodeDBUtils.h"
 #include "utils/WindowTitle.h"
 
 #include "ui_RecordingFolderAssignmentDialog.h"
 
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QTextDocument>
 
@@ -395,8 +395,7 @@ void RecordingFolderAssignmentDialog::applySelection()
 
 void RecordingFolderAssignmentDialog::addRecordingFolderNode()
 {
-    const QString directory = QFileDialog::getExistingDirectory(this, tr("Select path of recording folder"),
-                                                                QString(), QFileDialog::ShowDirsOnly);
+    const QString directory = FileDialogs::existingFolder(this, tr("Select path of recording folder"));
     if (directory.isEmpty())
         return;
     const kom::smart<INodeDriverComponent> driver = NodeDB::getDB()->nodeDriver(RecordingFolderType);

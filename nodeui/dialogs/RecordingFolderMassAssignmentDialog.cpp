@@ -4,13 +4,13 @@
 #include "ko/NodeDB.h"
 #include "ko/QtCompat.h"
 #include "ko/connect.h"
+#include "utils/FileDialogs.h"
 #include "utils/NodeDBUtils.h"
 
 #include "ui_RecordingFolderMassAssignmentDialog.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -107,8 +107,8 @@ void RecordingFolderMassAssignmentDialog::checkUI()
 
 void RecordingFolderMassAssignmentDialog::browse()
 {
-    m_ui->pathLineEdit->setText(QFileDialog::getExistingDirectory(
-        this, tr("Select File Server Directory"), m_ui->pathLineEdit->text(), QFileDialog::ShowDirsOnly));
+    m_ui->pathLineEdit->setText(
+        FileDialogs::existingFolder(this, tr("Select File Server Directory"), m_ui->pathLineEdit->text()));
 }
 
 int RecordingFolderMassAssignmentDialog::storageUsage() const

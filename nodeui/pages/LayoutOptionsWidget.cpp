@@ -4,10 +4,9 @@
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "pages/PageTools.h"
+#include "utils/FileDialogs.h"
 
 #include "ui_LayoutOptionsWidget.h"
-
-#include <QFileDialog>
 
 namespace ko {
 
@@ -127,7 +126,7 @@ void LayoutOptionsWidget::setReadOnly(bool readOnly)
 
 void LayoutOptionsWidget::openFileSelector()
 {
-    const QString file = QFileDialog::getOpenFileName(this, tr("Instruction file"));
+    const QString file = FileDialogs::openFile(this, tr("Instruction file"));
     if (!file.isEmpty())
         m_ui->instructionFileLineEdit->setText(file);
 }

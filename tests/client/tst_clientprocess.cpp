@@ -24,7 +24,7 @@ using testsupport::child;
 
 namespace {
 
-const QString editorArgument = QStringLiteral("--edit-without-end");
+const QLatin1String editorArgument("--edit-without-end");
 
 QString nameOf(int number)
 {

@@ -64,10 +64,10 @@ DiscoveredDevice seen(const QString& name, const QString& address, int port = 0,
     return device;
 }
 
-const QString rtsp = QStringLiteral("_rtsp._tcp");
-const QString http = QStringLiteral("_http._tcp");
-const QString axis = QStringLiteral("_axis-video._tcp");
-const QString mac1 = QStringLiteral("00:11:22:33:44:55");
+const QLatin1String rtsp("_rtsp._tcp");
+const QLatin1String http("_http._tcp");
+const QLatin1String axis("_axis-video._tcp");
+const QLatin1String mac1("00:11:22:33:44:55");
 
 long residentKb()
 {

@@ -6,6 +6,7 @@
 #include "ko/GlobalNetworkProxy.h"
 #include "kogen/Property.h"
 #include "secrets/Secrets.h"
+#include "store/Salvage.h"
 #include "store/SqliteStore.h"
 #include "store/StoreBackup.h"
 #include "store/StoreSchema.h"
@@ -891,12 +892,11 @@ void tst_Secrets::salvagedOldDatabaseIsSealed()
 {
     const QStringList passwords = knownPasswords().mid(0, 6);
     writeOldDatabase(m_file, passwords);
-    StoreError error;
-    const QString salvaged = StoreBackup::salvage(m_file, &error);
-    QVERIFY2(!salvaged.isEmpty(), qPrintable(error.detail));
-    QCOMPARE(text(*openDatabase(salvaged), QLatin1String("n0"), "Password"), passwords.at(0));
+    const Salvage salvage(m_file);
+    QVERIFY2(!salvage.error(), qPrintable(salvage.error().detail));
+    QCOMPARE(text(*openDatabase(salvage.file()), QLatin1String("n0"), "Password"), passwords.at(0));
     QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String("apart")));
-    QVERIFY(QFile::rename(salvaged, path("apart/nodes.db")));
+    QVERIFY(QFile::rename(salvage.file(), path("apart/nodes.db")));
     QCOMPARE(filesWith(passwords, path("apart")), QStringList());
 }
 

@@ -1,7 +1,6 @@
 #include "StoreTesting.h"
 #include "support/TestMain.h"
 
-#include "ko/IPDeviceNode.h"
 #include "store/BackupKeeper.h"
 #include "store/SqliteStore.h"
 #include "store/StoreBackup.h"
@@ -36,8 +35,6 @@ private slots:
     void restoreOverADamagedDatabase();
     void restoreIntoANewPlace();
     void lockedDatabaseStaysAsItIs();
-    void salvageSavesWhatCanBeRead();
-    void salvageOfNothing();
     void oldBackupsGo();
     void newestGoodSkipsBadOnes();
     void keeperMakesOneADay();
@@ -312,42 +309,6 @@ void tst_StoreBackup::lockedDatabaseStaysAsItIs()
         lock.run(QLatin1String("ROLLBACK"));
     }
     QCOMPARE(camerasIn(m_file), 3);
-}
-
-void tst_StoreBackup::salvageSavesWhatCanBeRead()
-{
-    makeDatabase(2000);
-    QFile file(m_file);
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    file.seek(file.size() / 2);
-    file.write(QByteArray(6000, 'x'));
-    file.close();
-    QVERIFY(!StoreBackup::verify(m_file, &m_error));
-    QCOMPARE(m_error.kind, StoreError::Damaged);
-    const QByteArray before = digest(m_file);
-    const QString saved = StoreBackup::salvage(m_file, &m_error);
-    QVERIFY2(!saved.isEmpty(), qPrintable(m_error.detail));
-    QCOMPARE(digest(m_file), before);
-    QVERIFY(StoreBackup::verify(saved, &m_error));
-    const std::unique_ptr<HostNodeDB> db = openDatabase(saved);
-    const QStringList ids = db->nodeIdList(IPDeviceType);
-    QVERIFY2(ids.size() > 1900, qPrintable(QString::number(ids.size())));
-    // From both ends of the tables.
-    QCOMPARE(db->node(ids.constFirst())->name(), QLatin1String("Camera 0"));
-    QCOMPARE(db->node(ids.constLast())->name(), QLatin1String("Camera 1999"));
-    QCOMPARE(db->node(ids.constFirst()).cast<const IPDeviceNode>()->address(), QLatin1String("10.0.0.1"));
-    QCOMPARE(db->node(ids.constLast()).cast<const IPDeviceNode>()->address(), QLatin1String("10.0.1999.1"));
-}
-
-void tst_StoreBackup::salvageOfNothing()
-{
-    QFile file(m_file);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("text");
-    file.close();
-    QVERIFY(StoreBackup::salvage(m_file, &m_error).isEmpty());
-    QVERIFY(m_error);
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList(QLatin1String("nodes.kodb")));
 }
 
 void tst_StoreBackup::oldBackupsGo()

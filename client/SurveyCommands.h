@@ -1,0 +1,42 @@
+#ifndef KO_SURVEYCOMMANDS_H
+#define KO_SURVEYCOMMANDS_H
+
+#include "exchange/CameraSurvey.h"
+
+#include <QObject>
+
+#include <functional>
+
+class QMainWindow;
+
+namespace ko {
+
+class SurveyProgress;
+
+/// Import and export of lists of cameras, as the user of a window meets them. The window takes no input
+/// meanwhile.
+class SurveyCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SurveyCommands(QMainWindow* window);
+
+    void importCameras();
+    void exportCameras();
+
+    /// For a window that is closed all the same, as at the end of a session: cancels the work, if there is
+    /// any, and closes the window when it has ended. False if nothing is under way.
+    bool closeWindowAfterwards();
+
+private:
+    bool run(const QString& text, const std::function<void(const CameraSurvey::Progress&)>& work);
+
+    QMainWindow* const m_window;
+    SurveyProgress* m_progress = nullptr; ///< of the work under way
+    bool m_closing = false;
+};
+
+} // namespace ko
+
+#endif

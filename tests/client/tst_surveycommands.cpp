@@ -1,0 +1,152 @@
+#include "support/HostFixture.h"
+#include "support/ModalAnswer.h"
+#include "support/TestMain.h"
+
+#include "MainWindow.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QWindow>
+
+using namespace ko;
+using testsupport::child;
+using testsupport::ModalAnswer;
+
+/// Import and export through the window, while they go on.
+class tst_SurveyCommands : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void importBlocksTheWindowAtOnce();
+    void cancelledImportIsReported();
+    void closedDuringImport();
+    void closedDuringExport();
+
+private:
+    static constexpr int Lines = 3000;
+
+    QString during(const char* action, const QString& file,
+                   const std::function<void(QProgressDialog*)>& look);
+    int cameras() const { return int(m_host->db()->nodeIdList(IPDeviceType).size()); }
+
+    QTemporaryDir m_folder;
+    QString m_list;
+    std::unique_ptr<testsupport::HostFixture> m_host;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void tst_SurveyCommands::init()
+{
+    QFile list(m_list = m_folder.filePath(QStringLiteral("in.csv")));
+    QVERIFY(list.open(QIODevice::WriteOnly));
+    list.write("name,address\n");
+    for (int i = 0; i < Lines; ++i)
+        list.write(QByteArray("Camera ") + QByteArray::number(i) + ",10.0." + QByteArray::number(i / 250) +
+                   '.' + QByteArray::number(i % 250 + 1) + '\n');
+    list.close();
+    m_host = std::make_unique<testsupport::HostFixture>();
+    m_window = std::make_unique<MainWindow>(*m_host->db());
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_SurveyCommands::cleanup()
+{
+    m_window.reset();
+    m_host.reset();
+}
+
+/// Triggers the action, chooses the file, and calls \a look in the first turn of the event loop after that.
+/// Closes what is shown at the end and returns its name.
+QString tst_SurveyCommands::during(const char* action, const QString& file,
+                                   const std::function<void(QProgressDialog*)>& look)
+{
+    bool looked = false;
+    QString shown;
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        auto* progress = m_window->findChild<QProgressDialog*>(QStringLiteral("surveyProgress"));
+        if (progress && !looked) {
+            looked = true;
+            look(progress);
+        } else if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+            box->button(QMessageBox::No)->click();
+        } else if (looked && modal && modal != progress) {
+            shown = modal->objectName();
+            modal->close();
+        }
+    });
+    const ModalAnswer choose([&](QDialog* dialog) {
+        child<QLineEdit>(dialog, "fileNameEdit")->setText(file);
+        dialog->accept();
+        watch.start(0);
+    });
+    child<QAction>(m_window.get(), action)->trigger();
+    return looked ? shown : QStringLiteral("nothing was under way");
+}
+
+void tst_SurveyCommands::importBlocksTheWindowAtOnce()
+{
+    QString typed = QStringLiteral("?");
+    bool visible = false;
+    const QString shown = during("actionImport", m_list, [&](QProgressDialog* progress) {
+        visible = progress->isVisible();
+        child<QLineEdit>(m_window.get(), "searchLineEdit")->setFocus();
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_X);
+        typed = child<QLineEdit>(m_window.get(), "searchLineEdit")->text();
+    });
+    QCOMPARE(shown, QStringLiteral("ImportReportDialog"));
+    QVERIFY(visible);
+    QCOMPARE(typed, QString());
+    QCOMPARE(cameras(), Lines);
+}
+
+void tst_SurveyCommands::cancelledImportIsReported()
+{
+    const QString shown =
+        during("actionImport", m_list, [](QProgressDialog* progress) { progress->cancel(); });
+    QCOMPARE(shown, QStringLiteral("ImportReportDialog"));
+    QVERIFY(cameras() < Lines);
+    QVERIFY(m_window->isVisible());
+}
+
+/// A window is closed without its user at the end of a session.
+void tst_SurveyCommands::closedDuringImport()
+{
+    bool stayed = false;
+    const QString shown = during("actionImport", m_list, [&](QProgressDialog*) {
+        m_window->close();
+        stayed = m_window->isVisible();
+    });
+    QVERIFY(stayed);
+    QCOMPARE(shown, QString());
+    QVERIFY(cameras() < Lines);
+    QVERIFY(!m_window->isVisible());
+    QVERIFY(!m_host->db()->hasUnstoredChanges());
+}
+
+void tst_SurveyCommands::closedDuringExport()
+{
+    for (int i = 0; i < 2000; ++i)
+        m_host->add(IPDeviceType, QStringLiteral("Camera %1").arg(i), QStringLiteral("10.1.0.1"));
+    const QString list = m_folder.filePath(QStringLiteral("out.csv"));
+    bool stayed = false;
+    during("actionExport", list, [&](QProgressDialog*) {
+        m_window->close();
+        stayed = m_window->isVisible();
+    });
+    QVERIFY(stayed);
+    QVERIFY(!m_window->isVisible());
+    QVERIFY(!QFile::exists(list));
+}
+
+KO_TEST_MAIN(tst_SurveyCommands)
+#include "tst_surveycommands.moc"
