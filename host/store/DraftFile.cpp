@@ -21,10 +21,15 @@ namespace {
 
 const char Infix[] = ".new-";
 
-QString draftName(const QString& target)
+/// Makes the file and returns its name. Two in one millisecond are told apart by waiting for the next.
+QString create(const QString& target)
 {
-    const QString time = QDateTime::currentDateTimeUtc().toString(QLatin1String("yyyyMMdd'T'HHmmsszzz'Z'"));
-    return target + QLatin1String(Infix) + time;
+    QString name;
+    do {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        name = target + QLatin1String(Infix) + now.toString(QLatin1String("yyyyMMdd'T'HHmmsszzz'Z'"));
+    } while (!StoreFile::create(name));
+    return name;
 }
 
 /// -1 if somebody else has it.
@@ -56,11 +61,9 @@ void removeWithCompanions(const QString& draft)
 
 DraftFile::DraftFile(const QString& target)
     : m_target(target)
-    , m_name(draftName(target))
+    , m_name(create(target))
+    , m_lock(lock(m_name))
 {
-    if (!StoreFile::create(m_name))
-        fail(StoreError::CannotOpen, m_name, "exists");
-    m_lock = lock(m_name);
 }
 
 DraftFile::~DraftFile()

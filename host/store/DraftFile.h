@@ -28,7 +28,7 @@ private:
     Q_DISABLE_COPY(DraftFile)
     const QString m_target;
     const QString m_name;
-    int m_lock = -1; ///< held as long as the draft is somebody's
+    const int m_lock; ///< held as long as the draft is somebody's
 };
 
 } // namespace ko

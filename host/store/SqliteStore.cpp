@@ -250,7 +250,7 @@ QString SqliteStore::backUp(int version)
     const QString time = QDateTime::currentDateTimeUtc().toString(QLatin1String("yyyyMMdd'T'HHmmss'Z'"));
     const QString name = QString::fromLatin1("%1.backup-v%2-%3").arg(m_file).arg(version).arg(time);
     for (int i = 1;; ++i) {
-        const QString copy = i == 1 ? name : name + QString::fromLatin1("-%1").arg(i);
+        QString copy = i == 1 ? name : name + QString::fromLatin1("-%1").arg(i);
         DraftFile draft(copy);
         run("VACUUM INTO ?", {draft.name()});
         if (version < StoreSchema::FirstSealed && Secrets::isKeyKept()) {

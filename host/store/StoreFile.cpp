@@ -201,7 +201,9 @@ void moveAside(const QString& file)
 {
     const QString time = QDateTime::currentDateTimeUtc().toString(QLatin1String("yyyyMMdd'T'HHmmsszzz'Z'"));
     const QString aside = file + QLatin1String(".damaged-") + time;
-    if (QFileInfo::exists(file) && !QFile::rename(file, aside))
+    const QFileInfo info(file);
+    const bool isEmpty = info.isFile() && info.size() == 0;
+    if (info.exists() && !(isEmpty ? QFile::remove(file) : QFile::rename(file, aside)))
         fail(StoreError::ReadOnly, file, QLatin1String("rename"));
     for (const char* end : Companions)
         QFile::rename(file + QLatin1String(end), aside + QLatin1String(end));

@@ -40,7 +40,7 @@ void check(const QString& file, int version);
 void checkHeader(const QString& file, int version);
 
 /// Gives a file that cannot be used, and what SQLite keeps beside it, a new name that tells when. The file
-/// itself may be missing.
+/// itself may be missing; an empty one goes.
 void moveAside(const QString& file);
 
 /// Whether the disk under \a file is as good as full.
