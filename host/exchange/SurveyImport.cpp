@@ -151,11 +151,12 @@ CameraSurvey::ImportResult SurveyImport::run()
 /// Other programs and other windows add devices between two parts of the list.
 void SurveyImport::followOthers()
 {
-    for (const auto signal : {&NodeDB::nodeInserted, &NodeDB::nodeUpdated})
-        QObject::connect(NodeDB::getDB(), signal, &m_context, [this](const NodeID& id) {
-            if (!m_isImporting)
-                m_finder.changed(id);
-        });
+    const auto follow = [this](const NodeID& id) {
+        if (!m_isImporting)
+            m_finder.changed(id);
+    };
+    QObject::connect(NodeDB::getDB(), &NodeDB::nodeInserted, &m_context, follow);
+    QObject::connect(NodeDB::getDB(), &NodeDB::nodeUpdated, &m_context, follow);
 }
 
 /// Stores what \a work did. False when that failed: nothing more is tried then. What others did is stored

@@ -114,7 +114,7 @@ QString fit(const QString& text)
             result += QLatin1Char(' ');
             before = ' ';
         } else if (sign.code == '\n' || !isUnseen(sign.code, before)) {
-            result += text.mid(i, sign.units);
+            result.append(text.constData() + i, sign.units);
             before = sign.code;
         }
         i += sign.units;
@@ -128,8 +128,10 @@ QString visible(const QString& text)
     uint before = 0;
     for (int i = 0; i < text.size();) {
         const Sign sign = signAt(text, i);
-        const bool isSeen = !isUnseen(sign.code, before);
-        result += isSeen ? text.mid(i, sign.units) : spelt(sign.code);
+        if (isUnseen(sign.code, before))
+            result += spelt(sign.code);
+        else
+            result.append(text.constData() + i, sign.units);
         before = sign.code;
         i += sign.units;
     }

@@ -59,6 +59,8 @@ public:
         m_clock.start();
     }
 
+    ~Rounds() { qInfo("%d rounds", m_round); }
+
     bool next()
     {
         if (++m_round < m_seeds.size())
@@ -72,12 +74,13 @@ public:
     }
 
     Random& random() { return m_random; }
-    int done() const { return m_round; }
 
     /// For messages.
     QByteArray name() const { return "KO_ATTACK_SEED=" + QByteArray::number(m_seed); }
 
 private:
+    Q_DISABLE_COPY(Rounds)
+
     QVector<uint> m_seeds;
     int m_round = -1;
     int m_seconds = 0;

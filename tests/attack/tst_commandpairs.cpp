@@ -60,7 +60,7 @@ int runClient(const QString& file)
     BackupKeeper backups(file);
     int number = 0;
     QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         if (number == 1)
             backups.makeNow();
         const QString address =
@@ -101,7 +101,7 @@ int runScan(const QString& file)
     }
     db->deviceIntake().take(devices);
     QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&db] {
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&db] {
         if (db->deviceIntake().isIdle())
             QCoreApplication::exit(db->flush() ? 0 : 2);
     });

@@ -1,5 +1,6 @@
 #include "../host/StoreTesting.h"
 #include "Attack.h"
+#include "BoxCloser.h"
 #include "support/TestMain.h"
 
 #include "AuditLogDialog.h"
@@ -9,9 +10,6 @@
 #include "dialogs/NodeOverviewDialog.h"
 #include "inspector/InspectorWidget.h"
 #include "ko/Environments.h"
-
-#include <QMessageBox>
-#include <QTimer>
 
 #include <sqlite3.h>
 
@@ -290,24 +288,11 @@ private:
     NodeDBViewer m_viewer;
 };
 
-/// Answers what the client complains about.
-void closeBoxes()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget* widget : widgets) {
-        auto* box = qobject_cast<QMessageBox*>(widget);
-        if (box && box->isVisible())
-            box->reject();
-    }
-}
-
 } // namespace
 
 void TestForeignWriters::aClientSurvives()
 {
-    QTimer boxes;
-    connect(&boxes, &QTimer::timeout, this, &closeBoxes);
-    boxes.start(5);
+    const BoxCloser boxes;
     for (Rounds rounds("foreignwriters", 30); rounds.next();) {
         const QByteArray round = rounds.name();
         const QTemporaryDir folder;

@@ -1,5 +1,6 @@
 #include "../host/Workloads.h"
 #include "Attack.h"
+#include "BoxCloser.h"
 #include "Programs.h"
 #include "support/TestMain.h"
 
@@ -7,7 +8,6 @@
 #include "audit/AuditLog.h"
 #include "store/StoreBackup.h"
 
-#include <QMessageBox>
 #include <QTimer>
 
 #include <sqlite3.h>
@@ -39,16 +39,7 @@ namespace {
 /// A client on this database for a while, as its user sees it; run in a process of its own.
 int runClient(const QString& file)
 {
-    QTimer boxes;
-    QObject::connect(&boxes, &QTimer::timeout, [] {
-        const QWidgetList widgets = QApplication::topLevelWidgets();
-        for (QWidget* widget : widgets) {
-            auto* box = qobject_cast<QMessageBox*>(widget);
-            if (box && box->isVisible())
-                box->reject();
-        }
-    });
-    boxes.start(5);
+    const BoxCloser boxes;
     StoreError error;
     const std::unique_ptr<HostNodeDB> db = HostNodeDB::open(file, &error, HostNodeDB::Check::Behind);
     if (!db)
@@ -61,13 +52,13 @@ int runClient(const QString& file)
     });
     MainWindow window(*db);
     window.show();
-    QTimer::singleShot(100, [&] {
+    QTimer::singleShot(100, &window, [&] {
         const QStringList ids = db->nodeIdList(AllNodeTypes);
         for (const QString& id : ids)
             db->node(id);
         db->auditLog().count();
         addCamera(*db, QLatin1String("added"), QLatin1String("10.9.9.9"));
-        QTimer::singleShot(50, &QApplication::quit);
+        QTimer::singleShot(50, qApp, &QApplication::quit);
     });
     QApplication::exec();
     return isUsable ? 0 : 3;
@@ -96,10 +87,12 @@ QMap<QString, QByteArray> contents(const QString& folder)
 
 QByteArray changedFiles(const QMap<QString, QByteArray>& before, const QMap<QString, QByteArray>& after)
 {
-    QStringList names = before.keys() + after.keys();
-    names.removeDuplicates();
+    QMap<QString, QByteArray> names = before;
+    for (auto it = after.begin(); it != after.end(); ++it)
+        names.insert(it.key(), it.value());
     QByteArray changed;
-    for (const QString& name : std::as_const(names)) {
+    for (auto it = names.begin(); it != names.end(); ++it) {
+        const QString& name = it.key();
         if (before.value(name) != after.value(name))
             changed += name.toUtf8() + (!before.contains(name)  ? " came, "
                                         : !after.contains(name) ? " went, "
@@ -303,8 +296,8 @@ private:
             "UPDATE sqlite_sequence SET seq = 'x'",
             "DELETE FROM sqlite_sequence",
             "UPDATE settings SET value = value || value",
-            "INSERT OR REPLACE INTO settings VALUES ('proxy.port', '-99999999999999'), ('bandwidth', 'x'), "
-            "('environment.active', 'x'), ('secrets.toSeal', '1')",
+            "INSERT OR REPLACE INTO settings VALUES ('proxy.port', '-99999999999999'), ('bandwidth', 'x')",
+            "INSERT OR REPLACE INTO settings VALUES ('environment.active', 'x'), ('secrets.toSeal', '1')",
             "DELETE FROM environments",
             "INSERT INTO environments VALUES (900, 'x', 'x'), (901, 'x', 'x')",
             "UPDATE audit SET time = -9223372036854775808, code = -1, data = '{'",
@@ -415,11 +408,14 @@ void TestHostileDatabases::checkRound(Random& random, const QByteArray& round)
     const QByteArray wrong = runProgram(command, &exitCode, &output);
     const QByteArray what = round + ' ' + command.join(QLatin1Char(' ')).toUtf8() + ": " + output + wrong;
     QVERIFY2(wrong.isEmpty(), what.constData());
-    if (exitCode != 0 && exitCode != 1) { // 1: some lines of the list were bad
+    const bool isCopy =
+        command.contains(QLatin1String("--backup")) || command.contains(QLatin1String("--restore"));
+    // 2 of the others: the database is good, and what is in it cannot be exported.
+    if (exitCode == 3 || (exitCode == 2 && isCopy)) {
         const QByteArray changed = changedFiles(hostileBefore, contents(hostileFolder)) +
                                    changedFiles(soundBefore, contents(soundFolder));
         QVERIFY2(changed.isEmpty(), ("changed, although refused: " + changed + what).constData());
-    } else if (command.contains(QLatin1String("--backup"))) {
+    } else if (exitCode == 0 && command.contains(QLatin1String("--backup"))) {
         StoreError error;
         QVERIFY2(StoreBackup::verify(command.last(), &error), (what + error.detail.toUtf8()).constData());
     }

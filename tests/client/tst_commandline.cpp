@@ -116,6 +116,10 @@ private slots:
     void damageFoundWithTheWindowOpen();
     void noCoreDump();
     void backupAndRestore();
+    void severalTasks();
+    void failedBackupEndsIt();
+    void exportToStandardOutput();
+    void exportAppended();
     void restoreOfNothing();
 
 private:
@@ -497,6 +501,52 @@ void tst_CommandLine::backupAndRestore()
     QCOMPARE(onDatabase({"--restore", backup}).exitCode, 0);
     const Call result = onDatabase({"--import", m_folder->filePath("more.csv")});
     QVERIFY2(result.said.contains("1 added"), qPrintable(result.said));
+}
+
+/// Each is done, in this order, and none in silence not.
+void tst_CommandLine::severalTasks()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    const QString backup = m_folder->filePath("backup.kodb");
+    const QString more = write("more.csv", "name,address\nYard,10.0.0.2\n");
+    const Call result =
+        onDatabase({"--backup", backup, "--import", more, "--export", m_folder->filePath("out.csv")});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.said.contains("1 added") && result.said.contains("2 written"), qPrintable(result.said));
+    QCOMPARE(devices(), 2);
+    m_database = backup;
+    QCOMPARE(devices(), 1);
+}
+
+void tst_CommandLine::failedBackupEndsIt()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    const QString more = write("more.csv", "name,address\nYard,10.0.0.2\n");
+    QCOMPARE(onDatabase({"--backup", m_database, "--import", more}).exitCode, int(CommandLine::Failed));
+    QCOMPARE(devices(), 1);
+}
+
+void tst_CommandLine::exportToStandardOutput()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    const Call result = onDatabase({"--export", "/dev/stdout"});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(result.said.count("Gate"), 1);
+    QVERIFY(!result.said.contains("written")); // a line of another table
+    QVERIFY(result.complained.contains("1 written"));
+}
+
+/// What is there already stays, as with any program whose output is appended.
+void tst_CommandLine::exportAppended()
+{
+    onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
+    const QString out = write("out.txt", "before\n");
+    const QString script = QString("exec \"$0\" \"$@\" >> '%1'").arg(out);
+    const Call result = run("/bin/sh", {"-c", script, QCoreApplication::applicationFilePath(), clientArgument,
+                                        "--db", m_database, "--export", "/dev/stdout"});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(contentOf(out).startsWith("before\n"));
+    QVERIFY(contentOf(out).contains("Gate"));
 }
 
 void tst_CommandLine::restoreOfNothing()

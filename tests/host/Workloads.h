@@ -38,6 +38,9 @@ public:
     virtual bool step(ko::HostNodeDB& db, int number) = 0;
     virtual Stored stored(ko::HostNodeDB& db) = 0;
 
+    /// Why the last step could not do everything, as it told its user; empty if it did not tell.
+    QString complaint;
+
     /// Whether a step is all there or not at all; else this holds for the parts of a step.
     virtual bool isOneTurn() const { return true; }
 
@@ -131,6 +134,7 @@ public:
                 QCoreApplication::processEvents(); // stores what was done
                 return true;
             });
+        complaint = result.error;
         return result.error.isEmpty() && result.badLines.isEmpty();
     }
 

@@ -1,5 +1,6 @@
 #include "Workloads.h"
 #include "ko/Environments.h"
+#include "store/StoreBackup.h"
 #include "support/Soak.h"
 #include "support/TestMain.h"
 
@@ -10,6 +11,8 @@
 #include <QThread>
 
 #include <cstdio>
+
+#include <utime.h>
 
 using namespace ko;
 using namespace testsupport;
@@ -70,6 +73,8 @@ private slots:
 
 private:
     static void start(QProcess& process, const QString& workload, const QString& file);
+    static void forgetDrafts(const QString& folder);
+    static void expectSealedCopies(const QString& folder);
 };
 
 void TestDurability::start(QProcess& process, const QString& workload, const QString& file)
@@ -154,6 +159,32 @@ void TestDurability::firstStartSurvivesKills()
     }
 }
 
+/// As if the drafts that the killed program left had been there for long.
+void TestDurability::forgetDrafts(const QString& folder)
+{
+    const QFileInfoList drafts = QDir(folder).entryInfoList({QLatin1String("*.new-*")}, QDir::Files);
+    for (const QFileInfo& draft : drafts) {
+        const struct utimbuf longAgo = {1, 1};
+        QCOMPARE(::utime(QFile::encodeName(draft.filePath()).constData(), &longAgo), 0);
+    }
+}
+
+/// No half copy has the name of a good one, and no file but the original holds a password that can be read.
+void TestDurability::expectSealedCopies(const QString& folder)
+{
+    const QFileInfoList files = QDir(folder).entryInfoList({QLatin1String("nodes.db*")}, QDir::Files);
+    for (const QFileInfo& info : files) {
+        StoreError error;
+        QVERIFY2(!info.fileName().contains(QLatin1String(".new-")), qPrintable(info.fileName()));
+        if (info.fileName().contains(QLatin1String(".backup-v")))
+            QVERIFY2(StoreBackup::verify(info.filePath(), &error),
+                     qPrintable(info.fileName() + error.detail));
+        QFile file(info.filePath());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY2(!file.readAll().contains("in the clear"), qPrintable(info.fileName()));
+    }
+}
+
 void TestDurability::migrationSurvivesKills()
 {
     const int cameras = 30000;
@@ -161,6 +192,8 @@ void TestDurability::migrationSurvivesKills()
     const QTemporaryDir folder;
     const QString original = folder.filePath(QLatin1String("original.db"));
     makeOldDatabase(original, cameras);
+    PlainSql(original).run(QLatin1String("INSERT INTO properties SELECT n, 'Password', 0, 'in the clear'"
+                                         " FROM nodes WHERE n % 100 = 0"));
     const QString file = folder.filePath(QLatin1String("nodes.db"));
     int old = 0;
     for (int life = 0; life < lives; ++life) {
@@ -179,7 +212,9 @@ void TestDurability::migrationSurvivesKills()
         const int version = wholeVersion(file, cameras);
         QVERIFY(version >= 1);
         old += version == 1 ? 1 : 0;
+        forgetDrafts(folder.path());
         QVERIFY(openDatabase(file));
+        expectSealedCopies(folder.path());
         removeDatabase(file);
     }
     qInfo("%d of %d kills came before the commit of the migration", old, lives);

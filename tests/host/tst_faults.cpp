@@ -32,6 +32,8 @@ Outcome attempt(const QString& file, Workload* workload, bool triesAgain)
     QObject::connect(db.get(), &HostNodeDB::storeDamaged, show);
     QObject::connect(db.get(), &HostNodeDB::storeDamaged, [&readable] { readable = false; });
     const bool done = !workload || workload->step(*db, 1);
+    if (!done)
+        outcome.message = workload->complaint;
     const bool stored = db->flush() || (triesAgain && db->flush());
     QCoreApplication::processEvents(); // says what could not be read
     outcome.confirmed = done && stored && readable;

@@ -240,7 +240,8 @@ void TestRemains::draftsOfKilledPrograms()
     const QString young = m_file + QLatin1String(".new-20260202T000000000Z");
     const QString held = m_file + QLatin1String(".new-20260303T000000000Z");
     const QString other = m_file + QLatin1String(".new-notes");
-    for (const QString& name : old + QStringList{young, held, other}) {
+    const QStringList all = old + QStringList{young, held, other};
+    for (const QString& name : all) {
         write(name, "half");
         const struct utimbuf longAgo = {1, 1};
         if (name != young)

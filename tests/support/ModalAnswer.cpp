@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QProgressDialog>
 #include <QTest>
 
 #include <cstdio>
@@ -20,8 +21,8 @@ ModalAnswer::ModalAnswer(std::function<void(QDialog*)> action)
 void ModalAnswer::look()
 {
     QDialog* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog || !dialog->isVisible() || m_fired)
-        return;
+    if (!dialog || !dialog->isVisible() || m_fired || qobject_cast<QProgressDialog*>(dialog))
+        return; // progress is no question
     m_timer.stop();
     m_fired = true;
     m_action(dialog);
