@@ -2,6 +2,7 @@
 
 #include "AddressChangesDialog.h"
 #include "AuditLogDialog.h"
+#include "DeviceSettings.h"
 #include "ImportReportDialog.h"
 #include "LayoutAdapter.h"
 #include "NameList.h"
@@ -18,13 +19,9 @@
 #include "dialogs/EditNodeDialog.h"
 #include "dialogs/EnvironmentDialog.h"
 #include "dialogs/NetworkProxyDialog.h"
-#include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/NodeDBViewer.h"
 #include "dialogs/NodeOverviewDialog.h"
-#include "dialogs/RecordingFolderAssignmentDialog.h"
-#include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "drivers/NodeTypes.h"
-#include "inspector/NodeChangeLogEntry.h"
 #include "ko/Node.h"
 #include "ko/dialogFlags.h"
 
@@ -45,8 +42,6 @@
 #include <QTableView>
 #include <QTimer>
 #include <QToolBar>
-
-#include <algorithm>
 
 namespace ko {
 
@@ -427,40 +422,18 @@ QStringList MainWindow::selectedDevices() const
     return devices;
 }
 
-/// The dialogs for many cameras leave the audit log to whoever opens them.
-void MainWindow::logChanges(const QStringList& ids)
-{
-    for (const QString& id : ids) {
-        const NodeSummary node = m_db.summary(id);
-        if (!node.id.isEmpty())
-            m_db.auditLog().log(NodeChangeLogEntry(node.name));
-    }
-    m_db.flush(); // on disk when the dialog has closed
-}
-
 void MainWindow::editRecording()
 {
-    QStringList devices = selectedDevices();
-    std::unique_ptr<QDialog> dialog;
-    if (devices.size() == 1) {
-        dialog = std::make_unique<RecordingFolderAssignmentDialog>(devices.constFirst(), this);
-    } else if (!devices.isEmpty()) {
-        const auto isOther = [this](const QString& id) { return m_db.summary(id).type != IPDeviceType; };
-        devices.erase(std::remove_if(devices.begin(), devices.end(), isOther), devices.end());
-        dialog = std::make_unique<RecordingFolderMassAssignmentDialog>(this, devices, dialogFlags(false));
-    }
-    if (dialog && dialog->exec() == QDialog::Accepted)
-        logChanges(devices);
+    const QStringList devices = selectedDevices();
+    if (!devices.isEmpty())
+        statusBar()->showMessage(DeviceSettings::editRecording(m_db, devices, this), 10000);
 }
 
 void MainWindow::editCredentials()
 {
     const QStringList devices = selectedDevices();
-    if (devices.isEmpty())
-        return;
-    NodeAuthenticateDialog dialog(this, devices, dialogFlags(false));
-    if (dialog.exec() == QDialog::Accepted)
-        logChanges(devices);
+    if (!devices.isEmpty())
+        statusBar()->showMessage(DeviceSettings::editCredentials(m_db, devices, this), 10000);
 }
 
 QStringList MainWindow::selectedNames(const QStringList& ids) const

@@ -68,7 +68,6 @@ private:
     void openEditor(const QString& id, bool readOnly);
     QStringList selectedNames(const QStringList& ids) const;
     QStringList selectedDevices() const;
-    void logChanges(const QStringList& ids);
     QString unstoredText() const;
     void restoreState();
     void saveState() const;
