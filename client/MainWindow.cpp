@@ -3,6 +3,7 @@
 #include "AddressChangesDialog.h"
 #include "AuditLogDialog.h"
 #include "DeviceSettings.h"
+#include "EnvironmentNotice.h"
 #include "ImportReportDialog.h"
 #include "LayoutAdapter.h"
 #include "NameList.h"
@@ -13,6 +14,7 @@
 #include "RemoveNodesBox.h"
 #include "ScannerStatus.h"
 #include "SurveyProgress.h"
+#include "WheelGuard.h"
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "dialogs/AddNodeDialog.h"
@@ -96,11 +98,13 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_search(new QLineEdit(this))
     , m_types(new QComboBox(this))
     , m_counts(new QLabel(this))
+    , m_environment(new EnvironmentNotice(db, statusBar()))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("%1 - Nodes").arg(QFileInfo(db.fileName()).fileName()));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
     registerNodeLogEntries();
+    new WheelGuard(this);
     createList();
     createToolBar();
     createCommands();
@@ -371,7 +375,7 @@ void MainWindow::openEditor(const QString& id, bool readOnly)
 {
     const LayoutAdapter layouts;
     EditNodeDialog dialog(id, this, readOnly, listOptions | environmentRow | layoutLists, &layouts);
-    dialog.exec();
+    m_environment->exec(dialog);
 }
 
 void MainWindow::addNode()
@@ -386,7 +390,7 @@ void MainWindow::addNode()
     types.removeOne(IPDeviceType);
     types.prepend(IPDeviceType);
     AddNodeDialog dialog(this, this, &types, false, listOptions | environmentRow);
-    dialog.exec();
+    m_environment->exec(dialog);
     const kom::smart<const Node> node = m_db.node(dialog.nodeId());
     if (node.null())
         return;

@@ -15,6 +15,7 @@ class QMessageBox;
 
 namespace ko {
 
+class EnvironmentNotice;
 class HostNodeDB;
 class NodeListModel;
 class NodeListView;
@@ -78,6 +79,7 @@ private:
     QLineEdit* const m_search;
     QComboBox* const m_types;
     QLabel* const m_counts;
+    EnvironmentNotice* const m_environment;
     QList<QAction*> m_forOne;  ///< enabled while one node is selected
     QList<QAction*> m_forSome; ///< enabled while at least one node is selected
     QSet<QString> m_changed;   ///< taken into the list together at the end of the turn
