@@ -4,6 +4,7 @@
 #include "AuditLogDialog.h"
 #include "DeviceSettings.h"
 #include "EnvironmentNotice.h"
+#include "FocusMark.h"
 #include "ImportReportDialog.h"
 #include "LayoutAdapter.h"
 #include "NameList.h"
@@ -105,6 +106,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     setWindowIcon(NodeTypes::icon(IPDeviceType));
     registerNodeLogEntries();
     new WheelGuard(this);
+    new FocusMark(this);
     createList();
     createToolBar();
     createCommands();
@@ -150,8 +152,9 @@ void MainWindow::createList()
 void MainWindow::createToolBar()
 {
     m_search->setObjectName(QStringLiteral("searchLineEdit"));
-    m_search->setPlaceholderText(tr("Search (Ctrl+F): words in name, type, address or recording"));
+    m_search->setPlaceholderText(tr("Search (Ctrl+F)"));
     m_search->setClearButtonEnabled(true);
+    m_search->setToolTip(tr("Words in name, type, address or recording"));
     m_search->setAccessibleName(tr("Search"));
     connect(m_search, &QLineEdit::textChanged, m_model, &NodeListModel::setSearch);
     QAction* clear = new QAction(m_search);
@@ -309,6 +312,9 @@ void MainWindow::createCommands()
     connect(findChild<QAction*>(QStringLiteral("actionQuit")), &QAction::triggered, this, &QWidget::close);
     bar->addSeparator();
     bar->addWidget(m_search);
+    QLabel* typesLabel = new QLabel(tr(" T&ype: "), this); // by which a screen reader names the box
+    typesLabel->setBuddy(m_types);
+    bar->addWidget(typesLabel);
     bar->addWidget(m_types);
 
     QAction* find = new QAction(this);
