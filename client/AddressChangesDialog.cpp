@@ -27,6 +27,7 @@ AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent
     m_table->setHorizontalHeaderLabels({tr("Name"), tr("Old Address"), tr("New Address"), tr("MAC Address")});
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setTabKeyNavigation(false); // Tab leaves the table
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setStretchLastSection(true);
 
@@ -37,6 +38,10 @@ AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent
     m_accept->setObjectName(QStringLiteral("acceptButton"));
     m_acceptAll->setObjectName(QStringLiteral("acceptAllButton"));
     m_dismiss->setObjectName(QStringLiteral("dismissButton"));
+    // Enter must not send credentials to a new address.
+    for (QPushButton* button : {m_accept, m_acceptAll, m_dismiss})
+        button->setAutoDefault(false);
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
     QVBoxLayout* layout = new QVBoxLayout(this);
     layout->addWidget(hint);
     layout->addWidget(m_table);

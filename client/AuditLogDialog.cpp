@@ -42,6 +42,7 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setAlternatingRowColors(true);
     m_view->setWordWrap(false);
+    m_view->setTabKeyNavigation(false); // Tab leaves the view
     m_view->verticalHeader()->hide();
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_model->fetchMore(QModelIndex());

@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "CommandOptions.h"
 #include "DatabaseRecovery.h"
 #include "KeychainNotice.h"
 #include "MainWindow.h"
@@ -18,8 +19,8 @@
 #include "store/StoreFile.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -87,65 +88,45 @@ CommandLine::CommandLine(int& argc, char** argv)
 
 bool CommandLine::parse()
 {
-    const auto translated = [](const char* text) { return QCoreApplication::translate("CommandLine", text); };
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        translated("Shows, adds, edits and removes the nodes of a video-surveillance system."));
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
-    const auto add = [&parser, &translated](const char* name, const char* text, const char* value) {
-        const QCommandLineOption option(QLatin1String(name), translated(text), QLatin1String(value));
-        parser.addOption(option);
-        return option;
-    };
-    const auto db = add("db", "Opens this node database; it is made if it is not there.", "FILE");
-    const auto import =
-        add("import", "Adds the cameras of a list (CSV) and ends. No window is needed.", "FILE");
-    const auto exportTo = add("export", "Writes all cameras into a list (CSV) and ends.", "FILE");
-    const auto noPasswords = add("without-passwords", "Leaves the passwords out of --export.", "");
-    const auto backup =
-        add("backup", "Copies the database, which may be in use, into a file and ends.", "FILE");
-    const auto restore = add("restore",
-                             "Gives the database, which may be in use, the content of a backup and ends. "
-                             "The present content is kept as a backup.",
-                             "FILE");
-    const auto tour = add("tour", "Walks through the windows by itself and leaves pictures.", "FOLDER");
-    const auto survey = add("tour-survey", "The list of cameras that the walk imports.", "FILE");
-    const auto tourScans =
-        add("tour-scans", "So many cameras are found by scans, and nothing else is done.", "NUMBER");
-    const auto checkTour = add("check-tour", "Looks whether what the walk did is in the database.", "");
-
     QStringList arguments;
     for (int i = 0; i < m_argc; ++i)
         arguments.append(FileName::fromBytes(m_argv[i]));
-    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty()) {
-        say(stderr, parser.errorText().isEmpty()
-                        ? translated("Unexpected argument: %1").arg(parser.positionalArguments().value(0))
-                        : parser.errorText());
-        m_exitCode = WrongUsage;
-        return false;
-    }
-    if (parser.isSet(help) || parser.isSet(version)) {
+    CommandOptions options;
+    const QString refusal = options.read(arguments);
+    if (!refusal.isEmpty())
+        return refuse(refusal);
+    if (options.asksForHelp() || options.isSet("version")) {
         const QCoreApplication application(m_argc, m_argv); // the texts name the program
-        const QString text = parser.isSet(help) ? parser.helpText().trimmed()
-                                                : QCoreApplication::applicationName() + QLatin1Char(' ') +
-                                                      QCoreApplication::applicationVersion();
+        const QString text = options.asksForHelp() ? options.helpText()
+                                                   : QCoreApplication::applicationName() + QLatin1Char(' ') +
+                                                         QCoreApplication::applicationVersion();
         const QStringList lines = text.split(QLatin1Char('\n'));
         for (const QString& line : lines)
             say(stdout, line);
         return false;
     }
-    m_database = parser.value(db);
-    m_import = parser.value(import);
-    m_export = parser.value(exportTo);
-    m_backup = parser.value(backup);
-    m_restore = parser.value(restore);
-    m_tour = parser.value(tour);
-    m_survey = parser.value(survey);
-    m_tourCameras = parser.value(tourScans).toInt();
-    m_leaveOutPasswords = parser.isSet(noPasswords);
-    m_checkTour = parser.isSet(checkTour);
+    m_database = options.value("db");
+    m_import = options.value("import");
+    m_export = options.value("export");
+    m_backup = options.value("backup");
+    m_restore = options.value("restore");
+    m_tour = options.value("tour");
+    m_survey = options.value("tour-survey");
+    m_tourCameras = options.value("tour-scans").toInt();
+    m_leaveOutPasswords = options.isSet("without-passwords");
+    m_checkTour = options.isSet("check-tour");
+    if (!needsWindow() && !options.toolkitOption().isEmpty())
+        return refuse(
+            QCoreApplication::translate("CommandLine", "%1 is for windows, and none is opened here.")
+                .arg(options.toolkitOption()));
     return canBeNamed({m_database, m_export, m_backup, m_restore, m_tour, m_survey});
+}
+
+bool CommandLine::refuse(const QString& reason)
+{
+    say(stderr, reason);
+    m_exitCode = WrongUsage;
+    return false;
 }
 
 /// All but the list to import, which is opened by the bytes of its name.
@@ -196,6 +177,12 @@ int CommandLine::runTask()
         return Good;
     if (needsWindow())
         return runWindow();
+    if (!m_import.isEmpty() && !QFileInfo::exists(StoreFile::resolved(databaseFile()))) {
+        // A list that is refused must not leave a new database behind.
+        const CameraSurvey::ImportResult refused = CameraSurvey::check(m_import);
+        if (!refused.error.isEmpty())
+            return report(refused);
+    }
     const std::unique_ptr<HostNodeDB> db = open(false);
     if (!db)
         return NoDatabase;
@@ -271,10 +258,14 @@ bool CommandLine::runTour(HostNodeDB& db, MainWindow& window) const
 
 int CommandLine::importCameras() const
 {
-    const CameraSurvey::ImportResult result = CameraSurvey::importCameras(m_import, [](qint64, qint64) {
+    return report(CameraSurvey::importCameras(m_import, [](qint64, qint64) {
         QCoreApplication::processEvents(); // the database stores what was done so far
         return true;
-    });
+    }));
+}
+
+int CommandLine::report(const CameraSurvey::ImportResult& result) const
+{
     for (const CameraSurvey::BadLine& line : result.badLines)
         say(stderr, QCoreApplication::translate("CommandLine", "%1, line %2: %3")
                         .arg(m_import, QString::number(line.line), line.reason));

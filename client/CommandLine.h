@@ -1,6 +1,8 @@
 #ifndef KO_COMMANDLINE_H
 #define KO_COMMANDLINE_H
 
+#include "exchange/CameraSurvey.h"
+
 #include <QStringList>
 
 #include <memory>
@@ -23,6 +25,7 @@ public:
 
 private:
     bool parse();
+    bool refuse(const QString& reason);
     bool canBeNamed(const QStringList& files);
     bool needsWindow() const;
     QString databaseFile() const;
@@ -32,6 +35,7 @@ private:
     bool showWindow(HostNodeDB& db, int* exitCode) const;
     bool runTour(HostNodeDB& db, MainWindow& window) const;
     int importCameras() const;
+    int report(const CameraSurvey::ImportResult& result) const;
     int exportCameras() const;
     int copyDatabase() const;
 

@@ -2,6 +2,9 @@
 
 #include "AddressChangesDialog.h"
 #include "AuditLogDialog.h"
+#include "DeviceSettings.h"
+#include "EnvironmentNotice.h"
+#include "FocusMark.h"
 #include "ImportReportDialog.h"
 #include "LayoutAdapter.h"
 #include "NameList.h"
@@ -13,19 +16,16 @@
 #include "RemoveNodesBox.h"
 #include "ScannerStatus.h"
 #include "SurveyCommands.h"
+#include "WheelGuard.h"
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "dialogs/AddNodeDialog.h"
 #include "dialogs/EditNodeDialog.h"
 #include "dialogs/EnvironmentDialog.h"
 #include "dialogs/NetworkProxyDialog.h"
-#include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/NodeDBViewer.h"
 #include "dialogs/NodeOverviewDialog.h"
-#include "dialogs/RecordingFolderAssignmentDialog.h"
-#include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "drivers/NodeTypes.h"
-#include "inspector/NodeChangeLogEntry.h"
 #include "ko/Node.h"
 #include "ko/dialogFlags.h"
 #include "utils/WindowTitle.h"
@@ -46,8 +46,6 @@
 #include <QTableView>
 #include <QTimer>
 #include <QToolBar>
-
-#include <algorithm>
 
 namespace ko {
 
@@ -101,11 +99,14 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_types(new QComboBox(this))
     , m_counts(new QLabel(this))
     , m_surveys(new SurveyCommands(this))
+    , m_environment(new EnvironmentNotice(db, statusBar()))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("%1 - Nodes").arg(inWindowTitle(QFileInfo(db.fileName()).fileName())));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
     registerNodeLogEntries();
+    new WheelGuard(this);
+    new FocusMark(this);
     createList();
     createToolBar();
     createCommands();
@@ -151,8 +152,9 @@ void MainWindow::createList()
 void MainWindow::createToolBar()
 {
     m_search->setObjectName(QStringLiteral("searchLineEdit"));
-    m_search->setPlaceholderText(tr("Search (Ctrl+F): words in name, type, address or recording"));
+    m_search->setPlaceholderText(tr("Search (Ctrl+F)"));
     m_search->setClearButtonEnabled(true);
+    m_search->setToolTip(tr("Words in name, type, address or recording"));
     m_search->setAccessibleName(tr("Search"));
     connect(m_search, &QLineEdit::textChanged, m_model, &NodeListModel::setSearch);
     QAction* clear = new QAction(m_search);
@@ -310,6 +312,9 @@ void MainWindow::createCommands()
     connect(findChild<QAction*>(QStringLiteral("actionQuit")), &QAction::triggered, this, &QWidget::close);
     bar->addSeparator();
     bar->addWidget(m_search);
+    QLabel* typesLabel = new QLabel(tr(" T&ype: "), this); // by which a screen reader names the box
+    typesLabel->setBuddy(m_types);
+    bar->addWidget(typesLabel);
     bar->addWidget(m_types);
 
     QAction* find = new QAction(this);
@@ -376,7 +381,7 @@ void MainWindow::openEditor(const QString& id, bool readOnly)
 {
     const LayoutAdapter layouts;
     EditNodeDialog dialog(id, this, readOnly, listOptions | environmentRow | layoutLists, &layouts);
-    dialog.exec();
+    m_environment->exec(dialog);
 }
 
 void MainWindow::addNode()
@@ -391,7 +396,7 @@ void MainWindow::addNode()
     types.removeOne(IPDeviceType);
     types.prepend(IPDeviceType);
     AddNodeDialog dialog(this, this, &types, false, listOptions | environmentRow);
-    dialog.exec();
+    m_environment->exec(dialog);
     const kom::smart<const Node> node = m_db.node(dialog.nodeId());
     if (node.null())
         return;
@@ -427,40 +432,18 @@ QStringList MainWindow::selectedDevices() const
     return devices;
 }
 
-/// The dialogs for many cameras leave the audit log to whoever opens them.
-void MainWindow::logChanges(const QStringList& ids)
-{
-    for (const QString& id : ids) {
-        const NodeSummary node = m_db.summary(id);
-        if (!node.id.isEmpty())
-            m_db.auditLog().log(NodeChangeLogEntry(node.name));
-    }
-    m_db.flush(); // on disk when the dialog has closed
-}
-
 void MainWindow::editRecording()
 {
-    QStringList devices = selectedDevices();
-    std::unique_ptr<QDialog> dialog;
-    if (devices.size() == 1) {
-        dialog = std::make_unique<RecordingFolderAssignmentDialog>(devices.constFirst(), this);
-    } else if (!devices.isEmpty()) {
-        const auto isOther = [this](const QString& id) { return m_db.summary(id).type != IPDeviceType; };
-        devices.erase(std::remove_if(devices.begin(), devices.end(), isOther), devices.end());
-        dialog = std::make_unique<RecordingFolderMassAssignmentDialog>(this, devices, dialogFlags(false));
-    }
-    if (dialog && dialog->exec() == QDialog::Accepted)
-        logChanges(devices);
+    const QStringList devices = selectedDevices();
+    if (!devices.isEmpty())
+        statusBar()->showMessage(DeviceSettings::editRecording(m_db, devices, this), 10000);
 }
 
 void MainWindow::editCredentials()
 {
     const QStringList devices = selectedDevices();
-    if (devices.isEmpty())
-        return;
-    NodeAuthenticateDialog dialog(this, devices, dialogFlags(false));
-    if (dialog.exec() == QDialog::Accepted)
-        logChanges(devices);
+    if (!devices.isEmpty())
+        statusBar()->showMessage(DeviceSettings::editCredentials(m_db, devices, this), 10000);
 }
 
 QStringList MainWindow::selectedNames(const QStringList& ids) const

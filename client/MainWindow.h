@@ -14,6 +14,7 @@ class QLineEdit;
 
 namespace ko {
 
+class EnvironmentNotice;
 class HostNodeDB;
 class NodeListModel;
 class NodeListView;
@@ -69,7 +70,6 @@ private:
     void openEditor(const QString& id, bool readOnly);
     QStringList selectedNames(const QStringList& ids) const;
     QStringList selectedDevices() const;
-    void logChanges(const QStringList& ids);
     QString unstoredText() const;
     void restoreState();
     void saveState() const;
@@ -81,6 +81,7 @@ private:
     QComboBox* const m_types;
     QLabel* const m_counts;
     SurveyCommands* const m_surveys;
+    EnvironmentNotice* const m_environment;
     QList<QAction*> m_forOne;  ///< enabled while one node is selected
     QList<QAction*> m_forSome; ///< enabled while at least one node is selected
     QSet<QString> m_changed;   ///< taken into the list together at the end of the turn

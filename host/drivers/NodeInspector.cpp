@@ -7,6 +7,7 @@
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
 
+#include <QFocusEvent>
 #include <QVBoxLayout>
 
 namespace ko {
@@ -53,6 +54,11 @@ public:
             updateNode();
     }
 
+protected:
+    /// Typing starts in the first field. A focus proxy would be a stop of its own for Tab, and lead past the
+    /// tab bar.
+    void focusInEvent(QFocusEvent* event) override { m_stack->focusFirstField(event->reason()); }
+
 private:
     PageStack* addStack(const QVector<PageSpec>& pages)
     {
@@ -60,7 +66,6 @@ private:
         QVBoxLayout* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(stack);
-        this->setFocusProxy(stack);
         return stack;
     }
 

@@ -8,7 +8,9 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QShortcut>
 #include <QSpinBox>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -60,12 +62,33 @@ PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
     layout->addWidget(tabs);
 
     alignCaptions();
-    // Typing starts in the first field, which is the name.
-    if (!m_pages.empty())
-        setFocusProxy(m_pages.front().page->widget()->findChild<QWidget*>(QLatin1String("nameLineEdit")));
+    tabs->tabBar()->setAccessibleName(tr("Pages"));
+    addPageKeys(tabs);
 }
 
 PageStack::~PageStack() = default;
+
+/// The tab widget has these keys too, but some controls keep them for themselves.
+void PageStack::addPageKeys(QTabWidget* tabs)
+{
+    const auto add = [this, tabs](const QKeySequence& keys, int step) {
+        const auto* shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, tabs, [tabs, step] {
+            tabs->setCurrentIndex((tabs->currentIndex() + step + tabs->count()) % tabs->count());
+        });
+    };
+    add(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1);
+    add(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1);
+}
+
+void PageStack::focusFirstField(Qt::FocusReason reason)
+{
+    QWidget* name = m_pages.empty()
+                        ? nullptr
+                        : m_pages.front().page->widget()->findChild<QWidget*>(QLatin1String("nameLineEdit"));
+    if (name)
+        name->setFocus(reason);
+}
 
 void PageStack::alignCaptions()
 {

@@ -9,6 +9,7 @@
 #include <vector>
 
 class QLabel;
+class QTabWidget;
 
 namespace ko {
 
@@ -28,6 +29,9 @@ public:
 
     /// Brings what the user has not touched up to date with the node.
     void refresh();
+
+    /// The field where typing starts, which is the name.
+    void focusFirstField(Qt::FocusReason reason);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -52,6 +56,7 @@ private:
     }
     void connectConnectionPage(bool proposeNames);
     void capture();
+    void addPageKeys(QTabWidget* tabs);
 
     /// Captions line up across pages, also when another tab comes to the front.
     void alignCaptions();

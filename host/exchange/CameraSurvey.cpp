@@ -110,6 +110,11 @@ bool writeDevices(QIODevice* file, Passwords passwords, const Progress& progress
 
 } // namespace
 
+ImportResult check(const QString& fileName)
+{
+    return SurveyImport(fileName, Progress()).check();
+}
+
 ImportResult importCameras(const QString& fileName, const Progress& progress)
 {
     return SurveyImport(fileName, progress).run();

@@ -56,6 +56,10 @@ enum class Passwords {
     LeaveOut ///< neither the column nor those that stand in URLs or other cells
 };
 
+/// Reads the list as importCameras() does before its first change, without a database: what it refuses as a
+/// whole is in the result.
+KO_HOST_EXPORT ImportResult check(const QString& fileName);
+
 /// Adds and changes devices as the file says. All changes of a line are stored together. When storing fails
 /// the import stops, and what could not be stored is taken back. Changes go into the audit log: "NRen" and
 /// "NChg" for each device that was changed, and one "NImp" at the end if there was any change.

@@ -136,9 +136,17 @@ SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress
 {
 }
 
+CameraSurvey::ImportResult SurveyImport::check()
+{
+    isSound();
+    return m_result;
+}
+
 CameraSurvey::ImportResult SurveyImport::run()
 {
-    if (open() && readFile(Pass::Check) && canStorePasswords()) {
+    if (!NodeDB::getDB()) {
+        m_result.error = say("There is no database.");
+    } else if (isSound()) {
         followOthers();
         readFile(Pass::Apply);
     }
@@ -146,6 +154,11 @@ CameraSurvey::ImportResult SurveyImport::run()
     if (!m_result.storeFailed && !store([] {}))
         log();
     return m_result; // an entry of the log that waits is stored with the next changes
+}
+
+bool SurveyImport::isSound()
+{
+    return open() && readFile(Pass::Check) && canStorePasswords();
 }
 
 /// Other programs and other windows add devices between two parts of the list.
@@ -209,10 +222,6 @@ bool SurveyImport::open()
     const QByteArray name = FileName::toBytes(m_fileName);
     struct stat info = {};
     const bool exists = ::stat(name.constData(), &info) == 0;
-    if (!NodeDB::getDB()) {
-        m_result.error = say("There is no database.");
-        return false;
-    }
     if (exists && !S_ISREG(info.st_mode)) { // a pipe can't be read twice, and opening one may wait for ever
         m_result.error = say("%1 is not a regular file.").arg(m_fileName);
         return false;

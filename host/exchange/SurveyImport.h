@@ -19,6 +19,9 @@ class SurveyImport
 public:
     SurveyImport(const QString& fileName, const CameraSurvey::Progress& progress);
 
+    /// The first reading alone; no database is needed.
+    CameraSurvey::ImportResult check();
+
     CameraSurvey::ImportResult run();
 
 private:
@@ -29,6 +32,7 @@ private:
     void storeFailed(const QString& reason);
     void log();
     bool open();
+    bool isSound();
     bool readFile(Pass pass);
     bool readSome(CsvReader& reader, const SurveyHeader& header, Pass pass);
     bool canStorePasswords();

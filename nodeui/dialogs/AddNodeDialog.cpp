@@ -35,6 +35,9 @@ AddNodeDialog::AddNodeDialog(void* context, QWidget* parent, const QList<ENodeTy
                 SLOT(setInspectorFromIndex(int)));
     ko::connect(m_ui->buttonBox, SIGNAL(accepted()), this, SLOT(ok()));
     ko::connect(NodeDB::getDB(), SIGNAL(nodeInserted(ko::NodeID)), this, SLOT(nodeAdded(ko::NodeID)));
+    // A letter that is meant for the name must not switch the environment.
+    if (InspectorWidget* inspector = m_ui->containerWidget->findChild<InspectorWidget*>())
+        inspector->setFocus(Qt::OtherFocusReason);
 }
 
 AddNodeDialog::~AddNodeDialog()

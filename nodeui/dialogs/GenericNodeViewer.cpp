@@ -5,6 +5,8 @@
 
 #include "ui_GenericNodeViewer.h"
 
+#include <QKeyEvent>
+
 namespace ko {
 
 GenericNodeViewer::GenericNodeViewer(const QString& id, QWidget* parent)
@@ -33,5 +35,13 @@ GenericNodeViewer::GenericNodeViewer(const QString& id, QWidget* parent)
 }
 
 GenericNodeViewer::~GenericNodeViewer() = default;
+
+void GenericNodeViewer::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        m_ui->closeButton->click();
+    else
+        QWidget::keyPressEvent(event);
+}
 
 } // namespace ko

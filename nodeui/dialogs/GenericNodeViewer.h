@@ -24,6 +24,9 @@ public:
     GenericNodeViewer(const QString& id, QWidget* parent);
     ~GenericNodeViewer() override;
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     Q_DISABLE_COPY(GenericNodeViewer)
 

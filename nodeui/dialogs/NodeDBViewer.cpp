@@ -7,6 +7,7 @@
 
 #include "ui_NodeDBViewer.h"
 
+#include <QKeyEvent>
 #include <QSortFilterProxyModel>
 
 namespace ko {
@@ -87,6 +88,17 @@ NodeDBViewer::NodeDBViewer(QWidget* parent)
 }
 
 NodeDBViewer::~NodeDBViewer() = default;
+
+void NodeDBViewer::keyPressEvent(QKeyEvent* event)
+{
+    const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else if (opens && m_ui->nodesTableView->hasFocus())
+        openPropertyWindow(m_ui->nodesTableView->currentIndex());
+    else
+        QWidget::keyPressEvent(event);
+}
 
 void NodeDBViewer::openPropertyWindow(const QModelIndex index)
 {

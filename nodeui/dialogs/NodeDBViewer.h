@@ -32,6 +32,9 @@ public:
     /// Leaves model and proxy behind; the model's handle keeps the list alive as long as the model lives.
     ~NodeDBViewer() override;
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private slots:
     void openPropertyWindow(const QModelIndex index);
 

@@ -19,26 +19,14 @@ namespace ko {
 
 namespace {
 
-/// What joins the window later stands last in its tab order; this puts the buttons behind it again.
+/// What joins the window later is last in its tab order; this puts the buttons after it again. All at once,
+/// because their box is a stop that hands the focus on, and must stay before them.
 void moveToEndOfTabOrder(QDialogButtonBox* buttons)
 {
-    QList<QWidget*> inBox;
-    QWidget* last = nullptr;
-    QWidget* const window = buttons->window();
-    for (QWidget* widget = window->nextInFocusChain(); widget != window;
-         widget = widget->nextInFocusChain()) {
-        if (!(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy())
-            continue;
-        if (buttons->isAncestorOf(widget))
-            inBox.append(widget);
-        else
-            last = widget;
-    }
-    for (QWidget* button : std::as_const(inBox)) {
-        if (last)
-            QWidget::setTabOrder(last, button);
-        last = button;
-    }
+    QLayout* const layout = buttons->parentWidget()->layout();
+    buttons->setParent(nullptr); // leaves the order with everything in it
+    layout->addWidget(buttons);
+    buttons->show();
 }
 
 } // namespace

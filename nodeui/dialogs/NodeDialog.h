@@ -46,7 +46,8 @@ protected:
     /// Takes over the combo box; shows the row and makes it live, or hides it, as \a flags say.
     void setEnvironmentRow(QLabel* label, QComboBox* comboBox, QPushButton* proxyButton, unsigned flags);
 
-    /// Takes over the inspector, which fills the container and is reached by Tab before the buttons.
+    /// Takes over the inspector, which fills the container and is reached by Tab before the buttons,
+    /// which must be the last item of their layout.
     void embed(InspectorWidget* inspector, QWidget* container, QDialogButtonBox* buttons);
 
     /// The title \a pattern with \a name at its %1, shown as it is, whatever it holds.

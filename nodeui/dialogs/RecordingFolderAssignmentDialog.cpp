@@ -127,8 +127,9 @@ RecordingFolderAssignmentDialog::RecordingFolderAssignmentDialog(const QString& 
 
     QTableWidget* table = m_ui->relatedNodesWidget;
     table->setColumnHidden(IdColumn, true);
-    table->verticalHeader()->setMinimumSectionSize(rowHeight);
-    table->verticalHeader()->setDefaultSectionSize(rowHeight);
+    const int height = qMax(rowHeight, fontMetrics().height() + 2); // of a large font
+    table->verticalHeader()->setMinimumSectionSize(height);
+    table->verticalHeader()->setDefaultSectionSize(height);
     table->horizontalHeader()->setSortIndicator(NameColumn, Qt::AscendingOrder);
     for (const int column : {NameColumn, PathColumn})
         table->setColumnWidth(column, table->viewport()->width() / 2);

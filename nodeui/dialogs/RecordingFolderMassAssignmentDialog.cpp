@@ -59,6 +59,8 @@ RecordingFolderMassAssignmentDialog::RecordingFolderMassAssignmentDialog(QWidget
 {
     m_ui->setupUi(this);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    // Not in the form: what is made in a disabled box stays unknown to screen readers.
+    m_ui->specificPathGroupBox->setEnabled(m_ui->specificFileServerPathRadioButton->isChecked());
     if (!m_cameraIds.isEmpty()) {
         const QString text = tr("<p><b>Select how %2 should access the recordings of:</b></p><ul>%1</ul>");
         m_ui->cameraLabel->setText(
@@ -76,6 +78,7 @@ RecordingFolderMassAssignmentDialog::RecordingFolderMassAssignmentDialog(QWidget
     ko::connect(m_ui->browseButton, SIGNAL(clicked()), this, SLOT(browse()));
     ko::connect(m_ui->specificFileServerPathRadioButton, SIGNAL(toggled(bool)), this, SLOT(checkUI()));
     ko::connect(m_ui->pathLineEdit, SIGNAL(textChanged(QString)), this, SLOT(checkUI()));
+    checkUI(); // the first camera may have a specific path, and the field begins empty
     adjustSize();
 }
 

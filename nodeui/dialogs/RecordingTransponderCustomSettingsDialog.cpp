@@ -9,6 +9,9 @@
 
 #include "ui_RecordingTransponderCustomSettingsDialog.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
 #include <QPushButton>
 
 namespace ko {
@@ -36,6 +39,14 @@ void select(QComboBox* comboBox, const QString& text)
         comboBox->setCurrentIndex(index);
 }
 
+/// Screen readers name a combo box by its label only, not by the check box that is before it.
+void nameLike(QComboBox* comboBox, const QCheckBox* checkBox)
+{
+    QLabel* label = new QLabel(checkBox->text(), comboBox->parentWidget());
+    label->setBuddy(comboBox);
+    label->hide();
+}
+
 } // namespace
 
 RecordingTransponderCustomSettingsDialog::RecordingTransponderCustomSettingsDialog(const QString& nodeId,
@@ -49,6 +60,8 @@ RecordingTransponderCustomSettingsDialog::RecordingTransponderCustomSettingsDial
     m_ui->framerateComboBox->addItems(NodeDBUtils::sm_Framerates);
     m_ui->resolutionComboBox->addItems(NodeDBUtils::sm_Resolutions);
     m_ui->resolutionComboBox->addItem(NodeDBUtils::sm_ResCustom);
+    nameLike(m_ui->qualityComboBox, m_ui->qualityCustomCheckBox);
+    nameLike(m_ui->resolutionComboBox, m_ui->resolutionCustomCheckBox);
 
     const struct
     {

@@ -93,8 +93,12 @@ class tst_CommandLine : public QObject
 private slots:
     void init();
 
+    void help_data();
     void help();
     void version();
+    void toolkitOptionsWithAWindow_data();
+    void toolkitOptionsWithAWindow();
+    void toolkitOptionsWithoutAWindow();
     void wrongUsage_data();
     void wrongUsage();
     void importAndExport();
@@ -107,6 +111,8 @@ private slots:
     void namesThatAreNoText();
     void badLists_data();
     void badLists();
+    void refusedListMakesNoDatabase_data();
+    void refusedListMakesNoDatabase();
     void exportWithoutPasswords();
     void exportIsItsOwnersAlone();
     void exportIntoAMissingFolder();
@@ -187,9 +193,17 @@ QByteArray tst_CommandLine::contentOf(const QString& file)
     return reader.open(QIODevice::ReadOnly) ? reader.readAll() : QByteArray();
 }
 
+void tst_CommandLine::help_data()
+{
+    QTest::addColumn<QString>("option");
+    for (const char* option : {"--help", "--help-all", "-h"})
+        QTest::newRow(option) << option;
+}
+
 void tst_CommandLine::help()
 {
-    const Call result = call({"--help"});
+    QFETCH(QString, option);
+    const Call result = onDatabase({option});
     QCOMPARE(result.exitCode, 0);
     for (const char* option :
          {"--db", "--import", "--export", "--without-passwords", "--backup", "--restore"})
@@ -210,14 +224,50 @@ void tst_CommandLine::wrongUsage_data()
     QTest::newRow("unknown option") << QStringList("--unknown");
     QTest::newRow("no value") << QStringList("--import");
     QTest::newRow("no option") << QStringList("file.csv");
+    for (const char* option :
+         {"--db", "--import", "--export", "--backup", "--restore", "--tour", "--tour-survey", "--tour-scans"})
+        QTest::newRow(qPrintable(QString("nothing after %1").arg(option))) << QStringList({option, ""});
+    QTest::newRow("nothing after the sign") << QStringList("--export=");
+    QTest::newRow("no number") << QStringList({"--tour-scans", "many"});
 }
 
 void tst_CommandLine::wrongUsage()
 {
     QFETCH(QStringList, arguments);
-    const Call result = call(arguments);
+    const Call result = onDatabase(arguments);
     QCOMPARE(result.exitCode, int(CommandLine::WrongUsage));
     QVERIFY(!result.complained.isEmpty());
+    QVERIFY(!QFile::exists(m_database));
+}
+
+void tst_CommandLine::toolkitOptionsWithAWindow_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("heard");
+    // The toolkit names a style that it does not know.
+    QTest::newRow("one dash") << QStringList({"-style", "no-such-style"}) << "no-such-style";
+    QTest::newRow("two dashes") << QStringList({"--style", "no-such-style"}) << "no-such-style";
+    QTest::newRow("equals") << QStringList("-style=no-such-style") << "no-such-style";
+    QTest::newRow("platform") << QStringList({"-platform", "minimal"}) << QString();
+}
+
+void tst_CommandLine::toolkitOptionsWithAWindow()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, heard);
+    m_database = write("no.kodb", QByteArray(1000, 'x')); // so that the window does not stay
+    const Call result = onDatabase(QStringList({"--tour", m_folder->filePath("tour")}) + options);
+    QCOMPARE(result.exitCode, int(CommandLine::NoDatabase));
+    QVERIFY2(result.complained.contains(heard), qPrintable(result.complained));
+}
+
+void tst_CommandLine::toolkitOptionsWithoutAWindow()
+{
+    const QString list = write("in.csv", "name,address\nGate,10.0.0.1\n");
+    const Call result = onDatabase({"--import", list, "-platform", "xcb"});
+    QCOMPARE(result.exitCode, int(CommandLine::WrongUsage));
+    QVERIFY2(result.complained.contains("-platform"), qPrintable(result.complained));
+    QVERIFY(!QFile::exists(m_database));
 }
 
 void tst_CommandLine::importAndExport()
@@ -368,6 +418,23 @@ void tst_CommandLine::badLists()
     QCOMPARE(result.exitCode, int(CommandLine::Failed));
     QVERIFY(!result.complained.isEmpty());
     QVERIFY(result.said.contains("0 added"));
+}
+
+void tst_CommandLine::refusedListMakesNoDatabase_data()
+{
+    badLists_data();
+    QTest::newRow("missing") << QByteArray("-");
+}
+
+void tst_CommandLine::refusedListMakesNoDatabase()
+{
+    QFETCH(QByteArray, content);
+    const QString list = content == "-" ? m_folder->filePath("missing.csv") : write("in.csv", content);
+    const QStringList before = QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    const Call result = onDatabase({"--import", list});
+    QCOMPARE(result.exitCode, int(CommandLine::Failed));
+    QVERIFY(result.said.contains("0 added"));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
 }
 
 void tst_CommandLine::exportWithoutPasswords()

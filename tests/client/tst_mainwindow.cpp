@@ -371,6 +371,7 @@ void tst_MainWindow::credentialsOfASelection()
     }
     QCOMPARE(logged(), QStringList({"NChg: Changed properties of device with name Gate north.",
                                     "NChg: Changed properties of device with name Yard."}));
+    QVERIFY(m_window->statusBar()->currentMessage().startsWith("2 device"));
     QVERIFY(logged().filter(QStringLiteral("p@ss")).isEmpty());
 }
 
@@ -385,6 +386,9 @@ void tst_MainWindow::credentialsNeedADevice()
 
 void tst_MainWindow::recordingOfOneAndOfMany()
 {
+    const QStringList cameras = m_host->db()->nodeIdList(IPDeviceType);
+    for (const QString& id : cameras)
+        m_host->change(id, [](Node* node) { node->setStringProperty("FactoryIP", "10_1_2_3"); });
     QStringList opened;
     for (const QStringList& names : {QStringList("Gate north"), QStringList({"Gate north", "Gate south"})}) {
         select(names);

@@ -136,6 +136,8 @@ void tst_Soak::initTestCase()
     for (int i = int(m_nodes.size()); i < nodes; ++i)
         m_cameras.append(
             m_host->add(IPDeviceType, QStringLiteral("Camera"), QStringLiteral("%1.example.org").arg(i)));
+    for (const QString& id : std::as_const(m_cameras))
+        m_host->change(id, [](Node* node) { node->setStringProperty("FactoryIP", "10_1_2_3"); });
     QVERIFY(m_host->db()->flush());
     QCOMPARE(m_host->db()->summaries().size(), nodes);
     m_window = std::make_unique<MainWindow>(*m_host->db());

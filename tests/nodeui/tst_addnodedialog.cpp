@@ -450,6 +450,7 @@ private slots:
         auto* ok = child<QDialogButtonBox>(dialog.get(), "buttonBox")->button(QDialogButtonBox::Ok);
         QVERIFY(ok->isDefault());
         QVERIFY(ok->autoDefault());
+        QVERIFY(child<QLineEdit>(dialog.get(), "nameLineEdit")->hasFocus()); // and not the environment
         const QStringList expected = {
             "environmentComboBox", "proxyPushButton", "nodeTypeComboBox", "nameLineEdit", "OK", "Cancel"};
         for (int index : {1, 0, 1}) {

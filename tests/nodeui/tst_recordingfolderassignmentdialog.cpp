@@ -137,6 +137,7 @@ private slots:
     void olderUsages();
     void missingCamera();
     void otherTypesOfCamera();
+    void rowsFitALargeFont();
     void table();
     void tableOfOthersFolders();
     void insertedFolders();
@@ -434,6 +435,16 @@ void tst_RecordingFolderAssignmentDialog::otherTypesOfCamera()
     QVERIFY(!parts.global->isEnabled());
     QVERIFY(!parts.transponder->isChecked());
     QVERIFY(!parts.settings->isEnabled());
+}
+
+void tst_RecordingFolderAssignmentDialog::rowsFitALargeFont()
+{
+    const QFont before = QApplication::font();
+    QApplication::setFont(QFont(before.family(), 20));
+    const Dialog dialog("cam", nullptr);
+    QApplication::setFont(before);
+    const Parts parts(&dialog);
+    QVERIFY(parts.table->rowHeight(0) > QFontMetrics(parts.table->font()).height());
 }
 
 void tst_RecordingFolderAssignmentDialog::table()

@@ -293,6 +293,7 @@ void tst_RecordingFolderMassAssignmentDialog::beginsAsTheFirstCamera()
     QCOMPARE(fields.transponder->isChecked(), transponder);
     QCOMPARE(fields.group->isEnabled(), usage == 2);
     QVERIFY(fields.path->text().isEmpty());
+    QCOMPARE(fields.ok->isEnabled(), usage != 2); // Enter at once must not take the paths away
 }
 
 void tst_RecordingFolderMassAssignmentDialog::specificPathEnablesItsGroup()

@@ -1,0 +1,133 @@
+#include "CommandOptions.h"
+
+#include <QCoreApplication>
+
+namespace ko {
+
+namespace {
+
+struct Option
+{
+    const char* name;
+    const char* text;
+    const char* value; ///< what it takes; empty for a switch
+};
+
+const Option options[] = {
+    {"db", QT_TRANSLATE_NOOP("CommandLine", "Opens this node database; it is made if it is not there."),
+     "FILE"},
+    {"import",
+     QT_TRANSLATE_NOOP("CommandLine", "Adds the cameras of a list (CSV) and ends. No window is needed."),
+     "FILE"},
+    {"export", QT_TRANSLATE_NOOP("CommandLine", "Writes all cameras into a list (CSV) and ends."), "FILE"},
+    {"without-passwords", QT_TRANSLATE_NOOP("CommandLine", "Leaves the passwords out of --export."), ""},
+    {"backup",
+     QT_TRANSLATE_NOOP("CommandLine", "Copies the database, which may be in use, into a file and ends."),
+     "FILE"},
+    {"restore",
+     QT_TRANSLATE_NOOP("CommandLine",
+                       "Gives the database, which may be in use, the content of a backup and ends. "
+                       "The present content is kept as a backup."),
+     "FILE"},
+    {"tour", QT_TRANSLATE_NOOP("CommandLine", "Walks through the windows by itself and leaves pictures."),
+     "FOLDER"},
+    {"tour-survey", QT_TRANSLATE_NOOP("CommandLine", "The list of cameras that the walk imports."), "FILE"},
+    {"tour-scans",
+     QT_TRANSLATE_NOOP("CommandLine", "So many cameras are found by scans, and nothing else is done."),
+     "NUMBER"},
+    {"check-tour", QT_TRANSLATE_NOOP("CommandLine", "Looks whether what the walk did is in the database."),
+     ""},
+};
+
+const Option toolkitOptions[] = {
+    {"platform", "", "NAME"},
+    {"platformpluginpath", "", "FOLDER"},
+    {"platformtheme", "", "NAME"},
+    {"plugin", "", "NAME"},
+    {"style", "", "NAME"},
+    {"stylesheet", "", "FILE"},
+    {"qwindowgeometry", "", "SIZE"},
+    {"qwindowicon", "", "FILE"},
+    {"qwindowtitle", "", "TEXT"},
+    {"geometry", "", "SIZE"},
+    {"icon", "", "FILE"},
+    {"title", "", "TEXT"},
+    {"session", "", "NAME"},
+    {"display", "", "NAME"},
+    {"name", "", "NAME"},
+    {"reverse", "", ""},
+    {"widgetcount", "", ""},
+    {"nograb", "", ""},
+    {"dograb", "", ""},
+    {"sync", "", ""},
+};
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("CommandLine", text);
+}
+
+} // namespace
+
+CommandOptions::CommandOptions()
+{
+    const auto add = [this](const Option& option) {
+        QCommandLineOption added(QLatin1String(option.name), QString(), QLatin1String(option.value));
+        if (*option.text)
+            added.setDescription(translated(option.text));
+        else
+            added.setFlags(QCommandLineOption::HiddenFromHelp);
+        m_parser.addOption(added);
+    };
+    // The toolkit's options have one dash, which must not be read as a row of one-letter options.
+    m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    m_parser.setApplicationDescription(
+        translated("Shows, adds, edits and removes the nodes of a video-surveillance system.\n"
+                   "Without --import, --export, --backup and --restore it opens a window, and takes the "
+                   "toolkit's options (-platform, -style and others) too."));
+    m_parser.addHelpOption();
+    m_parser.addVersionOption();
+    for (const Option& option : options)
+        add(option);
+    for (const Option& option : toolkitOptions)
+        add(option);
+}
+
+QString CommandOptions::read(const QStringList& arguments)
+{
+    if (!m_parser.parse(arguments))
+        return m_parser.errorText();
+    if (!m_parser.positionalArguments().isEmpty())
+        return translated("Unexpected argument: %1").arg(m_parser.positionalArguments().constFirst());
+    return asksForHelp() || isSet("version") ? QString() : badValue();
+}
+
+/// An empty value is what a script passes whose variable is not set: it is not meant as a missing option.
+QString CommandOptions::badValue() const
+{
+    for (const Option& option : options) {
+        if (*option.value && isSet(option.name) && value(option.name).isEmpty())
+            return translated("The value after --%1 is empty.").arg(QLatin1String(option.name));
+    }
+    bool isNumber = true;
+    const bool isPositive = value("tour-scans").toInt(&isNumber) > 0;
+    if (isSet("tour-scans") && !(isNumber && isPositive))
+        return translated("The value after --tour-scans is not a number of cameras.");
+    return QString();
+}
+
+QString CommandOptions::helpText() const
+{
+    return m_parser.helpText().trimmed();
+}
+
+QString CommandOptions::toolkitOption() const
+{
+    for (const Option& option : toolkitOptions) {
+        if (isSet(option.name))
+            return QLatin1Char('-') + QLatin1String(option.name);
+    }
+    return QString();
+}
+
+} // namespace ko

@@ -1,0 +1,173 @@
+#include "DeviceSettings.h"
+
+#include "NameList.h"
+#include "PlainMessageBox.h"
+#include "audit/AuditLog.h"
+#include "database/HostNodeDB.h"
+#include "dialogs/NodeAuthenticateDialog.h"
+#include "dialogs/RecordingFolderAssignmentDialog.h"
+#include "dialogs/RecordingFolderMassAssignmentDialog.h"
+#include "inspector/NodeChangeLogEntry.h"
+#include "ko/IPDeviceNode.h"
+#include "ko/dialogFlags.h"
+
+#include <QCoreApplication>
+#include <QPushButton>
+#include <QSet>
+
+#include <algorithm>
+
+namespace ko {
+
+namespace DeviceSettings {
+
+namespace {
+
+QString translated(const char* text, int n = -1)
+{
+    return QCoreApplication::translate("DeviceSettings", text, nullptr, n);
+}
+
+/// These dialogs leave the audit log to whoever opens them.
+void logChanges(HostNodeDB& db, const QStringList& ids)
+{
+    for (const QString& id : ids) {
+        const NodeSummary node = db.summary(id);
+        if (!node.id.isEmpty())
+            db.auditLog().log(NodeChangeLogEntry(node.name));
+    }
+    db.flush(); // on disk when the dialog has closed
+}
+
+QStringList namesOf(const HostNodeDB& db, const QStringList& ids)
+{
+    QStringList names;
+    for (const QString& id : ids)
+        names.append(db.summary(id).name);
+    return names;
+}
+
+/// Whether the camera has an address of its own that its folder on a file server can be named by.
+bool hasFactoryAddress(const HostNodeDB& db, const QString& id)
+{
+    const kom::smart<const Node> camera = db.node(id);
+    const QString address =
+        camera.null() ? QString() : camera->stringProperty(QStringLiteral("FactoryIP"), QString());
+    return !address.isEmpty() && address != QLatin1String("10_0_0_0"); // as every camera leaves the factory
+}
+
+/// Takes the cameras out of the list that would get no folder of their own, if the user wants that. False
+/// when he wants nothing done.
+bool agreeOnCameras(const HostNodeDB& db, QStringList* cameras, QWidget* parent)
+{
+    QStringList with;
+    QStringList without;
+    for (const QString& id : std::as_const(*cameras))
+        (hasFactoryAddress(db, id) ? with : without).append(id);
+    if (without.isEmpty())
+        return true;
+    PlainMessageBox box(QMessageBox::Warning, translated("Access Recordings"), QString(), QMessageBox::Cancel,
+                        parent);
+    box.setObjectName(QStringLiteral("factoryAddressBox"));
+    box.setText(
+        translated("The factory IP address of %n of the selected cameras is not known:",
+                   int(without.size())) +
+        QStringLiteral("\n\n") + listOfNames(namesOf(db, without)) + QStringLiteral("\n\n") +
+        translated("Their recordings can be played via the camera. On a file server, however, the folder of "
+                   "a camera is named by this address: with the default path these cameras would share one "
+                   "folder without a name, with a specific path they would lose the path that they have."));
+    QPushButton* leaveOut = nullptr;
+    if (!with.isEmpty())
+        leaveOut = box.addButton(translated("&Leave Them Out"), QMessageBox::AcceptRole);
+    const QPushButton* all = box.addButton(translated("Go On With &All"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(leaveOut ? leaveOut : qobject_cast<QPushButton*>(box.button(QMessageBox::Cancel)));
+    box.setEscapeButton(QMessageBox::Cancel);
+    box.exec();
+    if (leaveOut && box.clickedButton() == leaveOut) {
+        *cameras = with;
+        return true;
+    }
+    return box.clickedButton() == static_cast<const QAbstractButton*>(all);
+}
+
+/// Asks before many different user names or passwords become one. Nothing of a password is shown.
+bool agreeOnCredentials(const HostNodeDB& db, const QStringList& devices, QWidget* parent)
+{
+    QSet<QString> users;
+    QSet<QString> passwords;
+    for (const QString& id : devices) {
+        const auto device = db.node(id).cast<const IPDeviceNode>();
+        if (device.null())
+            continue;
+        users.insert(device->user(1));
+        passwords.insert(device->password(1));
+    }
+    if (users.size() <= 1 && passwords.size() <= 1)
+        return true;
+    PlainMessageBox box(QMessageBox::Warning, translated("User & Password"), QString(), QMessageBox::Cancel,
+                        parent);
+    box.setObjectName(QStringLiteral("credentialsBox"));
+    box.setText(translated("The %n selected devices do not have the same user name and password: there are "
+                           "%1 user names and %2 passwords.",
+                           int(devices.size()))
+                    .arg(users.size())
+                    .arg(passwords.size()) +
+                QStringLiteral("\n\n") +
+                translated("The next window begins with those of the first device, and gives all of them "
+                           "what it shows when you press OK:") +
+                QStringLiteral("\n\n") + listOfNames(namesOf(db, devices)));
+    const QPushButton* go = box.addButton(translated("&Give All the Same..."), QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.setEscapeButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == static_cast<const QAbstractButton*>(go);
+}
+
+/// One of several: what was done, and what not because it cannot be done for many.
+QString editRecordings(HostNodeDB& db, const QStringList& devices, QWidget* parent)
+{
+    QStringList cameras;
+    std::copy_if(devices.begin(), devices.end(), std::back_inserter(cameras),
+                 [&db](const QString& id) { return db.summary(id).type == IPDeviceType; });
+    if (cameras.isEmpty())
+        return translated("Only IP devices can be set together. Select one of the others at a time.");
+    if (!agreeOnCameras(db, &cameras, parent))
+        return QString();
+    RecordingFolderMassAssignmentDialog dialog(parent, cameras, dialogFlags(false));
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    logChanges(db, cameras);
+    const int others = int(devices.size() - cameras.size());
+    QString done = translated("%n device(s): access to recordings set.", int(cameras.size()));
+    if (others > 0)
+        done += QLatin1Char(' ') + translated("%n left as they were.", others);
+    return done;
+}
+
+} // namespace
+
+QString editRecording(HostNodeDB& db, const QStringList& devices, QWidget* parent)
+{
+    if (devices.size() > 1)
+        return editRecordings(db, devices, parent);
+    RecordingFolderAssignmentDialog dialog(devices.constFirst(), parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    logChanges(db, devices);
+    return translated("%n device(s): access to recordings set.", 1);
+}
+
+QString editCredentials(HostNodeDB& db, const QStringList& devices, QWidget* parent)
+{
+    if (!agreeOnCredentials(db, devices, parent))
+        return QString();
+    NodeAuthenticateDialog dialog(parent, devices, dialogFlags(false));
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    logChanges(db, devices);
+    return translated("%n device(s): user name and password set.", int(devices.size()));
+}
+
+} // namespace DeviceSettings
+
+} // namespace ko

@@ -1,0 +1,227 @@
+#include "support/HostFixture.h"
+#include "support/ModalAnswer.h"
+#include "support/TestMain.h"
+
+#include "DeviceSettings.h"
+#include "ko/IPDeviceNode.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+using namespace ko;
+using testsupport::child;
+using testsupport::ModalAnswer;
+
+namespace {
+
+/// Answers one dialog after the other; the last one that came is named.
+class Answers
+{
+public:
+    typedef std::function<void(QDialog*)> Action;
+
+    explicit Answers(const QVector<Action>& actions)
+        : m_actions(actions)
+    {
+        next();
+    }
+
+    QStringList opened() const { return m_opened; }
+
+private:
+    void next()
+    {
+        if (m_opened.size() >= m_actions.size())
+            return;
+        m_answers.push_back(std::make_unique<ModalAnswer>([this](QDialog* dialog) {
+            m_opened.append(dialog->objectName());
+            const Action action = m_actions.at(m_opened.size() - 1);
+            next();
+            action(dialog);
+        }));
+    }
+
+    const QVector<Action> m_actions;
+    std::vector<std::unique_ptr<ModalAnswer>> m_answers;
+    QStringList m_opened;
+};
+
+void pressEnter(QDialog* dialog)
+{
+    QTest::keyClick(dialog, Qt::Key_Return);
+}
+
+void cancel(QDialog* dialog)
+{
+    dialog->reject();
+}
+
+} // namespace
+
+class tst_DeviceSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_host.reset(); }
+
+    void camerasWithoutAddressAreNamed();
+    void leftOutIsLeftAsItIs();
+    void allTheSame();
+    void noneWithAddress();
+    void nothingToAskForOne();
+    void othersAloneOpenNothing();
+    void credentialsThatDiffer();
+    void credentialsAgreedOn();
+    void credentialsThatAreTheSame();
+
+private:
+    QString addCamera(const QString& name, const QString& factoryAddress);
+    kom::smart<const IPDeviceNode> device(const QString& id) const
+    {
+        return m_host->db()->node(id).cast<const IPDeviceNode>();
+    }
+    void setUser(const QString& id, const QString& user, const QString& password);
+    int usage(const QString& id) const { return device(id)->intProperty("RecordingStorageUsage", 0); }
+
+    std::unique_ptr<testsupport::HostFixture> m_host;
+    QStringList m_cameras; ///< the last one has no factory address
+};
+
+QString tst_DeviceSettings::addCamera(const QString& name, const QString& factoryAddress)
+{
+    const QString id = m_host->add(IPDeviceType, name, name + ".example");
+    m_host->change(id, [&](Node* node) { node->setStringProperty("FactoryIP", factoryAddress); });
+    return id;
+}
+
+void tst_DeviceSettings::setUser(const QString& id, const QString& user, const QString& password)
+{
+    m_host->change(id, [&](Node* node) { dynamic_cast<IPDeviceNode*>(node)->setUser(user, password); });
+}
+
+void tst_DeviceSettings::init()
+{
+    m_host = std::make_unique<testsupport::HostFixture>();
+    m_host->db()->setGlobalRecordingFolderPath("/recordings");
+    m_cameras = QStringList({addCamera("Gate", "10_1_2_3"), addCamera("Yard", "10_1_2_4"),
+                             addCamera("Dock", "10_0_0_0"), addCamera("Roof", QString())});
+}
+
+void tst_DeviceSettings::camerasWithoutAddressAreNamed()
+{
+    QString text;
+    const Answers answers({[&text](QDialog* dialog) {
+        text = qobject_cast<QMessageBox*>(dialog)->text();
+        dialog->reject();
+    }});
+    QCOMPARE(DeviceSettings::editRecording(*m_host->db(), m_cameras, nullptr), QString());
+    QCOMPARE(answers.opened(), QStringList("factoryAddressBox")); // and no dialog after it
+    for (const char* name : {"Dock", "Roof"})
+        QVERIFY2(text.contains(QLatin1String(name)), qPrintable(text));
+    QVERIFY(!text.contains("Gate") && !text.contains("Yard"));
+}
+
+/// Enter takes the way on which nothing is lost.
+void tst_DeviceSettings::leftOutIsLeftAsItIs()
+{
+    QString cameras;
+    const Answers answers({pressEnter, [&cameras](QDialog* dialog) {
+                               cameras = child<QLabel>(dialog, "cameraLabel")->text();
+                               child<QRadioButton>(dialog, "defaultFileServerPathRadioButton")->click();
+                               dialog->accept();
+                           }});
+    const QString done = DeviceSettings::editRecording(*m_host->db(), m_cameras, nullptr);
+    QCOMPARE(answers.opened(), QStringList({"factoryAddressBox", "RecordingFolderMassAssignmentDialog"}));
+    QVERIFY2(cameras.contains("Gate") && !cameras.contains("Roof"), qPrintable(cameras));
+    QCOMPARE(usage(m_cameras.at(0)), 1);
+    QCOMPARE(usage(m_cameras.at(1)), 1);
+    QCOMPARE(usage(m_cameras.at(2)), 0);
+    QCOMPARE(usage(m_cameras.at(3)), 0);
+    QVERIFY2(done.startsWith("2 device") && done.contains("2 left"), qPrintable(done));
+}
+
+void tst_DeviceSettings::allTheSame()
+{
+    const Answers answers({[](QDialog* dialog) { ModalAnswer::press("Go On With All")(dialog); },
+                           [](QDialog* dialog) {
+                               child<QRadioButton>(dialog, "defaultFileServerPathRadioButton")->click();
+                               dialog->accept();
+                           }});
+    const QString done = DeviceSettings::editRecording(*m_host->db(), m_cameras, nullptr);
+    QVERIFY2(done.startsWith("4 device"), qPrintable(done));
+    QCOMPARE(usage(m_cameras.at(3)), 1);
+}
+
+void tst_DeviceSettings::noneWithAddress()
+{
+    const Answers answers({pressEnter}); // nothing would be left: it means Cancel
+    QCOMPARE(DeviceSettings::editRecording(*m_host->db(), m_cameras.mid(2), nullptr), QString());
+    QCOMPARE(answers.opened(), QStringList("factoryAddressBox"));
+}
+
+void tst_DeviceSettings::nothingToAskForOne()
+{
+    const Answers answers({cancel});
+    DeviceSettings::editRecording(*m_host->db(), m_cameras.mid(3), nullptr);
+    QCOMPARE(answers.opened(), QStringList("RecordingFolderAssignmentDialog"));
+}
+
+void tst_DeviceSettings::othersAloneOpenNothing()
+{
+    const QStringList others = {m_host->add(UrlCameraType, "First", "first.example"),
+                                m_host->add(UrlCameraType, "Second", "second.example")};
+    const Answers answers({cancel});
+    QVERIFY(!DeviceSettings::editRecording(*m_host->db(), others, nullptr).isEmpty());
+    QCOMPARE(answers.opened(), QStringList());
+}
+
+/// Enter, without looking, must not overwrite what differs.
+void tst_DeviceSettings::credentialsThatDiffer()
+{
+    setUser(m_cameras.at(0), "admin", "first secret");
+    setUser(m_cameras.at(1), "admin", "second secret");
+    setUser(m_cameras.at(2), "viewer", "second secret");
+    setUser(m_cameras.at(3), "", "third secret");
+    QString text;
+    const Answers answers({[&text](QDialog* dialog) {
+        text = qobject_cast<QMessageBox*>(dialog)->text();
+        QTest::keyClick(dialog, Qt::Key_Return);
+    }});
+    QCOMPARE(DeviceSettings::editCredentials(*m_host->db(), m_cameras, nullptr), QString());
+    QCOMPARE(answers.opened(), QStringList("credentialsBox"));
+    QVERIFY2(text.contains("3 user names and 3 passwords"), qPrintable(text));
+    QVERIFY(!text.contains("secret"));
+    QCOMPARE(device(m_cameras.at(1))->password(1), QString("second secret"));
+}
+
+void tst_DeviceSettings::credentialsAgreedOn()
+{
+    setUser(m_cameras.at(0), "admin", "first");
+    const Answers answers({[](QDialog* dialog) { ModalAnswer::press("Give All the Same...")(dialog); },
+                           [](QDialog* dialog) {
+                               child<QLineEdit>(dialog, "passWordLineEdit")->setText("new");
+                               dialog->accept();
+                           }});
+    const QString done = DeviceSettings::editCredentials(*m_host->db(), m_cameras, nullptr);
+    QVERIFY2(done.startsWith("4 device"), qPrintable(done));
+    for (const QString& id : std::as_const(m_cameras))
+        QCOMPARE(device(id)->password(1), QString("new"));
+}
+
+void tst_DeviceSettings::credentialsThatAreTheSame()
+{
+    for (const QString& id : std::as_const(m_cameras))
+        setUser(id, "admin", "same");
+    const Answers answers({cancel});
+    DeviceSettings::editCredentials(*m_host->db(), m_cameras, nullptr);
+    QCOMPARE(answers.opened(), QStringList("NodeAuthenticateDialog"));
+}
+
+KO_TEST_MAIN(tst_DeviceSettings)
+#include "tst_devicesettings.moc"
