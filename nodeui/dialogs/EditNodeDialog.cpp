@@ -13,6 +13,17 @@
 
 namespace ko {
 
+namespace {
+
+/// Deletes a button, but not while \a box knows it: in Qt 4.8 the box would go on using it.
+void removeFrom(QDialogButtonBox* box, QAbstractButton* button)
+{
+    box->removeButton(button);
+    delete button;
+}
+
+} // namespace
+
 EditNodeDialog::EditNodeDialog(const QString& id, QWidget* parent, bool readOnly, unsigned flags,
                                const ILayoutAdapter* layoutAdapter)
     : NodeDialog(parent, dialogFlags(false) & ~Qt::WindowMinimizeButtonHint)
@@ -23,9 +34,9 @@ EditNodeDialog::EditNodeDialog(const QString& id, QWidget* parent, bool readOnly
     okButton->setDefault(true);
     okButton->setAutoDefault(true);
     if (readOnly) {
-        // removeButton() would leave them to us
-        delete m_ui->buttonBox->button(QDialogButtonBox::Apply);
-        delete m_ui->buttonBox->button(QDialogButtonBox::Cancel);
+        for (const QDialogButtonBox::StandardButton which :
+             {QDialogButtonBox::Apply, QDialogButtonBox::Cancel})
+            removeFrom(m_ui->buttonBox, m_ui->buttonBox->button(which));
     }
     const kom::smart<const Node> node = NodeDB::getDB()->node(id);
     if (!node.null()) {

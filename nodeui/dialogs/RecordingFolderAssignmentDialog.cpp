@@ -137,8 +137,11 @@ RecordingFolderAssignmentDialog::RecordingFolderAssignmentDialog(const QString& 
     fillTableWidget();
 
     const QMargins margins = layout()->contentsMargins();
-    m_collapsedHeight = margins.top() + 2 * layout()->spacing() + margins.bottom() +
-                        m_ui->groupBox->sizeHint().height() + m_ui->buttonBox->sizeHint().height();
+    const int content = margins.top() + m_ui->groupBox->sizeHint().height() +
+                        m_ui->buttonBox->sizeHint().height() + margins.bottom();
+    // layout()->spacing() is -1 in a style that has another one for each pair of widgets.
+    const int spacing = layout()->sizeHint().height() - m_ui->verticalSpacer_3->sizeHint().height() - content;
+    m_collapsedHeight = content + 2 * spacing;
     setFixedHeight(m_collapsedHeight);
     resize(sizeHint().width(), m_collapsedHeight); // the group box may be narrower than its texts
     connectAll();

@@ -39,7 +39,7 @@ QString factoryExtension(const Node& camera)
 
 QString folderBelow(const QString& path, const QString& extension)
 {
-    const QLatin1String share("//");
+    const QString share = QLatin1String("//");
     QString folder = QDir::cleanPath(path + QDir::separator() + extension);
     if (path.startsWith(share) && !folder.startsWith(share))
         folder.prepend(QLatin1Char('/')); // cleaned away where the system itself knows no shares

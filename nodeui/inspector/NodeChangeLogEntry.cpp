@@ -6,7 +6,8 @@ namespace ko {
 
 namespace {
 
-const char titleText[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Changed device properties");
+// Not an array: the macro puts the text in parentheses in Qt 4.8.
+const char* const titleText = QT_TRANSLATE_NOOP("ko::LogEntry", "Changed device properties");
 
 LogEntry* create()
 {

@@ -53,7 +53,7 @@ QModelIndex NodeViewModel::index(int row, int column, const QModelIndex& parent)
         return QModelIndex();
     if (row < 0 || row >= entries->count())
         return QModelIndex();
-    return createIndex(row, column, quintptr(entries->internalIdAt(row)));
+    return createIndex(row, column, entries->internalIdAt(row));
 }
 
 QModelIndex NodeViewModel::parent(const QModelIndex& child) const
@@ -213,7 +213,7 @@ void NodeViewModel::nodeChanged(ko::NodeID id)
 QModelIndex NodeViewModel::indexOf(const NodeViewEntry& entry, int column) const
 {
     const SubViewEntry* parent = m_view->parentOf(entry);
-    return parent ? createIndex(parent->rowOf(entry), column, quintptr(entry.internalId())) : QModelIndex();
+    return parent ? createIndex(parent->rowOf(entry), column, entry.internalId()) : QModelIndex();
 }
 
 QModelIndex NodeViewModel::indexOfList(unsigned listId) const

@@ -49,6 +49,22 @@ void stackLayoutPage(SmallInspector* inspector)
     inspector->addPage(page, "layoutOptions");
 }
 
+/// Counts the buttons that are taken out of a button box, and those that are destroyed in one.
+struct TakenButtons : QObject
+{
+    TakenButtons() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::ChildRemoved && qobject_cast<QDialogButtonBox*>(watched))
+            ++(qobject_cast<QPushButton*>(static_cast<QChildEvent*>(event)->child()) ? alive : destroyed);
+        return QObject::eventFilter(watched, event);
+    }
+
+    int alive = 0;
+    int destroyed = 0;
+};
+
 /// A database with the camera "cam1", named "Entrance".
 struct Host
 {
@@ -257,6 +273,15 @@ private slots:
         QTest::mouseClick(box->button(QDialogButtonBox::Ok), Qt::LeftButton);
         QCOMPARE(host.db.calls.first(), QString("inspector.ok()"));
         QCOMPARE(dialog->result(), int(QDialog::Accepted));
+    }
+
+    void readOnlyBoxForgetsItsButtonsFirst()
+    {
+        Host host;
+        const TakenButtons taken;
+        const auto dialog = host.open(true);
+        QCOMPARE(taken.alive, 2);
+        QCOMPARE(taken.destroyed, 0); // Qt 4.8 would go on using them
     }
 
     void keyboard()

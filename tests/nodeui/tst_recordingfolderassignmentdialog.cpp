@@ -19,8 +19,10 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTextDocument>
@@ -115,6 +117,34 @@ struct Box
     ModalAnswer answer;
 };
 
+/// The application's style from construction to destruction: its layouts keep this distance, which it tells
+/// at once or, as some styles do, for each pair of widgets only.
+class SpacingStyle : public QProxyStyle
+{
+public:
+    SpacingStyle(int spacing, bool computed)
+        : m_spacing(spacing)
+        , m_computed(computed)
+    {
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+    {
+        if (metric == PM_LayoutVerticalSpacing)
+            return m_computed ? -1 : m_spacing;
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+    int layoutSpacing(QSizePolicy::ControlType, QSizePolicy::ControlType, Qt::Orientation,
+                      const QStyleOption*, const QWidget*) const override
+    {
+        return m_spacing;
+    }
+
+private:
+    const int m_spacing;
+    const bool m_computed;
+};
+
 } // namespace
 
 class tst_RecordingFolderAssignmentDialog : public QObject
@@ -146,6 +176,7 @@ private slots:
     void renamedWhileSorted();
     void namesAndPathsAreText();
     void manyFoldersOpenFast();
+    void expandAndCollapse_data();
     void expandAndCollapse();
     void otherChoiceCollapses();
     void transponderButton();
@@ -590,18 +621,32 @@ void tst_RecordingFolderAssignmentDialog::manyFoldersOpenFast()
     QVERIFY2(ours < 8 * plain, qPrintable(times));
 }
 
+void tst_RecordingFolderAssignmentDialog::expandAndCollapse_data()
+{
+    QTest::addColumn<int>("spacing");
+    QTest::addColumn<bool>("computed");
+    QTest::newRow("one spacing") << 7 << false;
+    QTest::newRow("one for each pair") << 11 << true;
+}
+
 void tst_RecordingFolderAssignmentDialog::expandAndCollapse()
 {
+    QFETCH(int, spacing);
+    QFETCH(bool, computed);
+    const QString usual = QApplication::style()->objectName();
+    QApplication::setStyle(new SpacingStyle(spacing, computed));
+    const auto restored = qScopeGuard([&] { QApplication::setStyle(usual); });
     setUsage(2);
     Dialog dialog("cam", nullptr);
     dialog.show();
     const Parts parts(&dialog);
     const QMargins margins = dialog.layout()->contentsMargins();
-    const int collapsed = margins.top() + 2 * dialog.layout()->spacing() + margins.bottom() +
+    const int collapsed = margins.top() + 2 * spacing + margins.bottom() +
                           child<QGroupBox>(&dialog, "groupBox")->sizeHint().height() +
                           child<QDialogButtonBox>(&dialog, "buttonBox")->sizeHint().height();
     QCOMPARE(dialog.height(), collapsed);
     QCOMPARE(dialog.maximumHeight(), collapsed);
+    QCOMPARE(testsupport::cutOff(&dialog), QStringList());
     const int width = dialog.width();
     click(parts.more);
     QVERIFY(parts.folders->isVisible());

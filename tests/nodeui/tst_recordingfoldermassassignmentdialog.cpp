@@ -70,6 +70,7 @@ private slots:
     void cleanup() { m_db.reset(); }
 
     void form();
+    void everyRowHasALabelItem();
     void tabOrder();
     void roomForLongTexts();
     void metaObject();
@@ -171,6 +172,20 @@ void tst_RecordingFolderMassAssignmentDialog::form()
     QCOMPARE(child<QDialogButtonBox>(&dialog, "buttonBox")->standardButtons(),
              QDialogButtonBox::StandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel));
     QVERIFY(m_db->calls.isEmpty());
+}
+
+// Qt 4.8 lays a field without one out over both columns and cuts it off.
+void tst_RecordingFolderMassAssignmentDialog::everyRowHasALabelItem()
+{
+    RecordingFolderMassAssignmentDialog dialog(nullptr, ids(1), Qt::Dialog);
+    dialog.show();
+    const auto* rows = child<QFormLayout>(&dialog, "formLayout");
+    const int column = child<QLabel>(&dialog, "cameraLabel")->x();
+    QCOMPARE(rows->rowCount(), 8);
+    for (int row = 0; row < rows->rowCount() - 1; ++row) { // the last holds the buttons
+        QVERIFY2(rows->itemAt(row, QFormLayout::LabelRole), qPrintable(QString::number(row)));
+        QCOMPARE(rows->itemAt(row, QFormLayout::FieldRole)->widget()->x(), column);
+    }
 }
 
 void tst_RecordingFolderMassAssignmentDialog::tabOrder()
