@@ -57,7 +57,7 @@ struct TakenButtons : QObject
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::ChildRemoved && qobject_cast<QDialogButtonBox*>(watched))
-            ++(qobject_cast<QPushButton*>(static_cast<QChildEvent*>(event)->child()) ? alive : destroyed);
+            ++(static_cast<QChildEvent*>(event)->child()->inherits("QPushButton") ? alive : destroyed);
         return QObject::eventFilter(watched, event);
     }
 
