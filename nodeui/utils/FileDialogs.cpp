@@ -2,9 +2,6 @@
 
 #include <QDir>
 #include <QFileDialog>
-#include <QFileIconProvider>
-#include <QFileInfo>
-#include <QIcon>
 
 namespace ko {
 
@@ -12,44 +9,12 @@ namespace FileDialogs {
 
 namespace {
 
-/// Tells folders from files, and nothing else. Made on the GUI thread, asked by that which reads folders.
-class PlainIcons : public QFileIconProvider
-{
-public:
-    PlainIcons()
-        : m_folder(QFileIconProvider::icon(Folder))
-        , m_file(QFileIconProvider::icon(File))
-    {
-    }
-
-    QIcon icon(IconType type) const override { return QFileIconProvider::icon(type); }
-    QIcon icon(const QFileInfo& info) const override { return info.isDir() ? m_folder : m_file; }
-    QString type(const QFileInfo& info) const override
-    {
-        return info.isDir() ? QFileDialog::tr("Folder") : QFileDialog::tr("File");
-    }
-
-private:
-    const QIcon m_folder;
-    const QIcon m_file;
-};
-
-/// A base, so that the icons are there until the dialog has ended its thread.
-struct IconsOfDialog
-{
-    PlainIcons icons;
-};
-
-/// Begins with the folder of all folders, because what it lists before it has its icons is read.
-class Dialog : private IconsOfDialog, public QFileDialog
+class Dialog : public QFileDialog
 {
 public:
     Dialog(QWidget* parent, const QString& title, const QString& filter, const QString& start)
-        : QFileDialog(parent, title, QDir::rootPath(), filter)
+        : QFileDialog(parent, title, start.isEmpty() ? lastFolder() : start, filter)
     {
-        setOption(DontUseNativeDialog);
-        setIconProvider(&icons);
-        setDirectory(start.isEmpty() ? lastFolder() : start);
     }
 
     QString choose()
@@ -81,6 +46,8 @@ QString fileOrNewName(QWidget* parent, const QString& title, const QString& filt
 {
     Dialog dialog(parent, title, filter, QString());
     dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(
+        QFileDialog::DontUseNativeDialog); // some of the desktops' take no name that is not there
     return dialog.choose();
 }
 

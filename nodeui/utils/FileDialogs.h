@@ -9,11 +9,9 @@ class QWidget;
 
 namespace ko {
 
-/// Dialogs that choose files and folders and open none of the files that they list.
-///
-/// The toolkit's own ones read files to learn their types, and a desktop's may run in this process and read
-/// them for thumbnails. Who closes any descriptor of a file gives up all locks that his process holds on
-/// it, those of an open database too.
+/// The dialogs of the desktop, or the toolkit's own, that choose files and folders. They may open the files
+/// that they list, to learn their types or for thumbnails: a host whose files have locks that belong to the
+/// process loses those.
 ///
 /// Each returns a null string when the user cancels. They begin in the folder of the last choice.
 namespace FileDialogs {
