@@ -102,6 +102,12 @@ QString spelt(uint code)
     return code <= 0xffff ? QLatin1String("\\u") + hex(code, 4) : QLatin1String("\\U") + hex(code, 8);
 }
 
+void copy(const QString& from, int at, int units, QString* to)
+{
+    for (int i = at; i < at + units; ++i)
+        to->append(from.at(i));
+}
+
 } // namespace
 
 QString fit(const QString& text)
@@ -114,7 +120,7 @@ QString fit(const QString& text)
             result += QLatin1Char(' ');
             before = ' ';
         } else if (sign.code == '\n' || !isUnseen(sign.code, before)) {
-            result.append(text.constData() + i, sign.units);
+            copy(text, i, sign.units, &result);
             before = sign.code;
         }
         i += sign.units;
@@ -131,7 +137,7 @@ QString visible(const QString& text)
         if (isUnseen(sign.code, before))
             result += spelt(sign.code);
         else
-            result.append(text.constData() + i, sign.units);
+            copy(text, i, sign.units, &result);
         before = sign.code;
         i += sign.units;
     }
