@@ -1,6 +1,7 @@
 #ifndef KO_FOCUSMARK_H
 #define KO_FOCUSMARK_H
 
+#include <QObject>
 #include <QPointer>
 
 class QFocusFrame;
