@@ -46,6 +46,7 @@
 #include <QTableView>
 #include <QTimer>
 #include <QToolBar>
+#include <QTreeView>
 
 namespace ko {
 
@@ -166,7 +167,8 @@ void MainWindow::createToolBar()
     m_types->setObjectName(QStringLiteral("typeComboBox"));
     m_types->setAccessibleName(tr("Type"));
     m_types->addItem(tr("All types"), int(AllNodeTypes));
-    const NodeDB::TypeNames types = m_db.readableNodeTypeNames(nullptr, true);
+    const QList<ENodeType> all = NodeTypes::all();
+    const NodeDB::TypeNames types = m_db.readableNodeTypeNames(&all, true);
     for (const auto& type : types)
         m_types->addItem(NodeTypes::icon(type.first), type.second, int(type.first));
     connect(m_types, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -496,6 +498,8 @@ void MainWindow::showAuditLog()
 void MainWindow::showOverview()
 {
     NodeOverviewDialog dialog(this);
+    connect(dialog.findChild<QTreeView*>(QStringLiteral("nodesTreeView")), &QTreeView::doubleClicked,
+            dialog.findChild<QAction*>(QStringLiteral("actionEdit")), &QAction::trigger);
     if (dialog.exec() != QDialog::Accepted)
         return;
     applyChanges();

@@ -363,7 +363,11 @@ QString HostNodeDB::readableNodeTypeName(ENodeType type) const
 NodeDB::TypeNames HostNodeDB::readableNodeTypeNames(const QList<ENodeType>* types, bool sorted) const
 {
     TypeNames names;
-    const QList<ENodeType> offered = types ? *types : NodeTypes::all();
+    QList<ENodeType> offered = types ? *types : NodeTypes::all();
+    if (!types) // whatever comes first by its name, a dialog that adds begins with it
+        offered.erase(std::remove_if(offered.begin(), offered.end(),
+                                     [](ENodeType type) { return !NodeTypes::canBeAdded(type); }),
+                      offered.end());
     for (const ENodeType type : offered)
         names.append({type, NodeTypes::readableName(type)});
     if (sorted)

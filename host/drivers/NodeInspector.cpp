@@ -1,5 +1,6 @@
 #include "drivers/NodeInspector.h"
 
+#include "dialogs/NodeDialog.h"
 #include "drivers/NodeTypes.h"
 #include "drivers/PageStack.h"
 #include "inspector/IPDeviceInspectorWidget.h"
@@ -95,7 +96,14 @@ InspectorWidget* create(ENodeType type, Args&&... args)
 
 InspectorWidget* createNodeInspector(const NodeID& id, ENodeType type, bool readOnly, unsigned flags)
 {
-    return create(type, id, pagesOf(type), readOnly, flags);
+    QVector<PageSpec> pages;
+    const QVector<PageSpec> all = pagesOf(type);
+    for (const PageSpec& page : all) {
+        // With its lists left empty the page would write that nothing is chosen.
+        if ((flags & NodeDialog::FillLayoutLists) || qstrcmp(page.tab, "layoutOptions") != 0)
+            pages.append(page);
+    }
+    return create(type, id, pages, readOnly, flags);
 }
 
 InspectorWidget* createHintInspector(NodeHint& hint, unsigned flags)

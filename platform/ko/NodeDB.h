@@ -62,7 +62,7 @@ public:
 
     virtual QString readableNodeTypeName(ENodeType type) const = 0;
 
-    /// The types to offer with their names. A null \a types means all the database knows. Order: as in
+    /// The types to offer with their names. A null \a types leaves the choice to the database. Order: as in
     /// \a types or, if \a sorted, by name.
     virtual TypeNames readableNodeTypeNames(const QList<ENodeType>* types, bool sorted) const = 0;
 

@@ -56,6 +56,7 @@ private slots:
     void credentialsNeedADevice();
     void recordingOfOneAndOfMany();
     void overviewSelectsItsNodes();
+    void doubleClickInTheOverviewEdits();
     void everyDialogOpens_data();
     void everyDialogOpens();
     void stateIsKept();
@@ -418,6 +419,35 @@ void tst_MainWindow::overviewSelectsItsNodes()
     for (const QString& id : ids)
         names.append(m_host->db()->summary(id).name);
     QCOMPARE(names, QStringList({"Found 1", "Found 2"}));
+}
+
+/// The list forgets nothing of the camera: what the editor is not given to show it does not write.
+void tst_MainWindow::doubleClickInTheOverviewEdits()
+{
+    QString id;
+    QString edited;
+    const ModalAnswer answer([&](QDialog* dialog) {
+        id = m_host->add(IPDeviceType, QStringLiteral("Found"));
+        m_host->change(id, [](Node* node) {
+            node->setIntProperty("PreferredLayout", 3);
+            node->setStringProperty("InstructionFile", "how.txt");
+        });
+        auto* tree = child<QTreeView>(dialog, "nodesTreeView");
+        const QModelIndex index = tree->model()->index(0, 0);
+        const QPoint place = tree->visualRect(index).center();
+        const ModalAnswer editor([&edited](QDialog* shown) {
+            edited = shown->windowTitle();
+            shown->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        });
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, place);
+        QVERIFY(editor.fired());
+        dialog->reject();
+    });
+    trigger("actionOverview");
+    QVERIFY2(edited.contains("Found"), qPrintable(edited));
+    QCOMPARE(m_host->db()->node(id)->intProperty("PreferredLayout", -1), 3);
+    QCOMPARE(m_host->db()->node(id)->stringProperty("InstructionFile", QString()), QString("how.txt"));
 }
 
 void tst_MainWindow::everyDialogOpens_data()

@@ -474,10 +474,11 @@ void TestHostNodeDB::typeNames()
         QCOMPARE(names.at(i).second, m_db->readableNodeTypeName(types.at(i)));
     }
     names = m_db->readableNodeTypeNames(nullptr, true);
-    QCOMPARE(names.count(), NodeTypes::all().count());
+    QVERIFY(names.count() > 3);
+    for (const auto& name : std::as_const(names)) // adding begins with any of them, as its name sorts
+        QVERIFY2(!m_db->nodeDriver(name.first)->createNodeHint(name.first).null(), qPrintable(name.second));
     for (int i = 1; i < names.count(); ++i)
         QVERIFY(QString::localeAwareCompare(names.at(i - 1).second, names.at(i).second) <= 0);
-    QVERIFY(names.contains({InternalRecorderType, m_db->readableNodeTypeName(InternalRecorderType)}));
     const QList<ENodeType> none;
     QVERIFY(m_db->readableNodeTypeNames(&none, true).isEmpty());
     QVERIFY(m_db->nodeDriver(ENodeType(4711)).null());

@@ -4,6 +4,7 @@
 
 #include "audit/AuditLog.h"
 #include "dialogs/EditNodeDialog.h"
+#include "dialogs/NodeDialog.h"
 #include "drivers/InspectorPages.h"
 #include "inspector/IPDeviceInspectorWidget.h"
 #include "pages/PTZUrlsWidget.h"
@@ -119,7 +120,8 @@ QString tst_Inspectors::add(ENodeType type, const QString& name, const QString& 
 
 std::unique_ptr<InspectorWidget> tst_Inspectors::inspect(const QString& id, bool readOnly)
 {
-    return std::unique_ptr<InspectorWidget>(m_db->node(id)->createInspectorWidget(readOnly, 0));
+    return std::unique_ptr<InspectorWidget>(
+        m_db->node(id)->createInspectorWidget(readOnly, NodeDialog::FillLayoutLists));
 }
 
 void tst_Inspectors::changeElsewhere(const QString& id, const std::function<void(IPDeviceNode*)>& change)

@@ -471,9 +471,9 @@ void tst_RecordingFolderAssignmentDialog::otherTypesOfCamera()
 void tst_RecordingFolderAssignmentDialog::rowsFitALargeFont()
 {
     const QFont before = QApplication::font();
+    const auto restore = qScopeGuard([&before] { QApplication::setFont(before); });
     QApplication::setFont(QFont(before.family(), 20));
     const Dialog dialog("cam", nullptr);
-    QApplication::setFont(before);
     const Parts parts(&dialog);
     QVERIFY(parts.table->rowHeight(0) > QFontMetrics(parts.table->font()).height());
 }
