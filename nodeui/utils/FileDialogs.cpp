@@ -13,8 +13,9 @@ class Dialog : public QFileDialog
 {
 public:
     Dialog(QWidget* parent, const QString& title, const QString& filter, const QString& start)
-        : QFileDialog(parent, title, start.isEmpty() ? lastFolder() : start, filter)
+        : QFileDialog(parent, title, QString(), filter)
     {
+        setDirectory(start.isEmpty() ? lastFolder() : start); // which may be gone by now
     }
 
     QString choose()
