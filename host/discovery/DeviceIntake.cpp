@@ -27,6 +27,7 @@ namespace ko {
 namespace {
 
 const int Slice = 2;      // ms of work in one turn of the event loop; storing and painting take as much again
+const int SliceAlone = 1; // ms of these, where storing follows at once
 const int Patience = 500; // ms; until the next try, when another program holds the database
 const int Ripening = 500; // ms; in which the other services and addresses of a device arrive
 const int DevicesAtOnePlace = 64; // with one address or one name; bounds the work for one sighting
@@ -158,7 +159,9 @@ void DeviceIntake::Private::work()
     if (waiting.empty() && isRipe() && known.readMacs(slice, Slice)) {
         // Alone, so that two programs that scan one network do not both find a device missing, and add it.
         const auto settleSome = [&] {
-            while (isRipe() && !slice.hasExpired(Slice) && known.readMacs(slice, Slice)) {
+            QElapsedTimer alone;
+            alone.start();
+            while (isRipe() && !alone.hasExpired(SliceAlone) && known.readMacs(slice, Slice)) {
                 Device* device = ripening.front();
                 ripening.pop_front();
                 settle(*device);
