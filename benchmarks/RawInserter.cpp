@@ -1,9 +1,9 @@
 #include "RawInserter.h"
 
-#include "database/PropertyList.h"
 #include "drivers/NodeTypes.h"
 #include "interfaces/INodeDriverComponent.h"
 #include "ko/NodeHint.h"
+#include "model/PropertyList.h"
 #include "store/PropertyCoding.h"
 
 namespace bench {

@@ -1,8 +1,8 @@
 #ifndef KO_MAINWINDOW_H
 #define KO_MAINWINDOW_H
 
-#include "database/NodeData.h"
-#include "store/StoreError.h"
+#include "model/NodeData.h"
+#include "model/StoreError.h"
 
 #include <QMainWindow>
 #include <QPointer>

@@ -1,7 +1,7 @@
 #ifndef KO_NODELISTMODEL_H
 #define KO_NODELISTMODEL_H
 
-#include "database/NodeData.h"
+#include "model/NodeData.h"
 
 #include <QAbstractTableModel>
 #include <QBasicTimer>

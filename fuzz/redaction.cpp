@@ -1,6 +1,6 @@
 #include "Input.h"
 
-#include "secrets/Redaction.h"
+#include "model/Redaction.h"
 
 using namespace ko;
 

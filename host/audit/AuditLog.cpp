@@ -3,7 +3,7 @@
 #include "audit/GenericLogEntry.h"
 #include "audit/LogStore.h"
 #include "ko/LogEntryFactory.h"
-#include "secrets/Redaction.h"
+#include "model/Redaction.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>

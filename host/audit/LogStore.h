@@ -1,7 +1,7 @@
 #ifndef KO_LOGSTORE_H
 #define KO_LOGSTORE_H
 
-#include "store/LogRows.h"
+#include "model/LogRows.h"
 
 #include <QVector>
 

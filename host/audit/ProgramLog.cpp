@@ -4,7 +4,7 @@
 #include "audit/ProgramLogEntry.h"
 #include "ko/OutsideText.h"
 #include "ko/Terminal.h"
-#include "secrets/Redaction.h"
+#include "model/Redaction.h"
 
 #include <QCoreApplication>
 #include <QThread>

@@ -6,16 +6,16 @@
 #include "database/ProxySettings.h"
 #include "database/StoreWriter.h"
 #include "database/StoredEnvironments.h"
-#include "database/StoredNode.h"
 #include "discovery/DeviceIntake.h"
 #include "discovery/Scanner.h"
 #include "drivers/NodeTypes.h"
+#include "drivers/StoredNode.h"
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/LogQt.h"
 #include "ko/NodeHint.h"
 #include "recording/VolumeProbe.h"
 #include "secrets/Secrets.h"
-#include "secrets/StoredSecrets.h"
+#include "store/StoredSecrets.h"
 
 #include <QRandomGenerator>
 #include <QScopedValueRollback>

@@ -2,9 +2,9 @@
 #define KO_HOSTNODEDB_H
 
 #include "HostExport.h"
-#include "database/NodeData.h"
 #include "ko/NodeDB.h"
-#include "store/StoreError.h"
+#include "model/NodeData.h"
+#include "model/StoreError.h"
 
 #include <functional>
 #include <memory>

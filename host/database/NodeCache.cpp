@@ -1,6 +1,6 @@
 #include "database/NodeCache.h"
 
-#include "database/StoredNode.h"
+#include "drivers/StoredNode.h"
 
 namespace ko {
 

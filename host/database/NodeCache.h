@@ -2,9 +2,9 @@
 #define KO_NODECACHE_H
 
 #include "database/NodeIndex.h"
-#include "database/PackedSummary.h"
 #include "ko/Node.h"
 #include "kom/smart.h"
+#include "model/PackedSummary.h"
 
 #include <QHash>
 #include <QStringList>

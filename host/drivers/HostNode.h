@@ -1,11 +1,11 @@
 #ifndef KO_HOSTNODE_H
 #define KO_HOSTNODE_H
 
-#include "database/StoredNode.h"
 #include "drivers/NodeInspector.h"
 #include "drivers/NodeTypes.h"
 #include "drivers/PropertyKeys.h"
 #include "drivers/PropertyStorage.h"
+#include "drivers/StoredNode.h"
 #include "ko/Node.h"
 #include "ko/NodeHint.h"
 #include "secrets/Secrets.h"

@@ -2,8 +2,8 @@
 #define KO_NODETYPES_H
 
 #include "HostExport.h"
-#include "database/NodeData.h"
 #include "kom/smart.h"
+#include "model/NodeData.h"
 
 #include <QIcon>
 #include <QList>

@@ -1,8 +1,8 @@
 #ifndef KO_PROPERTYSTORAGE_H
 #define KO_PROPERTYSTORAGE_H
 
-#include "database/PropertyList.h"
 #include "kogen/Property.h"
+#include "model/PropertyList.h"
 
 #include <memory>
 

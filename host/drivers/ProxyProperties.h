@@ -1,8 +1,8 @@
 #ifndef KO_PROXYPROPERTIES_H
 #define KO_PROXYPROPERTIES_H
 
-#include "database/NodeData.h"
 #include "ko/NetworkProxy.h"
+#include "model/NodeData.h"
 
 namespace ko {
 

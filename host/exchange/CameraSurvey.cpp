@@ -11,7 +11,7 @@
 #include "exchange/SurveyImport.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
-#include "secrets/Redaction.h"
+#include "model/Redaction.h"
 #include "secrets/Secrets.h"
 
 #include <QCoreApplication>

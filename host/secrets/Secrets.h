@@ -1,8 +1,8 @@
 #ifndef KO_SECRETS_H
 #define KO_SECRETS_H
 
+#include "model/StoreError.h"
 #include "secrets/InstallationKey.h"
-#include "store/StoreError.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #ifndef KO_BACKUPKEEPER_H
 #define KO_BACKUPKEEPER_H
 
-#include "store/StoreError.h"
+#include "model/StoreError.h"
 
 #include <QBasicTimer>
 #include <QObject>

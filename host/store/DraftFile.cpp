@@ -1,6 +1,6 @@
 #include "store/DraftFile.h"
 
-#include "store/StoreError.h"
+#include "model/StoreError.h"
 #include "store/StoreFile.h"
 
 #include <QDateTime>

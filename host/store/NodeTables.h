@@ -1,9 +1,9 @@
 #ifndef KO_NODETABLES_H
 #define KO_NODETABLES_H
 
-#include "database/PackedSummary.h"
 #include "ko/Environments.h"
-#include "store/LogRows.h"
+#include "model/LogRows.h"
+#include "model/PackedSummary.h"
 #include "store/SqliteStore.h"
 
 #include <QMap>

@@ -1,6 +1,6 @@
 #include "store/PropertyCoding.h"
 
-#include "database/PropertyList.h"
+#include "model/PropertyList.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

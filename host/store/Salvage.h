@@ -1,7 +1,7 @@
 #ifndef KO_SALVAGE_H
 #define KO_SALVAGE_H
 
-#include "store/StoreError.h"
+#include "model/StoreError.h"
 
 #include <QTemporaryDir>
 

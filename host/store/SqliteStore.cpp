@@ -1,11 +1,11 @@
 #include "store/SqliteStore.h"
 
 #include "secrets/Secrets.h"
-#include "secrets/StoredSecrets.h"
 #include "store/DraftFile.h"
 #include "store/SqliteFile.h"
 #include "store/StoreBackup.h"
 #include "store/StoreFile.h"
+#include "store/StoredSecrets.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,8 +1,8 @@
 #ifndef KO_SQLITESTORE_H
 #define KO_SQLITESTORE_H
 
+#include "model/StoreError.h"
 #include "store/SqliteRows.h"
-#include "store/StoreError.h"
 #include "store/StoreSchema.h"
 
 #include <QSqlDatabase>

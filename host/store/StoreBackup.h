@@ -1,7 +1,7 @@
 #ifndef KO_STOREBACKUP_H
 #define KO_STOREBACKUP_H
 
-#include "store/StoreError.h"
+#include "model/StoreError.h"
 
 #include <QDateTime>
 #include <QVector>

@@ -1,6 +1,6 @@
 #include "store/StoreFile.h"
 
-#include "store/StoreError.h"
+#include "model/StoreError.h"
 #include "store/StoreSchema.h"
 
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #include "support/TestMain.h"
 
-#include "database/StoredNode.h"
 #include "drivers/NodeTypes.h"
+#include "drivers/StoredNode.h"
 #include "interfaces/INodeDriverComponent.h"
 #include "interfaces/ISupportsChannels.h"
 #include "ko/IPDeviceNode.h"

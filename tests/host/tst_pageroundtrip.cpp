@@ -3,7 +3,7 @@
 #include "support/PassThroughNodeDB.h"
 #include "support/TestMain.h"
 
-#include "database/StoredNode.h"
+#include "drivers/StoredNode.h"
 #include "kogen/Property.h"
 #include "pages/ControlDataWidget.h"
 #include "pages/CustomNetworkProxyWidget.h"

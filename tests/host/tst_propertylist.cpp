@@ -1,5 +1,5 @@
-#include "database/PropertyList.h"
 #include "kogen/Property.h"
+#include "model/PropertyList.h"
 #include "store/PropertyCoding.h"
 #include "support/TestMain.h"
 

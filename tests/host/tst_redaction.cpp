@@ -1,4 +1,4 @@
-#include "secrets/Redaction.h"
+#include "model/Redaction.h"
 #include "support/TestMain.h"
 
 #include <QElapsedTimer>

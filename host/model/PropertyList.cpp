@@ -1,4 +1,4 @@
-#include "database/PropertyList.h"
+#include "model/PropertyList.h"
 
 #include "ko/MutexLocker.h"
 #include "kogen/Property.h"

@@ -1,7 +1,7 @@
 #ifndef KO_STOREDSECRETS_H
 #define KO_STOREDSECRETS_H
 
-#include "database/NodeData.h"
+#include "model/NodeData.h"
 #include "store/SqliteStore.h"
 
 namespace ko {

@@ -1,6 +1,6 @@
-#include "store/StoreError.h"
+#include "model/StoreError.h"
 
-#include "secrets/Redaction.h"
+#include "model/Redaction.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "secrets/StoredSecrets.h"
+#include "store/StoredSecrets.h"
 
 #include "ko/LogQt.h"
 #include "secrets/Secrets.h"

@@ -1,4 +1,4 @@
-#include "database/StoredNode.h"
+#include "drivers/StoredNode.h"
 
 namespace ko {
 

@@ -1,7 +1,7 @@
 #ifndef KO_STOREDNODE_H
 #define KO_STOREDNODE_H
 
-#include "database/NodeData.h"
+#include "model/NodeData.h"
 
 namespace ko {
 

@@ -1,7 +1,7 @@
 #ifndef KO_PACKEDSUMMARY_H
 #define KO_PACKEDSUMMARY_H
 
-#include "database/NodeData.h"
+#include "model/NodeData.h"
 
 #include <string_view>
 

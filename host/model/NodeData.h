@@ -1,8 +1,8 @@
 #ifndef KO_NODEDATA_H
 #define KO_NODEDATA_H
 
-#include "database/PropertyList.h"
 #include "ko/Types.h"
+#include "model/PropertyList.h"
 
 namespace ko {
 

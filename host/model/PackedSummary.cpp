@@ -1,4 +1,4 @@
-#include "database/PackedSummary.h"
+#include "model/PackedSummary.h"
 
 namespace ko {
 
