@@ -1,45 +1,26 @@
 #include "database/HostNodeDB.h"
 
 #include "audit/AuditLog.h"
-#include "audit/LogStore.h"
-#include "database/NodeMemory.h"
-#include "database/ProxySettings.h"
-#include "database/StoreWriter.h"
-#include "database/StoredEnvironments.h"
+#include "database/HostSettings.h"
+#include "database/NodeCopies.h"
+#include "database/StoredLogs.h"
 #include "discovery/DeviceIntake.h"
 #include "discovery/Scanner.h"
 #include "drivers/NodeTypes.h"
-#include "drivers/StoredNode.h"
-#include "ko/GlobalNetworkProxy.h"
 #include "ko/LogQt.h"
 #include "ko/NodeHint.h"
 #include "recording/VolumeProbe.h"
 #include "secrets/Secrets.h"
-#include "store/StoredSecrets.h"
 
 #include <QRandomGenerator>
-#include <QScopedValueRollback>
-#include <QTimer>
-#include <QUuid>
 
 #include <algorithm>
-#include <future>
 #include <set>
-#include <unordered_map>
 #include <vector>
 
 namespace ko {
 
 namespace {
-
-constexpr int PollInterval = 200;      // ms; how soon changes of other processes are seen
-constexpr int RetryInterval = 5000;    // ms; between tries to store what could not be stored
-constexpr int ProgramLineDelay = 1000; // ms; a line of the program log alone is worth no commit at once
-
-constexpr char ActiveEnvironment[] = "environment.active";
-constexpr char RecordingFolderPath[] = "recording.globalFolderPath";
-constexpr char TransponderAddress[] = "recording.defaultTransponderAddress";
-constexpr char Bandwidth[] = "bandwidth";
 
 /// 16 characters, of which 75 bits are random: unique among processes that do not know of each other.
 /// Begins with a letter and holds no character that a spreadsheet, a URL or a file name would mind.
@@ -56,186 +37,99 @@ NodeID newNodeId()
 
 } // namespace
 
-class HostNodeDB::Private : public LogStore
+class HostNodeDB::Private
 {
 public:
-    explicit Private(std::unique_ptr<SqliteStore> openedStore);
+    Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened);
 
-    void start(HostNodeDB* database, Check when);
-    void checkBehind();
-    void waitForCheck();
-    void finish();
-
-    // LogStore
-    void append(const AuditRow& row) override;
-    void append(const ProgramRow& row) override;
-    QVector<AuditRow> auditRows(const LogRange& range) override;
-    qint64 auditCount() override;
-    QVector<ProgramRow> programRows(const LogRange& range) override;
-    qint64 programCount() override;
-
+    void start(Check when);
+    void storeDefaults();
     kom::smart<const Node> snapshot(NodeRecord* record);
-    bool readLookupKeys();
-    StoreState readState(const StoreQuery& query);
-    StoreState readForeignChanges();
     void announce(const Notices& notices);
-    void scheduleFlush();
-    bool flush();
-    bool storeAfter(const std::function<void()>& work, StoreError* error);
-    void lookForKey();
-    bool writeFailed(const StoreError& error);
-    void written(const StoreWriter& writer, qint64 lastChange, Notices* notices);
-    void readFailed(const StoreError& error);
-    template <class Read>
-    auto reading(Read read) -> decltype(read());
-
-    void createDefaultEnvironment();
-    void settingsTaken();
-    void set(const QString& key, const QString& value);
-    QString get(const char* key) const { return memory.settings.value(QLatin1String(key)); }
-    void proxyChanged();
-    void environmentsChanged();
-    void environmentRemoved(const QString& id);
-    NodeID insert(NodeData data);
+    NodeID add(NodeData data);
     void makeRemotePreview(const NodeID& camera);
-    void changeRelation(const RelationRow& relation, bool add);
+    void change(const RelationChange& change);
 
-    struct Copy
-    {
-        std::unique_ptr<Node> node;
-        NodeData base; ///< what the copy was made from
-    };
-
-    HostNodeDB* q = nullptr;
-    const std::unique_ptr<SqliteStore> store;
-    NodeTables tables;
+    HostNodeDB& q;
+    const std::unique_ptr<NodeStore> store;
     NodeMemory memory;
-    StoredEnvironments environments;
-    GlobalNetworkProxy proxy;
+    ChangeQueue queue;
+    HostSettings settings;
+    StoredLogs logs;
     AuditLog audit;
-    std::unordered_map<const Node*, Copy> copies;
+    NodeCopies copies;
     std::set<std::string> missingScanners; ///< known to be missing, said once each
     std::unique_ptr<DeviceIntake> intake;
     std::vector<std::unique_ptr<Scanner>> scanners; ///< go first
-    qint64 dataVersion = 0;
-    QTimer poll;
-    QTimer retry;
-    QTimer programLineTimer;
-    std::shared_future<StoreError> check; ///< of the file, when that goes on in the background
-    bool flushScheduled = false;
-    bool isAlone = false; ///< within runAlone()
-    bool failing = false;
-    bool keyMissing = false; ///< which is why it fails
-    QString lastDamage;
 };
 
-HostNodeDB::Private::Private(std::unique_ptr<SqliteStore> openedStore)
-    : store(std::move(openedStore))
-    , tables(*store)
-    , environments([this] { environmentsChanged(); }, [this](const QString& id) { environmentRemoved(id); })
-    , audit(*this)
+HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)
+    : q(database)
+    , store(std::move(opened))
+    , memory(*store)
+    , queue(*store, memory)
+    , settings(memory, [this] { queue.schedule(); })
+    , logs(*store, memory, queue)
+    , audit(logs)
 {
-    {
-        const Transaction transaction(*store, Transaction::Read);
-        dataVersion = store->dataVersion();
-        memory.load(tables);
-    }
-    store->execute(QLatin1String("PRAGMA shrink_memory")); // nobody reads all those pages a second time
 }
 
-void HostNodeDB::Private::start(HostNodeDB* database, Check when)
+void HostNodeDB::Private::start(Check when)
 {
-    q = database;
+    QObject::connect(&queue, &ChangeQueue::brought, &q,
+                     [this](const Notices& notices) { announce(notices); });
+    QObject::connect(&queue, &ChangeQueue::failed, &q, &HostNodeDB::storeFailed);
+    QObject::connect(&queue, &ChangeQueue::recovered, &q, &HostNodeDB::storeRecovered);
+    QObject::connect(&queue, &ChangeQueue::damaged, &q, &HostNodeDB::storeDamaged);
+    QObject::connect(&queue, &ChangeQueue::checked, &q, &HostNodeDB::checked);
     if (when == Check::Behind)
-        checkBehind();
-    createDefaultEnvironment();
-    intake = std::make_unique<DeviceIntake>(*q);
-    Secrets::setClearAllowed(memory.settings.contains(QLatin1String(StoredSecrets::Pending)));
+        queue.checkInBackground();
+    storeDefaults();
+    intake = std::make_unique<DeviceIntake>(q);
+    Secrets::setClearAllowed(store->isSealingPending());
     Secrets::setListener([this](StoreError::Kind kind) {
         const bool sealed = kind == StoreError::SealedElsewhere;
-        readFailed(StoreError::make(
+        queue.readFailed(StoreError::make(
             kind, store->fileName(),
             QLatin1String(sealed ? "a password cannot be opened" : "a password is not sealed")));
     });
-    settingsTaken();
-    QObject::connect(&proxy, &GlobalNetworkProxy::globalProxyDataChanged, q, [this] { proxyChanged(); });
-    QObject::connect(&poll, &QTimer::timeout, q, &HostNodeDB::syncForeignChanges);
-    retry.setSingleShot(true);
-    QObject::connect(&retry, &QTimer::timeout, q, [this] { flush(); });
-    programLineTimer.setSingleShot(true);
-    QObject::connect(&programLineTimer, &QTimer::timeout, q, [this] { flush(); });
-    poll.start(PollInterval);
+    settings.reload();
+    queue.start();
 }
 
-/// Stores what waits and lets go of the file, which stays as it is when it was found damaged.
-void HostNodeDB::Private::finish()
+/// Of a new database; another process may be making them at the same time.
+void HostNodeDB::Private::storeDefaults()
 {
-    try {
-        waitForCheck();
-        flush();
-    } catch (const StoreFailure& failure) {
-        LogQt::line(LogQt::Error, QString::fromLatin1("Not stored: %1").arg(failure.error.detail));
-    }
-}
-
-void HostNodeDB::Private::checkBehind()
-{
-    check = std::async(std::launch::async, [this, file = store->fileName()] {
-        StoreError error = SqliteStore::findDamage(file);
-        QMetaObject::invokeMethod(
-            q, [this, error] { emit q->checked(error); }, Qt::QueuedConnection);
-        return error;
-    });
-}
-
-/// Throws what a check in the background has found.
-void HostNodeDB::Private::waitForCheck()
-{
-    if (!check.valid())
+    if (!settings.isNew())
         return;
-    if (check.get())
-        throw StoreFailure{check.get()};
-    store->setSound();
-}
-
-/// A new database has one environment; another process may be making it at the same time.
-void HostNodeDB::Private::createDefaultEnvironment()
-{
-    if (!memory.environments.isEmpty() || memory.settings.contains(QLatin1String(ActiveEnvironment)))
-        return;
-    waitForCheck();
-    Transaction transaction(*store, Transaction::Write);
-    if (tables.environments().isEmpty()) {
-        const QString id = QUuid::createUuid().toString();
-        tables.setEnvironments({{id, HostNodeDB::tr("Default")}});
-        tables.setSetting(QLatin1String(ActiveEnvironment), id);
-    }
-    memory.environments = tables.environments();
-    memory.settings = tables.settings();
-    transaction.commit();
+    memory.pending.enter(Cause::now(Purpose::Start));
+    StoreError error;
+    queue.runAlone([this] { settings.addDefaultEnvironment(); }, &error);
+    memory.pending.leave();
+    if (error)
+        throw StoreFailure{error};
 }
 
 std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error, Check check)
 {
     qRegisterMetaType<ko::StoreError>("ko::StoreError");
     Secrets::prepare();
-    std::unique_ptr<SqliteStore> store = SqliteStore::open(
-        file, error, check == Check::First ? SqliteStore::Check::First : SqliteStore::Check::ByUser);
+    std::unique_ptr<NodeStore> store = NodeStore::open(
+        file, error, check == Check::First ? NodeStore::Check::First : NodeStore::Check::ByUser);
     if (!store)
         return nullptr;
     try {
-        auto d = std::make_unique<Private>(std::move(store));
-        return std::unique_ptr<HostNodeDB>(new HostNodeDB(std::move(d), check));
+        return std::unique_ptr<HostNodeDB>(new HostNodeDB(std::move(store), check));
     } catch (const StoreFailure& failure) {
         *error = failure.error;
         return nullptr;
     }
 }
 
-HostNodeDB::HostNodeDB(std::unique_ptr<Private> opened, Check check)
-    : d(std::move(opened))
+HostNodeDB::HostNodeDB(std::unique_ptr<NodeStore> opened, Check check)
+    : d(new Private(*this, std::move(opened)))
 {
-    d->start(this, check);
+    d->start(check);
     VolumeProbe::install();
 }
 
@@ -245,7 +139,7 @@ HostNodeDB::~HostNodeDB()
     Secrets::setListener(nullptr);
     d->scanners.clear();
     d->intake.reset();
-    d->finish();
+    d->queue.finish();
 }
 
 QString HostNodeDB::fileName() const
@@ -255,42 +149,9 @@ QString HostNodeDB::fileName() const
 
 // Reading
 
-/// What \a read gives, or an empty result after the failure was made known.
-template <class Read>
-auto HostNodeDB::Private::reading(Read read) -> decltype(read())
-{
-    try {
-        return read();
-    } catch (const StoreFailure& failure) {
-        readFailed(failure.error);
-        return decltype(read())();
-    }
-}
-
-void HostNodeDB::Private::readFailed(const StoreError& error)
-{
-    if (error.kind == StoreError::Locked || error.detail == lastDamage)
-        return;
-    lastDamage = error.detail;
-    LogQt::line(LogQt::Error, QString::fromLatin1("Reading the node database failed: %1").arg(error.detail));
-    QMetaObject::invokeMethod(
-        q, [this, error] { emit q->storeDamaged(error); }, Qt::QueuedConnection);
-}
-
 kom::smart<const Node> HostNodeDB::Private::snapshot(NodeRecord* record)
 {
-    if (!record || !record->snapshot.null())
-        return record ? record->snapshot : kom::smart<const Node>();
-    return reading([this, record] {
-        NodeData data;
-        data.id = record->summary.id();
-        data.type = record->summary.type();
-        data.name = record->summary.name();
-        // False: another process removed it, which will be announced.
-        if (tables.readProperties(data.id, &data.properties))
-            memory.setData(*record, data);
-        return record->snapshot;
-    });
+    return record ? queue.reading([&] { return memory.node(*record); }) : kom::smart<const Node>();
 }
 
 kom::smart<const Node> HostNodeDB::node(const QString& id) const
@@ -325,32 +186,16 @@ QStringList HostNodeDB::nodeIdList(ENodeType type) const
     return ids;
 }
 
-bool HostNodeDB::Private::readLookupKeys()
-{
-    NodeCache& cache = memory.cache;
-    if (cache.lookupReady())
-        return true;
-    return reading([this, &cache] {
-        tables.forEachLookupKey([&cache](const NodeID& id, const QString& key) {
-            if (NodeRecord* record = cache.find(id))
-                cache.setLookupKey(*record, key);
-        });
-        for (auto it = memory.pending.nodes.begin(); it != memory.pending.nodes.end(); ++it) {
-            if (NodeRecord* record = cache.find(it.key()))
-                cache.setLookupKey(*record, NodeTypes::lookupKey(record->data()));
-        }
-        cache.setLookupReady();
-        return true;
-    });
-}
-
 QString HostNodeDB::lookupHint(const NodeHint& hint) const
 {
     const QString key = NodeTypes::lookupKey(NodeTypes::dataOf(hint));
-    if (key.isEmpty() || !d->readLookupKeys())
+    if (key.isEmpty())
         return QString();
-    const NodeRecord* record = d->memory.cache.findLookupKey(key);
-    return record ? record->summary.id() : QString();
+    return d->queue.reading([&] {
+        d->memory.readLookupKeys();
+        const NodeRecord* record = d->memory.cache.findLookupKey(key);
+        return record ? record->summary.id() : QString();
+    });
 }
 
 // Types
@@ -388,49 +233,27 @@ Node* HostNodeDB::beginUpdateNode(const QString& id, int)
 {
     syncForeignChanges();
     NodeRecord* record = d->memory.cache.find(id);
-    if (d->snapshot(record).null())
-        return nullptr;
-    Private::Copy copy;
-    copy.base = record->data();
-    copy.node = NodeTypes::createNode(copy.base);
-    Node* node = copy.node.get();
-    d->copies.emplace(node, std::move(copy));
-    return node;
+    return d->snapshot(record).null() ? nullptr : d->copies.begin(record->data());
 }
 
 void HostNodeDB::endUpdateNode(Node* node)
 {
-    const auto found = d->copies.find(node);
-    if (found == d->copies.end()) {
+    const std::optional<NodeCopies::Edit> edit = d->copies.end(node);
+    if (!edit) {
         if (node)
             LogQt::line(LogQt::Error, QLatin1String("endUpdateNode() without its beginUpdateNode()"));
         return;
     }
-    const Private::Copy copy = std::move(found->second);
-    d->copies.erase(found);
-    const NodeData edited = dynamic_cast<const StoredNode&>(*copy.node).nodeData();
-    NodeRecord* record = d->memory.cache.find(copy.base.id);
+    NodeRecord* record = d->memory.cache.find(edit->id());
     if (!record) {
         LogQt::line(LogQt::Debug, QLatin1String("A node was removed while it was edited"));
         return;
     }
-    // What the user changed, on top of what others changed meanwhile.
-    const NodeData current = record->data();
-    NodeData merged = current;
-    if (edited.name != copy.base.name)
-        merged.name = edited.name;
-    const auto changes = PropertyList::difference(copy.base.properties, edited.properties);
-    for (const PropertyList::Entry& change : changes)
-        merged.properties.set(change.name, change.value);
-    const auto difference = PropertyList::difference(current.properties, merged.properties);
-    const bool renamed = merged.name != current.name;
-    if (difference.isEmpty() && !renamed)
+    if (!d->memory.update(*record, edit->mergedInto(record->data())))
         return;
-    d->memory.setData(*record, merged);
-    d->memory.pending.nodeUpdated(merged.id, difference, renamed);
-    d->scheduleFlush();
-    emit nodeUpdated(merged.id);
-    d->makeRemotePreview(merged.id);
+    d->queue.schedule();
+    emit nodeUpdated(edit->id());
+    d->makeRemotePreview(edit->id());
 }
 
 /// A camera that is reached through the remote preview server has a node with its settings for that.
@@ -441,26 +264,29 @@ void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
         !record->data().properties.value(QLatin1String("UseRecordingTransponder")).toBool() ||
         !memory.relations.destinations(camera, RecordingTransponderRelation).isEmpty())
         return;
-    const NodeData data = NodeTypes::remotePreviewOf(record->data(), get(TransponderAddress));
-    q->addNodeRelation(camera, insert(data), RecordingTransponderRelation);
+    const NodeData data =
+        NodeTypes::remotePreviewOf(record->data(), settings.text(HostSettings::TransponderAddress));
+    q.addNodeRelation(camera, add(data), RecordingTransponderRelation);
 }
 
-NodeID HostNodeDB::Private::insert(NodeData data)
+NodeID HostNodeDB::Private::add(NodeData data)
 {
     data.id = newNodeId();
-    StoredSecrets::seal(data);
-    NodeRecord& record = memory.cache.append(PackedSummary(NodeTypes::summaryOf(data)));
-    record.context = data.context;
-    memory.setData(record, data);
-    memory.pending.nodeInserted(data.id);
-    scheduleFlush();
-    emit q->nodeInserted(data.id);
+    Secrets::seal(data);
+    memory.add(data);
+    queue.schedule();
+    emit q.nodeInserted(data.id);
     return data.id;
 }
 
 void HostNodeDB::newNodeHint(const NodeHint& hint)
 {
-    d->insert(NodeTypes::dataOf(hint));
+    add(hint);
+}
+
+QString HostNodeDB::add(const NodeHint& hint)
+{
+    return d->add(NodeTypes::dataOf(hint));
 }
 
 void HostNodeDB::removeNode(const QString& id)
@@ -469,12 +295,9 @@ void HostNodeDB::removeNode(const QString& id)
     if (!record)
         return;
     const NodeID removed = record->summary.id(); // the caller's may be a part of what goes
-    const bool stored = record->isStored();
     const QStringList previews = d->memory.relations.destinations(removed, RecordingTransponderRelation);
-    d->memory.removeNode(*record);
-    if (stored)
-        d->memory.pending.nodeRemoved(removed);
-    d->scheduleFlush();
+    d->memory.remove(*record);
+    d->queue.schedule();
     emit nodeRemoved(removed);
     for (const QString& preview : previews) {
         if (!isDestinationOfNodeRelation(preview, RecordingTransponderRelation))
@@ -482,29 +305,38 @@ void HostNodeDB::removeNode(const QString& id)
     }
 }
 
+bool HostNodeDB::apply(const ChangeSet& set)
+{
+    return d->queue.reading([&] {
+        const Notices notices = d->memory.apply(set);
+        d->queue.schedule();
+        d->announce(notices);
+        return true;
+    });
+}
+
 // Relations
 
-void HostNodeDB::Private::changeRelation(const RelationRow& relation, bool add)
+void HostNodeDB::Private::change(const RelationChange& change)
 {
-    if (!(add ? memory.relations.add(relation) : memory.relations.remove(relation)))
+    if (!memory.change(change))
         return;
-    memory.pending.relations.append({add, relation});
-    scheduleFlush();
+    queue.schedule();
     Notices notices;
-    notices.updated(relation.source);
-    notices.updated(relation.destination);
+    notices.updated(change.relation.source);
+    notices.updated(change.relation.destination);
     announce(notices);
 }
 
 void HostNodeDB::addNodeRelation(const QString& from, const QString& to, ENodeRelationType type)
 {
     if (d->memory.cache.find(from) && d->memory.cache.find(to))
-        d->changeRelation({from, to, type}, true);
+        d->change({{from, to, type}, true});
 }
 
 void HostNodeDB::removeNodeRelation(const QString& from, const QString& to, ENodeRelationType type)
 {
-    d->changeRelation({from, to, type}, false);
+    d->change({{from, to, type}, false});
 }
 
 QStringList HostNodeDB::relatedNodes(const QString& id, ENodeRelationType type) const
@@ -565,100 +397,54 @@ void HostNodeDB::stopScanners(const std::string& name)
 
 // Settings
 
-void HostNodeDB::Private::set(const QString& key, const QString& value)
-{
-    if (memory.setSetting(key, value))
-        scheduleFlush();
-}
-
 QString HostNodeDB::globalRecordingFolderPath() const
 {
-    return d->get(RecordingFolderPath);
+    return d->settings.text(HostSettings::RecordingFolderPath);
 }
 
 void HostNodeDB::setGlobalRecordingFolderPath(const QString& path)
 {
-    d->set(QLatin1String(RecordingFolderPath), path);
+    d->settings.setText(HostSettings::RecordingFolderPath, path);
 }
 
 QString HostNodeDB::defaultRecordingTransponderIP() const
 {
-    return d->get(TransponderAddress);
+    return d->settings.text(HostSettings::TransponderAddress);
 }
 
 void HostNodeDB::setDefaultRecordingTransponderIP(const QString& address)
 {
-    d->set(QLatin1String(TransponderAddress), address);
+    d->settings.setText(HostSettings::TransponderAddress, address);
 }
 
 int HostNodeDB::bandwidth() const
 {
-    bool isSet = false;
-    const int bandwidth = d->get(Bandwidth).toInt(&isSet);
-    return isSet ? bandwidth : int(FastLocal);
+    return d->settings.bandwidth();
 }
 
 void HostNodeDB::setBandwidth(int bandwidth)
 {
-    d->set(QLatin1String(Bandwidth), QString::number(bandwidth));
+    d->settings.setText(HostSettings::Bandwidth, QString::number(bandwidth));
 }
 
 GlobalNetworkProxy& HostNodeDB::globalProxy()
 {
-    return d->proxy;
-}
-
-void HostNodeDB::Private::proxyChanged()
-{
-    // Also called when the settings of another process are taken over: then nothing differs.
-    GlobalNetworkProxy untouched;
-    ProxySettings::toProxy(NodeTables::Settings(), untouched);
-    const NodeTables::Settings defaults = ProxySettings::fromProxy(untouched, NodeTables::Settings());
-    const NodeTables::Settings values = ProxySettings::fromProxy(proxy, memory.settings);
-    for (auto it = values.begin(); it != values.end(); ++it) {
-        if (memory.settings.value(it.key(), defaults.value(it.key())) != it.value())
-            set(it.key(), it.value());
-    }
+    return d->settings.proxy();
 }
 
 Environments& HostNodeDB::environments()
 {
-    return d->environments;
+    return d->settings.environments();
 }
 
-void HostNodeDB::Private::environmentsChanged()
-{
-    memory.environments = environments.getList();
-    memory.pending.environments = memory.environments;
-    scheduleFlush();
-}
-
-void HostNodeDB::Private::environmentRemoved(const QString& id)
-{
-    if (get(ActiveEnvironment) == id)
-        set(QLatin1String(ActiveEnvironment), q->activeEnvironment());
-}
-
-/// The first one stands in for one that is gone.
 QString HostNodeDB::activeEnvironment() const
 {
-    const QString active = d->get(ActiveEnvironment);
-    if (d->environments.contains(active) || d->memory.environments.isEmpty())
-        return d->environments.contains(active) ? active : QString();
-    return d->memory.environments.first().first;
+    return d->settings.activeEnvironment();
 }
 
 void HostNodeDB::setActiveEnvironment(const QString& id)
 {
-    if (d->environments.contains(id))
-        d->set(QLatin1String(ActiveEnvironment), id);
-}
-
-/// Brings the objects that were handed out up to what is in memory.
-void HostNodeDB::Private::settingsTaken()
-{
-    environments.reload(memory.environments);
-    ProxySettings::toProxy(memory.settings, proxy);
+    d->settings.setActiveEnvironment(id);
 }
 
 // Logs
@@ -670,158 +456,39 @@ AuditLog& HostNodeDB::auditLog()
 
 LogStore& HostNodeDB::logStore()
 {
-    return *d;
+    return d->logs;
 }
 
-void HostNodeDB::Private::append(const AuditRow& row)
+QVector<ChangeSet> HostNodeDB::changeSets(qint64 after, int count)
 {
-    memory.pending.audit.append(row);
-    scheduleFlush();
-}
-
-void HostNodeDB::Private::append(const ProgramRow& row)
-{
-    QVector<ProgramRow>& lines = memory.pending.programLines;
-    if (lines.size() >= NodeTables::MaxProgramLines)
-        lines.removeFirst(); // the store cannot be written, and would not keep it either
-    lines.append(row);
-    if (!programLineTimer.isActive())
-        programLineTimer.start(ProgramLineDelay);
-}
-
-QVector<AuditRow> HostNodeDB::Private::auditRows(const LogRange& range)
-{
-    flush();
-    return reading([&] { return tables.audit(range); });
-}
-
-qint64 HostNodeDB::Private::auditCount()
-{
-    flush();
-    return reading([&] { return tables.auditCount(); });
-}
-
-QVector<ProgramRow> HostNodeDB::Private::programRows(const LogRange& range)
-{
-    flush();
-    return reading([&] { return tables.programLines(range); });
-}
-
-qint64 HostNodeDB::Private::programCount()
-{
-    flush();
-    return reading([&] { return tables.programLineCount(); });
+    d->queue.flush();
+    return d->queue.reading([&] { return d->store->changeSets(after, count); });
 }
 
 // Storing
 
-/// A queued call runs before the event loop waits again, whatever else is in the queue; what is posted
-/// before it goes into the same commit.
-void HostNodeDB::Private::scheduleFlush()
+void HostNodeDB::enter(const Cause& cause)
 {
-    if (flushScheduled)
-        return;
-    flushScheduled = true;
-    QMetaObject::invokeMethod(
-        q,
-        [this] {
-            flushScheduled = false;
-            flush();
-        },
-        Qt::QueuedConnection);
+    d->memory.pending.enter(cause);
 }
 
-bool HostNodeDB::Private::flush()
+void HostNodeDB::leave()
 {
-    if (memory.pending.isEmpty() || isAlone)
-        return true;
-    StoreError error;
-    return storeAfter(nullptr, &error) || writeFailed(error);
+    d->memory.pending.leave();
+}
+
+/// Only when somebody asks for it, the key is looked for again: the keychain may in turn ask the user, and
+/// runs an event loop.
+bool HostNodeDB::flush()
+{
+    if (d->queue.isKeyMissing() && Secrets::prepareAgain())
+        d->settings.reload(); // its password may be readable now
+    return d->queue.flush();
 }
 
 HostNodeDB::Outcome HostNodeDB::runAlone(const std::function<void()>& work, StoreError* error)
 {
-    bool hasRun = false;
-    const auto noteAndRun = [&] {
-        hasRun = true;
-        work();
-    };
-    if (d->storeAfter(noteAndRun, error))
-        return Outcome::Stored;
-    if (!hasRun)
-        return Outcome::NotRun;
-    d->writeFailed(*error);
-    return Outcome::NotStored;
-}
-
-/// Stores what waits after \a work, if there is any, has added to it.
-bool HostNodeDB::Private::storeAfter(const std::function<void()>& work, StoreError* error)
-{
-    Notices notices;
-    *error = StoreError();
-    try {
-        waitForCheck();
-        Transaction transaction(*store, Transaction::Write);
-        // Now nobody else can write, so what is brought in here is what is written upon.
-        notices = memory.take(readForeignChanges());
-        if (work) {
-            const QScopedValueRollback<bool> alone(isAlone, true);
-            announce(std::exchange(notices, Notices()));
-            work();
-        }
-        StoreWriter writer(tables, memory.cache);
-        writer.write(memory.pending);
-        const qint64 lastChange = tables.lastChange();
-        transaction.commit();
-        written(writer, lastChange, &notices);
-    } catch (const StoreFailure& failure) {
-        *error = failure.error;
-    }
-    announce(notices);
-    if (failing && !*error) {
-        failing = false;
-        emit q->storeRecovered();
-    }
-    return !*error;
-}
-
-void HostNodeDB::Private::written(const StoreWriter& writer, qint64 lastChange, Notices* notices)
-{
-    for (const auto& inserted : writer.insertedNodes())
-        memory.cache.setStored(*inserted.first, inserted.second);
-    memory.pending = PendingChanges();
-    memory.lastChange = lastChange;
-    retry.stop();
-    programLineTimer.stop();
-    for (const NodeID& id : writer.missingNodes()) {
-        memory.removeNode(*memory.cache.find(id));
-        notices->removed(id);
-    }
-}
-
-/// Only when somebody asks for it: the keychain may in turn ask the user, and runs an event loop.
-void HostNodeDB::Private::lookForKey()
-{
-    if (failing && keyMissing && Secrets::prepareAgain())
-        settingsTaken(); // its password may be readable now
-}
-
-bool HostNodeDB::Private::writeFailed(const StoreError& error)
-{
-    if (!failing)
-        LogQt::line(LogQt::Error,
-                    QString::fromLatin1("Writing the node database failed: %1").arg(error.detail));
-    failing = true;
-    keyMissing = error.kind == StoreError::KeyNotKept;
-    retry.start(RetryInterval);
-    emit q->storeFailed(error);
-    return false;
-}
-
-bool HostNodeDB::flush()
-{
-    d->lookForKey();
-    return d->flush();
+    return d->queue.runAlone(work, error);
 }
 
 bool HostNodeDB::hasUnstoredChanges() const
@@ -831,88 +498,34 @@ bool HostNodeDB::hasUnstoredChanges() const
 
 QStringList HostNodeDB::unstoredNodes() const
 {
-    const PendingChanges& pending = d->memory.pending;
-    QStringList ids;
-    for (const NodeID& id : pending.order) {
-        if (pending.nodes.contains(id))
-            ids.append(id);
-    }
-    for (const PendingChanges::RelationChange& change : pending.relations)
-        ids.append(change.relation.source);
-    ids.removeDuplicates();
-    return ids;
+    return d->memory.pending.nodes();
 }
 
 void HostNodeDB::discardUnstoredChanges()
 {
-    const PendingChanges dropped = std::exchange(d->memory.pending, PendingChanges());
-    StoreQuery query;
-    query.everything = true;
-    query.settings = true;
-    Notices notices;
-    try {
-        const Transaction transaction(*d->store, Transaction::Read);
-        notices = d->memory.take(d->readState(query));
-    } catch (const StoreFailure& failure) {
-        d->memory.pending = dropped;
-        d->readFailed(failure.error);
-        return;
-    }
-    d->memory.pending.programLines = dropped.programLines; // they tell why
-    d->failing = false;
-    d->retry.stop();
-    d->announce(notices);
-}
-
-// Changes of other processes
-
-StoreState HostNodeDB::Private::readState(const StoreQuery& query)
-{
-    return StoreState::read(tables, query, [this](const NodeID& id) {
-        const NodeRecord* record = memory.cache.find(id);
-        return record && !record->snapshot.null();
-    });
-}
-
-/// What this process stored itself lies before memory.lastChange.
-StoreState HostNodeDB::Private::readForeignChanges()
-{
-    return readState(StoreQuery::changesSince(tables, memory.lastChange));
+    d->queue.discard();
 }
 
 void HostNodeDB::syncForeignChanges()
 {
-    if (d->isAlone)
-        return;
-    Notices notices;
-    try {
-        const qint64 version = d->store->dataVersion();
-        if (version == d->dataVersion)
-            return;
-        const Transaction transaction(*d->store, Transaction::Read);
-        notices = d->memory.take(d->readForeignChanges());
-        d->dataVersion = version;
-    } catch (const StoreFailure& failure) {
-        d->readFailed(failure.error);
-    }
-    d->announce(notices);
+    d->queue.sync();
 }
 
 /// Receivers may change the database; what is no longer true is not announced.
 void HostNodeDB::Private::announce(const Notices& notices)
 {
     if (notices.settings) {
-        settingsTaken();
-        emit q->settingsChanged();
+        settings.reload();
+        emit q.settingsChanged();
     }
     for (const auto& notice : notices.nodes()) {
         const bool exists = memory.cache.find(notice.second);
         if (notice.first == Notices::Removed && !exists)
-            emit q->nodeRemoved(notice.second);
+            emit q.nodeRemoved(notice.second);
         else if (notice.first == Notices::Inserted && exists)
-            emit q->nodeInserted(notice.second);
+            emit q.nodeInserted(notice.second);
         else if (notice.first == Notices::Updated && exists)
-            emit q->nodeUpdated(notice.second);
+            emit q.nodeUpdated(notice.second);
     }
 }
 

@@ -3,7 +3,7 @@
 
 #include "HostExport.h"
 #include "ko/NodeDB.h"
-#include "model/NodeData.h"
+#include "model/ChangeSet.h"
 #include "model/StoreError.h"
 
 #include <functional>
@@ -14,6 +14,7 @@ namespace ko {
 class AuditLog;
 class DeviceIntake;
 class LogStore;
+class NodeStore;
 class Scanner;
 
 /// The node database of this host, on a SQLite file.
@@ -80,6 +81,9 @@ public:
     /// An unknown environment is not made the active one.
     void setActiveEnvironment(const QString& id) override;
 
+    /// Adds the node that \a hint describes and returns its identifier.
+    QString add(const NodeHint& hint);
+
     // What the contract only reads.
     void setGlobalRecordingFolderPath(const QString& path);
     void setDefaultRecordingTransponderIP(const QString& address);
@@ -105,16 +109,25 @@ public:
     /// Where a ProgramLog for this database keeps its lines.
     LogStore& logStore();
 
+    /// What is changed until leave() belongs to one change set, that of \a cause, in however many turns of
+    /// the event loop. What is changed without a cause belongs to the change set of its turn. See
+    /// ChangeScope.
+    void enter(const Cause& cause);
+    void leave();
+
+    /// Does all that \a set says, as far as it can still be done: a node that is gone is not changed, one
+    /// that is there is not added. False when something could not be read; what was done until then stays.
+    bool apply(const ChangeSet& set);
+
+    /// At most \a count of what was changed after change set number \a after, oldest first.
+    QVector<ChangeSet> changeSets(qint64 after, int count);
+
     /// Stores all changes now. False when that failed; storeFailed() has been emitted then. Looks for the key
     /// of the passwords again when the last try failed without it, which may take until the user has opened
     /// the keychain.
     bool flush();
 
-    enum class Outcome {
-        Stored,
-        NotStored, ///< what was done waits in memory; storeFailed() has been emitted
-        NotRun     ///< another program holds the file, or it cannot be written; nothing was done
-    };
+    typedef StoreOutcome Outcome;
 
     /// Runs \a work, in which no other program can change the database, and stores what it changed: what
     /// lookupHint() does not find there is not added by two programs. Others wait meanwhile, two seconds at
@@ -148,8 +161,25 @@ signals:
 
 private:
     class Private;
-    HostNodeDB(std::unique_ptr<Private> opened, Check check);
+    HostNodeDB(std::unique_ptr<NodeStore> opened, Check check);
     const std::unique_ptr<Private> d;
+};
+
+/// Everything that is changed while it lives is one change set.
+class ChangeScope
+{
+public:
+    /// \a db outlives it.
+    ChangeScope(HostNodeDB& db, const Cause& cause)
+        : m_db(db)
+    {
+        m_db.enter(cause);
+    }
+    ~ChangeScope() { m_db.leave(); }
+
+private:
+    Q_DISABLE_COPY(ChangeScope)
+    HostNodeDB& m_db;
 };
 
 } // namespace ko

@@ -4,6 +4,21 @@
 
 namespace ko {
 
+namespace {
+
+/// With what lists and look-ups need of \a data; without values.
+NodeChange changeOf(const NodeData& data)
+{
+    NodeChange change;
+    change.id = data.id;
+    change.type = data.type;
+    change.summary = PackedSummary(NodeTypes::summaryOf(data));
+    change.lookupKey = NodeTypes::lookupKey(data);
+    return change;
+}
+
+} // namespace
+
 void Notices::add(Kind kind, const NodeID& id)
 {
     if (kind == Updated && m_known.contains(id))
@@ -12,103 +27,140 @@ void Notices::add(Kind kind, const NodeID& id)
     m_nodes.append({kind, id});
 }
 
-void NodeMemory::load(NodeTables& tables)
+NodeMemory::NodeMemory(NodeStore& store)
+    : m_store(store)
 {
-    lastChange = tables.lastChange();
-    tables.forEachNode([this](qint64 n, const PackedSummary& summary) { cache.insertStored(n, summary); });
-    const QVector<RelationRow> rows = tables.relations();
-    for (const RelationRow& relation : rows)
+    const NodeStore::Contents contents = store.load(
+        [this](qint64 place, const PackedSummary& summary) { cache.insertStored(place, summary); });
+    for (const Relation& relation : contents.relations)
         relations.add(relation);
-    settings = tables.settings();
-    environments = tables.environments();
+    revision = contents.revision;
+    settings = contents.settings;
+    environments = contents.environments;
 }
 
-Notices NodeMemory::take(const StoreState& state)
+const kom::smart<const Node>& NodeMemory::node(NodeRecord& record)
+{
+    if (!record.snapshot.null())
+        return record.snapshot;
+    NodeData data;
+    data.id = record.summary.id();
+    data.type = record.summary.type();
+    data.name = record.summary.name();
+    // None: another process removed it, which will be announced.
+    if (const std::optional<PropertyList> properties = m_store.properties(data.id)) {
+        data.properties = *properties;
+        setData(record, data);
+    }
+    return record.snapshot;
+}
+
+void NodeMemory::readLookupKeys()
+{
+    if (cache.lookupReady())
+        return;
+    m_store.lookupKeys([this](const NodeID& id, const QString& key) {
+        if (NodeRecord* record = cache.find(id))
+            cache.setLookupKey(*record, key);
+    });
+    const QStringList changed = pending.nodes();
+    for (const NodeID& id : changed) {
+        NodeRecord* record = cache.find(id);
+        if (record && !record->snapshot.null()) // else only a relation of it waits
+            cache.setLookupKey(*record, NodeTypes::lookupKey(record->data()));
+    }
+    cache.setLookupReady();
+}
+
+// What others changed
+
+Notices NodeMemory::take(const Delta& delta)
 {
     Notices notices;
-    for (const StoreState::NodeState& node : state.nodes)
-        takeNode(node, !state.everything, &notices);
-    if (state.everything) {
-        removeMissing(state, &notices);
+    for (const NodeRow& row : delta.nodes)
+        takeNode(row, !delta.everything, &notices);
+    if (delta.everything) {
+        removeMissing(delta, &notices);
         cache.clearLookup(); // its keys were not read
     }
-    takeRelations(state, &notices);
-    if (state.hasSettings)
-        takeSettings(state, &notices);
-    lastChange = state.lastChange;
+    takeRelations(delta, &notices);
+    if (delta.hasSettings)
+        takeSettings(delta, &notices);
+    revision = delta.revision;
     return notices;
 }
 
-void NodeMemory::takeNode(const StoreState::NodeState& node, bool always, Notices* notices)
+void NodeMemory::takeNode(const NodeRow& row, bool always, Notices* notices)
 {
-    NodeRecord* record = cache.find(node.id);
-    if (!node.row.n) {
-        if (record && !pending.inserts(node.id)) {
-            removeNode(*record);
-            notices->removed(node.id);
+    NodeRecord* record = cache.find(row.id);
+    if (!row.place) {
+        if (record && !pending.adds(row.id)) {
+            forget(*record);
+            notices->removed(row.id);
         }
         return;
     }
-    if (pending.removes(node.id))
+    if (pending.removes(row.id))
         return;
     if (!record) {
-        NodeRecord& added = cache.insertStored(node.row.n, PackedSummary(node.row.summary));
+        NodeRecord& added = cache.insertStored(row.place, row.summary);
         if (cache.lookupReady())
-            cache.setLookupKey(added, node.row.lookupKey);
-        notices->inserted(node.id);
-    } else if (takeRow(*record, node) || always) {
-        notices->updated(node.id);
+            cache.setLookupKey(added, row.lookupKey);
+        notices->inserted(row.id);
+    } else if (takeRow(*record, row) || always) {
+        notices->updated(row.id);
     }
 }
 
-bool NodeMemory::takeRow(NodeRecord& record, const StoreState::NodeState& node)
+bool NodeMemory::takeRow(NodeRecord& record, const NodeRow& row)
 {
     const PackedSummary before = record.summary;
-    if (record.order != node.row.n)
-        cache.setStored(record, node.row.n);
-    if (!node.properties) {
-        record.summary = PackedSummary(node.row.summary);
+    if (record.order != row.place)
+        cache.setStored(record, row.place);
+    if (!row.properties) {
+        record.summary = row.summary;
         if (cache.lookupReady())
-            cache.setLookupKey(record, node.row.lookupKey);
+            cache.setLookupKey(record, row.lookupKey);
         return record.summary != before;
     }
     const PropertyList properties = record.data().properties;
     NodeData data;
-    data.id = node.id;
-    data.type = node.row.summary.type;
-    data.name = node.row.summary.name;
-    data.properties = *node.properties;
-    pending.applyTo(data, before.name());
+    data.id = row.id;
+    data.type = row.summary.type();
+    data.name = row.summary.name();
+    data.properties = *row.properties;
+    pending.applyTo(data);
     setData(record, data);
+    pending.show(row.id, record.summary, NodeTypes::lookupKey(data));
     return record.summary != before || !PropertyList::difference(properties, data.properties).isEmpty();
 }
 
-void NodeMemory::removeMissing(const StoreState& state, Notices* notices)
+void NodeMemory::removeMissing(const Delta& delta, Notices* notices)
 {
     QSet<NodeID> stored;
-    stored.reserve(state.nodes.size());
-    for (const StoreState::NodeState& node : state.nodes)
-        stored.insert(node.id);
+    stored.reserve(delta.nodes.size());
+    for (const NodeRow& row : delta.nodes)
+        stored.insert(row.id);
     QVector<NodeRecord*> missing;
     for (auto& entry : cache) {
         const NodeID id = entry.second.summary.id();
-        if (!stored.contains(id) && !pending.inserts(id))
+        if (!stored.contains(id) && !pending.adds(id))
             missing.append(&entry.second);
     }
     for (NodeRecord* record : missing) {
         notices->removed(record->summary.id());
-        removeNode(*record);
+        forget(*record);
     }
 }
 
-void NodeMemory::takeRelations(const StoreState& state, Notices* notices)
+void NodeMemory::takeRelations(const Delta& delta, Notices* notices)
 {
-    QStringList sources = state.relations.keys();
-    if (state.everything)
+    QStringList sources = delta.relations.keys();
+    if (delta.everything)
         sources += relations.sources();
     sources.removeDuplicates();
     for (const NodeID& source : std::as_const(sources)) {
-        QVector<RelationRow> rows = state.relations.value(source);
+        QVector<Relation> rows = delta.relations.value(source);
         pending.applyTo(rows, source);
         const QStringList changed = relations.replaceFrom(source, rows);
         if (changed.isEmpty())
@@ -119,17 +171,154 @@ void NodeMemory::takeRelations(const StoreState& state, Notices* notices)
     }
 }
 
-void NodeMemory::takeSettings(const StoreState& state, Notices* notices)
+void NodeMemory::takeSettings(const Delta& delta, Notices* notices)
 {
-    NodeTables::Settings merged = state.settings;
-    for (auto it = pending.settings.begin(); it != pending.settings.end(); ++it)
-        merged.insert(it.key(), it.value());
-    const Environments::List list = pending.environments ? *pending.environments : state.environments;
+    Settings merged = delta.settings;
+    Environments::List list = delta.environments;
+    pending.applyTo(merged, list);
     notices->settings = merged != settings || list != environments;
     settings = merged;
     environments = list;
 }
 
+/// Of a node that is gone from the store.
+void NodeMemory::forget(NodeRecord& record)
+{
+    const NodeID id = record.summary.id();
+    relations.removeNode(id);
+    pending.drop(id);
+    cache.remove(record);
+}
+
+void NodeMemory::stored(const NodeStore::Commit& commit, Notices* notices)
+{
+    pending.clear();
+    revision = commit.revision;
+    for (auto it = commit.places.begin(); it != commit.places.end(); ++it) {
+        if (NodeRecord* record = cache.find(it.key()))
+            cache.setStored(*record, it.value());
+    }
+    for (const NodeID& id : commit.missingNodes) {
+        if (NodeRecord* record = cache.find(id)) {
+            forget(*record);
+            notices->removed(id);
+        }
+    }
+}
+
+// What is changed here
+
+void NodeMemory::add(const NodeData& data, qint64 place)
+{
+    NodeChange change = changeOf(data);
+    change.place = place;
+    change.after = NodeValues{data.name, data.properties};
+    NodeRecord& record = cache.append(change.summary);
+    record.context = data.context;
+    setData(record, data);
+    pending.nodeAdded(change);
+}
+
+bool NodeMemory::update(NodeRecord& record, const NodeData& data)
+{
+    const NodeData before = record.data();
+    if (before.name == data.name && PropertyList::difference(before.properties, data.properties).isEmpty())
+        return false;
+    setData(record, data);
+    pending.nodeUpdated(changeOf(data), before, data);
+    return true;
+}
+
+void NodeMemory::remove(NodeRecord& record)
+{
+    const NodeID id = record.summary.id();
+    pending.nodeRemoved(id, record.summary.type());
+    relations.removeNode(id);
+    cache.remove(record);
+}
+
+bool NodeMemory::change(const RelationChange& change)
+{
+    if (!(change.isAdded ? relations.add(change.relation) : relations.remove(change.relation)))
+        return false;
+    pending.relationChanged(change);
+    return true;
+}
+
+bool NodeMemory::setSetting(const QString& key, const std::optional<QString>& value)
+{
+    const auto found = settings.constFind(key);
+    const auto before = found == settings.constEnd() ? std::nullopt : std::make_optional(*found);
+    if (before == value)
+        return false;
+    pending.settingChanged({key, before, value});
+    if (value)
+        settings.insert(key, *value);
+    else
+        settings.remove(key);
+    return true;
+}
+
+void NodeMemory::setEnvironments(const Environments::List& list)
+{
+    pending.environmentsChanged({environments, list});
+    environments = list;
+}
+
+Notices NodeMemory::apply(const ChangeSet& set)
+{
+    Notices notices;
+    for (const NodeChange& change : set.nodes)
+        apply(change, &notices);
+    for (const RelationChange& change : set.relations) {
+        const Relation& relation = change.relation;
+        if (!cache.find(relation.source) || !cache.find(relation.destination) || !this->change(change))
+            continue;
+        notices.updated(relation.source);
+        notices.updated(relation.destination);
+    }
+    for (const SettingChange& change : set.settings)
+        notices.settings = setSetting(change.key, change.after) || notices.settings;
+    if (set.environments) {
+        setEnvironments(set.environments->after);
+        notices.settings = true;
+    }
+    return notices;
+}
+
+void NodeMemory::apply(const NodeChange& change, Notices* notices)
+{
+    NodeRecord* record = cache.find(change.id);
+    if (change.isAdded() == (record != nullptr) || (record && node(*record).null()))
+        return;
+    NodeData data;
+    if (record) {
+        data = record->data();
+    } else {
+        data.id = change.id;
+        data.type = change.type;
+    }
+    if (change.isRemoved()) {
+        remove(*record);
+        notices->removed(change.id);
+        return;
+    }
+    if (!change.before || change.before->name != change.after->name)
+        data.name = change.after->name;
+    for (const std::optional<NodeValues>* side : {&change.before, &change.after}) {
+        const PropertyList properties = *side ? (*side)->properties : PropertyList();
+        for (const PropertyList::Entry& entry : properties)
+            data.properties.set(entry.name, change.after->properties.value(entry.name));
+    }
+    if (!record) {
+        add(data, change.place);
+        notices->inserted(change.id);
+    } else if (update(*record, data)) {
+        notices->updated(change.id);
+    }
+}
+
+/// The properties of \a record were read: those of \a data, which has everything else from there.
 void NodeMemory::setData(NodeRecord& record, NodeData data)
 {
     data.context = record.context;
@@ -138,24 +327,6 @@ void NodeMemory::setData(NodeRecord& record, NodeData data)
     record.snapshot = kom::smart<const Node>(std::shared_ptr<const Node>(NodeTypes::createNode(data)));
     if (cache.lookupReady())
         cache.setLookupKey(record, NodeTypes::lookupKey(data));
-}
-
-void NodeMemory::removeNode(NodeRecord& record)
-{
-    const NodeID id = record.summary.id();
-    relations.removeNode(id);
-    pending.drop(id);
-    cache.remove(record);
-}
-
-bool NodeMemory::setSetting(const QString& key, const QString& value)
-{
-    const auto found = settings.constFind(key);
-    if (found != settings.constEnd() && *found == value)
-        return false;
-    settings.insert(key, value);
-    pending.settings.insert(key, value);
-    return true;
 }
 
 } // namespace ko

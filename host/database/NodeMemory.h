@@ -4,7 +4,8 @@
 #include "database/NodeCache.h"
 #include "database/PendingChanges.h"
 #include "database/RelationIndex.h"
-#include "database/StoreState.h"
+#include "model/Delta.h"
+#include "store/NodeStore.h"
 
 #include <QSet>
 
@@ -32,40 +33,61 @@ private:
 };
 
 /// The database as this process sees it: what was read from the store, with what waits to be written
-/// already done.
+/// already done. Changing it notes what is to be written.
 class NodeMemory
 {
 public:
     NodeCache cache;
     RelationIndex relations;
-    NodeTables::Settings settings;
+    Settings settings;
     Environments::List environments;
     PendingChanges pending;
-    qint64 lastChange = 0; ///< number of the last change of the store that is in here
+    qint64 revision = 0; ///< of the store, which is in here
 
-    /// Fills an empty memory. Belongs into a transaction.
-    void load(NodeTables& tables);
+    /// Reads everything but properties. Throws StoreFailure. \a store outlives the memory.
+    explicit NodeMemory(NodeStore& store);
+
+    /// The node of \a record, null if the store has lost it. Throws StoreFailure.
+    const kom::smart<const Node>& node(NodeRecord& record);
+
+    /// Fills the look-up index, once. Throws StoreFailure.
+    void readLookupKeys();
 
     /// Brings in what the store has now. A node that is said to have changed is announced also when
     /// nothing is seen to differ, since its properties may not have been read; not so when everything was
     /// looked at.
-    Notices take(const StoreState& state);
+    Notices take(const Delta& delta);
 
-    /// The node from now on; name and properties are those of \a data.
-    void setData(NodeRecord& record, NodeData data);
+    /// What waited is stored.
+    void stored(const NodeStore::Commit& commit, Notices* notices);
 
+    /// A node with the name and the properties of \a data, which has its identifier. See NodeChange::place.
+    void add(const NodeData& data, qint64 place = 0);
+    /// The node of \a record gets the name and the properties of \a data. False if it has them.
+    bool update(NodeRecord& record, const NodeData& data);
     /// Takes the node with its relations out of memory.
-    void removeNode(NodeRecord& record);
+    void remove(NodeRecord& record);
+    /// False if nothing changes.
+    bool change(const RelationChange& change);
+    /// False if it is the same already.
+    bool setSetting(const QString& key, const std::optional<QString>& value);
+    void setEnvironments(const Environments::List& list);
 
-    /// Notes the setting as to be written. False if it is the same already.
-    bool setSetting(const QString& key, const QString& value);
+    /// Does all that \a set says, as far as it still can be done: a node that is gone is not changed, one
+    /// that is there not added. Throws StoreFailure.
+    Notices apply(const ChangeSet& set);
 
 private:
-    void takeNode(const StoreState::NodeState& node, bool always, Notices* notices);
-    bool takeRow(NodeRecord& record, const StoreState::NodeState& node);
-    void removeMissing(const StoreState& state, Notices* notices);
-    void takeRelations(const StoreState& state, Notices* notices);
-    void takeSettings(const StoreState& state, Notices* notices);
+    void apply(const NodeChange& change, Notices* notices);
+    void setData(NodeRecord& record, NodeData data);
+    void takeNode(const NodeRow& row, bool always, Notices* notices);
+    bool takeRow(NodeRecord& record, const NodeRow& row);
+    void removeMissing(const Delta& delta, Notices* notices);
+    void takeRelations(const Delta& delta, Notices* notices);
+    void takeSettings(const Delta& delta, Notices* notices);
+    void forget(NodeRecord& record);
+
+    NodeStore& m_store;
 };
 
 } // namespace ko

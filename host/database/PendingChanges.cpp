@@ -4,82 +4,321 @@
 
 namespace ko {
 
-bool PendingChanges::hasChanges() const
+namespace {
+
+bool isNothing(const NodeChange& change)
 {
-    return !nodes.isEmpty() || !relations.isEmpty() || !settings.isEmpty() || environments ||
-           !audit.isEmpty();
+    if (!change.isUpdated())
+        return !change.before && !change.after;
+    return change.before->name == change.after->name && change.before->properties.count() == 0 &&
+           change.after->properties.count() == 0;
 }
 
-void PendingChanges::nodeInserted(const NodeID& id)
+/// Without what is the same before and after. As long as it waits it counts: others may change it.
+void simplify(NodeChange& change)
 {
-    order.append(id);
-    nodes[id].kind = Change::Insert;
-}
-
-void PendingChanges::nodeUpdated(const NodeID& id, const QVector<PropertyList::Entry>& difference,
-                                 bool renamed)
-{
-    auto found = nodes.find(id);
-    if (found == nodes.end()) {
-        order.append(id);
-        found = nodes.insert(id, Change());
+    if (!change.isUpdated())
+        return;
+    const PropertyList before = change.before->properties;
+    const PropertyList after = change.after->properties;
+    for (const PropertyList::Entry& entry : before) {
+        if (!PropertyList::sameValue(entry.value, after.value(entry.name)))
+            continue;
+        change.before->properties.set(entry.name, QVariant());
+        change.after->properties.set(entry.name, QVariant());
     }
-    if (found->kind != Change::Update)
-        return; // a node to be inserted is written as it is then
-    found->renamed = found->renamed || renamed;
-    for (const PropertyList::Entry& entry : difference)
-        found->properties.insert(entry.name, entry.value);
 }
 
-void PendingChanges::nodeRemoved(const NodeID& id)
+/// Notes that a property of a node that is there before and after became \a value; \a before is what it was
+/// before that, of which an earlier change may know better.
+void setProperty(NodeChange& change, const QString& name, const QVariant& before, const QVariant& value)
 {
-    order.append(id);
-    nodes[id] = Change();
-    nodes[id].kind = Change::Remove;
+    if (!change.before->properties.contains(name) && !change.after->properties.contains(name))
+        change.before->properties.set(name, before);
+    change.after->properties.set(name, value);
 }
 
-const PendingChanges::Change* PendingChanges::updateOf(const NodeID& id) const
+} // namespace
+
+PendingChanges::Making& PendingChanges::current()
 {
-    const auto found = nodes.find(id);
-    return found == nodes.end() || found->kind != Change::Update ? nullptr : &*found;
+    if (m_causes.isEmpty() && !m_turn)
+        m_turn = Cause::now(Purpose::Edit);
+    const Cause& cause = m_causes.isEmpty() ? *m_turn : m_causes.last();
+    // Only the last one: between two changes of one set another one may have changed the same node.
+    if (m_making.empty() || m_making.back().set.cause.id != cause.id) {
+        m_making.push_back({ChangeSet(), {}, {}, {}, !m_causes.isEmpty()});
+        m_making.back().set.cause = cause;
+    }
+    return m_making.back();
 }
 
-bool PendingChanges::inserts(const NodeID& id) const
+NodeChange* PendingChanges::changeOf(const NodeID& id)
 {
-    const auto found = nodes.find(id);
-    return found != nodes.end() && found->kind == Change::Insert;
+    Making& making = current();
+    const auto found = making.at.constFind(id);
+    return found == making.at.constEnd() ? nullptr : &making.set.nodes[*found];
+}
+
+void PendingChanges::append(const NodeChange& change)
+{
+    Making& making = current();
+    making.at.insert(change.id, int(making.set.nodes.size()));
+    making.set.nodes.append(change);
+}
+
+void PendingChanges::clear()
+{
+    m_making.clear();
+    programLines.clear();
+}
+
+void PendingChanges::nodeAdded(const NodeChange& change)
+{
+    append(change);
+}
+
+void PendingChanges::nodeUpdated(NodeChange change, const NodeData& before, const NodeData& after)
+{
+    const auto difference = PropertyList::difference(before.properties, after.properties);
+    if (difference.isEmpty() && before.name == after.name)
+        return;
+    NodeChange* known = changeOf(change.id);
+    if (!known) {
+        change.before = NodeValues{before.name, PropertyList()};
+        change.after = change.before;
+        append(change);
+        known = changeOf(change.id);
+    }
+    if (before.name != after.name)
+        current().renamed.insert(change.id);
+    known->summary = change.summary;
+    known->lookupKey = change.lookupKey;
+    known->after->name = after.name;
+    for (const PropertyList::Entry& entry : difference) {
+        if (known->isAdded())
+            known->after->properties.set(entry.name, entry.value);
+        else
+            setProperty(*known, entry.name, before.properties.value(entry.name), entry.value);
+    }
+}
+
+void PendingChanges::nodeRemoved(const NodeID& id, ENodeType type)
+{
+    NodeChange* known = changeOf(id);
+    if (known && known->isAdded()) {
+        known->after.reset();
+        current().at.remove(id);
+        return;
+    }
+    NodeChange removal;
+    removal.id = id;
+    removal.type = type;
+    removal.before = NodeValues(); // the store knows it
+    if (known)
+        *known = removal;
+    else
+        append(removal);
+}
+
+void PendingChanges::relationChanged(const RelationChange& change)
+{
+    Making& making = current();
+    QVector<RelationChange>& relations = making.set.relations;
+    // One that was added and goes again was never there; one that went and comes again has another place.
+    const auto isOpposite = [&change](const RelationChange& other) {
+        return other.isAdded && other.relation == change.relation;
+    };
+    if (change.isAdded) {
+        making.newlyRelated.insert(change.relation.source);
+    } else if (making.newlyRelated.contains(change.relation.source)) {
+        const auto added = std::find_if(relations.begin(), relations.end(), isOpposite);
+        if (added != relations.end()) {
+            relations.erase(added);
+            return;
+        }
+    }
+    relations.append(change);
+}
+
+void PendingChanges::settingChanged(const SettingChange& change)
+{
+    QVector<SettingChange>& settings = current().set.settings;
+    const auto known = std::find_if(settings.begin(), settings.end(), [&change](const SettingChange& other) {
+        return other.key == change.key;
+    });
+    if (known == settings.end())
+        settings.append(change);
+    else
+        known->after = change.after;
+}
+
+void PendingChanges::environmentsChanged(const EnvironmentsChange& change)
+{
+    std::optional<EnvironmentsChange>& environments = current().set.environments;
+    if (environments)
+        environments->after = change.after;
+    else
+        environments = change;
+}
+
+void PendingChanges::logged(const AuditRow& row)
+{
+    current().set.audit.append(row);
+}
+
+QVector<ChangeSet> PendingChanges::sets() const
+{
+    QVector<ChangeSet> result;
+    for (const Making& making : m_making) {
+        ChangeSet set = making.set;
+        std::for_each(set.nodes.begin(), set.nodes.end(), simplify);
+        set.nodes.erase(std::remove_if(set.nodes.begin(), set.nodes.end(), isNothing), set.nodes.end());
+        if (!making.hasPurpose)
+            set.cause.purpose = purposeOf(set);
+        if (!set.isEmpty())
+            result.append(set);
+    }
+    return result;
+}
+
+Purpose PendingChanges::purposeOf(const ChangeSet& set)
+{
+    const auto all = [](const auto& list, const auto& predicate) {
+        return !list.isEmpty() && std::all_of(list.begin(), list.end(), predicate);
+    };
+    if (all(set.nodes, [](const NodeChange& change) { return change.isAdded(); }))
+        return Purpose::Add;
+    if (all(set.nodes, [](const NodeChange& change) { return change.isRemoved(); }))
+        return Purpose::Remove;
+    if (!set.nodes.isEmpty() || !set.relations.isEmpty())
+        return Purpose::Edit;
+    if (set.environments)
+        return Purpose::Environments;
+    const auto isOfProxy = [](const SettingChange& change) {
+        return change.key.startsWith(QLatin1String("proxy."));
+    };
+    if (all(set.settings, isOfProxy))
+        return Purpose::Proxy;
+    return set.settings.isEmpty() ? Purpose::Edit : Purpose::Settings;
+}
+
+bool PendingChanges::adds(const NodeID& id) const
+{
+    bool result = false;
+    for (const Making& making : m_making) {
+        const auto found = making.at.constFind(id);
+        if (found == making.at.constEnd())
+            continue;
+        const NodeChange& change = making.set.nodes.at(*found);
+        result = change.isAdded() || (result && !change.isRemoved());
+    }
+    return result;
 }
 
 bool PendingChanges::removes(const NodeID& id) const
 {
-    const auto found = nodes.find(id);
-    return found != nodes.end() && found->kind == Change::Remove;
+    bool result = false;
+    for (const Making& making : m_making) {
+        const auto found = making.at.constFind(id);
+        if (found != making.at.constEnd())
+            result = making.set.nodes.at(*found).isRemoved();
+    }
+    return result;
 }
 
-void PendingChanges::applyTo(NodeData& data, const QString& name) const
+void PendingChanges::drop(const NodeID& id)
 {
-    const Change* update = updateOf(data.id);
-    if (!update)
-        return;
-    if (update->renamed)
-        data.name = name;
-    for (auto it = update->properties.begin(); it != update->properties.end(); ++it)
-        data.properties.set(it.key(), it.value());
+    for (Making& making : m_making) {
+        const auto found = making.at.constFind(id);
+        if (found == making.at.constEnd())
+            continue;
+        NodeChange& change = making.set.nodes[*found];
+        change.before.reset();
+        change.after.reset();
+        making.at.remove(id);
+    }
 }
 
-void PendingChanges::applyTo(QVector<RelationRow>& rows, const NodeID& source) const
+void PendingChanges::applyTo(NodeData& data)
+{
+    for (Making& making : m_making) {
+        const auto found = making.at.constFind(data.id);
+        if (found == making.at.constEnd() || !making.set.nodes.at(*found).isUpdated())
+            continue;
+        NodeChange& change = making.set.nodes[*found];
+        const bool renamed = making.renamed.contains(data.id);
+        const PropertyList before = change.before->properties;
+        const PropertyList after = change.after->properties;
+        const NodeData stored = data;
+        change.before = NodeValues{stored.name, PropertyList()};
+        data.name = renamed ? change.after->name : stored.name;
+        change.after = NodeValues{data.name, PropertyList()};
+        for (const PropertyList* list : {&before, &after}) {
+            for (const PropertyList::Entry& entry : *list) {
+                const QVariant value = after.value(entry.name);
+                setProperty(change, entry.name, stored.properties.value(entry.name), value);
+                data.properties.set(entry.name, value);
+            }
+        }
+    }
+}
+
+void PendingChanges::show(const NodeID& id, const PackedSummary& summary, const QString& lookupKey)
+{
+    for (Making& making : m_making) {
+        const auto found = making.at.constFind(id);
+        if (found == making.at.constEnd())
+            continue;
+        making.set.nodes[*found].summary = summary;
+        making.set.nodes[*found].lookupKey = lookupKey;
+    }
+}
+
+void PendingChanges::applyTo(QVector<Relation>& rows, const NodeID& source) const
 {
     const auto drop = [&rows](const auto& matches) {
         rows.erase(std::remove_if(rows.begin(), rows.end(), matches), rows.end());
     };
-    for (const RelationChange& change : relations) {
-        if (change.relation.source != source)
-            continue;
-        drop([&change](const RelationRow& row) { return row == change.relation; });
-        if (change.add)
-            rows.append(change.relation);
+    for (const Making& making : m_making) {
+        for (const RelationChange& change : making.set.relations) {
+            if (change.relation.source != source)
+                continue;
+            drop([&change](const Relation& row) { return row == change.relation; });
+            if (change.isAdded)
+                rows.append(change.relation);
+        }
     }
-    drop([this](const RelationRow& row) { return removes(row.source) || removes(row.destination); });
+    drop([this](const Relation& row) { return removes(row.source) || removes(row.destination); });
+}
+
+void PendingChanges::applyTo(Settings& settings, Environments::List& environments) const
+{
+    for (const Making& making : m_making) {
+        for (const SettingChange& change : making.set.settings) {
+            if (change.after)
+                settings.insert(change.key, *change.after);
+            else
+                settings.remove(change.key);
+        }
+        if (making.set.environments)
+            environments = making.set.environments->after;
+    }
+}
+
+QStringList PendingChanges::nodes() const
+{
+    QStringList ids;
+    for (const Making& making : m_making) {
+        for (const NodeChange& change : making.set.nodes) {
+            if (!isNothing(change))
+                ids.append(change.id);
+        }
+        for (const RelationChange& change : making.set.relations)
+            ids.append(change.relation.source);
+    }
+    ids.removeDuplicates();
+    return ids;
 }
 
 } // namespace ko

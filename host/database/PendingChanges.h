@@ -1,67 +1,89 @@
 #ifndef KO_PENDINGCHANGES_H
 #define KO_PENDINGCHANGES_H
 
-#include "store/NodeTables.h"
+#include "model/ChangeSet.h"
+#include "model/NodeData.h"
 
 #include <QHash>
-#include <QMap>
-#include <QVector>
+#include <QSet>
 
 #include <optional>
+#include <vector>
 
 namespace ko {
 
-/// What memory has and the store has not yet, with several changes of one thing made one.
-struct PendingChanges
+/// What memory has and the store has not yet: change sets in the making, with several changes of one thing
+/// made one.
+class PendingChanges
 {
-    struct Change
-    {
-        enum Kind { Insert, Update, Remove };
-
-        Kind kind = Update;
-        bool renamed = false;
-        QMap<QString, QVariant> properties; ///< of an update; removed ones stand with an invalid value
-    };
-
-    struct RelationChange
-    {
-        bool add;
-        RelationRow relation;
-    };
-
-    /// Nodes in the order in which they were first changed; one that is no longer in the hash is to be
-    /// passed over.
-    QVector<NodeID> order;
-    QHash<NodeID, Change> nodes;
-    QVector<RelationChange> relations;
-    NodeTables::Settings settings;
-    std::optional<Environments::List> environments;
-    QVector<AuditRow> audit;
+public:
     QVector<ProgramRow> programLines;
 
     bool isEmpty() const { return programLines.isEmpty() && !hasChanges(); }
 
     /// Anything but lines of the program log.
-    bool hasChanges() const;
+    bool hasChanges() const { return !m_making.empty(); }
 
-    void nodeInserted(const NodeID& id);
-    void nodeUpdated(const NodeID& id, const QVector<PropertyList::Entry>& difference, bool renamed);
-    /// Of a node that the store knows.
-    void nodeRemoved(const NodeID& id);
+    /// Everything is stored, or given up.
+    void clear();
 
-    /// The update that waits for a node, or null.
-    const Change* updateOf(const NodeID& id) const;
-    bool inserts(const NodeID& id) const;
+    /// The sets as they are to be stored, in their order.
+    QVector<ChangeSet> sets() const;
+
+    /// What is changed from now on belongs to \a cause, until leave(). May be nested.
+    void enter(const Cause& cause) { m_causes.append(cause); }
+    void leave() { m_causes.removeLast(); }
+
+    /// What is changed after this without a cause is another change set than what was changed before.
+    void endTurn() { m_turn.reset(); }
+
+    // What is done to the current set.
+    void nodeAdded(const NodeChange& change);
+    /// Nothing if they do not differ. \a change has the identifier, the type and what follows from \a after.
+    void nodeUpdated(NodeChange change, const NodeData& before, const NodeData& after);
+    void nodeRemoved(const NodeID& id, ENodeType type);
+    void relationChanged(const RelationChange& change);
+    void settingChanged(const SettingChange& change);
+    void environmentsChanged(const EnvironmentsChange& change);
+    void logged(const AuditRow& row);
+
+    /// What follows from the values that applyTo() gave a node.
+    void show(const NodeID& id, const PackedSummary& summary, const QString& lookupKey);
+
+    bool adds(const NodeID& id) const;
     bool removes(const NodeID& id) const;
 
-    /// Forgets what waits for a node.
-    void drop(const NodeID& id) { nodes.remove(id); }
+    /// Forgets what waits for a node that others removed.
+    void drop(const NodeID& id);
 
-    /// Changes \a data, read from the store, as the waiting update will; \a name is the node's in memory.
-    void applyTo(NodeData& data, const QString& name) const;
+    /// Changes \a data, as others have stored it now, as what waits will, and takes it for what was before.
+    void applyTo(NodeData& data);
+    /// The same for the stored relations from \a source.
+    void applyTo(QVector<Relation>& rows, const NodeID& source) const;
+    /// The same for the stored settings.
+    void applyTo(Settings& settings, Environments::List& environments) const;
 
-    /// Changes \a rows, the stored relations from \a source, as what waits will.
-    void applyTo(QVector<RelationRow>& rows, const NodeID& source) const;
+    /// The nodes of which something waits, removed ones included.
+    QStringList nodes() const;
+
+private:
+    struct Making
+    {
+        ChangeSet set;
+        QHash<NodeID, int> at; ///< where a node stands in the set
+        QSet<NodeID> renamed;
+        QSet<NodeID> newlyRelated; ///< sources of relations that it adds
+        bool hasPurpose;           ///< else it follows from what is changed
+    };
+
+    Making& current();
+    NodeChange* changeOf(const NodeID& id);
+    void append(const NodeChange& change);
+    static Purpose purposeOf(const ChangeSet& set);
+
+    std::vector<Making> m_making;
+    QVector<Cause> m_causes;
+    std::optional<Cause> m_turn;
 };
 
 } // namespace ko

@@ -28,10 +28,10 @@ constexpr int DefaultPort = 8080; // of a database in which none was set yet
 
 } // namespace
 
-NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy, const NodeTables::Settings& before)
+Settings fromProxy(const GlobalNetworkProxy& proxy, const Settings& before)
 {
     const QJsonArray exceptions = QJsonArray::fromStringList(proxy.exceptions());
-    NodeTables::Settings settings;
+    Settings settings;
     const auto set = [&settings](const char* key, const QString& value) {
         settings.insert(QLatin1String(key), value);
     };
@@ -48,7 +48,7 @@ NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy, const NodeTables
     return settings;
 }
 
-void toProxy(const NodeTables::Settings& settings, GlobalNetworkProxy& proxy)
+void toProxy(const Settings& settings, GlobalNetworkProxy& proxy)
 {
     const auto get = [&settings](const char* key) { return settings.value(QLatin1String(key)); };
     const bool savePassword = get(SavePassword).toInt() != 0;

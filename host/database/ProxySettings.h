@@ -1,7 +1,7 @@
 #ifndef KO_PROXYSETTINGS_H
 #define KO_PROXYSETTINGS_H
 
-#include "store/NodeTables.h"
+#include "model/ChangeSet.h"
 
 namespace ko {
 
@@ -12,10 +12,10 @@ class GlobalNetworkProxy;
 namespace ProxySettings {
 
 /// \a before: the settings as they are, of which a sealed password is kept when it is still the same.
-NodeTables::Settings fromProxy(const GlobalNetworkProxy& proxy, const NodeTables::Settings& before);
+Settings fromProxy(const GlobalNetworkProxy& proxy, const Settings& before);
 
 /// Leaves a password that was not saved as it is.
-void toProxy(const NodeTables::Settings& settings, GlobalNetworkProxy& proxy);
+void toProxy(const Settings& settings, GlobalNetworkProxy& proxy);
 
 } // namespace ProxySettings
 

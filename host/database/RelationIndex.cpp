@@ -4,7 +4,7 @@
 
 namespace ko {
 
-bool RelationIndex::add(const RelationRow& relation)
+bool RelationIndex::add(const Relation& relation)
 {
     Links& out = m_out[relation.source];
     const Link link{relation.destination, relation.type};
@@ -15,7 +15,7 @@ bool RelationIndex::add(const RelationRow& relation)
     return true;
 }
 
-bool RelationIndex::remove(const RelationRow& relation)
+bool RelationIndex::remove(const Relation& relation)
 {
     const auto found = m_out.find(relation.source);
     if (found == m_out.end() || !found->removeOne(Link{relation.destination, relation.type}))
@@ -28,15 +28,15 @@ bool RelationIndex::remove(const RelationRow& relation)
 
 void RelationIndex::removeNode(const NodeID& id)
 {
-    replaceFrom(id, QVector<RelationRow>());
-    const QVector<RelationRow> incoming = relationsTo(id);
-    for (const RelationRow& relation : incoming)
+    replaceFrom(id, QVector<Relation>());
+    const QVector<Relation> incoming = relationsTo(id);
+    for (const Relation& relation : incoming)
         remove(relation);
 }
 
-QVector<RelationRow> RelationIndex::relationsTo(const NodeID& destination) const
+QVector<Relation> RelationIndex::relationsTo(const NodeID& destination) const
 {
-    QVector<RelationRow> result;
+    QVector<Relation> result;
     const int least = std::numeric_limits<int>::min();
     for (auto it = m_in.lower_bound(Incoming(destination, least, NodeID()));
          it != m_in.end() && std::get<0>(*it) == destination; ++it)
@@ -44,13 +44,13 @@ QVector<RelationRow> RelationIndex::relationsTo(const NodeID& destination) const
     return result;
 }
 
-QStringList RelationIndex::replaceFrom(const NodeID& source, const QVector<RelationRow>& relations)
+QStringList RelationIndex::replaceFrom(const NodeID& source, const QVector<Relation>& relations)
 {
     const Links before = m_out.value(source);
     for (const Link& link : before)
         remove({source, link.other, link.type});
     QStringList changed;
-    for (const RelationRow& relation : relations) {
+    for (const Relation& relation : relations) {
         add(relation);
         if (!before.contains(Link{relation.destination, relation.type}))
             changed.append(relation.destination);

@@ -1,7 +1,7 @@
 #ifndef KO_RELATIONINDEX_H
 #define KO_RELATIONINDEX_H
 
-#include "store/NodeTables.h"
+#include "model/Relation.h"
 
 #include <QHash>
 #include <QVector>
@@ -16,14 +16,14 @@ class RelationIndex
 {
 public:
     /// False if it is there already.
-    bool add(const RelationRow& relation);
+    bool add(const Relation& relation);
     /// False if it is not there.
-    bool remove(const RelationRow& relation);
+    bool remove(const Relation& relation);
     void removeNode(const NodeID& id);
 
     /// Makes \a relations, all of which start at \a source, the only ones that do. Returns the
     /// destinations of those that came or went.
-    QStringList replaceFrom(const NodeID& source, const QVector<RelationRow>& relations);
+    QStringList replaceFrom(const NodeID& source, const QVector<Relation>& relations);
 
     QStringList destinations(const NodeID& source, ENodeRelationType type) const;
     bool isDestination(const NodeID& id, ENodeRelationType type) const;
@@ -40,7 +40,7 @@ private:
     typedef QVector<Link> Links;
     typedef std::tuple<NodeID, int, NodeID> Incoming; ///< destination, type, source
 
-    QVector<RelationRow> relationsTo(const NodeID& destination) const;
+    QVector<Relation> relationsTo(const NodeID& destination) const;
 
     QHash<NodeID, Links> m_out;
     // All cameras may record to one folder, so this end is searched, not walked.

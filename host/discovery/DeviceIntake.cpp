@@ -126,6 +126,7 @@ public:
     QHash<QString, Device*> changedDevices; ///< by the new address
     QSet<QString> dismissed;
     unsigned scan = 1;
+    Cause cause = Cause::now(Purpose::Scan); ///< what one scan adds is one change set
     int newInScan = 0;
     bool saidDropped = false;
 };
@@ -159,6 +160,7 @@ void DeviceIntake::Private::work()
     if (waiting.empty() && isRipe() && known.readMacs(slice, Slice)) {
         // Alone, so that two programs that scan one network do not both find a device missing, and add it.
         const auto settleSome = [&] {
+            const ChangeScope scope(db, cause);
             QElapsedTimer alone;
             alone.start();
             while (isRipe() && !alone.hasExpired(SliceAlone) && known.readMacs(slice, Slice)) {
@@ -399,8 +401,7 @@ void DeviceIntake::Private::createNode(Device& device)
         }
     }
     const auto description = hint(device, address, port);
-    db.newNodeHint(*description);
-    device.nodeId = db.lookupHint(*description);
+    device.nodeId = db.add(*description);
 }
 
 void DeviceIntake::Private::drop(const char* what, int limit)
@@ -430,6 +431,7 @@ void DeviceIntake::attach(Scanner& scanner)
 void DeviceIntake::beginScan()
 {
     ++d->scan;
+    d->cause = Cause::now(Purpose::Scan);
     d->newInScan = 0;
     d->saidDropped = false;
     d->filter.beginScan();
@@ -478,6 +480,7 @@ QVector<AddressChange> DeviceIntake::addressChanges() const
 
 void DeviceIntake::accept(const QVector<AddressChange>& accepted)
 {
+    const ChangeScope scope(d->db, Cause::now(Purpose::Address));
     for (const AddressChange& change : accepted) {
         if (!d->changes.removeOne(change))
             continue;

@@ -132,6 +132,7 @@ void logChange(const QString& id, const QString& oldName)
 
 SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress& progress)
     : m_fileName(fileName)
+    , m_cause(Cause::now(Purpose::Import, OutsideText::visible(QFileInfo(fileName).fileName())))
     , m_progress(progress)
 {
 }
@@ -184,8 +185,12 @@ bool SurveyImport::store(const std::function<void()>& work)
     StoreError error;
     const auto nothing = [] {};
     // Alone, so that two programs that import one list do not both find a device missing, and add it.
+    const auto workInSet = [&] {
+        const ChangeScope scope(*db, m_cause);
+        work();
+    };
     const bool stored = db->runAlone(nothing, &error) == HostNodeDB::Outcome::Stored &&
-                        db->runAlone(work, &error) == HostNodeDB::Outcome::Stored;
+                        db->runAlone(workInSet, &error) == HostNodeDB::Outcome::Stored;
     if (!stored)
         storeFailed(error.message);
     m_storedAdded = m_result.added;
@@ -212,9 +217,12 @@ void SurveyImport::log()
     if (m_isLogged || m_result.added + m_result.updated == 0 || !NodeDB::getDB())
         return;
     m_isLogged = true;
-    const QString name = OutsideText::visible(QFileInfo(m_fileName).fileName());
+    auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB());
+    std::optional<ChangeScope> scope;
+    if (db)
+        scope.emplace(*db, m_cause);
     ActionLog::getInstance()->log(
-        ImportLogEntry(name, m_result.added, m_result.updated, m_result.badLines.size()));
+        ImportLogEntry(m_cause.subject, m_result.added, m_result.updated, m_result.badLines.size()));
 }
 
 bool SurveyImport::open()

@@ -5,6 +5,7 @@
 #include "exchange/DeviceFinder.h"
 #include "exchange/ProgressReport.h"
 #include "exchange/Sample.h"
+#include "model/Cause.h"
 
 #include <QFile>
 
@@ -42,7 +43,8 @@ private:
     void update(const QString& id, const SurveyRow& row, QString* reason);
 
     const QString m_fileName;
-    QFile m_file; ///< without a name, see FileName
+    const Cause m_cause; ///< the whole import is one change set
+    QFile m_file;        ///< without a name, see FileName
     ProgressReport m_progress;
     CameraSurvey::ImportResult m_result;
     int m_storedAdded = 0;

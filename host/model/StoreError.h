@@ -41,6 +41,13 @@ struct StoreError
     KO_HOST_EXPORT static StoreError make(Kind kind, const QString& file, const QString& detail);
 };
 
+/// What became of work that was to be stored at once.
+enum class StoreOutcome {
+    Stored,
+    NotStored, ///< what was done waits in memory; the failure has been made known
+    NotRun     ///< another program holds the file, or it cannot be written; nothing was done
+};
+
 /// Thrown inside the store, caught by whoever uses it; never leaves the host.
 struct StoreFailure
 {

@@ -207,6 +207,15 @@ QString seal(const QString& owner, const QString& property, const QString& clear
                                           : QLatin1String(Held) + holder().seal(clear, owner, property);
 }
 
+void seal(NodeData& data)
+{
+    for (const QString& key : properties()) {
+        const QVariant password = data.properties.value(key);
+        if (password.isValid())
+            data.properties.set(key, seal(data.id, key, password.toString()));
+    }
+}
+
 std::optional<QString> toStore(const QString& owner, const QString& property, const QString& sealed)
 {
     const std::optional<QString> held = isHeld(sealed) ? opened(owner, property, sealed) : std::nullopt;

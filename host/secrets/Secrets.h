@@ -1,6 +1,7 @@
 #ifndef KO_SECRETS_H
 #define KO_SECRETS_H
 
+#include "model/NodeData.h"
 #include "model/StoreError.h"
 #include "secrets/InstallationKey.h"
 
@@ -55,6 +56,9 @@ KO_HOST_EXPORT QString open(const QString& owner, const QString& property, const
 /// already, or could not be opened since the start and nothing is given instead.
 KO_HOST_EXPORT QString seal(const QString& owner, const QString& property, const QString& clear,
                             const QString& before = QString());
+
+/// All passwords of a node that comes into being: what describes it has them in the clear.
+void seal(NodeData& data);
 
 /// What to store for what seal() gave. Nothing without a key, unless that was sealed with one.
 std::optional<QString> toStore(const QString& owner, const QString& property, const QString& sealed);

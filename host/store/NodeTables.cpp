@@ -4,7 +4,6 @@
 #include "store/PropertyCoding.h"
 
 #include <algorithm>
-#include <limits>
 #include <string_view>
 
 namespace ko {
@@ -26,21 +25,9 @@ QString notNull(const QString& text)
     return text.isNull() ? QString::fromLatin1("") : text;
 }
 
-NodeRow nodeRow(const SqliteStore::Rows& rows)
+QVector<Relation> relationRows(SqliteStore::Rows rows)
 {
-    NodeRow row;
-    row.n = rows.number(0);
-    row.summary.id = rows.text(1);
-    row.summary.type = ENodeType(rows.number(2));
-    row.summary.name = rows.text(3);
-    row.summary.location = rows.text(4);
-    row.summary.recordingUsage = int(rows.number(5));
-    return row;
-}
-
-QVector<RelationRow> relationRows(SqliteStore::Rows rows)
-{
-    QVector<RelationRow> result;
+    QVector<Relation> result;
     while (rows.next())
         result.append({rows.text(0), rows.text(1), ENodeRelationType(rows.number(2))});
     return result;
@@ -69,12 +56,21 @@ void NodeTables::forEachNode(const std::function<void(qint64, const PackedSummar
 
 NodeRow NodeTables::node(const NodeID& id)
 {
+    NodeRow row;
+    row.id = id;
     SqliteStore::Rows rows = m_store.run(
-        "SELECT n, id, type, name, location, recording, lookup FROM nodes WHERE id = ?", {notNull(id)});
+        "SELECT n, type, name, location, recording, lookup FROM nodes WHERE id = ?", {notNull(id)});
     if (!rows.next())
-        return NodeRow();
-    NodeRow row = nodeRow(rows);
-    row.lookupKey = rows.text(6);
+        return row;
+    NodeSummary summary;
+    summary.id = id;
+    summary.type = ENodeType(rows.number(1));
+    summary.name = rows.text(2);
+    summary.location = rows.text(3);
+    summary.recordingUsage = int(rows.number(4));
+    row.place = rows.number(0);
+    row.summary = PackedSummary(summary);
+    row.lookupKey = rows.text(5);
     return row;
 }
 
@@ -90,37 +86,64 @@ qint64 NodeTables::number(const NodeID& id)
     return m_store.value("SELECT n FROM nodes WHERE id = ?", {notNull(id)}).toLongLong();
 }
 
-bool NodeTables::readProperties(const NodeID& id, PropertyList* properties)
+std::optional<PropertyList> NodeTables::properties(const NodeID& id)
 {
-    SqliteStore::Rows rows = m_store.run("SELECT key, type, value FROM properties"
-                                         " WHERE node = (SELECT n FROM nodes WHERE id = ?) ORDER BY key",
-                                         {notNull(id)});
-    while (rows.next()) {
-        const QVariant value = PropertyCoding::decode(int(rows.number(1)), rows.value(2));
-        properties->set(rows.text(0), value);
+    PropertyList properties;
+    {
+        SqliteStore::Rows rows = m_store.run("SELECT key, type, value FROM properties"
+                                             " WHERE node = (SELECT n FROM nodes WHERE id = ?) ORDER BY key",
+                                             {notNull(id)});
+        while (rows.next())
+            properties.set(rows.text(0), PropertyCoding::decode(int(rows.number(1)), rows.value(2)));
     }
-    return properties->count() > 0 || number(id) != 0;
+    if (properties.count() == 0 && number(id) == 0)
+        return std::nullopt;
+    return properties;
 }
 
-qint64 NodeTables::insertNode(const NodeSummary& summary, const QString& lookupKey)
+void NodeTables::forEachValue(const QString& key,
+                              const std::function<void(const NodeID&, const QVariant&)>& visit)
 {
+    SqliteStore::Rows rows = m_store.run(
+        "SELECT n.id, p.type, p.value FROM nodes n JOIN properties p ON p.node = n.n AND p.key = ?", {key});
+    while (rows.next())
+        visit(rows.text(0), PropertyCoding::decode(int(rows.number(1)), rows.value(2)));
+}
+
+qint64 NodeTables::insertNode(qint64 place, const PackedSummary& packed, const QString& lookupKey)
+{
+    const NodeSummary summary = packed.unpacked();
+    const QVariantList values = {summary.id,
+                                 int(summary.type),
+                                 notNull(summary.name),
+                                 notNull(summary.location),
+                                 summary.recordingUsage,
+                                 notNull(lookupKey)};
+    if (place > 0) {
+        const SqliteStore::Rows rows =
+            m_store.run("INSERT OR IGNORE INTO nodes (n, id, type, name, location, recording, lookup)"
+                        " VALUES (?, ?, ?, ?, ?, ?, ?)",
+                        QVariantList{place} + values);
+        if (rows.changed() > 0)
+            return place;
+    }
     return m_store
         .run("INSERT INTO nodes (id, type, name, location, recording, lookup) VALUES (?, ?, ?, ?, ?, ?)",
-             {summary.id, int(summary.type), notNull(summary.name), notNull(summary.location),
-              summary.recordingUsage, notNull(lookupKey)})
+             values)
         .insertedId();
 }
 
-void NodeTables::updateNode(qint64 n, const NodeSummary& summary, const QString& lookupKey)
+void NodeTables::updateNode(qint64 n, const PackedSummary& packed, const QString& lookupKey)
 {
+    const NodeSummary summary = packed.unpacked();
     m_store.run(
         "UPDATE nodes SET name = ?, location = ?, recording = ?, lookup = ? WHERE n = ?",
         {notNull(summary.name), notNull(summary.location), summary.recordingUsage, notNull(lookupKey), n});
 }
 
-void NodeTables::removeNode(const NodeID& id)
+void NodeTables::removeNode(qint64 n)
 {
-    m_store.run("DELETE FROM nodes WHERE id = ?", {notNull(id)});
+    m_store.run("DELETE FROM nodes WHERE n = ?", {n});
 }
 
 void NodeTables::setProperty(qint64 n, const QString& name, const QVariant& value)
@@ -135,35 +158,59 @@ void NodeTables::setProperty(qint64 n, const QString& name, const QVariant& valu
                 {n, notNull(name), stored.type, stored.value});
 }
 
-QVector<RelationRow> NodeTables::relations()
+QVector<Relation> NodeTables::relations()
 {
     return relationRows(m_store.run("SELECT a.id, b.id, r.type FROM relations r JOIN nodes a ON a.n = "
                                     "r.source JOIN nodes b ON b.n = r.destination ORDER BY r.seq"));
 }
 
-QVector<RelationRow> NodeTables::relationsFrom(const NodeID& source)
+QVector<Relation> NodeTables::relationsFrom(const NodeID& source)
 {
     return relationRows(m_store.run("SELECT a.id, b.id, r.type FROM nodes a JOIN relations r ON r.source = "
                                     "a.n JOIN nodes b ON b.n = r.destination WHERE a.id = ? ORDER BY r.seq",
                                     {notNull(source)}));
 }
 
-void NodeTables::addRelation(const RelationRow& relation)
+QVector<RelationChange> NodeTables::relationsOf(qint64 n)
+{
+    QVector<RelationChange> result;
+    SqliteStore::Rows rows = m_store.run("SELECT a.id, b.id, r.type, r.seq FROM relations r"
+                                         " JOIN nodes a ON a.n = r.source JOIN nodes b ON b.n = r.destination"
+                                         " WHERE r.source = ? OR r.destination = ? ORDER BY r.seq",
+                                         {n, n});
+    while (rows.next())
+        result.append(
+            {{rows.text(0), rows.text(1), ENodeRelationType(rows.number(2))}, false, rows.number(3)});
+    return result;
+}
+
+qint64 NodeTables::addRelation(const Relation& relation, qint64 place)
 {
     // Adds nothing where another process has removed one of the nodes.
-    m_store.run("INSERT OR IGNORE INTO relations (source, destination, type)"
-                " SELECT a.n, b.n, ? FROM nodes a, nodes b WHERE a.id = ? AND b.id = ?",
-                {int(relation.type), relation.source, relation.destination});
+    const SqliteStore::Rows rows =
+        m_store.run("INSERT OR IGNORE INTO relations (seq, source, destination, type)"
+                    " SELECT ?, a.n, b.n, ? FROM nodes a, nodes b WHERE a.id = ? AND b.id = ?",
+                    {place > 0 ? QVariant(place) : QVariant(), int(relation.type), notNull(relation.source),
+                     notNull(relation.destination)});
+    if (rows.changed() > 0)
+        return rows.insertedId();
+    return place > 0 ? addRelation(relation, 0) : 0;
 }
 
-void NodeTables::removeRelation(const RelationRow& relation)
+qint64 NodeTables::removeRelation(const Relation& relation)
 {
-    m_store.run("DELETE FROM relations WHERE source = (SELECT n FROM nodes WHERE id = ?)"
-                " AND destination = (SELECT n FROM nodes WHERE id = ?) AND type = ?",
-                {relation.source, relation.destination, int(relation.type)});
+    const qint64 place =
+        m_store
+            .value("SELECT seq FROM relations WHERE source = (SELECT n FROM nodes WHERE id = ?)"
+                   " AND destination = (SELECT n FROM nodes WHERE id = ?) AND type = ?",
+                   {notNull(relation.source), notNull(relation.destination), int(relation.type)})
+            .toLongLong();
+    if (place != 0)
+        m_store.run("DELETE FROM relations WHERE seq = ?", {place});
+    return place;
 }
 
-NodeTables::Settings NodeTables::settings()
+Settings NodeTables::settings()
 {
     Settings settings;
     SqliteStore::Rows rows = m_store.run("SELECT key, value FROM settings");
@@ -172,9 +219,18 @@ NodeTables::Settings NodeTables::settings()
     return settings;
 }
 
-void NodeTables::setSetting(const QString& key, const QString& value)
+std::optional<QString> NodeTables::setting(const QString& key)
 {
-    m_store.run("INSERT OR REPLACE INTO settings (key, value) VALUES (?, ?)", {key, notNull(value)});
+    const QVariant value = m_store.value("SELECT value FROM settings WHERE key = ?", {key});
+    return value.isValid() ? std::make_optional(value.toString()) : std::nullopt;
+}
+
+void NodeTables::setSetting(const QString& key, const std::optional<QString>& value)
+{
+    if (value)
+        m_store.run("INSERT OR REPLACE INTO settings (key, value) VALUES (?, ?)", {key, notNull(*value)});
+    else
+        m_store.run("DELETE FROM settings WHERE key = ?", {key});
 }
 
 Environments::List NodeTables::environments()
@@ -193,34 +249,6 @@ void NodeTables::setEnvironments(const Environments::List& list)
     for (const auto& environment : list)
         m_store.run("INSERT INTO environments (position, id, name) VALUES (?, ?, ?)",
                     {position++, notNull(environment.first), notNull(environment.second)});
-}
-
-void NodeTables::addAudit(const AuditRow& row)
-{
-    m_store.run("INSERT INTO audit (time, user, host, code, data) VALUES (?, ?, ?, ?, ?)",
-                {row.time, notNull(row.user), notNull(row.host), row.code, notNull(row.data)});
-}
-
-QVector<AuditRow> NodeTables::audit(const LogRange& range)
-{
-    QVector<AuditRow> result;
-    const QVariantList limits = {range.count, range.skip};
-    SqliteStore::Rows rows = range.newestFirst
-                                 ? m_store.run("SELECT seq, time, user, host, code, data FROM audit"
-                                               " ORDER BY seq DESC LIMIT ? OFFSET ?",
-                                               limits)
-                                 : m_store.run("SELECT seq, time, user, host, code, data FROM audit"
-                                               " ORDER BY seq LIMIT ? OFFSET ?",
-                                               limits);
-    while (rows.next())
-        result.append({rows.number(0), rows.number(1), rows.text(2), rows.text(3), quint32(rows.number(4)),
-                       rows.text(5)});
-    return result;
-}
-
-qint64 NodeTables::auditCount()
-{
-    return m_store.value("SELECT count(*) FROM audit").toLongLong();
 }
 
 void NodeTables::addProgramLine(const ProgramRow& row)
@@ -247,41 +275,6 @@ QVector<ProgramRow> NodeTables::programLines(const LogRange& range)
 qint64 NodeTables::programLineCount()
 {
     return m_store.value("SELECT count(*) FROM program_log").toLongLong();
-}
-
-qint64 NodeTables::lastChange()
-{
-    const qint64 last = m_store.value("SELECT seq FROM sqlite_sequence WHERE name = 'changes'").toLongLong();
-    return qBound<qint64>(0, last, std::numeric_limits<qint64>::max() - 1); // another program's may be any
-}
-
-bool NodeTables::hasChangesSince(qint64 seq)
-{
-    // Rows go from the oldest on, without gaps.
-    return lastChange() == seq || m_store.value("SELECT 1 FROM changes WHERE seq = ?", {seq + 1}).isValid();
-}
-
-QVector<ChangeRow> NodeTables::changesSince(qint64 seq)
-{
-    QVector<ChangeRow> result;
-    SqliteStore::Rows rows = m_store.run("SELECT kind, id FROM changes WHERE seq > ? ORDER BY seq", {seq});
-    while (rows.next()) {
-        const QString kind = rows.text(0);
-        if (!kind.isEmpty())
-            result.append({ChangeRow::Kind(kind.at(0).toLatin1()), rows.text(1)});
-    }
-    return result;
-}
-
-void NodeTables::addChange(const ChangeRow& change)
-{
-    m_store.run("INSERT INTO changes (kind, id) VALUES (?, ?)",
-                {QString(QLatin1Char(change.kind)), notNull(change.id)});
-}
-
-void NodeTables::trimChanges()
-{
-    m_store.run("DELETE FROM changes WHERE seq <= ?", {lastChange() - MaxChanges});
 }
 
 void NodeTables::trimProgramLines()

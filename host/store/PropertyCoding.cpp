@@ -1,10 +1,7 @@
 #include "store/PropertyCoding.h"
 
-#include "model/PropertyList.h"
-
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <cmath>
 #include <limits>
@@ -34,29 +31,37 @@ Type typeOf(const QVariant& value)
     }
 }
 
-QJsonObject toJson(const kogen::PropertySet& set)
+QJsonObject setToJson(const kogen::PropertySet& set);
+kogen::PropertySet setFromJson(const QJsonObject& object);
+
+QJsonArray pairOf(const QVariant& value)
+{
+    if (typeOf(value) == Set)
+        return {Set, setToJson(value.value<kogen::PropertySet>())};
+    const Stored stored = encode(value);
+    return {stored.type, QJsonValue::fromVariant(stored.value)};
+}
+
+QVariant valueOf(const QJsonArray& pair)
+{
+    const int type = pair.at(0).toInt(-1);
+    return type == Set ? QVariant::fromValue(setFromJson(pair.at(1).toObject()))
+                       : decode(type, pair.at(1).toVariant());
+}
+
+QJsonObject setToJson(const kogen::PropertySet& set)
 {
     QJsonObject object;
-    for (const auto& entry : set) {
-        const QVariant value = entry.second->value();
-        const Stored stored = encode(value);
-        const QJsonValue json = stored.type == Set ? QJsonValue(toJson(value.value<kogen::PropertySet>()))
-                                                   : QJsonValue::fromVariant(stored.value);
-        object.insert(entry.first, QJsonArray{stored.type, json});
-    }
+    for (const auto& entry : set)
+        object.insert(entry.first, pairOf(entry.second->value()));
     return object;
 }
 
-kogen::PropertySet fromJson(const QJsonObject& object)
+kogen::PropertySet setFromJson(const QJsonObject& object)
 {
     kogen::PropertySet set;
-    for (auto it = object.begin(); it != object.end(); ++it) {
-        const QJsonArray pair = it.value().toArray();
-        const int type = pair.at(0).toInt(-1);
-        const QVariant value = type == Set ? QVariant::fromValue(fromJson(pair.at(1).toObject()))
-                                           : decode(type, pair.at(1).toVariant());
-        set.insert(PropertyList::toProperty(it.key(), value));
-    }
+    for (auto it = object.begin(); it != object.end(); ++it)
+        set.insert(PropertyList::toProperty(it.key(), valueOf(it.value().toArray())));
     return set;
 }
 
@@ -93,7 +98,7 @@ Stored encode(const QVariant& value)
     if (type == Bool)
         return {type, int(value.toBool())};
     if (type == Set) {
-        const QJsonDocument json(toJson(value.value<kogen::PropertySet>()));
+        const QJsonDocument json(setToJson(value.value<kogen::PropertySet>()));
         return {type, QString::fromUtf8(json.toJson(QJsonDocument::Compact))};
     }
     // A null string would be bound as NULL.
@@ -114,10 +119,26 @@ QVariant decode(int type, const QVariant& value)
     case Float:
         return floatFromStored(value);
     case Set:
-        return QVariant::fromValue(fromJson(QJsonDocument::fromJson(value.toString().toUtf8()).object()));
+        return QVariant::fromValue(setFromJson(QJsonDocument::fromJson(value.toString().toUtf8()).object()));
     default:
         return QVariant();
     }
+}
+
+QJsonObject toJson(const PropertyList& properties)
+{
+    QJsonObject object;
+    for (const PropertyList::Entry& entry : properties)
+        object.insert(entry.name, pairOf(entry.value));
+    return object;
+}
+
+PropertyList listFromJson(const QJsonObject& object)
+{
+    PropertyList properties;
+    for (auto it = object.begin(); it != object.end(); ++it)
+        properties.set(it.key(), valueOf(it.value().toArray()));
+    return properties;
 }
 
 } // namespace PropertyCoding

@@ -2,8 +2,9 @@
 #define KO_PROPERTYCODING_H
 
 #include "HostExport.h"
+#include "model/PropertyList.h"
 
-#include <QVariant>
+#include <QJsonObject>
 
 namespace ko {
 
@@ -21,6 +22,10 @@ KO_HOST_EXPORT Stored encode(const QVariant& value);
 
 /// The value again, or an invalid one if nothing that encode() gave.
 KO_HOST_EXPORT QVariant decode(int type, const QVariant& value);
+
+/// All properties as an object: name to [type, value].
+QJsonObject toJson(const PropertyList& properties);
+PropertyList listFromJson(const QJsonObject& object);
 
 } // namespace PropertyCoding
 

@@ -39,8 +39,9 @@ QString textOf(sqlite3_stmt* row, int column)
 
 } // namespace
 
-const char* const SqliteFile::Tables[7] = {"nodes",        "properties", "relations",  "settings",
-                                           "environments", "audit",      "program_log"};
+const char* const SqliteFile::Tables[9] = {"nodes",    "properties",   "relations",
+                                           "settings", "environments", "change_sets",
+                                           "audit",    "changes",      "program_log"};
 
 SqliteFile::SqliteFile(const QString& file, Mode mode)
     : m_file(file)

@@ -25,7 +25,7 @@ public:
     static void harden(sqlite3* handle);
 
     /// What a copy row by row takes over: parents before children, so that references hold.
-    static const char* const Tables[7];
+    static const char* const Tables[9];
 
     /// Whether closing may bring the log into the file: not as long as the file may be a damaged one.
     static void setCheckpointOnClose(sqlite3* handle, bool on);

@@ -70,6 +70,7 @@ public:
         QVariant value(int column) const { return m_query->value(column); }
         QString text(int column) const { return value(column).toString(); }
         qint64 number(int column) const { return value(column).toLongLong(); }
+        int changed() const { return m_query->numRowsAffected(); }
         qint64 insertedId() const { return m_query->lastInsertId().toLongLong(); }
 
     private:

@@ -1,5 +1,6 @@
 #include "store/StoreBackup.h"
 
+#include "model/Cause.h"
 #include "store/DraftFile.h"
 #include "store/SqliteFile.h"
 #include "store/SqliteStore.h"
@@ -143,9 +144,25 @@ void keepPresent(const QString& database)
         throw StoreFailure{error};
 }
 
+QByteArray quoted(const QString& text)
+{
+    return "'" + QString(text).replace(QLatin1Char('\''), QLatin1String("''")).toUtf8() + "'";
+}
+
+/// Tells all programs to look at everything, and the history who did that.
+void noteRestore(SqliteFile& file)
+{
+    const Cause cause = Cause::now(Purpose::Restore);
+    file.execute("INSERT INTO main.change_sets (id, time, user, host, purpose, subject) VALUES (" +
+                 quoted(cause.id) + ", " + QByteArray::number(cause.time) + ", " + quoted(cause.user) + ", " +
+                 quoted(cause.station) + ", " + quoted(Purposes::word(cause.purpose)) + ", '')");
+    file.execute("INSERT INTO main.changes (kind, id, change_set)"
+                 " SELECT 'A', '', max(seq) FROM main.change_sets");
+}
+
 /// Gives \a database, which programs may have open, the rows of \a restored in one transaction. Numbers of
 /// nodes and changes go on from where the database is at that moment, so that no program takes a change for
-/// one that it knows, and all of them look at everything.
+/// one that it knows.
 void replaceRows(const QString& database, const QString& restored, bool keep)
 {
     SqliteFile file(database, SqliteFile::ReadWrite);
@@ -153,7 +170,6 @@ void replaceRows(const QString& database, const QString& restored, bool keep)
     file.execute("BEGIN IMMEDIATE");
     if (keep)
         keepPresent(database); // now, when nobody can add to it any more
-    file.execute("DELETE FROM main.changes");
     for (const char* table : SqliteFile::Tables) {
         const QByteArray name(table);
         file.execute("DELETE FROM main." + name);
@@ -163,7 +179,7 @@ void replaceRows(const QString& database, const QString& restored, bool keep)
                  " WHERE name NOT IN (SELECT name FROM main.sqlite_sequence)");
     file.execute("UPDATE main.sqlite_sequence SET seq = max(seq, coalesce((SELECT other.seq FROM"
                  " restored.sqlite_sequence AS other WHERE other.name = sqlite_sequence.name), 0))");
-    file.execute("UPDATE main.sqlite_sequence SET seq = seq + 1 WHERE name = 'changes'");
+    noteRestore(file);
     file.execute("COMMIT");
 }
 

@@ -49,6 +49,18 @@ const QVector<QVector<const char*>>& steps()
             "INSERT OR REPLACE INTO settings SELECT 'secrets.toSeal', '1'"
             " WHERE EXISTS (SELECT 1 FROM properties) OR EXISTS (SELECT 1 FROM settings)",
         },
+        {
+            // From here on the changes that processes tell each other of are the history, too.
+            "CREATE TABLE change_sets (seq INTEGER PRIMARY KEY AUTOINCREMENT, id TEXT NOT NULL UNIQUE,"
+            " time INTEGER NOT NULL, user TEXT NOT NULL, host TEXT NOT NULL, purpose TEXT NOT NULL,"
+            " subject TEXT NOT NULL)",
+            "ALTER TABLE changes ADD COLUMN change_set INTEGER REFERENCES change_sets (seq)",
+            "ALTER TABLE changes ADD COLUMN before TEXT",
+            "ALTER TABLE changes ADD COLUMN after TEXT",
+            "ALTER TABLE audit ADD COLUMN change_set INTEGER REFERENCES change_sets (seq)",
+            "CREATE INDEX changes_set ON changes (change_set) WHERE change_set IS NOT NULL",
+            "CREATE INDEX audit_set ON audit (change_set) WHERE change_set IS NOT NULL",
+        },
     };
     return steps;
 }

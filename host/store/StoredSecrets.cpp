@@ -80,15 +80,6 @@ void seal(SqliteStore& store)
     emptyLog(store);
 }
 
-void seal(NodeData& data)
-{
-    for (const QString& key : Secrets::properties()) {
-        const QVariant password = data.properties.value(key);
-        if (password.isValid())
-            data.properties.set(key, Secrets::seal(data.id, key, password.toString()));
-    }
-}
-
 bool isPending(SqliteStore& store)
 {
     return store.value("PRAGMA user_version").toInt() >= StoreSchema::FirstSealed &&

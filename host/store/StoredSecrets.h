@@ -1,12 +1,11 @@
 #ifndef KO_STOREDSECRETS_H
 #define KO_STOREDSECRETS_H
 
-#include "model/NodeData.h"
 #include "store/SqliteStore.h"
 
 namespace ko {
 
-/// Seals what has passwords in the clear: databases of versions before 3, and new nodes.
+/// Seals what has passwords in the clear: databases of versions before 3.
 namespace StoredSecrets {
 
 /// The setting that stands in a database as long as there may be passwords in the clear.
@@ -15,9 +14,6 @@ inline constexpr char Pending[] = "secrets.toSeal";
 /// Seals every password of the database that is not sealed, in one transaction, then writes the file anew,
 /// so that nothing of them is left in its unused parts or its log. Takes a key.
 void seal(SqliteStore& store);
-
-/// Of a node that comes into being: what describes it has them in the clear.
-void seal(NodeData& data);
 
 /// What \ref Pending says; false for an older version.
 bool isPending(SqliteStore& store);

@@ -1,0 +1,98 @@
+#ifndef KO_CHANGEQUEUE_H
+#define KO_CHANGEQUEUE_H
+
+#include "database/NodeMemory.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <future>
+
+namespace ko {
+
+/// Brings what waits in memory to the store, and what others stored to memory, at the right times: what
+/// changes in one turn of the event loop is on disk before the event loop waits again.
+class ChangeQueue : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Both outlive the queue.
+    ChangeQueue(NodeStore& store, NodeMemory& memory);
+
+    /// Looks through the file in another thread; nothing is written before that has ended, nor after it has
+    /// found something.
+    void checkInBackground();
+
+    /// Looks for changes of others from now on.
+    void start();
+
+    /// Something waits.
+    void schedule();
+    /// A line of the program log waits, which alone is worth no commit at once.
+    void scheduleLine();
+
+    /// False when storing failed.
+    bool flush();
+
+    /// Runs \a work while nobody else can change the database, and stores what it changed.
+    StoreOutcome runAlone(const std::function<void()>& work, StoreError* error);
+
+    /// The last attempt failed for want of a key of the passwords.
+    bool isKeyMissing() const { return m_failing && m_keyMissing; }
+
+    /// Goes back to what is stored.
+    void discard();
+
+    /// Takes in what others stored since the last look.
+    void sync();
+
+    /// What \a read gives, or an empty result after the failure was made known.
+    template <class Read>
+    auto reading(Read read) -> decltype(read())
+    {
+        try {
+            return read();
+        } catch (const StoreFailure& failure) {
+            readFailed(failure.error);
+            return decltype(read())();
+        }
+    }
+
+    /// Makes a failure known, each different one once.
+    void readFailed(const StoreError& error);
+
+    /// Stores what waits, unless the file is damaged; tells nobody.
+    void finish();
+
+signals:
+    void brought(const ko::Notices& notices);
+    void failed(const ko::StoreError& error);
+    void recovered();
+    void damaged(const ko::StoreError& error);
+    void checked(const ko::StoreError& error);
+
+private:
+    void waitForCheck();
+    bool storeAfter(const std::function<void()>& work, StoreError* error);
+    NodeStore::Batch merge(const Delta& delta, const std::function<void()>& work, Notices* notices);
+    bool writeFailed(const StoreError& error);
+    NodeStore::Wanted wanted() const;
+
+    NodeStore& m_store;
+    NodeMemory& m_memory;
+    QTimer m_poll;
+    QTimer m_retry;
+    QTimer m_lineTimer;
+    std::shared_future<StoreError> m_check;
+    bool m_scheduled = false;
+    bool m_isAlone = false; ///< within runAlone()
+    bool m_failing = false;
+    bool m_keyMissing = false; ///< which is why it fails
+    QString m_lastDamage;
+};
+
+} // namespace ko
+
+#endif

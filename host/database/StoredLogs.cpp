@@ -1,0 +1,51 @@
+#include "database/StoredLogs.h"
+
+namespace ko {
+
+StoredLogs::StoredLogs(NodeStore& store, NodeMemory& memory, ChangeQueue& queue)
+    : m_store(store)
+    , m_memory(memory)
+    , m_queue(queue)
+{
+}
+
+void StoredLogs::append(const AuditRow& row)
+{
+    m_memory.pending.logged(row);
+    m_queue.schedule();
+}
+
+void StoredLogs::append(const ProgramRow& row)
+{
+    QVector<ProgramRow>& lines = m_memory.pending.programLines;
+    if (lines.size() >= NodeStore::MaxProgramLines)
+        lines.removeFirst(); // the store cannot be written, and would not keep it either
+    lines.append(row);
+    m_queue.scheduleLine();
+}
+
+QVector<AuditRow> StoredLogs::auditRows(const LogRange& range)
+{
+    m_queue.flush();
+    return m_queue.reading([&] { return m_store.audit(range); });
+}
+
+qint64 StoredLogs::auditCount()
+{
+    m_queue.flush();
+    return m_queue.reading([&] { return m_store.auditCount(); });
+}
+
+QVector<ProgramRow> StoredLogs::programRows(const LogRange& range)
+{
+    m_queue.flush();
+    return m_queue.reading([&] { return m_store.programLines(range); });
+}
+
+qint64 StoredLogs::programCount()
+{
+    m_queue.flush();
+    return m_queue.reading([&] { return m_store.programLineCount(); });
+}
+
+} // namespace ko

@@ -1,0 +1,53 @@
+#ifndef KO_CAUSE_H
+#define KO_CAUSE_H
+
+#include "HostExport.h"
+
+#include <QString>
+
+namespace ko {
+
+/// What somebody did that changed the database. The words are stored.
+enum class Purpose {
+    Edit,
+    Add,
+    Remove,
+    Settings, ///< of the program: default paths, bandwidth, the active environment
+    Proxy,    ///< the global one
+    Environments,
+    Scan,    ///< what a scanner found
+    Address, ///< a device answers at another address, and the user agreed
+    Import,
+    Start,   ///< what a new database begins with
+    Restore, ///< a backup took the place of everything
+    Unknown  ///< of a newer version of this program
+};
+
+/// Who changed something, where, when and what for.
+struct KO_HOST_EXPORT Cause
+{
+    QString id; ///< what is written with one id is one change set, in however many commits
+    QString user;
+    QString station;
+    qint64 time = 0; ///< milliseconds since 1970, UTC
+    Purpose purpose = Purpose::Edit;
+    QString subject; ///< of an import the name of its file; else empty
+
+    /// Something that the user of this process begins to do now.
+    static Cause now(Purpose purpose, const QString& subject = QString());
+
+    /// The user of the operating system, not of the environment, which anyone can set for himself.
+    static QString currentUser();
+    static QString currentStation();
+};
+
+namespace Purposes {
+
+KO_HOST_EXPORT QString word(Purpose purpose);
+KO_HOST_EXPORT Purpose fromWord(const QString& word);
+
+} // namespace Purposes
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,100 @@
+#include "store/ChangeCoding.h"
+
+#include "store/PropertyCoding.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace ko {
+
+namespace ChangeCoding {
+
+namespace {
+
+constexpr char Name[] = "name";
+constexpr char Type[] = "type";
+constexpr char Place[] = "place";
+constexpr char Properties[] = "properties";
+constexpr char Destination[] = "to";
+
+template <class Json>
+QString compact(const Json& json)
+{
+    return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact));
+}
+
+QJsonObject objectOf(const QString& text)
+{
+    return QJsonDocument::fromJson(text.toUtf8()).object();
+}
+
+} // namespace
+
+QString text(const std::optional<NodeValues>& values, const NodeChange& change)
+{
+    if (!values)
+        return QString();
+    QJsonObject object;
+    object.insert(QLatin1String(Name), values->name);
+    object.insert(QLatin1String(Properties), PropertyCoding::toJson(values->properties));
+    if (!change.isUpdated()) {
+        object.insert(QLatin1String(Type), int(change.type));
+        object.insert(QLatin1String(Place), double(change.place));
+    }
+    return compact(object);
+}
+
+std::optional<NodeValues> nodeValues(const QString& text, NodeChange* change)
+{
+    if (text.isNull())
+        return std::nullopt;
+    const QJsonObject object = objectOf(text);
+    NodeValues values;
+    values.name = object.value(QLatin1String(Name)).toString();
+    values.properties = PropertyCoding::listFromJson(object.value(QLatin1String(Properties)).toObject());
+    const QJsonValue type = object.value(QLatin1String(Type));
+    if (type.isDouble())
+        change->type = ENodeType(type.toInt());
+    change->place = qMax(change->place, qint64(object.value(QLatin1String(Place)).toDouble()));
+    return values;
+}
+
+QString text(const RelationChange& change)
+{
+    return compact(QJsonObject{{QLatin1String(Destination), change.relation.destination},
+                               {QLatin1String(Type), int(change.relation.type)},
+                               {QLatin1String(Place), double(change.place)}});
+}
+
+RelationChange relationChange(const NodeID& source, const QString& before, const QString& after)
+{
+    const QJsonObject object = objectOf(before.isNull() ? after : before);
+    RelationChange change;
+    change.relation = {source, object.value(QLatin1String(Destination)).toString(),
+                       ENodeRelationType(object.value(QLatin1String(Type)).toInt())};
+    change.isAdded = before.isNull();
+    change.place = qint64(object.value(QLatin1String(Place)).toDouble());
+    return change;
+}
+
+QString text(const Environments::List& list)
+{
+    QJsonArray array;
+    for (const auto& environment : list)
+        array.append(QJsonArray{environment.first, environment.second});
+    return compact(array);
+}
+
+Environments::List environments(const QString& text)
+{
+    Environments::List list;
+    const QJsonArray array = QJsonDocument::fromJson(text.toUtf8()).array();
+    for (const QJsonValue& entry : array)
+        list.append({entry.toArray().at(0).toString(), entry.toArray().at(1).toString()});
+    return list;
+}
+
+} // namespace ChangeCoding
+
+} // namespace ko

@@ -1,0 +1,176 @@
+#include "store/ChangeLog.h"
+
+#include "store/ChangeCoding.h"
+
+#include <limits>
+
+namespace ko {
+
+namespace {
+
+QString notNull(const QString& text)
+{
+    return text.isNull() ? QString::fromLatin1("") : text;
+}
+
+AuditRow auditRow(const SqliteStore::Rows& rows)
+{
+    return {rows.number(0), rows.number(1),          rows.text(2),
+            rows.text(3),   quint32(rows.number(4)), rows.text(5)};
+}
+
+std::optional<QString> settingOf(const QString& text)
+{
+    return text.isNull() ? std::nullopt : std::make_optional(text);
+}
+
+/// Adds what one row of the table of changes says.
+void take(ChangeSet* set, ChangeLog::Kind kind, const QString& id, const QString& before,
+          const QString& after)
+{
+    if (kind == ChangeLog::NodeKind) {
+        NodeChange change;
+        change.id = id;
+        change.before = ChangeCoding::nodeValues(before, &change);
+        change.after = ChangeCoding::nodeValues(after, &change);
+        set->nodes.append(change);
+    } else if (kind == ChangeLog::RelationKind) {
+        set->relations.append(ChangeCoding::relationChange(id, before, after));
+    } else if (kind == ChangeLog::SettingKind) {
+        set->settings.append({id, settingOf(before), settingOf(after)});
+    } else if (kind == ChangeLog::EnvironmentsKind) {
+        set->environments =
+            EnvironmentsChange{ChangeCoding::environments(before), ChangeCoding::environments(after)};
+    }
+}
+
+} // namespace
+
+ChangeLog::ChangeLog(SqliteStore& store)
+    : m_store(store)
+{
+}
+
+qint64 ChangeLog::revision()
+{
+    const qint64 last = m_store.value("SELECT seq FROM sqlite_sequence WHERE name = 'changes'").toLongLong();
+    return qBound<qint64>(0, last, std::numeric_limits<qint64>::max() - 1); // another program's may be any
+}
+
+std::optional<QVector<ChangeLog::Row>> ChangeLog::since(qint64 revision)
+{
+    QVector<Row> result;
+    const qint64 last = this->revision();
+    if (last == revision)
+        return result;
+    // A log that was cut off lacks its oldest rows.
+    if (last - revision > MaxRead ||
+        !m_store.value("SELECT 1 FROM changes WHERE seq = ?", {revision + 1}).isValid())
+        return std::nullopt;
+    SqliteStore::Rows rows =
+        m_store.run("SELECT kind, id FROM changes WHERE seq > ? ORDER BY seq", {revision});
+    while (rows.next()) {
+        const QString kind = rows.text(0);
+        if (kind == QLatin1Char(EverythingKind))
+            return std::nullopt;
+        if (!kind.isEmpty())
+            result.append({Kind(kind.at(0).toLatin1()), rows.text(1)});
+    }
+    return result;
+}
+
+qint64 ChangeLog::find(const Cause& cause)
+{
+    return m_store.value("SELECT seq FROM change_sets WHERE id = ?", {notNull(cause.id)}).toLongLong();
+}
+
+qint64 ChangeLog::numberOf(const Cause& cause)
+{
+    const qint64 found = find(cause);
+    if (found != 0)
+        return found;
+    return m_store
+        .run("INSERT INTO change_sets (id, time, user, host, purpose, subject) VALUES (?, ?, ?, ?, ?, ?)",
+             {notNull(cause.id), cause.time, notNull(cause.user), notNull(cause.station),
+              Purposes::word(cause.purpose), notNull(cause.subject)})
+        .insertedId();
+}
+
+void ChangeLog::add(qint64 changeSet, const Row& row, const QString& before, const QString& after)
+{
+    m_store.run("INSERT INTO changes (kind, id, change_set, before, after) VALUES (?, ?, ?, ?, ?)",
+                {QString(QLatin1Char(row.kind)), notNull(row.id), changeSet, before, after});
+}
+
+QVector<ChangeSet> ChangeLog::sets(qint64 after, int count)
+{
+    QVector<ChangeSet> result;
+    {
+        SqliteStore::Rows rows = m_store.run("SELECT seq, id, time, user, host, purpose, subject"
+                                             " FROM change_sets WHERE seq > ? ORDER BY seq LIMIT ?",
+                                             {after, count});
+        while (rows.next()) {
+            ChangeSet set;
+            set.number = rows.number(0);
+            set.cause = {
+                rows.text(1), rows.text(3), rows.text(4), rows.number(2), Purposes::fromWord(rows.text(5)),
+                rows.text(6)};
+            result.append(set);
+        }
+    }
+    for (ChangeSet& set : result) {
+        readChanges(&set);
+        readAudit(&set);
+    }
+    return result;
+}
+
+void ChangeLog::readChanges(ChangeSet* set)
+{
+    SqliteStore::Rows rows = m_store.run(
+        "SELECT kind, id, before, after FROM changes WHERE change_set = ? ORDER BY seq", {set->number});
+    while (rows.next()) {
+        const QString kind = rows.text(0);
+        if (!kind.isEmpty())
+            take(set, Kind(kind.at(0).toLatin1()), rows.text(1), rows.text(2), rows.text(3));
+    }
+}
+
+void ChangeLog::readAudit(ChangeSet* set)
+{
+    SqliteStore::Rows rows = m_store.run("SELECT seq, time, user, host, code, data FROM audit"
+                                         " WHERE change_set = ? ORDER BY seq",
+                                         {set->number});
+    while (rows.next())
+        set->audit.append(auditRow(rows));
+}
+
+void ChangeLog::addAudit(qint64 changeSet, const AuditRow& row)
+{
+    m_store.run("INSERT INTO audit (time, user, host, code, data, change_set) VALUES (?, ?, ?, ?, ?, ?)",
+                {row.time, notNull(row.user), notNull(row.host), row.code, notNull(row.data),
+                 changeSet ? QVariant(changeSet) : QVariant()});
+}
+
+QVector<AuditRow> ChangeLog::audit(const LogRange& range)
+{
+    QVector<AuditRow> result;
+    const QVariantList limits = {range.count, range.skip};
+    SqliteStore::Rows rows = range.newestFirst
+                                 ? m_store.run("SELECT seq, time, user, host, code, data FROM audit"
+                                               " ORDER BY seq DESC LIMIT ? OFFSET ?",
+                                               limits)
+                                 : m_store.run("SELECT seq, time, user, host, code, data FROM audit"
+                                               " ORDER BY seq LIMIT ? OFFSET ?",
+                                               limits);
+    while (rows.next())
+        result.append(auditRow(rows));
+    return result;
+}
+
+qint64 ChangeLog::auditCount()
+{
+    return m_store.value("SELECT count(*) FROM audit").toLongLong();
+}
+
+} // namespace ko

@@ -1,0 +1,66 @@
+#ifndef KO_CHANGELOG_H
+#define KO_CHANGELOG_H
+
+#include "model/ChangeSet.h"
+#include "store/SqliteStore.h"
+
+namespace ko {
+
+/// The tables of what was changed: change sets with what they changed, and the audit log. By the same rows
+/// processes tell each other of changes. Everything throws StoreFailure; nothing opens transactions.
+class ChangeLog
+{
+public:
+    /// What a row of the table of changes is about; the letters are stored. Its id is that of the node, of
+    /// the source of the relation, or the key of the setting.
+    enum Kind : char {
+        NodeKind = 'N',
+        RelationKind = 'R',
+        SettingKind = 'S',
+        EnvironmentsKind = 'E',
+        EverythingKind = 'A' ///< a backup took the place of everything
+    };
+
+    struct Row
+    {
+        Kind kind;
+        QString id;
+    };
+
+    /// With more changes than that, everything is looked at again: reading them one by one takes longer.
+    static constexpr int MaxRead = 20000;
+
+    explicit ChangeLog(SqliteStore& store);
+
+    /// The number of the last change.
+    qint64 revision();
+
+    /// The changes after \a revision; none if these are too many or not all there.
+    std::optional<QVector<Row>> since(qint64 revision);
+
+    /// The number of a change set; 0 if there is none.
+    qint64 find(const Cause& cause);
+    /// Makes it if there is none.
+    qint64 numberOf(const Cause& cause);
+
+    /// \a before and \a after are ChangeCoding's.
+    void add(qint64 changeSet, const Row& row, const QString& before, const QString& after);
+
+    /// At most \a count change sets after number \a after, in order.
+    QVector<ChangeSet> sets(qint64 after, int count);
+
+    /// \a changeSet is 0 if nothing was changed.
+    void addAudit(qint64 changeSet, const AuditRow& row);
+    QVector<AuditRow> audit(const LogRange& range);
+    qint64 auditCount();
+
+private:
+    void readChanges(ChangeSet* set);
+    void readAudit(ChangeSet* set);
+
+    SqliteStore& m_store;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,51 @@
+#ifndef KO_CHANGEWRITER_H
+#define KO_CHANGEWRITER_H
+
+#include "store/ChangeLog.h"
+#include "store/NodeTables.h"
+
+#include <QHash>
+
+namespace ko {
+
+/// Writes change sets into the tables and into the log of changes, which thereby has what really changed.
+/// Belongs into a transaction that began with a look at what others changed; throws StoreFailure.
+class ChangeWriter
+{
+public:
+    ChangeWriter(NodeTables& tables, ChangeLog& log);
+
+    /// Throws StoreError::KeyNotKept when a password is held in memory for want of a key.
+    void write(const ChangeSet& set);
+
+    /// Where the nodes that were added stand now.
+    const QHash<NodeID, qint64>& places() const { return m_places; }
+
+    /// Nodes to be changed that the store does not have: a program removed them without a word.
+    const QVector<NodeID>& missingNodes() const { return m_missing; }
+
+private:
+    void addNode(NodeChange change);
+    void updateNode(NodeChange change);
+    void removeNode(const NodeChange& change);
+    void change(const RelationChange& change);
+    void change(const SettingChange& change);
+    void change(const EnvironmentsChange& change);
+    void note(const NodeChange& change);
+    void note(const RelationChange& change);
+    qint64 number();
+    QString sealed(const QString& owner, const QString& key, const QString& text);
+    QVariant sealed(const QString& owner, const QString& key, const QVariant& value);
+
+    NodeTables& m_tables;
+    ChangeLog& m_log;
+    const ChangeSet* m_set = nullptr;
+    qint64 m_number = 0;              ///< of the change set; given to the first thing that is changed
+    QHash<QString, QString> m_sealed; ///< what was held in memory, to what was stored for it
+    QHash<NodeID, qint64> m_places;
+    QVector<NodeID> m_missing;
+};
+
+} // namespace ko
+
+#endif

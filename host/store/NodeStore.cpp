@@ -1,0 +1,154 @@
+#include "store/NodeStore.h"
+
+#include "store/ChangeWriter.h"
+#include "store/DeltaReader.h"
+#include "store/StoredSecrets.h"
+
+namespace ko {
+
+class NodeStore::Private
+{
+public:
+    explicit Private(std::unique_ptr<SqliteStore> opened)
+        : connection(std::move(opened))
+        , tables(*connection)
+        , log(*connection)
+    {
+    }
+
+    const std::unique_ptr<SqliteStore> connection;
+    NodeTables tables;
+    ChangeLog log;
+    qint64 dataVersion = 0;
+};
+
+const int NodeStore::MaxProgramLines = NodeTables::MaxProgramLines;
+
+NodeStore::NodeStore(std::unique_ptr<Private> opened)
+    : d(std::move(opened))
+{
+}
+
+NodeStore::~NodeStore() = default;
+
+std::unique_ptr<NodeStore> NodeStore::open(const QString& file, StoreError* error, Check check)
+{
+    std::unique_ptr<SqliteStore> connection = SqliteStore::open(
+        file, error, check == Check::First ? SqliteStore::Check::First : SqliteStore::Check::ByUser);
+    if (!connection)
+        return nullptr;
+    return std::unique_ptr<NodeStore>(new NodeStore(std::make_unique<Private>(std::move(connection))));
+}
+
+const QString& NodeStore::fileName() const
+{
+    return d->connection->fileName();
+}
+
+StoreError NodeStore::findDamage(const QString& file)
+{
+    return SqliteStore::findDamage(file);
+}
+
+void NodeStore::setSound()
+{
+    d->connection->setSound();
+}
+
+bool NodeStore::isSealingPending()
+{
+    return StoredSecrets::isPending(*d->connection);
+}
+
+NodeStore::Contents NodeStore::load(const std::function<void(qint64, const PackedSummary&)>& visit)
+{
+    Contents contents;
+    {
+        const Transaction transaction(*d->connection, Transaction::Read);
+        d->dataVersion = d->connection->dataVersion();
+        contents.revision = d->log.revision();
+        d->tables.forEachNode(visit);
+        contents.relations = d->tables.relations();
+        contents.settings = d->tables.settings();
+        contents.environments = d->tables.environments();
+    }
+    d->connection->execute(QLatin1String("PRAGMA shrink_memory")); // nobody reads all those pages again
+    return contents;
+}
+
+std::optional<Delta> NodeStore::news(qint64 revision, const Wanted& wanted)
+{
+    const qint64 version = d->connection->dataVersion();
+    if (version == d->dataVersion)
+        return std::nullopt;
+    const Transaction transaction(*d->connection, Transaction::Read);
+    Delta delta = DeltaReader(d->tables, d->log, wanted).since(revision);
+    d->dataVersion = version;
+    return delta;
+}
+
+Delta NodeStore::everything(const Wanted& wanted)
+{
+    const Transaction transaction(*d->connection, Transaction::Read);
+    return DeltaReader(d->tables, d->log, wanted).everything();
+}
+
+std::optional<PropertyList> NodeStore::properties(const NodeID& id)
+{
+    return d->tables.properties(id);
+}
+
+void NodeStore::column(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit)
+{
+    d->tables.forEachValue(key, visit);
+}
+
+void NodeStore::lookupKeys(const std::function<void(const NodeID&, const QString&)>& visit)
+{
+    d->tables.forEachLookupKey(visit);
+}
+
+NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
+                                    const std::function<Batch(const Delta&)>& merge)
+{
+    Transaction transaction(*d->connection, Transaction::Write);
+    const Batch batch = merge(DeltaReader(d->tables, d->log, wanted).since(revision));
+    ChangeWriter writer(d->tables, d->log);
+    for (const ChangeSet& set : batch.sets)
+        writer.write(set);
+    for (const ProgramRow& line : batch.programLines)
+        d->tables.addProgramLine(line);
+    if (!batch.programLines.isEmpty())
+        d->tables.trimProgramLines();
+    const Commit result = {d->log.revision(), writer.places(), writer.missingNodes()};
+    transaction.commit();
+    return result;
+}
+
+QVector<ChangeSet> NodeStore::changeSets(qint64 after, int count)
+{
+    const Transaction transaction(*d->connection, Transaction::Read);
+    return d->log.sets(after, count);
+}
+
+QVector<AuditRow> NodeStore::audit(const LogRange& range)
+{
+    return d->log.audit(range);
+}
+
+qint64 NodeStore::auditCount()
+{
+    return d->log.auditCount();
+}
+
+QVector<ProgramRow> NodeStore::programLines(const LogRange& range)
+{
+    return d->tables.programLines(range);
+}
+
+qint64 NodeStore::programLineCount()
+{
+    return d->tables.programLineCount();
+}
+
+} // namespace ko

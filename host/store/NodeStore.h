@@ -1,0 +1,103 @@
+#ifndef KO_NODESTORE_H
+#define KO_NODESTORE_H
+
+#include "model/Delta.h"
+#include "model/StoreError.h"
+
+#include <functional>
+#include <memory>
+
+namespace ko {
+
+/// The node database on a SQLite file: takes and gives values. Everything but open() throws StoreFailure
+/// when it fails, with the file as it was.
+class KO_HOST_EXPORT NodeStore
+{
+public:
+    enum class Check {
+        First, ///< the whole file is looked through for damage before it is opened
+        ByUser ///< whoever opens calls findDamage(), and setSound() before the first write
+    };
+
+    /// Makes or migrates the file as needed; null and \a error when that cannot be done.
+    static std::unique_ptr<NodeStore> open(const QString& file, StoreError* error, Check check);
+    ~NodeStore();
+
+    const QString& fileName() const;
+
+    /// From any thread, while the file is in use.
+    static StoreError findDamage(const QString& file);
+    void setSound();
+
+    /// Whether passwords may be there that an older version stored in the clear.
+    bool isSealingPending();
+
+    // Reading
+
+    /// Everything but properties, as it is now: the nodes go to \a visit, oldest first, and are not in what
+    /// is returned; the relations are in their order.
+    struct Contents
+    {
+        qint64 revision;
+        QVector<Relation> relations;
+        Settings settings;
+        Environments::List environments;
+    };
+    Contents load(const std::function<void(qint64 place, const PackedSummary&)>& visit);
+
+    /// Tells of which nodes the properties are wanted, too.
+    typedef std::function<bool(const NodeID&)> Wanted;
+
+    /// What others changed since \a revision; none if nobody has committed anything since the last call.
+    std::optional<Delta> news(qint64 revision, const Wanted& wanted);
+    Delta everything(const Wanted& wanted);
+
+    /// None if the node is gone.
+    std::optional<PropertyList> properties(const NodeID& id);
+
+    /// One property of all nodes that have it, by one statement.
+    void column(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit);
+
+    /// The look-up keys of all nodes that have one.
+    void lookupKeys(const std::function<void(const NodeID&, const QString&)>& visit);
+
+    // Writing
+
+    struct Batch
+    {
+        QVector<ChangeSet> sets; ///< in their order
+        QVector<ProgramRow> programLines;
+    };
+
+    struct Commit
+    {
+        qint64 revision;
+        QHash<NodeID, qint64> places; ///< of the nodes that were added
+        QVector<NodeID> missingNodes; ///< to be changed, but not there: taken as removed
+    };
+
+    /// Keeps other programs from writing, calls \a merge with what they changed since \a revision, and stores
+    /// what that returns. All of it is on the disk when this returns, or nothing is stored.
+    Commit commit(qint64 revision, const Wanted& wanted, const std::function<Batch(const Delta&)>& merge);
+
+    // Logs
+
+    /// At most \a count change sets after number \a after, in order.
+    QVector<ChangeSet> changeSets(qint64 after, int count);
+    QVector<AuditRow> audit(const LogRange& range);
+    qint64 auditCount();
+    QVector<ProgramRow> programLines(const LogRange& range);
+    qint64 programLineCount();
+
+    /// Lines of the program log that are kept.
+    static const int MaxProgramLines;
+
+private:
+    class Private;
+    explicit NodeStore(std::unique_ptr<Private> opened);
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace ko
+
+#endif
