@@ -13,6 +13,7 @@
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/LogQt.h"
 #include "ko/NodeHint.h"
+#include "ko/PropertyKeys.h"
 #include "recording/VolumeProbe.h"
 #include "secrets/Secrets.h"
 #include "secrets/StoredSecrets.h"
@@ -333,7 +334,7 @@ bool HostNodeDB::Private::readLookupKeys()
     return reading([this, &cache] {
         tables.forEachLookupKey([&cache](const NodeID& id, const QString& key) {
             if (NodeRecord* record = cache.find(id))
-                cache.setLookupKey(*record, key);
+                cache.setLookupKey(*record, NodeTypes::lookupKeyToday(key));
         });
         for (auto it = memory.pending.nodes.begin(); it != memory.pending.nodes.end(); ++it) {
             if (NodeRecord* record = cache.find(it.key()))
@@ -438,7 +439,7 @@ void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
 {
     const NodeRecord* record = memory.cache.find(camera);
     if (!record || record->summary.type() != IPDeviceType ||
-        !record->data().properties.value(QLatin1String("UseRecordingTransponder")).toBool() ||
+        !record->data().properties.value(PropertyKeys::UseRecordingTransponder).toBool() ||
         !memory.relations.destinations(camera, RecordingTransponderRelation).isEmpty())
         return;
     const NodeData data = NodeTypes::remotePreviewOf(record->data(), get(TransponderAddress));
