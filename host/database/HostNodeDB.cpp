@@ -9,6 +9,7 @@
 #include "drivers/NodeTypes.h"
 #include "ko/LogQt.h"
 #include "ko/NodeHint.h"
+#include "ko/PropertyKeys.h"
 #include "recording/VolumeProbe.h"
 #include "secrets/Secrets.h"
 
@@ -261,7 +262,7 @@ void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
 {
     const NodeRecord* record = memory.cache.find(camera);
     if (!record || record->summary.type() != IPDeviceType ||
-        !record->data().properties.value(QLatin1String("UseRecordingTransponder")).toBool() ||
+        !record->data().properties.value(PropertyKeys::UseRecordingTransponder).toBool() ||
         !memory.relations.destinations(camera, RecordingTransponderRelation).isEmpty())
         return;
     const NodeData data =

@@ -61,7 +61,7 @@ void NodeMemory::readLookupKeys()
         return;
     m_store.lookupKeys([this](const NodeID& id, const QString& key) {
         if (NodeRecord* record = cache.find(id))
-            cache.setLookupKey(*record, key);
+            cache.setLookupKey(*record, NodeTypes::lookupKeyToday(key));
     });
     const QStringList changed = pending.nodes();
     for (const NodeID& id : changed) {

@@ -4,7 +4,6 @@
 #include "database/HostNodeDB.h"
 #include "discovery/AddressChangeLogEntry.h"
 #include "discovery/KnownAddresses.h"
-#include "discovery/NetworkText.h"
 #include "discovery/Scanner.h"
 #include "discovery/ServiceTypes.h"
 #include "discovery/SightingFilter.h"
@@ -12,6 +11,7 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/LogQt.h"
 #include "ko/NodeHintIPDevice.h"
+#include "model/NetworkAddress.h"
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -200,7 +200,7 @@ void DeviceIntake::Private::sighted(DiscoveredDevice seen)
 /// ports: then there are several behind that address.
 Device* DeviceIntake::Private::atSameAddress(const DiscoveredDevice& seen) const
 {
-    const QVector<Device*> candidates = byAddress.value(NetworkText::addressKey(seen.address));
+    const QVector<Device*> candidates = byAddress.value(NetworkAddress::key(seen.address));
     Device* fits = nullptr;
     for (Device* device : candidates) {
         if (!seen.name.isEmpty() && device->name.compare(seen.name, Qt::CaseInsensitive) == 0)
@@ -268,7 +268,7 @@ void DeviceIntake::Private::absorb(Device& device, const DiscoveredDevice& seen)
     }
     if (!device.addresses.contains(seen.address) && device.addresses.size() < AddressesOfOne) {
         device.addresses.append(seen.address);
-        byAddress[NetworkText::addressKey(seen.address)].append(&device);
+        byAddress[NetworkAddress::key(seen.address)].append(&device);
     }
     const auto isSame = [&seen](const Device::Service& service) {
         return service.type == seen.service && service.port == seen.port && service.name == seen.name;
@@ -288,7 +288,7 @@ void DeviceIntake::Private::absorb(Device& device, const DiscoveredDevice& seen)
 bool DeviceIntake::Private::sharesAddress(const Device& device) const
 {
     return std::any_of(device.addresses.cbegin(), device.addresses.cend(), [this](const QString& address) {
-        return byAddress.value(NetworkText::addressKey(address)).size() > 1;
+        return byAddress.value(NetworkAddress::key(address)).size() > 1;
     });
 }
 
@@ -351,7 +351,7 @@ bool DeviceIntake::Private::noteChange(Device& device)
     const auto isAtHome = [&](const std::unique_ptr<Device>& other) {
         return other.get() != &device && other->mac == device.mac && other->scan == scan;
     };
-    const QVector<Device*> atOldAddress = byAddress.value(NetworkText::addressKey(node->address()));
+    const QVector<Device*> atOldAddress = byAddress.value(NetworkAddress::key(node->address()));
     const bool oldAnswers = std::any_of(atOldAddress.cbegin(), atOldAddress.cend(),
                                         [this](const Device* other) { return other->scan == scan; });
     if (oldAnswers ||

@@ -1,8 +1,8 @@
 #include "discovery/KnownAddresses.h"
 
-#include "discovery/NetworkText.h"
 #include "drivers/NodeTypes.h"
 #include "ko/IPDeviceNode.h"
+#include "model/NetworkAddress.h"
 
 #include <QElapsedTimer>
 
@@ -24,7 +24,7 @@ QStringList KnownAddresses::nodesAt(const QString& address)
         for (const NodeSummary& summary : summaries)
             addAddress(summary);
     }
-    return m_byAddress.values(NetworkText::addressKey(address));
+    return m_byAddress.values(NetworkAddress::key(address));
 }
 
 bool KnownAddresses::readMacs(const QElapsedTimer& clock, int limit)
@@ -65,7 +65,7 @@ void KnownAddresses::addAddress(const NodeSummary& summary)
 {
     if (!NodeTypes::isDevice(summary.type) || summary.location.isEmpty())
         return;
-    const QString key = NetworkText::addressKey(summary.location);
+    const QString key = NetworkAddress::key(summary.location);
     m_byAddress.insert(key, summary.id);
     m_addressOf.insert(summary.id, key);
 }

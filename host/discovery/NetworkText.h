@@ -14,12 +14,6 @@ namespace NetworkText {
 /// kind and number are one blank.
 KO_HOST_EXPORT QString cleaned(const QString& text, int limit);
 
-/// The address in its usual notation; empty when it is no IP address of a single host.
-KO_HOST_EXPORT QString address(const QString& text);
-
-/// How addresses are compared, whoever wrote them: case and spelling make no difference.
-KO_HOST_EXPORT QString addressKey(const QString& address);
-
 } // namespace NetworkText
 
 } // namespace ko

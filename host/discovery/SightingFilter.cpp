@@ -4,6 +4,7 @@
 #include "discovery/NetworkText.h"
 #include "ko/LogQt.h"
 #include "ko/MACAddress.h"
+#include "model/NetworkAddress.h"
 
 #include <utility>
 
@@ -23,7 +24,7 @@ QString usableMac(const QString& text)
 
 bool SightingFilter::pass(DiscoveredDevice& seen)
 {
-    seen.address = NetworkText::address(seen.address.left(100));
+    seen.address = NetworkAddress::normalised(seen.address.left(100));
     if (seen.address.isEmpty() || seen.port < 0 || seen.port > 65535)
         return false;
     if (!m_nearby.contains(QHostAddress(seen.address))) {

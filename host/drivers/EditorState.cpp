@@ -1,5 +1,7 @@
 #include "drivers/EditorState.h"
 
+#include "utils/Fields.h"
+
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
@@ -43,15 +45,10 @@ QStringList itemTexts(const QListWidget* list)
 
 QVariant value(const QWidget* editor)
 {
-    if (const auto* lineEdit = qobject_cast<const QLineEdit*>(editor))
-        return lineEdit->text();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(editor))
-        return button->isChecked();
-    if (const auto* spinBox = qobject_cast<const QSpinBox*>(editor))
-        return spinBox->value();
     if (const auto* comboBox = qobject_cast<const QComboBox*>(editor))
         return comboBox->currentData().isValid() ? comboBox->currentData() : comboBox->currentIndex();
-    return itemTexts(qobject_cast<const QListWidget*>(editor));
+    const auto* list = qobject_cast<const QListWidget*>(editor);
+    return list ? itemTexts(list) : fieldValue(editor);
 }
 
 void copyItems(QComboBox* to, const QComboBox* from)
@@ -63,19 +60,15 @@ void copyItems(QComboBox* to, const QComboBox* from)
 
 void setValue(QWidget* editor, const QWidget* fresh)
 {
-    if (auto* lineEdit = qobject_cast<QLineEdit*>(editor)) {
-        lineEdit->setText(value(fresh).toString());
-    } else if (auto* button = qobject_cast<QAbstractButton*>(editor)) {
-        button->setChecked(value(fresh).toBool());
-    } else if (auto* spinBox = qobject_cast<QSpinBox*>(editor)) {
-        spinBox->setValue(value(fresh).toInt());
-    } else if (auto* comboBox = qobject_cast<QComboBox*>(editor)) {
+    if (auto* comboBox = qobject_cast<QComboBox*>(editor)) {
         const auto* source = qobject_cast<const QComboBox*>(fresh);
         copyItems(comboBox, source);
         comboBox->setCurrentIndex(source->currentIndex());
     } else if (auto* list = qobject_cast<QListWidget*>(editor)) {
         list->clear();
         list->addItems(itemTexts(qobject_cast<const QListWidget*>(fresh)));
+    } else {
+        setField(editor, fieldValue(fresh));
     }
 }
 

@@ -1,11 +1,11 @@
 #include "drivers/GeneralPage.h"
 
+#include "drivers/FormLayout.h"
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
-
-#include "drivers/FormLayout.h"
-#include "drivers/PropertyKeys.h"
+#include "ko/PropertyKeys.h"
+#include "utils/Fields.h"
 
 #include <QLineEdit>
 
@@ -37,7 +37,7 @@ void GeneralPage::init(const NodeHint* hint)
 void GeneralPage::accept(Node* node)
 {
     if (node)
-        node->setStringProperty(QLatin1String(PropertyKeys::Name), m_nameLineEdit->text());
+        storeField(*node, PropertyKeys::Name, m_nameLineEdit);
 }
 
 void GeneralPage::accept(NodeHint* hint)
@@ -47,8 +47,7 @@ void GeneralPage::accept(NodeHint* hint)
 
 void GeneralPage::setReadOnly(bool readOnly)
 {
-    m_nameLineEdit->setReadOnly(readOnly);
-    m_nameLineEdit->setFrame(!readOnly);
+    setFieldReadOnly(m_nameLineEdit, readOnly);
 }
 
 void GeneralPage::proposeName(const QString& name)

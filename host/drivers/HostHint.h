@@ -1,10 +1,10 @@
 #ifndef KO_HOSTHINT_H
 #define KO_HOSTHINT_H
 
-#include "drivers/PropertyKeys.h"
 #include "drivers/PropertyStorage.h"
 #include "ko/NodeHint.h"
 #include "ko/NodeHintIPDevice.h"
+#include "ko/PropertyKeys.h"
 
 namespace ko {
 
@@ -30,12 +30,12 @@ protected:
 
     QVariant read(const QString& name) const override
     {
-        return name == QLatin1String(PropertyKeys::Name) ? QVariant(m_name) : m_properties.value(name);
+        return name == PropertyKeys::Name ? QVariant(m_name) : m_properties.value(name);
     }
 
     void write(const QString& name, const QVariant& value) override
     {
-        if (name == QLatin1String(PropertyKeys::Name))
+        if (name == PropertyKeys::Name)
             m_name = value.toString();
         else
             m_properties.set(name, value);

@@ -3,11 +3,11 @@
 
 #include "drivers/NodeInspector.h"
 #include "drivers/NodeTypes.h"
-#include "drivers/PropertyKeys.h"
 #include "drivers/PropertyStorage.h"
 #include "drivers/StoredNode.h"
 #include "ko/Node.h"
 #include "ko/NodeHint.h"
+#include "ko/PropertyKeys.h"
 #include "secrets/Secrets.h"
 
 namespace ko {
@@ -51,16 +51,16 @@ protected:
     PropertyList list() const override
     {
         PropertyList all = nodeData().properties;
-        all.set(QLatin1String(PropertyKeys::Name), m_data.name);
-        all.set(QLatin1String(PropertyKeys::NodeType), int(m_data.type));
+        all.set(PropertyKeys::Name, m_data.name);
+        all.set(PropertyKeys::NodeType, int(m_data.type));
         return all;
     }
 
     QVariant read(const QString& name) const override
     {
-        if (name == QLatin1String(PropertyKeys::Name))
+        if (name == PropertyKeys::Name)
             return m_data.name;
-        if (name == QLatin1String(PropertyKeys::NodeType))
+        if (name == PropertyKeys::NodeType)
             return int(m_data.type);
         return opened(name, m_data.properties.value(name));
     }
@@ -72,9 +72,9 @@ protected:
 
     void write(const QString& name, const QVariant& value) override
     {
-        if (name == QLatin1String(PropertyKeys::Name))
+        if (name == PropertyKeys::Name)
             m_data.name = value.toString();
-        else if (name != QLatin1String(PropertyKeys::NodeType))
+        else if (name != PropertyKeys::NodeType)
             m_data.properties.set(name, isPassword(name, value) ? sealed(name, value.toString()) : value);
     }
 

@@ -2,7 +2,7 @@
 
 #include "drivers/GeneralPage.h"
 #include "drivers/PropertyFormPage.h"
-#include "drivers/PropertyKeys.h"
+#include "ko/PropertyKeys.h"
 #include "pages/ControlDataWidget.h"
 #include "pages/CustomNetworkProxyWidget.h"
 #include "pages/InfoWidget.h"
@@ -11,6 +11,7 @@
 #include "pages/StorageLocationWidget.h"
 
 #include <QCoreApplication>
+#include <QHash>
 
 namespace ko {
 
@@ -40,12 +41,13 @@ const Field folderFields[] = {
 };
 
 const Field remotePreviewFields[] = {
-    {PropertyKeys::RemotePreviewAddress, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Address:")},
-    {"RecordingTransponderPort", Field::Port, QT_TRANSLATE_NOOP("PropertyFormPage", "Port:")},
-    {"RecordingTransponderSSL", Field::Flag,
+    {PropertyKeys::RecordingTransponderIP, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Address:")},
+    {PropertyKeys::RecordingTransponderPort, Field::Port, QT_TRANSLATE_NOOP("PropertyFormPage", "Port:")},
+    {PropertyKeys::RecordingTransponderSSL, Field::Flag,
      QT_TRANSLATE_NOOP("PropertyFormPage", "Secure connection (SSL)")},
-    {"RecordingTransponderUser", Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "User name:")},
-    {PropertyKeys::RemotePreviewPassword, Field::Password,
+    {PropertyKeys::RecordingTransponderUser, Field::Text,
+     QT_TRANSLATE_NOOP("PropertyFormPage", "User name:")},
+    {PropertyKeys::RecordingTransponderPassword, Field::Password,
      QT_TRANSLATE_NOOP("PropertyFormPage", "Password:")},
 };
 
@@ -80,9 +82,7 @@ const PageSpec urls = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "URLs"), false,
 const PageSpec proxy = {"proxy", QT_TRANSLATE_NOOP("NodeInspector", "Proxy"), true,
                         create<CustomNetworkProxyWidget>};
 
-} // namespace
-
-QVector<PageSpec> pagesOf(ENodeType type)
+QVector<PageSpec> ownPagesOf(ENodeType type)
 {
     switch (type) {
     case IPDeviceType:
@@ -98,6 +98,24 @@ QVector<PageSpec> pagesOf(ENodeType type)
     default:
         return {general};
     }
+}
+
+QHash<int, QVector<PageSpec>>& addedPages()
+{
+    static QHash<int, QVector<PageSpec>> added; // by type
+    return added;
+}
+
+} // namespace
+
+QVector<PageSpec> pagesOf(ENodeType type)
+{
+    return ownPagesOf(type) + addedPages().value(type);
+}
+
+void addPage(ENodeType type, const PageSpec& page)
+{
+    addedPages()[type].append(page);
 }
 
 } // namespace ko

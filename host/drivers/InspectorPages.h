@@ -21,6 +21,9 @@ struct PageSpec
 /// The pages of a type, in the order in which they are shown and accepted.
 KO_HOST_EXPORT QVector<PageSpec> pagesOf(ENodeType type);
 
+/// Adds a page, as the last one, to the inspectors of a type from now on.
+KO_HOST_EXPORT void addPage(ENodeType type, const PageSpec& page);
+
 } // namespace ko
 
 #endif

@@ -4,7 +4,9 @@
 #include "drivers/NodeDriver.h"
 #include "drivers/ProxyProperties.h"
 #include "ko/NodeHintIPDevice.h"
+#include "ko/PropertyKeys.h"
 #include "kogen/Property.h"
+#include "model/NetworkAddress.h"
 
 #include <QGuiApplication>
 #include <QHash>
@@ -20,61 +22,72 @@ namespace NodeTypes {
 
 namespace {
 
-/// A property that every new node of a type carries: pages offer only what a node carries.
-struct Default
-{
-    const char* key;
-    QVariant value;
-};
+typedef QVector<NodeProperty> Properties;
 
-const QVector<Default>& noDefaults()
+Properties& noProperties()
 {
-    static const QVector<Default> none;
+    static Properties none;
     return none;
 }
 
-const QVector<Default>& folderDefaults()
+Properties& folderProperties()
 {
-    static const QVector<Default> defaults = {
+    static Properties all = {
         {PropertyKeys::Path, QString()},
         {PropertyKeys::UseGlobalPath, false},
         {PropertyKeys::User, QString()},
         {PropertyKeys::Password, QString()},
     };
-    return defaults;
+    return all;
 }
 
-const QVector<Default>& cameraDefaults()
+Properties& cameraProperties()
 {
-    static const QVector<Default> defaults = {
-        {"InfoFile", QString()},
-        {"SmoothDisplay", 0},
-        {"PreferredLayout", QString()},
-        {"AudioPathID", QString()},
-        {PropertyKeys::RecordingStorageUsage, 0},
-        {"UseRecordingTransponder", false},
-        {"RotorControl", 0},
-        {"RotorSensitivity", 0},
-        {"RotorFastMode", false},
-        {"PTZInvertX", false},
-        {"PTZInvertY", false},
-        {"PTZRotorAddress", 1},
-        {"PTZRotorZoom", false},
+    static Properties all = {
+        {PropertyKeys::InfoFile, QString()},
+        {PropertyKeys::SmoothDisplay, 0},
+        {PropertyKeys::PreferredLayout, QString()},
+        {PropertyKeys::AudioPathID, QString()},
+        {PropertyKeys::RecordingStorageUsage, int(ViaCamera)},
+        {PropertyKeys::UseRecordingTransponder, false},
+        {PropertyKeys::RotorControl, 0},
+        {PropertyKeys::RotorSensitivity, 0},
+        {PropertyKeys::RotorFastMode, false},
+        {PropertyKeys::PTZInvertX, false},
+        {PropertyKeys::PTZInvertY, false},
+        {PropertyKeys::PTZRotorAddress, 1},
+        {PropertyKeys::PTZRotorZoom, false},
     };
-    return defaults;
+    return all;
 }
 
-const QVector<Default>& urlCameraDefaults()
+Properties& urlCameraProperties()
 {
-    static const QVector<Default> defaults = [] {
-        QVector<Default> all = cameraDefaults();
-        static const char* const urls[] = {"UrlPTZStream", "UrlPTZStop",  "UrlPTZUp",     "UrlPTZDown",
-                                           "UrlPTZLeft",   "UrlPTZRight", "UrlPTZZommIn", "UrlPTZZoomOut"};
-        for (const char* url : urls)
-            all.append({url, QString()});
-        return all;
-    }();
-    return defaults;
+    static Properties all =
+        cameraProperties() +
+        Properties{{PropertyKeys::UrlPTZStream, QString()}, {PropertyKeys::UrlPTZStop, QString()},
+                   {PropertyKeys::UrlPTZUp, QString()},     {PropertyKeys::UrlPTZDown, QString()},
+                   {PropertyKeys::UrlPTZLeft, QString()},   {PropertyKeys::UrlPTZRight, QString()},
+                   {PropertyKeys::UrlPTZZommIn, QString()}, {PropertyKeys::UrlPTZZoomOut, QString()}};
+    return all;
+}
+
+/// At first the system's defaults apply.
+Properties& remotePreviewProperties()
+{
+    static Properties all = {
+        {PropertyKeys::RecordingTransponderUseDefault, true},
+        {PropertyKeys::RecordingTransponderFramerateUseDefault, true},
+        {PropertyKeys::RecordingTransponderQualityUseDefault, true},
+        {PropertyKeys::RecordingTransponderResolutionUseDefault, true},
+        {PropertyKeys::RecordingTransponderSoundUseDefault, true},
+        {PropertyKeys::RecordingTransponderIP, QString()},
+        {PropertyKeys::RecordingTransponderPort, 0},
+        {PropertyKeys::RecordingTransponderSSL, false},
+        {PropertyKeys::RecordingTransponderUser, QString()},
+        {PropertyKeys::RecordingTransponderPassword, QString()},
+    };
+    return all;
 }
 
 struct TypeInfo
@@ -84,21 +97,22 @@ struct TypeInfo
     const char* icon;
     bool canBeAdded;
     bool isDevice;
-    const QVector<Default>& (*defaults)();
+    Properties& (*properties)(); ///< that pages offer on every new node, because it carries them
 };
 
 const TypeInfo types[] = {
     {RecordingFolderType, QT_TRANSLATE_NOOP("NodeTypes", "Recording Folder"), "folder", true, false,
-     folderDefaults},
-    {ViewType, QT_TRANSLATE_NOOP("NodeTypes", "View"), "view", true, false, noDefaults},
-    {IPDeviceType, QT_TRANSLATE_NOOP("NodeTypes", "IP Camera"), "camera", true, true, cameraDefaults},
-    {UrlCameraType, QT_TRANSLATE_NOOP("NodeTypes", "URL Camera"), "urlCamera", true, true, urlCameraDefaults},
+     folderProperties},
+    {ViewType, QT_TRANSLATE_NOOP("NodeTypes", "View"), "view", true, false, noProperties},
+    {IPDeviceType, QT_TRANSLATE_NOOP("NodeTypes", "IP Camera"), "camera", true, true, cameraProperties},
+    {UrlCameraType, QT_TRANSLATE_NOOP("NodeTypes", "URL Camera"), "urlCamera", true, true,
+     urlCameraProperties},
     {ChannelDeviceType, QT_TRANSLATE_NOOP("NodeTypes", "Multi-Channel Device"), "channelDevice", true, true,
-     cameraDefaults},
+     cameraProperties},
     {InternalRecorderType, QT_TRANSLATE_NOOP("NodeTypes", "Internal Recorder"), "recorder", false, false,
-     folderDefaults},
+     folderProperties},
     {RecordingTransponderType, QT_TRANSLATE_NOOP("NodeTypes", "Remote Preview Server"), "transponder", false,
-     false, noDefaults},
+     false, remotePreviewProperties},
 };
 
 const TypeInfo* find(ENodeType type)
@@ -110,25 +124,23 @@ const TypeInfo* find(ENodeType type)
     return nullptr;
 }
 
-QVariant property(const NodeData& data, const char* key)
+QVariant property(const NodeData& data, const QString& key)
 {
-    return data.properties.value(QLatin1String(key));
+    return data.properties.value(key);
 }
 
 /// Where a node of the type is found.
-const char* locationKey(ENodeType type)
+QLatin1String locationKey(ENodeType type)
 {
     if (type == RecordingTransponderType)
-        return PropertyKeys::RemotePreviewAddress;
+        return PropertyKeys::RecordingTransponderIP;
     const TypeInfo* info = find(type);
     return info && info->isDevice ? PropertyKeys::Address : PropertyKeys::Path;
 }
 
 void describeDevice(NodeData& data, const NodeHintIPDevice& hint)
 {
-    const auto set = [&data](const char* key, const QVariant& value) {
-        data.properties.set(QLatin1String(key), value);
-    };
+    const auto set = [&data](const QString& key, const QVariant& value) { data.properties.set(key, value); };
     set(PropertyKeys::Address, hint.address);
     set(PropertyKeys::Port, hint.port);
     set(PropertyKeys::UseSSL, hint.useSSL);
@@ -142,6 +154,20 @@ void describeDevice(NodeData& data, const NodeHintIPDevice& hint)
     if (hint.type == ChannelDeviceType)
         set(PropertyKeys::Channel, hint.channel);
     ProxyProperties::write(data, hint.proxy);
+}
+
+// Parts of a lookup key are joined by a character that occurs in none of them.
+const QChar separator(0x1f);
+const QLatin1String deviceKey("device");
+
+/// What its type carries and nobody has set.
+void addCarried(NodeData& data)
+{
+    const Properties carried = properties(data.type);
+    for (const NodeProperty& property : carried) {
+        if (!data.properties.contains(property.key))
+            data.properties.set(property.key, property.value);
+    }
 }
 
 constexpr int White = 245;
@@ -207,6 +233,18 @@ bool isDevice(ENodeType type)
     return info && info->isDevice;
 }
 
+QVector<NodeProperty> properties(ENodeType type)
+{
+    const TypeInfo* info = find(type);
+    return info ? info->properties() : noProperties();
+}
+
+void declareForDevices(const NodeProperty& property)
+{
+    urlCameraProperties().append(property); // made of the other list when it is first asked for
+    cameraProperties().append(property);
+}
+
 kom::smart<INodeDriverComponent> driver(ENodeType type)
 {
     static const kom::smart<INodeDriverComponent> driver = kom::makeSmart<NodeDriver>();
@@ -239,13 +277,7 @@ NodeData described(const NodeHint& hint)
 NodeData dataOf(const NodeHint& hint)
 {
     NodeData data = described(hint);
-    if (const TypeInfo* info = find(hint.type)) {
-        for (const Default& property : info->defaults()) {
-            const QString key = QLatin1String(property.key);
-            if (!data.properties.contains(key))
-                data.properties.set(key, property.value);
-        }
-    }
+    addCarried(data);
     return data;
 }
 
@@ -254,12 +286,8 @@ NodeData remotePreviewOf(const NodeData& camera, const QString& address)
     NodeData data;
     data.type = RecordingTransponderType;
     data.name = QCoreApplication::translate("NodeTypes", "Remote preview of %1").arg(camera.name);
-    for (const char* key :
-         {"RecordingTransponderUseDefault", "RecordingTransponderFramerateUseDefault",
-          "RecordingTransponderQualityUseDefault", "RecordingTransponderResolutionUseDefault",
-          "RecordingTransponderSoundUseDefault"})
-        data.properties.set(QLatin1String(key), true);
-    data.properties.set(QLatin1String(PropertyKeys::RemotePreviewAddress), address);
+    addCarried(data);
+    data.properties.set(PropertyKeys::RecordingTransponderIP, address);
     return data;
 }
 
@@ -277,15 +305,13 @@ NodeSummary summaryOf(const NodeData& data)
 
 QString lookupKey(const NodeData& data)
 {
-    // Parts are joined by a character that occurs in none of them.
-    const QChar separator(0x1f);
     if (isDevice(data.type)) {
-        const QString address = property(data, PropertyKeys::Address).toString().trimmed().toLower();
+        const QString address = NetworkAddress::key(property(data, PropertyKeys::Address).toString());
         if (address.isEmpty())
             return QString();
         const QString port = QString::number(property(data, PropertyKeys::Port).toInt());
         const QString channel = property(data, PropertyKeys::Channel).toString();
-        return QStringList{QLatin1String("device"), address, port, channel}.join(separator);
+        return QStringList{deviceKey, address, port, channel}.join(separator);
     }
     if (data.type == RecordingFolderType) {
         const QString camera = property(data, PropertyKeys::CameraID).toString();
@@ -295,6 +321,15 @@ QString lookupKey(const NodeData& data)
         return QStringList{QLatin1String("folder"), camera, path}.join(separator);
     }
     return QString();
+}
+
+QString lookupKeyToday(const QString& stored)
+{
+    QStringList parts = stored.contains(QLatin1Char(':')) ? stored.split(separator) : QStringList();
+    if (parts.value(0) != deviceKey)
+        return stored;
+    parts[1] = NetworkAddress::key(parts.value(1));
+    return parts.join(separator);
 }
 
 } // namespace NodeTypes

@@ -16,6 +16,14 @@ class INodeDriverComponent;
 class Node;
 class NodeHint;
 
+/// A property of a type of node, declared once.
+struct NodeProperty
+{
+    QLatin1String key;
+    QVariant value; ///< QString, bool, int or float: the property's type, and what a new node has
+    const char* column = nullptr; ///< its title in lists of cameras; null where they leave it out
+};
+
 /// The node types this host knows, as free functions over one table.
 namespace NodeTypes {
 
@@ -31,6 +39,13 @@ KO_HOST_EXPORT bool canBeAdded(ENodeType type);
 
 /// Whether nodes of this type are reached over the network (they are IPDeviceNodes).
 KO_HOST_EXPORT bool isDevice(ENodeType type);
+
+/// What every new node of the type carries.
+KO_HOST_EXPORT QVector<NodeProperty> properties(ENodeType type);
+
+/// Gives all devices one more property, which a page shows (addPage()) and lists of cameras hold. To be
+/// called before the database is opened; a device that is there already has the property once it is set.
+KO_HOST_EXPORT void declareForDevices(const NodeProperty& property);
 
 /// The driver, or a null handle for an unknown type. One driver serves all types.
 KO_HOST_EXPORT kom::smart<INodeDriverComponent> driver(ENodeType type);
@@ -53,6 +68,9 @@ KO_HOST_EXPORT NodeSummary summaryOf(const NodeData& data);
 
 /// Two nodes with the same key are the same node; an empty key equals none (see docs/lookup.md).
 KO_HOST_EXPORT QString lookupKey(const NodeData& data);
+
+/// A key that was stored earlier, when the notation of IPv6 addresses made a difference, as it is made now.
+QString lookupKeyToday(const QString& stored);
 
 } // namespace NodeTypes
 

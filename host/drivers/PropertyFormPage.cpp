@@ -4,10 +4,11 @@
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
-#include "pages/PageTools.h"
+#include "utils/Fields.h"
 #include "utils/FileDialogs.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -22,19 +23,19 @@ PropertyFormPage::PropertyFormPage(const QVector<Field>& fields, QWidget* parent
     for (const Field& field : m_fields) {
         if (field.kind == Field::Flag) {
             QCheckBox* checkBox = new QCheckBox(tr(field.caption), this);
-            checkBox->setObjectName(QLatin1String(field.key));
+            checkBox->setObjectName(field.key);
             layout.addRow(checkBox);
             continue;
         }
         if (field.kind == Field::Port) {
             QSpinBox* spinBox = new QSpinBox(this);
-            spinBox->setObjectName(QLatin1String(field.key));
+            spinBox->setObjectName(field.key);
             spinBox->setRange(0, 65535);
             layout.addRow(tr(field.caption), spinBox);
             continue;
         }
         QLineEdit* lineEdit = new QLineEdit(this);
-        lineEdit->setObjectName(QLatin1String(field.key));
+        lineEdit->setObjectName(field.key);
         if (field.kind == Field::Password)
             lineEdit->setEchoMode(QLineEdit::Password);
         QPushButton* browse = nullptr;
@@ -71,48 +72,28 @@ void PropertyFormPage::accept(NodeHint* hint)
 
 void PropertyFormPage::setReadOnly(bool readOnly)
 {
-    const QList<QSpinBox*> spinBoxes = findChildren<QSpinBox*>();
-    for (QSpinBox* spinBox : spinBoxes)
-        setFieldReadOnly(spinBox, readOnly);
-    const QList<QLineEdit*> lineEdits = findChildren<QLineEdit*>();
-    for (QLineEdit* lineEdit : lineEdits) {
-        if (!qobject_cast<QSpinBox*>(lineEdit->parent()))
-            setFieldReadOnly(lineEdit, readOnly);
+    const QList<QWidget*> children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* child : children) {
+        if (!qobject_cast<QLabel*>(child))
+            setFieldReadOnly(child, readOnly);
     }
-    const QList<QAbstractButton*> buttons = findChildren<QAbstractButton*>();
-    for (QAbstractButton* button : buttons)
-        button->setEnabled(!readOnly);
 }
 
 void PropertyFormPage::load(const PropertyAccess& properties)
 {
-    for (const Field& field : m_fields) {
-        const QString key = QLatin1String(field.key);
-        if (field.kind == Field::Flag)
-            findChild<QCheckBox*>(key)->setChecked(properties.boolProperty(key, false));
-        else if (field.kind == Field::Port)
-            findChild<QSpinBox*>(key)->setValue(properties.intProperty(key, 0));
-        else
-            findChild<QLineEdit*>(key)->setText(properties.stringProperty(key, QString()));
-    }
+    for (const Field& field : m_fields)
+        loadField(properties, field.key, findChild<QWidget*>(field.key));
 }
 
 void PropertyFormPage::store(PropertyAccess& properties) const
 {
-    for (const Field& field : m_fields) {
-        const QString key = QLatin1String(field.key);
-        if (field.kind == Field::Flag)
-            properties.setBoolProperty(key, findChild<QCheckBox*>(key)->isChecked());
-        else if (field.kind == Field::Port)
-            properties.setIntProperty(key, findChild<QSpinBox*>(key)->value());
-        else
-            properties.setStringProperty(key, findChild<QLineEdit*>(key)->text());
-    }
+    for (const Field& field : m_fields)
+        storeField(properties, field.key, findChild<QWidget*>(field.key));
 }
 
-void PropertyFormPage::chooseFolder(const char* key)
+void PropertyFormPage::chooseFolder(const QString& key)
 {
-    QLineEdit* lineEdit = findChild<QLineEdit*>(QLatin1String(key));
+    QLineEdit* lineEdit = findChild<QLineEdit*>(key);
     const QString folder = FileDialogs::existingFolder(this, tr("Select Folder"), lineEdit->text());
     if (!folder.isEmpty())
         lineEdit->setText(folder);

@@ -1,6 +1,9 @@
 #ifndef KO_PROPERTYFORMPAGE_H
 #define KO_PROPERTYFORMPAGE_H
 
+#include "HostExport.h"
+
+#include <QString>
 #include <QVector>
 #include <QWidget>
 
@@ -11,7 +14,7 @@ class NodeHint;
 class PropertyAccess;
 
 /// A page made from a table: one field for each property, of nodes whose settings need no rules.
-class PropertyFormPage : public QWidget
+class KO_HOST_EXPORT PropertyFormPage : public QWidget
 {
     Q_OBJECT
 
@@ -20,7 +23,7 @@ public:
     {
         enum Kind { Text, Password, Flag, Folder, Port };
 
-        const char* key;     ///< also the object name of the editor
+        QLatin1String key;   ///< also the object name of the editor
         Kind kind;           ///< Flag: a bool property, Port: an int, the others strings
         const char* caption; ///< in the translation context "PropertyFormPage"
     };
@@ -36,7 +39,7 @@ public:
 private:
     void load(const PropertyAccess& properties);
     void store(PropertyAccess& properties) const;
-    void chooseFolder(const char* key);
+    void chooseFolder(const QString& key);
 
     const QVector<Field> m_fields;
 };

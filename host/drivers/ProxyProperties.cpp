@@ -1,7 +1,9 @@
 #include "drivers/ProxyProperties.h"
 
-#include "drivers/PropertyKeys.h"
+#include "ko/PropertyKeys.h"
 #include "secrets/Secrets.h"
+
+#include <algorithm>
 
 namespace ko {
 
@@ -9,20 +11,16 @@ namespace ProxyProperties {
 
 bool isKey(const QString& name)
 {
-    static const char* const keys[] = {PropertyKeys::ProxyUse,      PropertyKeys::ProxyAddress,
-                                       PropertyKeys::ProxyPort,     PropertyKeys::ProxyUser,
-                                       PropertyKeys::ProxyPassword, PropertyKeys::ProxySavePassword};
-    for (const char* key : keys) {
-        if (name == QLatin1String(key))
-            return true;
-    }
-    return false;
+    static const QLatin1String keys[] = {PropertyKeys::ProxyUse,      PropertyKeys::ProxyAddress,
+                                         PropertyKeys::ProxyPort,     PropertyKeys::ProxyUser,
+                                         PropertyKeys::ProxyPassword, PropertyKeys::ProxySavePassword};
+    return std::find(std::begin(keys), std::end(keys), name) != std::end(keys);
 }
 
 NetworkProxy read(const NodeData& node)
 {
-    const auto value = [&node](const char* key) { return node.properties.value(QLatin1String(key)); };
-    const QString password = QLatin1String(PropertyKeys::ProxyPassword);
+    const auto value = [&node](const QString& key) { return node.properties.value(key); };
+    const QString password = PropertyKeys::ProxyPassword;
     NetworkProxy proxy;
     proxy.setProxyAddress(value(PropertyKeys::ProxyAddress).toString(),
                           value(PropertyKeys::ProxyPort).toInt());
@@ -37,10 +35,8 @@ void write(NodeData& node, const NetworkProxy& proxy)
 {
     if (proxy == read(node))
         return;
-    const QString password = QLatin1String(PropertyKeys::ProxyPassword);
-    const auto set = [&node](const char* key, const QVariant& value) {
-        node.properties.set(QLatin1String(key), value);
-    };
+    const QString password = PropertyKeys::ProxyPassword;
+    const auto set = [&node](const QString& key, const QVariant& value) { node.properties.set(key, value); };
     set(PropertyKeys::ProxyUse, proxy.useProxy());
     set(PropertyKeys::ProxyAddress, proxy.proxyAddress());
     set(PropertyKeys::ProxyPort, proxy.proxyPort());

@@ -1,6 +1,5 @@
 #include "exchange/CameraSurvey.h"
 
-#include "drivers/PropertyKeys.h"
 #include "exchange/CsvWriter.h"
 #include "exchange/ExportFile.h"
 #include "exchange/FileName.h"
@@ -11,6 +10,7 @@
 #include "exchange/SurveyImport.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
+#include "ko/PropertyKeys.h"
 #include "model/Redaction.h"
 #include "secrets/Secrets.h"
 
@@ -30,8 +30,8 @@ QString say(const char* text)
 QStringList titles()
 {
     QStringList titles;
-    for (int column = 0; column < SurveyFields::Count; ++column)
-        titles.append(QLatin1String(SurveyFields::field(column).title));
+    for (const SurveyField& field : SurveyFields::all())
+        titles.append(QLatin1String(field.title));
     return titles;
 }
 
@@ -55,8 +55,8 @@ QString cell(const SurveyField& field, const IPDeviceNode& device, Passwords pas
 QStringList record(const IPDeviceNode& device, Passwords passwords)
 {
     QStringList cells;
-    for (int column = 0; column < SurveyFields::Count; ++column)
-        cells.append(cell(SurveyFields::field(column), device, passwords));
+    for (const SurveyField& field : SurveyFields::all())
+        cells.append(cell(field, device, passwords));
     return cells;
 }
 
@@ -70,7 +70,7 @@ bool hasUnreadPassword(const IPDeviceNode& device)
 {
     if (!device.password(0).isEmpty())
         return false;
-    const auto stored = device.properties()[QLatin1String(PropertyKeys::Password)];
+    const auto stored = device.properties()[PropertyKeys::Password];
     return !stored.null() && !stored->value().toString().isEmpty();
 }
 
@@ -92,7 +92,7 @@ bool writeDevices(QIODevice* file, Passwords passwords, const Progress& progress
             result->cancelled = true;
             return false;
         }
-        const auto device = NodeDB::getDB()->node(ids.at(i)).cast<const IPDeviceNode>();
+        const auto device = deviceNode(ids.at(i));
         if (device.null())
             continue;
         const bool wanted = canBeToldApart(*device);

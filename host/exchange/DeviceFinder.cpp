@@ -1,9 +1,10 @@
 #include "exchange/DeviceFinder.h"
 
-#include "database/HostNodeDB.h"
 #include "ko/IPDeviceNode.h"
+#include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
 #include "ko/OutsideText.h"
+#include "model/NetworkAddress.h"
 
 #include <QCoreApplication>
 
@@ -16,20 +17,10 @@ QString say(const char* text)
     return QCoreApplication::translate("ko::CameraSurvey", text);
 }
 
-QString addressKey(const QString& address)
-{
-    return address.trimmed().toLower();
-}
-
-kom::smart<const IPDeviceNode> device(const QString& id)
-{
-    return NodeDB::getDB()->node(id).cast<const IPDeviceNode>();
-}
-
 /// Whether what the row says of \a column is also true of the device, or nothing is said.
 bool agrees(const SurveyRow& row, SurveyColumn column, const IPDeviceNode& node)
 {
-    return !row.has(column) || row.value(column) == SurveyFields::field(int(column)).read(node);
+    return !row.has(column) || row.value(column) == SurveyFields::all()[size_t(column)].read(node);
 }
 
 QString onlyOne(QStringList ids, const char* severalReason, QString* reason)
@@ -41,6 +32,11 @@ QString onlyOne(QStringList ids, const char* severalReason, QString* reason)
 }
 
 } // namespace
+
+DeviceFinder::DeviceFinder(std::function<QVector<Known>()> devices)
+    : m_devices(std::move(devices))
+{
+}
 
 QString DeviceFinder::find(const SurveyRow& row, const NodeHint& hint, QString* reason)
 {
@@ -68,11 +64,11 @@ QString DeviceFinder::findByAddress(const SurveyRow& row, const NodeHint& hint, 
 
     readDevices();
     QStringList ids;
-    const QStringList candidates = m_byAddress.values(addressKey(row.value(SurveyColumn::Address)));
+    const QStringList candidates = m_byAddress.values(NetworkAddress::key(row.value(SurveyColumn::Address)));
     for (const QString& candidate : candidates) {
-        const auto node = device(candidate);
+        const auto node = deviceNode(candidate);
         if (!node.null() && !m_known.contains(candidate) &&
-            addressKey(node->address()) == addressKey(row.value(SurveyColumn::Address)) &&
+            NetworkAddress::key(node->address()) == NetworkAddress::key(row.value(SurveyColumn::Address)) &&
             (!typeIsKnown || node->type == hint.type) && agrees(row, SurveyColumn::Port, *node) &&
             agrees(row, SurveyColumn::Channel, *node))
             ids.append(candidate);
@@ -93,7 +89,7 @@ QString DeviceFinder::findByName(const SurveyRow& row, QString* reason)
         without.append(m_addedByName.value(name));
     const QStringList candidates = m_byName.values(name);
     for (const QString& candidate : candidates) {
-        const auto node = device(candidate);
+        const auto node = deviceNode(candidate);
         if (node.null() || m_known.contains(candidate) || OutsideText::fit(node->name()) != name)
             continue;
         (node->address().isEmpty() ? without : withAddress).append(candidate);
@@ -105,16 +101,15 @@ QString DeviceFinder::findByName(const SurveyRow& row, QString* reason)
 
 void DeviceFinder::changed(const QString& id)
 {
-    const auto node = m_isRead ? device(id) : kom::smart<const IPDeviceNode>();
+    const auto node = m_isRead ? deviceNode(id) : kom::smart<const IPDeviceNode>();
     if (!node.null())
-        insert(id, node->name(), node->address());
+        insert({id, node->name(), node->address()});
 }
 
-/// What else is still here of a device does no harm: find() looks at it again.
-void DeviceFinder::insert(const QString& id, const QString& name, const QString& address)
+void DeviceFinder::insert(const Known& device)
 {
-    m_byName.insert(OutsideText::fit(name), id); // as names in a survey are
-    m_byAddress.insert(addressKey(address), id);
+    m_byName.insert(OutsideText::fit(device.name), device.id); // as names in a survey are
+    m_byAddress.insert(NetworkAddress::key(device.address), device.id);
 }
 
 void DeviceFinder::readDevices()
@@ -122,19 +117,9 @@ void DeviceFinder::readDevices()
     if (m_isRead)
         return;
     m_isRead = true;
-    // Summaries are in memory; without them every node has to be looked at once.
-    if (const auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB())) {
-        const QVector<NodeSummary> summaries = db->summaries();
-        for (const NodeSummary& summary : summaries)
-            insert(summary.id, summary.name, summary.location);
-        return;
-    }
-    const QStringList ids = NodeDB::getDB()->nodeIdList(AllNodeTypes);
-    for (const QString& id : ids) {
-        const auto node = device(id);
-        if (!node.null())
-            insert(id, node->name(), node->address());
-    }
+    const QVector<Known> devices = m_devices();
+    for (const Known& device : devices)
+        insert(device);
 }
 
 } // namespace ko

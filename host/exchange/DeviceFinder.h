@@ -6,9 +6,10 @@
 #include <QMultiHash>
 #include <QSet>
 
+#include <functional>
+
 namespace ko {
 
-class IPDeviceNode;
 class NodeHint;
 
 /// Finds the device that a line of a survey is about.
@@ -20,6 +21,18 @@ class NodeHint;
 class DeviceFinder
 {
 public:
+    /// A device as the index holds it: what else is still in it of a device does no harm, because find()
+    /// looks at the device again.
+    struct Known
+    {
+        QString id;
+        QString name;
+        QString address;
+    };
+
+    /// \a devices gives all devices; it is called when a line first needs them.
+    explicit DeviceFinder(std::function<QVector<Known>()> devices);
+
     /// Id of the device, empty when there is none; \a reason is set when it could be several.
     QString find(const SurveyRow& row, const NodeHint& hint, QString* reason);
 
@@ -33,8 +46,9 @@ private:
     QString findByAddress(const SurveyRow& row, const NodeHint& hint, QString* reason);
     QString findByName(const SurveyRow& row, QString* reason);
     void readDevices();
-    void insert(const QString& id, const QString& name, const QString& address);
+    void insert(const Known& device);
 
+    const std::function<QVector<Known>()> m_devices;
     bool m_isRead = false;
     QMultiHash<QString, QString> m_byAddress;
     QMultiHash<QString, QString> m_byName;

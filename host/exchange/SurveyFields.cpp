@@ -1,9 +1,12 @@
 #include "exchange/SurveyFields.h"
 
+#include "drivers/NodeTypes.h"
 #include "interfaces/ISupportsChannels.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHintIPDevice.h"
 #include "ko/OutsideText.h"
+#include "ko/PropertyKeys.h"
+#include "model/PropertyList.h"
 
 #include <QCoreApplication>
 
@@ -99,7 +102,7 @@ QString yesOrNo(bool value)
     return QLatin1String(value ? "yes" : "no");
 }
 
-QString ssl(const QString& cell, QString* reason)
+QString yesOrNoText(const QString& cell, QString* reason)
 {
     static const struct
     {
@@ -177,60 +180,113 @@ typedef IPDeviceNode& WritableDevice;
 typedef NodeHintIPDevice& Hint;
 typedef const QString& Value;
 
-const SurveyField fields[] = {
-    {SurveyColumn::Name, "name", name, [](Device node) { return node.name(); },
-     [](WritableDevice node, Value value) { node.setStringProperty(QLatin1String("Name"), value); },
-     [](Hint hint, Value value) { hint.setName(value); }},
+std::vector<SurveyField> ownFields()
+{
+    return {
+        {SurveyColumn::Name, "name", name, [](Device node) { return node.name(); },
+         [](WritableDevice node, Value value) { node.setStringProperty(PropertyKeys::Name, value); },
+         [](Hint hint, Value value) { hint.setName(value); }},
 
-    {SurveyColumn::Address, "address", address, [](Device node) { return node.address(); }, setAddress,
-     [](Hint hint, Value value) { hint.address = value; }},
+        {SurveyColumn::Address, "address", address, [](Device node) { return node.address(); }, setAddress,
+         [](Hint hint, Value value) { hint.address = value; }},
 
-    {SurveyColumn::Port, "port", port, [](Device node) { return QString::number(node.port()); },
-     [](WritableDevice node, Value value) { node.setPort(value.toInt()); },
-     [](Hint hint, Value value) { hint.port = value.toInt(); }},
+        {SurveyColumn::Port, "port", port, [](Device node) { return QString::number(node.port()); },
+         [](WritableDevice node, Value value) { node.setPort(value.toInt()); },
+         [](Hint hint, Value value) { hint.port = value.toInt(); }},
 
-    {SurveyColumn::Ssl, "SSL", ssl, [](Device node) { return yesOrNo(node.useSSL()); },
-     [](WritableDevice node, Value value) { node.setUseSSL(value == yesOrNo(true)); },
-     [](Hint hint, Value value) { hint.useSSL = value == yesOrNo(true); }},
+        {SurveyColumn::Ssl, "SSL", yesOrNoText, [](Device node) { return yesOrNo(node.useSSL()); },
+         [](WritableDevice node, Value value) { node.setUseSSL(value == yesOrNo(true)); },
+         [](Hint hint, Value value) { hint.useSSL = value == yesOrNo(true); }},
 
-    {SurveyColumn::User, "user", text, [](Device node) { return node.user(0); },
-     [](WritableDevice node, Value value) { setCredentials(node, value, node.password(0)); },
-     [](Hint hint, Value value) {
-         hint.user = value;
-         hint.credentialsEntered = true;
-     }},
+        {SurveyColumn::User, "user", text, [](Device node) { return node.user(0); },
+         [](WritableDevice node, Value value) { setCredentials(node, value, node.password(0)); },
+         [](Hint hint, Value value) {
+             hint.user = value;
+             hint.credentialsEntered = true;
+         }},
 
-    {SurveyColumn::Password, "password", lineOfText, [](Device node) { return node.password(0); },
-     [](WritableDevice node, Value value) { setCredentials(node, node.user(0), value); },
-     [](Hint hint, Value value) {
-         hint.password = value;
-         hint.credentialsEntered = true;
-     }},
+        {SurveyColumn::Password, "password", lineOfText, [](Device node) { return node.password(0); },
+         [](WritableDevice node, Value value) { setCredentials(node, node.user(0), value); },
+         [](Hint hint, Value value) {
+             hint.password = value;
+             hint.credentialsEntered = true;
+         }},
 
-    {SurveyColumn::Channel, "channel", channel, channelOf, setChannel,
-     [](Hint hint, Value value) { hint.channel = value.toInt(); }},
+        {SurveyColumn::Channel, "channel", channel, channelOf, setChannel,
+         [](Hint hint, Value value) { hint.channel = value.toInt(); }},
 
-    {SurveyColumn::Model, "model", shownText, [](Device node) { return node.model(); },
-     [](WritableDevice node, Value value) { node.setModel(value); },
-     [](Hint hint, Value value) { hint.model = value; }},
+        {SurveyColumn::Model, "model", shownText, [](Device node) { return node.model(); },
+         [](WritableDevice node, Value value) { node.setModel(value); },
+         [](Hint hint, Value value) { hint.model = value; }},
 
-    {SurveyColumn::Mac, "MAC", mac, [](Device node) { return node.macAddress().toString(true); },
-     [](WritableDevice node, Value value) { node.setMacAddress(MACAddress(value)); },
-     [](Hint hint, Value value) { hint.macAddress = MACAddress(value); }},
+        {SurveyColumn::Mac, "MAC", mac, [](Device node) { return node.macAddress().toString(true); },
+         [](WritableDevice node, Value value) { node.setMacAddress(MACAddress(value)); },
+         [](Hint hint, Value value) { hint.macAddress = MACAddress(value); }},
 
-    {SurveyColumn::RecordingPath, "recording path", path, nullptr, nullptr, nullptr},
-    {SurveyColumn::Type, "type", type, nullptr, nullptr, nullptr},
-};
+        {SurveyColumn::RecordingPath, "recording path", path, nullptr, nullptr, nullptr},
+        {SurveyColumn::Type, "type", type, nullptr, nullptr, nullptr},
+    };
+}
 
-static_assert(sizeof(fields) / sizeof(fields[0]) == SurveyFields::Count, "one field for each column");
+QString cellOf(const QVariant& value)
+{
+    return value.userType() == QMetaType::Bool ? yesOrNo(value.toBool()) : value.toString();
+}
+
+QString normalised(const NodeProperty& property, const QString& cell, QString* reason)
+{
+    const int type = property.value.userType();
+    if (type == QMetaType::Bool)
+        return yesOrNoText(cell, reason);
+    if (type == QMetaType::QString)
+        return shownText(cell, reason);
+    QVariant value(cell.trimmed());
+    if (!value.toString().isEmpty() && !value.convert(type))
+        *reason = say("it is no number");
+    return value.toString();
+}
+
+QString read(const NodeProperty& property, const PropertyAccess& device)
+{
+    const auto stored = device.properties()[property.key];
+    return cellOf(stored.null() ? property.value : stored->value());
+}
+
+void write(const NodeProperty& property, PropertyAccess& device, const QString& text)
+{
+    const int type = property.value.userType();
+    QVariant value = type == QMetaType::Bool ? QVariant(text == yesOrNo(true)) : QVariant(text);
+    value.convert(type);
+    device.addProperty(*PropertyList::toProperty(property.key, value));
+}
+
+SurveyField fieldOf(const NodeProperty& property, int column)
+{
+    return {SurveyColumn(column),
+            property.column,
+            [property](Value cell, QString* reason) { return normalised(property, cell, reason); },
+            [property](Device node) { return read(property, node); },
+            [property](WritableDevice node, Value value) { write(property, node, value); },
+            [property](Hint hint, Value value) { write(property, hint, value); }};
+}
 
 } // namespace
 
 namespace SurveyFields {
 
-const SurveyField& field(int column)
+const std::vector<SurveyField>& all()
 {
-    return fields[column];
+    static const std::vector<SurveyField> all = [] {
+        std::vector<SurveyField> fields = ownFields();
+        Q_ASSERT(int(fields.size()) == int(SurveyColumn::OwnCount));
+        const QVector<NodeProperty> properties = NodeTypes::properties(IPDeviceType);
+        for (const NodeProperty& property : properties) {
+            if (property.column)
+                fields.push_back(fieldOf(property, int(fields.size())));
+        }
+        return fields;
+    }();
+    return all;
 }
 
 QString typeText(int type)

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <vector>
+
 namespace ko {
 
 class IPDeviceNode;
@@ -20,7 +23,8 @@ enum class SurveyColumn {
     Model,
     Mac,
     RecordingPath,
-    Type
+    Type,
+    OwnCount ///< from here on: the properties of devices that have a column, see NodeProperty
 };
 
 /// What a column means: how its cells are read, and where its value is in a device.
@@ -31,20 +35,18 @@ struct SurveyField
 
     /// The one form in which equal values are equal texts. An empty text leaves the value as it is. For
     /// a bad cell \a reason is set; it never repeats the cell, which may be a misplaced password.
-    QString (*normalised)(const QString& cell, QString* reason);
+    std::function<QString(const QString& cell, QString* reason)> normalised;
 
     // Null for the columns that are no value of the device itself.
-    QString (*read)(const IPDeviceNode& node);
-    void (*write)(IPDeviceNode& node, const QString& value);
-    void (*describe)(NodeHintIPDevice& hint, const QString& value);
+    std::function<QString(const IPDeviceNode& node)> read;
+    std::function<void(IPDeviceNode& node, const QString& value)> write;
+    std::function<void(NodeHintIPDevice& hint, const QString& value)> describe;
 };
 
 namespace SurveyFields {
 
-const int Count = 11;
-
-/// The fields by the number of their column.
-const SurveyField& field(int column);
+/// The fields in the order of their columns.
+const std::vector<SurveyField>& all();
 
 /// The cell of the column "type".
 QString typeText(int type);

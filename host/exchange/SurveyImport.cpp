@@ -50,11 +50,8 @@ kom::smart<NodeHintIPDevice> describe(const SurveyRow& row)
     if (driver.null())
         return kom::smart<NodeHintIPDevice>();
     auto hint = driver->createNodeHint(typeOf(row)).cast<NodeHintIPDevice>();
-    for (int column = 0; column < SurveyFields::Count && !hint.null(); ++column) {
-        const SurveyField& field = SurveyFields::field(column);
-        if (field.describe && row.has(field.column))
-            field.describe(*hint, row.value(column));
-    }
+    if (!hint.null())
+        row.describe(*hint);
     if (!hint.null() && hint->useSSL && !row.has(SurveyColumn::Port))
         hint->port = SslPort;
     return hint;
@@ -77,37 +74,45 @@ QString create(NodeHint& hint)
     return id;
 }
 
-bool differs(const IPDeviceNode& node, const SurveyRow& row, const SurveyField& field)
-{
-    return field.read && row.has(field.column) && row.value(field.column) != field.read(node);
-}
-
-bool differs(const IPDeviceNode& node, const SurveyRow& row)
-{
-    for (int column = 0; column < SurveyFields::Count; ++column) {
-        if (differs(node, row, SurveyFields::field(column)))
-            return true;
-    }
-    return false;
-}
-
 bool write(const QString& id, const SurveyRow& row)
 {
     Node* node = NodeDB::getDB()->beginUpdateNode(id, -1);
     auto* device = dynamic_cast<IPDeviceNode*>(node);
-    for (int column = 0; column < SurveyFields::Count && device; ++column) {
-        const SurveyField& field = SurveyFields::field(column);
-        if (differs(*device, row, field))
-            field.write(*device, row.value(column));
-    }
+    if (device)
+        row.write(*device);
     NodeDB::getDB()->endUpdateNode(node);
     return device;
+}
+
+/// The database as this host's own; null if it is another host's.
+HostNodeDB* hostDatabase()
+{
+    return qobject_cast<HostNodeDB*>(NodeDB::getDB());
+}
+
+QVector<DeviceFinder::Known> knownDevices()
+{
+    QVector<DeviceFinder::Known> devices;
+    // Summaries are in memory; without them every node has to be looked at once.
+    if (const HostNodeDB* db = hostDatabase()) {
+        const QVector<NodeSummary> summaries = db->summaries();
+        for (const NodeSummary& summary : summaries)
+            devices.append({summary.id, summary.name, summary.location});
+        return devices;
+    }
+    const QStringList ids = NodeDB::getDB()->nodeIdList(AllNodeTypes);
+    for (const QString& id : ids) {
+        const auto node = deviceNode(id);
+        if (!node.null())
+            devices.append({id, node->name(), node->address()});
+    }
+    return devices;
 }
 
 /// Where locks belong to the process, whoever closes one of its files takes them away.
 bool isDatabase(const struct stat& info)
 {
-    const auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB());
+    const HostNodeDB* db = hostDatabase();
     const QByteArray name = db ? QFile::encodeName(db->fileName()) : QByteArray();
     for (const char* suffix : {"", "-wal", "-shm"}) {
         struct stat own = {};
@@ -134,6 +139,7 @@ SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress
     : m_fileName(fileName)
     , m_cause(Cause::now(Purpose::Import, OutsideText::visible(QFileInfo(fileName).fileName())))
     , m_progress(progress)
+    , m_finder(knownDevices)
 {
 }
 
@@ -177,7 +183,7 @@ void SurveyImport::followOthers()
 /// before, so that nothing but this is taken back.
 bool SurveyImport::store(const std::function<void()>& work)
 {
-    auto* db = qobject_cast<HostNodeDB*>(NodeDB::getDB());
+    HostNodeDB* db = hostDatabase();
     if (!db) {
         work(); // other hosts store in their own way
         return true;
@@ -201,7 +207,7 @@ bool SurveyImport::store(const std::function<void()>& work)
 void SurveyImport::storeFailed(const QString& reason)
 {
     if (m_result.added > m_storedAdded || m_result.updated > m_storedUpdated) {
-        qobject_cast<HostNodeDB*>(NodeDB::getDB())->discardUnstoredChanges();
+        hostDatabase()->discardUnstoredChanges();
         m_isLogged = false;
     }
     m_result.added = m_storedAdded;
@@ -361,7 +367,7 @@ void SurveyImport::add(const SurveyRow& row, NodeHint& hint, QString* reason)
 
 void SurveyImport::update(const QString& id, const SurveyRow& row, QString* reason)
 {
-    const auto node = NodeDB::getDB()->node(id).cast<const IPDeviceNode>();
+    const auto node = deviceNode(id);
     if (node.null()) {
         *reason = say("what is at this address is no device");
         return;
@@ -372,11 +378,11 @@ void SurveyImport::update(const QString& id, const SurveyRow& row, QString* reas
     }
     const QString path = row.value(SurveyColumn::RecordingPath);
     const bool otherPath = !path.isEmpty() && path != RecordingPath::of(id);
-    if (!otherPath && !differs(*node, row)) {
+    if (!otherPath && !row.differs(*node)) {
         ++m_result.unchanged;
         return;
     }
-    if (differs(*node, row) && !write(id, row)) {
+    if (row.differs(*node) && !write(id, row)) {
         *reason = say("the device could not be changed");
         return;
     }

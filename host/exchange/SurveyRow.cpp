@@ -17,10 +17,9 @@ QString say(const char* text)
 
 int columnOf(const QString& title)
 {
-    for (int column = 0; column < SurveyFields::Count; ++column) {
-        const QLatin1String known(SurveyFields::field(column).title);
-        if (title.simplified().compare(known, Qt::CaseInsensitive) == 0)
-            return column;
+    for (const SurveyField& field : SurveyFields::all()) {
+        if (title.simplified().compare(QLatin1String(field.title), Qt::CaseInsensitive) == 0)
+            return int(field.column);
     }
     return -1;
 }
@@ -33,8 +32,8 @@ SurveyHeader SurveyHeader::read(const QStringList& titles, QString* error)
     for (const QString& title : titles) {
         const int column = columnOf(title);
         if (column >= 0 && header.m_columns.contains(column))
-            *error =
-                say("There are two columns \"%1\".").arg(QLatin1String(SurveyFields::field(column).title));
+            *error = say("There are two columns \"%1\".")
+                         .arg(QLatin1String(SurveyFields::all()[size_t(column)].title));
         if (column < 0 && !title.trimmed().isEmpty())
             header.m_ignored.append(title.simplified());
         header.m_columns.append(column);
@@ -54,9 +53,9 @@ SurveyRow SurveyRow::read(const SurveyHeader& header, const QStringList& cells, 
             *reason = say("there are more cells than columns");
         if (column < 0)
             continue;
-        const SurveyField& field = SurveyFields::field(column);
+        const SurveyField& field = SurveyFields::all()[size_t(column)];
         QString badCell;
-        row.m_values[size_t(column)] = field.normalised(cells.at(i), &badCell);
+        row.m_values[column] = field.normalised(cells.at(i), &badCell);
         if (!badCell.isEmpty() && reason->isEmpty())
             *reason = say("bad %1: %2").arg(QLatin1String(field.title), badCell);
     }
@@ -69,6 +68,34 @@ bool SurveyRow::isEmpty() const
 {
     return std::all_of(m_values.begin(), m_values.end(),
                        [](const QString& value) { return value.isEmpty(); });
+}
+
+bool SurveyRow::differs(const IPDeviceNode& device, const SurveyField& field) const
+{
+    return field.read && has(field.column) && value(field.column) != field.read(device);
+}
+
+bool SurveyRow::differs(const IPDeviceNode& device) const
+{
+    const std::vector<SurveyField>& fields = SurveyFields::all();
+    return std::any_of(fields.begin(), fields.end(),
+                       [this, &device](const SurveyField& field) { return differs(device, field); });
+}
+
+void SurveyRow::write(IPDeviceNode& device) const
+{
+    for (const SurveyField& field : SurveyFields::all()) {
+        if (differs(device, field))
+            field.write(device, value(field.column));
+    }
+}
+
+void SurveyRow::describe(NodeHintIPDevice& hint) const
+{
+    for (const SurveyField& field : SurveyFields::all()) {
+        if (field.describe && has(field.column))
+            field.describe(hint, value(field.column));
+    }
 }
 
 QString SurveyRow::contradiction() const

@@ -4,8 +4,7 @@
 #include "exchange/SurveyFields.h"
 
 #include <QStringList>
-
-#include <array>
+#include <QVector>
 
 namespace ko {
 
@@ -32,17 +31,25 @@ public:
     /// \a reason is set when the line is not to be imported.
     static SurveyRow read(const SurveyHeader& header, const QStringList& cells, QString* reason);
 
-    QString value(SurveyColumn column) const { return m_values[size_t(column)]; }
-    QString value(int column) const { return m_values[size_t(column)]; }
+    QString value(SurveyColumn column) const { return m_values.at(int(column)); }
+    QString value(int column) const { return m_values.at(int(column)); }
     bool has(SurveyColumn column) const { return !value(column).isEmpty(); }
 
     /// Only delimiters: spreadsheets write such lines below a table.
     bool isEmpty() const;
 
+    /// Whether the row says something else than the device.
+    bool differs(const IPDeviceNode& device) const;
+
+    /// Writes what differs.
+    void write(IPDeviceNode& device) const;
+    void describe(NodeHintIPDevice& hint) const;
+
 private:
     QString contradiction() const;
+    bool differs(const IPDeviceNode& device, const SurveyField& field) const;
 
-    std::array<QString, SurveyFields::Count> m_values;
+    QVector<QString> m_values = QVector<QString>(int(SurveyFields::all().size()));
 };
 
 } // namespace ko

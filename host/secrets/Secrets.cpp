@@ -1,7 +1,7 @@
 #include "secrets/Secrets.h"
 
-#include "drivers/PropertyKeys.h"
 #include "ko/LogQt.h"
+#include "ko/PropertyKeys.h"
 
 #include <QMutex>
 #include <QMutexLocker>
@@ -130,9 +130,8 @@ void load()
 
 const QStringList& properties()
 {
-    static const QStringList all = {QLatin1String(PropertyKeys::Password),
-                                    QLatin1String(PropertyKeys::ProxyPassword),
-                                    QLatin1String(PropertyKeys::RemotePreviewPassword)};
+    static const QStringList all = {PropertyKeys::Password, PropertyKeys::ProxyPassword,
+                                    PropertyKeys::RecordingTransponderPassword};
     return all;
 }
 

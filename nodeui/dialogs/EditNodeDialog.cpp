@@ -1,11 +1,12 @@
 #include "dialogs/EditNodeDialog.h"
 
 #include "inspector/InspectorWidget.h"
+#include "inspector/LayoutListPage.h"
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
-#include "pages/LayoutOptionsWidget.h"
+#include "utils/WindowTitle.h"
 
 #include "ui_EditNodeDialog.h"
 
@@ -39,11 +40,8 @@ EditNodeDialog::EditNodeDialog(const QString& id, QWidget* parent, bool readOnly
             removeFrom(m_ui->buttonBox, m_ui->buttonBox->button(which));
     }
     const kom::smart<const Node> node = NodeDB::getDB()->node(id);
-    if (!node.null()) {
-        const QString name = node->name();
-        setTitle(tr("Properties of %1"),
-                 name.isEmpty() ? NodeDB::getDB()->readableNodeTypeName(node->type) : name);
-    }
+    if (!node.null())
+        setTitle(tr("Properties of %1"), calledInTitles(*node));
     setEnvironmentRow(m_ui->environmentLabel, m_ui->environmentComboBox, m_ui->proxyPushButton, flags);
     setInspectorWidget(id, readOnly, flags, layoutAdapter);
     adjustSize();
@@ -80,8 +78,8 @@ void EditNodeDialog::fillLayoutLists(const ILayoutAdapter* layoutAdapter)
         const QWidget* tab = tabs->widget(i);
         if (tab->objectName() != QLatin1String("layoutOptions"))
             continue;
-        LayoutOptionsWidget* page =
-            tab->findChild<LayoutOptionsWidget*>(QLatin1String("layoutOptionsWidget"));
+        LayoutListPage* page =
+            dynamic_cast<LayoutListPage*>(tab->findChild<QWidget*>(QLatin1String("layoutOptionsWidget")));
         if (!page)
             continue;
         page->fillLayoutComboBox(layoutAdapter);

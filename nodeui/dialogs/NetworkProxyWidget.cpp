@@ -3,6 +3,7 @@
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
+#include "utils/ProxyFields.h"
 
 #include "ui_NetworkProxyWidget.h"
 
@@ -13,6 +14,12 @@ namespace ko {
 namespace {
 
 const QLatin1Char separator(';');
+
+ProxyFields fieldsOf(const Ui::NetworkProxyWidget& ui)
+{
+    const ProxyFields fields = {ui.proxyLineEdit, ui.proxySpinBox, ui.userNameLineEdit, ui.passWordLineEdit};
+    return fields;
+}
 
 } // namespace
 
@@ -34,10 +41,7 @@ void NetworkProxyWidget::setup()
 {
     const GlobalNetworkProxy& proxy = NodeDB::getDB()->globalProxy();
     m_ui->proxyGroupBox->setChecked(proxy.useProxy());
-    m_ui->proxyLineEdit->setText(proxy.proxyAddress());
-    m_ui->proxySpinBox->setValue(proxy.proxyPort());
-    m_ui->userNameLineEdit->setText(proxy.proxyUser());
-    m_ui->passWordLineEdit->setText(proxy.proxyPassword());
+    fieldsOf(*m_ui).load(proxy);
     m_ui->exceptionsLineEdit->setText(proxy.exceptionsAssembled(separator));
 
     ko::connect(m_ui->proxyGroupBox, SIGNAL(toggled(bool)), this, SIGNAL(setDirty()));
@@ -50,8 +54,7 @@ void NetworkProxyWidget::apply()
 {
     GlobalNetworkProxy& proxy = NodeDB::getDB()->globalProxy();
     proxy.setUseProxy(m_ui->proxyGroupBox->isChecked());
-    proxy.setProxyAddress(m_ui->proxyLineEdit->text(), m_ui->proxySpinBox->value());
-    proxy.setProxyUser(m_ui->userNameLineEdit->text(), m_ui->passWordLineEdit->text());
+    fieldsOf(*m_ui).store(proxy);
     proxy.setSaveProxyPassword(true);
     proxy.setExceptions(m_ui->exceptionsLineEdit->text(), separator);
 }

@@ -3,7 +3,6 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/QtCompat.h"
-#include "pages/PageTools.h"
 
 #include "ui_NodeAuthenticateDialog.h"
 

@@ -27,6 +27,7 @@ public:
     /// Bits of the flags word of the derived dialogs. The whole word reaches the inspector, which may
     /// know further bits.
     enum Flag {
+        FromList = 17,             ///< what the library's own lists of nodes pass; no dialog looks at it
         FillLayoutLists = 0x20,    ///< EditNodeDialog fills the lists of the layout options page
         EnvironmentControls = 0x80 ///< the environments and the proxy button are shown
     };

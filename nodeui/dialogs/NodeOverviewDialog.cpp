@@ -13,12 +13,6 @@
 
 namespace ko {
 
-namespace {
-
-const unsigned dialogOptions = 17;
-
-} // namespace
-
 NodeOverviewDialog::NodeOverviewDialog(QWidget* parent)
     : QDialog(parent)
     , m_view(kom::makeSmart<NodeView>(QLatin1String("NodeOverview")))
@@ -107,7 +101,7 @@ void NodeOverviewDialog::selectionChanged()
 
 void NodeOverviewDialog::add()
 {
-    AddNodeDialog dialog(this, this, nullptr, true, dialogOptions);
+    AddNodeDialog dialog(this, this, nullptr, true, NodeDialog::FromList);
     dialog.exec();
 }
 
@@ -117,7 +111,7 @@ void NodeOverviewDialog::edit()
     const NodeID id = rows.size() == 1 ? nodeAt(rows.first()) : NodeID();
     if (id.isEmpty())
         return;
-    EditNodeDialog dialog(id, this, false, dialogOptions, nullptr);
+    EditNodeDialog dialog(id, this, false, NodeDialog::FromList, nullptr);
     dialog.exec();
 }
 

@@ -1,15 +1,13 @@
 #include "dialogs/RecordingFolderAssignmentDialog.h"
 
 #include "dialogs/EditNodeDialog.h"
+#include "dialogs/RecordingFolderTable.h"
 #include "dialogs/RecordingTransponderCustomSettingsDialog.h"
-#include "interfaces/INodeDriverComponent.h"
-#include "ko/LogQt.h"
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
+#include "ko/PropertyKeys.h"
 #include "ko/connect.h"
-#include "kogen/Property.h"
-#include "recording/KoFFSDevice.h"
 #include "utils/FileDialogs.h"
 #include "utils/NodeDBUtils.h"
 #include "utils/WindowTitle.h"
@@ -17,95 +15,17 @@
 #include "ui_RecordingFolderAssignmentDialog.h"
 
 #include <QMessageBox>
-#include <QTextDocument>
 
 namespace ko {
 
 namespace {
 
-enum StorageUsage {
-    ViaCamera,
-    DefaultPath,
-    OwnFolder,
-    // Of older databases, where the remote preview server had no flag of its own.
-    DefaultPathByTransponder,
-    OwnFolderByTransponder
-};
-
-enum Column { NameColumn, PathColumn, IdColumn };
-
-const int rowHeight = 20;
 const int noLimit = 16777215; ///< of a widget's height
-const unsigned editorFlags = 17;
-
-QString latin1(const char* text)
-{
-    return QString::fromLatin1(text);
-}
 
 QString firstRelated(const QString& cameraId, ENodeRelationType type)
 {
     return NodeDB::getDB()->relatedNodes(cameraId, type).value(0);
 }
-
-/// The node if it is a recording folder.
-kom::smart<const Node> folder(const QString& id)
-{
-    const kom::smart<const Node> node = NodeDB::getDB()->node(id);
-    return !node.null() && node->type == RecordingFolderType ? node : kom::smart<const Node>();
-}
-
-/// The folder if it may stand in the table: one below the default path serves its camera only.
-kom::smart<const Node> listedFolder(const QString& id)
-{
-    const kom::smart<const Node> node = folder(id);
-    const bool below = !node.null() && node->boolProperty(latin1("UseGlobalPath"), false);
-    return below ? kom::smart<const Node>() : node;
-}
-
-QString pathOf(const Node& folder)
-{
-    return folder.stringProperty(latin1("Path"), QString());
-}
-
-/// A cell whose text is its tool tip too. Takes half the time of the toolkit's own to make and to sort.
-class FolderCell : public QTableWidgetItem
-{
-public:
-    FolderCell(const QString& text, Qt::Alignment alignment, const QIcon& icon = QIcon())
-        : m_text(text)
-        , m_alignment(alignment)
-        , m_icon(icon)
-    {
-        setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
-    }
-
-    QVariant data(int role) const override
-    {
-        switch (role) {
-        case Qt::DisplayRole:
-            return m_text;
-        case Qt::ToolTipRole: // which would take a name with markup for rich text
-            return Qt::mightBeRichText(m_text) ? Qt::convertFromPlainText(m_text) : m_text;
-        case Qt::DecorationRole:
-            return m_icon.isNull() ? QVariant() : QVariant(m_icon);
-        case Qt::TextAlignmentRole:
-            return int(m_alignment);
-        default:
-            return QVariant();
-        }
-    }
-
-    bool operator<(const QTableWidgetItem& other) const override
-    {
-        return m_text < static_cast<const FolderCell&>(other).m_text; // the columns hold nothing else
-    }
-
-private:
-    const QString m_text;
-    const Qt::Alignment m_alignment;
-    const QIcon m_icon;
-};
 
 } // namespace
 
@@ -115,26 +35,17 @@ RecordingFolderAssignmentDialog::RecordingFolderAssignmentDialog(const QString& 
     , m_cameraId(cameraId)
 {
     m_ui->setupUi(this);
+    m_table.reset(new RecordingFolderTable(m_ui->relatedNodesWidget));
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     const kom::smart<const Node> camera = NodeDB::getDB()->node(m_cameraId);
     if (!camera.null()) {
-        const QString name =
-            camera->name().isEmpty() ? NodeDB::getDB()->readableNodeTypeName(camera->type) : camera->name();
-        setWindowTitle(tr("Access Recordings of %1").arg(inWindowTitle(name)));
-        showUsage(camera->intProperty(latin1("RecordingStorageUsage"), ViaCamera));
+        setWindowTitle(tr("Access Recordings of %1").arg(inWindowTitle(calledInTitles(*camera))));
+        showUsage(camera->intProperty(PropertyKeys::RecordingStorageUsage, ViaCamera));
     }
     showCameraType();
 
-    QTableWidget* table = m_ui->relatedNodesWidget;
-    table->setColumnHidden(IdColumn, true);
-    const int height = qMax(rowHeight, fontMetrics().height() + 2); // of a large font
-    table->verticalHeader()->setMinimumSectionSize(height);
-    table->verticalHeader()->setDefaultSectionSize(height);
-    table->horizontalHeader()->setSortIndicator(NameColumn, Qt::AscendingOrder);
-    for (const int column : {NameColumn, PathColumn})
-        table->setColumnWidth(column, table->viewport()->width() / 2);
     m_ui->recordingFoldersGroupBox->hide();
-    fillTableWidget();
+    m_table->fill(m_cameraId);
 
     const QMargins margins = layout()->contentsMargins();
     const int content = margins.top() + m_ui->groupBox->sizeHint().height() +
@@ -212,8 +123,8 @@ void RecordingFolderAssignmentDialog::rewriteUsage(int usage)
 {
     Node* camera = NodeDB::getDB()->beginUpdateNode(m_cameraId, -1);
     if (camera) {
-        camera->setBoolProperty(latin1("UseRecordingTransponder"), true);
-        camera->setIntProperty(latin1("RecordingStorageUsage"), usage);
+        camera->setBoolProperty(PropertyKeys::UseRecordingTransponder, true);
+        camera->setIntProperty(PropertyKeys::RecordingStorageUsage, usage);
     }
     NodeDB::getDB()->endUpdateNode(camera);
 }
@@ -224,7 +135,7 @@ void RecordingFolderAssignmentDialog::showFirstFolder()
     const kom::smart<const Node> node = NodeDB::getDB()->node(id);
     if (node.null())
         return;
-    m_path = pathOf(*node);
+    m_path = node->stringProperty(PropertyKeys::Path, QString());
     m_ui->fileServerPathLineEdit->setText(m_path);
     m_folderId = id;
 }
@@ -233,110 +144,36 @@ void RecordingFolderAssignmentDialog::showFirstFolder()
 void RecordingFolderAssignmentDialog::showCameraType()
 {
     const kom::smart<const Node> camera = NodeDB::getDB()->node(m_cameraId);
-    const int type = camera.null() ? 0 : camera->intProperty(latin1("NodeType"), 0);
+    const int type = camera.null() ? 0 : camera->intProperty(PropertyKeys::NodeType, 0);
     if (type != IPDeviceType) {
         m_ui->viaCameraRadioButton->setText(tr("No recording folder"));
         m_ui->globalPathRadioButton->setEnabled(false);
         m_ui->recordingTransponderCheckBox->setChecked(false);
     } else {
         m_ui->recordingTransponderCheckBox->setChecked(
-            camera->boolProperty(latin1("UseRecordingTransponder"), false));
+            camera->boolProperty(PropertyKeys::UseRecordingTransponder, false));
     }
     m_ui->recordingTransponderPushButton->setEnabled(m_ui->recordingTransponderCheckBox->isChecked());
 }
 
-void RecordingFolderAssignmentDialog::fillTableWidget()
-{
-    // Sorted once at the end: a table that sorts at each row takes a minute for ten thousand.
-    NodeDB* db = NodeDB::getDB();
-    m_ui->relatedNodesWidget->setSortingEnabled(false);
-    QStringList ids(firstRelated(m_cameraId, RecordingFolderRelation));
-    const QStringList folders = db->nodeIdList(RecordingFolderType);
-    for (const QString& id : folders) {
-        if (!db->isDestinationOfNodeRelation(id, RecordingFolderRelation))
-            ids.append(id);
-    }
-    QList<kom::smart<const Node>> listed;
-    for (const QString& id : std::as_const(ids)) {
-        const kom::smart<const Node> node = listedFolder(id);
-        if (!node.null())
-            listed.append(node);
-    }
-    QTableWidget* table = m_ui->relatedNodesWidget;
-    table->setRowCount(int(listed.size()));
-    for (int row = 0; row < table->rowCount(); ++row)
-        fillRow(row, *listed.at(row));
-    table->setCurrentCell(table->rowCount() - 1, NameColumn);
-    table->setSortingEnabled(true);
-}
-
-void RecordingFolderAssignmentDialog::appendRow(const Node& folder)
-{
-    QTableWidget* table = m_ui->relatedNodesWidget;
-    const int row = table->rowCount();
-    table->insertRow(row);
-    fillRow(row, folder);
-}
-
-void RecordingFolderAssignmentDialog::fillRow(int row, const Node& folder)
-{
-    QTableWidget* table = m_ui->relatedNodesWidget;
-    table->setItem(row, NameColumn,
-                   new FolderCell(folder.name(), Qt::AlignLeft | Qt::AlignVCenter, folder.icon()));
-    table->setItem(row, PathColumn, new FolderCell(pathOf(folder), Qt::AlignRight | Qt::AlignVCenter));
-    table->setItem(row, IdColumn, new QTableWidgetItem(folder.id()));
-}
-
 void RecordingFolderAssignmentDialog::addNodeToTableWidget(ko::NodeID id)
 {
-    const kom::smart<const Node> node = listedFolder(id);
-    if (node.null())
-        return;
-    QTableWidget* table = m_ui->relatedNodesWidget;
-    table->setSortingEnabled(false);
-    appendRow(*node);
-    table->setCurrentCell(table->rowCount() - 1, NameColumn);
-    table->setSortingEnabled(true);
+    m_table->add(id);
 }
 
 void RecordingFolderAssignmentDialog::updateNodeInTableWidget(ko::NodeID id)
 {
-    const kom::smart<const Node> node = folder(id);
-    if (node.null())
-        return;
-    QTableWidget* table = m_ui->relatedNodesWidget;
-    for (int row = 0; row < table->rowCount(); ++row) {
-        if (table->item(row, IdColumn)->text() == id) {
-            // While it sorts, a row that gets its new name moves away before it gets its new path.
-            table->setSortingEnabled(false);
-            fillRow(row, *node);
-            table->setSortingEnabled(true);
-            return;
-        }
-    }
+    m_table->update(id);
 }
 
 void RecordingFolderAssignmentDialog::removeNodeFromTableWidget(ko::NodeID id)
 {
-    QTableWidget* table = m_ui->relatedNodesWidget;
-    for (int row = 0; row < table->rowCount(); ++row) {
-        if (table->item(row, IdColumn)->text() == id)
-            table->removeRow(row);
-    }
-}
-
-QString RecordingFolderAssignmentDialog::selectedNode() const
-{
-    const QTableWidget* table = m_ui->relatedNodesWidget;
-    int row = table->currentRow();
-    if (row < 0 && table->rowCount() == 1)
-        row = 0;
-    return row < 0 ? QString() : table->item(row, IdColumn)->text();
+    m_table->remove(id);
 }
 
 QString RecordingFolderAssignmentDialog::selectedNodeOrComplain()
 {
-    QString id = selectedNode();
+    QString id = m_table->selected();
     if (id.isEmpty())
         QMessageBox::information(this, tr("No entry selected"), tr("Please select an entry."));
     return id;
@@ -391,7 +228,7 @@ void RecordingFolderAssignmentDialog::applySelection()
     if (id.isEmpty())
         return;
     const kom::smart<const Node> node = NodeDB::getDB()->node(id);
-    m_path = node.null() ? QString() : pathOf(*node);
+    m_path = node.null() ? QString() : node->stringProperty(PropertyKeys::Path, QString());
     m_ui->fileServerPathLineEdit->setText(m_path);
     m_folderId = id;
     expandDialog(); // the table is shown, so it goes
@@ -402,20 +239,12 @@ void RecordingFolderAssignmentDialog::addRecordingFolderNode()
     const QString directory = FileDialogs::existingFolder(this, tr("Select path of recording folder"));
     if (directory.isEmpty())
         return;
-    const kom::smart<INodeDriverComponent> driver = NodeDB::getDB()->nodeDriver(RecordingFolderType);
-    const kom::smart<NodeHint> hint =
-        driver.null() ? kom::smart<NodeHint>() : driver->createNodeHint(RecordingFolderType);
+    const kom::smart<NodeHint> hint = NodeDBUtils::recordingFolderHint(directory, false, QString());
     if (hint.null()) {
-        LogQt::line(LogQt::Error, latin1("Node driver (RecordingFolderNode) is missing"));
         QMessageBox::critical(this, tr("Critical error"),
                               tr("Node driver (RecordingFolderNode) is missing."));
         return;
     }
-    hint->setName(directory);
-    hint->addProperty(kogen::StringProperty(latin1("Path"), directory));
-    hint->addProperty(kogen::BoolProperty(latin1("UseGlobalPath"), false));
-    const bool isVolume = !KoFFSDevice::get(directory.toStdWString()).null();
-    hint->addProperty(kogen::BoolProperty(latin1("KoFFS"), isVolume));
     NodeDB::getDB()->newNodeHint(*hint);
 }
 
@@ -424,13 +253,13 @@ void RecordingFolderAssignmentDialog::changeRecordingFolderNode()
     const QString id = selectedNodeOrComplain();
     if (id.isEmpty())
         return;
-    EditNodeDialog dialog(id, this, false, editorFlags, nullptr);
+    EditNodeDialog dialog(id, this, false, NodeDialog::FromList, nullptr);
     dialog.exec();
 }
 
 void RecordingFolderAssignmentDialog::removeRecordingFolderNode()
 {
-    const QString id = selectedNode();
+    const QString id = m_table->selected();
     const kom::smart<const Node> node = NodeDB::getDB()->node(id);
     if (node.null())
         return;
@@ -462,7 +291,7 @@ bool RecordingFolderAssignmentDialog::mayUseDefaultPath()
         return false;
     }
     const kom::smart<const Node> camera = NodeDB::getDB()->node(m_cameraId);
-    if (!camera.null() && camera->stringProperty(latin1("FactoryIP"), QString()).isEmpty()) {
+    if (!camera.null() && camera->stringProperty(PropertyKeys::FactoryIP, QString()).isEmpty()) {
         QMessageBox::warning(this, tr("Factory extension unknown"),
                              tr("You cannot use this option until the factory extension is known."));
         return false;
@@ -487,8 +316,8 @@ void RecordingFolderAssignmentDialog::accept()
         }
         const kom::smart<const Node> node = NodeDB::getDB()->node(m_folderId);
         if (!node.null()) {
-            user = node->stringProperty(latin1("User"), QString());
-            password = node->stringProperty(latin1("Password"), QString());
+            user = node->stringProperty(PropertyKeys::User, QString());
+            password = node->stringProperty(PropertyKeys::Password, QString());
         }
         usage = OwnFolder;
     }
@@ -499,10 +328,8 @@ void RecordingFolderAssignmentDialog::accept()
 
 void RecordingFolderAssignmentDialog::resizeEvent(QResizeEvent* event)
 {
-    QTableWidget* table = m_ui->relatedNodesWidget;
-    const int width = (table->viewport()->width() - table->verticalHeader()->width()) / 2;
-    for (const int column : {NameColumn, PathColumn})
-        table->setColumnWidth(column, width);
+    const QTableWidget* table = m_ui->relatedNodesWidget;
+    m_table->setColumnWidths(table->viewport()->width() - table->verticalHeader()->width());
     QDialog::resizeEvent(event);
 }
 

@@ -13,7 +13,7 @@ class RecordingFolderAssignmentDialog;
 
 namespace ko {
 
-class Node;
+class RecordingFolderTable;
 
 /// From where the recordings of one camera are played: via the camera, below the default file server
 /// path, or from a recording folder of its own.
@@ -54,16 +54,13 @@ private:
     void showFirstFolder();
     void showCameraType();
     void rewriteUsage(int usage);
-    void fillTableWidget();
-    void appendRow(const Node& folder);
-    void fillRow(int row, const Node& folder);
     void collapse();
-    QString selectedNode() const;
     QString selectedNodeOrComplain();
     bool mayUseDefaultPath();
     void connectAll();
 
     const QScopedPointer<Ui::RecordingFolderAssignmentDialog> m_ui;
+    QScopedPointer<RecordingFolderTable> m_table;
     const QString m_cameraId;
     QString m_folderId; ///< applied, or the camera's; empty once another path was typed
     QString m_path;     ///< as last confirmed

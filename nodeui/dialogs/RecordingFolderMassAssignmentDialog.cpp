@@ -2,6 +2,7 @@
 
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
+#include "ko/PropertyKeys.h"
 #include "ko/QtCompat.h"
 #include "ko/connect.h"
 #include "utils/FileDialogs.h"
@@ -20,8 +21,6 @@ namespace {
 
 const int lastNamed = 10; ///< index in the list
 
-enum StorageUsage { ViaCamera, DefaultPath, SpecificPath };
-
 /// The node if it is an IP camera.
 kom::smart<const Node> camera(const QString& id)
 {
@@ -33,7 +32,7 @@ kom::smart<const Node> camera(const QString& id)
 /// every one leaves the factory with.
 QString factoryExtension(const Node& camera)
 {
-    const QString extension = camera.stringProperty(QLatin1String("FactoryIP"), QString());
+    const QString extension = camera.stringProperty(PropertyKeys::FactoryIP, QString());
     return extension == QLatin1String("10_0_0_0") ? QString() : extension;
 }
 
@@ -67,12 +66,12 @@ RecordingFolderMassAssignmentDialog::RecordingFolderMassAssignmentDialog(QWidget
             text.arg(nodeNames(m_cameraIds), htmlEscaped(QCoreApplication::applicationName())));
         const kom::smart<const Node> first = NodeDB::getDB()->node(m_cameraIds.first());
         if (!first.null()) {
-            const int usage = first->intProperty(QLatin1String("RecordingStorageUsage"), ViaCamera);
+            const int usage = first->intProperty(PropertyKeys::RecordingStorageUsage, ViaCamera);
             m_ui->defaultFileServerPathRadioButton->setChecked(usage == DefaultPath);
-            m_ui->specificFileServerPathRadioButton->setChecked(usage == SpecificPath);
-            m_ui->cameraRadioButton->setChecked(usage != DefaultPath && usage != SpecificPath);
+            m_ui->specificFileServerPathRadioButton->setChecked(usage == OwnFolder);
+            m_ui->cameraRadioButton->setChecked(usage != DefaultPath && usage != OwnFolder);
             m_ui->recordingTransponderCheckBox->setChecked(
-                first->boolProperty(QLatin1String("UseRecordingTransponder"), false));
+                first->boolProperty(PropertyKeys::UseRecordingTransponder, false));
         }
     }
     ko::connect(m_ui->browseButton, SIGNAL(clicked()), this, SLOT(browse()));
@@ -118,7 +117,7 @@ int RecordingFolderMassAssignmentDialog::storageUsage() const
 {
     if (m_ui->cameraRadioButton->isChecked())
         return ViaCamera;
-    return m_ui->defaultFileServerPathRadioButton->isChecked() ? DefaultPath : SpecificPath;
+    return m_ui->defaultFileServerPathRadioButton->isChecked() ? DefaultPath : OwnFolder;
 }
 
 void RecordingFolderMassAssignmentDialog::configure(const QString& cameraId) const

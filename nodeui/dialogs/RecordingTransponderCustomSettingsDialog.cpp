@@ -2,15 +2,15 @@
 
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
+#include "ko/PropertyKeys.h"
 #include "ko/QtCompat.h"
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
+#include "utils/Fields.h"
 #include "utils/NodeDBUtils.h"
 
 #include "ui_RecordingTransponderCustomSettingsDialog.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 
@@ -18,12 +18,29 @@ namespace ko {
 
 namespace {
 
-enum PreviewMode { CameraPreview, EventStreamer, RemotePreview };
+typedef Ui::RecordingTransponderCustomSettingsDialog Form;
 
-QString latin1(const char* text)
+/// Settings that are all the system's or all the camera's own, in the order in which they are written.
+enum Group { Connection, Framerate, Quality, Resolution, Sound, GroupCount };
+
+struct GroupSwitch
 {
-    return QString::fromLatin1(text);
-}
+    QCheckBox* Form::*custom;
+    QLatin1String useDefault;
+};
+
+const GroupSwitch groups[GroupCount] = {
+    {&Form::connectionDataCustomCheckBox, PropertyKeys::RecordingTransponderUseDefault},
+    {&Form::framerateCustomCheckBox, PropertyKeys::RecordingTransponderFramerateUseDefault},
+    {&Form::qualityCustomCheckBox, PropertyKeys::RecordingTransponderQualityUseDefault},
+    {&Form::resolutionCustomCheckBox, PropertyKeys::RecordingTransponderResolutionUseDefault},
+    {&Form::soundCustomCheckBox, PropertyKeys::RecordingTransponderSoundUseDefault},
+};
+
+/// The index is the preview mode.
+QRadioButton* Form::*const previewModes[] = {&Form::connectionDataRadioCameraPreview,
+                                             &Form::connectionDataRadioEventStreamer,
+                                             &Form::connectionDataRadioRemotePreview};
 
 void enable(std::initializer_list<QWidget*> widgets, bool enabled)
 {
@@ -37,6 +54,40 @@ void select(QComboBox* comboBox, const QString& text)
     const int index = comboBox->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (index >= 0)
         comboBox->setCurrentIndex(index);
+}
+
+/// A line edit for a number.
+struct NumberField
+{
+    QLineEdit* lineEdit;
+};
+
+void loadField(const Node& node, const QString& key, NumberField field)
+{
+    field.lineEdit->setText(QString::number(node.intProperty(key, 0)));
+}
+
+void storeField(Node& node, const QString& key, NumberField field)
+{
+    node.setIntProperty(key, field.lineEdit->text().toInt());
+}
+
+/// The fields of a group that show their property as it is.
+template <class Each>
+void forEachField(const Form& ui, int group, Each each)
+{
+    if (group == Connection) {
+        each(PropertyKeys::RecordingTransponderIP, ui.connectionDataAddressLineEdit);
+        each(PropertyKeys::RecordingTransponderPort, NumberField{ui.connectionDataPortLineEdit});
+        each(PropertyKeys::RecordingTransponderSSL, ui.connectionDataSslCheckBox);
+        each(PropertyKeys::RecordingTransponderUser, ui.connectionDataUserLineEdit);
+        each(PropertyKeys::RecordingTransponderPassword, ui.connectionDataPasswordLineEdit);
+    } else if (group == Resolution) {
+        each(PropertyKeys::RecordingTransponderResolutionX, NumberField{ui.resolutionWidthLineEdit});
+        each(PropertyKeys::RecordingTransponderResolutionY, NumberField{ui.resolutionHeightLineEdit});
+    } else if (group == Sound) {
+        each(PropertyKeys::RecordingTransponderSound, ui.soundCheckBox);
+    }
 }
 
 /// Screen readers name a combo box by its label only, not by the check box that is before it.
@@ -63,19 +114,10 @@ RecordingTransponderCustomSettingsDialog::RecordingTransponderCustomSettingsDial
     nameLike(m_ui->qualityComboBox, m_ui->qualityCustomCheckBox);
     nameLike(m_ui->resolutionComboBox, m_ui->resolutionCustomCheckBox);
 
-    const struct
-    {
-        QCheckBox* custom;
-        const char* useDefault;
-    } groups[] = {{m_ui->connectionDataCustomCheckBox, "RecordingTransponderUseDefault"},
-                  {m_ui->framerateCustomCheckBox, "RecordingTransponderFramerateUseDefault"},
-                  {m_ui->qualityCustomCheckBox, "RecordingTransponderQualityUseDefault"},
-                  {m_ui->resolutionCustomCheckBox, "RecordingTransponderResolutionUseDefault"},
-                  {m_ui->soundCustomCheckBox, "RecordingTransponderSoundUseDefault"}};
     const kom::smart<const Node> node = NodeDB::getDB()->node(m_nodeId);
-    for (const auto& group : groups) {
+    for (const GroupSwitch& group : groups) {
         if (!node.null())
-            group.custom->setChecked(!node->boolProperty(latin1(group.useDefault), false));
+            (m_ui.data()->*group.custom)->setChecked(!node->boolProperty(group.useDefault, false));
     }
     checkUI();
     readFromNode();
@@ -84,13 +126,10 @@ RecordingTransponderCustomSettingsDialog::RecordingTransponderCustomSettingsDial
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setAutoDefault(true);
 
     ko::connect(m_ui->buttonBox, SIGNAL(accepted()), this, SLOT(ok()));
-    const QAbstractButton* const switches[] = {
-        m_ui->connectionDataCustomCheckBox,     m_ui->connectionDataRadioRemotePreview,
-        m_ui->connectionDataRadioCameraPreview, m_ui->connectionDataRadioEventStreamer,
-        m_ui->framerateCustomCheckBox,          m_ui->qualityCustomCheckBox,
-        m_ui->resolutionCustomCheckBox,         m_ui->soundCustomCheckBox};
-    for (const QAbstractButton* button : switches)
-        ko::connect(button, SIGNAL(clicked(bool)), this, SLOT(checkUI()));
+    for (const GroupSwitch& group : groups)
+        ko::connect(m_ui.data()->*group.custom, SIGNAL(clicked(bool)), this, SLOT(checkUI()));
+    for (const auto& mode : previewModes)
+        ko::connect(m_ui.data()->*mode, SIGNAL(clicked(bool)), this, SLOT(checkUI()));
     ko::connect(m_ui->resolutionComboBox, KO_SIGNAL_CURRENT_TEXT_CHANGED, this,
                 SLOT(changeResolution(QString)));
     for (const QLineEdit* field : {m_ui->resolutionWidthLineEdit, m_ui->resolutionHeightLineEdit})
@@ -122,29 +161,20 @@ void RecordingTransponderCustomSettingsDialog::readFromNode()
     const kom::smart<const Node> node = NodeDB::getDB()->node(m_nodeId);
     if (node.null())
         return;
-    const auto text = [&node](const char* name) { return node->stringProperty(latin1(name), QString()); };
-    const auto number = [&node](const char* name) { return node->intProperty(latin1(name), 0); };
-
-    const int mode = number("RecordingTransponderPreviewMode");
-    m_ui->connectionDataRadioCameraPreview->setChecked(mode == CameraPreview);
-    m_ui->connectionDataRadioEventStreamer->setChecked(mode == EventStreamer);
-    m_ui->connectionDataRadioRemotePreview->setChecked(mode == RemotePreview);
-    m_ui->connectionDataAddressLineEdit->setText(text("RecordingTransponderIP"));
-    m_ui->connectionDataUserLineEdit->setText(text("RecordingTransponderUser"));
-    m_ui->connectionDataPasswordLineEdit->setText(text("RecordingTransponderPassword"));
-    m_ui->connectionDataPortLineEdit->setText(QString::number(number("RecordingTransponderPort")));
-    m_ui->connectionDataSslCheckBox->setChecked(node->boolProperty(latin1("RecordingTransponderSSL"), false));
-
-    select(m_ui->framerateComboBox, NodeDBUtils::FramerateToString(
-                                        node->floatProperty(latin1("RecordingTransponderFramerate"), 0.0f)));
-    select(m_ui->qualityComboBox, NodeDBUtils::QualityToString(number("RecordingTransponderQuality")));
-    const int width = number("RecordingTransponderResolutionX");
-    const int height = number("RecordingTransponderResolutionY");
-    m_ui->resolutionWidthLineEdit->setText(QString::number(width));
-    m_ui->resolutionHeightLineEdit->setText(QString::number(height));
+    const auto number = [&node](const QString& key) { return node->intProperty(key, 0); };
+    for (int mode = 0; mode < 3; ++mode)
+        (m_ui.data()->*previewModes[mode])
+            ->setChecked(mode == number(PropertyKeys::RecordingTransponderPreviewMode));
+    for (int group = 0; group < GroupCount; ++group)
+        forEachField(*m_ui, group, [&node](const QString& key, auto field) { loadField(*node, key, field); });
+    select(m_ui->framerateComboBox, NodeDBUtils::FramerateToString(node->floatProperty(
+                                        PropertyKeys::RecordingTransponderFramerate, 0.0f)));
+    select(m_ui->qualityComboBox,
+           NodeDBUtils::QualityToString(number(PropertyKeys::RecordingTransponderQuality)));
     m_ui->resolutionComboBox->setCurrentIndex(m_ui->resolutionComboBox->count() - 1);
-    select(m_ui->resolutionComboBox, NodeDBUtils::ResolutionToString(width, height));
-    m_ui->soundCheckBox->setChecked(node->boolProperty(latin1("RecordingTransponderSound"), false));
+    select(m_ui->resolutionComboBox,
+           NodeDBUtils::ResolutionToString(number(PropertyKeys::RecordingTransponderResolutionX),
+                                           number(PropertyKeys::RecordingTransponderResolutionY)));
 }
 
 void RecordingTransponderCustomSettingsDialog::changeResolution(const QString& text)
@@ -171,58 +201,31 @@ void RecordingTransponderCustomSettingsDialog::changeImageSize(const QString&)
 void RecordingTransponderCustomSettingsDialog::ok()
 {
     Node* node = NodeDB::getDB()->beginUpdateNode(m_nodeId, -1);
-    if (node) {
-        writeConnection(*node);
-        writePicture(*node);
+    for (int group = 0; node && group < GroupCount; ++group) {
+        const bool custom = (m_ui.data()->*groups[group].custom)->isChecked();
+        node->setBoolProperty(groups[group].useDefault, !custom);
+        if (custom)
+            writeGroup(*node, group);
     }
     NodeDB::getDB()->endUpdateNode(node);
     accept();
 }
 
-void RecordingTransponderCustomSettingsDialog::writeConnection(Node& node) const
+void RecordingTransponderCustomSettingsDialog::writeGroup(Node& node, int group) const
 {
-    const bool custom = m_ui->connectionDataCustomCheckBox->isChecked();
-    node.setBoolProperty(latin1("RecordingTransponderUseDefault"), !custom);
-    if (!custom)
-        return;
-    int mode = CameraPreview;
-    if (m_ui->connectionDataRadioEventStreamer->isChecked())
-        mode = EventStreamer;
-    else if (m_ui->connectionDataRadioRemotePreview->isChecked())
-        mode = RemotePreview;
-    node.setIntProperty(latin1("RecordingTransponderPreviewMode"), mode);
-    node.setStringProperty(latin1("RecordingTransponderIP"), m_ui->connectionDataAddressLineEdit->text());
-    node.setIntProperty(latin1("RecordingTransponderPort"), m_ui->connectionDataPortLineEdit->text().toInt());
-    node.setBoolProperty(latin1("RecordingTransponderSSL"), m_ui->connectionDataSslCheckBox->isChecked());
-    node.setStringProperty(latin1("RecordingTransponderUser"), m_ui->connectionDataUserLineEdit->text());
-    node.setStringProperty(latin1("RecordingTransponderPassword"),
-                           m_ui->connectionDataPasswordLineEdit->text());
-}
-
-void RecordingTransponderCustomSettingsDialog::writePicture(Node& node) const
-{
-    const bool framerate = m_ui->framerateCustomCheckBox->isChecked();
-    node.setBoolProperty(latin1("RecordingTransponderFramerateUseDefault"), !framerate);
-    if (framerate)
-        node.setFloatProperty(latin1("RecordingTransponderFramerate"),
+    if (group == Connection) {
+        int mode = 2;
+        while (mode > 0 && !(m_ui.data()->*previewModes[mode])->isChecked())
+            --mode;
+        node.setIntProperty(PropertyKeys::RecordingTransponderPreviewMode, mode);
+    } else if (group == Framerate) {
+        node.setFloatProperty(PropertyKeys::RecordingTransponderFramerate,
                               NodeDBUtils::StringToFramerate(m_ui->framerateComboBox->currentText()));
-    const bool quality = m_ui->qualityCustomCheckBox->isChecked();
-    node.setBoolProperty(latin1("RecordingTransponderQualityUseDefault"), !quality);
-    if (quality)
-        node.setIntProperty(latin1("RecordingTransponderQuality"),
+    } else if (group == Quality) {
+        node.setIntProperty(PropertyKeys::RecordingTransponderQuality,
                             NodeDBUtils::StringToQuality(m_ui->qualityComboBox->currentText()));
-    const bool resolution = m_ui->resolutionCustomCheckBox->isChecked();
-    node.setBoolProperty(latin1("RecordingTransponderResolutionUseDefault"), !resolution);
-    if (resolution) {
-        node.setIntProperty(latin1("RecordingTransponderResolutionX"),
-                            m_ui->resolutionWidthLineEdit->text().toInt());
-        node.setIntProperty(latin1("RecordingTransponderResolutionY"),
-                            m_ui->resolutionHeightLineEdit->text().toInt());
     }
-    const bool sound = m_ui->soundCustomCheckBox->isChecked();
-    node.setBoolProperty(latin1("RecordingTransponderSoundUseDefault"), !sound);
-    if (sound)
-        node.setBoolProperty(latin1("RecordingTransponderSound"), m_ui->soundCheckBox->isChecked());
+    forEachField(*m_ui, group, [&node](const QString& key, auto field) { storeField(node, key, field); });
 }
 
 } // namespace ko

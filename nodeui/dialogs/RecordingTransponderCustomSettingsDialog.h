@@ -38,8 +38,7 @@ private:
     Q_DISABLE_COPY(RecordingTransponderCustomSettingsDialog)
 
     void readFromNode();
-    void writeConnection(Node& node) const;
-    void writePicture(Node& node) const;
+    void writeGroup(Node& node, int group) const;
 
     const QScopedPointer<Ui::RecordingTransponderCustomSettingsDialog> m_ui;
     const QString m_nodeId;

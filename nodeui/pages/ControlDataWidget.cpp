@@ -1,8 +1,8 @@
 #include "pages/ControlDataWidget.h"
 
+#include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHintIPDevice.h"
-#include "pages/PageTools.h"
 
 #include "ui_ControlDataWidget.h"
 

@@ -1,12 +1,24 @@
 #include "pages/CustomNetworkProxyWidget.h"
 
+#include "ko/IPDeviceNode.h"
 #include "ko/NodeHintIPDevice.h"
 #include "ko/connect.h"
-#include "pages/PageTools.h"
+#include "utils/ProxyFields.h"
 
 #include "ui_CustomNetworkProxyWidget.h"
 
 namespace ko {
+
+namespace {
+
+ProxyFields fieldsOf(const Ui::CustomNetworkProxyWidget& ui)
+{
+    const ProxyFields fields = {ui.proxyAddressLineEdit, ui.proxyPortSpinBox, ui.proxyUsernameLineEdit,
+                                ui.proxyPasswordLineEdit};
+    return fields;
+}
+
+} // namespace
 
 CustomNetworkProxyWidget::CustomNetworkProxyWidget(QWidget* parent)
     : QWidget(parent)
@@ -56,10 +68,7 @@ void CustomNetworkProxyWidget::checkBoxStateChanged(int state)
 
 void CustomNetworkProxyWidget::load(const NetworkProxy& proxy)
 {
-    m_ui->proxyAddressLineEdit->setText(proxy.proxyAddress());
-    m_ui->proxyPortSpinBox->setValue(proxy.proxyPort());
-    m_ui->proxyUsernameLineEdit->setText(proxy.proxyUser());
-    m_ui->proxyPasswordLineEdit->setText(proxy.proxyPassword());
+    fieldsOf(*m_ui).load(proxy);
     const Qt::CheckState state = proxy.useProxy() ? Qt::Checked : Qt::Unchecked;
     m_ui->customProxyCheckBox->setCheckState(state);
     checkBoxStateChanged(state); // a state that was set already says nothing
@@ -67,17 +76,16 @@ void CustomNetworkProxyWidget::load(const NetworkProxy& proxy)
 
 void CustomNetworkProxyWidget::store(NetworkProxy& proxy) const
 {
-    proxy.setProxyAddress(m_ui->proxyAddressLineEdit->text(), m_ui->proxyPortSpinBox->value());
-    proxy.setProxyUser(m_ui->proxyUsernameLineEdit->text(), m_ui->proxyPasswordLineEdit->text());
+    fieldsOf(*m_ui).store(proxy);
     proxy.setUseProxy(m_ui->customProxyCheckBox->isChecked());
 }
 
 void CustomNetworkProxyWidget::setFieldsEnabled(bool enabled)
 {
-    m_ui->proxyAddressLineEdit->setEnabled(enabled);
-    m_ui->proxyPortSpinBox->setEnabled(enabled);
-    m_ui->proxyUsernameLineEdit->setEnabled(enabled);
-    m_ui->proxyPasswordLineEdit->setEnabled(enabled);
+    const ProxyFields fields = fieldsOf(*m_ui);
+    QWidget* const all[] = {fields.address, fields.port, fields.user, fields.password};
+    for (QWidget* field : all)
+        field->setEnabled(enabled);
 }
 
 } // namespace ko

@@ -1,8 +1,10 @@
 #include "pages/InfoWidget.h"
 
+#include "ko/IPDeviceNode.h"
 #include "ko/NodeHintIPDevice.h"
+#include "ko/PropertyKeys.h"
 #include "kogen/Property.h"
-#include "pages/PageTools.h"
+#include "utils/Fields.h"
 
 #include "ui_InfoWidget.h"
 
@@ -10,10 +12,18 @@ namespace ko {
 
 namespace {
 
+/// The fields of hints and nodes alike, each with its place in both.
+template <class Each>
+void forEachField(const Ui::InfoWidget& ui, Each each)
+{
+    each(ui.modelLineEdit, &NodeHintIPDevice::model, &IPDeviceNode::model, &IPDeviceNode::setModel);
+    each(ui.versionLineEdit, &NodeHintIPDevice::version, &IPDeviceNode::version, &IPDeviceNode::setVersion);
+}
+
 QStringList currentAddresses(const Node& node)
 {
     const kogen::PropertySet addresses =
-        node.propertySetProperty(QLatin1String("IPAddresses"), kogen::PropertySet());
+        node.propertySetProperty(PropertyKeys::IPAddresses, kogen::PropertySet());
     QStringList texts;
     const QStringList names = addresses.allPropertyNames();
     for (const QString& name : names) {
@@ -22,7 +32,7 @@ QStringList currentAddresses(const Node& node)
             texts.append(address->getValue());
     }
     if (texts.isEmpty())
-        texts.append(node.stringProperty(QLatin1String("IP"), QString()));
+        texts.append(node.stringProperty(PropertyKeys::IP, QString()));
     return texts;
 }
 
@@ -42,8 +52,7 @@ void InfoWidget::init(const NodeHint* hint)
     const NodeHintIPDevice* device = dynamic_cast<const NodeHintIPDevice*>(hint);
     if (!device)
         return;
-    m_ui->modelLineEdit->setText(device->model);
-    m_ui->versionLineEdit->setText(device->version);
+    forEachField(*m_ui, [device](auto field, auto value, auto, auto) { setField(field, device->*value); });
 }
 
 void InfoWidget::init(QString nodeId)
@@ -51,13 +60,13 @@ void InfoWidget::init(QString nodeId)
     const kom::smart<const IPDeviceNode> device = deviceNode(nodeId);
     if (device.null())
         return;
-    m_ui->modelLineEdit->setText(device->model());
-    m_ui->versionLineEdit->setText(device->version());
+    forEachField(*m_ui,
+                 [&device](auto field, auto, auto read, auto) { setField(field, ((*device).*read)()); });
     m_ui->macLineEdit->setText(device->macAddress().toString(true));
     m_ui->ipListWidget->addItems(currentAddresses(*device));
     m_ui->ipListWidget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     // The dots of the factory address are stored as underscores.
-    QString factoryIP = device->stringProperty(QLatin1String("FactoryIP"), QString());
+    QString factoryIP = device->stringProperty(PropertyKeys::FactoryIP, QString());
     factoryIP.replace(QLatin1Char('_'), QLatin1Char('.'));
     m_ui->factoryIPLineEdit->setText(factoryIP.isEmpty() ? tr("<Unknown>") : factoryIP);
 }
@@ -67,8 +76,9 @@ void InfoWidget::accept(Node* node)
     IPDeviceNode* device = dynamic_cast<IPDeviceNode*>(node);
     if (!device)
         return;
-    device->setModel(m_ui->modelLineEdit->text());
-    device->setVersion(m_ui->versionLineEdit->text());
+    forEachField(*m_ui, [device](auto field, auto, auto, auto write) {
+        (device->*write)(fieldValue(field).toString());
+    });
     device->setMacAddress(MACAddress(m_ui->macLineEdit->text()));
 }
 
@@ -77,16 +87,15 @@ void InfoWidget::accept(NodeHint* hint)
     NodeHintIPDevice* device = dynamic_cast<NodeHintIPDevice*>(hint);
     if (!device)
         return;
-    device->model = m_ui->modelLineEdit->text();
-    device->version = m_ui->versionLineEdit->text();
+    forEachField(*m_ui,
+                 [device](auto field, auto value, auto, auto) { takeField(field, &(device->*value)); });
 }
 
 void InfoWidget::setReadOnly(bool readOnly)
 {
-    setFieldReadOnly(m_ui->modelLineEdit, readOnly);
-    setFieldReadOnly(m_ui->versionLineEdit, readOnly);
-    setFieldReadOnly(m_ui->macLineEdit, readOnly);
-    setFieldReadOnly(m_ui->factoryIPLineEdit, readOnly);
+    const QList<QLineEdit*> fields = findChildren<QLineEdit*>();
+    for (QLineEdit* field : fields)
+        setFieldReadOnly(field, readOnly);
 }
 
 } // namespace ko

@@ -3,7 +3,8 @@
 #include "interfaces/ILayoutAdapter.h"
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
-#include "pages/PageTools.h"
+#include "ko/PropertyKeys.h"
+#include "utils/Fields.h"
 #include "utils/FileDialogs.h"
 
 #include "ui_LayoutOptionsWidget.h"
@@ -12,16 +13,11 @@ namespace ko {
 
 namespace {
 
-const char infoFile[] = "InfoFile";
-const char smoothDisplay[] = "SmoothDisplay";
-const char preferredLayout[] = "PreferredLayout";
-const char audioPathId[] = "AudioPathID";
-
 const int noLayout = -1;
 
-QString text(const Node& node, const char* key)
+QString text(const Node& node, const QString& key)
 {
-    return node.stringProperty(QLatin1String(key), QString());
+    return node.stringProperty(key, QString());
 }
 
 QVariant currentData(const QComboBox* comboBox)
@@ -49,25 +45,22 @@ void LayoutOptionsWidget::init(QString nodeId)
     const kom::smart<const Node> node = NodeDB::getDB()->node(nodeId);
     if (node.null())
         return;
-    if (node->hasProperty(QLatin1String(infoFile))) {
-        m_ui->instructionFileLineEdit->setText(text(*node, infoFile));
-    } else {
-        m_ui->instructionFileLineEdit->setEnabled(false);
+    if (offer(*node, PropertyKeys::InfoFile, m_ui->instructionFileLineEdit))
+        loadField(*node, PropertyKeys::InfoFile, m_ui->instructionFileLineEdit);
+    else
         m_ui->instructionFilePushButton->setEnabled(false);
-    }
-    if (node->hasProperty(QLatin1String(smoothDisplay))) {
-        const bool smooth = node->intProperty(QLatin1String(smoothDisplay), 0) != 0;
+    if (offer(*node, PropertyKeys::SmoothDisplay, m_ui->smoothDisplayRadioButton)) {
+        const bool smooth = node->intProperty(PropertyKeys::SmoothDisplay, 0) != 0;
         (smooth ? m_ui->smoothDisplayRadioButton : m_ui->minimumDelayRadioButton)->setChecked(true);
     } else {
         m_ui->minimumDelayRadioButton->setEnabled(false);
-        m_ui->smoothDisplayRadioButton->setEnabled(false);
     }
 }
 
 void LayoutOptionsWidget::fillLayoutComboBox(const ILayoutAdapter* adapter)
 {
     const kom::smart<const Node> node = NodeDB::getDB()->node(m_nodeId);
-    if (!adapter || node.null() || !node->hasProperty(QLatin1String(preferredLayout))) {
+    if (!adapter || node.null() || !node->hasProperty(PropertyKeys::PreferredLayout)) {
         m_ui->preferredLayoutComboBox->setEnabled(false);
         return;
     }
@@ -75,14 +68,14 @@ void LayoutOptionsWidget::fillLayoutComboBox(const ILayoutAdapter* adapter)
     const QList<Layout> layouts = adapter->layouts();
     for (const Layout& layout : layouts)
         m_ui->preferredLayoutComboBox->addItem(layout.name, layout.id);
-    const QString preferred = text(*node, preferredLayout);
+    const QString preferred = text(*node, PropertyKeys::PreferredLayout);
     selectData(m_ui->preferredLayoutComboBox, preferred.isEmpty() ? noLayout : preferred.toInt());
 }
 
 void LayoutOptionsWidget::fillAudioPathIdComboBox()
 {
     const kom::smart<const Node> node = NodeDB::getDB()->node(m_nodeId);
-    if (node.null() || !node->hasProperty(QLatin1String(audioPathId))) {
+    if (node.null() || !node->hasProperty(PropertyKeys::AudioPathID)) {
         m_ui->audioPathIdComboBox->setEnabled(false);
         return;
     }
@@ -93,9 +86,9 @@ void LayoutOptionsWidget::fillAudioPathIdComboBox()
             continue;
         const kom::smart<const Node> camera = NodeDB::getDB()->node(id);
         if (!camera.null())
-            m_ui->audioPathIdComboBox->addItem(text(*camera, "Name"), id);
+            m_ui->audioPathIdComboBox->addItem(text(*camera, PropertyKeys::Name), id);
     }
-    const QString source = text(*node, audioPathId);
+    const QString source = text(*node, PropertyKeys::AudioPathID);
     selectData(m_ui->audioPathIdComboBox, source.isEmpty() ? m_nodeId : source);
 }
 
@@ -103,25 +96,24 @@ void LayoutOptionsWidget::accept(Node* node)
 {
     if (!node)
         return;
-    node->setStringProperty(QLatin1String(infoFile), m_ui->instructionFileLineEdit->text());
-    node->setIntProperty(QLatin1String(smoothDisplay),
+    storeField(*node, PropertyKeys::InfoFile, m_ui->instructionFileLineEdit);
+    node->setIntProperty(PropertyKeys::SmoothDisplay,
                          m_ui->smoothDisplayRadioButton->isChecked() ? Qt::Checked : Qt::Unchecked);
     QString layout;
     layout.setNum(currentData(m_ui->preferredLayoutComboBox).toInt());
-    node->setStringProperty(QLatin1String(preferredLayout), layout);
-    node->setStringProperty(QLatin1String(audioPathId), currentData(m_ui->audioPathIdComboBox).toString());
+    node->setStringProperty(PropertyKeys::PreferredLayout, layout);
+    node->setStringProperty(PropertyKeys::AudioPathID, currentData(m_ui->audioPathIdComboBox).toString());
 }
 
 void LayoutOptionsWidget::accept(NodeHint*) {}
 
 void LayoutOptionsWidget::setReadOnly(bool readOnly)
 {
-    setFieldReadOnly(m_ui->instructionFileLineEdit, readOnly);
-    QWidget* const choices[] = {m_ui->instructionFilePushButton, m_ui->preferredLayoutComboBox,
-                                m_ui->minimumDelayRadioButton, m_ui->smoothDisplayRadioButton,
-                                m_ui->audioPathIdComboBox};
-    for (QWidget* choice : choices)
-        choice->setEnabled(!readOnly);
+    QWidget* const fields[] = {m_ui->instructionFileLineEdit,  m_ui->instructionFilePushButton,
+                               m_ui->preferredLayoutComboBox,  m_ui->minimumDelayRadioButton,
+                               m_ui->smoothDisplayRadioButton, m_ui->audioPathIdComboBox};
+    for (QWidget* field : fields)
+        setFieldReadOnly(field, readOnly);
 }
 
 void LayoutOptionsWidget::openFileSelector()

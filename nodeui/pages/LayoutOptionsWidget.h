@@ -1,7 +1,7 @@
 #ifndef KO_LAYOUTOPTIONSWIDGET_H
 #define KO_LAYOUTOPTIONSWIDGET_H
 
-#include "NodeUIExport.h"
+#include "inspector/LayoutListPage.h"
 
 #include <QScopedPointer>
 #include <QWidget>
@@ -12,7 +12,6 @@ class LayoutOptionsWidget;
 
 namespace ko {
 
-class ILayoutAdapter;
 class Node;
 class NodeHint;
 
@@ -22,7 +21,7 @@ class NodeHint;
 /// the edit dialog does so for the page named "layoutOptionsWidget" in the tab "layoutOptions". Options
 /// that the node does not carry are disabled, and written all the same: accept() always writes all four,
 /// "0" for a layout list that was never filled. The page has no part in creating a node.
-class KO_NODEUI_EXPORT LayoutOptionsWidget : public QWidget
+class KO_NODEUI_EXPORT LayoutOptionsWidget : public QWidget, public LayoutListPage
 {
     Q_OBJECT
 
@@ -33,11 +32,8 @@ public:
     void init(const NodeHint* hint);
     void init(QString nodeId);
 
-    /// Offers the adapter's layouts; null disables the list. The adapter is not kept.
-    void fillLayoutComboBox(const ILayoutAdapter* adapter);
-
-    /// Offers the node itself and all cameras as sources of audio.
-    void fillAudioPathIdComboBox();
+    void fillLayoutComboBox(const ILayoutAdapter* adapter) override;
+    void fillAudioPathIdComboBox() override;
 
     void accept(Node* node);
     void accept(NodeHint* hint);

@@ -2,8 +2,9 @@
 
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
+#include "ko/PropertyKeys.h"
 #include "ko/connect.h"
-#include "pages/PageTools.h"
+#include "utils/Fields.h"
 
 #include "ui_PTZRotorControlWidget.h"
 
@@ -31,43 +32,17 @@ const HeadType headTypes[] = {
     {addressedHead, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "Pelco D")},
 };
 
-const char rotorControl[] = "RotorControl";
-const char rotorAddress[] = "PTZRotorAddress";
-const char rotorSensitivity[] = "RotorSensitivity";
-
 struct Flag
 {
-    const char* key;
+    QLatin1String key;
     QCheckBox* Ui::PTZRotorControlWidget::*checkBox;
 };
 
-const Flag zoomFlag = {"PTZRotorZoom", &Ui::PTZRotorControlWidget::zoomDirectCheckBox};
 const Flag joystickFlags[] = {
-    {"RotorFastMode", &Ui::PTZRotorControlWidget::fastPatchCheckBox},
-    {"PTZInvertX", &Ui::PTZRotorControlWidget::invertHorizontalCheckBox},
-    {"PTZInvertY", &Ui::PTZRotorControlWidget::invertVerticalCheckBox},
+    {PropertyKeys::RotorFastMode, &Ui::PTZRotorControlWidget::fastPatchCheckBox},
+    {PropertyKeys::PTZInvertX, &Ui::PTZRotorControlWidget::invertHorizontalCheckBox},
+    {PropertyKeys::PTZInvertY, &Ui::PTZRotorControlWidget::invertVerticalCheckBox},
 };
-
-/// Whether the node carries the property; its control is disabled if it does not.
-bool offer(const Node& node, const char* key, QWidget* control)
-{
-    const bool offered = node.hasProperty(QLatin1String(key));
-    if (!offered)
-        control->setEnabled(false);
-    return offered;
-}
-
-void load(const Node& node, const Flag& flag, const Ui::PTZRotorControlWidget& ui)
-{
-    QCheckBox* checkBox = ui.*flag.checkBox;
-    if (offer(node, flag.key, checkBox))
-        checkBox->setChecked(node.boolProperty(QLatin1String(flag.key), false));
-}
-
-void store(Node& node, const Flag& flag, const Ui::PTZRotorControlWidget& ui)
-{
-    node.setBoolProperty(QLatin1String(flag.key), (ui.*flag.checkBox)->isChecked());
-}
 
 } // namespace
 
@@ -89,19 +64,18 @@ void PTZRotorControlWidget::init(QString nodeId)
     const kom::smart<const Node> node = NodeDB::getDB()->node(nodeId);
     if (node.null())
         return;
-    if (offer(*node, rotorControl, m_ui->typeComboBox)) {
+    if (offer(*node, PropertyKeys::RotorControl, m_ui->typeComboBox)) {
         for (const HeadType& type : headTypes)
             m_ui->typeComboBox->addItem(tr(type.name), type.code);
-        const int index = selectData(m_ui->typeComboBox, node->intProperty(QLatin1String(rotorControl), 0));
+        const int index = selectData(m_ui->typeComboBox, node->intProperty(PropertyKeys::RotorControl, 0));
         enableRotorHeadSettings(index);
     }
-    if (offer(*node, rotorAddress, m_ui->addressSpinBox))
-        m_ui->addressSpinBox->setValue(node->intProperty(QLatin1String(rotorAddress), 0));
-    load(*node, zoomFlag, *m_ui);
-    if (offer(*node, rotorSensitivity, m_ui->sensitivityComboBox))
-        m_ui->sensitivityComboBox->setCurrentIndex(node->intProperty(QLatin1String(rotorSensitivity), 0));
+    loadOffered(*node, PropertyKeys::PTZRotorAddress, m_ui->addressSpinBox);
+    loadOffered(*node, PropertyKeys::PTZRotorZoom, m_ui->zoomDirectCheckBox);
+    if (offer(*node, PropertyKeys::RotorSensitivity, m_ui->sensitivityComboBox))
+        m_ui->sensitivityComboBox->setCurrentIndex(node->intProperty(PropertyKeys::RotorSensitivity, 0));
     for (const Flag& flag : joystickFlags)
-        load(*node, flag, *m_ui);
+        loadOffered(*node, flag.key, m_ui.data()->*flag.checkBox);
 }
 
 void PTZRotorControlWidget::accept(Node* node)
@@ -109,12 +83,12 @@ void PTZRotorControlWidget::accept(Node* node)
     if (!node)
         return;
     const int head = m_ui->typeComboBox->itemData(m_ui->typeComboBox->currentIndex()).toInt();
-    node->setIntProperty(QLatin1String(rotorControl), head);
-    node->setIntProperty(QLatin1String(rotorSensitivity), m_ui->sensitivityComboBox->currentIndex());
+    node->setIntProperty(PropertyKeys::RotorControl, head);
+    node->setIntProperty(PropertyKeys::RotorSensitivity, m_ui->sensitivityComboBox->currentIndex());
     for (const Flag& flag : joystickFlags)
-        store(*node, flag, *m_ui);
-    node->setIntProperty(QLatin1String(rotorAddress), m_ui->addressSpinBox->value());
-    store(*node, zoomFlag, *m_ui);
+        storeField(*node, flag.key, m_ui.data()->*flag.checkBox);
+    storeField(*node, PropertyKeys::PTZRotorAddress, m_ui->addressSpinBox);
+    storeField(*node, PropertyKeys::PTZRotorZoom, m_ui->zoomDirectCheckBox);
 }
 
 void PTZRotorControlWidget::accept(NodeHint*) {}
@@ -122,9 +96,9 @@ void PTZRotorControlWidget::accept(NodeHint*) {}
 void PTZRotorControlWidget::setReadOnly(bool readOnly)
 {
     for (const Flag& flag : joystickFlags)
-        (m_ui.data()->*flag.checkBox)->setEnabled(!readOnly);
-    m_ui->typeComboBox->setEnabled(!readOnly);
-    m_ui->sensitivityComboBox->setEnabled(!readOnly);
+        setFieldReadOnly(m_ui.data()->*flag.checkBox, readOnly);
+    setFieldReadOnly(m_ui->typeComboBox, readOnly);
+    setFieldReadOnly(m_ui->sensitivityComboBox, readOnly);
 }
 
 void PTZRotorControlWidget::enableRotorHeadSettings(int index)

@@ -2,6 +2,8 @@
 
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
+#include "ko/PropertyKeys.h"
+#include "utils/Fields.h"
 
 #include "ui_PTZUrlsWidget.h"
 
@@ -11,20 +13,20 @@ namespace {
 
 struct Url
 {
-    const char* key;
+    QLatin1String key;
     QLineEdit* Ui::PTZUrlsWidget::*lineEdit;
 };
 
-// In the order in which they are written. "ZommIn" is how databases spell it.
+// In the order in which they are written.
 const Url urls[] = {
-    {"UrlPTZStream", &Ui::PTZUrlsWidget::lineEditLiveSteam},
-    {"UrlPTZStop", &Ui::PTZUrlsWidget::lineEditStop},
-    {"UrlPTZUp", &Ui::PTZUrlsWidget::lineEditUp},
-    {"UrlPTZDown", &Ui::PTZUrlsWidget::lineEditDown},
-    {"UrlPTZLeft", &Ui::PTZUrlsWidget::lineEditLeft},
-    {"UrlPTZRight", &Ui::PTZUrlsWidget::lineEditRight},
-    {"UrlPTZZommIn", &Ui::PTZUrlsWidget::lineEditZoomIn},
-    {"UrlPTZZoomOut", &Ui::PTZUrlsWidget::lineEditZoomOut},
+    {PropertyKeys::UrlPTZStream, &Ui::PTZUrlsWidget::lineEditLiveSteam},
+    {PropertyKeys::UrlPTZStop, &Ui::PTZUrlsWidget::lineEditStop},
+    {PropertyKeys::UrlPTZUp, &Ui::PTZUrlsWidget::lineEditUp},
+    {PropertyKeys::UrlPTZDown, &Ui::PTZUrlsWidget::lineEditDown},
+    {PropertyKeys::UrlPTZLeft, &Ui::PTZUrlsWidget::lineEditLeft},
+    {PropertyKeys::UrlPTZRight, &Ui::PTZUrlsWidget::lineEditRight},
+    {PropertyKeys::UrlPTZZommIn, &Ui::PTZUrlsWidget::lineEditZoomIn},
+    {PropertyKeys::UrlPTZZoomOut, &Ui::PTZUrlsWidget::lineEditZoomOut},
 };
 
 } // namespace
@@ -46,12 +48,9 @@ void PTZUrlsWidget::init(QString nodeId)
     if (node.null())
         return;
     for (const Url& url : urls) {
-        const QString key = QLatin1String(url.key);
         QLineEdit* lineEdit = m_ui.data()->*url.lineEdit;
-        const bool offered = node->hasProperty(key);
-        lineEdit->setEnabled(offered);
-        if (offered)
-            lineEdit->setText(node->stringProperty(key, QString()));
+        lineEdit->setEnabled(true);
+        loadOffered(*node, url.key, lineEdit);
     }
 }
 
@@ -60,7 +59,7 @@ void PTZUrlsWidget::accept(Node* node)
     if (!node)
         return;
     for (const Url& url : urls)
-        node->setStringProperty(QLatin1String(url.key), (m_ui.data()->*url.lineEdit)->text());
+        storeField(*node, url.key, m_ui.data()->*url.lineEdit);
 }
 
 void PTZUrlsWidget::accept(NodeHint*) {}

@@ -3,6 +3,7 @@
 #include "dialogs/RecordingFolderAssignmentDialog.h"
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
+#include "ko/PropertyKeys.h"
 #include "ko/connect.h"
 
 #include "ui_StorageLocationWidget.h"
@@ -12,12 +13,12 @@ namespace ko {
 namespace {
 
 /// A text of the first related node; \a otherwise if there is none.
-QString textOfFirst(const QString& cameraId, ENodeRelationType type, const char* key,
+QString textOfFirst(const QString& cameraId, ENodeRelationType type, const QString& key,
                     const QString& otherwise)
 {
     const QString id = NodeDB::getDB()->relatedNodes(cameraId, type).value(0);
     const kom::smart<const Node> node = NodeDB::getDB()->node(id);
-    return node.null() ? otherwise : node->stringProperty(QLatin1String(key), QString());
+    return node.null() ? otherwise : node->stringProperty(key, QString());
 }
 
 } // namespace
@@ -41,7 +42,7 @@ void StorageLocationWidget::init(QString nodeId)
     if (camera.null())
         return;
     showLocation(*camera);
-    if (camera->boolProperty(QLatin1String("UseRecordingTransponder"), false))
+    if (camera->boolProperty(PropertyKeys::UseRecordingTransponder, false))
         m_ui->storageLocationLabel->setText(m_ui->storageLocationLabel->text() + QLatin1Char(' ') +
                                             tr("(KoTandem)"));
 }
@@ -49,16 +50,16 @@ void StorageLocationWidget::init(QString nodeId)
 void StorageLocationWidget::showLocation(const Node& camera)
 {
     QLabel* label = m_ui->storageLocationLabel;
-    const bool isCamera = camera.intProperty(QLatin1String("NodeType"), 0) == IPDeviceType;
-    const int usage = camera.intProperty(QLatin1String("RecordingStorageUsage"), 0);
-    if (usage == 0)
+    const bool isCamera = camera.intProperty(PropertyKeys::NodeType, 0) == IPDeviceType;
+    const int usage = camera.intProperty(PropertyKeys::RecordingStorageUsage, ViaCamera);
+    if (usage == ViaCamera)
         label->setText(isCamera ? tr("Via camera") : QString());
-    else if (!isCamera || usage == 1 || usage == 2)
-        label->setText(
-            textOfFirst(m_nodeId, RecordingFolderRelation, "Path", isCamera ? label->text() : QString()));
+    else if (!isCamera || usage == DefaultPath || usage == OwnFolder)
+        label->setText(textOfFirst(m_nodeId, RecordingFolderRelation, PropertyKeys::Path,
+                                   isCamera ? label->text() : QString()));
     else
-        label->setText(
-            textOfFirst(m_nodeId, RecordingTransponderRelation, "RecordingTransponderIP", label->text()));
+        label->setText(textOfFirst(m_nodeId, RecordingTransponderRelation,
+                                   PropertyKeys::RecordingTransponderIP, label->text()));
 }
 
 void StorageLocationWidget::accept(Node*) {}

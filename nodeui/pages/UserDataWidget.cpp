@@ -2,12 +2,13 @@
 
 #include "interfaces/ISupportsChannels.h"
 #include "ko/GlobalNetworkProxy.h"
+#include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHintIPDevice.h"
 #include "ko/QtCompat.h"
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
-#include "pages/PageTools.h"
+#include "utils/Fields.h"
 
 #include "ui_UserDataWidget.h"
 
@@ -18,6 +19,19 @@ namespace ko {
 namespace {
 
 const int hostOption = 0; ///< the host's default form of the credentials
+
+/// The fields, each with its place in hints and how a node is asked for it.
+template <class Each>
+void forEachField(const Ui::UserDataWidget& ui, Each each)
+{
+    each(ui.addressLineEdit, &NodeHintIPDevice::address, [](const IPDeviceNode& d) { return d.address(); });
+    each(ui.portSpinBox, &NodeHintIPDevice::port, [](const IPDeviceNode& d) { return d.port(); });
+    each(ui.sslCheckBox, &NodeHintIPDevice::useSSL, [](const IPDeviceNode& d) { return d.useSSL(); });
+    each(ui.usernameLineEdit, &NodeHintIPDevice::user,
+         [](const IPDeviceNode& d) { return d.user(hostOption); });
+    each(ui.passwordLineEdit, &NodeHintIPDevice::password,
+         [](const IPDeviceNode& d) { return d.password(hostOption); });
+}
 
 } // namespace
 
@@ -39,11 +53,7 @@ void UserDataWidget::init(const NodeHint* hint, bool offerProxyBypass)
     const NodeHintIPDevice* device = dynamic_cast<const NodeHintIPDevice*>(hint);
     if (!device)
         return;
-    m_ui->addressLineEdit->setText(device->address);
-    m_ui->portSpinBox->setValue(device->port);
-    m_ui->sslCheckBox->setChecked(device->useSSL);
-    m_ui->usernameLineEdit->setText(device->user);
-    m_ui->passwordLineEdit->setText(device->password);
+    forEachField(*m_ui, [device](auto field, auto value, auto) { setField(field, device->*value); });
     offerBypass(offerProxyBypass);
     // A hint has no interface to ask yet, so its type decides.
     showChannel(device->type == ChannelDeviceType, device->channel);
@@ -54,11 +64,7 @@ void UserDataWidget::init(QString nodeId, bool offerProxyBypass)
     const kom::smart<const Node> node = NodeDB::getDB()->node(nodeId);
     const kom::smart<const IPDeviceNode> device = node.cast<const IPDeviceNode>();
     if (!device.null()) {
-        m_ui->addressLineEdit->setText(device->address());
-        m_ui->portSpinBox->setValue(device->port());
-        m_ui->sslCheckBox->setChecked(device->useSSL());
-        m_ui->usernameLineEdit->setText(device->user(hostOption));
-        m_ui->passwordLineEdit->setText(device->password(hostOption));
+        forEachField(*m_ui, [&device](auto field, auto, auto read) { setField(field, read(*device)); });
         offerBypass(offerProxyBypass);
     }
     const kom::smart<const ISupportsChannels> channels = node.cast<const ISupportsChannels>();
@@ -88,11 +94,7 @@ void UserDataWidget::accept(NodeHint* hint)
     NodeHintIPDevice* device = dynamic_cast<NodeHintIPDevice*>(hint);
     if (!device)
         return;
-    device->address = m_ui->addressLineEdit->text();
-    device->port = m_ui->portSpinBox->value();
-    device->useSSL = m_ui->sslCheckBox->isChecked();
-    device->user = m_ui->usernameLineEdit->text();
-    device->password = m_ui->passwordLineEdit->text();
+    forEachField(*m_ui, [device](auto field, auto value, auto) { takeField(field, &(device->*value)); });
     device->credentialsEntered = true;
     acceptProxy(device->address);
     if (device->type == ChannelDeviceType)
@@ -101,13 +103,9 @@ void UserDataWidget::accept(NodeHint* hint)
 
 void UserDataWidget::setReadOnly(bool readOnly)
 {
-    setFieldReadOnly(m_ui->addressLineEdit, readOnly);
-    setFieldReadOnly(m_ui->usernameLineEdit, readOnly);
-    setFieldReadOnly(m_ui->passwordLineEdit, readOnly);
-    setFieldReadOnly(m_ui->portSpinBox, readOnly);
+    forEachField(*m_ui, [readOnly](auto field, auto, auto) { setFieldReadOnly(field, readOnly); });
     setFieldReadOnly(m_ui->channelSpinBox, readOnly);
-    m_ui->sslCheckBox->setEnabled(!readOnly);
-    m_ui->bypassProxyCheckBox->setEnabled(!readOnly);
+    setFieldReadOnly(m_ui->bypassProxyCheckBox, readOnly);
 }
 
 void UserDataWidget::setPort(int port)

@@ -5,6 +5,7 @@
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
+#include "ko/PropertyKeys.h"
 #include "kogen/Property.h"
 #include "recording/KoFFSDevice.h"
 
@@ -67,15 +68,14 @@ QRegExp qualityPattern()
 
 QString firstFolderOf(const QString& cameraId)
 {
-    const QStringList folders = NodeDB::getDB()->relatedNodes(cameraId, RecordingFolderRelation);
-    return folders.isEmpty() ? QString() : folders.first();
+    return NodeDB::getDB()->relatedNodes(cameraId, RecordingFolderRelation).value(0);
 }
 
 void removeFirstFolder(const QString& cameraId)
 {
-    const QStringList folders = NodeDB::getDB()->relatedNodes(cameraId, RecordingFolderRelation);
-    if (!folders.isEmpty())
-        NodeDB::getDB()->removeNodeRelation(cameraId, folders.first(), RecordingFolderRelation);
+    const QString folder = firstFolderOf(cameraId);
+    if (!folder.isEmpty())
+        NodeDB::getDB()->removeNodeRelation(cameraId, folder, RecordingFolderRelation);
 }
 
 void addFolder(const QString& cameraId, const QString& folderId)
@@ -88,8 +88,8 @@ void writeStorageUsage(const QString& cameraId, int storageUsage, bool useRecord
     Node* camera = NodeDB::getDB()->beginUpdateNode(cameraId, -1);
     if (!camera)
         return;
-    camera->setIntProperty(latin1("RecordingStorageUsage"), storageUsage);
-    camera->setBoolProperty(latin1("UseRecordingTransponder"), useRecordingTransponder);
+    camera->setIntProperty(PropertyKeys::RecordingStorageUsage, storageUsage);
+    camera->setBoolProperty(PropertyKeys::UseRecordingTransponder, useRecordingTransponder);
     NodeDB::getDB()->endUpdateNode(camera);
 }
 
@@ -99,12 +99,12 @@ void writeFolder(const QString& folderId, const QString& cameraId, const QString
     Node* folder = NodeDB::getDB()->beginUpdateNode(folderId, -1);
     if (!folder)
         return;
-    folder->setStringProperty(latin1("CameraID"), cameraId);
-    folder->setStringProperty(latin1("Path"), path);
-    folder->setStringProperty(latin1("User"), user);
-    folder->setStringProperty(latin1("Password"), password);
-    folder->setBoolProperty(latin1("UseGlobalPath"), false);
-    folder->setBoolProperty(latin1("SavePassword"), true);
+    folder->setStringProperty(PropertyKeys::CameraID, cameraId);
+    folder->setStringProperty(PropertyKeys::Path, path);
+    folder->setStringProperty(PropertyKeys::User, user);
+    folder->setStringProperty(PropertyKeys::Password, password);
+    folder->setBoolProperty(PropertyKeys::UseGlobalPath, false);
+    folder->setBoolProperty(PropertyKeys::SavePassword, true);
     NodeDB::getDB()->endUpdateNode(folder);
 }
 
@@ -179,28 +179,36 @@ const QString NodeDBUtils::QualityToString(int quality)
     return QString();
 }
 
+kom::smart<NodeHint> NodeDBUtils::recordingFolderHint(const QString& path, bool useGlobalPath,
+                                                      const QString& cameraId)
+{
+    const kom::smart<INodeDriverComponent> driver = NodeDB::getDB()->nodeDriver(RecordingFolderType);
+    const kom::smart<NodeHint> hint =
+        driver.null() ? kom::smart<NodeHint>() : driver->createNodeHint(RecordingFolderType);
+    if (hint.null()) {
+        LogQt::line(LogQt::Error, latin1("Node driver (RecordingFolderNode) is missing"));
+        return hint;
+    }
+    hint->setName(path);
+    hint->addProperty(kogen::StringProperty(PropertyKeys::Path, path));
+    hint->addProperty(kogen::BoolProperty(PropertyKeys::UseGlobalPath, useGlobalPath));
+    if (!cameraId.isEmpty())
+        hint->addProperty(kogen::StringProperty(PropertyKeys::CameraID, cameraId));
+    const bool isVolume = !KoFFSDevice::get(path.toStdWString()).null();
+    hint->addProperty(kogen::BoolProperty(PropertyKeys::KoFFS, isVolume));
+    return hint;
+}
+
 QString NodeDBUtils::createRecordingFolderNode(const QString& cameraId, bool useGlobalPath,
                                                const QString& path)
 {
     const kom::smart<const Node> camera = NodeDB::getDB()->node(cameraId);
     if (camera.null())
         return QString();
-    const kom::smart<INodeDriverComponent> driver = NodeDB::getDB()->nodeDriver(RecordingFolderType);
-    if (driver.null()) {
-        LogQt::line(LogQt::Error, latin1("Node driver (RecordingFolderNode) is missing"));
-        return QString();
-    }
-    const kom::smart<NodeHint> hint = driver->createNodeHint(RecordingFolderType);
+    const QString folder = useGlobalPath ? camera->stringProperty(PropertyKeys::FactoryIP, QString()) : path;
+    const kom::smart<NodeHint> hint = recordingFolderHint(folder, useGlobalPath, cameraId);
     if (hint.null())
         return QString();
-
-    const QString folder = useGlobalPath ? camera->stringProperty(latin1("FactoryIP"), QString()) : path;
-    hint->setName(folder);
-    hint->addProperty(kogen::StringProperty(latin1("Path"), folder));
-    hint->addProperty(kogen::BoolProperty(latin1("UseGlobalPath"), useGlobalPath));
-    hint->addProperty(kogen::StringProperty(latin1("CameraID"), cameraId));
-    const bool isVolume = !KoFFSDevice::get(folder.toStdWString()).null();
-    hint->addProperty(kogen::BoolProperty(latin1("KoFFS"), isVolume));
 
     QString existing = NodeDB::getDB()->lookupHint(*hint);
     if (existing.isEmpty()) {
@@ -221,25 +229,25 @@ void NodeDBUtils::configurePlayerSource(const QString& cameraId, int storageUsag
     const kom::smart<const Node> camera = NodeDB::getDB()->node(cameraId);
     if (camera.null())
         return;
-    const int currentUsage = camera->intProperty(latin1("RecordingStorageUsage"), 0);
+    const int currentUsage = camera->intProperty(PropertyKeys::RecordingStorageUsage, ViaCamera);
     const bool sameTransponder =
-        camera->boolProperty(latin1("UseRecordingTransponder"), false) == useRecordingTransponder;
+        camera->boolProperty(PropertyKeys::UseRecordingTransponder, false) == useRecordingTransponder;
     const bool sameUsage = currentUsage == storageUsage;
-    if (sameUsage && sameTransponder && (storageUsage == 0 || storageUsage == 1))
+    if (sameUsage && sameTransponder && (storageUsage == ViaCamera || storageUsage == DefaultPath))
         return;
 
-    if (storageUsage == 1) {
+    if (storageUsage == DefaultPath) {
         removeFirstFolder(cameraId);
         addFolder(cameraId, createRecordingFolderNode(cameraId, true, QString()));
-        writeStorageUsage(cameraId, 1, useRecordingTransponder);
-    } else if (storageUsage == 2) {
+        writeStorageUsage(cameraId, DefaultPath, useRecordingTransponder);
+    } else if (storageUsage == OwnFolder) {
         assignIndividualFolder(cameraId, folderNodeId, path);
         // The usage may be the same while the folder is another one.
         if (!sameUsage || !sameTransponder)
-            writeStorageUsage(cameraId, 2, useRecordingTransponder);
+            writeStorageUsage(cameraId, OwnFolder, useRecordingTransponder);
         writeFolder(folderNodeId, cameraId, path, user, password);
     } else {
-        writeStorageUsage(cameraId, 0, useRecordingTransponder);
+        writeStorageUsage(cameraId, ViaCamera, useRecordingTransponder);
     }
 }
 

@@ -2,10 +2,13 @@
 #define KO_NODEDBUTILS_H
 
 #include "NodeUIExport.h"
+#include "kom/smart.h"
 
 #include <QStringList>
 
 namespace ko {
+
+class NodeHint;
 
 /// The words of stream settings, and the rules that tie a camera to its recording folder.
 class KO_NODEUI_EXPORT NodeDBUtils
@@ -34,6 +37,11 @@ public:
     /// The entry of sm_Qualities, or a null string.
     static const QString QualityToString(int quality);
 
+    /// Describes a recording folder named by its path, of no camera if \a cameraId is empty. Null without a
+    /// driver of folders, which is logged.
+    static kom::smart<NodeHint> recordingFolderHint(const QString& path, bool useGlobalPath,
+                                                    const QString& cameraId);
+
     /// Makes the recording folder of a camera, or refreshes the one that the database takes for the same.
     ///
     /// With \a useGlobalPath the folder is named by the camera's factory extension and \a path is
@@ -43,7 +51,7 @@ public:
 
     /// Sets where a camera's recordings are played from.
     ///
-    /// \a storageUsage: 0 no folder (relations stay), 1 a folder below the default path, 2 the folder
+    /// \a storageUsage: ViaCamera (relations stay), DefaultPath, or OwnFolder: the folder
     /// \a folderNodeId, which gets \a path, \a user and \a password; an empty id is replaced by that of
     /// a folder made for \a path. Only the first folder related to the camera is replaced.
     static void configurePlayerSource(const QString& cameraId, int storageUsage, bool useRecordingTransponder,

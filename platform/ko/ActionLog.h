@@ -1,7 +1,7 @@
 #ifndef KO_ACTIONLOG_H
 #define KO_ACTIONLOG_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QtGlobal>
 

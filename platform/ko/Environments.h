@@ -1,7 +1,7 @@
 #ifndef KO_ENVIRONMENTS_H
 #define KO_ENVIRONMENTS_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QList>
 #include <QPair>

@@ -1,7 +1,7 @@
 #ifndef KO_EXTENDEDCOMBOBOX_H
 #define KO_EXTENDEDCOMBOBOX_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QComboBox>
 

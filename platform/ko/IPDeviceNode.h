@@ -50,6 +50,9 @@ protected:
     explicit IPDeviceNode(ENodeType nodeType);
 };
 
+/// The node as an IP device; null when there is none or it is another kind of node.
+KO_PLATFORM_EXPORT kom::smart<const IPDeviceNode> deviceNode(const QString& nodeId);
+
 } // namespace ko
 
 #endif

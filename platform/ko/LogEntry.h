@@ -1,7 +1,7 @@
 #ifndef KO_LOGENTRY_H
 #define KO_LOGENTRY_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QCoreApplication>
 #include <QList>

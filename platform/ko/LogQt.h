@@ -1,7 +1,7 @@
 #ifndef KO_LOGQT_H
 #define KO_LOGQT_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QMutex>
 #include <QString>

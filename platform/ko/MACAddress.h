@@ -1,7 +1,7 @@
 #ifndef KO_MACADDRESS_H
 #define KO_MACADDRESS_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #ifndef KO_NETWORKPROXY_H
 #define KO_NETWORKPROXY_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QString>
 

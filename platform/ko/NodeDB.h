@@ -1,7 +1,7 @@
 #ifndef KO_NODEDB_H
 #define KO_NODEDB_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 #include "ko/Types.h"
 #include "kom/smart.h"
 

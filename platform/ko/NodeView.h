@@ -1,7 +1,7 @@
 #ifndef KO_NODEVIEW_H
 #define KO_NODEVIEW_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 #include "ko/NodeViewEntry.h"
 
 #include <QHash>

@@ -1,7 +1,7 @@
 #ifndef KO_OUTSIDETEXT_H
 #define KO_OUTSIDETEXT_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #ifndef KO_PROPERTYACCESS_H
 #define KO_PROPERTYACCESS_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 #include "kogen/PropertySet.h"
 
 namespace ko {

@@ -1,7 +1,7 @@
 #ifndef KO_ROWHEIGHTDELEGATE_H
 #define KO_ROWHEIGHTDELEGATE_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QStyledItemDelegate>
 

@@ -1,7 +1,7 @@
 #ifndef KO_ROWINDEX_H
 #define KO_ROWINDEX_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QVector>
 

@@ -1,7 +1,7 @@
 #ifndef KO_TERMINAL_H
 #define KO_TERMINAL_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QString>
 

@@ -29,6 +29,16 @@ enum ENodeRelationType : int {
 /// How much of a device's configuration the client may change; -1 where it was never set.
 enum ENodeControl : int { FullControl = 0, ImageMode = 1, ViewerMode = 2 };
 
+/// From where a camera's recordings are played: its property "RecordingStorageUsage".
+enum ERecordingUsage : int {
+    ViaCamera = 0,
+    DefaultPath = 1, ///< the camera's folder below the default file server path
+    OwnFolder = 2,   ///< a recording folder that was assigned to the camera
+    // Of older databases, where the remote preview server had no flag of its own.
+    DefaultPathByTransponder = 3,
+    OwnFolderByTransponder = 4
+};
+
 /// Class of the connection over which a device is reached; -1 on a device means: as the database says.
 enum ENodeBandwidth : int { SlowRemote = 0, FastRemote = 1, SlowLocal = 2, FastLocal = 3 };
 

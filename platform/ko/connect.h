@@ -1,7 +1,7 @@
 #ifndef KO_CONNECT_H
 #define KO_CONNECT_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QObject>
 

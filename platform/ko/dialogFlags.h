@@ -1,7 +1,7 @@
 #ifndef KO_DIALOGFLAGS_H
 #define KO_DIALOGFLAGS_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <Qt>
 #include <QtGlobal>

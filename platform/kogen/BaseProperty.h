@@ -1,7 +1,7 @@
 #ifndef KOGEN_BASEPROPERTY_H
 #define KOGEN_BASEPROPERTY_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 #include <QString>
 #include <QVariant>

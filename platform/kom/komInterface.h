@@ -1,7 +1,7 @@
 #ifndef KOM_INTERFACE_H
 #define KOM_INTERFACE_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 
 /// Roots of the handle library's interfaces; components are only ever destroyed through them here.
 class KO_PLATFORM_EXPORT komInterface

@@ -1,7 +1,7 @@
 #ifndef RECORDING_KOFFSDEVICE_H
 #define RECORDING_KOFFSDEVICE_H
 
-#include "ko/Export.h"
+#include "PlatformExport.h"
 #include "kom/smart.h"
 
 #include <string>

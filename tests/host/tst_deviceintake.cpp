@@ -6,6 +6,7 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHint.h"
 #include "ko/NodeHintIPDevice.h"
+#include "model/NetworkAddress.h"
 #include "support/HostFixture.h"
 #include "support/LogLines.h"
 #include "support/TestMain.h"
@@ -218,7 +219,7 @@ void DeviceIntakeTest::addressesAreOfOneHost_data()
 void DeviceIntakeTest::addressesAreOfOneHost()
 {
     QFETCH(QString, text);
-    QTEST(NetworkText::address(text), "expected");
+    QTEST(NetworkAddress::normalised(text), "expected");
 }
 
 void DeviceIntakeTest::addressesAreNearby_data()

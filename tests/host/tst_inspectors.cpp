@@ -5,6 +5,7 @@
 #include "audit/AuditLog.h"
 #include "dialogs/EditNodeDialog.h"
 #include "dialogs/NodeDialog.h"
+#include "drivers/HostHint.h"
 #include "drivers/InspectorPages.h"
 #include "inspector/IPDeviceInspectorWidget.h"
 #include "pages/PTZUrlsWidget.h"
@@ -94,6 +95,7 @@ private slots:
 
 private:
     QString add(ENodeType type, const QString& name, const QString& address = QString());
+    QString addOfAnyType(ENodeType type);
     std::unique_ptr<InspectorWidget> inspect(const QString& id, bool readOnly = false);
     void changeElsewhere(const QString& id, const std::function<void(IPDeviceNode*)>& change);
     QStringList loggedCodes();
@@ -116,6 +118,23 @@ void tst_Inspectors::cleanup()
 QString tst_Inspectors::add(ENodeType type, const QString& name, const QString& address)
 {
     return m_host->add(type, name, address);
+}
+
+/// Also of the types that no user adds.
+QString tst_Inspectors::addOfAnyType(ENodeType type)
+{
+    if (NodeTypes::canBeAdded(type))
+        return add(type, text("Gate"), text("10.0.0.1"));
+    if (type == RecordingTransponderType) {
+        const QString camera = add(IPDeviceType, text("Gate"), text("10.0.0.1"));
+        m_host->change(
+            camera, [](Node* node) { node->setBoolProperty(PropertyKeys::UseRecordingTransponder, true); });
+    } else {
+        PlainHint hint(type);
+        hint.setName(text("Gate"));
+        m_db->newNodeHint(hint);
+    }
+    return m_db->nodeIdList(type).value(0);
 }
 
 std::unique_ptr<InspectorWidget> tst_Inspectors::inspect(const QString& id, bool readOnly)
@@ -385,9 +404,8 @@ void tst_Inspectors::pageContract()
     QFETCH(int, type);
     QFETCH(int, index);
     const ENodeType nodeType = ENodeType(type);
-    if (!NodeTypes::canBeAdded(nodeType))
-        return; // no user adds such a node; its pages are those of other types
-    const QString id = add(nodeType, text("Gate"), text("10.0.0.1"));
+    const QString id = addOfAnyType(nodeType);
+    QVERIFY(!id.isEmpty());
     const PageSpec spec = pagesOf(nodeType).at(index);
 
     // Filled and written back, nothing changes but what is always written.

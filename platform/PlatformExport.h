@@ -1,5 +1,5 @@
-#ifndef KO_EXPORT_H
-#define KO_EXPORT_H
+#ifndef KO_PLATFORM_EXPORT_H
+#define KO_PLATFORM_EXPORT_H
 
 #include <QtGlobal>
 

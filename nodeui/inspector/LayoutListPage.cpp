@@ -1,0 +1,7 @@
+#include "inspector/LayoutListPage.h"
+
+namespace ko {
+
+LayoutListPage::~LayoutListPage() = default;
+
+} // namespace ko
