@@ -1,0 +1,27 @@
+#ifndef KO_NODECOMMANDS_H
+#define KO_NODECOMMANDS_H
+
+#include <QString>
+
+namespace ko {
+
+class MainWindow;
+
+/// What can be done with nodes, mostly with those that are selected in the window.
+namespace NodeCommands {
+
+void add(MainWindow& window);
+void edit(MainWindow& window);
+void remove(MainWindow& window);
+void showProperties(MainWindow& window);
+void editCredentials(MainWindow& window);
+void editRecording(MainWindow& window);
+
+/// The editor of one node.
+void open(MainWindow& window, const QString& id, bool readOnly = false);
+
+} // namespace NodeCommands
+
+} // namespace ko
+
+#endif
