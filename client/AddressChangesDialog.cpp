@@ -32,9 +32,9 @@ AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent
     m_table->horizontalHeader()->setStretchLastSection(true);
 
     QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    m_accept = buttons->addButton(tr("Accept Selected"), QDialogButtonBox::ActionRole);
-    m_acceptAll = buttons->addButton(tr("Accept All"), QDialogButtonBox::ActionRole);
-    m_dismiss = buttons->addButton(tr("Dismiss Selected"), QDialogButtonBox::ActionRole);
+    m_accept = buttons->addButton(tr("&Accept Selected"), QDialogButtonBox::ActionRole);
+    m_acceptAll = buttons->addButton(tr("Accept A&ll"), QDialogButtonBox::ActionRole);
+    m_dismiss = buttons->addButton(tr("&Dismiss Selected"), QDialogButtonBox::ActionRole);
     m_accept->setObjectName(QStringLiteral("acceptButton"));
     m_acceptAll->setObjectName(QStringLiteral("acceptAllButton"));
     m_dismiss->setObjectName(QStringLiteral("dismissButton"));

@@ -3,6 +3,7 @@
 #include "Commands.h"
 #include "EnvironmentNotice.h"
 #include "FocusMark.h"
+#include "Mnemonics.h"
 #include "NodeCommands.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
@@ -72,6 +73,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     registerNodeLogEntries();
     new WheelGuard(this);
     new FocusMark(this);
+    new Mnemonics(this);
     createList();
     createSearch();
     createTypes();

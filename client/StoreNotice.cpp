@@ -62,8 +62,8 @@ void StoreNotice::ask(const StoreError& error)
     m_box->setAttribute(Qt::WA_DeleteOnClose);
     m_box->setInformativeText(unstoredText());
     m_box->setDetailedText(error.detail);
-    QPushButton* retry = m_box->addButton(tr("Retry"), QMessageBox::AcceptRole);
-    QPushButton* discard = m_box->addButton(tr("Discard Changes"), QMessageBox::DestructiveRole);
+    QPushButton* retry = m_box->addButton(tr("&Retry"), QMessageBox::AcceptRole);
+    QPushButton* discard = m_box->addButton(tr("&Discard Changes"), QMessageBox::DestructiveRole);
     m_box->setDefaultButton(retry);
     connect(m_box, &QMessageBox::buttonClicked, this, [this, discard](QAbstractButton* button) {
         const bool discards = button == static_cast<QAbstractButton*>(discard);
