@@ -6,6 +6,7 @@
 #include "NodeListView.h"
 #include "NodeLogEntries.h"
 #include "RemoveNodesBox.h"
+#include "TypeChange.h"
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "dialogs/AddNodeDialog.h"
@@ -71,6 +72,7 @@ void add(MainWindow& window)
 {
     const QList<ENodeType> types = typesToAdd();
     AddNodeDialog dialog(&window, &window, &types, false, listOptions | environmentRow);
+    new TypeChange(&dialog);
     window.exec(dialog);
     const kom::smart<const Node> node = window.database().node(dialog.nodeId());
     if (node.null())
