@@ -54,7 +54,7 @@ const Commands::Command Commands::all[] = {
 
     {KO_TEXT("&Node"), "actionAdd", KO_TEXT("&Add..."), KO_TEXT("Adds a node"), "Ctrl+N", "list-add", Nothing,
      InList | InBar, &NodeCommands::add},
-    {KO_TEXT("&Node"), "actionEdit", KO_TEXT("&Edit..."), KO_TEXT("Changes the selected node"), "Ctrl+E",
+    {KO_TEXT("&Node"), "actionEdit", KO_TEXT("&Edit..."), KO_TEXT("Changes the selected node"), "Ctrl+E; F2",
      "document-edit", OneNode, InList | InBar, &NodeCommands::edit},
     {KO_TEXT("&Node"), "actionRemove", KO_TEXT("&Remove..."), KO_TEXT("Removes the selected nodes"), "Del",
      "list-remove", SomeNodes, InList | InBar, &NodeCommands::remove},
@@ -68,6 +68,19 @@ const Commands::Command Commands::all[] = {
      KO_TEXT("Where the recordings of the selected cameras are played from"), "Ctrl+R", "folder-videos",
      SomeNodes, InList, &NodeCommands::editRecording},
 
+    {KO_TEXT("&Node"), "actionDuplicate", KO_TEXT("&Duplicate..."),
+     KO_TEXT("Adds a node that is like the selected one"), "Ctrl+D", "edit-copy", OneNode, InList | AfterLine,
+     &NodeCommands::duplicate},
+    {KO_TEXT("&Node"), "actionWebPage", KO_TEXT("Open &Web Page"),
+     KO_TEXT("Opens the page of the selected device in the browser"), "", "internet-web-browser", OneNode,
+     InList, &NodeCommands::openWebPage},
+    {KO_TEXT("&Node"), "actionCopyRows", KO_TEXT("Copy R&ows"),
+     KO_TEXT("Copies the selected rows for a spreadsheet"), "Ctrl+C", "edit-copy", SomeNodes, InList,
+     &NodeCommands::copyRows},
+    {KO_TEXT("&Node"), "actionCopyAddresses", KO_TEXT("Copy Addre&ss"),
+     KO_TEXT("Copies the addresses of the selected nodes"), "Ctrl+Shift+C", "", SomeNodes, InList,
+     &NodeCommands::copyAddresses},
+
     {KO_TEXT("Net&work"), "actionProxy", KO_TEXT("Network &Proxy..."),
      KO_TEXT("The proxy server of the application"), "", "preferences-system-network", Nothing, InMenu,
      &WindowCommands::editProxy},
@@ -80,8 +93,10 @@ const Commands::Command Commands::all[] = {
      KO_TEXT("Devices that a scan found at another address than they have here"), "", "", Nothing, InMenu,
      &WindowCommands::showAddressChanges},
 
+    {KO_TEXT("&View"), "actionColumns", KO_TEXT("&Columns..."), KO_TEXT("Which columns the list has"), "", "",
+     Nothing, InMenu, [](MainWindow& window) { window.list().chooseColumns(); }},
     {KO_TEXT("&View"), "actionAuditLog", KO_TEXT("&Audit Log..."), KO_TEXT("Who changed what, and when"),
-     "Ctrl+L", "view-history", Nothing, InMenu, &WindowCommands::showAuditLog},
+     "Ctrl+L", "view-history", Nothing, AfterLine, &WindowCommands::showAuditLog},
     {KO_TEXT("&View"), "actionDatabase", KO_TEXT("Node &Database..."), KO_TEXT("Everything that is stored"),
      "", "", Nothing, InMenu, &WindowCommands::showDatabase},
 

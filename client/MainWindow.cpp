@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "Commands.h"
+#include "EmptyState.h"
 #include "EnvironmentNotice.h"
 #include "FocusMark.h"
 #include "Mnemonics.h"
@@ -61,6 +62,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_view(new NodeListView(this))
     , m_search(new QLineEdit(this))
     , m_types(new QComboBox(this))
+    , m_empty(new EmptyState(m_view->viewport()))
     , m_counts(new QLabel(this))
     , m_commands(new Commands(*this))
     , m_surveys(new SurveyCommands(this))
@@ -75,6 +77,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     new FocusMark(this);
     new Mnemonics(this);
     createList();
+    createEmptyState();
     createSearch();
     createTypes();
     createToolBar();
@@ -112,12 +115,24 @@ void MainWindow::createList()
         connect(m_model, signal, this, &MainWindow::updateStatus);
 }
 
+void MainWindow::createEmptyState()
+{
+    m_empty->addWay(m_commands->action("actionImport"), tr("Import a List of Cameras..."));
+    m_empty->addWay(m_commands->action("actionOverview"), tr("Find Devices in the Network..."));
+    m_empty->addWay(m_commands->action("actionAdd"), tr("Add a Camera..."));
+    connect(m_empty, &EmptyState::showAll, m_search, [this] {
+        m_search->clear();
+        m_types->setCurrentIndex(0);
+        m_view->setFocus();
+    });
+}
+
 void MainWindow::createSearch()
 {
     m_search->setObjectName(QStringLiteral("searchLineEdit"));
     m_search->setPlaceholderText(tr("Search (Ctrl+F)"));
     m_search->setClearButtonEnabled(true);
-    m_search->setToolTip(tr("Words in name, type, address or recording"));
+    m_search->setToolTip(tr("Words in any column; \"type:camera\" looks in one, \"-yard\" leaves out"));
     m_search->setAccessibleName(tr("Search"));
     connect(m_search, &QLineEdit::textChanged, m_model, &NodeListModel::setSearch);
     QAction* clear = new QAction(m_search);
@@ -125,6 +140,12 @@ void MainWindow::createSearch()
     clear->setShortcutContext(Qt::WidgetShortcut);
     connect(clear, &QAction::triggered, m_search, &QLineEdit::clear);
     m_search->addAction(clear);
+    QAction* down = new QAction(m_search);
+    down->setShortcut(Qt::Key_Down);
+    down->setShortcutContext(Qt::WidgetShortcut);
+    connect(down, &QAction::triggered, m_view, &NodeListView::enter);
+    m_search->addAction(down);
+    connect(m_search, &QLineEdit::returnPressed, m_view, &NodeListView::enter);
 
     QAction* find = new QAction(this);
     find->setShortcut(QKeySequence::Find);
@@ -208,6 +229,7 @@ void MainWindow::updateStatus()
     m_counts->setText(tr("%1 nodes, %2 shown, %3 selected")
                           .arg(locale.toString(m_model->nodeCount()), locale.toString(m_model->rowCount()),
                                locale.toString(selected)));
+    m_empty->setCounts(m_model->nodeCount(), m_model->rowCount());
 }
 
 void MainWindow::say(const QString& text)
@@ -254,7 +276,7 @@ void MainWindow::restoreState()
     m_view->header()->resizeSection(NodeListModel::NameColumn, 260);
     m_view->header()->resizeSection(NodeListModel::TypeColumn, 160);
     m_view->header()->resizeSection(NodeListModel::AddressColumn, 180);
-    m_view->header()->restoreState(settings.value(QStringLiteral("window/columns")).toByteArray());
+    m_view->restoreColumns(settings.value(QStringLiteral("window/columns")).toByteArray());
     m_model->sort(m_view->header()->sortIndicatorSection(), m_view->header()->sortIndicatorOrder());
 }
 

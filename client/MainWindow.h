@@ -14,6 +14,7 @@ class QLineEdit;
 namespace ko {
 
 class Commands;
+class EmptyState;
 class EnvironmentNotice;
 class HostNodeDB;
 class NodeListModel;
@@ -51,6 +52,7 @@ protected:
 
 private:
     void createList();
+    void createEmptyState();
     void createSearch();
     void createTypes();
     void createToolBar();
@@ -66,6 +68,7 @@ private:
     NodeListView* const m_view;
     QLineEdit* const m_search;
     QComboBox* const m_types;
+    EmptyState* const m_empty;
     QLabel* const m_counts;
     Commands* const m_commands;
     SurveyCommands* const m_surveys;

@@ -1,6 +1,7 @@
 #include "NodeCommands.h"
 
 #include "DeviceSettings.h"
+#include "FormFields.h"
 #include "LayoutAdapter.h"
 #include "MainWindow.h"
 #include "NodeListView.h"
@@ -12,7 +13,13 @@
 #include "dialogs/AddNodeDialog.h"
 #include "dialogs/EditNodeDialog.h"
 #include "drivers/NodeTypes.h"
-#include "ko/Node.h"
+#include "inspector/InspectorWidget.h"
+#include "ko/IPDeviceNode.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -45,6 +52,17 @@ void openSelected(MainWindow& window, bool readOnly)
         open(window, ids.first(), readOnly);
 }
 
+void runAddDialog(MainWindow& window, AddNodeDialog& dialog)
+{
+    window.exec(dialog);
+    const kom::smart<const Node> node = window.database().node(dialog.nodeId());
+    if (node.null())
+        return;
+    window.database().auditLog().log(NodeAddLogEntry(node->name()));
+    window.applyChanges();
+    window.list().selectNode(dialog.nodeId());
+}
+
 /// Says so when there is none.
 QStringList selectedDevices(MainWindow& window)
 {
@@ -73,13 +91,28 @@ void add(MainWindow& window)
     const QList<ENodeType> types = typesToAdd();
     AddNodeDialog dialog(&window, &window, &types, false, listOptions | environmentRow);
     new TypeChange(&dialog);
-    window.exec(dialog);
-    const kom::smart<const Node> node = window.database().node(dialog.nodeId());
-    if (node.null())
+    runAddDialog(window, dialog);
+}
+
+void duplicate(MainWindow& window)
+{
+    const NodeSummary summary = window.database().summary(window.list().selectedIds().value(0));
+    const kom::smart<const Node> node = window.database().node(summary.id);
+    const std::unique_ptr<QWidget> original(node.null() ? nullptr
+                                                        : node->createInspectorWidget(false, listOptions));
+    if (!original || !NodeTypes::canBeAdded(summary.type)) {
+        window.say(MainWindow::tr("Nodes of this type cannot be added."));
         return;
-    window.database().auditLog().log(NodeAddLogEntry(node->name()));
-    window.applyChanges();
-    window.list().selectNode(dialog.nodeId());
+    }
+    const QList<ENodeType> types = {summary.type};
+    AddNodeDialog dialog(&window, &window, &types, false, listOptions | environmentRow);
+    const FormFields::Values values = FormFields::values(original.get());
+    const QList<QWidget*> fields = FormFields::in(&dialog);
+    for (QWidget* field : fields) {
+        if (values.contains(field->objectName()))
+            FormFields::enter(field, values.value(field->objectName()));
+    }
+    runAddDialog(window, dialog);
 }
 
 void edit(MainWindow& window)
@@ -122,6 +155,43 @@ void editRecording(MainWindow& window)
     const QStringList devices = selectedDevices(window);
     if (!devices.isEmpty())
         window.say(DeviceSettings::editRecording(window.database(), devices, &window));
+}
+
+void openWebPage(MainWindow& window)
+{
+    const QString id = window.list().selectedIds().value(0);
+    const auto device = window.database().node(id).cast<const IPDeviceNode>();
+    if (device.null() || device->address().isEmpty()) {
+        window.say(MainWindow::tr("This node has no address."));
+        return;
+    }
+    QUrl url;
+    url.setScheme(device->useSSL() ? QStringLiteral("https") : QStringLiteral("http"));
+    url.setHost(device->address());
+    if (device->port() != (device->useSSL() ? 443 : 80))
+        url.setPort(device->port());
+    if (!url.isValid() || !QDesktopServices::openUrl(url))
+        window.say(MainWindow::tr("The web page of %1 could not be opened.").arg(device->address()));
+}
+
+void copyRows(MainWindow& window)
+{
+    QApplication::clipboard()->setText(window.list().selectedText());
+    window.say(MainWindow::tr("%n row(s) copied.", nullptr, window.list().selectedCount()));
+}
+
+void copyAddresses(MainWindow& window)
+{
+    QStringList addresses;
+    const QStringList ids = window.list().selectedIds();
+    for (const QString& id : ids) {
+        const QString address = window.database().summary(id).location;
+        if (!address.isEmpty())
+            addresses.append(address);
+    }
+    if (!addresses.isEmpty())
+        QApplication::clipboard()->setText(addresses.join(QLatin1Char('\n')));
+    window.say(MainWindow::tr("%n address(es) copied.", nullptr, int(addresses.size())));
 }
 
 } // namespace NodeCommands

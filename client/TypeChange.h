@@ -1,9 +1,9 @@
 #ifndef KO_TYPECHANGE_H
 #define KO_TYPECHANGE_H
 
-#include <QMap>
+#include "FormFields.h"
+
 #include <QObject>
-#include <QVariant>
 
 class QComboBox;
 class QDialog;
@@ -24,17 +24,13 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    typedef QMap<QString, QVariant> Values; ///< by the names of the fields
-
-    QList<QWidget*> fields() const;
-    Values values() const;
     void remember();
     void restore();
 
-    QDialog* const m_dialog;
     QComboBox* const m_types;
-    Values m_fresh;   ///< as the editor began
-    Values m_entered; ///< also in fields that this type does not have
+    QWidget* const m_form;
+    FormFields::Values m_fresh;   ///< as the editor began
+    FormFields::Values m_entered; ///< also in fields that this type does not have
 };
 
 } // namespace ko
