@@ -1,6 +1,7 @@
 #include "AuditLogDialog.h"
 
 #include "AuditLogModel.h"
+#include "WindowSize.h"
 #include "ko/dialogFlags.h"
 
 #include <QAction>
@@ -75,7 +76,7 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
     layout->addLayout(searchRow);
     layout->addWidget(m_view);
     layout->addWidget(buttons);
-    resize(QSettings().value(QLatin1String(sizeKey), QSize(960, 520)).toSize());
+    resizeWithinScreen(*this, QSettings().value(QLatin1String(sizeKey), QSize(960, 520)).toSize());
 }
 
 AuditLogDialog::~AuditLogDialog()

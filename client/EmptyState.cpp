@@ -16,7 +16,6 @@ EmptyState::EmptyState(QWidget* area)
     setObjectName(QStringLiteral("emptyState"));
     m_text->setObjectName(QStringLiteral("emptyTextLabel"));
     m_text->setAlignment(Qt::AlignCenter);
-    m_text->setWordWrap(true);
     m_showAll->setObjectName(QStringLiteral("showAllButton"));
     connect(m_showAll, &QPushButton::clicked, this, &EmptyState::showAll);
     QVBoxLayout* layout = new QVBoxLayout(this);

@@ -13,6 +13,7 @@
 #include "StoreNotice.h"
 #include "SurveyCommands.h"
 #include "WheelGuard.h"
+#include "WindowSize.h"
 #include "database/HostNodeDB.h"
 #include "discovery/DeviceIntake.h"
 #include "drivers/NodeTypes.h"
@@ -272,7 +273,7 @@ void MainWindow::restoreState()
 {
     const QSettings settings;
     if (!restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray()))
-        resize(900, 600);
+        resizeWithinScreen(*this, QSize(900, 600));
     m_view->header()->resizeSection(NodeListModel::NameColumn, 260);
     m_view->header()->resizeSection(NodeListModel::TypeColumn, 160);
     m_view->header()->resizeSection(NodeListModel::AddressColumn, 180);
