@@ -91,7 +91,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     connect(&m_db.deviceIntake(), &DeviceIntake::addressChangesChanged, this, [this] {
         const int count = int(m_db.deviceIntake().addressChanges().size());
         if (count > 0)
-            say(tr("%n device(s) seen at a new address", nullptr, count));
+            say(tr("%n device(s) seen at a new address: Network > Seen at a New Address", nullptr, count));
     });
 
     restoreState();

@@ -73,7 +73,7 @@ QStringList selectedDevices(MainWindow& window)
             devices.append(id);
     }
     if (devices.isEmpty())
-        window.say(MainWindow::tr("No camera is selected."));
+        window.say(MainWindow::tr("No camera is selected. Select one or more in the list first."));
     return devices;
 }
 
@@ -162,7 +162,7 @@ void openWebPage(MainWindow& window)
     const QString id = window.list().selectedIds().value(0);
     const auto device = window.database().node(id).cast<const IPDeviceNode>();
     if (device.null() || device->address().isEmpty()) {
-        window.say(MainWindow::tr("This node has no address."));
+        window.say(MainWindow::tr("This node has no address. Devices get theirs in Node > Edit."));
         return;
     }
     QUrl url;

@@ -38,7 +38,8 @@ int indent(const QLabel* caption)
 
 PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
     : QWidget(parent)
-    , m_goneLabel(new QLabel(tr("This node has been removed meanwhile. Changes cannot be stored."), this))
+    , m_goneLabel(new QLabel(
+          tr("This node has been removed meanwhile. Changes cannot be stored: close this window."), this))
 {
     QTabWidget* tabs = new QTabWidget(this);
     tabs->setObjectName(QLatin1String("tabWidget"));
