@@ -92,7 +92,7 @@ QString withLetter(const QString& text, const QStringList& used)
             const bool begins = i == 0 || !text.at(i - 1).isLetterOrNumber();
             if (!text.at(i).isLetterOrNumber() || begins != atBegin)
                 continue;
-            const QString marked = QString(text).insert(i, QLatin1Char('&'));
+            QString marked = QString(text).insert(i, QLatin1Char('&'));
             if (!used.contains(QKeySequence::mnemonic(marked).toString()))
                 return marked;
         }
@@ -145,7 +145,9 @@ Mnemonics::Mnemonics(QObject* parent)
 
 bool Mnemonics::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* widget = event->type() == QEvent::Show ? qobject_cast<QWidget*>(watched) : nullptr;
+    // A caption that gets another text has its place computed anew.
+    const bool mayNeedLetters = event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest;
+    auto* widget = mayNeedLetters ? qobject_cast<QWidget*>(watched) : nullptr;
     if (widget && !m_windows.contains(widget->window())) {
         if (m_windows.isEmpty())
             QTimer::singleShot(0, this, &Mnemonics::assign);

@@ -27,7 +27,7 @@ public:
 private:
     void assign();
 
-    QVector<QPointer<QWidget>> m_windows; ///< in which something came into sight
+    QVector<QPointer<QWidget>> m_windows; ///< in which something came into sight or changed
 };
 
 } // namespace ko

@@ -102,6 +102,7 @@ private slots:
     void pages_data();
     void pages();
     void anotherType();
+    void nodeChangesElsewhere();
     void messageBox();
     void letterIsPressed();
 
@@ -192,6 +193,17 @@ void tst_Mnemonics::anotherType()
             types->setCurrentIndex(i);
             check(dialog);
         }
+    });
+}
+
+/// The editor fills its captions again then.
+void tst_Mnemonics::nodeChangesElsewhere()
+{
+    const QString id = m_window->findChild<NodeListView*>()->selectedIds().value(0);
+    open("actionEdit", [this, &id](QDialog* dialog) {
+        m_host->change(id, [](Node* node) { node->setStringProperty("Name", "Other"); });
+        QTRY_COMPARE(child<QLineEdit>(dialog, "nameLineEdit")->text(), QString("Other"));
+        check(dialog);
     });
 }
 
