@@ -255,6 +255,13 @@ void MainWindow::exportCameras()
     m_surveys->exportCameras();
 }
 
+void MainWindow::exportSelected()
+{
+    const QStringList devices = NodeCommands::selectedDevices(*this);
+    if (!devices.isEmpty())
+        m_surveys->exportCameras(devices);
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     if (m_surveys->closeWindowAfterwards()) {

@@ -46,6 +46,7 @@ public:
 
     void importCameras();
     void exportCameras();
+    void exportSelected();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

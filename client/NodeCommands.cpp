@@ -63,7 +63,8 @@ void runAddDialog(MainWindow& window, AddNodeDialog& dialog)
     window.list().selectNode(dialog.nodeId());
 }
 
-/// Says so when there is none.
+} // namespace
+
 QStringList selectedDevices(MainWindow& window)
 {
     QStringList devices;
@@ -76,8 +77,6 @@ QStringList selectedDevices(MainWindow& window)
         window.say(MainWindow::tr("No camera is selected. Select one or more in the list first."));
     return devices;
 }
-
-} // namespace
 
 void open(MainWindow& window, const QString& id, bool readOnly)
 {

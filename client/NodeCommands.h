@@ -1,7 +1,7 @@
 #ifndef KO_NODECOMMANDS_H
 #define KO_NODECOMMANDS_H
 
-#include <QString>
+#include <QStringList>
 
 namespace ko {
 
@@ -26,6 +26,9 @@ void openWebPage(MainWindow& window);
 /// The selected rows as a spreadsheet takes them: the columns that are shown, parted by tabs.
 void copyRows(MainWindow& window);
 void copyAddresses(MainWindow& window);
+
+/// The devices among the selected nodes; when there is none, the window says so.
+QStringList selectedDevices(MainWindow& window);
 
 /// The editor of one node.
 void open(MainWindow& window, const QString& id, bool readOnly = false);

@@ -41,10 +41,10 @@ const Field folderFields[] = {
 
 const Field remotePreviewFields[] = {
     {PropertyKeys::RemotePreviewAddress, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Address:")},
-    {PropertyKeys::RemotePreviewPort, Field::Port, QT_TRANSLATE_NOOP("PropertyFormPage", "Port:")},
-    {PropertyKeys::RemotePreviewSsl, Field::Flag,
+    {"RecordingTransponderPort", Field::Port, QT_TRANSLATE_NOOP("PropertyFormPage", "Port:")},
+    {"RecordingTransponderSSL", Field::Flag,
      QT_TRANSLATE_NOOP("PropertyFormPage", "Secure connection (SSL)")},
-    {PropertyKeys::RemotePreviewUser, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "User name:")},
+    {"RecordingTransponderUser", Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "User name:")},
     {PropertyKeys::RemotePreviewPassword, Field::Password,
      QT_TRANSLATE_NOOP("PropertyFormPage", "Password:")},
 };

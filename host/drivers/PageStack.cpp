@@ -2,7 +2,6 @@
 
 #include "drivers/AddressGuard.h"
 #include "drivers/GeneralPage.h"
-#include "drivers/PropertyKeys.h"
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
 
@@ -191,7 +190,7 @@ void PageStack::connectConnectionPage(bool proposeNames)
 /// After init(), for an address that is stored already stays as it is.
 void PageStack::guardAddress()
 {
-    static const struct
+    static const struct // by the names of their fields; a form made from a table names them by their keys
     {
         const char* address;
         const char* port;
@@ -200,8 +199,8 @@ void PageStack::guardAddress()
         const char* password;
     } forms[] = {
         {"addressLineEdit", "portSpinBox", "sslCheckBox", "usernameLineEdit", "passwordLineEdit"},
-        {PropertyKeys::RemotePreviewAddress, PropertyKeys::RemotePreviewPort, PropertyKeys::RemotePreviewSsl,
-         PropertyKeys::RemotePreviewUser, PropertyKeys::RemotePreviewPassword},
+        {"RecordingTransponderIP", "RecordingTransponderPort", "RecordingTransponderSSL",
+         "RecordingTransponderUser", "RecordingTransponderPassword"},
     };
     for (const auto& form : forms) {
         const AddressGuard::Fields fields = {findChild<QLineEdit*>(QLatin1String(form.address)),

@@ -34,9 +34,6 @@ inline constexpr char CameraID[] = "CameraID";
 inline constexpr char RecordingStorageUsage[] = "RecordingStorageUsage";
 inline constexpr char RemotePreviewPassword[] = "RecordingTransponderPassword";
 inline constexpr char RemotePreviewAddress[] = "RecordingTransponderIP";
-inline constexpr char RemotePreviewPort[] = "RecordingTransponderPort";
-inline constexpr char RemotePreviewSsl[] = "RecordingTransponderSSL";
-inline constexpr char RemotePreviewUser[] = "RecordingTransponderUser";
 
 } // namespace PropertyKeys
 

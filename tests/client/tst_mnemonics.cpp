@@ -14,6 +14,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -97,6 +98,7 @@ private slots:
     void cleanup();
 
     void mainWindow();
+    void menus();
     void dialogs_data();
     void dialogs();
     void pages_data();
@@ -143,6 +145,23 @@ void tst_Mnemonics::open(const char* action, const std::function<void(QDialog*)>
 void tst_Mnemonics::mainWindow()
 {
     check(m_window.get());
+}
+
+void tst_Mnemonics::menus()
+{
+    const QList<QAction*> menus = m_window->menuBar()->actions();
+    for (const QAction* menu : menus) {
+        QStringList letters;
+        const QList<QAction*> entries = menu->menu()->actions();
+        for (const QAction* entry : entries) {
+            if (entry->isSeparator())
+                continue;
+            QVERIFY2(!letter(entry->text()).isEmpty(), qPrintable(entry->text()));
+            QVERIFY2(!letters.contains(letter(entry->text())), qPrintable(entry->text()));
+            letters.append(letter(entry->text()));
+        }
+        QVERIFY(!letters.isEmpty());
+    }
 }
 
 void tst_Mnemonics::dialogs_data()
