@@ -1,5 +1,7 @@
 #include "AddressChangesDialog.h"
 
+#include "SearchText.h"
+#include "WindowSize.h"
 #include "ko/dialogFlags.h"
 
 #include <QDialogButtonBox>
@@ -8,6 +10,8 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace ko {
 
@@ -32,9 +36,9 @@ AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent
     m_table->horizontalHeader()->setStretchLastSection(true);
 
     QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    m_accept = buttons->addButton(tr("Accept Selected"), QDialogButtonBox::ActionRole);
-    m_acceptAll = buttons->addButton(tr("Accept All"), QDialogButtonBox::ActionRole);
-    m_dismiss = buttons->addButton(tr("Dismiss Selected"), QDialogButtonBox::ActionRole);
+    m_accept = buttons->addButton(tr("&Accept Selected"), QDialogButtonBox::ActionRole);
+    m_acceptAll = buttons->addButton(tr("Accept A&ll"), QDialogButtonBox::ActionRole);
+    m_dismiss = buttons->addButton(tr("&Dismiss Selected"), QDialogButtonBox::ActionRole);
     m_accept->setObjectName(QStringLiteral("acceptButton"));
     m_acceptAll->setObjectName(QStringLiteral("acceptAllButton"));
     m_dismiss->setObjectName(QStringLiteral("dismissButton"));
@@ -46,7 +50,7 @@ AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent
     layout->addWidget(hint);
     layout->addWidget(m_table);
     layout->addWidget(buttons);
-    resize(640, 360);
+    resizeWithinScreen(*this, QSize(640, 360));
 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_accept, &QPushButton::clicked, this, [this] { m_intake.accept(selected()); });
@@ -65,6 +69,10 @@ void AddressChangesDialog::refresh()
 {
     m_table->clearSelection(); // a row must not become another one under the user's hand
     m_changes = m_intake.addressChanges();
+    const auto inOrder = [](const AddressChange& a, const AddressChange& b) {
+        return SearchText::sortKey(a.name) < SearchText::sortKey(b.name); // "Camera 2" before "Camera 10"
+    };
+    std::stable_sort(m_changes.begin(), m_changes.end(), inOrder);
     m_table->setRowCount(int(m_changes.size()));
     for (int row = 0; row < m_table->rowCount(); ++row) {
         const AddressChange& change = m_changes.at(row);

@@ -1,6 +1,7 @@
 #include "AuditLogDialog.h"
 
 #include "AuditLogModel.h"
+#include "WindowSize.h"
 #include "ko/dialogFlags.h"
 
 #include <QAction>
@@ -8,6 +9,7 @@
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
 #include <QSortFilterProxyModel>
@@ -66,10 +68,15 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
     QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     QVBoxLayout* layout = new QVBoxLayout(this);
-    layout->addWidget(searchField);
+    QHBoxLayout* searchRow = new QHBoxLayout;
+    QLabel* searchLabel = new QLabel(tr("&Find:"), this);
+    searchLabel->setBuddy(searchField);
+    searchRow->addWidget(searchLabel);
+    searchRow->addWidget(searchField);
+    layout->addLayout(searchRow);
     layout->addWidget(m_view);
     layout->addWidget(buttons);
-    resize(QSettings().value(QLatin1String(sizeKey), QSize(960, 520)).toSize());
+    resizeWithinScreen(*this, QSettings().value(QLatin1String(sizeKey), QSize(960, 520)).toSize());
 }
 
 AuditLogDialog::~AuditLogDialog()

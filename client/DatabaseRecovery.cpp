@@ -110,13 +110,13 @@ Choice ask(PlainMessageBox& box, const QVector<Choice>& choices)
         const char* text;
         QMessageBox::ButtonRole role;
     } buttons[] = {
-        {Quit, QT_TRANSLATE_NOOP("DatabaseRecovery", "Quit"), QMessageBox::RejectRole},
-        {OpenAnother, QT_TRANSLATE_NOOP("DatabaseRecovery", "Open Another..."), QMessageBox::ActionRole},
-        {Retry, QT_TRANSLATE_NOOP("DatabaseRecovery", "Retry"), QMessageBox::AcceptRole},
-        {StartAnew, QT_TRANSLATE_NOOP("DatabaseRecovery", "Start an Empty One"),
+        {Quit, QT_TRANSLATE_NOOP("DatabaseRecovery", "&Quit"), QMessageBox::RejectRole},
+        {OpenAnother, QT_TRANSLATE_NOOP("DatabaseRecovery", "&Open Another..."), QMessageBox::ActionRole},
+        {Retry, QT_TRANSLATE_NOOP("DatabaseRecovery", "&Retry"), QMessageBox::AcceptRole},
+        {StartAnew, QT_TRANSLATE_NOOP("DatabaseRecovery", "&Start an Empty One"),
          QMessageBox::DestructiveRole},
-        {UseSaved, QT_TRANSLATE_NOOP("DatabaseRecovery", "Use What Can Be Read"), QMessageBox::AcceptRole},
-        {UseBackup, QT_TRANSLATE_NOOP("DatabaseRecovery", "Restore the Backup"), QMessageBox::AcceptRole},
+        {UseSaved, QT_TRANSLATE_NOOP("DatabaseRecovery", "Use What &Can Be Read"), QMessageBox::AcceptRole},
+        {UseBackup, QT_TRANSLATE_NOOP("DatabaseRecovery", "Restore the &Backup"), QMessageBox::AcceptRole},
     };
     QHash<const QAbstractButton*, Choice> chosen;
     for (const auto& each : buttons) {

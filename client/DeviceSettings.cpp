@@ -75,7 +75,8 @@ bool agreeOnCameras(const HostNodeDB& db, QStringList* cameras, QWidget* parent)
         QStringLiteral("\n\n") + listOfNames(namesOf(db, without)) + QStringLiteral("\n\n") +
         translated("Their recordings can be played via the camera. On a file server, however, the folder of "
                    "a camera is named by this address: with the default path these cameras would share one "
-                   "folder without a name, with a specific path they would lose the path that they have."));
+                   "folder without a name, with a specific path they would lose the path that they have. "
+                   "The address of a camera is shown in Node > Edit, on the page \"Device\"."));
     QPushButton* leaveOut = nullptr;
     if (!with.isEmpty())
         leaveOut = box.addButton(translated("&Leave Them Out"), QMessageBox::AcceptRole);

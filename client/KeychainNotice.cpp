@@ -52,8 +52,8 @@ bool KeychainNotice::begin(const std::function<void()>& giveUp)
     m_box->setInformativeText(
         translated("It has the key of the stored passwords. Unlock it if it asks for that.\n\n"
                    "Without the key, stored passwords are shown empty and new ones cannot be stored."));
-    QPushButton* goOn = m_box->addButton(translated("Continue Without Passwords"), QMessageBox::AcceptRole);
-    QPushButton* quit = m_starting ? m_box->addButton(translated("Quit"), QMessageBox::RejectRole) : nullptr;
+    QPushButton* goOn = m_box->addButton(translated("&Continue Without Passwords"), QMessageBox::AcceptRole);
+    QPushButton* quit = m_starting ? m_box->addButton(translated("&Quit"), QMessageBox::RejectRole) : nullptr;
     m_box->setEscapeButton(quit ? quit : goOn);
     QObject::connect(m_box.get(), &QDialog::finished, m_box.get(), [this, giveUp, quit] {
         m_quit = quit && m_box->clickedButton() == quit;

@@ -2,23 +2,24 @@
 #define KO_MAINWINDOW_H
 
 #include "model/NodeData.h"
-#include "model/StoreError.h"
 
 #include <QMainWindow>
-#include <QPointer>
 #include <QSet>
 
 class QComboBox;
+class QDialog;
 class QLabel;
 class QLineEdit;
 
 namespace ko {
 
+class Commands;
+class EmptyState;
 class EnvironmentNotice;
 class HostNodeDB;
 class NodeListModel;
 class NodeListView;
-class PlainMessageBox;
+class StoreNotice;
 class SurveyCommands;
 
 /// The client's window: the list of all nodes and what can be done with them.
@@ -31,46 +32,35 @@ public:
     explicit MainWindow(HostNodeDB& db, QWidget* parent = nullptr);
     ~MainWindow() override;
 
+    HostNodeDB& database() const { return m_db; }
+    NodeListView& list() const { return *m_view; }
+
+    /// Shows a text in the status bar for a while.
+    void say(const QString& text);
+
+    /// Runs a dialog in which the environment can be switched.
+    void exec(QDialog& dialog);
+
+    /// Takes into the list at once what would come at the end of the turn.
+    void applyChanges();
+
+    void importCameras();
+    void exportCameras();
+    void exportSelected();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
-private slots:
-    void addNode();
-    void editNode();
-    void removeNodes();
-    void showProperties();
-    void editRecording();
-    void editCredentials();
-    void editProxy();
-    void editEnvironments();
-    void editPreferences();
-    void showAuditLog();
-    void showOverview();
-    void showAddressChanges();
-    void showDatabase();
-    void importCameras();
-    void exportCameras();
-    void about();
-
-    void nodeChanged(ko::NodeID id);
-    void nodeRemoved(ko::NodeID id);
-    void applyChanges();
-    void updateActions();
-    void updateStatus();
-
-    void storeFailed(const ko::StoreError& error);
-    void storeRecovered();
-
 private:
-    struct Command;
-
     void createList();
-    void createCommands();
+    void createEmptyState();
+    void createSearch();
+    void createTypes();
     void createToolBar();
-    void openEditor(const QString& id, bool readOnly);
-    QStringList selectedNames(const QStringList& ids) const;
-    QStringList selectedDevices() const;
-    QString unstoredText() const;
+    void nodeChanged(const NodeID& id);
+    void nodeRemoved(const NodeID& id);
+    void updateCommands();
+    void updateStatus();
     void restoreState();
     void saveState() const;
 
@@ -79,15 +69,14 @@ private:
     NodeListView* const m_view;
     QLineEdit* const m_search;
     QComboBox* const m_types;
+    EmptyState* const m_empty;
     QLabel* const m_counts;
+    Commands* const m_commands;
     SurveyCommands* const m_surveys;
     EnvironmentNotice* const m_environment;
-    QList<QAction*> m_forOne;  ///< enabled while one node is selected
-    QList<QAction*> m_forSome; ///< enabled while at least one node is selected
-    QSet<QString> m_changed;   ///< taken into the list together at the end of the turn
+    StoreNotice* const m_store;
+    QSet<QString> m_changed; ///< taken into the list together at the end of the turn
     QSet<QString> m_removed;
-    QPointer<PlainMessageBox> m_failure;
-    bool m_isImporting = false; ///< whose report tells when storing fails
 };
 
 } // namespace ko

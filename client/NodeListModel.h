@@ -1,25 +1,16 @@
 #ifndef KO_NODELISTMODEL_H
 #define KO_NODELISTMODEL_H
 
-#include "model/NodeData.h"
+#include "NodeEntries.h"
 
 #include <QAbstractTableModel>
 #include <QBasicTimer>
-#include <QHash>
 #include <QItemSelection>
-#include <QStringList>
-#include <QVector>
-
-#include <functional>
-#include <vector>
 
 namespace ko {
 
-/// The nodes of the client's list, sorted and filtered by the model itself.
-///
-/// A stock proxy takes most of a second to filter a hundred thousand rows under a view. Here each node has
-/// its folded texts and its sort key ready, all nodes stand in an array in sorted order, and what is shown
-/// is the part of it that passes the filter.
+/// The nodes of the client's list, sorted and filtered by the model itself: a stock proxy takes most of a
+/// second to filter a hundred thousand rows under a view.
 class NodeListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -39,15 +30,15 @@ public:
     /// than one after the other. No node stands in both.
     void apply(const QVector<NodeSummary>& changed, const QStringList& removed);
 
-    /// Shows only nodes in which each word of \a text stands in some column, whatever its case.
+    /// Shows only nodes that match; see NodeSearch. The fields are the titles of the columns.
     void setSearch(const QString& text);
 
     /// Shows only nodes of a type; AllNodeTypes shows all.
     void setTypeFilter(ENodeType type);
 
-    int nodeCount() const { return int(m_slotOf.size()); }
+    int nodeCount() const { return m_entries.count(); }
     QString idAt(int row) const { return node(row).id; }
-    const NodeSummary& node(int row) const { return m_nodes[size_t(m_shown.at(row))].summary; }
+    const NodeSummary& node(int row) const { return m_entries.node(m_shown.at(row)); }
 
     /// Row of a node; -1 if it is not shown or not there.
     int rowOf(const QString& id) const;
@@ -69,61 +60,33 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    struct Entry
-    {
-        NodeSummary summary;
-        QString nameKey;
-        QString columnKey; ///< of the column that is sorted by
-        bool marked = false;
-        mutable QString haystack; ///< all columns, folded, one to a line; null until it is needed
-    };
-    typedef int Slot; ///< index into m_nodes
-    typedef QVector<Slot> Slots;
+    typedef NodeEntries::Slot Slot;
+    typedef NodeEntries::Slots Slots;
 
-    QString cell(const NodeSummary& node, int column) const;
-    Entry entryOf(const NodeSummary& node) const;
-    int compareKeys(Slot a, Slot b) const;
-    bool less(Slot a, Slot b) const;
-    int find(const Slots& rows, Slot slot) const;
-    int findAgain(const Slots& rows, Slot slot, int from) const;
-    const QString& haystack(const Entry& entry) const;
-    bool matches(Slot slot) const;
+    bool passes(Slot slot) const;
     Slots filtered(const Slots& candidates) const;
-    void show(const Slots& rows);
     void refilter(bool narrower);
 
-    Slot addNode(const NodeSummary& node);
+    void applyOneByOne(const QVector<NodeSummary>& changed, const QStringList& removed);
     void insertOne(const NodeSummary& node);
     void updateOne(Slot slot, const NodeSummary& node);
     void removeOne(Slot slot);
-    void replace(Slot slot, const NodeSummary& node);
-    void moveShown(Slot slot, int from, int to);
+    void showRow(Slot slot);
+    void hideRow(int row);
+    void moveRow(int from, int to);
 
     void applyMany(const QVector<NodeSummary>& changed, const QStringList& removed);
-    void putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted);
+    void putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted) const;
     bool changesFolders(const QVector<NodeSummary>& changed, const QStringList& removed) const;
     void recordingTextsChanged();
     void sortRows(int column, Qt::SortOrder order);
-    void makeColumnKeys();
-    void sortAll();
 
-    /// Sorts by numbers made of the first characters in which the keys differ; few need the whole key.
-    void sortStably(QString Entry::*key);
-    void reverse();
-    void prepareHaystacks();
-
-    const RecordingText m_recordingText;
-    std::vector<Entry> m_nodes;
-    Slots m_free;
-    QHash<QString, Slot> m_slotOf;
+    NodeEntries m_entries;
     Slots m_sorted; ///< all nodes
     Slots m_shown;  ///< those that pass the filter, in the same order
-    QStringList m_words;
+    NodeSearch m_search;
     ENodeType m_type = AllNodeTypes;
-    QBasicTimer m_preparing; ///< makes haystacks while nothing else is to do
-    size_t m_prepared = 0;
-    int m_sortColumn = NameColumn;
-    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
+    QBasicTimer m_preparing; ///< makes the entries ready for the search while nothing else is to do
 };
 
 } // namespace ko

@@ -1,7 +1,11 @@
 #include "NodeListView.h"
 
+#include "exchange/CsvFormula.h"
+
+#include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -35,6 +39,62 @@ void NodeListView::setNodeModel(NodeListModel* model)
     connect(model, &QAbstractItemModel::rowsRemoved, this, [this] { m_restoring = false; });
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& index) { emit nodeActivated(m_model->idAt(index.row())); });
+    addColumnActions();
+}
+
+/// The menu of the header. The name stays: without it nobody knows what a row is.
+void NodeListView::addColumnActions()
+{
+    for (int column = NodeListModel::NameColumn + 1; column < m_model->columnCount(); ++column) {
+        const QString title = m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        QAction* action = new QAction(title, header());
+        action->setObjectName(QStringLiteral("column%1").arg(column));
+        action->setCheckable(true);
+        action->setChecked(true);
+        connect(action, &QAction::toggled, this,
+                [this, column](bool shown) { setColumnHidden(column, !shown); });
+        header()->addAction(action);
+    }
+    header()->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void NodeListView::restoreColumns(const QByteArray& state)
+{
+    header()->restoreState(state);
+    const QList<QAction*> actions = header()->actions();
+    for (int i = 0; i < actions.size(); ++i)
+        actions.at(i)->setChecked(!isColumnHidden(NodeListModel::NameColumn + 1 + i));
+}
+
+void NodeListView::chooseColumns()
+{
+    QMenu::exec(header()->actions(), header()->mapToGlobal(QPoint(0, header()->height())), nullptr, header());
+}
+
+void NodeListView::enter()
+{
+    if (!currentIndex().isValid() && m_model->rowCount() > 0)
+        selectNode(m_model->idAt(0));
+    setFocus(Qt::TabFocusReason);
+}
+
+QString NodeListView::selectedText() const
+{
+    QStringList lines;
+    const QStringList ids = selectedIds();
+    for (const QString& id : ids) {
+        QStringList cells;
+        for (int visual = 0; visual < header()->count(); ++visual) {
+            const int column = header()->logicalIndex(visual);
+            if (isColumnHidden(column))
+                continue;
+            QString text = m_model->index(m_model->rowOf(id), column).data().toString();
+            text.replace(QLatin1Char('\t'), QLatin1Char(' '));
+            cells.append(isCsvFormula(text) ? QLatin1Char('\'') + text : text); // as the export writes it
+        }
+        lines.append(cells.join(QLatin1Char('\t')));
+    }
+    return lines.join(QLatin1Char('\n'));
 }
 
 QStringList NodeListView::selectedIds() const

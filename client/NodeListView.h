@@ -20,7 +20,19 @@ public:
     /// Identifiers of the selected nodes, in the order of the rows.
     QStringList selectedIds() const;
     int selectedCount() const;
+
+    /// The selected rows in their order, the columns that are shown parted by tabs.
+    QString selectedText() const;
     void selectNode(const QString& id);
+
+    /// Brings up the menu of the header, in which columns are shown and hidden.
+    void chooseColumns();
+
+    /// Puts back what QHeaderView::saveState() gave.
+    void restoreColumns(const QByteArray& state);
+
+    /// For the search field: the focus goes to the current row, or to the first one.
+    void enter();
 
     /// Selects those of the nodes that are shown, and no others.
     void selectNodes(const QStringList& ids);
@@ -36,6 +48,7 @@ protected:
     void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
 
 private:
+    void addColumnActions();
     void remember();
     void restore();
     void aboutToSort();

@@ -18,40 +18,22 @@ namespace ko {
 PreferencesDialog::PreferencesDialog(HostNodeDB& db, QWidget* parent)
     : QDialog(parent, dialogFlags(false))
     , m_db(db)
-    , m_path(new QLineEdit(db.globalRecordingFolderPath(), this))
-    , m_preview(new QLineEdit(db.defaultRecordingTransponderIP(), this))
-    , m_bandwidth(new QComboBox(this))
 {
     setObjectName(QStringLiteral("PreferencesDialog"));
     setWindowTitle(tr("Preferences"));
-    m_path->setObjectName(QStringLiteral("pathLineEdit"));
-    m_path->setMinimumWidth(260);
-    m_preview->setObjectName(QStringLiteral("previewLineEdit"));
-    m_bandwidth->setObjectName(QStringLiteral("bandwidthComboBox"));
-    m_bandwidth->setIconSize(QSize(24, 16));
-    const char* const bandwidths[] = {QT_TR_NOOP("Slow Remote (Modem, ISDN, GPRS/2G, EDGE)"),
-                                      QT_TR_NOOP("Fast Remote (DSL, UMTS/3G)"),
-                                      QT_TR_NOOP("Slow Local (WLAN/WiFi, Ethernet)"),
-                                      QT_TR_NOOP("Fast Local (Fast Ethernet, Gigabit Ethernet)")};
-    for (int i = SlowRemote; i <= FastLocal; ++i)
-        m_bandwidth->addItem(QIcon(QLatin1String(ControlDataWidget::bandwidthIcon(ENodeBandwidth(i), false))),
-                             tr(bandwidths[i]));
-    m_bandwidth->setCurrentIndex(db.bandwidth());
-
+    QFormLayout* form = new QFormLayout;
+    QLineEdit* path = pathField();
     QPushButton* browseButton = new QPushButton(tr("&Browse..."), this);
     browseButton->setObjectName(QStringLiteral("browseButton"));
-    connect(browseButton, &QPushButton::clicked, this, &PreferencesDialog::browse);
-    QHBoxLayout* path = new QHBoxLayout;
-    path->addWidget(m_path);
-    path->addWidget(browseButton);
-
-    QFormLayout* form = new QFormLayout;
+    connect(browseButton, &QPushButton::clicked, this, [this, path] { browse(path); });
+    QHBoxLayout* pathRow = new QHBoxLayout;
+    pathRow->addWidget(path);
+    pathRow->addWidget(browseButton);
     QLabel* pathLabel = new QLabel(tr("Default file server &path:"), this);
-    pathLabel->setBuddy(m_path);
-    form->addRow(pathLabel, path);
-    form->addRow(tr("Default remote preview &server:"), m_preview);
-    form->addRow(tr("&Connection:"), m_bandwidth);
-
+    pathLabel->setBuddy(path);
+    form->addRow(pathLabel, pathRow);
+    form->addRow(tr("Default remote preview &server:"), previewField());
+    form->addRow(tr("&Connection:"), bandwidthField());
     QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -59,24 +41,54 @@ PreferencesDialog::PreferencesDialog(HostNodeDB& db, QWidget* parent)
     layout->addLayout(form);
     layout->addStretch();
     layout->addWidget(buttons);
-    setTabOrder(m_path, browseButton);
-    setTabOrder(browseButton, m_preview);
-    setTabOrder(m_preview, m_bandwidth);
+}
+
+QLineEdit* PreferencesDialog::pathField()
+{
+    QLineEdit* path = new QLineEdit(m_db.globalRecordingFolderPath(), this);
+    path->setObjectName(QStringLiteral("pathLineEdit"));
+    path->setMinimumWidth(260);
+    m_writers.push_back([this, path] { m_db.setGlobalRecordingFolderPath(path->text()); });
+    return path;
+}
+
+QWidget* PreferencesDialog::previewField()
+{
+    QLineEdit* server = new QLineEdit(m_db.defaultRecordingTransponderIP(), this);
+    server->setObjectName(QStringLiteral("previewLineEdit"));
+    m_writers.push_back([this, server] { m_db.setDefaultRecordingTransponderIP(server->text()); });
+    return server;
+}
+
+QWidget* PreferencesDialog::bandwidthField()
+{
+    const char* const texts[] = {QT_TR_NOOP("Slow Remote (Modem, ISDN, GPRS/2G, EDGE)"),
+                                 QT_TR_NOOP("Fast Remote (DSL, UMTS/3G)"),
+                                 QT_TR_NOOP("Slow Local (WLAN/WiFi, Ethernet)"),
+                                 QT_TR_NOOP("Fast Local (Fast Ethernet, Gigabit Ethernet)")};
+    QComboBox* bandwidth = new QComboBox(this);
+    bandwidth->setObjectName(QStringLiteral("bandwidthComboBox"));
+    bandwidth->setIconSize(QSize(24, 16));
+    for (int i = SlowRemote; i <= FastLocal; ++i)
+        bandwidth->addItem(QIcon(QLatin1String(ControlDataWidget::bandwidthIcon(ENodeBandwidth(i), false))),
+                           tr(texts[i]));
+    bandwidth->setCurrentIndex(m_db.bandwidth());
+    m_writers.push_back([this, bandwidth] { m_db.setBandwidth(bandwidth->currentIndex()); });
+    return bandwidth;
 }
 
 void PreferencesDialog::accept()
 {
-    m_db.setGlobalRecordingFolderPath(m_path->text());
-    m_db.setDefaultRecordingTransponderIP(m_preview->text());
-    m_db.setBandwidth(m_bandwidth->currentIndex());
+    for (const auto& write : m_writers)
+        write();
     QDialog::accept();
 }
 
-void PreferencesDialog::browse()
+void PreferencesDialog::browse(QLineEdit* path)
 {
-    const QString folder = FileDialogs::existingFolder(this, tr("Default File Server Path"), m_path->text());
+    const QString folder = FileDialogs::existingFolder(this, tr("Default File Server Path"), path->text());
     if (!folder.isEmpty())
-        m_path->setText(folder);
+        path->setText(folder);
 }
 
 } // namespace ko

@@ -3,8 +3,11 @@
 
 #include <QDialog>
 
-class QComboBox;
+#include <functional>
+#include <vector>
+
 class QLineEdit;
+class QWidget;
 
 namespace ko {
 
@@ -21,12 +24,13 @@ public:
     void accept() override;
 
 private:
-    void browse();
+    QLineEdit* pathField();
+    QWidget* previewField();
+    QWidget* bandwidthField();
+    void browse(QLineEdit* path);
 
     HostNodeDB& m_db;
-    QLineEdit* const m_path;
-    QLineEdit* const m_preview;
-    QComboBox* const m_bandwidth;
+    std::vector<std::function<void()>> m_writers; ///< one of each field
 };
 
 } // namespace ko

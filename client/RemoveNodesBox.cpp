@@ -26,7 +26,7 @@ bool confirmRemoval(const QStringList& names, QWidget* parent)
     PlainMessageBox box(QMessageBox::Warning, translated("Remove Nodes"),
                         question + QStringLiteral("\n\n") + listOfNames(names), QMessageBox::Cancel, parent);
     box.setObjectName(QStringLiteral("removeNodesBox"));
-    QPushButton* remove = box.addButton(translated("Remove"), QMessageBox::DestructiveRole);
+    QPushButton* remove = box.addButton(translated("&Remove"), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.setEscapeButton(QMessageBox::Cancel);
     box.exec();

@@ -23,7 +23,8 @@ public:
     explicit SurveyCommands(QMainWindow* window);
 
     void importCameras();
-    void exportCameras();
+    /// All, or those of \a only if it names any nodes.
+    void exportCameras(const QStringList& only = QStringList());
 
     /// For a window that is closed all the same, as at the end of a session: cancels the work, if there is
     /// any, and closes the window when it has ended. False if nothing is under way.

@@ -1,4 +1,4 @@
-#include "CommandLine.h"
+#include "Application.h"
 
 #include <cstdio>
 
@@ -25,5 +25,5 @@ void forbidCoreDumps()
 int main(int argc, char** argv)
 {
     forbidCoreDumps();
-    return ko::CommandLine(argc, argv).run();
+    return ko::Application(argc, argv).run();
 }

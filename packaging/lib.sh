@@ -71,14 +71,16 @@ ko_install()
 # that all of them are seen.
 ko_build()
 {
-    local preset=$1 target=${2:-all} version
+    local preset=$1 version
+    shift
+    [[ $# -gt 0 ]] || set -- all
     read -r _ _ version < <(cmake --version)
     [[ $(printf '%s\n' 3.25 "$version" | sort -V | head -n 1) == 3.25 ]] ||
         ko_die "cmake is $version ($(command -v cmake)); it takes 3.25 or newer, as in Debian 12"
     if command -v ccache >/dev/null; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache
     fi
-    ko_say "building $target in build/$preset"
+    ko_say "building $* in build/$preset"
     (cd "$ko_root" && cmake --preset "$preset" --log-level=WARNING &&
-        cmake --build --preset "$preset" --target "$target" -- -k 0)
+        cmake --build --preset "$preset" --target "$@" -- -k 0)
 }

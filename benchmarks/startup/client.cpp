@@ -1,6 +1,6 @@
 #include "FirstPicture.h"
 
-#include "CommandLine.h"
+#include "Application.h"
 
 // Before the program's own code runs, which makes the application by itself.
 using bench::endAtFirstPicture;
@@ -8,5 +8,5 @@ Q_COREAPP_STARTUP_FUNCTION(endAtFirstPicture)
 
 int main(int argc, char** argv)
 {
-    return ko::CommandLine(argc, argv).run();
+    return ko::Application(argc, argv).run();
 }

@@ -1,13 +1,16 @@
 #include "drivers/PageStack.h"
 
+#include "drivers/AddressGuard.h"
 #include "drivers/GeneralPage.h"
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QShortcut>
 #include <QSpinBox>
 #include <QTabBar>
@@ -34,7 +37,8 @@ int indent(const QLabel* caption)
 
 PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
     : QWidget(parent)
-    , m_goneLabel(new QLabel(tr("This node has been removed meanwhile. Changes cannot be stored."), this))
+    , m_goneLabel(new QLabel(
+          tr("This node has been removed meanwhile. Changes cannot be stored: close this window."), this))
 {
     QTabWidget* tabs = new QTabWidget(this);
     tabs->setObjectName(QLatin1String("tabWidget"));
@@ -121,6 +125,7 @@ void PageStack::init(const NodeID& id, bool readOnly)
     if (readOnly)
         forEach([](InspectorPage& page) { page.setReadOnly(true); });
     connectConnectionPage(false);
+    guardAddress();
     capture();
     ko::connect(NodeDB::getDB(), SIGNAL(nodeRemoved(ko::NodeID)), this, SLOT(nodeRemoved(ko::NodeID)));
 }
@@ -129,6 +134,7 @@ void PageStack::init(const NodeHint& hint)
 {
     forEach([&hint](InspectorPage& page) { page.init(&hint); });
     connectConnectionPage(true);
+    guardAddress();
 }
 
 void PageStack::accept(Node* node)
@@ -179,6 +185,35 @@ void PageStack::connectConnectionPage(bool proposeNames)
     if (proposeNames)
         ko::connect(connection, SIGNAL(nameProposal(QString)), findChild<GeneralPage*>(),
                     SLOT(proposeName(QString)));
+}
+
+/// After init(), for an address that is stored already stays as it is.
+void PageStack::guardAddress()
+{
+    static const struct // by the names of their fields; a form made from a table names them by their keys
+    {
+        const char* address;
+        const char* port;
+        const char* ssl;
+        const char* user;
+        const char* password;
+    } forms[] = {
+        {"addressLineEdit", "portSpinBox", "sslCheckBox", "usernameLineEdit", "passwordLineEdit"},
+        {"RecordingTransponderIP", "RecordingTransponderPort", "RecordingTransponderSSL",
+         "RecordingTransponderUser", "RecordingTransponderPassword"},
+    };
+    for (const auto& form : forms) {
+        const AddressGuard::Fields fields = {findChild<QLineEdit*>(QLatin1String(form.address)),
+                                             findChild<QSpinBox*>(QLatin1String(form.port)),
+                                             findChild<QAbstractButton*>(QLatin1String(form.ssl)),
+                                             findChild<QLineEdit*>(QLatin1String(form.user)),
+                                             findChild<QLineEdit*>(QLatin1String(form.password))};
+        if (!fields.address)
+            continue;
+        QWidget* page = fields.address->parentWidget();
+        auto* tab = static_cast<QVBoxLayout*>(page->parentWidget()->layout());
+        tab->insertWidget(tab->indexOf(page), new AddressGuard(fields, page->parentWidget()));
+    }
 }
 
 void PageStack::sslChanged(int state)

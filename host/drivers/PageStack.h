@@ -55,6 +55,7 @@ private:
             each(*page.page);
     }
     void connectConnectionPage(bool proposeNames);
+    void guardAddress();
     void capture();
     void addPageKeys(QTabWidget* tabs);
 

@@ -79,14 +79,14 @@ QString nameOf(const IPDeviceNode& device)
     return device.name().trimmed().isEmpty() ? device.address() : device.name();
 }
 
-/// Writes all devices; false on an error and when cancelled.
-bool writeDevices(QIODevice* file, Passwords passwords, const Progress& progress, ExportResult* result)
+/// Writes the devices among the nodes; false on an error and when cancelled.
+bool writeDevices(QIODevice* file, const QStringList& ids, Passwords passwords, const Progress& progress,
+                  ExportResult* result)
 {
     CsvWriter writer(file);
     ProgressReport report(progress);
     Sample unread;
     bool good = writer.writeRecord(titles());
-    const QStringList ids = NodeDB::getDB()->nodeIdList(AllNodeTypes);
     for (int i = 0; i < ids.size() && good; ++i) {
         if (!report.goOn(i, ids.size())) {
             result->cancelled = true;
@@ -120,7 +120,8 @@ ImportResult importCameras(const QString& fileName, const Progress& progress)
     return SurveyImport(fileName, progress).run();
 }
 
-ExportResult exportCameras(const QString& fileName, Passwords passwords, const Progress& progress)
+ExportResult exportCameras(const QString& fileName, Passwords passwords, const Progress& progress,
+                           const QStringList& only)
 {
     ExportResult result;
     if (!NodeDB::getDB()) {
@@ -133,8 +134,9 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
     if (passwords == Passwords::Write)
         Secrets::prepareAgain();
     ExportFile file(fileName);
+    const QStringList ids = only.isEmpty() ? NodeDB::getDB()->nodeIdList(AllNodeTypes) : only;
     const bool written =
-        file.open() && writeDevices(file.device(), passwords, progress, &result) && file.commit();
+        file.open() && writeDevices(file.device(), ids, passwords, progress, &result) && file.commit();
     if (!written && !result.cancelled && result.error.isEmpty())
         result.error = file.whyNot();
     return result;

@@ -66,10 +66,12 @@ KO_HOST_EXPORT ImportResult check(const QString& fileName);
 /// A list with passwords is refused as a whole when they cannot be stored.
 KO_HOST_EXPORT ImportResult importCameras(const QString& fileName, const Progress& progress = Progress());
 
-/// Writes all devices, readable by the user alone. A file of this name is replaced when all is written,
-/// and stays as it is on an error and when cancelled. With passwords, one that cannot be read is an error.
+/// Writes all devices, or those of \a only if it names any nodes, readable by the user alone. A file of this
+/// name is replaced when all is written, and stays as it is on an error and when cancelled. With passwords,
+/// one that cannot be read is an error.
 KO_HOST_EXPORT ExportResult exportCameras(const QString& fileName, Passwords passwords,
-                                          const Progress& progress = Progress());
+                                          const Progress& progress = Progress(),
+                                          const QStringList& only = QStringList());
 
 } // namespace CameraSurvey
 

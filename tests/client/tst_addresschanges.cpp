@@ -39,10 +39,11 @@ class AddressChangesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { begin({"<b>Gate</b> 0", "<b>Gate</b> 1", "<b>Gate</b> 2"}); }
     void cleanup() { m_host.reset(); }
 
     void nothingIsSelectedAtFirst();
+    void namesAreInNaturalOrder();
     void selectedIsAccepted();
     void allAreAccepted();
     void selectedIsDismissed();
@@ -50,6 +51,7 @@ private slots:
     void scannersAreShown();
 
 private:
+    void begin(const QStringList& names);
     void select(QWidget* dialog, int row)
     {
         child<QTableWidget>(dialog, "changesTableWidget")->selectRow(row);
@@ -65,20 +67,19 @@ private:
     QStringList m_ids;
 };
 
-void AddressChangesTest::init()
+void AddressChangesTest::begin(const QStringList& names)
 {
     m_host = std::make_unique<testsupport::HostFixture>();
     m_ids.clear();
     QVector<DiscoveredDevice> moved;
     for (int i = 0; i < 3; ++i) {
         const QString mac = QStringLiteral("00:11:22:33:44:0%1").arg(i);
-        const QString name = QStringLiteral("<b>Gate</b> %1").arg(i);
-        m_ids.append(m_host->add(IPDeviceType, name, QStringLiteral("10.0.0.%1").arg(i + 1)));
+        m_ids.append(m_host->add(IPDeviceType, names.at(i), QStringLiteral("10.0.0.%1").arg(i + 1)));
         m_host->change(m_ids.constLast(), [&mac](Node* node) {
             dynamic_cast<IPDeviceNode*>(node)->setMacAddress(MACAddress(mac));
         });
         DiscoveredDevice device;
-        device.name = name;
+        device.name = names.at(i);
         device.address = QStringLiteral("10.0.9.%1").arg(i + 1);
         device.macAddress = mac;
         moved.append(device);
@@ -97,6 +98,22 @@ void AddressChangesTest::nothingIsSelectedAtFirst()
     QVERIFY(!child<QPushButton>(&dialog, "acceptButton")->isEnabled());
     QVERIFY(!child<QPushButton>(&dialog, "dismissButton")->isEnabled());
     QVERIFY(child<QPushButton>(&dialog, "acceptAllButton")->isEnabled());
+}
+
+void AddressChangesTest::namesAreInNaturalOrder()
+{
+    begin({"Gate 10", "gate 2", "Gate 1"});
+    AddressChangesDialog dialog(db().deviceIntake());
+    dialog.show();
+    const auto* table = child<QTableWidget>(&dialog, "changesTableWidget");
+    QStringList shown;
+    for (int row = 0; row < table->rowCount(); ++row)
+        shown.append(table->item(row, 0)->text());
+    QCOMPARE(shown, QStringList({"Gate 1", "gate 2", "Gate 10"}));
+    select(&dialog, 2);
+    press(&dialog, "acceptButton"); // the row that is seen is the one that is meant
+    QCOMPARE(address(0), QStringLiteral("10.0.9.1"));
+    QCOMPARE(address(1), QStringLiteral("10.0.0.2"));
 }
 
 void AddressChangesTest::selectedIsAccepted()

@@ -3,7 +3,7 @@
 #include "support/PlainTexts.h"
 #include "support/TestMain.h"
 
-#include "CommandLine.h"
+#include "Application.h"
 #include "DatabaseRecovery.h"
 #include "store/StoreBackup.h"
 
@@ -395,7 +395,7 @@ int main(int argc, char** argv)
         for (int i = 1; i < argc; ++i)
             argv[i] = argv[i + 1]; // the program never sees it
         --argc;
-        return CommandLine(argc, argv).run();
+        return Application(argc, argv).run();
     }
     QApplication app(argc, argv);
     testsupport::prepareApplication();

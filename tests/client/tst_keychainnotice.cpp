@@ -90,7 +90,7 @@ void tst_KeychainNotice::windowWaitsAsLongAsTheUser()
             return;
         const QList<QAbstractButton*> buttons = box->buttons();
         for (QAbstractButton* each : buttons) {
-            if (each->text() == button)
+            if (each->text().remove(QLatin1Char('&')) == button)
                 QTest::mouseClick(each, Qt::LeftButton);
         }
     });
@@ -133,7 +133,7 @@ void tst_KeychainNotice::retryLooksForTheKey()
     QVERIFY(obstacle.remove());
     const QList<QAbstractButton*> buttons = box()->buttons();
     for (QAbstractButton* button : buttons) {
-        if (button->text() == QStringLiteral("Retry"))
+        if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Retry"))
             QTest::mouseClick(button, Qt::LeftButton);
     }
     QTRY_VERIFY(!host.db()->hasUnstoredChanges());

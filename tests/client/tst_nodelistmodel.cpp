@@ -137,6 +137,14 @@ void tst_NodeListModel::searchFindsWordsInAnyColumn_data()
     QTest::newRow("recording") << "via" << all;
     QTest::newRow("no match") << "gate dock" << QStringList();
     QTest::newRow("not across columns") << "1ip" << QStringList();
+    QTest::newRow("field") << "name:2" << QStringList({"Gate 2"});
+    QTest::newRow("word of another field") << "name:10.0" << QStringList();
+    QTest::newRow("last field") << "RECORDING:camera" << all;
+    QTest::newRow("no field") << "gate:2" << QStringList();
+    QTest::newRow("field without a word") << "gate address:" << QStringList({"Gate 1", "Gate 2"});
+    QTest::newRow("without") << "-gate" << QStringList({"Dock"});
+    QTest::newRow("field without") << "camera -address:0.9" << QStringList({"Gate 1", "Gate 2"});
+    QTest::newRow("dash alone") << "gate -" << QStringList({"Gate 1", "Gate 2"});
 }
 
 void tst_NodeListModel::searchFindsWordsInAnyColumn()
@@ -402,9 +410,10 @@ void tst_NodeListModel::everyColumnInEitherOrderAgainstTruth()
         return qMakePair(SearchText::sortKey(cells[column]), SearchText::sortKey(node.name));
     };
     QVector<NodeSummary> truth = nodes;
-    std::stable_sort(truth.begin(), truth.end(), [&](const NodeSummary& a, const NodeSummary& b) {
-        return order == Qt::AscendingOrder ? key(a) < key(b) : key(b) < key(a);
-    });
+    std::stable_sort(truth.begin(), truth.end(),
+                     [&](const NodeSummary& a, const NodeSummary& b) { return key(a) < key(b); });
+    if (order == Qt::DescendingOrder)
+        std::reverse(truth.begin(), truth.end());
     for (int row = 0; row < truth.size(); ++row)
         QCOMPARE(model.idAt(row), truth.at(row).id);
 }

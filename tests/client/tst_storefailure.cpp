@@ -139,7 +139,7 @@ void tst_StoreFailure::retryStoresAll()
     m_other->run("ROLLBACK");
     const QList<QAbstractButton*> buttons = failureBox()->buttons();
     for (QAbstractButton* button : buttons) {
-        if (button->text() == QStringLiteral("Retry"))
+        if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Retry"))
             QTest::mouseClick(button, Qt::LeftButton);
     }
     QTRY_VERIFY(!m_host->db()->hasUnstoredChanges());
@@ -154,7 +154,7 @@ void tst_StoreFailure::discardLeavesAllAsTheyWere()
     m_other->run("ROLLBACK");
     const QList<QAbstractButton*> buttons = failureBox()->buttons();
     for (QAbstractButton* button : buttons) {
-        if (button->text() == QStringLiteral("Discard Changes"))
+        if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Discard Changes"))
             QTest::mouseClick(button, Qt::LeftButton);
     }
     QVERIFY(!m_host->db()->hasUnstoredChanges());
@@ -224,7 +224,7 @@ void tst_StoreFailure::importTellsWhatIsStored()
     m_other->run("ROLLBACK");
     const QList<QAbstractButton*> buttons = failureBox()->buttons();
     for (QAbstractButton* button : buttons) {
-        if (button->text() == QStringLiteral("Retry"))
+        if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Retry"))
             QTest::mouseClick(button, Qt::LeftButton);
     }
     QTRY_VERIFY(!m_host->db()->hasUnstoredChanges());

@@ -3,12 +3,14 @@
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
+#include "NodeListView.h"
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QStatusBar>
 #include <QWindow>
 
 using namespace ko;
@@ -28,6 +30,8 @@ private slots:
     void cancelledImportIsReported();
     void closedDuringImport();
     void closedDuringExport();
+    void selectionIsExported();
+    void selectionWithoutCameras();
 
 private:
     static constexpr int Lines = 3000;
@@ -146,6 +150,33 @@ void tst_SurveyCommands::closedDuringExport()
     QVERIFY(stayed);
     QVERIFY(!m_window->isVisible());
     QVERIFY(!QFile::exists(list));
+}
+
+void tst_SurveyCommands::selectionIsExported()
+{
+    const QStringList ids = {m_host->add(IPDeviceType, "Gate", "10.0.0.1"),
+                             m_host->add(IPDeviceType, "Yard", "10.0.0.2"),
+                             m_host->add(IPDeviceType, "Dock", "10.0.0.3"), m_host->add(ViewType, "View")};
+    m_window->applyChanges();
+    m_window->list().selectNodes({ids.at(0), ids.at(2), ids.at(3)});
+    const QString list = m_folder.filePath(QStringLiteral("selected.csv"));
+    during("actionExportSelected", list, [](QProgressDialog*) {});
+    QFile file(list);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray written = file.readAll();
+    QVERIFY2(written.contains("Gate") && written.contains("Dock"), written.constData());
+    QVERIFY2(!written.contains("Yard") && !written.contains("View"), written.constData());
+}
+
+void tst_SurveyCommands::selectionWithoutCameras()
+{
+    const QString id = m_host->add(ViewType, "View");
+    m_host->add(IPDeviceType, "Gate", "10.0.0.1");
+    m_window->applyChanges();
+    m_window->list().selectNode(id);
+    child<QAction>(m_window.get(), "actionExportSelected")
+        ->trigger(); // asks for no file: that would be all cameras
+    QVERIFY(m_window->statusBar()->currentMessage().contains("No camera is selected"));
 }
 
 KO_TEST_MAIN(tst_SurveyCommands)

@@ -2,7 +2,7 @@
 #include "support/HostFixture.h"
 #include "support/TestMain.h"
 
-#include "CommandLine.h"
+#include "Application.h"
 #include "audit/AuditLog.h"
 
 #include <QDir>
@@ -86,7 +86,7 @@ struct Call
 } // namespace
 
 /// The program as scripts and administrators call it, in a process of its own, without a window.
-class tst_CommandLine : public QObject
+class tst_Application : public QObject
 {
     Q_OBJECT
 
@@ -143,14 +143,14 @@ private:
     QString m_database;
 };
 
-void tst_CommandLine::init()
+void tst_Application::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_database = m_folder->filePath("nodes.kodb");
 }
 
 /// With \a kilobytes no file can become larger than that.
-Call tst_CommandLine::call(const QStringList& arguments, int kilobytes)
+Call tst_Application::call(const QStringList& arguments, int kilobytes)
 {
     const QString limit = QString("ulimit -f %1; trap '' XFSZ; exec \"$0\" \"$@\"").arg(2 * kilobytes);
     const QStringList command =
@@ -159,7 +159,7 @@ Call tst_CommandLine::call(const QStringList& arguments, int kilobytes)
                          : run(command.at(0), command.mid(1));
 }
 
-Call tst_CommandLine::run(const QString& program, const QStringList& arguments)
+Call tst_Application::run(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     process.start(program, arguments);
@@ -172,14 +172,14 @@ Call tst_CommandLine::run(const QString& program, const QStringList& arguments)
     return result;
 }
 
-int tst_CommandLine::devices()
+int tst_Application::devices()
 {
     StoreError error;
     const std::unique_ptr<HostNodeDB> db = HostNodeDB::open(m_database, &error);
     return db ? int(db->summaries().size()) : -1;
 }
 
-QString tst_CommandLine::write(const char* name, const QByteArray& content)
+QString tst_Application::write(const char* name, const QByteArray& content)
 {
     QFile file(m_folder->filePath(QLatin1String(name)));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
@@ -187,20 +187,20 @@ QString tst_CommandLine::write(const char* name, const QByteArray& content)
     return file.fileName();
 }
 
-QByteArray tst_CommandLine::contentOf(const QString& file)
+QByteArray tst_Application::contentOf(const QString& file)
 {
     QFile reader(file);
     return reader.open(QIODevice::ReadOnly) ? reader.readAll() : QByteArray();
 }
 
-void tst_CommandLine::help_data()
+void tst_Application::help_data()
 {
     QTest::addColumn<QString>("option");
     for (const char* option : {"--help", "--help-all", "-h"})
         QTest::newRow(option) << option;
 }
 
-void tst_CommandLine::help()
+void tst_Application::help()
 {
     QFETCH(QString, option);
     const Call result = onDatabase({option});
@@ -211,36 +211,34 @@ void tst_CommandLine::help()
     QVERIFY(!QFile::exists(m_database));
 }
 
-void tst_CommandLine::version()
+void tst_Application::version()
 {
     const Call result = call({"--version"});
     QCOMPARE(result.exitCode, 0);
     QVERIFY(result.said.startsWith("koclient "));
 }
 
-void tst_CommandLine::wrongUsage_data()
+void tst_Application::wrongUsage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("unknown option") << QStringList("--unknown");
     QTest::newRow("no value") << QStringList("--import");
     QTest::newRow("no option") << QStringList("file.csv");
-    for (const char* option :
-         {"--db", "--import", "--export", "--backup", "--restore", "--tour", "--tour-survey", "--tour-scans"})
+    for (const char* option : {"--db", "--import", "--export", "--backup", "--restore"})
         QTest::newRow(qPrintable(QString("nothing after %1").arg(option))) << QStringList({option, ""});
     QTest::newRow("nothing after the sign") << QStringList("--export=");
-    QTest::newRow("no number") << QStringList({"--tour-scans", "many"});
 }
 
-void tst_CommandLine::wrongUsage()
+void tst_Application::wrongUsage()
 {
     QFETCH(QStringList, arguments);
     const Call result = onDatabase(arguments);
-    QCOMPARE(result.exitCode, int(CommandLine::WrongUsage));
+    QCOMPARE(result.exitCode, int(Application::WrongUsage));
     QVERIFY(!result.complained.isEmpty());
     QVERIFY(!QFile::exists(m_database));
 }
 
-void tst_CommandLine::toolkitOptionsWithAWindow_data()
+void tst_Application::toolkitOptionsWithAWindow_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("heard");
@@ -251,26 +249,37 @@ void tst_CommandLine::toolkitOptionsWithAWindow_data()
     QTest::newRow("platform") << QStringList({"-platform", "minimal"}) << QString();
 }
 
-void tst_CommandLine::toolkitOptionsWithAWindow()
+void tst_Application::toolkitOptionsWithAWindow()
 {
     QFETCH(QStringList, options);
     QFETCH(QString, heard);
-    m_database = write("no.kodb", QByteArray(1000, 'x')); // so that the window does not stay
-    const Call result = onDatabase(QStringList({"--tour", m_folder->filePath("tour")}) + options);
-    QCOMPARE(result.exitCode, int(CommandLine::NoDatabase));
-    QVERIFY2(result.complained.contains(heard), qPrintable(result.complained));
+    m_database = write("no.kodb", QByteArray(1000, 'x')); // which it says before it asks what to do
+    QProcess client;
+    client.start(QCoreApplication::applicationFilePath(),
+                 QStringList({clientArgument, "--db", m_database}) + options);
+    QString complained;
+    const bool isHeard = QTest::qWaitFor(
+        [&] {
+            complained += QString::fromLocal8Bit(client.readAllStandardError());
+            return complained.contains("no.kodb") && complained.contains(heard);
+        },
+        20000);
+    QVERIFY2(isHeard, qPrintable(complained));
+    QCOMPARE(client.state(), QProcess::Running);
+    client.kill();
+    QVERIFY(client.waitForFinished());
 }
 
-void tst_CommandLine::toolkitOptionsWithoutAWindow()
+void tst_Application::toolkitOptionsWithoutAWindow()
 {
     const QString list = write("in.csv", "name,address\nGate,10.0.0.1\n");
     const Call result = onDatabase({"--import", list, "-platform", "xcb"});
-    QCOMPARE(result.exitCode, int(CommandLine::WrongUsage));
+    QCOMPARE(result.exitCode, int(Application::WrongUsage));
     QVERIFY2(result.complained.contains("-platform"), qPrintable(result.complained));
     QVERIFY(!QFile::exists(m_database));
 }
 
-void tst_CommandLine::importAndExport()
+void tst_Application::importAndExport()
 {
     const QString survey = QStringLiteral(KO_SOURCE_DIR "/examples/survey.csv");
     const Call imported = onDatabase({"--import", survey});
@@ -286,7 +295,7 @@ void tst_CommandLine::importAndExport()
     QCOMPARE(contentOf(again), contentOf(list));
 }
 
-void tst_CommandLine::importTwiceAddsNothing()
+void tst_Application::importTwiceAddsNothing()
 {
     const QString list = write("in.csv", "name,address\nGate,10.0.0.1\nYard,10.0.0.2\n");
     QVERIFY(onDatabase({"--import", list}).said.contains("2 added"));
@@ -295,25 +304,25 @@ void tst_CommandLine::importTwiceAddsNothing()
     QVERIFY2(again.said.contains("0 added, 0 updated, 2 unchanged"), qPrintable(again.said));
 }
 
-void tst_CommandLine::badLinesAreNamed()
+void tst_Application::badLinesAreNamed()
 {
     const QString list =
         write("in.csv", "name,address,port\nGate,10.0.0.1,80\nYard,10.0.0.2,many\nDock,10.0.0.3,80\n");
     const Call result = onDatabase({"--import", list});
-    QCOMPARE(result.exitCode, int(CommandLine::SomeLinesBad));
+    QCOMPARE(result.exitCode, int(Application::SomeLinesBad));
     QVERIFY2(result.complained.contains("line 3:"), qPrintable(result.complained));
     QVERIFY(!result.complained.contains("many")); // it could be a password in the wrong column
     QVERIFY(result.said.contains("2 added"));
     QVERIFY(result.said.contains("1 lines with errors"));
 }
 
-void tst_CommandLine::foreignTextsDoNotSteerTheTerminal()
+void tst_Application::foreignTextsDoNotSteerTheTerminal()
 {
     const QString list = write("in\x1b[2J.csv", "name,address,\x1b]0;owned\x07,a\xe2\x80\xae"
                                                 "b,port\n"
                                                 "Gate,10.0.0.1,,,x\n");
     const Call result = onDatabase({"--import", list});
-    QCOMPARE(result.exitCode, int(CommandLine::SomeLinesBad));
+    QCOMPARE(result.exitCode, int(Application::SomeLinesBad));
     QVERIFY2(result.complained.contains("\"\\x1b]0;owned\\x07\""), qPrintable(result.complained));
     QVERIFY(result.complained.contains("\"a\\u202eb\""));
     QVERIFY(result.complained.contains("in\\x1b[2J.csv, line 2"));
@@ -326,7 +335,7 @@ void tst_CommandLine::foreignTextsDoNotSteerTheTerminal()
     }
 }
 
-void tst_CommandLine::importOnAFullDisk_data()
+void tst_Application::importOnAFullDisk_data()
 {
     QTest::addColumn<int>("kilobytes");
     QTest::addColumn<bool>("storesSome");
@@ -335,7 +344,7 @@ void tst_CommandLine::importOnAFullDisk_data()
 }
 
 /// A limit to the size of files is to the database what a full disk is; the journal reaches it first.
-void tst_CommandLine::importOnAFullDisk()
+void tst_Application::importOnAFullDisk()
 {
     QFETCH(int, kilobytes);
     QFETCH(bool, storesSome);
@@ -356,7 +365,7 @@ void tst_CommandLine::importOnAFullDisk()
     QVERIFY2(result.said.startsWith(QString("%1 added, 0 updated, 0 unchanged").arg(stored)),
              qPrintable(result.said));
     QVERIFY2(result.complained.contains("The import has stopped"), qPrintable(result.complained));
-    QCOMPARE(result.exitCode, int(storesSome ? CommandLine::SomeLinesBad : CommandLine::Failed));
+    QCOMPARE(result.exitCode, int(storesSome ? Application::SomeLinesBad : Application::Failed));
 
     const Call again = onDatabase({"--import", list});
     QVERIFY2(
@@ -364,7 +373,7 @@ void tst_CommandLine::importOnAFullDisk()
         qPrintable(again.said));
 }
 
-void tst_CommandLine::namesThatAreNoText_data()
+void tst_Application::namesThatAreNoText_data()
 {
     QTest::addColumn<QString>("option");
     for (const char* option :
@@ -373,7 +382,7 @@ void tst_CommandLine::namesThatAreNoText_data()
 }
 
 /// The toolkit's own decoding gives the name of another file.
-void tst_CommandLine::namesThatAreNoText()
+void tst_Application::namesThatAreNoText()
 {
     QFETCH(QString, option);
     QCOMPARE(onDatabase({"--import", write("first.csv", "name,address\nGate,10.0.0.1\n")}).exitCode, 0);
@@ -397,12 +406,12 @@ void tst_CommandLine::namesThatAreNoText()
         QVERIFY(db->auditLog().entries(0, 1, true).front().entry->text().contains("from in\\xff.csv:"));
     } else {
         QVERIFY2(result.complained.contains("in\\xff.csv\" cannot be used"), qPrintable(result.complained));
-        QCOMPARE(result.exitCode, int(CommandLine::Failed));
+        QCOMPARE(result.exitCode, int(Application::Failed));
         QCOMPARE(devices(), 1);
     }
 }
 
-void tst_CommandLine::badLists_data()
+void tst_Application::badLists_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
@@ -411,33 +420,33 @@ void tst_CommandLine::badLists_data()
     QTest::newRow("huge line") << QByteArray("name,address\n") + QByteArray(3000000, 'x');
 }
 
-void tst_CommandLine::badLists()
+void tst_Application::badLists()
 {
     QFETCH(QByteArray, content);
     const Call result = onDatabase({"--import", write("in.csv", content)});
-    QCOMPARE(result.exitCode, int(CommandLine::Failed));
+    QCOMPARE(result.exitCode, int(Application::Failed));
     QVERIFY(!result.complained.isEmpty());
     QVERIFY(result.said.contains("0 added"));
 }
 
-void tst_CommandLine::refusedListMakesNoDatabase_data()
+void tst_Application::refusedListMakesNoDatabase_data()
 {
     badLists_data();
     QTest::newRow("missing") << QByteArray("-");
 }
 
-void tst_CommandLine::refusedListMakesNoDatabase()
+void tst_Application::refusedListMakesNoDatabase()
 {
     QFETCH(QByteArray, content);
     const QString list = content == "-" ? m_folder->filePath("missing.csv") : write("in.csv", content);
     const QStringList before = QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
     const Call result = onDatabase({"--import", list});
-    QCOMPARE(result.exitCode, int(CommandLine::Failed));
+    QCOMPARE(result.exitCode, int(Application::Failed));
     QVERIFY(result.said.contains("0 added"));
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
 }
 
-void tst_CommandLine::exportWithoutPasswords()
+void tst_Application::exportWithoutPasswords()
 {
     const QByteArray secret = "s3cret-of-the-gate";
     onDatabase(
@@ -451,7 +460,7 @@ void tst_CommandLine::exportWithoutPasswords()
     QVERIFY(contentOf(without).contains("admin"));
 }
 
-void tst_CommandLine::exportIsItsOwnersAlone()
+void tst_Application::exportIsItsOwnersAlone()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const QString list = m_folder->filePath("out.csv");
@@ -466,15 +475,15 @@ void tst_CommandLine::exportIsItsOwnersAlone()
     }
 }
 
-void tst_CommandLine::exportIntoAMissingFolder()
+void tst_Application::exportIntoAMissingFolder()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const Call result = onDatabase({"--export", m_folder->filePath("missing/out.csv")});
-    QCOMPARE(result.exitCode, int(CommandLine::Failed));
+    QCOMPARE(result.exitCode, int(Application::Failed));
     QVERIFY(!result.complained.isEmpty());
 }
 
-void tst_CommandLine::badDatabases_data()
+void tst_Application::badDatabases_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("text") << QByteArray("name,address\n");
@@ -482,18 +491,18 @@ void tst_CommandLine::badDatabases_data()
     QTest::newRow("another program's") << QByteArray("SQLite format 3\0", 16) + QByteArray(4080, '\0');
 }
 
-void tst_CommandLine::badDatabases()
+void tst_Application::badDatabases()
 {
     QFETCH(QByteArray, content);
     m_database = write("nodes.kodb", content);
     const Call result = onDatabase({"--export", m_folder->filePath("out.csv")});
-    QCOMPARE(result.exitCode, int(CommandLine::NoDatabase));
+    QCOMPARE(result.exitCode, int(Application::NoDatabase));
     QVERIFY(result.complained.contains(m_database));
     QCOMPARE(contentOf(m_database), content);
     QVERIFY(!QFile::exists(m_folder->filePath("out.csv")));
 }
 
-void tst_CommandLine::lockedDatabase()
+void tst_Application::lockedDatabase()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     {
@@ -502,7 +511,7 @@ void tst_CommandLine::lockedDatabase()
         QVERIFY(other.open());
         QVERIFY(QSqlQuery(other).exec("BEGIN IMMEDIATE"));
         const Call result = onDatabase({"--import", write("more.csv", "name,address\nYard,10.0.0.2\n")});
-        QCOMPARE(result.exitCode, int(CommandLine::NoDatabase));
+        QCOMPARE(result.exitCode, int(Application::NoDatabase));
         QVERIFY2(result.complained.contains("held by another program"), qPrintable(result.complained));
         other.close();
     }
@@ -511,7 +520,7 @@ void tst_CommandLine::lockedDatabase()
 }
 
 /// The damaged page is one that the list of the window does not need.
-void tst_CommandLine::damageFoundWithTheWindowOpen()
+void tst_Application::damageFoundWithTheWindowOpen()
 {
     QCOMPARE(onDatabase({"--import", QStringLiteral(KO_SOURCE_DIR "/examples/survey.csv")}).exitCode, 0);
     const QByteArray sound = contentOf(m_database);
@@ -538,7 +547,7 @@ void tst_CommandLine::damageFoundWithTheWindowOpen()
     QCOMPARE(contentOf(m_database).size(), sound.size());
 }
 
-void tst_CommandLine::noCoreDump()
+void tst_Application::noCoreDump()
 {
     bool dumped = false;
     {
@@ -559,7 +568,7 @@ void tst_CommandLine::noCoreDump()
     QVERIFY(!dumped);
 }
 
-void tst_CommandLine::backupAndRestore()
+void tst_Application::backupAndRestore()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const QString backup = m_folder->filePath("backup.kodb");
@@ -571,7 +580,7 @@ void tst_CommandLine::backupAndRestore()
 }
 
 /// Each is done, in this order, and none in silence not.
-void tst_CommandLine::severalTasks()
+void tst_Application::severalTasks()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const QString backup = m_folder->filePath("backup.kodb");
@@ -585,15 +594,15 @@ void tst_CommandLine::severalTasks()
     QCOMPARE(devices(), 1);
 }
 
-void tst_CommandLine::failedBackupEndsIt()
+void tst_Application::failedBackupEndsIt()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const QString more = write("more.csv", "name,address\nYard,10.0.0.2\n");
-    QCOMPARE(onDatabase({"--backup", m_database, "--import", more}).exitCode, int(CommandLine::Failed));
+    QCOMPARE(onDatabase({"--backup", m_database, "--import", more}).exitCode, int(Application::Failed));
     QCOMPARE(devices(), 1);
 }
 
-void tst_CommandLine::exportToStandardOutput()
+void tst_Application::exportToStandardOutput()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const Call result = onDatabase({"--export", "/dev/stdout"});
@@ -604,7 +613,7 @@ void tst_CommandLine::exportToStandardOutput()
 }
 
 /// What is there already stays, as with any program whose output is appended.
-void tst_CommandLine::exportAppended()
+void tst_Application::exportAppended()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const QString out = write("out.txt", "before\n");
@@ -616,11 +625,11 @@ void tst_CommandLine::exportAppended()
     QVERIFY(contentOf(out).contains("Gate"));
 }
 
-void tst_CommandLine::restoreOfNothing()
+void tst_Application::restoreOfNothing()
 {
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const Call result = onDatabase({"--restore", m_folder->filePath("missing")});
-    QCOMPARE(result.exitCode, int(CommandLine::Failed));
+    QCOMPARE(result.exitCode, int(Application::Failed));
     QVERIFY(result.complained.contains("missing"));
     QVERIFY(onDatabase({"--import", m_folder->filePath("in.csv")}).said.contains("1 unchanged"));
 }
@@ -631,12 +640,12 @@ int main(int argc, char** argv)
         for (int i = 1; i < argc; ++i)
             argv[i] = argv[i + 1]; // the program never sees it
         --argc;
-        return CommandLine(argc, argv).run();
+        return Application(argc, argv).run();
     }
     QApplication app(argc, argv);
     testsupport::prepareApplication();
-    tst_CommandLine test;
+    tst_Application test;
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "tst_commandline.moc"
+#include "tst_application.moc"

@@ -1,5 +1,5 @@
-#ifndef KO_TOUR_H
-#define KO_TOUR_H
+#ifndef KO_ROBOT_H
+#define KO_ROBOT_H
 
 #include <QDir>
 #include <QString>
@@ -13,12 +13,12 @@ namespace ko {
 class HostNodeDB;
 class MainWindow;
 
-/// A walk through the client's main work, made with the clicks and keys of a user, that leaves a picture
-/// of every window. It needs no display and shows a newcomer, and the build, that the program works.
-class Tour
+/// Walks through the client's main work with the clicks and keys of a user, and leaves a picture of every
+/// window. It needs no display and shows a newcomer, and the build, that the program works.
+class Robot
 {
 public:
-    Tour(HostNodeDB& db, MainWindow& window, const QString& folder);
+    Robot(HostNodeDB& db, MainWindow& window, const QString& folder);
 
     /// False, with the reason said, when something was not as it must be.
     bool run(const QString& survey);

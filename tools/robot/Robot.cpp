@@ -1,4 +1,4 @@
-#include "Tour.h"
+#include "Robot.h"
 
 #include "MainWindow.h"
 #include "NodeListModel.h"
@@ -99,14 +99,14 @@ QStringList newestLogCodes(HostNodeDB& db, int count)
 
 } // namespace
 
-Tour::Tour(HostNodeDB& db, MainWindow& window, const QString& folder)
+Robot::Robot(HostNodeDB& db, MainWindow& window, const QString& folder)
     : m_db(db)
     , m_window(window)
     , m_folder(folder)
 {
 }
 
-void Tour::begin()
+void Robot::begin()
 {
     expect(m_folder.mkpath(QStringLiteral(".")), QStringLiteral("the folder for the pictures is there"));
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
@@ -114,7 +114,7 @@ void Tour::begin()
     settle();
 }
 
-bool Tour::runScans(int cameras)
+bool Robot::runScans(int cameras)
 {
     begin();
     withDialog("actionOverview", [this, cameras](QDialog* dialog) {
@@ -138,7 +138,7 @@ bool Tour::runScans(int cameras)
     return m_good;
 }
 
-bool Tour::run(const QString& survey)
+bool Robot::run(const QString& survey)
 {
     begin();
     importSurvey(survey);
@@ -152,13 +152,13 @@ bool Tour::run(const QString& survey)
     return m_good;
 }
 
-void Tour::expect(bool condition, const QString& text)
+void Robot::expect(bool condition, const QString& text)
 {
     say((condition ? QStringLiteral("ok      ") : QStringLiteral("NOT SO  ")) + text);
     m_good = m_good && condition;
 }
 
-void Tour::picture(QWidget* widget, const char* name)
+void Robot::picture(QWidget* widget, const char* name)
 {
     settle();
     const QString file = m_folder.filePath(
@@ -167,7 +167,7 @@ void Tour::picture(QWidget* widget, const char* name)
         expect(false, QStringLiteral("a picture is written to %1").arg(file));
 }
 
-void Tour::withDialog(const char* action, const std::function<void(QDialog*)>& work)
+void Robot::withDialog(const char* action, const std::function<void(QDialog*)>& work)
 {
     bool came = false;
     QTimer::singleShot(50, &m_window, [&came, &work] {
@@ -185,7 +185,7 @@ void Tour::withDialog(const char* action, const std::function<void(QDialog*)>& w
     expect(came, QStringLiteral("%1 opens its dialog").arg(QLatin1String(action)));
 }
 
-void Tour::importSurvey(const QString& survey)
+void Robot::importSurvey(const QString& survey)
 {
     const CameraSurvey::ImportResult result = CameraSurvey::importCameras(survey, [](qint64, qint64) {
         settle();
@@ -198,7 +198,7 @@ void Tour::importSurvey(const QString& survey)
     picture(&m_window, "main-window");
 }
 
-void Tour::search()
+void Robot::search()
 {
     auto* view = m_window.findChild<NodeListView*>();
     QWidget* searchField = field(&m_window, "searchLineEdit");
@@ -214,7 +214,7 @@ void Tour::search()
     settle();
 }
 
-void Tour::addCamera()
+void Robot::addCamera()
 {
     withDialog("actionAdd", [this](QDialog* dialog) {
         type(field(dialog, "addressLineEdit"), QLatin1String(addedAddress));
@@ -228,7 +228,7 @@ void Tour::addCamera()
            QStringLiteral("and selected in the list"));
 }
 
-void Tour::editCamera()
+void Robot::editCamera()
 {
     const QString id = idOf(m_db, firstName);
     m_window.findChild<NodeListView*>()->selectNode(id);
@@ -252,7 +252,7 @@ void Tour::editCamera()
     });
 }
 
-void Tour::lookAround()
+void Robot::lookAround()
 {
     const struct
     {
@@ -274,7 +274,7 @@ void Tour::lookAround()
     picture(&m_window, "main-window-after");
 }
 
-bool Tour::check(HostNodeDB& db)
+bool Robot::check(HostNodeDB& db)
 {
     bool good = true;
     const auto expect = [&good](bool condition, const char* text) {

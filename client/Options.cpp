@@ -1,4 +1,4 @@
-#include "CommandOptions.h"
+#include "Options.h"
 
 #include <QCoreApplication>
 
@@ -14,29 +14,21 @@ struct Option
 };
 
 const Option options[] = {
-    {"db", QT_TRANSLATE_NOOP("CommandLine", "Opens this node database; it is made if it is not there."),
+    {"db", QT_TRANSLATE_NOOP("Application", "Opens this node database; it is made if it is not there."),
      "FILE"},
     {"import",
-     QT_TRANSLATE_NOOP("CommandLine", "Adds the cameras of a list (CSV) and ends. No window is needed."),
+     QT_TRANSLATE_NOOP("Application", "Adds the cameras of a list (CSV) and ends. No window is needed."),
      "FILE"},
-    {"export", QT_TRANSLATE_NOOP("CommandLine", "Writes all cameras into a list (CSV) and ends."), "FILE"},
-    {"without-passwords", QT_TRANSLATE_NOOP("CommandLine", "Leaves the passwords out of --export."), ""},
+    {"export", QT_TRANSLATE_NOOP("Application", "Writes all cameras into a list (CSV) and ends."), "FILE"},
+    {"without-passwords", QT_TRANSLATE_NOOP("Application", "Leaves the passwords out of --export."), ""},
     {"backup",
-     QT_TRANSLATE_NOOP("CommandLine", "Copies the database, which may be in use, into a file and ends."),
+     QT_TRANSLATE_NOOP("Application", "Copies the database, which may be in use, into a file and ends."),
      "FILE"},
     {"restore",
-     QT_TRANSLATE_NOOP("CommandLine",
+     QT_TRANSLATE_NOOP("Application",
                        "Gives the database, which may be in use, the content of a backup and ends. "
                        "The present content is kept as a backup."),
      "FILE"},
-    {"tour", QT_TRANSLATE_NOOP("CommandLine", "Walks through the windows by itself and leaves pictures."),
-     "FOLDER"},
-    {"tour-survey", QT_TRANSLATE_NOOP("CommandLine", "The list of cameras that the walk imports."), "FILE"},
-    {"tour-scans",
-     QT_TRANSLATE_NOOP("CommandLine", "So many cameras are found by scans, and nothing else is done."),
-     "NUMBER"},
-    {"check-tour", QT_TRANSLATE_NOOP("CommandLine", "Looks whether what the walk did is in the database."),
-     ""},
 };
 
 const Option toolkitOptions[] = {
@@ -64,12 +56,12 @@ const Option toolkitOptions[] = {
 
 QString translated(const char* text)
 {
-    return QCoreApplication::translate("CommandLine", text);
+    return QCoreApplication::translate("Application", text);
 }
 
 } // namespace
 
-CommandOptions::CommandOptions()
+Options::Options()
 {
     const auto add = [this](const Option& option) {
         QCommandLineOption added(QLatin1String(option.name), QString(), QLatin1String(option.value));
@@ -93,7 +85,7 @@ CommandOptions::CommandOptions()
         add(option);
 }
 
-QString CommandOptions::read(const QStringList& arguments)
+QString Options::read(const QStringList& arguments)
 {
     if (!m_parser.parse(arguments))
         return m_parser.errorText();
@@ -103,25 +95,21 @@ QString CommandOptions::read(const QStringList& arguments)
 }
 
 /// An empty value is what a script passes whose variable is not set: it is not meant as a missing option.
-QString CommandOptions::badValue() const
+QString Options::badValue() const
 {
     for (const Option& option : options) {
         if (*option.value && isSet(option.name) && value(option.name).isEmpty())
             return translated("The value after --%1 is empty.").arg(QLatin1String(option.name));
     }
-    bool isNumber = true;
-    const bool isPositive = value("tour-scans").toInt(&isNumber) > 0;
-    if (isSet("tour-scans") && !(isNumber && isPositive))
-        return translated("The value after --tour-scans is not a number of cameras.");
     return QString();
 }
 
-QString CommandOptions::helpText() const
+QString Options::helpText() const
 {
     return m_parser.helpText().trimmed();
 }
 
-QString CommandOptions::toolkitOption() const
+QString Options::toolkitOption() const
 {
     for (const Option& option : toolkitOptions) {
         if (isSet(option.name))

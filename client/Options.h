@@ -1,15 +1,15 @@
-#ifndef KO_COMMANDOPTIONS_H
-#define KO_COMMANDOPTIONS_H
+#ifndef KO_OPTIONS_H
+#define KO_OPTIONS_H
 
 #include <QCommandLineParser>
 
 namespace ko {
 
 /// The options of koclient, and those that the toolkit takes itself.
-class CommandOptions
+class Options
 {
 public:
-    CommandOptions();
+    Options();
 
     /// Why the program cannot run with these arguments, the first of which is its own name; empty if it can.
     QString read(const QStringList& arguments);

@@ -1,0 +1,169 @@
+#include "Mnemonics.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTimer>
+#include <QToolButton>
+
+#include <algorithm>
+#include <functional>
+
+namespace ko {
+
+namespace {
+
+const char given[] = "ko_mnemonic"; ///< property of the controls that have theirs from here
+
+/// A text that may hold a letter for the keyboard.
+struct Caption
+{
+    QObject* owner;
+    QString text;
+    std::function<void(const QString&)> set;
+
+    QString letter() const { return QKeySequence::mnemonic(text).toString(); }
+};
+
+bool hasKeyAlready(const QAbstractButton* button)
+{
+    const auto* box = qobject_cast<const QDialogButtonBox*>(button->parentWidget());
+    const auto which =
+        box ? box->standardButton(const_cast<QAbstractButton*>(button)) : QDialogButtonBox::NoButton;
+    return which == QDialogButtonBox::Ok || which == QDialogButtonBox::Cancel ||
+           which == QDialogButtonBox::Close;
+}
+
+void addCaptions(QWidget* widget, QVector<Caption>* captions)
+{
+    if (auto* label = qobject_cast<QLabel*>(widget)) {
+        if (label->buddy() && label->textFormat() != Qt::RichText)
+            captions->append({label, label->text(), [label](const QString& text) { label->setText(text); }});
+    } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        if (!qobject_cast<QToolButton*>(button) && !hasKeyAlready(button))
+            captions->append(
+                {button, button->text(), [button](const QString& text) { button->setText(text); }});
+    } else if (auto* group = qobject_cast<QGroupBox*>(widget)) {
+        if (group->isCheckable())
+            captions->append(
+                {group, group->title(), [group](const QString& text) { group->setTitle(text); }});
+    } else if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
+        for (int i = 0; i < tabs->count(); ++i)
+            captions->append(
+                {tabs, tabs->tabText(i), [tabs, i](const QString& text) { tabs->setTabText(i, text); }});
+    }
+}
+
+QVector<Caption> captionsInSight(const QWidget* window)
+{
+    QVector<Caption> captions;
+    const QList<QWidget*> widgets = window->findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (widget->isVisible() && widget->window() == window)
+            addCaptions(widget, &captions);
+    }
+    return captions;
+}
+
+QStringList lettersOfMenus(const QWidget* window)
+{
+    QStringList letters;
+    const QList<QMenuBar*> bars = window->findChildren<QMenuBar*>();
+    for (const QMenuBar* bar : bars) {
+        const QList<QAction*> actions = bar->actions();
+        for (const QAction* action : actions)
+            letters.append(QKeySequence::mnemonic(action->text()).toString());
+    }
+    return letters;
+}
+
+/// With a mark before a letter that is not used yet, the first one of a word if possible; else as it is.
+QString withLetter(const QString& text, const QStringList& used)
+{
+    for (const bool atBegin : {true, false}) {
+        for (int i = 0; i < text.size(); ++i) {
+            const bool begins = i == 0 || !text.at(i - 1).isLetterOrNumber();
+            if (!text.at(i).isLetterOrNumber() || begins != atBegin)
+                continue;
+            QString marked = QString(text).insert(i, QLatin1Char('&'));
+            if (!used.contains(QKeySequence::mnemonic(marked).toString()))
+                return marked;
+        }
+    }
+    return text;
+}
+
+QString withoutLetter(QString text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        if (text.at(i) == QLatin1Char('&') && text.mid(i, 2) != QLatin1String("&&"))
+            return text.remove(i, 1);
+        if (text.at(i) == QLatin1Char('&'))
+            ++i;
+    }
+    return text;
+}
+
+void assignIn(const QWidget* window)
+{
+    QVector<Caption> captions = captionsInSight(window);
+    // Letters that somebody chose stay; then short texts, which have not many to choose from.
+    const auto isOurs = [](const Caption& caption) {
+        return caption.letter().isEmpty() || caption.owner->property(given).toBool();
+    };
+    std::stable_sort(captions.begin(), captions.end(), [&isOurs](const Caption& a, const Caption& b) {
+        return std::make_pair(isOurs(a), a.text.size()) < std::make_pair(isOurs(b), b.text.size());
+    });
+    QStringList used = lettersOfMenus(window);
+    for (Caption& caption : captions) {
+        const bool isFree = !caption.letter().isEmpty() && !used.contains(caption.letter());
+        if (isOurs(caption) && !isFree) {
+            const QString text = withLetter(withoutLetter(caption.text), used);
+            if (text != caption.text)
+                caption.set(text);
+            caption.text = text;
+            caption.owner->setProperty(given, true);
+        }
+        used.append(caption.letter());
+    }
+}
+
+} // namespace
+
+Mnemonics::Mnemonics(QObject* parent)
+    : QObject(parent)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool Mnemonics::eventFilter(QObject* watched, QEvent* event)
+{
+    // A caption that gets another text has its place computed anew.
+    const bool mayNeedLetters = event->type() == QEvent::Show || event->type() == QEvent::LayoutRequest;
+    auto* widget = mayNeedLetters ? qobject_cast<QWidget*>(watched) : nullptr;
+    if (widget && !m_windows.contains(widget->window())) {
+        if (m_windows.isEmpty())
+            QTimer::singleShot(0, this, &Mnemonics::assign);
+        m_windows.append(widget->window());
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void Mnemonics::assign()
+{
+    const QVector<QPointer<QWidget>> windows = m_windows;
+    m_windows.clear();
+    for (const QPointer<QWidget>& window : windows) {
+        if (window)
+            assignIn(window);
+    }
+}
+
+} // namespace ko

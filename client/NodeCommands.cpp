@@ -1,0 +1,198 @@
+#include "NodeCommands.h"
+
+#include "DeviceSettings.h"
+#include "FormFields.h"
+#include "LayoutAdapter.h"
+#include "MainWindow.h"
+#include "NodeListView.h"
+#include "NodeLogEntries.h"
+#include "RemoveNodesBox.h"
+#include "TypeChange.h"
+#include "audit/AuditLog.h"
+#include "database/HostNodeDB.h"
+#include "dialogs/AddNodeDialog.h"
+#include "dialogs/EditNodeDialog.h"
+#include "drivers/NodeTypes.h"
+#include "inspector/InspectorWidget.h"
+#include "ko/IPDeviceNode.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace ko {
+
+namespace NodeCommands {
+
+namespace {
+
+const unsigned environmentRow = 0x80;
+const unsigned layoutLists = 0x20;
+const unsigned listOptions = 17; ///< as the other lists of nodes pass them
+
+/// Those of which a user may add nodes. What is added most often comes first.
+QList<ENodeType> typesToAdd()
+{
+    QList<ENodeType> types = NodeTypes::all();
+    types.erase(std::remove_if(types.begin(), types.end(),
+                               [](ENodeType type) { return !NodeTypes::canBeAdded(type); }),
+                types.end());
+    types.removeOne(IPDeviceType);
+    types.prepend(IPDeviceType);
+    return types;
+}
+
+void openSelected(MainWindow& window, bool readOnly)
+{
+    const QStringList ids = window.list().selectedIds();
+    if (ids.size() == 1)
+        open(window, ids.first(), readOnly);
+}
+
+void runAddDialog(MainWindow& window, AddNodeDialog& dialog)
+{
+    window.exec(dialog);
+    const kom::smart<const Node> node = window.database().node(dialog.nodeId());
+    if (node.null())
+        return;
+    window.database().auditLog().log(NodeAddLogEntry(node->name()));
+    window.applyChanges();
+    window.list().selectNode(dialog.nodeId());
+}
+
+} // namespace
+
+QStringList selectedDevices(MainWindow& window)
+{
+    QStringList devices;
+    const QStringList ids = window.list().selectedIds();
+    for (const QString& id : ids) {
+        if (NodeTypes::isDevice(window.database().summary(id).type))
+            devices.append(id);
+    }
+    if (devices.isEmpty())
+        window.say(MainWindow::tr("No camera is selected. Select one or more in the list first."));
+    return devices;
+}
+
+void open(MainWindow& window, const QString& id, bool readOnly)
+{
+    const LayoutAdapter layouts;
+    EditNodeDialog dialog(id, &window, readOnly, listOptions | environmentRow | layoutLists, &layouts);
+    window.exec(dialog);
+}
+
+void add(MainWindow& window)
+{
+    const QList<ENodeType> types = typesToAdd();
+    AddNodeDialog dialog(&window, &window, &types, false, listOptions | environmentRow);
+    new TypeChange(&dialog);
+    runAddDialog(window, dialog);
+}
+
+void duplicate(MainWindow& window)
+{
+    const NodeSummary summary = window.database().summary(window.list().selectedIds().value(0));
+    const kom::smart<const Node> node = window.database().node(summary.id);
+    const std::unique_ptr<QWidget> original(node.null() ? nullptr
+                                                        : node->createInspectorWidget(false, listOptions));
+    if (!original || !NodeTypes::canBeAdded(summary.type)) {
+        window.say(MainWindow::tr("Nodes of this type cannot be added."));
+        return;
+    }
+    const QList<ENodeType> types = {summary.type};
+    AddNodeDialog dialog(&window, &window, &types, false, listOptions | environmentRow);
+    const FormFields::Values values = FormFields::values(original.get());
+    const QList<QWidget*> fields = FormFields::in(&dialog);
+    for (QWidget* field : fields) {
+        if (values.contains(field->objectName()))
+            FormFields::enter(field, values.value(field->objectName()));
+    }
+    runAddDialog(window, dialog);
+}
+
+void edit(MainWindow& window)
+{
+    openSelected(window, false);
+}
+
+void showProperties(MainWindow& window)
+{
+    openSelected(window, true);
+}
+
+void remove(MainWindow& window)
+{
+    HostNodeDB& db = window.database();
+    const QStringList ids = window.list().selectedIds();
+    QStringList names;
+    names.reserve(int(ids.size()));
+    for (const QString& id : ids)
+        names.append(db.summary(id).name);
+    if (ids.isEmpty() || !confirmRemoval(names, &window))
+        return;
+    for (int i = 0; i < ids.size(); ++i) {
+        if (db.summary(ids.at(i)).id.isEmpty())
+            continue; // removed by somebody else while we asked
+        db.removeNode(ids.at(i));
+        db.auditLog().log(NodeRemoveLogEntry(names.at(i)));
+    }
+}
+
+void editCredentials(MainWindow& window)
+{
+    const QStringList devices = selectedDevices(window);
+    if (!devices.isEmpty())
+        window.say(DeviceSettings::editCredentials(window.database(), devices, &window));
+}
+
+void editRecording(MainWindow& window)
+{
+    const QStringList devices = selectedDevices(window);
+    if (!devices.isEmpty())
+        window.say(DeviceSettings::editRecording(window.database(), devices, &window));
+}
+
+void openWebPage(MainWindow& window)
+{
+    const QString id = window.list().selectedIds().value(0);
+    const auto device = window.database().node(id).cast<const IPDeviceNode>();
+    if (device.null() || device->address().isEmpty()) {
+        window.say(MainWindow::tr("This node has no address. Devices get theirs in Node > Edit."));
+        return;
+    }
+    QUrl url;
+    url.setScheme(device->useSSL() ? QStringLiteral("https") : QStringLiteral("http"));
+    url.setHost(device->address());
+    if (device->port() != (device->useSSL() ? 443 : 80))
+        url.setPort(device->port());
+    if (!url.isValid() || !QDesktopServices::openUrl(url))
+        window.say(MainWindow::tr("The web page of %1 could not be opened.").arg(device->address()));
+}
+
+void copyRows(MainWindow& window)
+{
+    QApplication::clipboard()->setText(window.list().selectedText());
+    window.say(MainWindow::tr("%n row(s) copied.", nullptr, window.list().selectedCount()));
+}
+
+void copyAddresses(MainWindow& window)
+{
+    QStringList addresses;
+    const QStringList ids = window.list().selectedIds();
+    for (const QString& id : ids) {
+        const QString address = window.database().summary(id).location;
+        if (!address.isEmpty())
+            addresses.append(address);
+    }
+    if (!addresses.isEmpty())
+        QApplication::clipboard()->setText(addresses.join(QLatin1Char('\n')));
+    window.say(MainWindow::tr("%n address(es) copied.", nullptr, int(addresses.size())));
+}
+
+} // namespace NodeCommands
+
+} // namespace ko

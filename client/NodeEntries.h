@@ -1,0 +1,87 @@
+#ifndef KO_NODEENTRIES_H
+#define KO_NODEENTRIES_H
+
+#include "NodeSearch.h"
+#include "model/NodeData.h"
+
+#include <QHash>
+
+#include <functional>
+#include <vector>
+
+namespace ko {
+
+/// The nodes of a list, each in a slot of its own, with what their order and the search need made once: then
+/// sorting and filtering a hundred thousand is plain comparing.
+class NodeEntries
+{
+public:
+    typedef int Slot; ///< stays with its node until the node is removed
+    typedef QVector<Slot> Slots;
+    typedef std::function<QString(const NodeSummary&, int column)> CellText;
+
+    NodeEntries(CellText text, int columns);
+
+    void clear();
+    void reserve(int nodes);
+    int count() const { return int(m_slotOf.size()); }
+    int slotCount() const { return int(m_entries.size()); } ///< all slots are below it
+
+    /// Adds a node, or puts it in the place of the one with its identifier. A mark stays.
+    Slot put(const NodeSummary& node);
+    void remove(Slot slot);
+
+    Slot slotOf(const QString& id) const { return m_slotOf.value(id, -1); }
+    const NodeSummary& node(Slot slot) const { return m_entries[size_t(slot)].node; }
+    QString text(Slot slot, int column) const { return m_text(node(slot), column); }
+    bool isMarked(Slot slot) const { return m_entries[size_t(slot)].marked; }
+    void setMarked(Slot slot, bool marked) { m_entries[size_t(slot)].marked = marked; }
+
+    /// Order by a column, what is alike there by name: a total order, so that a node is found where it
+    /// stands.
+    void setOrder(int column, Qt::SortOrder order);
+    int sortColumn() const { return m_column; }
+    Qt::SortOrder sortOrder() const { return m_order; }
+    bool less(Slot a, Slot b) const;
+    void sort(Slots& rows) const;
+    Slots sorted() const; ///< all nodes
+
+    /// Where a node stands in sorted rows, or would stand.
+    int place(const Slots& rows, Slot slot) const;
+
+    bool matches(Slot slot, const NodeSearch& search) const;
+
+    /// The texts of a column are no longer what they were.
+    void forgetTexts(int column);
+
+    /// Prepares some nodes for the search, for about a millisecond; false when all are.
+    bool prepareSome() const;
+
+private:
+    struct Entry
+    {
+        NodeSummary node;
+        QString nameKey;
+        QString columnKey; ///< of the column that is sorted by
+        bool marked = false;
+        mutable QString lines; ///< all columns, folded, one to a line; null until it is needed
+    };
+
+    void sortStably(Slots& rows, QString Entry::*key) const;
+    const Entry& entry(Slot slot) const { return m_entries[size_t(slot)]; }
+    QString columnKey(const Entry& entry) const;
+    const QString& lines(const Entry& entry) const;
+
+    const CellText m_text;
+    const int m_columns;
+    std::vector<Entry> m_entries;
+    Slots m_free;
+    QHash<QString, Slot> m_slotOf;
+    int m_column = 0;
+    Qt::SortOrder m_order = Qt::AscendingOrder;
+    mutable size_t m_prepared = 0; ///< all before it
+};
+
+} // namespace ko
+
+#endif

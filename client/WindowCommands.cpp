@@ -1,0 +1,88 @@
+#include "WindowCommands.h"
+
+#include "AddressChangesDialog.h"
+#include "AuditLogDialog.h"
+#include "MainWindow.h"
+#include "NodeListView.h"
+#include "PreferencesDialog.h"
+#include "database/HostNodeDB.h"
+#include "dialogs/EnvironmentDialog.h"
+#include "dialogs/NetworkProxyDialog.h"
+#include "dialogs/NodeDBViewer.h"
+#include "dialogs/NodeOverviewDialog.h"
+#include "ko/dialogFlags.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMessageBox>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+#include <QTreeView>
+
+namespace ko {
+
+namespace WindowCommands {
+
+void editPreferences(MainWindow& window)
+{
+    PreferencesDialog(window.database(), &window).exec();
+}
+
+void editProxy(MainWindow& window)
+{
+    NetworkProxyDialog(&window, dialogFlags(false)).exec();
+}
+
+void editEnvironments(MainWindow& window)
+{
+    EnvironmentDialog dialog(&window);
+    dialog.exec();
+}
+
+void findDevices(MainWindow& window)
+{
+    NodeOverviewDialog dialog(&window);
+    QObject::connect(dialog.findChild<QTreeView*>(QStringLiteral("nodesTreeView")), &QTreeView::doubleClicked,
+                     dialog.findChild<QAction*>(QStringLiteral("actionEdit")), &QAction::trigger);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    window.applyChanges();
+    window.list().selectNodes(dialog.selected()); // for what is to be done with them next
+    window.list().setFocus();
+}
+
+void showAddressChanges(MainWindow& window)
+{
+    AddressChangesDialog(window.database().deviceIntake(), &window).exec();
+}
+
+void showAuditLog(MainWindow& window)
+{
+    AuditLogDialog(window.database().auditLog(), &window).exec();
+}
+
+void showDatabase(MainWindow& window)
+{
+    NodeDBViewer* viewer = new NodeDBViewer(&window);
+    viewer->setWindowFlag(Qt::Window);
+    viewer->setAttribute(Qt::WA_DeleteOnClose);
+    // The viewer itself leaves its models behind.
+    auto* sorted = qobject_cast<QSortFilterProxyModel*>(viewer->findChild<QTableView*>()->model());
+    QObject::connect(viewer, &QObject::destroyed, sorted, &QObject::deleteLater);
+    QObject::connect(viewer, &QObject::destroyed, sorted->sourceModel(), &QObject::deleteLater);
+    viewer->show();
+}
+
+void about(MainWindow& window)
+{
+    QMessageBox::about(
+        &window, MainWindow::tr("About"),
+        MainWindow::tr("<h3>%1 %2</h3><p>Shows, adds, edits and removes the nodes of a video-surveillance "
+                       "system.</p><p>Free software under the GNU LGPL 2.1 or later.</p><p>Qt %3</p>")
+            .arg(QApplication::applicationDisplayName().toHtmlEscaped(), QLatin1String(KO_VERSION),
+                 QLatin1String(qVersion())));
+}
+
+} // namespace WindowCommands
+
+} // namespace ko

@@ -1,0 +1,90 @@
+#include "drivers/AddressGuard.h"
+
+#include "drivers/AddressText.h"
+
+#include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include <utility>
+
+namespace ko {
+
+AddressGuard::AddressGuard(const Fields& fields, QWidget* parent)
+    : QLabel(parent)
+    , m_fields(fields)
+    , m_stored(fields.address->text())
+    , m_text(m_stored)
+{
+    setObjectName(QStringLiteral("addressProblemLabel"));
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    hide();
+    connect(m_fields.address, &QLineEdit::textEdited, this, &AddressGuard::edited);
+    connect(m_fields.address, &QLineEdit::textChanged, this, &AddressGuard::changed);
+    connect(m_fields.address, &QLineEdit::editingFinished, this, &AddressGuard::finished);
+}
+
+void AddressGuard::edited(const QString& text)
+{
+    m_isPasted = text.size() > m_text.size() + 1;
+    m_text = text;
+    const QString problem = text == m_stored ? QString() : AddressText::parse(text).problem;
+    setRefused(problem);
+    if (problem.isEmpty())
+        hide(); // words come when the field is left: half an address is none yet
+}
+
+/// Comes after edited(), and after whoever takes the address for a name.
+void AddressGuard::changed(const QString& text)
+{
+    if (std::exchange(m_isPasted, false))
+        takeApart();
+    else if (text != m_text)
+        m_stored = m_text = text; // not typed, but changed elsewhere
+}
+
+void AddressGuard::finished()
+{
+    takeApart();
+    setVisible(!text().isEmpty());
+}
+
+/// Shows an address that was typed with more around it in the fields where its parts belong.
+void AddressGuard::takeApart()
+{
+    const QString typed = m_fields.address->text();
+    if (typed == m_stored)
+        return;
+    const AddressText address = AddressText::parse(typed);
+    if (!address.problem.isEmpty())
+        return;
+    m_text = address.host;
+    if (typed != address.host)
+        m_fields.address->setText(address.host);
+    if (address.security != AddressText::Unknown)
+        m_fields.ssl->setChecked(address.security == AddressText::Ssl); // which may move the port
+    if (address.port > 0)
+        m_fields.port->setValue(address.port);
+    if (!address.user.isEmpty())
+        m_fields.user->setText(address.user);
+    if (!address.password.isEmpty())
+        m_fields.password->setText(address.password);
+}
+
+void AddressGuard::setRefused(const QString& problem)
+{
+    setText(problem);
+    m_fields.address->setAccessibleDescription(problem);
+    const QList<QDialogButtonBox*> boxes = window()->findChildren<QDialogButtonBox*>();
+    for (const QDialogButtonBox* box : boxes) {
+        for (const auto which : {QDialogButtonBox::Ok, QDialogButtonBox::Apply}) {
+            if (QPushButton* button = box->button(which))
+                button->setEnabled(problem.isEmpty());
+        }
+    }
+}
+
+} // namespace ko

@@ -1,0 +1,47 @@
+#ifndef KO_ADDRESSGUARD_H
+#define KO_ADDRESSGUARD_H
+
+#include <QLabel>
+
+class QAbstractButton;
+class QLineEdit;
+class QSpinBox;
+
+namespace ko {
+
+/// Watches the field in which a user types an address: what is pasted with a scheme, port or user is taken
+/// apart into the fields beside it, and what is no address is refused, in words above the field and by the
+/// buttons that would store it. An address that was there before is left alone, whatever it is.
+class AddressGuard : public QLabel
+{
+    Q_OBJECT
+
+public:
+    struct Fields
+    {
+        QLineEdit* address;
+        QSpinBox* port;
+        QAbstractButton* ssl;
+        QLineEdit* user;
+        QLineEdit* password;
+    };
+
+    /// The fields outlive the guard.
+    AddressGuard(const Fields& fields, QWidget* parent);
+
+private:
+    void edited(const QString& text);
+    void changed(const QString& text);
+    void finished();
+    void takeApart();
+    void setRefused(const QString& problem);
+
+    const Fields m_fields;
+    QString m_stored;
+    QString m_text; ///< as it was typed or set last
+    bool m_isPasted = false;
+};
+
+} // namespace ko
+
+#endif
