@@ -10,6 +10,7 @@
 #include "database/HostNodeDB.h"
 #include "discovery/ArpScanner.h"
 #include "discovery/MdnsScanner.h"
+#include "discovery/WsDiscoveryScanner.h"
 #include "exchange/CameraSurvey.h"
 #include "exchange/ExportFile.h"
 #include "exchange/FileName.h"
@@ -233,6 +234,7 @@ bool CommandLine::showWindow(HostNodeDB& db, int* exitCode) const
     const BackupKeeper backups(db.fileName());
     db.addScanner(std::make_unique<MdnsScanner>());
     db.addScanner(std::make_unique<ArpScanner>());
+    db.addScanner(std::make_unique<WsDiscoveryScanner>());
     MainWindow window(db);
     bool isUsable = true;
     QObject::connect(&db, &HostNodeDB::checked, &window, [&isUsable](const StoreError& error) {

@@ -55,6 +55,13 @@ QString addressKey(const QString& text)
     return normal.isEmpty() ? key : normal.toLower();
 }
 
+int rank(const QString& address)
+{
+    if (!address.contains(QLatin1Char(':')))
+        return 0;
+    return address.startsWith(QLatin1String("fe80"), Qt::CaseInsensitive) ? 2 : 1;
+}
+
 } // namespace NetworkText
 
 } // namespace ko

@@ -20,6 +20,10 @@ KO_HOST_EXPORT QString address(const QString& text);
 /// How addresses are compared, whoever wrote them: case and spelling make no difference.
 KO_HOST_EXPORT QString addressKey(const QString& address);
 
+/// How likely others can be reached by an address of this kind, the smallest first: IPv4 before IPv6, and
+/// last an IPv6 address that only one link knows. A device has rarely more than one of a kind.
+KO_HOST_EXPORT int rank(const QString& address);
+
 } // namespace NetworkText
 
 } // namespace ko
