@@ -1,5 +1,6 @@
 #include "discovery/WsDiscoveryScanner.h"
 
+#include "discovery/NeighbourTable.h"
 #include "discovery/ScanClock.h"
 #include "discovery/ScanInterfaces.h"
 #include "discovery/ScanThread.h"
@@ -7,12 +8,14 @@
 #include "discovery/WsDiscovery.h"
 #include "ko/LogQt.h"
 
+#include <QHash>
 #include <QNetworkInterface>
 #include <QRandomGenerator>
 #include <QSet>
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -30,7 +33,9 @@ const int LeastDelay = 50;    // ms before the first repeat
 const int MostDelay = 250;    // the next waits twice as long, up to
 const int UpperDelay = 500;
 const int MostRemembered = 20000; // announcements in one round
-const int StepTime = 100;         // ms
+const int TableInterval = 50;     // ms between two looks at the neighbours
+const int HoldingTime = 500;      // ms in which the system finds out who a neighbour is
+const int StepTime = 50;          // ms
 
 class WsDiscoverySession : public ScanThread
 {
@@ -50,6 +55,13 @@ private:
         QString interface;
     };
 
+    struct Held
+    {
+        DiscoveredDevice device;
+        QHostAddress sender;
+        qint64 since;
+    };
+
     void work() override;
     void open();
     void add(const QNetworkInterface& interface);
@@ -58,7 +70,10 @@ private:
     void listen();
     void wait() const;
     void receive(UdpSocket& socket);
-    void take(const DiscoveredDevice& device);
+    void lookAround();
+    void hold(const DiscoveredDevice& device, const QHostAddress& sender);
+    void settleHeld();
+    void take(DiscoveredDevice device, const QHostAddress& sender);
 
     const unsigned m_interfaces;
     const quint16 m_port;
@@ -67,6 +82,10 @@ private:
     QVector<QByteArray> m_probes;
     QSet<QString> m_reported; ///< in this round
     QSet<QString> m_devices;
+    std::deque<Held> m_held;
+    QSet<quint32> m_asked;             ///< each alone, in this round
+    QHash<quint32, QByteArray> m_macs; ///< of the neighbours
+    qint64 m_lookedAt = 0;
     int m_error = 0;
     bool m_saidMissing = false;
 };
@@ -76,6 +95,7 @@ void WsDiscoverySession::work()
     while (isWanted()) {
         open();
         m_reported.clear();
+        m_asked.clear();
         m_probes = WsDiscovery::newProbes();
         if (ask())
             listen();
@@ -167,6 +187,10 @@ void WsDiscoverySession::listen()
         for (const Outlet& outlet : m_outlets)
             receive(*outlet.socket);
         receive(*m_greetings);
+        const auto before = m_reported.size();
+        settleHeld();
+        if (m_reported.size() != before)
+            post();
     }
 }
 
@@ -185,17 +209,65 @@ void WsDiscoverySession::receive(UdpSocket& socket)
     QHostAddress sender;
     while (isWanted() && socket.isOpen() && socket.receive(message, sender)) {
         const QVector<DiscoveredDevice> devices = WsDiscovery::read(message, sender);
-        for (const DiscoveredDevice& device : devices)
-            take(device);
+        for (const DiscoveredDevice& device : devices) {
+            if (m_macs.contains(sender.toIPv4Address()))
+                take(device, sender);
+            else
+                hold(device, sender);
+        }
         postNowAndThen(); // a storm of them must not pile up
     }
     if (m_reported.size() != before)
         post();
 }
 
-/// One device greets, and answers over each interface and to each repeat.
-void WsDiscoverySession::take(const DiscoveredDevice& device)
+void WsDiscoverySession::lookAround()
 {
+    QVector<Neighbour> neighbours;
+    NeighbourTable::read(neighbours); // what cannot be read is a MAC address less
+    for (const Neighbour& neighbour : std::as_const(neighbours)) {
+        if (!neighbour.macAddress.isEmpty())
+            m_macs[neighbour.address] = neighbour.macAddress;
+    }
+}
+
+/// Who is no neighbour yet is asked alone: then the system learns its MAC address, by which a device is
+/// recognised that has moved.
+void WsDiscoverySession::hold(const DiscoveredDevice& device, const QHostAddress& sender)
+{
+    const quint32 address = sender.toIPv4Address();
+    if (m_held.size() >= MostRemembered)
+        return;
+    m_held.push_back({device, sender, scanClock()});
+    if (m_asked.contains(address))
+        return;
+    m_asked.insert(address);
+    const QVector<QByteArray> probes = WsDiscovery::newProbes(); // those it knows it does not answer again
+    for (const QByteArray& probe : probes)
+        m_outlets.front().socket->send(probe, address, m_port);
+}
+
+void WsDiscoverySession::settleHeld()
+{
+    if (m_held.empty() || scanClock() - m_lookedAt < TableInterval)
+        return;
+    m_lookedAt = scanClock();
+    lookAround();
+    std::deque<Held> waiting;
+    for (const Held& held : m_held) {
+        if (m_macs.contains(held.sender.toIPv4Address()) || scanClock() - held.since > HoldingTime)
+            take(held.device, held.sender);
+        else
+            waiting.push_back(held);
+    }
+    m_held.swap(waiting);
+}
+
+/// One device greets, and answers over each interface and to each repeat.
+void WsDiscoverySession::take(DiscoveredDevice device, const QHostAddress& sender)
+{
+    if (device.address == sender.toString() && m_macs.contains(sender.toIPv4Address()))
+        device.macAddress = QString::fromLatin1(m_macs.value(sender.toIPv4Address()).toHex(':'));
     const QString key =
         device.identity + QLatin1Char(' ') + device.address + QLatin1Char(' ') + QString::number(device.port);
     if (m_reported.contains(key) || m_reported.size() >= MostRemembered)

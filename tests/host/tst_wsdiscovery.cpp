@@ -299,7 +299,8 @@ void WsDiscoveryTest::probesGoOutAndAreRepeated()
     QVERIFY2(network.connectSite(), qPrintable(network.error()));
     Camera camera(WsDiscovery::Port);
     QVERIFY(camera.isUp && camera.join(NetworkNamespaces::hereInterface()));
-    camera.answer =
+    Camera alone(WsDiscovery::Port, QHostAddress("10.99.0.1"));
+    camera.answer = alone.answer =
         matches(match("http://10.99.0.1/onvif/device_service", "onvif://www.onvif.org/name/Gate"));
     WsDiscoveryScanner scanner;
     const Reports reports(scanner);
@@ -307,6 +308,7 @@ void WsDiscoveryTest::probesGoOutAndAreRepeated()
     QTRY_COMPARE(int(camera.questions.size()), 6); // two kinds, and two repeats of each
     QTest::qWait(1000);
     QCOMPARE(int(camera.questions.size()), 6);
+    QCOMPARE(int(alone.questions.size()), 2);
     QCOMPARE(int(QSet<QByteArray>(camera.questions.begin(), camera.questions.end()).size()), 2);
     QCOMPARE(placesOf(reports.devices), QString("10.99.0.1 80")); // once
     QCOMPARE(reports.devices.at(0).name, QString("Gate"));
@@ -327,14 +329,19 @@ void WsDiscoveryTest::deviceThatGreetsIsFound()
     const Reports reports(scanner);
     scanner.start(0xFFFFFFFF, -1);
     QTRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
-    QByteArray hello = match("http://10.99.0.2/", "onvif://www.onvif.org/name/New");
+    QTest::qWait(1500); // it has asked all that it asks
+    Camera camera(WsDiscovery::Port, QHostAddress("10.99.0.1"));
+    camera.answer = matches(match("http://10.99.0.1/", "onvif://www.onvif.org/name/New"));
+    QByteArray hello = match("http://10.99.0.1/", "onvif://www.onvif.org/name/New");
     hello.replace("d:ProbeMatch>", "d:Hello>");
     QUdpSocket socket;
     QVERIFY(socket.bind(QHostAddress("10.99.0.1"), 0));
     socket.setSocketOption(QAbstractSocket::MulticastLoopbackOption, 1);
     socket.setMulticastInterface(QNetworkInterface::interfaceFromName(NetworkNamespaces::hereInterface()));
     QVERIFY(socket.writeDatagram(envelope(hello), QHostAddress(WsDiscovery::Group), WsDiscovery::Port) > 0);
-    QTRY_COMPARE(placesOf(reports.devices), QString("10.99.0.2 80"));
+    QTRY_COMPARE(placesOf(reports.devices), QString("10.99.0.1 80"));
+    QCOMPARE(reports.devices.at(0).name, QString("New"));
+    QCOMPARE(int(camera.questions.size()), 2); // it was asked itself
 }
 
 void WsDiscoveryTest::limitEndsTheScan()
