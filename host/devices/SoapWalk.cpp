@@ -35,8 +35,8 @@ class SoapWalk::Walk
 {
 public:
     Walk(const QByteArray& message, const Begin& begin, const End& end)
-        // As text, so that no declaration in it can choose another encoding.
-        : m_reader(QString::fromUtf8(message))
+        // As text, so that no declaration in it can choose another encoding. Some put a line break before it.
+        : m_reader(QString::fromUtf8(message.trimmed()))
         , m_begin(begin)
         , m_end(end)
     {

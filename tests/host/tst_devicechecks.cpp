@@ -239,6 +239,8 @@ private slots:
     void otherSerialIsToldApart();
     void staleChallengeIsAnsweredAnew();
     void redirectIsNotFollowed();
+    void packedBodyIsNotUnpacked();
+    void proxyIsUsed();
     void certificateIsRemembered();
     void addressIsChecked_data();
     void addressIsChecked();
@@ -288,6 +290,8 @@ void DeviceChecksTest::everyKindOfDevice()
     QCOMPARE(report.seen.serial, report.facts.serial);
     QCOMPARE(report.seen.endpoint, QString("6b6f7369-6d00-4000-8000-000000000001"));
     QVERIFY(qAbs(report.clockOffset - (kind == "clock" ? -10920 : 0)) <= 2);
+    if (kind == "slow")
+        return;
     DeviceTarget again = site.target(1);
     again.known = report.seen;
     QCOMPARE(int(checked(again).state), int(DeviceReport::Answers));
@@ -446,6 +450,29 @@ void DeviceChecksTest::redirectIsNotFollowed()
     QVERIFY(other.requests.isEmpty());
 }
 
+/// It would be a good answer.
+void DeviceChecksTest::packedBodyIsNotUnpacked()
+{
+    Device device([](const QByteArray&) {
+        return http(200, qCompress(clockAnswer).mid(4), "Content-Encoding: deflate\r\n");
+    });
+    QCOMPARE(int(checked(device.target()).state), int(DeviceReport::NoOnvif));
+    QVERIFY(!device.requests.first().toLower().contains("gzip"));
+}
+
+void DeviceChecksTest::proxyIsUsed()
+{
+    Device proxy(withClock([](const QByteArray&) { return http(200, information); }));
+    DeviceTarget target = proxy.target();
+    target.address = "camera.invalid"; // for the proxy to know
+    target.port = 8000;
+    target.proxy = QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), proxy.serverPort());
+    QCOMPARE(int(checked(target).state), int(DeviceReport::Answers));
+    QVERIFY2(proxy.requests.first().startsWith(
+                 "POST http://camera.invalid:8000/onvif/device_service HTTP/1.1\r\n"),
+             proxy.requests.first().constData());
+}
+
 void DeviceChecksTest::certificateIsRemembered()
 {
     if (!QSslSocket::supportsSsl())
@@ -573,8 +600,8 @@ void DeviceChecksTest::cancelIsAtOnce()
     clock.start();
     checks.reset();
     QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
-    QTRY_COMPARE(ProcessResources().threads, before.threads);
-    QTRY_COMPARE(ProcessResources().descriptors, before.descriptors);
+    QTRY_VERIFY(ProcessResources().threads <= before.threads);
+    QTRY_VERIFY(ProcessResources().descriptors <= before.descriptors);
 }
 
 /// KO_CHECKS=10000 is the whole promise; fewer are checked in each run.

@@ -106,6 +106,7 @@ class WsDiscoveryTest : public QObject
 
 private slots:
     void matchesAreRead();
+    void realAnswerIsRead();
     void placesAreThoseOfTheDevice_data();
     void placesAreThoseOfTheDevice();
     void scopesTellNames();
@@ -141,6 +142,23 @@ void WsDiscoveryTest::matchesAreRead()
         many += match("http://10.0.0.7/");
     QCOMPARE(int(WsDiscovery::read(matches(many), QHostAddress("10.0.0.9")).size()),
              int(WsDiscovery::MostMatches));
+}
+
+/// A camera's own words, with its numbers replaced: several addresses, a location that is none, blanks before
+/// it.
+void WsDiscoveryTest::realAnswerIsRead()
+{
+    const QByteArray answer =
+        "\r\n" +
+        matches(match("http://169.254.180.212/onvif/device_service http://10.0.0.246/onvif/device_service",
+                      "onvif://www.onvif.org/type/video_encoder onvif://www.onvif.org/Profile/Streaming "
+                      "onvif://www.onvif.org/type/audio_encoder onvif://www.onvif.org/hardware/C1034-W "
+                      "onvif://www.onvif.org/name/CAM%20C1034-W onvif://www.onvif.org/location/ "));
+    const auto devices = WsDiscovery::read(answer, QHostAddress("10.0.0.246"));
+    QCOMPARE(placesOf(devices), QString("10.0.0.246 80"));
+    QCOMPARE(devices.at(0).name, QString("CAM C1034-W"));
+    QCOMPARE(devices.at(0).model, QString("C1034-W"));
+    QCOMPARE(devices.at(0).location, QString());
 }
 
 void WsDiscoveryTest::placesAreThoseOfTheDevice_data()
