@@ -8,6 +8,7 @@
 #include "database/HostNodeDB.h"
 #include "discovery/ArpScanner.h"
 #include "discovery/MdnsScanner.h"
+#include "discovery/WsDiscoveryScanner.h"
 #include "exchange/CameraSurvey.h"
 #include "exchange/ExportFile.h"
 #include "exchange/FileName.h"
@@ -81,6 +82,7 @@ bool showWindow(HostNodeDB& db, int* exitCode)
     const BackupKeeper backups(db.fileName());
     db.addScanner(std::make_unique<MdnsScanner>());
     db.addScanner(std::make_unique<ArpScanner>());
+    db.addScanner(std::make_unique<WsDiscoveryScanner>());
     MainWindow window(db);
     bool isUsable = true;
     QObject::connect(&db, &HostNodeDB::checked, &window, [&isUsable](const StoreError& error) {

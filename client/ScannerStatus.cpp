@@ -45,7 +45,7 @@ void ScannerStatus::refresh()
     for (const Scanner* scanner : scanners) {
         const ScannerState state = scanner->state();
         anyStarted = anyStarted || state.phase != ScannerState::Idle;
-        texts.append(describe(scanner->name(), state));
+        texts.append(describe(scanner->title(), state));
     }
     setText(anyStarted ? texts.join(QStringLiteral("  |  ")) : QString());
 }

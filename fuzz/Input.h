@@ -25,6 +25,21 @@ inline QString text(const uint8_t* data, size_t size)
     return units;
 }
 
+/// A message as it comes or, when the first byte is odd, in the envelope that it would take long to find, and
+/// in \a element, if there is one.
+inline QByteArray soap(const uint8_t* data, size_t size, const char* element)
+{
+    if (size == 0)
+        return QByteArray();
+    const QByteArray text(reinterpret_cast<const char*>(data) + 1, int(size) - 1);
+    if (!(data[0] & 1))
+        return text;
+    const QByteArray name(element);
+    const QByteArray inside = name.isEmpty() ? text : '<' + name + '>' + text + "</" + name + '>';
+    return "<s:Envelope xmlns:s=\"http://www.w3.org/2003/05/soap-envelope\"><s:Body>" + inside +
+           "</s:Body></s:Envelope>";
+}
+
 /// Ends the program when what must hold does not.
 inline void require(bool holds, const char* what)
 {

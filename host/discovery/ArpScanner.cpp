@@ -1,132 +1,94 @@
 #include "discovery/ArpScanner.h"
 
 #include "discovery/ArpSweep.h"
+#include "discovery/DirectedProbes.h"
+#include "discovery/ScanThread.h"
 #include "ko/LogQt.h"
 
-#include <QElapsedTimer>
-
-#include <atomic>
-#include <thread>
-#include <utility>
-
-#include <sys/eventfd.h>
-#include <unistd.h>
+#include <QSet>
 
 namespace ko {
 
 namespace {
 
-const int PostInterval = 100; // ms
-
-} // namespace
-
-class ArpScanner::Worker
+class ArpSession : public ScanThread
 {
 public:
-    Worker(ArpScanner& scanner, int run, unsigned interfaces, int limit)
-        : m_scanner(scanner)
-        , m_run(run)
+    ArpSession(ArpScanner& scanner, const Take& take, unsigned interfaces, int limit, quint16 discoveryPort)
+        : ScanThread(scanner, take, limit)
         , m_interfaces(interfaces)
-        , m_left(limit)
-        , m_wakeup(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
-        , m_thread([this] { work(); })
+        , m_probes(discoveryPort)
     {
-    }
-
-    ~Worker()
-    {
-        m_stop = true;
-        eventfd_write(m_wakeup, 1);
-        m_thread.join();
-        close(m_wakeup);
     }
 
 private:
-    bool isWanted() const { return !m_stop && m_left != 0; }
-    void work();
+    void work() override;
     void sweep(const ArpSweepRange& range);
     void take(const QVector<DiscoveredDevice>& devices);
-    void post();
 
-    ArpScanner& m_scanner;
-    const int m_run;
     const unsigned m_interfaces;
-    int m_left; ///< devices to report; below 0 for no limit
-    const int m_wakeup;
-    std::atomic<bool> m_stop{false};
-    QElapsedTimer m_sincePost;
-    QVector<DiscoveredDevice> m_found;
-    ScannerState m_state;
-    std::thread m_thread; ///< last, so that it begins when all else is there
+    DirectedProbes m_probes;
+    QSet<QString> m_reported; ///< addresses; two ways to find a device count once
 };
 
-void ArpScanner::Worker::work()
+void ArpSession::work()
 {
     const QVector<ArpSweepRange> ranges = ArpSweepRange::attached(m_interfaces);
-    m_state.phase = ranges.isEmpty() ? ScannerState::Unavailable : ScannerState::Running;
+    state().phase = ranges.isEmpty() ? ScannerState::Unavailable : ScannerState::Running;
     if (ranges.isEmpty())
-        m_state.reason = ArpScanner::tr("no IPv4 network is attached");
+        state().reason = ArpScanner::tr("no IPv4 network is attached");
     for (const ArpSweepRange& range : ranges)
-        m_state.total += range.size();
+        state().total += range.size();
     for (const ArpSweepRange& range : ranges) {
-        if (isWanted() && m_state.phase == ScannerState::Running)
+        if (isWanted() && state().phase == ScannerState::Running)
             sweep(range);
     }
-    if (m_state.phase == ScannerState::Running)
-        m_state.phase = ScannerState::Done;
-    post();
+    if (state().phase == ScannerState::Running)
+        state().phase = ScannerState::Done;
 }
 
-void ArpScanner::Worker::sweep(const ArpSweepRange& range)
+void ArpSession::sweep(const ArpSweepRange& range)
 {
-    m_state.where = range.text();
+    state().where = range.text();
     if (range.isPart())
         LogQt::line(LogQt::Info,
                     QString::fromLatin1("The ARP scan looks only at a part of a large network: %1")
                         .arg(range.text()));
     ArpSweep sweep(range);
     if (!sweep.error().isEmpty()) {
-        m_state.phase = ScannerState::Unavailable;
-        m_state.reason = sweep.error();
+        state().phase = ScannerState::Unavailable;
+        state().reason = sweep.error();
         return;
     }
-    const int before = m_state.done;
+    const int before = state().done;
     post();
-    while (isWanted() && !sweep.isDone()) {
-        take(sweep.step(m_wakeup));
-        m_state.done = before + sweep.done();
-        if (m_sincePost.hasExpired(PostInterval))
-            post();
+    while (isWanted() && !(sweep.isDone() && m_probes.isDone())) {
+        take(sweep.step(wakeup()));
+        const QVector<Neighbour> there = sweep.takeThere();
+        for (const Neighbour& neighbour : there)
+            m_probes.ask(neighbour.address, neighbour.macAddress);
+        take(m_probes.step());
+        state().done = before + sweep.done();
+        postNowAndThen();
     }
 }
 
-void ArpScanner::Worker::take(const QVector<DiscoveredDevice>& devices)
+void ArpSession::take(const QVector<DiscoveredDevice>& devices)
 {
     for (const DiscoveredDevice& device : devices) {
-        if (m_left == 0)
+        if (!m_reported.contains(device.address) && !count())
             return;
-        m_found.append(device);
-        m_left -= m_left > 0 ? 1 : 0;
+        m_reported.insert(device.address);
+        found(device);
     }
 }
 
-void ArpScanner::Worker::post()
-{
-    m_sincePost.start();
-    const auto deliver = [scanner = &m_scanner, run = m_run, state = m_state,
-                          found = std::exchange(m_found, {})] { scanner->arrived(run, found, state); };
-    QMetaObject::invokeMethod(&m_scanner, deliver, Qt::QueuedConnection);
-}
+} // namespace
 
-ArpScanner::ArpScanner(QObject* parent)
-    : Scanner(parent)
+ArpScanner::ArpScanner(QObject* parent, quint16 discoveryPort)
+    : SessionScanner(parent)
+    , m_discoveryPort(discoveryPort)
 {
-}
-
-ArpScanner::~ArpScanner()
-{
-    ++m_run;
-    m_worker.reset();
 }
 
 QString ArpScanner::name() const
@@ -134,49 +96,11 @@ QString ArpScanner::name() const
     return QLatin1String("ARP");
 }
 
-void ArpScanner::start(unsigned interfaces, int limit)
+std::shared_ptr<ScanSession> ArpScanner::begin(const ScanSession::Take& take, unsigned interfaces, int limit)
 {
-    if (m_worker)
-        return;
-    ScannerState state;
-    state.phase = ScannerState::Running;
-    m_worker = std::make_unique<Worker>(*this, ++m_run, interfaces, limit);
-    setState(state);
-}
-
-void ArpScanner::stop()
-{
-    if (!m_worker)
-        return;
-    ++m_run;
-    m_worker.reset();
-    ScannerState state = m_state;
-    state.phase = ScannerState::Cancelled;
-    setState(state);
-}
-
-ScannerState ArpScanner::state() const
-{
-    return m_state;
-}
-
-void ArpScanner::arrived(int run, const QVector<DiscoveredDevice>& devices, const ScannerState& state)
-{
-    if (run != m_run)
-        return;
-    if (!devices.isEmpty())
-        emit found(devices);
-    if (run != m_run) // its receiver has stopped it
-        return;
-    if (state.phase != ScannerState::Running)
-        m_worker.reset();
-    setState(state);
-}
-
-void ArpScanner::setState(const ScannerState& state)
-{
-    m_state = state;
-    emit stateChanged();
+    const auto session = std::make_shared<ArpSession>(*this, take, interfaces, limit, m_discoveryPort);
+    session->begin();
+    return session;
 }
 
 } // namespace ko

@@ -1,12 +1,11 @@
 #include "discovery/ArpSweep.h"
 
-#include "discovery/NeighbourTable.h"
+#include "discovery/ScanClock.h"
 
 #include <QCoreApplication>
 #include <QHostAddress>
 
 #include <cerrno>
-#include <chrono>
 #include <cstring>
 #include <utility>
 
@@ -22,13 +21,6 @@ namespace {
 const quint16 DiscardPort = 9;
 const int MostTries = 2;
 const int RepeatDelay = 100; // ms; what failed just before we asked must not count for our datagram
-
-qint64 now()
-{
-    return std::chrono::duration_cast<std::chrono::milliseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
 
 /// Says over which interface and from which address a datagram goes, whatever the routes prefer.
 void setSource(msghdr& message, char* buffer, size_t size, const ArpSweepRange& range)
@@ -83,8 +75,8 @@ QVector<DiscoveredDevice> ArpSweep::step(int wakeup)
 {
     sendNext();
     wait(wakeup);
-    if (now() - m_lastLook >= StepTime) {
-        m_lastLook = now();
+    if (scanClock() - m_lastLook >= StepTime) {
+        m_lastLook = scanClock();
         readTable();
     }
     return askPorts();
@@ -120,7 +112,7 @@ void ArpSweep::sendNext()
         if (budget-- == 0 || !send(flight.first))
             return;
         ++flight.second.sent;
-        flight.second.sentAt = now();
+        flight.second.sentAt = scanClock();
     }
     for (; budget > 0 && m_next <= qint64(m_range.last) && m_flights.size() < MostInFlight; ++m_next) {
         const auto address = quint32(m_next);
@@ -130,7 +122,7 @@ void ArpSweep::sendNext()
         }
         if (!send(address))
             return;
-        m_flights[address] = {1, now()};
+        m_flights[address] = {1, scanClock()};
         --budget;
     }
 }
@@ -144,7 +136,7 @@ void ArpSweep::wait(int wakeup) const
 
 bool ArpSweep::isSilent(const Flight& flight, bool failed) const
 {
-    const qint64 age = flight.sentAt == 0 ? 0 : now() - flight.sentAt;
+    const qint64 age = flight.sentAt == 0 ? 0 : scanClock() - flight.sentAt;
     return age >= AnswerTimeout || (failed && age >= RepeatDelay);
 }
 
@@ -162,6 +154,7 @@ void ArpSweep::readTable()
         if (!entry.macAddress.isEmpty()) {
             m_macs[flight->first] = entry.macAddress;
             m_ports.add(flight->first);
+            m_there.append(entry);
             flight = m_flights.erase(flight);
         } else if (!isSilent(flight->second, entry.failed)) {
             ++flight;

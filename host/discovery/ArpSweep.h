@@ -4,8 +4,10 @@
 #include "discovery/ArpSweepPorts.h"
 #include "discovery/ArpSweepRange.h"
 #include "discovery/DiscoveredDevice.h"
+#include "discovery/NeighbourTable.h"
 
 #include <map>
+#include <utility>
 
 namespace ko {
 
@@ -35,6 +37,9 @@ public:
     int done() const { return m_done; }
     bool isDone() const;
 
+    /// The hosts that turned out to be there since the last call, cameras or not.
+    QVector<Neighbour> takeThere() { return std::exchange(m_there, {}); }
+
     /// Sends, waits for up to StepTime or until \a wakeup can be read, and answers which cameras were found.
     QVector<DiscoveredDevice> step(int wakeup);
 
@@ -63,6 +68,7 @@ private:
     qint64 m_lastLook = 0;
     std::map<quint32, Flight> m_flights;
     std::map<quint32, QByteArray> m_macs; ///< of those whose ports are asked
+    QVector<Neighbour> m_there;
 };
 
 } // namespace ko

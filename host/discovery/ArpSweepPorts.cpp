@@ -1,8 +1,9 @@
 #include "discovery/ArpSweepPorts.h"
 
+#include "discovery/ScanClock.h"
+
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 
 #include <netinet/in.h>
 #include <poll.h>
@@ -15,13 +16,6 @@ namespace {
 
 const int portTable[] = {80, 8080, 443, 8443, 8000, 554, 8554};
 static_assert(sizeof portTable / sizeof *portTable == ArpSweepPorts::PortCount, "one socket for each port");
-
-qint64 now()
-{
-    return std::chrono::duration_cast<std::chrono::milliseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
 
 void closeSocket(int& descriptor)
 {
@@ -86,7 +80,7 @@ ArpSweepPorts::Host ArpSweepPorts::begin(quint32 address)
 {
     Host host;
     host.address = address;
-    host.deadline = now() + Patience;
+    host.deadline = scanClock() + Patience;
     for (int i = 0; i < PortCount; ++i)
         host.sockets[i] = beginConnect(address, portTable[i], host.open[i]);
     return host;
@@ -95,7 +89,7 @@ ArpSweepPorts::Host ArpSweepPorts::begin(quint32 address)
 /// An open port is the answer when none before it may still open.
 bool ArpSweepPorts::isDecided(Host& host)
 {
-    const bool isLate = now() >= host.deadline;
+    const bool isLate = scanClock() >= host.deadline;
     for (int i = 0; i < PortCount; ++i) {
         if (host.sockets[i] >= 0 && (isSettled(host.sockets[i], host.open[i]) || isLate))
             closeSocket(host.sockets[i]);

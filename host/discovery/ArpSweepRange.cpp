@@ -1,5 +1,7 @@
 #include "discovery/ArpSweepRange.h"
 
+#include "discovery/ScanInterfaces.h"
+
 #include <QHostAddress>
 
 #include <algorithm>
@@ -43,12 +45,6 @@ bool isUsable(const ifaddrs& entry)
            (entry.ifa_flags & (wanted | unwanted)) == wanted;
 }
 
-/// Interfaces beyond the bits are always in.
-bool isIn(unsigned interfaces, unsigned index)
-{
-    return index > 31 || (index > 0 && (interfaces & (1u << (index - 1))));
-}
-
 } // namespace
 
 QString ArpSweepRange::text() const
@@ -86,7 +82,7 @@ QVector<ArpSweepRange> ArpSweepRange::attached(unsigned interfaces)
     const std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> owner(entries, freeifaddrs);
     for (const ifaddrs* entry = entries; entry; entry = entry->ifa_next) {
         const unsigned index = isUsable(*entry) ? if_nametoindex(entry->ifa_name) : 0;
-        if (index == 0 || !isIn(interfaces, index))
+        if (index == 0 || !isScanned(interfaces, int(index)))
             continue;
         ArpSweepRange range = around(addressOf(entry->ifa_addr), addressOf(entry->ifa_netmask));
         range.interface = int(index);

@@ -5,7 +5,7 @@
 #include "discovery/AddressChangeLogEntry.h"
 #include "discovery/KnownAddresses.h"
 #include "discovery/Scanner.h"
-#include "discovery/ServiceTypes.h"
+#include "discovery/SightedDevices.h"
 #include "discovery/SightingFilter.h"
 #include "interfaces/INodeDriverComponent.h"
 #include "ko/IPDeviceNode.h"
@@ -20,7 +20,6 @@
 
 #include <algorithm>
 #include <deque>
-#include <vector>
 
 namespace ko {
 
@@ -30,60 +29,14 @@ const int Slice = 2;      // ms of work in one turn of the event loop; storing a
 const int SliceAlone = 1; // ms of these, where storing follows at once
 const int Patience = 500; // ms; until the next try, when another program holds the database
 const int Ripening = 500; // ms; in which the other services and addresses of a device arrive
-const int DevicesAtOnePlace = 64; // with one address or one name; bounds the work for one sighting
-const int AddressesOfOne = 8;
-const int ServicesOfOne = 16;
 
-/// One device, from whatever was seen of it.
-struct Device
+typedef SightedDevice Device;
+
+/// What the user finds it by when it does not call itself anything.
+QString nameOf(const Device& device, const QString& address)
 {
-    struct Service
-    {
-        QString type;
-        QString name;
-        int port;
-    };
-
-    QString name;
-    QString model;
-    QString version;
-    QString mac; ///< canonical; empty for none
-    QStringList addresses;
-    QVector<Service> services;
-    QString nodeId;    ///< of a device that has a node
-    qint64 due = 0;    ///< when a node is looked for or made
-    bool isNew = true; ///< not dealt with yet
-    unsigned scan = 0; ///< in which it was seen last
-};
-
-int rankOf(const QString& service)
-{
-    for (const ServiceType& known : serviceTypes) {
-        if (service == QLatin1String(known.type))
-            return known.rank;
-    }
-    return unknownServiceRank;
-}
-
-bool isIPv6(const QString& address)
-{
-    return address.contains(QLatin1Char(':'));
-}
-
-/// IPv4 before IPv6, and an address that only one link knows last.
-int rankOfAddress(const QString& address)
-{
-    return !isIPv6(address) ? 0 : address.startsWith(QLatin1String("fe80"), Qt::CaseInsensitive) ? 2 : 1;
-}
-
-bool contradict(const QString& a, const QString& b)
-{
-    return !a.isEmpty() && !b.isEmpty() && a.compare(b, Qt::CaseInsensitive) != 0;
-}
-
-QString instanceKey(const DiscoveredDevice& seen)
-{
-    return QStringList{seen.service, QString::number(seen.port), seen.name.toLower()}.join(QChar(0x1f));
+    const QStringList words = {device.name, device.model, device.location, address};
+    return *std::find_if(words.begin(), words.end(), [](const QString& word) { return !word.isEmpty(); });
 }
 
 } // namespace
@@ -97,13 +50,10 @@ public:
     void work();
     bool isRipe() const;
     void sighted(DiscoveredDevice seen);
-    Device* atSameAddress(const DiscoveredDevice& seen) const;
-    Device* elsewhere(const DiscoveredDevice& seen) const;
     Device* add();
     void absorb(Device& device, const DiscoveredDevice& seen);
     void settle(Device& device);
     QString nodeOf(const Device& device);
-    bool sharesAddress(const Device& device) const;
     kom::smart<NodeHint> hint(const Device& device, const QString& address, int port) const;
     bool noteChange(Device& device);
     void seenAtHome(const Device& device);
@@ -117,11 +67,8 @@ public:
     QTimer timer;
     QElapsedTimer clock;
     std::deque<DiscoveredDevice> waiting;
-    std::vector<std::unique_ptr<Device>> devices;
+    SightedDevices devices;
     std::deque<Device*> ripening; ///< in the order of their due time
-    QHash<QString, QVector<Device*>> byAddress;
-    QHash<QString, QVector<Device*>> byInstance;
-    QHash<QString, int> macUses;
     QVector<AddressChange> changes;
     QHash<QString, Device*> changedDevices; ///< by the new address
     QSet<QString> dismissed;
@@ -187,55 +134,11 @@ void DeviceIntake::Private::sighted(DiscoveredDevice seen)
 {
     if (!filter.pass(seen))
         return;
-    Device* device = atSameAddress(seen);
-    if (!device)
-        device = elsewhere(seen);
+    Device* device = devices.find(seen);
     if (!device)
         device = add();
     if (device)
         absorb(*device, seen);
-}
-
-/// What answers at one address is one device, unless it offers one service twice, by two names at two
-/// ports: then there are several behind that address.
-Device* DeviceIntake::Private::atSameAddress(const DiscoveredDevice& seen) const
-{
-    const QVector<Device*> candidates = byAddress.value(NetworkAddress::key(seen.address));
-    Device* fits = nullptr;
-    for (Device* device : candidates) {
-        if (!seen.name.isEmpty() && device->name.compare(seen.name, Qt::CaseInsensitive) == 0)
-            return device;
-        const auto isAnother = [&seen](const Device::Service& service) {
-            return service.type == seen.service && service.port != seen.port &&
-                   contradict(service.name, seen.name);
-        };
-        if (!fits && std::none_of(device->services.cbegin(), device->services.cend(), isAnother))
-            fits = device;
-    }
-    if (fits || candidates.size() < DevicesAtOnePlace)
-        return fits;
-    return candidates.at(0); // so many are none
-}
-
-/// The same announcement from another address is the same device when that is of the other family or
-/// when the MAC addresses are equal too.
-Device* DeviceIntake::Private::elsewhere(const DiscoveredDevice& seen) const
-{
-    if (seen.name.isEmpty() || seen.service.isEmpty())
-        return nullptr;
-    const QVector<Device*> candidates = byInstance.value(instanceKey(seen));
-    for (Device* device : candidates) {
-        if (contradict(device->mac, seen.macAddress) || device->addresses.size() >= AddressesOfOne)
-            continue;
-        const bool sameMac = !seen.macAddress.isEmpty() && device->mac == seen.macAddress;
-        const bool otherFamily = std::none_of(
-            device->addresses.cbegin(), device->addresses.cend(), [&seen](const QString& address) {
-                return rankOfAddress(address) == rankOfAddress(seen.address);
-            });
-        if (otherFamily || (sameMac && device->isNew))
-            return device;
-    }
-    return nullptr;
 }
 
 Device* DeviceIntake::Private::add()
@@ -245,8 +148,7 @@ Device* DeviceIntake::Private::add()
         return nullptr;
     }
     ++newInScan;
-    devices.push_back(std::make_unique<Device>());
-    Device* device = devices.back().get();
+    Device* device = &devices.add();
     device->due = clock.elapsed() + Ripening;
     ripening.push_back(device);
     schedule(Ripening);
@@ -255,48 +157,17 @@ Device* DeviceIntake::Private::add()
 
 void DeviceIntake::Private::absorb(Device& device, const DiscoveredDevice& seen)
 {
-    const auto take = [](QString& field, const QString& value) {
-        if (field.isEmpty())
-            field = value;
-    };
-    take(device.name, seen.name);
-    take(device.model, seen.model);
-    take(device.version, seen.version);
-    if (device.mac.isEmpty() && !seen.macAddress.isEmpty()) {
-        device.mac = seen.macAddress;
-        ++macUses[device.mac];
-    }
-    if (!device.addresses.contains(seen.address) && device.addresses.size() < AddressesOfOne) {
-        device.addresses.append(seen.address);
-        byAddress[NetworkAddress::key(seen.address)].append(&device);
-    }
-    const auto isSame = [&seen](const Device::Service& service) {
-        return service.type == seen.service && service.port == seen.port && service.name == seen.name;
-    };
-    if (std::none_of(device.services.cbegin(), device.services.cend(), isSame) &&
-        device.services.size() < ServicesOfOne) {
-        device.services.append({seen.service, seen.name, seen.port});
-        QVector<Device*>& instances = byInstance[instanceKey(seen)];
-        if (instances.size() < DevicesAtOnePlace)
-            instances.append(&device);
-    }
+    devices.absorb(device, seen);
     device.scan = scan;
     if (!device.nodeId.isEmpty())
         seenAtHome(device);
-}
-
-bool DeviceIntake::Private::sharesAddress(const Device& device) const
-{
-    return std::any_of(device.addresses.cbegin(), device.addresses.cend(), [this](const QString& address) {
-        return byAddress.value(NetworkAddress::key(address)).size() > 1;
-    });
 }
 
 kom::smart<NodeHint> DeviceIntake::Private::hint(const Device& device, const QString& address, int port) const
 {
     auto hint = db.nodeDriver(IPDeviceType)->createNodeHint(IPDeviceType);
     auto* description = dynamic_cast<NodeHintIPDevice*>(hint.get());
-    hint->setName(!device.name.isEmpty() ? device.name : !device.model.isEmpty() ? device.model : address);
+    hint->setName(nameOf(device, address));
     description->address = address;
     if (port > 0)
         description->port = port;
@@ -316,7 +187,7 @@ QString DeviceIntake::Private::nodeOf(const Device& device)
                 return id;
         }
     }
-    if (sharesAddress(device))
+    if (devices.sharesAddress(device))
         return QString();
     for (const QString& address : device.addresses) {
         const QStringList ids = known.nodesAt(address);
@@ -348,18 +219,12 @@ bool DeviceIntake::Private::noteChange(Device& device)
     const bool sameModel = !node.null() && !device.model.isEmpty() && node->model() == device.model;
     if (node.null() || (!sameModel && node->name() != device.name) || contradict(node->model(), device.model))
         return false;
-    const auto isAtHome = [&](const std::unique_ptr<Device>& other) {
-        return other.get() != &device && other->mac == device.mac && other->scan == scan;
-    };
-    const QVector<Device*> atOldAddress = byAddress.value(NetworkAddress::key(node->address()));
+    const QVector<Device*> atOldAddress = devices.at(node->address());
     const bool oldAnswers = std::any_of(atOldAddress.cbegin(), atOldAddress.cend(),
                                         [this](const Device* other) { return other->scan == scan; });
-    if (oldAnswers ||
-        (macUses.value(device.mac) > 1 && std::any_of(devices.cbegin(), devices.cend(), isAtHome)))
+    if (oldAnswers || devices.sharesMac(device, scan))
         return false;
-    const QString address = *std::min_element(
-        device.addresses.cbegin(), device.addresses.cend(),
-        [](const QString& a, const QString& b) { return rankOfAddress(a) < rankOfAddress(b); });
+    const QString address = device.bestAddress();
     if (dismissed.contains(ids.at(0) + QLatin1Char(' ') + address) || changes.size() >= ChangesLimit)
         return true;
     const AddressChange change{ids.at(0), node->name(), node->address(), address, device.mac};
@@ -389,18 +254,7 @@ void DeviceIntake::Private::seenAtHome(const Device& device)
 
 void DeviceIntake::Private::createNode(Device& device)
 {
-    const QString address = *std::min_element(
-        device.addresses.cbegin(), device.addresses.cend(),
-        [](const QString& a, const QString& b) { return rankOfAddress(a) < rankOfAddress(b); });
-    int port = 0;
-    int rank = unknownServiceRank + 100;
-    for (const Device::Service& service : std::as_const(device.services)) {
-        if (service.port > 0 && rankOf(service.type) < rank) {
-            port = service.port;
-            rank = rankOf(service.type);
-        }
-    }
-    const auto description = hint(device, address, port);
+    const auto description = hint(device, device.bestAddress(), device.bestPort());
     device.nodeId = db.add(*description);
 }
 
@@ -435,26 +289,12 @@ void DeviceIntake::beginScan()
     d->newInScan = 0;
     d->saidDropped = false;
     d->filter.beginScan();
-    QSet<const Device*> gone;
-    for (const auto& device : d->devices) {
-        const bool isNoted = std::find(d->changedDevices.cbegin(), d->changedDevices.cend(), device.get()) !=
+    d->devices.removeIf([this](const Device& device) {
+        const bool isNoted = std::find(d->changedDevices.cbegin(), d->changedDevices.cend(), &device) !=
                              d->changedDevices.cend();
-        const bool hasNode = !device->nodeId.isEmpty() && !d->db.summary(device->nodeId).id.isEmpty();
-        if (!device->isNew && !hasNode && !isNoted)
-            gone.insert(device.get());
-    }
-    const auto isGone = [&gone](const auto& device) { return gone.contains(&*device); };
-    for (auto* index : {&d->byAddress, &d->byInstance}) {
-        for (auto it = index->begin(); it != index->end();) {
-            it->erase(std::remove_if(it->begin(), it->end(), isGone), it->end());
-            it = it->isEmpty() ? index->erase(it) : std::next(it);
-        }
-    }
-    for (const Device* device : std::as_const(gone)) {
-        if (!device->mac.isEmpty() && --d->macUses[device->mac] == 0)
-            d->macUses.remove(device->mac);
-    }
-    d->devices.erase(std::remove_if(d->devices.begin(), d->devices.end(), isGone), d->devices.end());
+        const bool hasNode = !device.nodeId.isEmpty() && !d->db.summary(device.nodeId).id.isEmpty();
+        return !device.isNew && !hasNode && !isNoted;
+    });
 }
 
 bool DeviceIntake::isIdle() const

@@ -17,6 +17,8 @@ struct DiscoveredDevice
     QString model;      ///< empty when not told
     QString version;    ///< firmware; empty when not told
     QString macAddress; ///< a hint, in any notation; empty when not told
+    QString location;   ///< where it says it hangs; may be empty
+    QString identity;   ///< what it calls itself whatever its address; a hint, empty when not told
 };
 
 } // namespace ko

@@ -1,6 +1,7 @@
 #include "discovery/MdnsSession.h"
 
 #include "discovery/MdnsTxt.h"
+#include "discovery/ScanInterfaces.h"
 #include "discovery/ServiceTypes.h"
 
 #include <avahi-common/address.h>
@@ -26,12 +27,6 @@ const int PollTimeout = 200;        // ms
 const int BatchSize = 500;
 const std::chrono::seconds RetryInterval(2);
 const std::chrono::milliseconds EndingPatience(500); // before it is said that a session waits for one
-
-/// Interfaces beyond the bits are always in.
-bool isIn(unsigned interfaces, AvahiIfIndex index)
-{
-    return index < 1 || index > 31 || (interfaces & (1u << (index - 1)));
-}
 
 QString textOf(const AvahiAddress& address, AvahiIfIndex interface)
 {
@@ -194,7 +189,7 @@ void MdnsSession::unavailable()
 
 void MdnsSession::post(ScannerState::Phase phase, int error)
 {
-    MdnsReport report;
+    ScanReport report;
     report.devices = std::exchange(m_found, {});
     report.state.phase = phase;
     report.state.done = m_done;
@@ -253,7 +248,7 @@ void MdnsSession::browsed(AvahiServiceBrowser* browser, AvahiIfIndex interface, 
     auto* session = static_cast<MdnsSession*>(self);
     if (event == AVAHI_BROWSER_FAILURE)
         session->failed(avahi_client_errno(avahi_service_browser_get_client(browser)));
-    if (event != AVAHI_BROWSER_NEW || !isIn(session->m_interfaces, interface) ||
+    if (event != AVAHI_BROWSER_NEW || !isScanned(session->m_interfaces, interface) ||
         session->m_waiting.size() >= MostWaiting)
         return;
     session->m_waiting.push_back({interface, protocol, name, type, domain});

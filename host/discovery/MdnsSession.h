@@ -1,7 +1,7 @@
 #ifndef KO_MDNSSESSION_H
 #define KO_MDNSSESSION_H
 
-#include "discovery/Scanner.h"
+#include "discovery/ScanSession.h"
 
 #include <QByteArray>
 #include <QElapsedTimer>
@@ -13,28 +13,17 @@
 
 #include <atomic>
 #include <deque>
-#include <functional>
 #include <map>
 #include <memory>
 
 namespace ko {
 
-/// What a session has found since the last report, and what it is doing.
-struct MdnsReport
-{
-    QVector<DiscoveredDevice> devices;
-    ScannerState state; ///< without texts
-    int error = 0;      ///< number of Avahi; told once until the daemon is there again
-};
-
 /// Everything that talks to the daemon, from start() to stop(), in a thread of its own: each call waits for
 /// an answer, up to 25 seconds when the daemon hangs. So nobody waits for the thread. It owns the session
 /// together with whoever began it, and uses nothing that ends before the program does.
-class MdnsSession : public std::enable_shared_from_this<MdnsSession>
+class MdnsSession : public ScanSession, public std::enable_shared_from_this<MdnsSession>
 {
 public:
-    typedef std::function<void(const MdnsReport&)> Take;
-
     /// \a take is called in the thread of \a receiver, which lives until stop(). Others as Scanner::start().
     static std::shared_ptr<MdnsSession> begin(QObject& receiver, const Take& take, unsigned interfaces,
                                               int limit);
@@ -42,9 +31,8 @@ public:
     /// By begin() only.
     MdnsSession(QObject& receiver, const Take& take, unsigned interfaces, int limit);
 
-    /// To be called once, in the thread of the receiver: nothing is taken any more. The thread ends by
-    /// itself.
-    void stop();
+    /// The thread ends by itself.
+    void stop() override;
 
 private:
     struct Ending;

@@ -14,6 +14,13 @@ QString cleaned(const QString& text, int limit)
     return line.left(isCutInPair ? limit - 1 : limit).trimmed();
 }
 
+int rank(const QString& address)
+{
+    if (!address.contains(QLatin1Char(':')))
+        return 0;
+    return address.startsWith(QLatin1String("fe80"), Qt::CaseInsensitive) ? 2 : 1;
+}
+
 } // namespace NetworkText
 
 } // namespace ko

@@ -14,6 +14,10 @@ namespace NetworkText {
 /// kind and number are one blank.
 KO_HOST_EXPORT QString cleaned(const QString& text, int limit);
 
+/// How likely others can be reached by an address of this kind, the smallest first: IPv4 before IPv6, and
+/// last an IPv6 address that only one link knows. A device has rarely more than one of a kind.
+KO_HOST_EXPORT int rank(const QString& address);
+
 } // namespace NetworkText
 
 } // namespace ko

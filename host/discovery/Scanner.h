@@ -36,8 +36,11 @@ class KO_HOST_EXPORT Scanner : public QObject
 public:
     using QObject::QObject;
 
-    /// The name by which NodeDB::startScanners() calls it.
+    /// The name by which NodeDB::startScanners() calls it, with all others of that name.
     virtual QString name() const = 0;
+
+    /// What the user reads.
+    virtual QString title() const { return name(); }
 
     /// Begins, or begins again when it was done; does nothing while it is running. \a interfaces is a bit
     /// set of interface indexes (bit 0 is index 1; interfaces from the 32nd on are always in), \a limit

@@ -17,6 +17,9 @@ inline constexpr ServiceType serviceTypes[] = {
     {"_http._tcp", 1},  {"_rtsp._tcp", 3}, {"_rtsps._tcp", 4},
 };
 
+/// Of what is told by WS-Discovery: the port of the device service.
+inline constexpr int wsDiscoveryRank = 0;
+
 /// Between the ports that answer HTTP and those that don't.
 inline constexpr int unknownServiceRank = 2;
 

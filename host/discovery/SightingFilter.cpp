@@ -38,6 +38,8 @@ bool SightingFilter::pass(DiscoveredDevice& seen)
     seen.model = NetworkText::cleaned(seen.model, DeviceIntake::TextLength);
     seen.version = NetworkText::cleaned(seen.version, DeviceIntake::TextLength);
     seen.service = NetworkText::cleaned(seen.service, DeviceIntake::TextLength);
+    seen.location = NetworkText::cleaned(seen.location, DeviceIntake::TextLength);
+    seen.identity = NetworkText::cleaned(seen.identity, DeviceIntake::NameLength);
     seen.macAddress = usableMac(seen.macAddress);
     return true;
 }

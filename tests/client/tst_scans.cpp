@@ -3,6 +3,7 @@
 #include "discovery/ArpScanner.h"
 #include "discovery/DeviceIntake.h"
 #include "discovery/MdnsScanner.h"
+#include "discovery/WsDiscoveryScanner.h"
 #include "support/HostFixture.h"
 #include "support/LogLines.h"
 #include "support/ModalAnswer.h"
@@ -44,6 +45,8 @@ private slots:
     void cleanup();
 
     void bonjourFindsWhatIsAnnounced();
+    void wsDiscoveryFindsWhatAnswers();
+    void arpAsksForNamesAndModels();
     void arpFindsWhatListens();
     void bothScansMakeOneNode();
     void hostileAnnouncements();
@@ -76,6 +79,7 @@ void tst_Scans::init()
     m_host = std::make_unique<testsupport::HostFixture>();
     m_host->db()->addScanner(std::make_unique<MdnsScanner>());
     m_host->db()->addScanner(std::make_unique<ArpScanner>());
+    m_host->db()->addScanner(std::make_unique<WsDiscoveryScanner>());
     m_dialog = std::make_unique<NodeOverviewDialog>();
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
@@ -172,6 +176,44 @@ void tst_Scans::bonjourFindsWhatIsAnnounced()
         models += camera->model() == QLatin1String("KS-9") ? 1 : 0;
     }
     QCOMPARE(models, 2);
+}
+
+/// Without the daemons, so that nothing is announced by mDNS.
+void tst_Scans::wsDiscoveryFindsWhatAnswers()
+{
+    KO_NEED_NETWORKS();
+    QVERIFY(m_network->connectSite(Prefix));
+    for (int i = 0; i < 12; ++i)
+        QVERIFY(m_network->addSiteAddress(QStringLiteral("10.99.0.%1").arg(10 + i), Prefix));
+    QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("12"), QStringLiteral("--model"),
+                      QStringLiteral("KS-9")}));
+    press("bonjourButton");
+    QTRY_COMPARE_WITH_TIMEOUT(rows(), 12, Patience);
+    const QVector<NodeSummary> nodes = m_host->db()->summaries();
+    for (const NodeSummary& node : nodes) {
+        kom::smart<const Node> holder;
+        const IPDeviceNode* camera = device(*m_host->db(), node.id, holder);
+        QVERIFY(camera);
+        QVERIFY(camera->name().startsWith(QLatin1String("Camera ")));
+        QCOMPARE(camera->model(), QStringLiteral("KS-9"));
+        QCOMPARE(camera->port(), 8080);
+        QVERIFY(!camera->macAddress().isNull()); // the system's own knowledge
+    }
+    QTest::qWait(1500);
+    QCOMPARE(rows(), 12);
+}
+
+void tst_Scans::arpAsksForNamesAndModels()
+{
+    KO_NEED_NETWORKS();
+    QVERIFY(m_network->connectSite(Prefix));
+    QVERIFY(m_network->addSiteAddress(QStringLiteral("10.99.0.10"), Prefix));
+    QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("1"), QStringLiteral("--http-port"),
+                      QStringLiteral("8899"), QStringLiteral("--port"), QStringLiteral("8900")}));
+    press("arpButton");
+    QTRY_COMPARE_WITH_TIMEOUT(rows(), 1, Patience);
+    QCOMPARE(names(), QStringList(QStringLiteral("Camera 1")));
+    QCOMPARE(places(), QStringList(QStringLiteral("10.99.0.10")));
 }
 
 void tst_Scans::arpFindsWhatListens()

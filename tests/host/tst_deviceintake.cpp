@@ -3,6 +3,7 @@
 #include "discovery/NearbyAddresses.h"
 #include "discovery/NetworkText.h"
 #include "discovery/Scanner.h"
+#include "discovery/WsDiscovery.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHint.h"
 #include "ko/NodeHintIPDevice.h"
@@ -68,6 +69,15 @@ DiscoveredDevice seen(const QString& name, const QString& address, int port = 0,
 const QLatin1String rtsp("_rtsp._tcp");
 const QLatin1String http("_http._tcp");
 const QLatin1String axis("_axis-video._tcp");
+/// As WS-Discovery tells it.
+DiscoveredDevice answered(const QString& identity, const QString& address, int port = 80,
+                          const QString& name = QString())
+{
+    DiscoveredDevice device = seen(name, address, port, QLatin1String(WsDiscovery::Service));
+    device.identity = identity;
+    return device;
+}
+
 const QLatin1String mac1("00:11:22:33:44:55");
 
 long residentKb()
@@ -114,6 +124,10 @@ private slots:
     void knownDeviceGetsNoSecondNode();
     void channelsBehindOneAddressStay();
     void camerasBehindOneAddressAreTwo();
+    void threeScannersMakeOneNode();
+    void identityJoinsFamiliesAndNotClones();
+    void identitiesBehindOneAddressAreTwo();
+    void locationIsANameOfLastResort();
     void sharedMacIsTwoNodes();
     void movedDeviceIsNotedAndNotMoved();
     void macAloneMovesNothing();
@@ -456,6 +470,51 @@ void DeviceIntakeTest::camerasBehindOneAddressAreTwo()
     intake().beginScan();
     feed(two);
     QCOMPARE(ids().size(), 2);
+}
+
+void DeviceIntakeTest::threeScannersMakeOneNode()
+{
+    DiscoveredDevice asked = answered("urn:uuid:7", "10.0.0.7", 8000, "Gate (ONVIF)");
+    asked.model = "M10";
+    feed({seen("Gate", "10.0.0.7", 554, rtsp), asked, seen("", "10.0.0.7", 443, "", mac1),
+          seen("Gate", "10.0.0.7", 8080, http)});
+    QCOMPARE(ids().size(), 1);
+    QCOMPARE(node(0)->name(), QString("Gate"));
+    QCOMPARE(node(0)->model(), QString("M10"));
+    QCOMPARE(node(0)->port(), 8000); // of the service that it is configured through
+    QCOMPARE(node(0)->macAddress().toString(true), QString(mac1));
+}
+
+void DeviceIntakeTest::identityJoinsFamiliesAndNotClones()
+{
+    feed({answered("urn:uuid:7", "10.0.0.7"), answered("urn:uuid:7", "fd00::7"),
+          answered("urn:uuid:7", "10.0.0.8"), answered("urn:uuid:7", "fd00::8"),
+          answered("urn:uuid:7", "10.0.0.9")});
+    QCOMPARE(ids().size(), 3);
+    QStringList addresses;
+    for (int i = 0; i < 3; ++i)
+        addresses.append(node(i)->address());
+    addresses.sort();
+    QCOMPARE(addresses, (QStringList{"10.0.0.7", "10.0.0.8", "10.0.0.9"}));
+}
+
+void DeviceIntakeTest::identitiesBehindOneAddressAreTwo()
+{
+    feed({answered("urn:uuid:7", "10.0.0.7", 8001, "IPC"), answered("urn:uuid:8", "10.0.0.7", 8002, "IPC"),
+          answered("urn:uuid:7", "10.0.0.7", 8001, "IPC")});
+    QCOMPARE(ids().size(), 2);
+    // One port is one device, whatever it calls itself today.
+    feed({answered("urn:uuid:1", "10.0.0.9", 80), answered("urn:uuid:2", "10.0.0.9", 80)});
+    QCOMPARE(ids().size(), 3);
+}
+
+void DeviceIntakeTest::locationIsANameOfLastResort()
+{
+    DiscoveredDevice device = answered("urn:uuid:7", "10.0.0.7");
+    device.location = "Hall 2\x1b[31m " + QString(500, 'x');
+    feed({device});
+    QVERIFY(node(0)->name().startsWith("Hall 2[31m x"));
+    QCOMPARE(int(node(0)->name().size()), int(DeviceIntake::TextLength));
 }
 
 void DeviceIntakeTest::sharedMacIsTwoNodes()

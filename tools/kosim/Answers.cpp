@@ -24,11 +24,6 @@ bool speaks(const QByteArray& request, const QByteArray& protocol)
     return words.size() == 3 && !words.at(0).isEmpty() && words.at(2).startsWith(protocol + '/');
 }
 
-QByteArray challenge(const QByteArray& realm, const QByteArray& nonce)
-{
-    return "WWW-Authenticate: Digest realm=\"" + realm + "\", nonce=\"" + nonce + "\", algorithm=MD5\r\n";
-}
-
 } // namespace
 
 QByteArray rtspAnswer(const QByteArray& request, const QByteArray& realm, const QByteArray& nonce)
@@ -41,12 +36,9 @@ QByteArray rtspAnswer(const QByteArray& request, const QByteArray& realm, const 
            challenge(realm, nonce) + "\r\n";
 }
 
-QByteArray httpAnswer(const QByteArray& request, const QByteArray& realm, const QByteArray& nonce)
+QByteArray challenge(const QByteArray& realm, const QByteArray& nonce)
 {
-    const QByteArray end = "Content-Length: 0\r\nConnection: close\r\n\r\n";
-    if (!speaks(request, "HTTP"))
-        return "HTTP/1.1 400 Bad Request\r\n" + end;
-    return "HTTP/1.1 401 Unauthorized\r\n" + challenge(realm, nonce) + end;
+    return "WWW-Authenticate: Digest realm=\"" + realm + "\", nonce=\"" + nonce + "\", algorithm=MD5\r\n";
 }
 
 } // namespace kosim

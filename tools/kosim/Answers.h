@@ -5,14 +5,12 @@
 
 namespace kosim {
 
-/// What a camera says to one who has not told the password. A request is everything up to and with its empty
-/// line.
-
-/// 401 for each method, with the request's CSeq; 400 when it is no RTSP.
+/// What a camera says on its RTSP port to one who has not told the password: 401 for each method, with the
+/// request's CSeq; 400 when it is no RTSP. A request is everything up to and with its empty line.
 QByteArray rtspAnswer(const QByteArray& request, const QByteArray& realm, const QByteArray& nonce);
 
-/// 401 for each method; 400 when it is no HTTP.
-QByteArray httpAnswer(const QByteArray& request, const QByteArray& realm, const QByteArray& nonce);
+/// The header line that asks for HTTP digest.
+QByteArray challenge(const QByteArray& realm, const QByteArray& nonce);
 
 } // namespace kosim
 

@@ -6,8 +6,6 @@
 #include <QTcpSocket>
 #include <QTimer>
 
-#include <utility>
-
 namespace kosim {
 
 namespace {
@@ -23,51 +21,58 @@ QByteArray newNonce()
 
 } // namespace
 
-Camera::Camera(QString name, QByteArray macAddress, QByteArray model)
-    : m_name(std::move(name))
-    , m_macAddress(std::move(macAddress))
-    , m_model(std::move(model))
+Camera::Camera(const Identity& identity, Behaviour behaviour, const Account& account)
+    : m_identity(identity)
+    , m_onvif(behaviour)
+    , m_account(account)
+    , m_http([this](const QHostAddress&, const HttpRequest& request) { return answer(request); },
+             MostConnections)
 {
-    serve(m_rtsp, rtspAnswer);
-    serve(m_http, httpAnswer);
+    serveRtsp();
 }
 
-void Camera::serve(QTcpServer& server, Answer answer)
+void Camera::serveRtsp()
 {
-    QObject::connect(&server, &QTcpServer::newConnection, &server, [&server, answer] {
-        while (QTcpSocket* socket = server.nextPendingConnection()) {
+    QObject::connect(&m_rtsp, &QTcpServer::newConnection, &m_rtsp, [this] {
+        while (QTcpSocket* socket = m_rtsp.nextPendingConnection()) {
             QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
             QTimer::singleShot(Patience, socket, &QTcpSocket::abort);
-            if (server.findChildren<QTcpSocket*>().size() > MostConnections) {
+            if (m_rtsp.findChildren<QTcpSocket*>().size() > MostConnections) {
                 socket->abort();
                 continue;
             }
-            QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket, answer] {
+            QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket] {
                 QByteArray waiting = socket->peek(LongestRequest);
                 for (int end = 0; (end = int(waiting.indexOf("\r\n\r\n"))) >= 0; waiting.remove(0, end + 4))
-                    socket->write(answer(socket->read(end + 4), "kosim", newNonce()));
+                    socket->write(rtspAnswer(socket->read(end + 4), "kosim", newNonce()));
                 if (waiting.size() >= LongestRequest)
                     socket->abort();
-                else if (answer == httpAnswer && socket->bytesToWrite() > 0)
-                    socket->disconnectFromHost();
             });
         }
     });
 }
 
-QString Camera::moveTo(const QHostAddress& address, int rtspPort, int httpPort)
+/// All but the services of ONVIF asks for the password.
+HttpReply Camera::answer(const HttpRequest& request)
 {
-    m_address = address;
+    if (request.path.startsWith("/onvif/"))
+        return m_onvif.answer(request, m_identity, m_account);
+    HttpReply reply;
+    reply.status = 401;
+    reply.headers = challenge("kosim", newNonce());
+    return reply;
+}
+
+QString Camera::moveTo(const QHostAddress& address)
+{
+    m_identity.address = address;
     m_rtsp.close();
-    m_http.close();
-    for (const auto& place : {std::make_pair(&m_rtsp, rtspPort), std::make_pair(&m_http, httpPort)}) {
-        if (!place.first->listen(address, quint16(place.second)))
-            return QStringLiteral("cannot listen at %1, port %2: %3")
-                .arg(address.toString())
-                .arg(place.second)
-                .arg(place.first->errorString());
-    }
-    return QString();
+    if (!m_rtsp.listen(address, quint16(m_identity.rtspPort)))
+        return QStringLiteral("cannot listen at %1, port %2: %3")
+            .arg(address.toString())
+            .arg(m_identity.rtspPort)
+            .arg(m_rtsp.errorString());
+    return m_http.listen(address, m_identity.httpPort);
 }
 
 } // namespace kosim

@@ -1,11 +1,10 @@
 #ifndef KOSIM_CAMERA_H
 #define KOSIM_CAMERA_H
 
-#include <QByteArray>
-#include <QHostAddress>
-#include <QString>
+#include "HttpServer.h"
+#include "Onvif.h"
+
 #include <QTcpServer>
-#include <QVector>
 
 namespace kosim {
 
@@ -13,27 +12,26 @@ namespace kosim {
 class Camera
 {
 public:
-    Camera(QString name, QByteArray macAddress, QByteArray model);
+    Camera(const Identity& identity, Behaviour behaviour, const Account& account);
 
-    QString name() const { return m_name; }
-    QByteArray macAddress() const { return m_macAddress; }
-    QByteArray model() const { return m_model; }
-    QHostAddress address() const { return m_address; }
+    const Identity& identity() const { return m_identity; }
 
     /// Answers at this address, and no longer at another. Empty, or why it cannot.
-    QString moveTo(const QHostAddress& address, int rtspPort, int httpPort);
+    QString moveTo(const QHostAddress& address);
+
+    /// Has this address, at which another answers HTTP for it.
+    void setAddress(const QHostAddress& address) { m_identity.address = address; }
+
+    HttpReply answer(const HttpRequest& request);
 
 private:
-    typedef QByteArray (*Answer)(const QByteArray&, const QByteArray&, const QByteArray&);
+    void serveRtsp();
 
-    void serve(QTcpServer& server, Answer answer);
-
-    QString m_name;
-    QByteArray m_macAddress;
-    QByteArray m_model;
-    QHostAddress m_address;
+    Identity m_identity;
+    Onvif m_onvif;
+    const Account m_account;
     QTcpServer m_rtsp;
-    QTcpServer m_http;
+    HttpServer m_http;
 };
 
 } // namespace kosim

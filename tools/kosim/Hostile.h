@@ -16,6 +16,12 @@ QString name(int number);
 /// TXT entries: overlong, malformed, with markup, and with credentials.
 QVector<QByteArray> txt();
 
+/// Places beside the real one: of others, of this computer, and no places at all.
+QByteArray addresses();
+
+/// What follows a good message of WS-Discovery: spoilt ones.
+QVector<QByteArray> datagrams(const QByteArray& good);
+
 } // namespace Hostile
 
 } // namespace kosim

@@ -7,7 +7,7 @@ namespace kosim {
 
 namespace {
 
-const int MostCameras = 5000;
+const int MostCameras = 20000;
 const int MostStorm = 20000;
 
 /// A number in a range; what is wrong is appended to \a error.
@@ -23,8 +23,10 @@ int number(const QCommandLineParser& parser, const QString& name, int least, int
 void addOptions(QCommandLineParser& parser, const Options& defaults)
 {
     parser.setApplicationDescription(QStringLiteral(
-        "Simulates a site: virtual cameras that answer on RTSP and HTTP ports, asking for a password, and "
-        "announce\nthemselves through the Avahi daemon. Runs until it is interrupted.\n\nExit code: 0 when "
+        "Simulates a site: virtual cameras that answer on RTSP and HTTP ports, asking for a password, "
+        "announce themselves\nthrough the Avahi daemon and by WS-Discovery, and speak ONVIF. Runs until it "
+        "is "
+        "interrupted.\n\nExit code: 0 when "
         "it was "
         "ended by a signal, 1 when an address or port cannot be used, 2 for a wrong command line."));
     parser.addOptions({
@@ -42,11 +44,28 @@ void addOptions(QCommandLineParser& parser, const Options& defaults)
          QStringLiteral("port"), QString::number(defaults.httpPort)},
         {QStringLiteral("model"), QStringLiteral("Model that is announced (KS-1)."), QStringLiteral("text"),
          defaults.model},
+        {QStringLiteral("user"), QStringLiteral("Who may ask the cameras (admin)."), QStringLiteral("name"),
+         defaults.account.user},
+        {QStringLiteral("password"), QStringLiteral("With this password (kosim-pass)."),
+         QStringLiteral("text"), defaults.account.password},
+        {QStringLiteral("onvif"),
+         QStringLiteral(
+             "How they answer over ONVIF, one after the other and from the beginning again (digest): ") +
+             behaviourNames().join(QStringLiteral(", ")) + QLatin1Char('.'),
+         QStringLiteral("names"), QStringLiteral("digest")},
+        {QStringLiteral("hostile-every"),
+         QStringLiteral("Each so many answers over ONVIF as an attacker does."), QStringLiteral("number"),
+         QString::number(defaults.hostileEvery)},
+        {QStringLiteral("one-server"),
+         QStringLiteral("One HTTP server for all cameras, at all addresses of this machine, and no RTSP: for "
+                        "thousands of loopback addresses.")},
+        {QStringLiteral("discovery-port"), QStringLiteral("UDP port of WS-Discovery (3702)."),
+         QStringLiteral("port"), QString::number(defaults.discoveryPort)},
         {QStringLiteral("no-announce"), QStringLiteral("Does not announce the cameras.")},
         {QStringLiteral("hostile"),
          QStringLiteral(
              "Names with markup, control and bidirectional characters; TXT records that are overlong, "
-             "malformed and tell a password.")},
+             "malformed and tell a password; WS-Discovery with places of others and spoilt messages.")},
         {QStringLiteral("shared-mac"), QStringLiteral("All cameras announce one MAC address.")},
         {QStringLiteral("moving"),
          QStringLiteral("The cameras change between two addresses each; takes twice as many addresses.")},
@@ -78,6 +97,12 @@ QString Options::read(const QStringList& arguments)
     httpPort = number(parser, QStringLiteral("http-port"), 1, 65535, error);
     moveInterval = number(parser, QStringLiteral("move-interval"), 1, 3600, error);
     storm = number(parser, QStringLiteral("storm"), 0, MostStorm, error);
+    discoveryPort = number(parser, QStringLiteral("discovery-port"), 1, 65535, error);
+    hostileEvery = number(parser, QStringLiteral("hostile-every"), 0, MostCameras, error);
+    account = {parser.value(QStringLiteral("user")), parser.value(QStringLiteral("password"))};
+    oneServer = parser.isSet(QStringLiteral("one-server"));
+    if (error.isEmpty())
+        error = readBehaviours(parser.value(QStringLiteral("onvif")));
     model = parser.value(QStringLiteral("model"));
     announce = !parser.isSet(QStringLiteral("no-announce"));
     hostile = parser.isSet(QStringLiteral("hostile"));
@@ -88,6 +113,19 @@ QString Options::read(const QStringList& arguments)
     return error.isEmpty() ? readAddresses(parser.value(QStringLiteral("address-base")),
                                            parser.value(QStringLiteral("interface")))
                            : error;
+}
+
+QString Options::readBehaviours(const QString& names)
+{
+    behaviours.clear();
+    const QStringList words = names.split(QLatin1Char(','));
+    for (const QString& word : words) {
+        Behaviour behaviour = Behaviour::Digest;
+        if (!behaviourOf(word.trimmed(), behaviour))
+            return QStringLiteral("--onvif knows no '%1'").arg(word);
+        behaviours.append(behaviour);
+    }
+    return QString();
 }
 
 QString Options::readAddresses(const QString& base, const QString& interface)

@@ -1,6 +1,9 @@
 #ifndef KOSIM_OPTIONS_H
 #define KOSIM_OPTIONS_H
 
+#include "Behaviour.h"
+#include "Onvif.h"
+
 #include <QHostAddress>
 #include <QString>
 #include <QStringList>
@@ -21,7 +24,12 @@ struct Options
     bool sharedMac = false;
     bool moving = false;
     int moveInterval = 10; ///< s
-    int storm = 0;         ///< announcements without a camera
+    int discoveryPort = 3702;
+    Account account;
+    QVector<Behaviour> behaviours = {Behaviour::Digest}; ///< of the cameras, in turn
+    int hostileEvery = 0; ///< each so many is a hostile one instead; 0 for none
+    bool oneServer = false;
+    int storm = 0; ///< announcements without a camera
 
     bool help = false;
     QString helpText;
@@ -30,6 +38,7 @@ struct Options
     QString read(const QStringList& arguments);
 
 private:
+    QString readBehaviours(const QString& names);
     QString readAddresses(const QString& base, const QString& interface);
 };
 

@@ -38,15 +38,37 @@ Site::Site(const Options& options)
 
 Camera* Site::newCamera(int number) const
 {
-    const QString name = m_options.hostile ? Hostile::name(number) : QStringLiteral("Camera %1").arg(number);
-    return new Camera(name, macOf(m_options.sharedMac ? 0 : number), m_options.model.toUtf8());
+    Identity identity;
+    identity.name = m_options.hostile ? Hostile::name(number) : QStringLiteral("Camera %1").arg(number);
+    identity.macAddress = macOf(m_options.sharedMac ? 0 : number);
+    identity.model = m_options.model.toUtf8();
+    identity.serial = "KS" + QByteArray::number(number).rightJustified(6, '0');
+    identity.endpoint =
+        "urn:uuid:6b6f7369-6d00-4000-8000-" + QByteArray::number(number, 16).rightJustified(12, '0');
+    identity.rtspPort = m_options.rtspPort;
+    identity.httpPort = m_options.httpPort;
+    return new Camera(identity, behaviourOf(number), m_options.account);
+}
+
+Behaviour Site::behaviourOf(int number) const
+{
+    if (m_options.hostileEvery > 0 && number % m_options.hostileEvery == 0)
+        return hostileBehaviour(number / m_options.hostileEvery);
+    return m_options.behaviours.at((number - 1) % int(m_options.behaviours.size()));
 }
 
 QString Site::start()
 {
     for (int number = 1; number <= m_options.cameras; ++number)
         m_cameras.emplace_back(newCamera(number));
-    const QString error = place();
+    QString error = m_options.oneServer ? serveAll() : QString();
+    if (error.isEmpty())
+        error = place();
+    if (error.isEmpty() && m_options.announce) {
+        m_discovery =
+            std::make_unique<Discovery>(interface(), quint16(m_options.discoveryPort), m_options.hostile);
+        error = m_discovery->start();
+    }
     if (!error.isEmpty())
         return error;
     if (m_options.moving)
@@ -61,33 +83,56 @@ QString Site::start()
     return QString();
 }
 
+/// A listening socket for each of ten thousand takes more descriptors than a process has.
+QString Site::serveAll()
+{
+    const int mostConnections = 5000;
+    m_server = std::make_unique<HttpServer>(
+        [this](const QHostAddress& at, const HttpRequest& request) {
+            Camera* camera = m_byAddress.value(at);
+            HttpReply nobody;
+            nobody.status = 404;
+            return camera ? camera->answer(request) : nobody;
+        },
+        mostConnections);
+    return m_server->listen(QHostAddress::AnyIPv4, m_options.httpPort);
+}
+
 /// Cameras that move have every other address in turn.
 QString Site::place()
 {
     const int offset = m_moves % 2 * m_options.cameras;
+    m_byAddress.clear();
     for (size_t i = 0; i < m_cameras.size(); ++i) {
         Camera& camera = *m_cameras[i];
-        const QString error =
-            camera.moveTo(m_options.addresses.at(int(i) + offset), m_options.rtspPort, m_options.httpPort);
+        const QHostAddress address = m_options.addresses.at(int(i) + offset);
+        QString error;
+        if (m_server) {
+            camera.setAddress(address);
+            m_byAddress.insert(address, &camera);
+        } else {
+            error = camera.moveTo(address);
+        }
         if (!error.isEmpty())
             return error;
+        const Identity& identity = camera.identity();
         say(QStringLiteral("%1 at %2, RTSP port %3, HTTP port %4, MAC %5")
-                .arg(camera.name(), camera.address().toString(), QString::number(m_options.rtspPort),
-                     QString::number(m_options.httpPort), QString::fromLatin1(camera.macAddress())));
+                .arg(identity.name, address.toString(), QString::number(identity.rtspPort),
+                     QString::number(identity.httpPort), QString::fromLatin1(identity.macAddress)));
     }
     return QString();
 }
 
 Announcement Site::announcementOf(int camera) const
 {
-    const Camera& device = *m_cameras[size_t(camera)];
+    const Identity& device = m_cameras[size_t(camera)]->identity();
     Announcement announcement;
-    announcement.name = device.name().toUtf8();
+    announcement.name = device.name.toUtf8();
     announcement.hostName = hostOf(camera + 1);
-    announcement.address = device.address();
+    announcement.address = device.address;
     announcement.services = {{"_rtsp._tcp", m_options.rtspPort}, {"_http._tcp", m_options.httpPort}};
     announcement.txt = m_options.hostile ? Hostile::txt() : QVector<QByteArray>();
-    announcement.txt += {"model=" + device.model(), "mac=" + device.macAddress(), "version=1.0"};
+    announcement.txt += {"model=" + device.model, "mac=" + device.macAddress, "version=1.0"};
     return announcement;
 }
 
@@ -97,6 +142,10 @@ void Site::announceCameras()
     for (int i = 0; i < int(m_cameras.size()); ++i)
         all.append(announcementOf(i));
     announce(m_announcers, all);
+    QVector<Identity> identities;
+    for (const auto& camera : m_cameras)
+        identities.append(camera->identity());
+    m_discovery->announce(identities);
 }
 
 void Site::announce(Announcers& announcers, const QVector<Announcement>& announcements)

@@ -3,8 +3,10 @@
 
 #include "Announcer.h"
 #include "Camera.h"
+#include "Discovery.h"
 #include "Options.h"
 
+#include <QHash>
 #include <QObject>
 #include <QTimer>
 
@@ -33,6 +35,8 @@ private:
     typedef std::vector<std::unique_ptr<Announcer>> Announcers;
 
     Camera* newCamera(int number) const;
+    Behaviour behaviourOf(int number) const;
+    QString serveAll();
     QString place();
     Announcement announcementOf(int camera) const;
     void announceCameras();
@@ -41,6 +45,9 @@ private:
 
     const Options m_options;
     std::vector<std::unique_ptr<Camera>> m_cameras;
+    QHash<QHostAddress, Camera*> m_byAddress; ///< when there is one server
+    std::unique_ptr<HttpServer> m_server;
+    std::unique_ptr<Discovery> m_discovery;
     Announcers m_announcers;
     Announcers m_stormAnnouncers;
     QTimer m_moveTimer;

@@ -1,0 +1,80 @@
+#ifndef KOSIM_ONVIF_H
+#define KOSIM_ONVIF_H
+
+#include "Behaviour.h"
+#include "Soap.h"
+
+#include <QByteArray>
+#include <QHostAddress>
+#include <QString>
+
+namespace kosim {
+
+/// The password that all devices take.
+struct Account
+{
+    QString user = QStringLiteral("admin");
+    QString password = QStringLiteral("kosim-pass");
+};
+
+/// What a device tells of itself.
+struct Identity
+{
+    QString name;
+    QByteArray macAddress;
+    QByteArray model;
+    QByteArray serial;
+    QByteArray endpoint; ///< as a URN
+    QHostAddress address;
+    int rtspPort = 0;
+    int httpPort = 0;
+};
+
+struct HttpRequest
+{
+    QByteArray method;
+    QByteArray path;
+    QByteArray authorization;
+    QByteArray body;
+};
+
+struct HttpReply
+{
+    int status = 200;
+    QByteArray body;
+    QByteArray headers; ///< besides length and type, each with its line end
+    int delay = 0;      ///< ms; below 0 for never
+    bool isEndless = false;
+};
+
+/// The device service of one simulated camera.
+class Onvif
+{
+public:
+    explicit Onvif(Behaviour behaviour = Behaviour::Digest)
+        : m_behaviour(behaviour)
+    {
+    }
+
+    HttpReply answer(const HttpRequest& request, const Identity& identity, const Account& account);
+
+private:
+    enum class Access { Granted, Asked, Wrong, Locked };
+
+    HttpReply misbehave() const;
+    HttpReply ask(Access access) const;
+    Access access(const HttpRequest& http, const SoapRequest& soap, const Account& account);
+    bool digestFits(const HttpRequest& http, const Account& account) const;
+    bool tokenFits(const SoapRequest& soap, const Account& account) const;
+    qint64 clock() const;
+    QByteArray realm() const;
+    QByteArray perform(const SoapRequest& soap, const Identity& identity);
+
+    Behaviour m_behaviour;
+    int m_failures = 0;
+    int m_lies = 0;
+};
+
+} // namespace kosim
+
+#endif
