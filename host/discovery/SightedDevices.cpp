@@ -3,7 +3,6 @@
 #include "discovery/NetworkText.h"
 #include "discovery/ServiceTypes.h"
 #include "discovery/WsDiscovery.h"
-
 #include "model/NetworkAddress.h"
 
 #include <QSet>

@@ -615,6 +615,11 @@ void tst_CameraSurvey::portLeftOpen()
     QCOMPARE(valuesOf("new1").at(8), QString("A"));
     QCOMPARE(valuesOf("new4").at(8), QString("C"));
     QCOMPARE(valuesOf("new5").at(8), QString());
+
+    // An IPv6 address can be written in several ways.
+    import("address,port\n2001:db8::1,8080\n");
+    QCOMPARE(counts(import("address,model\n2001:DB8:0::0001,D\n")),
+             QString("0 added, 1 updated, 0 unchanged, 0 bad"));
 }
 
 void tst_CameraSurvey::portLeftOpenInANewSurvey()

@@ -2,6 +2,7 @@
 #include "audit/AuditLog.h"
 #include "ko/Environments.h"
 #include "ko/GlobalNetworkProxy.h"
+#include "ko/PropertyKeys.h"
 #include "support/TestMain.h"
 
 #include <QEventLoop>
@@ -42,6 +43,7 @@ private slots:
     void relationsKeepOrderAndAreNotDoubled();
     void lookupFindsTheOldest();
     void lookupFollowsChanges();
+    void lookupUnderstandsKeysOfBefore();
     void typeNames();
     void settingsAreStored();
     void remotePreviewOfACamera();
@@ -445,6 +447,26 @@ void TestHostNodeDB::lookupFindsTheOldest()
     QCOMPARE(m_db->lookupHint(*cameraHint(*m_db, QLatin1String("10.0.0.9"))), second);
     m_db->removeNode(second);
     QCOMPARE(m_db->lookupHint(*cameraHint(*m_db, QLatin1String("10.0.0.9"))), third);
+}
+
+void TestHostNodeDB::lookupUnderstandsKeysOfBefore()
+{
+    const QString address = QLatin1String("2001:DB8:0::1");
+    const QString id = addCamera(*m_db, QLatin1String("a"), address);
+    const QString folder = addNode(*m_db, RecordingFolderType, QLatin1String("f"), QLatin1String("C:\\a"));
+    m_db.reset();
+    PlainSql(m_file).run(
+        QLatin1String("UPDATE nodes SET lookup = replace(lookup, '2001:db8::1', '2001:db8:0::1')"));
+    QVERIFY(PlainSql(m_file)
+                .run(QLatin1String("SELECT count(*) FROM nodes WHERE instr(lookup, '2001:db8:0::1')"))
+                .toBool());
+    reopen();
+    QCOMPARE(m_db->lookupHint(*cameraHint(*m_db, address)), id);
+    QCOMPARE(m_db->lookupHint(*cameraHint(*m_db, QLatin1String("2001:db8::1"))), id);
+    const kom::smart<NodeHint> hint =
+        m_db->nodeDriver(RecordingFolderType)->createNodeHint(RecordingFolderType);
+    hint->setStringProperty(PropertyKeys::Path, QLatin1String("C:\\a"));
+    QCOMPARE(m_db->lookupHint(*hint), folder);
 }
 
 void TestHostNodeDB::lookupFollowsChanges()

@@ -281,6 +281,8 @@ void tst_NodeTypes::lookupKeys_data()
     withMac.properties.set(QLatin1String("MACAddress"), QLatin1String("00:11:22:33:44:55"));
 
     QTest::newRow("case and blanks") << gate << key(device(QLatin1String(" Gate.Example.ORG"), 80)) << true;
+    QTest::newRow("notation of IPv6") << key(device(QLatin1String("2001:db8::1"), 80))
+                                      << key(device(QLatin1String("2001:DB8:0:0::0001"), 80)) << true;
     QTest::newRow("port") << gate << key(device(QLatin1String("gate.example.org"), 81)) << false;
     QTest::newRow("type") << gate << key(device(QLatin1String("gate.example.org"), 80, UrlCameraType))
                           << true;
