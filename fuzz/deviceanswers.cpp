@@ -3,7 +3,6 @@
 #include "devices/DeviceAnswers.h"
 #include "discovery/NetworkText.h"
 #include "ko/MACAddress.h"
-
 #include "model/NetworkAddress.h"
 
 #include <initializer_list>
