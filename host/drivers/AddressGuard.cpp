@@ -1,6 +1,7 @@
 #include "drivers/AddressGuard.h"
 
 #include "drivers/AddressText.h"
+#include "ko/OutsideText.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
@@ -12,9 +13,10 @@
 
 namespace ko {
 
-AddressGuard::AddressGuard(const Fields& fields, QWidget* parent)
+AddressGuard::AddressGuard(const Fields& fields, TwinName twinName, QWidget* parent)
     : QLabel(parent)
     , m_fields(fields)
+    , m_twinName(std::move(twinName))
     , m_stored(fields.address->text())
     , m_text(m_stored)
 {
@@ -25,6 +27,7 @@ AddressGuard::AddressGuard(const Fields& fields, QWidget* parent)
     connect(m_fields.address, &QLineEdit::textEdited, this, &AddressGuard::edited);
     connect(m_fields.address, &QLineEdit::textChanged, this, &AddressGuard::changed);
     connect(m_fields.address, &QLineEdit::editingFinished, this, &AddressGuard::finished);
+    connect(m_fields.port, &QSpinBox::editingFinished, this, &AddressGuard::finished);
 }
 
 void AddressGuard::edited(const QString& text)
@@ -49,7 +52,14 @@ void AddressGuard::changed(const QString& text)
 void AddressGuard::finished()
 {
     takeApart();
-    setVisible(!text().isEmpty());
+    if (m_fields.port->isReadOnly())
+        return;
+    QString words = m_problem;
+    const QString twin = words.isEmpty() ? m_twinName() : QString();
+    if (!twin.isEmpty())
+        words = tr("\"%1\" has this address and port already.").arg(OutsideText::visible(twin));
+    setText(words);
+    setVisible(!words.isEmpty());
 }
 
 /// Shows an address that was typed with more around it in the fields where its parts belong.
@@ -76,7 +86,7 @@ void AddressGuard::takeApart()
 
 void AddressGuard::setRefused(const QString& problem)
 {
-    setText(problem);
+    m_problem = problem;
     m_fields.address->setAccessibleDescription(problem);
     const QList<QDialogButtonBox*> boxes = window()->findChildren<QDialogButtonBox*>();
     for (const QDialogButtonBox* box : boxes) {

@@ -3,6 +3,8 @@
 
 #include <QLabel>
 
+#include <functional>
+
 class QAbstractButton;
 class QLineEdit;
 class QSpinBox;
@@ -26,8 +28,11 @@ public:
         QLineEdit* password;
     };
 
+    typedef std::function<QString()>
+        TwinName; ///< of the node that has the address already; empty if none has
+
     /// The fields outlive the guard.
-    AddressGuard(const Fields& fields, QWidget* parent);
+    AddressGuard(const Fields& fields, TwinName twinName, QWidget* parent);
 
 private:
     void edited(const QString& text);
@@ -37,7 +42,9 @@ private:
     void setRefused(const QString& problem);
 
     const Fields m_fields;
+    const TwinName m_twinName;
     QString m_stored;
+    QString m_problem;
     QString m_text; ///< as it was typed or set last
     bool m_isPasted = false;
 };

@@ -2,7 +2,10 @@
 
 #include "drivers/AddressGuard.h"
 #include "drivers/GeneralPage.h"
+#include "interfaces/INodeDriverComponent.h"
+#include "ko/Node.h"
 #include "ko/NodeDB.h"
+#include "ko/NodeHintIPDevice.h"
 #include "ko/connect.h"
 
 #include <QAbstractButton>
@@ -121,6 +124,8 @@ void PageStack::alignCaptions()
 void PageStack::init(const NodeID& id, bool readOnly)
 {
     m_id = id;
+    const kom::smart<const Node> node = NodeDB::getDB()->node(id);
+    m_type = node.null() ? AllNodeTypes : node->type;
     forEach([&id](InspectorPage& page) { page.init(id); });
     if (readOnly)
         forEach([](InspectorPage& page) { page.setReadOnly(true); });
@@ -132,6 +137,7 @@ void PageStack::init(const NodeID& id, bool readOnly)
 
 void PageStack::init(const NodeHint& hint)
 {
+    m_type = hint.type;
     forEach([&hint](InspectorPage& page) { page.init(&hint); });
     connectConnectionPage(true);
     guardAddress();
@@ -212,8 +218,25 @@ void PageStack::guardAddress()
             continue;
         QWidget* page = fields.address->parentWidget();
         auto* tab = static_cast<QVBoxLayout*>(page->parentWidget()->layout());
-        tab->insertWidget(tab->indexOf(page), new AddressGuard(fields, page->parentWidget()));
+        tab->insertWidget(tab->indexOf(page),
+                          new AddressGuard(
+                              fields, [this] { return nameOfTwin(); }, page->parentWidget()));
     }
+}
+
+/// Of the node that is reached as this one will be.
+QString PageStack::nameOfTwin() const
+{
+    const kom::smart<INodeDriverComponent> driver = NodeDB::getDB()->nodeDriver(m_type);
+    const kom::smart<NodeHint> hint = driver.null() ? kom::smart<NodeHint>() : driver->createNodeHint(m_type);
+    auto* device = dynamic_cast<NodeHintIPDevice*>(hint.get());
+    if (!device)
+        return QString();
+    device->address = findChild<QLineEdit*>(QLatin1String("addressLineEdit"))->text();
+    device->port = findChild<QSpinBox*>(QLatin1String("portSpinBox"))->value();
+    device->channel = findChild<QSpinBox*>(QLatin1String("channelSpinBox"))->value();
+    const kom::smart<const Node> twin = NodeDB::getDB()->node(NodeDB::getDB()->lookupHint(*hint));
+    return twin.null() || twin->id() == m_id ? QString() : twin->name();
 }
 
 void PageStack::sslChanged(int state)

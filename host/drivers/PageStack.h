@@ -56,6 +56,7 @@ private:
     }
     void connectConnectionPage(bool proposeNames);
     void guardAddress();
+    QString nameOfTwin() const;
     void capture();
     void addPageKeys(QTabWidget* tabs);
 
@@ -65,6 +66,7 @@ private:
     std::vector<Page> m_pages;
     QLabel* const m_goneLabel;
     NodeID m_id;
+    ENodeType m_type = AllNodeTypes;
     bool m_shown = false;
 };
 

@@ -126,9 +126,10 @@ void tst_NodeCommands::columnsAreChosenAndKept()
     MainWindow window(*m_host->db());
     auto* view = window.findChild<NodeListView*>();
     QVERIFY(view->isColumnHidden(NodeListModel::TypeColumn));
-    for (QAction* action : view->header()->actions())
+    const QList<QAction*> again = view->header()->actions();
+    for (const QAction* action : again)
         QCOMPARE(action->isChecked(), action->text() != "Type");
-    view->header()->actions().constFirst()->trigger();
+    again.constFirst()->trigger();
     QVERIFY(!view->isColumnHidden(NodeListModel::TypeColumn));
     window.close(); // what it keeps is for the next test too
 }

@@ -35,6 +35,7 @@ private slots:
     void typedUrlIsTakenApartWhenLeft();
     void noAddressIsRefused_data();
     void noAddressIsRefused();
+    void sameAddressIsSaid();
     void storedAddressIsLeftAlone();
     void addressChangedElsewhereIsLeftAlone();
 
@@ -211,6 +212,27 @@ void tst_AddressGuard::noAddressIsRefused()
     QVERIFY(canBeStored(*dialog));
     QTest::keyClick(address, Qt::Key_Return);
     QCOMPARE(m_host->db()->summaries().value(0).location, QString("gate-north"));
+}
+
+void tst_AddressGuard::sameAddressIsSaid()
+{
+    m_host->add(IPDeviceType, "Main gate", "gate.example");
+    const QString id = m_host->add(IPDeviceType, "Yard", "10.0.0.2");
+    EditNodeDialog dialog(id, nullptr, false, 17, nullptr);
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto* address = child<QLineEdit>(&dialog, "addressLineEdit");
+    const auto* words = child<QLabel>(&dialog, "addressProblemLabel");
+    const auto leave = [&](const QString& typed) {
+        type(address, typed);
+        QTest::keyClick(address, Qt::Key_Tab);
+        return words->isVisible() ? words->text() : QString();
+    };
+    QVERIFY(leave("http://gate.example/").contains("Main gate"));
+    QVERIFY(canBeStored(dialog));
+    QCOMPARE(leave("10.0.0.2"), QString()); // its own
+    QCOMPARE(leave("gate.example:81"), QString());
 }
 
 void tst_AddressGuard::storedAddressIsLeftAlone()
