@@ -179,6 +179,12 @@ const QString NodeDBUtils::QualityToString(int quality)
     return QString();
 }
 
+QString NodeDBUtils::factoryExtension(const Node& camera)
+{
+    const QString extension = camera.stringProperty(PropertyKeys::FactoryIP, QString());
+    return extension == latin1("10_0_0_0") ? QString() : extension;
+}
+
 kom::smart<NodeHint> NodeDBUtils::recordingFolderHint(const QString& path, bool useGlobalPath,
                                                       const QString& cameraId)
 {
