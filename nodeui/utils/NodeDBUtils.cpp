@@ -189,7 +189,7 @@ kom::smart<NodeHint> NodeDBUtils::recordingFolderHint(const QString& path, bool 
                                                       const QString& cameraId)
 {
     const kom::smart<INodeDriverComponent> driver = NodeDB::getDB()->nodeDriver(RecordingFolderType);
-    const kom::smart<NodeHint> hint =
+    kom::smart<NodeHint> hint =
         driver.null() ? kom::smart<NodeHint>() : driver->createNodeHint(RecordingFolderType);
     if (hint.null()) {
         LogQt::line(LogQt::Error, latin1("Node driver (RecordingFolderNode) is missing"));
