@@ -3,6 +3,7 @@
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
+#include "ko/PropertyKeys.h"
 #include "pages/LayoutOptionsWidget.h"
 
 #include <QFormLayout>
@@ -47,13 +48,13 @@ void GateInspector::build()
 
 void GateInspector::load(const ko::PropertyAccess& from)
 {
-    m_name->setText(from.stringProperty(QLatin1String("Name"), QString()));
+    m_name->setText(from.stringProperty(ko::PropertyKeys::Name, QString()));
     m_place->setText(from.stringProperty(QLatin1String("Place"), QString()));
 }
 
 void GateInspector::store(ko::PropertyAccess* to) const
 {
-    to->setStringProperty(QLatin1String("Name"), m_name->text());
+    to->setStringProperty(ko::PropertyKeys::Name, m_name->text());
     to->setStringProperty(QLatin1String("Place"), m_place->text());
 }
 

@@ -7,6 +7,7 @@
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
+#include "ko/PropertyKeys.h"
 
 #include <map>
 #include <memory>
@@ -17,8 +18,8 @@ class MemoryHint : public Record<ko::NodeHint>
 {
 public:
     using Record::Record;
-    QString name() const override { return stringProperty(QLatin1String("Name"), QString()); }
-    void setName(const QString& name) override { setStringProperty(QLatin1String("Name"), name); }
+    QString name() const override { return stringProperty(ko::PropertyKeys::Name, QString()); }
+    void setName(const QString& name) override { setStringProperty(ko::PropertyKeys::Name, name); }
 };
 
 class MemoryNode : public Record<ko::Node>
@@ -27,7 +28,7 @@ public:
     MemoryNode(const QString& id, ko::ENodeType type);
 
     QString id() const override { return m_id; }
-    QString name() const override { return stringProperty(QLatin1String("Name"), QString()); }
+    QString name() const override { return stringProperty(ko::PropertyKeys::Name, QString()); }
     QIcon icon() const override { return QIcon(); }
     ko::InspectorWidget* createInspectorWidget(bool readOnly, unsigned flags) const override;
     void takeOverProperties(const ko::NodeHint& hint) override;

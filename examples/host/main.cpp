@@ -4,6 +4,7 @@
 #include "GateDriver.h"
 #include "MemoryNodeDB.h"
 #include "dialogs/EditNodeDialog.h"
+#include "ko/PropertyKeys.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -20,7 +21,7 @@ QString addGate(ko::NodeDB* database)
     const kom::smart<ko::NodeHint> hint =
         database->nodeDriver(example::GateType)->createNodeHint(example::GateType);
     hint->setName(QLatin1String("North gate"));
-    hint->setStringProperty(QLatin1String("InfoFile"), QString());
+    hint->setStringProperty(ko::PropertyKeys::InfoFile, QString());
     database->newNodeHint(*hint);
     return database->lookupHint(*hint);
 }

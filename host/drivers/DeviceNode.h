@@ -22,7 +22,7 @@ public:
     void setModel(const QString& model) override { set(PropertyKeys::Model, model); }
     QString address() const override { return get(PropertyKeys::Address, QString()); }
     void setAddress(const QString& address) override { set(PropertyKeys::Address, address); }
-    int port() const override { return get(PropertyKeys::Port, 80); }
+    int port() const override { return get(PropertyKeys::Port, int(HttpPort)); }
     void setPort(int port) override { set(PropertyKeys::Port, port); }
     int bandwidth() const override { return get(PropertyKeys::Bandwidth, -1); }
     void setBandwidth(int bandwidth) override { set(PropertyKeys::Bandwidth, bandwidth); }

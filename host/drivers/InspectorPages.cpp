@@ -26,7 +26,7 @@ std::unique_ptr<InspectorPage> create(QWidget* parent)
 std::unique_ptr<InspectorPage> createLayoutOptions(QWidget* parent)
 {
     LayoutOptionsWidget* page = new LayoutOptionsWidget(parent);
-    page->setObjectName(QLatin1String("layoutOptionsWidget")); // the edit dialog looks for it
+    page->setObjectName(QLatin1String(LayoutListPage::Name)); // the edit dialog looks for it
     return std::make_unique<PageOf<LayoutOptionsWidget>>(page);
 }
 
@@ -72,8 +72,8 @@ const PageSpec information = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Devi
                               create<InfoWidget>};
 const PageSpec control = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device"), false,
                           create<ControlDataWidget>};
-const PageSpec layoutOptions = {"layoutOptions", QT_TRANSLATE_NOOP("NodeInspector", "Layout options"), false,
-                                createLayoutOptions};
+const PageSpec layoutOptions = {LayoutListPage::TabName, QT_TRANSLATE_NOOP("NodeInspector", "Layout options"),
+                                false, createLayoutOptions};
 const PageSpec recordings = {"recordings", QT_TRANSLATE_NOOP("NodeInspector", "Recordings"), false,
                              create<StorageLocationWidget>};
 const PageSpec rotor = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "PTZ"), false,

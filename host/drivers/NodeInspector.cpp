@@ -4,6 +4,7 @@
 #include "drivers/NodeTypes.h"
 #include "drivers/PageStack.h"
 #include "inspector/IPDeviceInspectorWidget.h"
+#include "inspector/LayoutListPage.h"
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
@@ -100,7 +101,7 @@ InspectorWidget* createNodeInspector(const NodeID& id, ENodeType type, bool read
     const QVector<PageSpec> all = pagesOf(type);
     for (const PageSpec& page : all) {
         // With its lists left empty the page would write that nothing is chosen.
-        if ((flags & NodeDialog::FillLayoutLists) || qstrcmp(page.tab, "layoutOptions") != 0)
+        if ((flags & NodeDialog::FillLayoutLists) || qstrcmp(page.tab, LayoutListPage::TabName) != 0)
             pages.append(page);
     }
     return create(type, id, pages, readOnly, flags);

@@ -24,9 +24,6 @@ namespace ko {
 
 namespace {
 
-const int httpPort = 80;
-const int httpsPort = 443;
-
 /// How far right of its tab's edge a caption begins: pages and their boxes have margins of their own.
 int indent(const QLabel* caption)
 {
@@ -244,8 +241,8 @@ void PageStack::sslChanged(int state)
     UserDataWidget* connection = findChild<UserDataWidget*>();
     const int port = connection->findChild<QSpinBox*>(QLatin1String("portSpinBox"))->value();
     const bool ssl = state == Qt::Checked;
-    if (port == (ssl ? httpPort : httpsPort))
-        connection->setPort(ssl ? httpsPort : httpPort);
+    if (port == (ssl ? HttpPort : HttpsPort))
+        connection->setPort(ssl ? HttpsPort : HttpPort);
 }
 
 void PageStack::nodeRemoved(ko::NodeID id)

@@ -29,8 +29,6 @@ namespace ko {
 
 namespace {
 
-const int SslPort = 443;
-
 QString say(const char* text)
 {
     return QCoreApplication::translate("ko::CameraSurvey", text);
@@ -53,7 +51,7 @@ kom::smart<NodeHintIPDevice> describe(const SurveyRow& row)
     if (!hint.null())
         row.describe(*hint);
     if (!hint.null() && hint->useSSL && !row.has(SurveyColumn::Port))
-        hint->port = SslPort;
+        hint->port = HttpsPort;
     return hint;
 }
 

@@ -76,10 +76,10 @@ void EditNodeDialog::fillLayoutLists(const ILayoutAdapter* layoutAdapter)
     const QTabWidget* tabs = findChild<QTabWidget*>(QLatin1String("tabWidget"));
     for (int i = 0; tabs && i < tabs->count(); ++i) {
         const QWidget* tab = tabs->widget(i);
-        if (tab->objectName() != QLatin1String("layoutOptions"))
+        if (tab->objectName() != QLatin1String(LayoutListPage::TabName))
             continue;
         LayoutListPage* page =
-            dynamic_cast<LayoutListPage*>(tab->findChild<QWidget*>(QLatin1String("layoutOptionsWidget")));
+            dynamic_cast<LayoutListPage*>(tab->findChild<QWidget*>(QLatin1String(LayoutListPage::Name)));
         if (!page)
             continue;
         page->fillLayoutComboBox(layoutAdapter);

@@ -28,14 +28,6 @@ kom::smart<const Node> camera(const QString& id)
     return !node.null() && node->type == IPDeviceType ? node : kom::smart<const Node>();
 }
 
-/// The name of the camera's folder on a file server; empty as long as the camera has the address that
-/// every one leaves the factory with.
-QString factoryExtension(const Node& camera)
-{
-    const QString extension = camera.stringProperty(PropertyKeys::FactoryIP, QString());
-    return extension == QLatin1String("10_0_0_0") ? QString() : extension;
-}
-
 QString folderBelow(const QString& path, const QString& extension)
 {
     const QString share = QLatin1String("//");
@@ -127,7 +119,7 @@ void RecordingFolderMassAssignmentDialog::configure(const QString& cameraId) con
         return;
     QString folderId;
     QString path;
-    const QString extension = factoryExtension(*node);
+    const QString extension = NodeDBUtils::factoryExtension(*node);
     if (m_ui->specificFileServerPathRadioButton->isChecked() && !extension.isEmpty()) {
         folderId = NodeDB::getDB()->relatedNodes(cameraId, RecordingFolderRelation).value(0);
         path = folderBelow(m_ui->pathLineEdit->text(), extension);

@@ -11,6 +11,10 @@ class ILayoutAdapter;
 class KO_NODEUI_EXPORT LayoutListPage
 {
 public:
+    // The dialog looks for a page of this name in a tab of this name. Object names are part of the contract.
+    static constexpr char TabName[] = "layoutOptions";
+    static constexpr char Name[] = "layoutOptionsWidget";
+
     virtual ~LayoutListPage();
 
     /// Offers the adapter's layouts; null disables the list. The adapter is not kept.

@@ -12,13 +12,18 @@ namespace ko {
 
 namespace {
 
-/// The fields of hints and nodes alike, each with its place in both.
-template <class Each>
-void forEachField(const Ui::InfoWidget& ui, Each each)
+/// The fields of hints and nodes alike.
+const struct
 {
-    each(ui.modelLineEdit, &NodeHintIPDevice::model, &IPDeviceNode::model, &IPDeviceNode::setModel);
-    each(ui.versionLineEdit, &NodeHintIPDevice::version, &IPDeviceNode::version, &IPDeviceNode::setVersion);
-}
+    QLineEdit* Ui::InfoWidget::*lineEdit;
+    QString NodeHintIPDevice::*inHint;
+    QString (IPDeviceNode::*read)() const;
+    void (IPDeviceNode::*write)(const QString&);
+} fields[] = {
+    {&Ui::InfoWidget::modelLineEdit, &NodeHintIPDevice::model, &IPDeviceNode::model, &IPDeviceNode::setModel},
+    {&Ui::InfoWidget::versionLineEdit, &NodeHintIPDevice::version, &IPDeviceNode::version,
+     &IPDeviceNode::setVersion},
+};
 
 QStringList currentAddresses(const Node& node)
 {
@@ -52,7 +57,8 @@ void InfoWidget::init(const NodeHint* hint)
     const NodeHintIPDevice* device = dynamic_cast<const NodeHintIPDevice*>(hint);
     if (!device)
         return;
-    forEachField(*m_ui, [device](auto field, auto value, auto, auto) { setField(field, device->*value); });
+    for (const auto& field : fields)
+        setField(m_ui.data()->*field.lineEdit, device->*field.inHint);
 }
 
 void InfoWidget::init(QString nodeId)
@@ -60,8 +66,8 @@ void InfoWidget::init(QString nodeId)
     const kom::smart<const IPDeviceNode> device = deviceNode(nodeId);
     if (device.null())
         return;
-    forEachField(*m_ui,
-                 [&device](auto field, auto, auto read, auto) { setField(field, ((*device).*read)()); });
+    for (const auto& field : fields)
+        setField(m_ui.data()->*field.lineEdit, ((*device).*field.read)());
     m_ui->macLineEdit->setText(device->macAddress().toString(true));
     m_ui->ipListWidget->addItems(currentAddresses(*device));
     m_ui->ipListWidget->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -76,9 +82,8 @@ void InfoWidget::accept(Node* node)
     IPDeviceNode* device = dynamic_cast<IPDeviceNode*>(node);
     if (!device)
         return;
-    forEachField(*m_ui, [device](auto field, auto, auto, auto write) {
-        (device->*write)(fieldValue(field).toString());
-    });
+    for (const auto& field : fields)
+        (device->*field.write)((m_ui.data()->*field.lineEdit)->text());
     device->setMacAddress(MACAddress(m_ui->macLineEdit->text()));
 }
 
@@ -87,15 +92,15 @@ void InfoWidget::accept(NodeHint* hint)
     NodeHintIPDevice* device = dynamic_cast<NodeHintIPDevice*>(hint);
     if (!device)
         return;
-    forEachField(*m_ui,
-                 [device](auto field, auto value, auto, auto) { takeField(field, &(device->*value)); });
+    for (const auto& field : fields)
+        device->*field.inHint = (m_ui.data()->*field.lineEdit)->text();
 }
 
 void InfoWidget::setReadOnly(bool readOnly)
 {
-    const QList<QLineEdit*> fields = findChildren<QLineEdit*>();
-    for (QLineEdit* field : fields)
-        setFieldReadOnly(field, readOnly);
+    const QList<QLineEdit*> lineEdits = findChildren<QLineEdit*>();
+    for (QLineEdit* lineEdit : lineEdits)
+        setFieldReadOnly(lineEdit, readOnly);
 }
 
 } // namespace ko

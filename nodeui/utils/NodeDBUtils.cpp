@@ -179,11 +179,17 @@ const QString NodeDBUtils::QualityToString(int quality)
     return QString();
 }
 
+QString NodeDBUtils::factoryExtension(const Node& camera)
+{
+    const QString extension = camera.stringProperty(PropertyKeys::FactoryIP, QString());
+    return extension == latin1("10_0_0_0") ? QString() : extension;
+}
+
 kom::smart<NodeHint> NodeDBUtils::recordingFolderHint(const QString& path, bool useGlobalPath,
                                                       const QString& cameraId)
 {
     const kom::smart<INodeDriverComponent> driver = NodeDB::getDB()->nodeDriver(RecordingFolderType);
-    const kom::smart<NodeHint> hint =
+    kom::smart<NodeHint> hint =
         driver.null() ? kom::smart<NodeHint>() : driver->createNodeHint(RecordingFolderType);
     if (hint.null()) {
         LogQt::line(LogQt::Error, latin1("Node driver (RecordingFolderNode) is missing"));

@@ -8,6 +8,7 @@
 
 namespace ko {
 
+class Node;
 class NodeHint;
 
 /// The words of stream settings, and the rules that tie a camera to its recording folder.
@@ -36,6 +37,10 @@ public:
     static int StringToQuality(const QString& text);
     /// The entry of sm_Qualities, or a null string.
     static const QString QualityToString(int quality);
+
+    /// The name of a camera's folder on a file server; empty as long as the camera has the address that every
+    /// one leaves the factory with.
+    static QString factoryExtension(const Node& camera);
 
     /// Describes a recording folder named by its path, of no camera if \a cameraId is empty. Null without a
     /// driver of folders, which is logged.

@@ -13,8 +13,8 @@ class KO_PLATFORM_EXPORT NodeHintIPDevice : public NodeHint
 public:
     QString model;
     QString version;
-    QString address; ///< host name or IP address
-    int port = 80;   ///< TCP port, 0 to 65535
+    QString address;     ///< host name or IP address
+    int port = HttpPort; ///< TCP port, 0 to 65535
     bool useSSL = false;
     QString user;
     QString password;

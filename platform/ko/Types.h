@@ -42,6 +42,9 @@ enum ERecordingUsage : int {
 /// Class of the connection over which a device is reached; -1 on a device means: as the database says.
 enum ENodeBandwidth : int { SlowRemote = 0, FastRemote = 1, SlowLocal = 2, FastLocal = 3 };
 
+/// TCP ports at which a device is reached unless somebody says otherwise, without and with SSL.
+enum { HttpPort = 80, HttpsPort = 443 };
+
 } // namespace ko
 
 #endif
