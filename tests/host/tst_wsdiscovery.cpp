@@ -404,7 +404,7 @@ void WsDiscoveryTest::arpScanAsksWhoIsThere()
     QCOMPARE(device.address, QString("10.99.0.2"));
     QCOMPARE(device.port, 8899);
     QCOMPARE(device.name, QString("Odd"));
-    QCOMPARE(int(device.macAddress.size()), 17); // seen, not told
+    QCOMPARE(int(device.neighbourMac.size()), 17); // seen, not told
 }
 
 void WsDiscoveryTest::onAndOffLeavesNothing()
