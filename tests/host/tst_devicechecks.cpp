@@ -14,6 +14,7 @@
 #include <QSslSocket>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <algorithm>
@@ -242,6 +243,7 @@ private slots:
     void packedBodyIsNotUnpacked();
     void proxyIsUsed();
     void certificateIsRemembered();
+    void siteSpeaksTls();
     void addressIsChecked_data();
     void addressIsChecked();
     void channelsAreCheckedOnce();
@@ -494,6 +496,27 @@ void DeviceChecksTest::certificateIsRemembered()
     QVERIFY(changed.seen.certificate != first.seen.certificate);
     QTest::qWait(200);
     QVERIFY(other.requests.isEmpty()); // not even a question
+}
+
+void DeviceChecksTest::siteSpeaksTls()
+{
+    if (!QSslSocket::supportsSsl())
+        QSKIP("there is no TLS");
+    QTemporaryFile file;
+    QVERIFY(file.open() && file.write(QByteArray(certificates[0]) + keys[0]) > 0 && file.flush());
+    const Site site({"--cameras", "4", "--onvif", "digest,token,open,bomb", "--tls", file.fileName()});
+    QVERIFY(site.isUp);
+    for (int camera = 1; camera <= 4; ++camera) {
+        DeviceTarget target = site.target(camera);
+        QCOMPARE(int(checked(target).state), int(DeviceReport::NoAnswer)); // not without
+        target.useSSL = true;
+        target.wantsAllFacts = true;
+        const DeviceReport report = checked(target);
+        QCOMPARE(int(report.state), int(camera < 4 ? DeviceReport::Answers : DeviceReport::NoOnvif));
+        QVERIFY(!report.seen.certificate.isEmpty());
+        if (camera < 4)
+            QCOMPARE(int(report.facts.profiles.size()), 2);
+    }
 }
 
 void DeviceChecksTest::addressIsChecked_data()
