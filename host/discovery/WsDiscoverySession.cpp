@@ -86,7 +86,7 @@ bool WsDiscoverySession::ask()
 {
     const auto fails = [this](const Outlet& outlet) {
         bool isSent = false;
-        for (const QByteArray& probe : m_probes)
+        for (const QByteArray& probe : std::as_const(m_probes))
             isSent = outlet.socket->send(probe, WsDiscovery::Group, m_port) || isSent;
         m_error = isSent ? 0 : errno;
         return !isSent;
