@@ -250,8 +250,9 @@ void WsDiscoveryTest::hostileMessagesAreNothing_data()
     QTest::newRow("too deep") << matches(match("http://10.0.0.9/") + QByteArray("<a>").repeated(100) +
                                          QByteArray("</a>").repeated(100));
     QTest::newRow("long text") << matches(match("http://10.0.0.9/", QByteArray(10000, 'x')));
-    QTest::newRow("UTF-16") << QByteArray::fromRawData(
-        reinterpret_cast<const char*>(QString::fromUtf8(good).utf16()), int(2 * good.size()));
+    const QString wide = QString::fromUtf8(good);
+    QTest::newRow("UTF-16") << QByteArray(reinterpret_cast<const char*>(wide.utf16()), int(2 * wide.size()));
+    QTest::newRow("more behind a zero") << good + QByteArray("\0<x/>", 5);
     QTest::newRow("too long") << matches(match("http://10.0.0.9/") + QByteArray("<a/>").repeated(17000));
 }
 
