@@ -426,8 +426,9 @@ void WsDiscoveryTest::onAndOffLeavesNothing()
         scanner.stop();
         QVERIFY(clock.elapsed() < 500);
     }
-    QTRY_COMPARE(ProcessResources().threads, before.threads);
-    QCOMPARE(ProcessResources().descriptors, before.descriptors);
+    QTRY_VERIFY(ProcessResources().threads <= before.threads);
+    QVERIFY(ProcessResources().descriptors <=
+            before.descriptors); // fewer when a process of the test has gone
 }
 
 int main(int argc, char** argv)
