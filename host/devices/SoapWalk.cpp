@@ -22,6 +22,12 @@ bool hasEndlessTag(const QByteArray& message)
     return false;
 }
 
+/// All of it: given the array alone, Qt 5 ends at the first zero.
+QString textOf(const QByteArray& message)
+{
+    return QString::fromUtf8(message.constData(), int(message.size()));
+}
+
 bool isEnvelope(const QXmlStreamReader& reader)
 {
     return reader.name() == QLatin1String("Envelope") &&
@@ -36,7 +42,7 @@ class SoapWalk::Walk
 public:
     Walk(const QByteArray& message, const Begin& begin, const End& end)
         // As text, so that no declaration in it can choose another encoding. Some put a line break before it.
-        : m_reader(QString::fromUtf8(message.trimmed()))
+        : m_reader(textOf(message.trimmed()))
         , m_begin(begin)
         , m_end(end)
     {

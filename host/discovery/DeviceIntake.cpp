@@ -56,6 +56,7 @@ public:
     QString nodeOf(const Device& device);
     kom::smart<NodeHint> hint(const Device& device, const QString& address, int port) const;
     bool noteChange(Device& device);
+    bool noteChange(Device& device, const QString& mac);
     void seenAtHome(const Device& device);
     void createNode(Device& device);
     void drop(const char* what, int limit);
@@ -173,7 +174,7 @@ kom::smart<NodeHint> DeviceIntake::Private::hint(const Device& device, const QSt
         description->port = port;
     description->model = device.model;
     description->version = device.version;
-    description->macAddress = MACAddress(device.mac);
+    description->macAddress = MACAddress(device.macs().value(0));
     return hint;
 }
 
@@ -211,9 +212,14 @@ void DeviceIntake::Private::settle(Device& device)
 /// there, says nothing; nor does one alone, without the name or the model that belongs to it.
 bool DeviceIntake::Private::noteChange(Device& device)
 {
-    if (device.mac.isEmpty())
-        return false;
-    const QStringList ids = known.nodesWithMac(device.mac);
+    const QStringList macs = device.macs();
+    return std::any_of(macs.cbegin(), macs.cend(),
+                       [&](const QString& mac) { return noteChange(device, mac); });
+}
+
+bool DeviceIntake::Private::noteChange(Device& device, const QString& mac)
+{
+    const QStringList ids = known.nodesWithMac(mac);
     const auto node =
         ids.size() == 1 ? db.node(ids.at(0)).cast<const IPDeviceNode>() : kom::smart<const IPDeviceNode>();
     const bool sameModel = !node.null() && !device.model.isEmpty() && node->model() == device.model;
@@ -222,12 +228,12 @@ bool DeviceIntake::Private::noteChange(Device& device)
     const QVector<Device*> atOldAddress = devices.at(node->address());
     const bool oldAnswers = std::any_of(atOldAddress.cbegin(), atOldAddress.cend(),
                                         [this](const Device* other) { return other->scan == scan; });
-    if (oldAnswers || devices.sharesMac(device, scan))
+    if (oldAnswers || devices.sharesMac(device, mac, scan))
         return false;
     const QString address = device.bestAddress();
     if (dismissed.contains(ids.at(0) + QLatin1Char(' ') + address) || changes.size() >= ChangesLimit)
         return true;
-    const AddressChange change{ids.at(0), node->name(), node->address(), address, device.mac};
+    const AddressChange change{ids.at(0), node->name(), node->address(), address, mac};
     if (!changes.contains(change)) {
         changes.append(change);
         changedDevices.insert(address, &device);

@@ -57,9 +57,8 @@ void DirectedProbes::append(const QByteArray& message, const QHostAddress& sende
         return;
     QVector<DiscoveredDevice> found = WsDiscovery::read(message, sender);
     for (DiscoveredDevice& device : found) {
-        // Seen by ourselves, unlike what the device says of itself.
         if (device.address == sender.toString())
-            device.macAddress = QString::fromLatin1(host->second.mac.toHex(':'));
+            device.neighbourMac = QString::fromLatin1(host->second.mac.toHex(':'));
         devices.append(device);
     }
 }

@@ -67,6 +67,14 @@ QString SightedDevice::bestAddress() const
     });
 }
 
+QStringList SightedDevice::macs() const
+{
+    QStringList all = {mac, neighbourMac};
+    all.removeAll(QString());
+    all.removeDuplicates();
+    return all;
+}
+
 int SightedDevice::bestPort() const
 {
     int port = 0;
@@ -132,6 +140,14 @@ SightedDevice& SightedDevices::add()
     return *m_devices.back();
 }
 
+void SightedDevices::takeMac(QString& field, const QString& mac)
+{
+    if (!field.isEmpty() || mac.isEmpty())
+        return;
+    field = mac;
+    ++m_macUses[mac];
+}
+
 void SightedDevices::absorb(SightedDevice& device, const DiscoveredDevice& seen)
 {
     const auto take = [](QString& field, const QString& value) {
@@ -142,10 +158,8 @@ void SightedDevices::absorb(SightedDevice& device, const DiscoveredDevice& seen)
     take(device.model, seen.model);
     take(device.version, seen.version);
     take(device.location, seen.location);
-    if (device.mac.isEmpty() && !seen.macAddress.isEmpty()) {
-        device.mac = seen.macAddress;
-        ++m_macUses[device.mac];
-    }
+    takeMac(device.mac, seen.macAddress);
+    takeMac(device.neighbourMac, seen.neighbourMac);
     if (!device.addresses.contains(seen.address) && device.addresses.size() < AddressesOfOne) {
         device.addresses.append(seen.address);
         m_byAddress[NetworkAddress::key(seen.address)].append(&device);
@@ -175,12 +189,13 @@ bool SightedDevices::sharesAddress(const SightedDevice& device) const
                        [this](const QString& address) { return at(address).size() > 1; });
 }
 
-bool SightedDevices::sharesMac(const SightedDevice& device, unsigned scan) const
+bool SightedDevices::sharesMac(const SightedDevice& device, const QString& mac, unsigned scan) const
 {
     const auto isOther = [&](const std::unique_ptr<SightedDevice>& other) {
-        return other.get() != &device && other->mac == device.mac && other->scan == scan;
+        return other.get() != &device && (other->mac == mac || other->neighbourMac == mac) &&
+               other->scan == scan;
     };
-    return m_macUses.value(device.mac) > 1 && std::any_of(m_devices.cbegin(), m_devices.cend(), isOther);
+    return m_macUses.value(mac) > 1 && std::any_of(m_devices.cbegin(), m_devices.cend(), isOther);
 }
 
 void SightedDevices::removeIf(const std::function<bool(const SightedDevice&)>& isGone)
@@ -198,8 +213,10 @@ void SightedDevices::removeIf(const std::function<bool(const SightedDevice&)>& i
         }
     }
     for (const SightedDevice* device : std::as_const(gone)) {
-        if (!device->mac.isEmpty() && --m_macUses[device->mac] == 0)
-            m_macUses.remove(device->mac);
+        for (const QString& mac : {device->mac, device->neighbourMac}) {
+            if (!mac.isEmpty() && --m_macUses[mac] == 0)
+                m_macUses.remove(mac);
+        }
     }
     m_devices.erase(std::remove_if(m_devices.begin(), m_devices.end(), isOfThese), m_devices.end());
 }

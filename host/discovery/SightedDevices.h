@@ -27,7 +27,8 @@ struct SightedDevice
     QString model;
     QString version;
     QString location;
-    QString mac; ///< canonical; empty for none
+    QString mac;          ///< as told; canonical, empty for none
+    QString neighbourMac; ///< as seen
     QStringList addresses;
     QVector<Service> services;
     QString nodeId;    ///< of a device that has a node
@@ -37,6 +38,9 @@ struct SightedDevice
 
     /// The likeliest to be reached.
     QString bestAddress() const;
+
+    /// What is told comes first: a camera behind another device is seen with the MAC address of that.
+    QStringList macs() const;
 
     /// That through which a camera is configured; 0 when none is known.
     int bestPort() const;
@@ -60,13 +64,14 @@ public:
     /// Whether there are several behind one of its addresses.
     bool sharesAddress(const SightedDevice& device) const;
 
-    /// Whether another one of the same scan claims the same MAC address.
-    bool sharesMac(const SightedDevice& device, unsigned scan) const;
+    /// Whether another one of the same scan has this MAC address.
+    bool sharesMac(const SightedDevice& device, const QString& mac, unsigned scan) const;
 
     int size() const { return int(m_devices.size()); }
     void removeIf(const std::function<bool(const SightedDevice&)>& isGone);
 
 private:
+    void takeMac(QString& field, const QString& mac);
     SightedDevice* atSameAddress(const DiscoveredDevice& seen) const;
     SightedDevice* elsewhere(const DiscoveredDevice& seen) const;
 

@@ -41,6 +41,7 @@ bool SightingFilter::pass(DiscoveredDevice& seen)
     seen.location = NetworkText::cleaned(seen.location, DeviceIntake::TextLength);
     seen.identity = NetworkText::cleaned(seen.identity, DeviceIntake::NameLength);
     seen.macAddress = usableMac(seen.macAddress);
+    seen.neighbourMac = usableMac(seen.neighbourMac);
     return true;
 }
 

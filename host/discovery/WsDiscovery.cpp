@@ -59,7 +59,8 @@ QString decoded(const QString& scopeValue)
 bool isCamera(const Match& match)
 {
     const auto isVideo = [](const QString& type) {
-        return type.mid(type.indexOf(QLatin1Char(':')) + 1).startsWith(QLatin1String("NetworkVideo"));
+        const QString name = type.mid(type.indexOf(QLatin1Char(':')) + 1);
+        return name.startsWith(QLatin1String("NetworkVideo"));
     };
     const auto isOnvif = [](const QString& scope) {
         return scope.startsWith(scopeRoot, Qt::CaseInsensitive);
@@ -95,7 +96,8 @@ struct Place
 std::map<int, Place> placesOf(const Match& match, const QHostAddress& sender)
 {
     std::map<int, Place> places;
-    for (const QString& text : match.addresses.mid(0, MostAddresses)) {
+    const QStringList addresses = match.addresses.mid(0, MostAddresses);
+    for (const QString& text : addresses) {
         const QUrl url(text, QUrl::StrictMode);
         const bool isSecure = url.scheme() == QLatin1String("https");
         QHostAddress address;
@@ -183,7 +185,8 @@ QVector<DiscoveredDevice> read(const QByteArray& message, const QHostAddress& se
     QVector<DiscoveredDevice> devices;
     if (message.size() > LongestMessage || !SoapWalk::read(message, end).isEmpty())
         return devices;
-    for (const Match& match : std::as_const(matches).mid(0, MostMatches))
+    matches.resize(std::min<int>(MostMatches, int(matches.size())));
+    for (const Match& match : std::as_const(matches))
         appendDevices(match, sender, devices);
     return devices;
 }

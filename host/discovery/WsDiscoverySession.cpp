@@ -86,7 +86,7 @@ bool WsDiscoverySession::ask()
 {
     const auto fails = [this](const Outlet& outlet) {
         bool isSent = false;
-        for (const QByteArray& probe : m_probes)
+        for (const QByteArray& probe : std::as_const(m_probes))
             isSent = outlet.socket->send(probe, WsDiscovery::Group, m_port) || isSent;
         m_error = isSent ? 0 : errno;
         return !isSent;
@@ -214,7 +214,7 @@ void WsDiscoverySession::settleHeld()
 void WsDiscoverySession::take(DiscoveredDevice device, const QHostAddress& sender)
 {
     if (device.address == sender.toString() && m_macs.contains(sender.toIPv4Address()))
-        device.macAddress = QString::fromLatin1(m_macs.value(sender.toIPv4Address()).toHex(':'));
+        device.neighbourMac = QString::fromLatin1(m_macs.value(sender.toIPv4Address()).toHex(':'));
     const QString key =
         device.identity + QLatin1Char(' ') + device.address + QLatin1Char(' ') + QString::number(device.port);
     if (m_reported.contains(key) || m_reported.size() >= MostRemembered)

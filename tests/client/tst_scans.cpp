@@ -46,6 +46,7 @@ private slots:
 
     void bonjourFindsWhatIsAnnounced();
     void wsDiscoveryFindsWhatAnswers();
+    void hostileMatches();
     void arpAsksForNamesAndModels();
     void arpFindsWhatListens();
     void bothScansMakeOneNode();
@@ -201,6 +202,31 @@ void tst_Scans::wsDiscoveryFindsWhatAnswers()
     }
     QTest::qWait(1500);
     QCOMPARE(rows(), 12);
+}
+
+/// Each tells of places of others too, and sends spoilt messages.
+void tst_Scans::hostileMatches()
+{
+    KO_NEED_NETWORKS();
+    const testsupport::LogLines log;
+    QVERIFY(m_network->connectSite(Prefix));
+    for (int i = 0; i < 6; ++i)
+        QVERIFY(m_network->addSiteAddress(QStringLiteral("10.99.0.%1").arg(10 + i), Prefix));
+    QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("6"), QStringLiteral("--hostile")}));
+    press("bonjourButton");
+    QTRY_COMPARE_WITH_TIMEOUT(rows(), 6, Patience);
+    QTest::qWait(1500);
+    QCOMPARE(rows(), 6);
+    const QStringList where = places();
+    for (const QString& place : where)
+        QVERIFY2(place.startsWith(QLatin1String("10.99.0.1")), qPrintable(place));
+    const QStringList all = names();
+    for (const QString& name : all)
+        QVERIFY2(std::all_of(name.begin(), name.end(),
+                             [](QChar c) { return c.isPrint() && c.category() != QChar::Other_Format; }),
+                 qPrintable(name));
+    QVERIFY(!all.filter(QStringLiteral("<b>Gate</b>")).isEmpty()); // text, and nothing but text
+    QVERIFY(log.lines.filter(QStringLiteral("kosim-secret")).isEmpty());
 }
 
 void tst_Scans::arpAsksForNamesAndModels()

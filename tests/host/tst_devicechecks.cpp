@@ -14,6 +14,7 @@
 #include <QSslSocket>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <algorithm>
@@ -76,15 +77,20 @@ QByteArray http(int status, const QByteArray& body, const QByteArray& headers = 
            " X\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n" + headers + "\r\n" + body;
 }
 
-const QByteArray information =
-    envelope("<d:GetDeviceInformationResponse><d:Manufacturer>M</d:Manufacturer>"
-             "<d:SerialNumber>S1</d:SerialNumber></d:GetDeviceInformationResponse>");
-const QByteArray clockAnswer =
-    envelope("<d:GetSystemDateAndTimeResponse><d:SystemDateAndTime><d:UTCDateTime><d:Time><d:Hour>1</"
-             "d:Hour><d:Minute>2"
-             "</d:Minute><d:Second>3</d:Second></d:Time><d:Date><d:Year>2026</d:Year><d:Month>1</"
-             "d:Month><d:Day>1</d:Day>"
-             "</d:Date></d:UTCDateTime></d:SystemDateAndTime></d:GetSystemDateAndTimeResponse>");
+QByteArray information()
+{
+    return envelope("<d:GetDeviceInformationResponse><d:Manufacturer>M</d:Manufacturer>"
+                    "<d:SerialNumber>S1</d:SerialNumber></d:GetDeviceInformationResponse>");
+}
+
+QByteArray clockAnswer()
+{
+    return envelope("<d:GetSystemDateAndTimeResponse><d:SystemDateAndTime><d:UTCDateTime><d:Time><d:Hour>1</"
+                    "d:Hour><d:Minute>2"
+                    "</d:Minute><d:Second>3</d:Second></d:Time><d:Date><d:Year>2026</d:Year><d:Month>1</"
+                    "d:Month><d:Day>1</d:Day>"
+                    "</d:Date></d:UTCDateTime></d:SystemDateAndTime></d:GetSystemDateAndTimeResponse>");
+}
 
 /// A device that answers as the test wants, and remembers what it was asked.
 class Device : public QTcpServer
@@ -164,7 +170,7 @@ private:
 Device::Answer withClock(const Device::Answer& answer)
 {
     return [answer](const QByteArray& request) {
-        return request.contains("GetSystemDateAndTime") ? http(200, clockAnswer) : answer(request);
+        return request.contains("GetSystemDateAndTime") ? http(200, clockAnswer()) : answer(request);
     };
 }
 
@@ -242,6 +248,7 @@ private slots:
     void packedBodyIsNotUnpacked();
     void proxyIsUsed();
     void certificateIsRemembered();
+    void siteSpeaksTls();
     void addressIsChecked_data();
     void addressIsChecked();
     void channelsAreCheckedOnce();
@@ -357,7 +364,8 @@ void DeviceChecksTest::passwordInTheClearIsNeverSentUnasked()
 {
     const QByteArray basic = "WWW-Authenticate: Basic realm=\"r\"\r\n";
     Device device(withClock([&](const QByteArray& request) {
-        return request.contains("\r\nAuthorization: Basic ") ? http(200, information) : http(401, "", basic);
+        return request.contains("\r\nAuthorization: Basic ") ? http(200, information())
+                                                             : http(401, "", basic);
     }));
     QCOMPARE(int(checked(device.target()).state), int(DeviceReport::ClearPassword));
     QCOMPARE(device.tries(), 0);
@@ -425,7 +433,7 @@ void DeviceChecksTest::staleChallengeIsAnsweredAnew()
     int number = 0;
     Device device(withClock([&](const QByteArray& request) {
         ++number;
-        return request.contains("nonce=\"n2\"") ? http(200, information)
+        return request.contains("nonce=\"n2\"") ? http(200, information())
                                                 : http(401, "",
                                                        "WWW-Authenticate: Digest realm=\"r\", nonce=\"n" +
                                                            QByteArray::number(number) + "\", stale=true\r\n");
@@ -440,7 +448,7 @@ void DeviceChecksTest::staleChallengeIsAnsweredAnew()
 
 void DeviceChecksTest::redirectIsNotFollowed()
 {
-    Device other([](const QByteArray&) { return http(200, clockAnswer); });
+    Device other([](const QByteArray&) { return http(200, clockAnswer()); });
     const QByteArray place = "Location: http://127.0.0.1:" + QByteArray::number(other.serverPort()) + "/\r\n";
     for (const int status : {301, 302, 303, 307, 308}) {
         Device device([&](const QByteArray&) { return http(status, "", place); });
@@ -454,7 +462,7 @@ void DeviceChecksTest::redirectIsNotFollowed()
 void DeviceChecksTest::packedBodyIsNotUnpacked()
 {
     Device device([](const QByteArray&) {
-        return http(200, qCompress(clockAnswer).mid(4), "Content-Encoding: deflate\r\n");
+        return http(200, qCompress(clockAnswer()).mid(4), "Content-Encoding: deflate\r\n");
     });
     QCOMPARE(int(checked(device.target()).state), int(DeviceReport::NoOnvif));
     QVERIFY(!device.requests.first().toLower().contains("gzip"));
@@ -462,7 +470,7 @@ void DeviceChecksTest::packedBodyIsNotUnpacked()
 
 void DeviceChecksTest::proxyIsUsed()
 {
-    Device proxy(withClock([](const QByteArray&) { return http(200, information); }));
+    Device proxy(withClock([](const QByteArray&) { return http(200, information()); }));
     DeviceTarget target = proxy.target();
     target.address = "camera.invalid"; // for the proxy to know
     target.port = 8000;
@@ -475,9 +483,8 @@ void DeviceChecksTest::proxyIsUsed()
 
 void DeviceChecksTest::certificateIsRemembered()
 {
-    if (!QSslSocket::supportsSsl())
-        QSKIP("there is no TLS");
-    const auto answer = withClock([](const QByteArray&) { return http(200, information); });
+    QVERIFY(QSslSocket::supportsSsl());
+    const auto answer = withClock([](const QByteArray&) { return http(200, information()); });
     Device device(answer, 0);
     const DeviceReport first = checked(device.target());
     QVERIFY2(first.state == DeviceReport::Answers, qPrintable(first.reason));
@@ -494,6 +501,26 @@ void DeviceChecksTest::certificateIsRemembered()
     QVERIFY(changed.seen.certificate != first.seen.certificate);
     QTest::qWait(200);
     QVERIFY(other.requests.isEmpty()); // not even a question
+}
+
+void DeviceChecksTest::siteSpeaksTls()
+{
+    QVERIFY(QSslSocket::supportsSsl());
+    QTemporaryFile file;
+    QVERIFY(file.open() && file.write(QByteArray(certificates[0]) + keys[0]) > 0 && file.flush());
+    const Site site({"--cameras", "4", "--onvif", "digest,token,open,bomb", "--tls", file.fileName()});
+    QVERIFY(site.isUp);
+    for (int camera = 1; camera <= 4; ++camera) {
+        DeviceTarget target = site.target(camera);
+        QCOMPARE(int(checked(target).state), int(DeviceReport::NoAnswer)); // not without
+        target.useSSL = true;
+        target.wantsAllFacts = true;
+        const DeviceReport report = checked(target);
+        QCOMPARE(int(report.state), int(camera < 4 ? DeviceReport::Answers : DeviceReport::NoOnvif));
+        QVERIFY(!report.seen.certificate.isEmpty());
+        if (camera < 4)
+            QCOMPARE(int(report.facts.profiles.size()), 2);
+    }
 }
 
 void DeviceChecksTest::addressIsChecked_data()
@@ -524,7 +551,7 @@ void DeviceChecksTest::addressIsChecked()
 
 void DeviceChecksTest::channelsAreCheckedOnce()
 {
-    Device device(withClock([](const QByteArray&) { return http(200, information); }));
+    Device device(withClock([](const QByteArray&) { return http(200, information()); }));
     QVector<DeviceTarget> targets;
     for (int i = 0; i < 16; ++i) {
         targets.append(device.target());

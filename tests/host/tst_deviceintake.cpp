@@ -128,6 +128,7 @@ private slots:
     void identityJoinsFamiliesAndNotClones();
     void identitiesBehindOneAddressAreTwo();
     void locationIsANameOfLastResort();
+    void movedDeviceIsKnownByWhatItTellsAndByWhatIsSeen();
     void sharedMacIsTwoNodes();
     void movedDeviceIsNotedAndNotMoved();
     void macAloneMovesNothing();
@@ -506,6 +507,27 @@ void DeviceIntakeTest::identitiesBehindOneAddressAreTwo()
     // One port is one device, whatever it calls itself today.
     feed({answered("urn:uuid:1", "10.0.0.9", 80), answered("urn:uuid:2", "10.0.0.9", 80)});
     QCOMPARE(ids().size(), 3);
+}
+
+void DeviceIntakeTest::movedDeviceIsKnownByWhatItTellsAndByWhatIsSeen()
+{
+    const QString told = mac1;
+    const QString neighbour = "00:11:22:33:44:66";
+    const auto sighted = [&](const QString& name, const QString& address, bool tells) {
+        DiscoveredDevice device = answered("urn:uuid:" + name, address, 80, name);
+        device.macAddress = tells ? told : QString();
+        device.neighbourMac = neighbour;
+        device.neighbourMac.back() = name.back(); // one for each
+        return device;
+    };
+    feed({sighted("Gate1", "10.0.0.7", false), sighted("Gate2", "10.0.0.8", true)});
+    QCOMPARE(ids().size(), 2);
+    db().deviceIntake().beginScan();
+    feed({sighted("Gate1", "10.0.0.17", false), sighted("Gate2", "10.0.0.18", true)});
+    QCOMPARE(ids().size(), 2);
+    QCOMPARE(int(intake().addressChanges().size()), 2);
+    for (const AddressChange& change : intake().addressChanges())
+        QCOMPARE(change.macAddress, change.name == "Gate2" ? told : QString("00:11:22:33:44:61"));
 }
 
 void DeviceIntakeTest::locationIsANameOfLastResort()

@@ -250,8 +250,9 @@ void WsDiscoveryTest::hostileMessagesAreNothing_data()
     QTest::newRow("too deep") << matches(match("http://10.0.0.9/") + QByteArray("<a>").repeated(100) +
                                          QByteArray("</a>").repeated(100));
     QTest::newRow("long text") << matches(match("http://10.0.0.9/", QByteArray(10000, 'x')));
-    QTest::newRow("UTF-16") << QByteArray::fromRawData(
-        reinterpret_cast<const char*>(QString::fromUtf8(good).utf16()), int(2 * good.size()));
+    const QString wide = QString::fromUtf8(good);
+    QTest::newRow("UTF-16") << QByteArray(reinterpret_cast<const char*>(wide.utf16()), int(2 * wide.size()));
+    QTest::newRow("more behind a zero") << good + QByteArray("\0<x/>", 5);
     QTest::newRow("too long") << matches(match("http://10.0.0.9/") + QByteArray("<a/>").repeated(17000));
 }
 
@@ -404,7 +405,7 @@ void WsDiscoveryTest::arpScanAsksWhoIsThere()
     QCOMPARE(device.address, QString("10.99.0.2"));
     QCOMPARE(device.port, 8899);
     QCOMPARE(device.name, QString("Odd"));
-    QCOMPARE(int(device.macAddress.size()), 17); // seen, not told
+    QCOMPARE(int(device.neighbourMac.size()), 17); // seen, not told
 }
 
 void WsDiscoveryTest::onAndOffLeavesNothing()
@@ -425,8 +426,9 @@ void WsDiscoveryTest::onAndOffLeavesNothing()
         scanner.stop();
         QVERIFY(clock.elapsed() < 500);
     }
-    QTRY_COMPARE(ProcessResources().threads, before.threads);
-    QCOMPARE(ProcessResources().descriptors, before.descriptors);
+    QTRY_VERIFY(ProcessResources().threads <= before.threads);
+    QVERIFY(ProcessResources().descriptors <=
+            before.descriptors); // fewer when a process of the test has gone
 }
 
 int main(int argc, char** argv)

@@ -21,12 +21,12 @@ QByteArray newNonce()
 
 } // namespace
 
-Camera::Camera(const Identity& identity, Behaviour behaviour, const Account& account)
+Camera::Camera(const Identity& identity, Behaviour behaviour, const Account& account, const Tls& tls)
     : m_identity(identity)
     , m_onvif(behaviour)
     , m_account(account)
     , m_http([this](const QHostAddress&, const HttpRequest& request) { return answer(request); },
-             MostConnections)
+             MostConnections, tls)
 {
     serveRtsp();
 }

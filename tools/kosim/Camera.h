@@ -12,7 +12,7 @@ namespace kosim {
 class Camera
 {
 public:
-    Camera(const Identity& identity, Behaviour behaviour, const Account& account);
+    Camera(const Identity& identity, Behaviour behaviour, const Account& account, const Tls& tls);
 
     const Identity& identity() const { return m_identity; }
 

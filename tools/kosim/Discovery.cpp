@@ -39,8 +39,7 @@ QByteArray description(const Identity& camera, const QByteArray& moreAddresses)
     return "<a:EndpointReference><a:Address>" + camera.endpoint +
            "</a:Address></a:EndpointReference><d:Types>dn:NetworkVideoTransmitter "
            "tds:Device</d:Types><d:Scopes>" +
-           scopesOf(camera) + "</d:Scopes><d:XAddrs>" + moreAddresses + "http://" +
-           camera.address.toString().toLatin1() + ':' + QByteArray::number(camera.httpPort) +
+           scopesOf(camera) + "</d:Scopes><d:XAddrs>" + moreAddresses + camera.base() +
            "/onvif/device_service</d:XAddrs><d:MetadataVersion>1</d:MetadataVersion>";
 }
 

@@ -1,6 +1,6 @@
 #include "HttpServer.h"
 
-#include <QTcpSocket>
+#include <QSslSocket>
 #include <QTimer>
 
 namespace kosim {
@@ -63,11 +63,26 @@ void write(QTcpSocket* socket, const HttpReply& reply)
 
 } // namespace
 
-HttpServer::HttpServer(const Answer& answer, int mostConnections)
+HttpServer::HttpServer(const Answer& answer, int mostConnections, const Tls& tls)
     : m_answer(answer)
     , m_mostConnections(mostConnections)
+    , m_server(tls)
 {
     connect(&m_server, &QTcpServer::newConnection, this, &HttpServer::accept);
+}
+
+void HttpServer::Listener::incomingConnection(qintptr descriptor)
+{
+    if (m_tls.certificate.isNull()) {
+        QTcpServer::incomingConnection(descriptor);
+        return;
+    }
+    auto* socket = new QSslSocket(this);
+    socket->setSocketDescriptor(descriptor);
+    socket->setLocalCertificate(m_tls.certificate);
+    socket->setPrivateKey(m_tls.key);
+    socket->startServerEncryption();
+    addPendingConnection(socket);
 }
 
 QString HttpServer::listen(const QHostAddress& address, int port)

@@ -3,6 +3,8 @@
 
 #include "Onvif.h"
 
+#include <QSslCertificate>
+#include <QSslKey>
 #include <QTcpServer>
 
 #include <functional>
@@ -10,6 +12,13 @@
 class QTcpSocket;
 
 namespace kosim {
+
+/// What a device shows of itself with TLS; none when the certificate is null.
+struct Tls
+{
+    QSslCertificate certificate;
+    QSslKey key;
+};
 
 /// The HTTP port of one camera, or of all that have addresses of this machine.
 class HttpServer : public QObject
@@ -20,7 +29,7 @@ public:
     /// \a at is the address that was connected to.
     typedef std::function<HttpReply(const QHostAddress& at, const HttpRequest& request)> Answer;
 
-    HttpServer(const Answer& answer, int mostConnections);
+    HttpServer(const Answer& answer, int mostConnections, const Tls& tls);
 
     /// No longer elsewhere. Empty, or why it cannot.
     QString listen(const QHostAddress& address, int port);
@@ -29,12 +38,28 @@ private slots:
     void accept();
 
 private:
+    /// Its connections speak TLS when they are to.
+    class Listener : public QTcpServer
+    {
+    public:
+        explicit Listener(const Tls& tls)
+            : m_tls(tls)
+        {
+        }
+
+    protected:
+        void incomingConnection(qintptr descriptor) override;
+
+    private:
+        const Tls m_tls;
+    };
+
     void read(QTcpSocket* socket) const;
     void reply(QTcpSocket* socket, const HttpRequest& request) const;
 
     const Answer m_answer;
     const int m_mostConnections;
-    QTcpServer m_server;
+    Listener m_server;
 };
 
 } // namespace kosim

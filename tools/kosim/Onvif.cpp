@@ -45,6 +45,12 @@ bool isForAll(const QString& operation)
 
 } // namespace
 
+QByteArray Identity::base() const
+{
+    return QByteArray(hasTls ? "https://" : "http://") + address.toString().toLatin1() + ':' +
+           QByteArray::number(httpPort);
+}
+
 HttpReply Onvif::answer(const HttpRequest& request, const Identity& identity, const Account& account)
 {
     HttpReply reply = misbehave();

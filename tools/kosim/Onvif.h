@@ -28,6 +28,10 @@ struct Identity
     QHostAddress address;
     int rtspPort = 0;
     int httpPort = 0;
+    bool hasTls = false;
+
+    /// The beginning of its addresses, as "http://127.0.1.1:8080".
+    QByteArray base() const;
 };
 
 struct HttpRequest

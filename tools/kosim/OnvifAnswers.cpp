@@ -15,11 +15,6 @@ QByteArray escaped(const QString& text)
     return text.toHtmlEscaped().toUtf8();
 }
 
-QByteArray baseOf(const Identity& identity)
-{
-    return "http://" + identity.address.toString().toLatin1() + ':' + QByteArray::number(identity.httpPort);
-}
-
 QByteArray dateAndTime(const SoapRequest&, const Identity&, qint64 clock)
 {
     const QDateTime now = QDateTime::fromSecsSinceEpoch(clock, Qt::UTC);
@@ -67,7 +62,7 @@ QByteArray services(const SoapRequest&, const Identity& identity, qint64)
     for (const char* name : {"device", "media", "ptz"})
         all += QByteArray("<tds:Service><tds:Namespace>http://www.onvif.org/") +
                (qstrcmp(name, "ptz") == 0 ? "ver20/" : "ver10/") + name + "/wsdl</tds:Namespace><tds:XAddr>" +
-               baseOf(identity) + "/onvif/" + name +
+               identity.base() + "/onvif/" + name +
                "_service</tds:XAddr><tds:Version><tt:Major>2</tt:Major><tt:Minor>60</tt:Minor></tds:Version>"
                "</tds:Service>";
     return "<tds:GetServicesResponse>" + all + "</tds:GetServicesResponse>";
@@ -125,7 +120,7 @@ QByteArray streamUri(const SoapRequest& request, const Identity& identity, qint6
 
 QByteArray snapshotUri(const SoapRequest& request, const Identity& identity, qint64)
 {
-    return mediaUri("GetSnapshotUriResponse", baseOf(identity) + "/snapshot/" + escaped(request.profile));
+    return mediaUri("GetSnapshotUriResponse", identity.base() + "/snapshot/" + escaped(request.profile));
 }
 
 struct Operation

@@ -1,6 +1,7 @@
 #include "Options.h"
 
 #include <QCommandLineParser>
+#include <QFile>
 #include <QNetworkInterface>
 
 namespace kosim {
@@ -59,6 +60,9 @@ void addOptions(QCommandLineParser& parser, const Options& defaults)
         {QStringLiteral("one-server"),
          QStringLiteral("One HTTP server for all cameras, at all addresses of this machine, and no RTSP: for "
                         "thousands of loopback addresses.")},
+        {QStringLiteral("tls"),
+         QStringLiteral("The HTTP ports speak TLS, with the certificate and the key in this PEM file."),
+         QStringLiteral("file")},
         {QStringLiteral("discovery-port"), QStringLiteral("UDP port of WS-Discovery (3702)."),
          QStringLiteral("port"), QString::number(defaults.discoveryPort)},
         {QStringLiteral("no-announce"), QStringLiteral("Does not announce the cameras.")},
@@ -103,6 +107,8 @@ QString Options::read(const QStringList& arguments)
     oneServer = parser.isSet(QStringLiteral("one-server"));
     if (error.isEmpty())
         error = readBehaviours(parser.value(QStringLiteral("onvif")));
+    if (error.isEmpty() && parser.isSet(QStringLiteral("tls")))
+        error = readTls(parser.value(QStringLiteral("tls")));
     model = parser.value(QStringLiteral("model"));
     announce = !parser.isSet(QStringLiteral("no-announce"));
     hostile = parser.isSet(QStringLiteral("hostile"));
@@ -126,6 +132,22 @@ QString Options::readBehaviours(const QString& names)
         behaviours.append(behaviour);
     }
     return QString();
+}
+
+QString Options::readTls(const QString& fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringLiteral("cannot read %1: %2").arg(fileName, file.errorString());
+    const QByteArray text = file.readAll();
+    tls.certificate = QSslCertificate(text);
+    for (const auto algorithm : {QSsl::Ec, QSsl::Rsa}) {
+        if (tls.key.isNull())
+            tls.key = QSslKey(text, algorithm);
+    }
+    return tls.certificate.isNull() || tls.key.isNull()
+               ? QStringLiteral("%1 holds no certificate with its key").arg(fileName)
+               : QString();
 }
 
 QString Options::readAddresses(const QString& base, const QString& interface)

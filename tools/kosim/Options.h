@@ -2,6 +2,7 @@
 #define KOSIM_OPTIONS_H
 
 #include "Behaviour.h"
+#include "HttpServer.h"
 #include "Onvif.h"
 
 #include <QHostAddress>
@@ -29,6 +30,7 @@ struct Options
     QVector<Behaviour> behaviours = {Behaviour::Digest}; ///< of the cameras, in turn
     int hostileEvery = 0; ///< each so many is a hostile one instead; 0 for none
     bool oneServer = false;
+    Tls tls;
     int storm = 0; ///< announcements without a camera
 
     bool help = false;
@@ -39,6 +41,7 @@ struct Options
 
 private:
     QString readBehaviours(const QString& names);
+    QString readTls(const QString& fileName);
     QString readAddresses(const QString& base, const QString& interface);
 };
 

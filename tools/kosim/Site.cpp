@@ -47,7 +47,8 @@ Camera* Site::newCamera(int number) const
         "urn:uuid:6b6f7369-6d00-4000-8000-" + QByteArray::number(number, 16).rightJustified(12, '0');
     identity.rtspPort = m_options.rtspPort;
     identity.httpPort = m_options.httpPort;
-    return new Camera(identity, behaviourOf(number), m_options.account);
+    identity.hasTls = !m_options.tls.certificate.isNull();
+    return new Camera(identity, behaviourOf(number), m_options.account, m_options.tls);
 }
 
 Behaviour Site::behaviourOf(int number) const
@@ -94,7 +95,7 @@ QString Site::serveAll()
             nobody.status = 404;
             return camera ? camera->answer(request) : nobody;
         },
-        mostConnections);
+        mostConnections, m_options.tls);
     return m_server->listen(QHostAddress::AnyIPv4, m_options.httpPort);
 }
 
