@@ -41,6 +41,8 @@ void TestKeptLocks::everyCommandOfEveryMenu()
     QTimer closing;
     int dialogs = 0;
     connect(&closing, &QTimer::timeout, this, [&dialogs] {
+        if (QWidget* menu = QApplication::activePopupWidget())
+            menu->close();
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!dialog || !dialog->isVisible())
             return;
