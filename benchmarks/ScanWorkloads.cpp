@@ -4,6 +4,7 @@
 
 #include "dialogs/NodeOverviewDialog.h"
 #include "discovery/DeviceIntake.h"
+#include "discovery/Scanners.h"
 
 #include <QTimer>
 #include <QTreeView>
@@ -53,11 +54,11 @@ public:
                 stops.append(stop);
             sinceTurn.start();
         });
-        db->deviceIntake().beginScan();
+        Scanners::of(*db).intake().beginScan();
         sinceTurn.start();
         everyTurn.start(0);
-        db->deviceIntake().take(m_devices);
-        while (!db->deviceIntake().isIdle() || db->hasUnstoredChanges())
+        Scanners::of(*db).intake().take(m_devices);
+        while (!Scanners::of(*db).intake().isIdle() || db->hasUnstoredChanges())
             QCoreApplication::processEvents();
         const int count = int(db->summaries().size());
         if (count != m_devices.size())

@@ -8,6 +8,7 @@
 #include "database/HostNodeDB.h"
 #include "discovery/ArpScanner.h"
 #include "discovery/MdnsScanner.h"
+#include "discovery/Scanners.h"
 #include "discovery/WsDiscoveryScanner.h"
 #include "exchange/CameraSurvey.h"
 #include "exchange/ExportFile.h"
@@ -80,9 +81,9 @@ bool showWindow(HostNodeDB& db, int* exitCode)
 {
     const ProgramLog log(db.logStore());
     const BackupKeeper backups(db.fileName());
-    db.addScanner(std::make_unique<MdnsScanner>());
-    db.addScanner(std::make_unique<ArpScanner>());
-    db.addScanner(std::make_unique<WsDiscoveryScanner>());
+    Scanners::of(db).add(std::make_unique<MdnsScanner>());
+    Scanners::of(db).add(std::make_unique<ArpScanner>());
+    Scanners::of(db).add(std::make_unique<WsDiscoveryScanner>());
     MainWindow window(db);
     bool isUsable = true;
     QObject::connect(&db, &HostNodeDB::checked, &window, [&isUsable](const StoreError& error) {

@@ -16,6 +16,7 @@
 #include "WindowSize.h"
 #include "database/HostNodeDB.h"
 #include "discovery/DeviceIntake.h"
+#include "discovery/Scanners.h"
 #include "drivers/NodeTypes.h"
 #include "utils/WindowTitle.h"
 
@@ -88,8 +89,8 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     connect(&m_db, &NodeDB::nodeInserted, this, &MainWindow::nodeChanged);
     connect(&m_db, &NodeDB::nodeUpdated, this, &MainWindow::nodeChanged);
     connect(&m_db, &NodeDB::nodeRemoved, this, &MainWindow::nodeRemoved);
-    connect(&m_db.deviceIntake(), &DeviceIntake::addressChangesChanged, this, [this] {
-        const int count = int(m_db.deviceIntake().addressChanges().size());
+    connect(&Scanners::of(m_db).intake(), &DeviceIntake::addressChangesChanged, this, [this] {
+        const int count = int(Scanners::of(m_db).intake().addressChanges().size());
         if (count > 0)
             say(tr("%n device(s) seen at a new address: Network > Seen at a New Address", nullptr, count));
     });

@@ -1,6 +1,7 @@
 #include "ScannerStatus.h"
 
 #include "database/HostNodeDB.h"
+#include "discovery/Scanners.h"
 
 namespace ko {
 
@@ -10,7 +11,7 @@ ScannerStatus::ScannerStatus(HostNodeDB& db, QWidget* parent)
 {
     setObjectName(QStringLiteral("scannerStatus"));
     setTextFormat(Qt::PlainText); // names of interfaces are no markup
-    const QList<Scanner*> scanners = db.scanners();
+    const QList<Scanner*> scanners = Scanners::of(db).all();
     for (Scanner* scanner : scanners)
         connect(scanner, &Scanner::stateChanged, this, &ScannerStatus::refresh);
     refresh();
@@ -41,7 +42,7 @@ void ScannerStatus::refresh()
 {
     QStringList texts;
     bool anyStarted = false;
-    const QList<Scanner*> scanners = m_db.scanners();
+    const QList<Scanner*> scanners = Scanners::of(m_db).all();
     for (const Scanner* scanner : scanners) {
         const ScannerState state = scanner->state();
         anyStarted = anyStarted || state.phase != ScannerState::Idle;

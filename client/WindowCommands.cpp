@@ -10,6 +10,7 @@
 #include "dialogs/NetworkProxyDialog.h"
 #include "dialogs/NodeDBViewer.h"
 #include "dialogs/NodeOverviewDialog.h"
+#include "discovery/Scanners.h"
 #include "ko/dialogFlags.h"
 
 #include <QAction>
@@ -53,7 +54,7 @@ void findDevices(MainWindow& window)
 
 void showAddressChanges(MainWindow& window)
 {
-    AddressChangesDialog(window.database().deviceIntake(), &window).exec();
+    AddressChangesDialog(Scanners::of(window.database()).intake(), &window).exec();
 }
 
 void showAuditLog(MainWindow& window)

@@ -1,9 +1,9 @@
 #include "Input.h"
 
 #include "devices/DeviceAnswers.h"
-#include "discovery/NetworkText.h"
 #include "ko/MACAddress.h"
 #include "model/NetworkAddress.h"
+#include "network/NetworkText.h"
 
 #include <initializer_list>
 

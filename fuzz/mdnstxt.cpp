@@ -1,8 +1,8 @@
 #include "Input.h"
 
 #include "discovery/MdnsTxt.h"
-#include "discovery/NetworkText.h"
 #include "ko/OutsideText.h"
+#include "network/NetworkText.h"
 
 using namespace ko;
 

@@ -1,7 +1,7 @@
 #include "Input.h"
 
-#include "discovery/NetworkText.h"
 #include "discovery/WsDiscovery.h"
+#include "network/NetworkText.h"
 
 using namespace ko;
 

@@ -1,42 +1,18 @@
 #include "database/HostNodeDB.h"
 
 #include "audit/AuditLog.h"
-#include "database/HostSettings.h"
-#include "database/NodeCopies.h"
+#include "database/NodeEditing.h"
+#include "database/Scanning.h"
 #include "database/StoredLogs.h"
-#include "discovery/DeviceIntake.h"
-#include "discovery/Scanner.h"
 #include "drivers/NodeTypes.h"
 #include "ko/LogQt.h"
 #include "ko/NodeHint.h"
-#include "ko/PropertyKeys.h"
 #include "recording/VolumeProbe.h"
 #include "secrets/Secrets.h"
 
-#include <QRandomGenerator>
-
-#include <algorithm>
 #include <set>
-#include <vector>
 
 namespace ko {
-
-namespace {
-
-/// 16 characters, of which 75 bits are random: unique among processes that do not know of each other.
-/// Begins with a letter and holds no character that a spreadsheet, a URL or a file name would mind.
-NodeID newNodeId()
-{
-    static constexpr char alphabet[] = "abcdefghijkmnpqrstuvwxyz23456789";
-    quint64 random[2];
-    QRandomGenerator::system()->fillRange(random);
-    NodeID id(16, QLatin1Char('n'));
-    for (int i = 1; i < id.size(); ++i)
-        id[i] = QLatin1Char(alphabet[random[i / 8] >> 5 * (i % 8) & 31]);
-    return id;
-}
-
-} // namespace
 
 class HostNodeDB::Private
 {
@@ -45,11 +21,7 @@ public:
 
     void start(Check when);
     void storeDefaults();
-    kom::smart<const Node> snapshot(NodeRecord* record);
     void announce(const Notices& notices);
-    NodeID add(NodeData data);
-    void makeRemotePreview(const NodeID& camera);
-    void change(const RelationChange& change);
 
     HostNodeDB& q;
     const std::unique_ptr<NodeStore> store;
@@ -58,10 +30,9 @@ public:
     HostSettings settings;
     StoredLogs logs;
     AuditLog audit;
-    NodeCopies copies;
+    NodeEditing nodes;
     std::set<std::string> missingScanners; ///< known to be missing, said once each
-    std::unique_ptr<DeviceIntake> intake;
-    std::vector<std::unique_ptr<Scanner>> scanners; ///< go first
+    std::unique_ptr<Scanning> scanning;    ///< goes first
 };
 
 HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)
@@ -72,6 +43,7 @@ HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> op
     , settings(memory, [this] { queue.schedule(); })
     , logs(*store, memory, queue)
     , audit(logs)
+    , nodes(memory, queue, settings, [this](const Notices& notices) { announce(notices); })
 {
 }
 
@@ -86,7 +58,6 @@ void HostNodeDB::Private::start(Check when)
     if (when == Check::Behind)
         queue.checkInBackground();
     storeDefaults();
-    intake = std::make_unique<DeviceIntake>(q);
     Secrets::setClearAllowed(store->isSealingPending());
     Secrets::setListener([this](StoreError::Kind kind) {
         const bool sealed = kind == StoreError::SealedElsewhere;
@@ -138,8 +109,7 @@ HostNodeDB::~HostNodeDB()
 {
     blockSignals(true);
     Secrets::setListener(nullptr);
-    d->scanners.clear();
-    d->intake.reset();
+    d->scanning.reset();
     d->queue.finish();
 }
 
@@ -150,23 +120,14 @@ QString HostNodeDB::fileName() const
 
 // Reading
 
-kom::smart<const Node> HostNodeDB::Private::snapshot(NodeRecord* record)
-{
-    return record ? queue.reading([&] { return memory.node(*record); }) : kom::smart<const Node>();
-}
-
 kom::smart<const Node> HostNodeDB::node(const QString& id) const
 {
-    return d->snapshot(d->memory.cache.find(id));
+    return d->nodes.node(id);
 }
 
 QVector<NodeSummary> HostNodeDB::summaries() const
 {
-    QVector<NodeSummary> result;
-    result.reserve(d->memory.cache.count());
-    for (const auto& entry : d->memory.cache)
-        result.append(entry.second.summary.unpacked());
-    return result;
+    return d->memory.cache.summaries();
 }
 
 NodeSummary HostNodeDB::summary(const QString& id) const
@@ -177,14 +138,12 @@ NodeSummary HostNodeDB::summary(const QString& id) const
 
 QStringList HostNodeDB::nodeIdList(ENodeType type) const
 {
-    if (type == AllNodeTypes)
-        return d->memory.cache.ids();
-    QStringList ids;
-    for (const auto& entry : d->memory.cache) {
-        if (entry.second.summary.type() == type)
-            ids.append(entry.second.summary.id());
-    }
-    return ids;
+    return d->memory.cache.ids(type);
+}
+
+QStringList HostNodeDB::nodesWithMac(const QString& mac) const
+{
+    return d->queue.reading([&] { return d->memory.nodesWithMac(mac); });
 }
 
 QString HostNodeDB::lookupHint(const NodeHint& hint) const
@@ -208,19 +167,7 @@ QString HostNodeDB::readableNodeTypeName(ENodeType type) const
 
 NodeDB::TypeNames HostNodeDB::readableNodeTypeNames(const QList<ENodeType>* types, bool sorted) const
 {
-    TypeNames names;
-    QList<ENodeType> offered = types ? *types : NodeTypes::all();
-    if (!types) // whatever comes first by its name, a dialog that adds begins with it
-        offered.erase(std::remove_if(offered.begin(), offered.end(),
-                                     [](ENodeType type) { return !NodeTypes::canBeAdded(type); }),
-                      offered.end());
-    for (const ENodeType type : offered)
-        names.append({type, NodeTypes::readableName(type)});
-    if (sorted)
-        std::stable_sort(names.begin(), names.end(), [](const auto& a, const auto& b) {
-            return QString::localeAwareCompare(a.second, b.second) < 0;
-        });
-    return names;
+    return NodeTypes::readableNames(types, sorted);
 }
 
 kom::smart<INodeDriverComponent> HostNodeDB::nodeDriver(ENodeType type) const
@@ -232,52 +179,12 @@ kom::smart<INodeDriverComponent> HostNodeDB::nodeDriver(ENodeType type) const
 
 Node* HostNodeDB::beginUpdateNode(const QString& id, int)
 {
-    syncForeignChanges();
-    NodeRecord* record = d->memory.cache.find(id);
-    return d->snapshot(record).null() ? nullptr : d->copies.begin(record->data());
+    return d->nodes.begin(id);
 }
 
 void HostNodeDB::endUpdateNode(Node* node)
 {
-    const std::optional<NodeCopies::Edit> edit = d->copies.end(node);
-    if (!edit) {
-        if (node)
-            LogQt::line(LogQt::Error, QLatin1String("endUpdateNode() without its beginUpdateNode()"));
-        return;
-    }
-    NodeRecord* record = d->memory.cache.find(edit->id());
-    if (!record) {
-        LogQt::line(LogQt::Debug, QLatin1String("A node was removed while it was edited"));
-        return;
-    }
-    if (!d->memory.update(*record, edit->mergedInto(record->data())))
-        return;
-    d->queue.schedule();
-    emit nodeUpdated(edit->id());
-    d->makeRemotePreview(edit->id());
-}
-
-/// A camera that is reached through the remote preview server has a node with its settings for that.
-void HostNodeDB::Private::makeRemotePreview(const NodeID& camera)
-{
-    const NodeRecord* record = memory.cache.find(camera);
-    if (!record || record->summary.type() != IPDeviceType ||
-        !record->data().properties.value(PropertyKeys::UseRecordingTransponder).toBool() ||
-        !memory.relations.destinations(camera, RecordingTransponderRelation).isEmpty())
-        return;
-    const NodeData data =
-        NodeTypes::remotePreviewOf(record->data(), settings.text(HostSettings::TransponderAddress));
-    q.addNodeRelation(camera, add(data), RecordingTransponderRelation);
-}
-
-NodeID HostNodeDB::Private::add(NodeData data)
-{
-    data.id = newNodeId();
-    Secrets::seal(data);
-    memory.add(data);
-    queue.schedule();
-    emit q.nodeInserted(data.id);
-    return data.id;
+    d->nodes.end(node);
 }
 
 void HostNodeDB::newNodeHint(const NodeHint& hint)
@@ -287,57 +194,27 @@ void HostNodeDB::newNodeHint(const NodeHint& hint)
 
 QString HostNodeDB::add(const NodeHint& hint)
 {
-    return d->add(NodeTypes::dataOf(hint));
+    return d->nodes.add(NodeTypes::dataOf(hint));
 }
 
 void HostNodeDB::removeNode(const QString& id)
 {
-    NodeRecord* record = d->memory.cache.find(id);
-    if (!record)
-        return;
-    const NodeID removed = record->summary.id(); // the caller's may be a part of what goes
-    const QStringList previews = d->memory.relations.destinations(removed, RecordingTransponderRelation);
-    d->memory.remove(*record);
-    d->queue.schedule();
-    emit nodeRemoved(removed);
-    for (const QString& preview : previews) {
-        if (!isDestinationOfNodeRelation(preview, RecordingTransponderRelation))
-            removeNode(preview);
-    }
+    d->nodes.remove(id);
 }
 
 bool HostNodeDB::apply(const ChangeSet& set)
 {
-    return d->queue.reading([&] {
-        const Notices notices = d->memory.apply(set);
-        d->queue.schedule();
-        d->announce(notices);
-        return true;
-    });
-}
-
-// Relations
-
-void HostNodeDB::Private::change(const RelationChange& change)
-{
-    if (!memory.change(change))
-        return;
-    queue.schedule();
-    Notices notices;
-    notices.updated(change.relation.source);
-    notices.updated(change.relation.destination);
-    announce(notices);
+    return d->nodes.apply(set);
 }
 
 void HostNodeDB::addNodeRelation(const QString& from, const QString& to, ENodeRelationType type)
 {
-    if (d->memory.cache.find(from) && d->memory.cache.find(to))
-        d->change({{from, to, type}, true});
+    d->nodes.change({{from, to, type}, true});
 }
 
 void HostNodeDB::removeNodeRelation(const QString& from, const QString& to, ENodeRelationType type)
 {
-    d->change({{from, to, type}, false});
+    d->nodes.change({{from, to, type}, false});
 }
 
 QStringList HostNodeDB::relatedNodes(const QString& id, ENodeRelationType type) const
@@ -352,37 +229,19 @@ bool HostNodeDB::isDestinationOfNodeRelation(const QString& id, ENodeRelationTyp
 
 // Scanners
 
-void HostNodeDB::addScanner(std::unique_ptr<Scanner> scanner)
+Scanning* HostNodeDB::scanning() const
 {
-    d->intake->attach(*scanner);
-    d->scanners.push_back(std::move(scanner));
+    return d->scanning.get();
 }
 
-QList<Scanner*> HostNodeDB::scanners() const
+void HostNodeDB::setScanning(std::unique_ptr<Scanning> scanning)
 {
-    QList<Scanner*> all;
-    for (const auto& scanner : d->scanners)
-        all.append(scanner.get());
-    return all;
-}
-
-DeviceIntake& HostNodeDB::deviceIntake()
-{
-    return *d->intake;
+    d->scanning = std::move(scanning);
 }
 
 void HostNodeDB::startScanners(const std::string& name, unsigned interfaces, int limit)
 {
-    bool found = false;
-    for (const auto& scanner : d->scanners) {
-        if (scanner->name().toStdString() != name)
-            continue;
-        found = true;
-        if (scanner->state().phase == ScannerState::Running)
-            continue;
-        d->intake->beginScan();
-        scanner->start(interfaces, limit);
-    }
+    const bool found = d->scanning && d->scanning->start(name, interfaces, limit);
     if (!found && d->missingScanners.insert(name).second)
         LogQt::line(LogQt::Info, QString::fromLatin1("No scanner named \"%1\" is available in this program")
                                      .arg(QString::fromStdString(name)));
@@ -390,10 +249,8 @@ void HostNodeDB::startScanners(const std::string& name, unsigned interfaces, int
 
 void HostNodeDB::stopScanners(const std::string& name)
 {
-    for (const auto& scanner : d->scanners) {
-        if (scanner->name().toStdString() == name)
-            scanner->stop();
-    }
+    if (d->scanning)
+        d->scanning->stop(name);
 }
 
 // Settings

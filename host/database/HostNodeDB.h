@@ -12,10 +12,9 @@
 namespace ko {
 
 class AuditLog;
-class DeviceIntake;
 class LogStore;
 class NodeStore;
-class Scanner;
+class Scanning;
 
 /// The node database of this host, on a SQLite file.
 ///
@@ -89,19 +88,18 @@ public:
     void setDefaultRecordingTransponderIP(const QString& address);
     void setBandwidth(int bandwidth);
 
-    /// Installs a scanner for startScanners() to call by its name. The host program decides which there
-    /// are; they are stopped and deleted with the database.
-    void addScanner(std::unique_ptr<Scanner> scanner);
-    QList<Scanner*> scanners() const;
-
-    /// Makes nodes of what the scanners find.
-    DeviceIntake& deviceIntake();
+    /// What startScanners() and stopScanners() call; null if there is none.
+    Scanning* scanning() const;
+    void setScanning(std::unique_ptr<Scanning> scanning);
 
     /// Summaries of all nodes, oldest first, without touching the disk.
     QVector<NodeSummary> summaries() const;
 
     /// The summary of one node; its id is empty when there is no such node.
     NodeSummary summary(const QString& id) const;
+
+    /// The devices with this MAC address, in the notation of MACAddress::toString(true).
+    QStringList nodesWithMac(const QString& mac) const;
 
     /// The audit log kept in the same file and the same transactions.
     AuditLog& auditLog();

@@ -35,6 +35,27 @@ const QStringList& NodeCache::ids() const
     return m_ids;
 }
 
+QStringList NodeCache::ids(ENodeType type) const
+{
+    if (type == AllNodeTypes)
+        return ids();
+    QStringList result;
+    for (const auto& node : m_nodes) {
+        if (node.second.summary.type() == type)
+            result.append(node.second.summary.id());
+    }
+    return result;
+}
+
+QVector<NodeSummary> NodeCache::summaries() const
+{
+    QVector<NodeSummary> result;
+    result.reserve(count());
+    for (const auto& node : m_nodes)
+        result.append(node.second.summary.unpacked());
+    return result;
+}
+
 NodeRecord& NodeCache::insert(qint64 order, const PackedSummary& summary)
 {
     m_ids.clear();

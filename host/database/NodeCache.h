@@ -52,6 +52,10 @@ public:
     /// The identifiers of all nodes; kept until a node comes, goes or changes its place.
     const QStringList& ids() const;
 
+    /// Those of one type, or of all.
+    QStringList ids(ENodeType type) const;
+    QVector<NodeSummary> summaries() const;
+
     /// Adds a node of the store that is not here yet.
     NodeRecord& insertStored(qint64 order, const PackedSummary& summary);
 

@@ -1,6 +1,7 @@
 #include "database/NodeMemory.h"
 
 #include "drivers/NodeTypes.h"
+#include "ko/PropertyKeys.h"
 
 namespace ko {
 
@@ -70,6 +71,21 @@ void NodeMemory::readLookupKeys()
             cache.setLookupKey(*record, NodeTypes::lookupKey(record->data()));
     }
     cache.setLookupReady();
+}
+
+QStringList NodeMemory::nodesWithMac(const QString& mac)
+{
+    QStringList ids = m_store.nodesWithMac(mac);
+    const QStringList waiting = pending.nodes();
+    for (const NodeID& id : waiting) {
+        const NodeRecord* record = cache.find(id);
+        if (record && record->snapshot.null())
+            continue; // only a relation of it waits
+        ids.removeAll(id);
+        if (record && record->data().properties.value(PropertyKeys::MacAddress).toString() == mac)
+            ids.append(id);
+    }
+    return ids;
 }
 
 // What others changed

@@ -53,6 +53,9 @@ public:
     /// Fills the look-up index, once. Throws StoreFailure.
     void readLookupKeys();
 
+    /// See NodeStore. Throws StoreFailure.
+    QStringList nodesWithMac(const QString& mac);
+
     /// Brings in what the store has now. A node that is said to have changed is announced also when
     /// nothing is seen to differ, since its properties may not have been read; not so when everything was
     /// looked at.

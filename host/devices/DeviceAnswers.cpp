@@ -1,9 +1,9 @@
 #include "devices/DeviceAnswers.h"
 
-#include "devices/SoapWalk.h"
-#include "discovery/NetworkText.h"
 #include "ko/MACAddress.h"
 #include "model/NetworkAddress.h"
+#include "network/NetworkText.h"
+#include "network/SoapWalk.h"
 
 #include <QUrl>
 #include <QXmlStreamAttributes>

@@ -1,7 +1,7 @@
 #include "devices/DeviceCheck.h"
 
 #include "devices/DeviceAnswers.h"
-#include "discovery/NetworkText.h"
+#include "network/NetworkText.h"
 
 #include <algorithm>
 #include <utility>

@@ -105,13 +105,13 @@ void DeviceIntake::Private::work()
         sighted(seen);
     }
     bool isHeld = false;
-    if (waiting.empty() && isRipe() && known.readMacs(slice, Slice)) {
+    if (waiting.empty() && isRipe()) {
         // Alone, so that two programs that scan one network do not both find a device missing, and add it.
         const auto settleSome = [&] {
             const ChangeScope scope(db, cause);
             QElapsedTimer alone;
             alone.start();
-            while (isRipe() && !alone.hasExpired(SliceAlone) && known.readMacs(slice, Slice)) {
+            while (isRipe() && !alone.hasExpired(SliceAlone)) {
                 Device* device = ripening.front();
                 ripening.pop_front();
                 settle(*device);
@@ -219,7 +219,7 @@ bool DeviceIntake::Private::noteChange(Device& device)
 
 bool DeviceIntake::Private::noteChange(Device& device, const QString& mac)
 {
-    const QStringList ids = known.nodesWithMac(mac);
+    const QStringList ids = db.nodesWithMac(mac);
     const auto node =
         ids.size() == 1 ? db.node(ids.at(0)).cast<const IPDeviceNode>() : kom::smart<const IPDeviceNode>();
     const bool sameModel = !node.null() && !device.model.isEmpty() && node->model() == device.model;

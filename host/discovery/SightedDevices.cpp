@@ -1,9 +1,9 @@
 #include "discovery/SightedDevices.h"
 
-#include "discovery/NetworkText.h"
 #include "discovery/ServiceTypes.h"
 #include "discovery/WsDiscovery.h"
 #include "model/NetworkAddress.h"
+#include "network/NetworkText.h"
 
 #include <QSet>
 

@@ -1,10 +1,10 @@
 #include "discovery/SightingFilter.h"
 
 #include "discovery/DeviceIntake.h"
-#include "discovery/NetworkText.h"
 #include "ko/LogQt.h"
 #include "ko/MACAddress.h"
 #include "model/NetworkAddress.h"
+#include "network/NetworkText.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "discovery/WsDiscovery.h"
 
-#include "devices/SoapWalk.h"
-#include "discovery/NetworkText.h"
+#include "network/NetworkText.h"
+#include "network/SoapWalk.h"
 
 #include <QUrl>
 #include <QUuid>

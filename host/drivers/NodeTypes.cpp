@@ -206,6 +206,23 @@ QString readableName(ENodeType type)
                 : QCoreApplication::translate("NodeTypes", "Node of type %1").arg(int(type));
 }
 
+QList<QPair<ENodeType, QString>> readableNames(const QList<ENodeType>* types, bool sorted)
+{
+    QList<QPair<ENodeType, QString>> names;
+    QList<ENodeType> offered = types ? *types : all();
+    if (!types) // whatever comes first by its name, a dialog that adds begins with it
+        offered.erase(
+            std::remove_if(offered.begin(), offered.end(), [](ENodeType type) { return !canBeAdded(type); }),
+            offered.end());
+    for (const ENodeType type : offered)
+        names.append({type, readableName(type)});
+    if (sorted)
+        std::stable_sort(names.begin(), names.end(), [](const auto& a, const auto& b) {
+            return QString::localeAwareCompare(a.second, b.second) < 0;
+        });
+    return names;
+}
+
 QIcon icon(ENodeType type)
 {
     // Shared by all nodes: an icon keeps the pixmaps that it has rendered.

@@ -32,6 +32,9 @@ KO_HOST_EXPORT QList<ENodeType> all();
 
 /// Translated name, for an unknown type a generic one with its number.
 KO_HOST_EXPORT QString readableName(ENodeType type);
+
+/// The names of \a types; if null, of those of which a user may add nodes. \a sorted as the locale does.
+QList<QPair<ENodeType, QString>> readableNames(const QList<ENodeType>* types, bool sorted);
 KO_HOST_EXPORT QIcon icon(ENodeType type);
 
 /// Whether a user may add nodes of this type (its driver makes hints).

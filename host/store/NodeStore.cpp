@@ -103,6 +103,11 @@ void NodeStore::column(const QString& key, const std::function<void(const NodeID
     d->tables.forEachValue(key, visit);
 }
 
+QStringList NodeStore::nodesWithMac(const QString& mac)
+{
+    return d->tables.nodesWithMac(mac);
+}
+
 void NodeStore::lookupKeys(const std::function<void(const NodeID&, const QString&)>& visit)
 {
     d->tables.forEachLookupKey(visit);

@@ -58,6 +58,9 @@ public:
     /// One property of all nodes that have it, by one statement.
     void column(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit);
 
+    /// The nodes with this MAC address, in the notation of MACAddress::toString(true).
+    QStringList nodesWithMac(const QString& mac);
+
     /// The look-up keys of all nodes that have one.
     void lookupKeys(const std::function<void(const NodeID&, const QString&)>& visit);
 

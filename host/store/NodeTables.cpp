@@ -110,6 +110,17 @@ void NodeTables::forEachValue(const QString& key,
         visit(rows.text(0), PropertyCoding::decode(int(rows.number(1)), rows.value(2)));
 }
 
+QStringList NodeTables::nodesWithMac(const QString& mac)
+{
+    QStringList ids;
+    SqliteStore::Rows rows = m_store.run("SELECT n.id FROM properties p JOIN nodes n ON n.n = p.node"
+                                         " WHERE p.key = 'MACAddress' AND p.value = ?",
+                                         {mac});
+    while (rows.next())
+        ids.append(rows.text(0));
+    return ids;
+}
+
 qint64 NodeTables::insertNode(qint64 place, const PackedSummary& packed, const QString& lookupKey)
 {
     const NodeSummary summary = packed.unpacked();

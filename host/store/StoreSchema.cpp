@@ -60,6 +60,8 @@ const QVector<QVector<const char*>>& steps()
             "ALTER TABLE audit ADD COLUMN change_set INTEGER REFERENCES change_sets (seq)",
             "CREATE INDEX changes_set ON changes (change_set) WHERE change_set IS NOT NULL",
             "CREATE INDEX audit_set ON audit (change_set) WHERE change_set IS NOT NULL",
+            // A scan asks for each device that it finds.
+            "CREATE INDEX properties_mac ON properties (value) WHERE key = 'MACAddress'",
         },
     };
     return steps;

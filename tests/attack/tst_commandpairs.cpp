@@ -5,6 +5,7 @@
 
 #include "audit/ProgramLog.h"
 #include "discovery/DeviceIntake.h"
+#include "discovery/Scanners.h"
 #include "store/BackupKeeper.h"
 #include "store/StoreBackup.h"
 
@@ -99,10 +100,10 @@ int runScan(const QString& file)
         device.service = QLatin1String("_http._tcp");
         devices.append(device);
     }
-    db->deviceIntake().take(devices);
+    Scanners::of(*db).intake().take(devices);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&db] {
-        if (db->deviceIntake().isIdle())
+        if (Scanners::of(*db).intake().isIdle())
             QCoreApplication::exit(db->flush() ? 0 : 2);
     });
     timer.start(10);

@@ -4,6 +4,7 @@
 
 #include "discovery/DeviceIntake.h"
 #include "discovery/DiscoveredDevice.h"
+#include "discovery/Scanners.h"
 #include "exchange/CameraSurvey.h"
 #include "ko/OutsideText.h"
 
@@ -167,8 +168,8 @@ void TestHostileLists::announcements()
         }
         QElapsedTimer clock;
         clock.start();
-        db->deviceIntake().take(devices);
-        QTRY_VERIFY_WITH_TIMEOUT(db->deviceIntake().isIdle(), Patience);
+        Scanners::of(*db).intake().take(devices);
+        QTRY_VERIFY_WITH_TIMEOUT(Scanners::of(*db).intake().isIdle(), Patience);
         QVERIFY(db->flush());
         const QVector<NodeSummary> all = db->summaries();
         for (const NodeSummary& node : all) {

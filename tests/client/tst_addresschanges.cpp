@@ -1,6 +1,7 @@
 #include "AddressChangesDialog.h"
 #include "ScannerStatus.h"
 #include "audit/AuditLog.h"
+#include "discovery/Scanners.h"
 #include "ko/IPDeviceNode.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
@@ -84,13 +85,13 @@ void AddressChangesTest::begin(const QStringList& names)
         device.macAddress = mac;
         moved.append(device);
     }
-    db().deviceIntake().take(moved);
-    QTRY_COMPARE(int(db().deviceIntake().addressChanges().size()), 3);
+    Scanners::of(db()).intake().take(moved);
+    QTRY_COMPARE(int(Scanners::of(db()).intake().addressChanges().size()), 3);
 }
 
 void AddressChangesTest::nothingIsSelectedAtFirst()
 {
-    AddressChangesDialog dialog(db().deviceIntake());
+    AddressChangesDialog dialog(Scanners::of(db()).intake());
     const auto* table = child<QTableWidget>(&dialog, "changesTableWidget");
     QCOMPARE(table->rowCount(), 3);
     QCOMPARE(table->item(1, 1)->text(), QStringLiteral("10.0.0.2"));
@@ -103,7 +104,7 @@ void AddressChangesTest::nothingIsSelectedAtFirst()
 void AddressChangesTest::namesAreInNaturalOrder()
 {
     begin({"Gate 10", "gate 2", "Gate 1"});
-    AddressChangesDialog dialog(db().deviceIntake());
+    AddressChangesDialog dialog(Scanners::of(db()).intake());
     dialog.show();
     const auto* table = child<QTableWidget>(&dialog, "changesTableWidget");
     QStringList shown;
@@ -118,7 +119,7 @@ void AddressChangesTest::namesAreInNaturalOrder()
 
 void AddressChangesTest::selectedIsAccepted()
 {
-    AddressChangesDialog dialog(db().deviceIntake());
+    AddressChangesDialog dialog(Scanners::of(db()).intake());
     dialog.show();
     const qint64 logged = db().auditLog().count();
     select(&dialog, 1);
@@ -133,7 +134,7 @@ void AddressChangesTest::selectedIsAccepted()
 
 void AddressChangesTest::allAreAccepted()
 {
-    AddressChangesDialog dialog(db().deviceIntake());
+    AddressChangesDialog dialog(Scanners::of(db()).intake());
     dialog.show();
     press(&dialog, "acceptAllButton");
     for (int i = 0; i < 3; ++i)
@@ -143,7 +144,7 @@ void AddressChangesTest::allAreAccepted()
 
 void AddressChangesTest::selectedIsDismissed()
 {
-    AddressChangesDialog dialog(db().deviceIntake());
+    AddressChangesDialog dialog(Scanners::of(db()).intake());
     dialog.show();
     select(&dialog, 0);
     press(&dialog, "dismissButton");
@@ -153,7 +154,7 @@ void AddressChangesTest::selectedIsDismissed()
 
 void AddressChangesTest::looks()
 {
-    AddressChangesDialog dialog(db().deviceIntake());
+    AddressChangesDialog dialog(Scanners::of(db()).intake());
     dialog.show();
     const QString folder = qEnvironmentVariable("KO_PICTURES");
     if (!folder.isEmpty())
@@ -165,7 +166,7 @@ void AddressChangesTest::scannersAreShown()
 {
     auto owned = std::make_unique<FakeScanner>();
     FakeScanner* scanner = owned.get();
-    db().addScanner(std::move(owned));
+    Scanners::of(db()).add(std::move(owned));
     const ScannerStatus status(db());
     QCOMPARE(status.text(), QString());
     QCOMPARE(status.textFormat(), Qt::PlainText);

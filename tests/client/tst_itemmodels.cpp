@@ -4,6 +4,7 @@
 #include "dialogs/NodeDBViewer.h"
 #include "dialogs/NodeOverviewDialog.h"
 #include "discovery/DeviceIntake.h"
+#include "discovery/Scanners.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
@@ -76,7 +77,7 @@ void tst_ItemModels::overviewWhileDevicesArrive()
     auto* view = child<QTreeView>(&dialog, "nodesTreeView");
     const BothTested tested(*view);
     view->sortByColumn(2, Qt::DescendingOrder);
-    DeviceIntake& intake = m_host->db()->deviceIntake();
+    DeviceIntake& intake = Scanners::of(*m_host->db()).intake();
     intake.beginScan();
     intake.take(devices(300));
     QTRY_COMPARE_WITH_TIMEOUT(tested.proxy->rowCount(), 300, 30000);

@@ -23,6 +23,7 @@
 #include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "dialogs/RecordingTransponderCustomSettingsDialog.h"
 #include "discovery/DeviceIntake.h"
+#include "discovery/Scanners.h"
 #include "ko/Environments.h"
 #include "ko/dialogFlags.h"
 
@@ -206,8 +207,8 @@ void tst_Keyboard::initTestCase()
     moved.name = "Yard";
     moved.address = "10.0.9.1";
     moved.macAddress = mac;
-    db->deviceIntake().take({moved});
-    QTRY_COMPARE(int(db->deviceIntake().addressChanges().size()), 1);
+    Scanners::of(*db).intake().take({moved});
+    QTRY_COMPARE(int(Scanners::of(*db).intake().addressChanges().size()), 1);
     for (int i = 0; i < 5; ++i)
         db->auditLog().log(NodeAddLogEntry(QString("Entry %1").arg(i)));
 }
@@ -275,7 +276,7 @@ void tst_Keyboard::addViewers()
     addRow("everything of a node",
            [this] { return std::make_unique<GenericNodeViewer>(m_cameras.first(), nullptr); });
     addRow("seen addresses", [this] {
-        auto dialog = std::make_unique<AddressChangesDialog>(m_host->db()->deviceIntake());
+        auto dialog = std::make_unique<AddressChangesDialog>(Scanners::of(*m_host->db()).intake());
         child<QTableWidget>(dialog.get(), "changesTableWidget")->selectRow(0);
         return dialog;
     });
@@ -414,12 +415,12 @@ void tst_Keyboard::viewersByKeys()
 /// It would send user name and password there.
 void tst_Keyboard::enterAcceptsNoAddress()
 {
-    AddressChangesDialog dialog(m_host->db()->deviceIntake());
+    AddressChangesDialog dialog(Scanners::of(*m_host->db()).intake());
     child<QTableWidget>(&dialog, "changesTableWidget")->selectRow(0);
     dialog.show();
     activate(&dialog);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QCOMPARE(int(m_host->db()->deviceIntake().addressChanges().size()), 1);
+    QCOMPARE(int(Scanners::of(*m_host->db()).intake().addressChanges().size()), 1);
 }
 
 KO_TEST_MAIN(tst_Keyboard)

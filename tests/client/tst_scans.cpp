@@ -3,6 +3,7 @@
 #include "discovery/ArpScanner.h"
 #include "discovery/DeviceIntake.h"
 #include "discovery/MdnsScanner.h"
+#include "discovery/Scanners.h"
 #include "discovery/WsDiscoveryScanner.h"
 #include "support/HostFixture.h"
 #include "support/LogLines.h"
@@ -78,9 +79,9 @@ void tst_Scans::init()
 {
     m_network = std::make_unique<NetworkNamespaces>();
     m_host = std::make_unique<testsupport::HostFixture>();
-    m_host->db()->addScanner(std::make_unique<MdnsScanner>());
-    m_host->db()->addScanner(std::make_unique<ArpScanner>());
-    m_host->db()->addScanner(std::make_unique<WsDiscoveryScanner>());
+    Scanners::of(*m_host->db()).add(std::make_unique<MdnsScanner>());
+    Scanners::of(*m_host->db()).add(std::make_unique<ArpScanner>());
+    Scanners::of(*m_host->db()).add(std::make_unique<WsDiscoveryScanner>());
     m_dialog = std::make_unique<NodeOverviewDialog>();
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
@@ -269,10 +270,10 @@ void tst_Scans::bothScansMakeOneNode()
     press("arpButton");
     press("bonjourButton");
     QTRY_COMPARE_WITH_TIMEOUT(rows(), 2, Patience);
-    Scanner* arp = m_host->db()->scanners().at(1);
+    Scanner* arp = Scanners::of(*m_host->db()).all().at(1);
     QCOMPARE(arp->name(), QStringLiteral("ARP"));
     QTRY_COMPARE_WITH_TIMEOUT(int(arp->state().phase), int(ScannerState::Done), 60000);
-    QTRY_VERIFY(m_host->db()->scanners().at(0)->state().done >= 4);
+    QTRY_VERIFY(Scanners::of(*m_host->db()).all().at(0)->state().done >= 4);
     QTest::qWait(1500);
     QCOMPARE(rows(), 2);
 }
@@ -331,7 +332,7 @@ void tst_Scans::movedCamerasStayWhereTheyAre()
     QTRY_VERIFY_WITH_TIMEOUT((said += site->readAllStandardOutput()).contains("at 10.99.0.11"), Patience);
     QTest::qWait(2500); // daemons remember a withdrawn address for a second
     press("bonjourButton");
-    DeviceIntake& intake = m_host->db()->deviceIntake();
+    DeviceIntake& intake = Scanners::of(*m_host->db()).intake();
     QTRY_COMPARE_WITH_TIMEOUT(int(intake.addressChanges().size()), 1, Patience);
     QCOMPARE(intake.addressChanges().at(0).oldAddress, QStringLiteral("10.99.0.10"));
     QCOMPARE(intake.addressChanges().at(0).newAddress, QStringLiteral("10.99.0.11"));
@@ -349,7 +350,7 @@ void tst_Scans::camerasAreFoundInAStorm()
     press("bonjourButton");
     const auto isFound = [&] {
         return places().contains(QStringLiteral("10.99.0.12")) &&
-               m_host->db()->scanners().at(0)->state().done > 300;
+               Scanners::of(*m_host->db()).all().at(0)->state().done > 300;
     };
     QTRY_VERIFY_WITH_TIMEOUT(isFound(), Patience);
     QVERIFY(names().contains(QStringLiteral("Camera 3")));
@@ -378,7 +379,7 @@ void tst_Scans::buttonsOnAndOff()
     QTRY_COMPARE(ProcessResources().threads, before.threads);
     QTRY_COMPARE(ProcessResources().descriptors, before.descriptors);
     QCOMPARE(rows(), 1); // neither cleared nor doubled
-    const QList<Scanner*> scanners = m_host->db()->scanners();
+    const QList<Scanner*> scanners = Scanners::of(*m_host->db()).all();
     for (const Scanner* scanner : scanners)
         QCOMPARE(int(scanner->state().phase), int(ScannerState::Cancelled));
 }
@@ -394,7 +395,7 @@ void tst_Scans::closedWhileScansRun()
     QVERIFY(ProcessResources().threads > before.threads);
     m_dialog->close();
     m_dialog.reset();
-    const QList<Scanner*> scanners = m_host->db()->scanners();
+    const QList<Scanner*> scanners = Scanners::of(*m_host->db()).all();
     QCOMPARE(int(scanners.at(0)->state().phase), int(ScannerState::Running)); // they go on
     QTRY_COMPARE_WITH_TIMEOUT(int(m_host->db()->summaries().size()), 1, Patience);
     m_host->db()->startScanners("ARP", 0xFFFFFFFF, -1);
@@ -418,8 +419,8 @@ void tst_Scans::burstOfDevices()
     HostNodeDB& db = *m_host->db();
     QVector<qint64> bytes;
     for (int round = 0; round < 4; ++round) {
-        db.deviceIntake().beginScan();
-        emit db.scanners().at(0)->found(burst);
+        Scanners::of(db).intake().beginScan();
+        emit Scanners::of(db).all().at(0)->found(burst);
         QTRY_COMPARE_WITH_TIMEOUT(rows(), Count, 60000);
         child<QAction>(m_dialog.get(), "actionRemove_all")->trigger();
         QCOMPARE(rows(), 0);
@@ -428,7 +429,7 @@ void tst_Scans::burstOfDevices()
         for (const NodeSummary& node : nodes)
             db.removeNode(node.id);
         QVERIFY(db.flush());
-        QTRY_VERIFY(db.deviceIntake().isIdle());
+        QTRY_VERIFY(Scanners::of(db).intake().isIdle());
         bytes.append(testsupport::heapInUse());
     }
     // The first round fills what is kept for later, such as the store's cache.

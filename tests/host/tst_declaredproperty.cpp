@@ -21,13 +21,17 @@ namespace {
 
 // A property more takes a line in each of these two tables.
 
-const NodeProperty properties[] = {
-    {QLatin1String("AssetTag"), QString("none"), "asset tag"},
-    {QLatin1String("MountHeight"), 250, "mount height"},
-    {QLatin1String("Outdoors"), false, "outdoors"},
-    {QLatin1String("Tilt"), 0.5f, "tilt"},
-    {QLatin1String("Note"), QString()}, // no column
-};
+const QVector<NodeProperty>& properties()
+{
+    static const QVector<NodeProperty> all = {
+        {QLatin1String("AssetTag"), QString("none"), "asset tag"},
+        {QLatin1String("MountHeight"), 250, "mount height"},
+        {QLatin1String("Outdoors"), false, "outdoors"},
+        {QLatin1String("Tilt"), 0.5f, "tilt"},
+        {QLatin1String("Note"), QString()}, // no column
+    };
+    return all;
+}
 
 const PropertyFormPage::Field fields[] = {
     {QLatin1String("AssetTag"), PropertyFormPage::Field::Text, "Asset tag:"},
@@ -66,7 +70,7 @@ private:
 
 void DeclaredPropertyTest::initTestCase()
 {
-    for (const NodeProperty& property : properties)
+    for (const NodeProperty& property : properties())
         NodeTypes::declareForDevices(property);
     addPage(IPDeviceType, {"survey", "Survey", true, createPage});
 }
@@ -81,7 +85,7 @@ void DeclaredPropertyTest::newDevicesCarryIt()
 {
     for (const ENodeType type : {IPDeviceType, UrlCameraType, ChannelDeviceType}) {
         const auto node = m_host->db()->node(m_host->add(type, "Gate"));
-        for (const NodeProperty& property : properties) {
+        for (const NodeProperty& property : properties()) {
             QVERIFY2(node->hasProperty(property.key), property.key.data());
             QCOMPARE(node->properties()[property.key]->value(), property.value);
         }

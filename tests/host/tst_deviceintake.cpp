@@ -1,13 +1,14 @@
 #include "audit/AuditLog.h"
 #include "discovery/DeviceIntake.h"
 #include "discovery/NearbyAddresses.h"
-#include "discovery/NetworkText.h"
 #include "discovery/Scanner.h"
+#include "discovery/Scanners.h"
 #include "discovery/WsDiscovery.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHint.h"
 #include "ko/NodeHintIPDevice.h"
 #include "model/NetworkAddress.h"
+#include "network/NetworkText.h"
 #include "support/HostFixture.h"
 #include "support/LogLines.h"
 #include "support/TestMain.h"
@@ -143,7 +144,7 @@ private slots:
 
 private:
     HostNodeDB& db() const { return *m_host->db(); }
-    DeviceIntake& intake() const { return db().deviceIntake(); }
+    DeviceIntake& intake() const { return Scanners::of(db()).intake(); }
     void feed(const QVector<DiscoveredDevice>& devices)
     {
         intake().take(devices);
@@ -296,7 +297,7 @@ void DeviceIntakeTest::farAddressesAreNotTakenOver()
                                     "such as 127.0.0.1"));
     announce();
     QCOMPARE(int(log.lines.size()), 1);
-    db().deviceIntake().beginScan();
+    Scanners::of(db()).intake().beginScan();
     announce();
     QCOMPARE(int(log.lines.size()), 2);
     // What a user enters is his own matter.
@@ -308,8 +309,8 @@ void DeviceIntakeTest::scannersAreCalledByName()
 {
     auto owned = std::make_unique<FakeScanner>();
     FakeScanner* scanner = owned.get();
-    db().addScanner(std::move(owned));
-    QCOMPARE(db().scanners(), QList<Scanner*>{scanner});
+    Scanners::of(db()).add(std::move(owned));
+    QCOMPARE(Scanners::of(db()).all(), QList<Scanner*>{scanner});
     db().startScanners("ARP", 0xFFFFFFFF, -1);
     QCOMPARE(scanner->starts, QStringList());
     db().startScanners("mDNS", 0xFFFFFFFF, -1);
@@ -522,11 +523,12 @@ void DeviceIntakeTest::movedDeviceIsKnownByWhatItTellsAndByWhatIsSeen()
     };
     feed({sighted("Gate1", "10.0.0.7", false), sighted("Gate2", "10.0.0.8", true)});
     QCOMPARE(ids().size(), 2);
-    db().deviceIntake().beginScan();
+    Scanners::of(db()).intake().beginScan();
     feed({sighted("Gate1", "10.0.0.17", false), sighted("Gate2", "10.0.0.18", true)});
     QCOMPARE(ids().size(), 2);
     QCOMPARE(int(intake().addressChanges().size()), 2);
-    for (const AddressChange& change : intake().addressChanges())
+    const QVector<AddressChange> changes = intake().addressChanges();
+    for (const AddressChange& change : changes)
         QCOMPARE(change.macAddress, change.name == "Gate2" ? told : QString("00:11:22:33:44:61"));
 }
 

@@ -1,7 +1,7 @@
-#include "devices/SoapWalk.h"
 #include "discovery/ArpScanner.h"
 #include "discovery/WsDiscovery.h"
 #include "discovery/WsDiscoveryScanner.h"
+#include "network/SoapWalk.h"
 #include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
 #include "support/ProcessResources.h"

@@ -5,6 +5,7 @@
 #include "database/HostNodeDB.h"
 #include "discovery/ArpScanner.h"
 #include "discovery/MdnsScanner.h"
+#include "discovery/Scanners.h"
 #include "ko/Terminal.h"
 
 #include <QApplication>
@@ -37,8 +38,8 @@ bool walk(const QCommandLineParser& options, ko::HostNodeDB& db)
 {
     if (options.isSet(QStringLiteral("check")))
         return ko::Robot::check(db);
-    db.addScanner(std::make_unique<ko::MdnsScanner>());
-    db.addScanner(std::make_unique<ko::ArpScanner>());
+    ko::Scanners::of(db).add(std::make_unique<ko::MdnsScanner>());
+    ko::Scanners::of(db).add(std::make_unique<ko::ArpScanner>());
     ko::MainWindow window(db);
     window.show();
     ko::Robot robot(db, window, options.positionalArguments().value(0));

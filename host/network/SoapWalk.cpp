@@ -1,4 +1,4 @@
-#include "devices/SoapWalk.h"
+#include "network/SoapWalk.h"
 
 #include <QVector>
 #include <QXmlStreamReader>

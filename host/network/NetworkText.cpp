@@ -1,4 +1,4 @@
-#include "discovery/NetworkText.h"
+#include "network/NetworkText.h"
 
 #include "ko/OutsideText.h"
 

@@ -1,0 +1,140 @@
+#include "database/NodeEditing.h"
+
+#include "drivers/NodeTypes.h"
+#include "ko/LogQt.h"
+#include "ko/PropertyKeys.h"
+#include "secrets/Secrets.h"
+
+#include <QRandomGenerator>
+
+namespace ko {
+
+namespace {
+
+/// 16 characters, of which 75 bits are random: unique among processes that do not know of each other.
+/// Begins with a letter and holds no character that a spreadsheet, a URL or a file name would mind.
+NodeID newNodeId()
+{
+    static constexpr char alphabet[] = "abcdefghijkmnpqrstuvwxyz23456789";
+    quint64 random[2];
+    QRandomGenerator::system()->fillRange(random);
+    NodeID id(16, QLatin1Char('n'));
+    for (int i = 1; i < id.size(); ++i)
+        id[i] = QLatin1Char(alphabet[random[i / 8] >> 5 * (i % 8) & 31]);
+    return id;
+}
+
+Notices updated(std::initializer_list<NodeID> ids)
+{
+    Notices notices;
+    for (const NodeID& id : ids)
+        notices.updated(id);
+    return notices;
+}
+
+} // namespace
+
+NodeEditing::NodeEditing(NodeMemory& memory, ChangeQueue& queue, HostSettings& settings, Announce announce)
+    : m_memory(memory)
+    , m_queue(queue)
+    , m_settings(settings)
+    , m_announce(std::move(announce))
+{
+}
+
+kom::smart<const Node> NodeEditing::node(const NodeID& id)
+{
+    NodeRecord* record = m_memory.cache.find(id);
+    return record ? m_queue.reading([&] { return m_memory.node(*record); }) : kom::smart<const Node>();
+}
+
+Node* NodeEditing::begin(const NodeID& id)
+{
+    m_queue.sync();
+    return node(id).null() ? nullptr : m_copies.begin(m_memory.cache.find(id)->data());
+}
+
+void NodeEditing::end(Node* copy)
+{
+    const std::optional<NodeCopies::Edit> edit = m_copies.end(copy);
+    if (!edit) {
+        if (copy)
+            LogQt::line(LogQt::Error, QLatin1String("endUpdateNode() without its beginUpdateNode()"));
+        return;
+    }
+    NodeRecord* record = m_memory.cache.find(edit->id());
+    if (!record) {
+        LogQt::line(LogQt::Debug, QLatin1String("A node was removed while it was edited"));
+        return;
+    }
+    if (!m_memory.update(*record, edit->mergedInto(record->data())))
+        return;
+    m_queue.schedule();
+    m_announce(updated({edit->id()}));
+    makeRemotePreview(edit->id());
+}
+
+/// A camera that is reached through the remote preview server has a node with its settings for that.
+void NodeEditing::makeRemotePreview(const NodeID& camera)
+{
+    const NodeRecord* record = m_memory.cache.find(camera);
+    if (!record || record->summary.type() != IPDeviceType ||
+        !record->data().properties.value(PropertyKeys::UseRecordingTransponder).toBool() ||
+        !m_memory.relations.destinations(camera, RecordingTransponderRelation).isEmpty())
+        return;
+    const NodeID preview =
+        add(NodeTypes::remotePreviewOf(record->data(), m_settings.text(HostSettings::TransponderAddress)));
+    change({{camera, preview, RecordingTransponderRelation}, true});
+}
+
+NodeID NodeEditing::add(NodeData data)
+{
+    data.id = newNodeId();
+    Secrets::seal(data);
+    m_memory.add(data);
+    m_queue.schedule();
+    Notices notices;
+    notices.inserted(data.id);
+    m_announce(notices);
+    return data.id;
+}
+
+void NodeEditing::remove(const NodeID& id)
+{
+    NodeRecord* record = m_memory.cache.find(id);
+    if (!record)
+        return;
+    const NodeID removed = record->summary.id(); // the caller's may be a part of what goes
+    const QStringList previews = m_memory.relations.destinations(removed, RecordingTransponderRelation);
+    m_memory.remove(*record);
+    m_queue.schedule();
+    Notices notices;
+    notices.removed(removed);
+    m_announce(notices);
+    for (const QString& preview : previews) {
+        if (!m_memory.relations.isDestination(preview, RecordingTransponderRelation))
+            remove(preview);
+    }
+}
+
+void NodeEditing::change(const RelationChange& change)
+{
+    const Relation& relation = change.relation;
+    const bool exist = m_memory.cache.find(relation.source) && m_memory.cache.find(relation.destination);
+    if ((change.isAdded && !exist) || !m_memory.change(change))
+        return;
+    m_queue.schedule();
+    m_announce(updated({relation.source, relation.destination}));
+}
+
+bool NodeEditing::apply(const ChangeSet& set)
+{
+    return m_queue.reading([&] {
+        const Notices notices = m_memory.apply(set);
+        m_queue.schedule();
+        m_announce(notices);
+        return true;
+    });
+}
+
+} // namespace ko

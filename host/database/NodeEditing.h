@@ -1,0 +1,48 @@
+#ifndef KO_NODEEDITING_H
+#define KO_NODEEDITING_H
+
+#include "database/ChangeQueue.h"
+#include "database/HostSettings.h"
+#include "database/NodeCopies.h"
+
+#include <functional>
+
+namespace ko {
+
+/// What changes nodes and relations: in memory at once, announced, and then left to the queue.
+class NodeEditing
+{
+public:
+    typedef std::function<void(const Notices&)> Announce;
+
+    /// All outlive this.
+    NodeEditing(NodeMemory& memory, ChangeQueue& queue, HostSettings& settings, Announce announce);
+
+    /// The node, null if there is none or it cannot be read.
+    kom::smart<const Node> node(const NodeID& id);
+
+    /// A copy to be changed; null like node().
+    Node* begin(const NodeID& id);
+    /// Stores what is different in the copy, which is deleted.
+    void end(Node* copy);
+
+    /// Returns the identifier that the new node gets.
+    NodeID add(NodeData data);
+    /// With the remote preview that it alone uses.
+    void remove(const NodeID& id);
+    void change(const RelationChange& change);
+    bool apply(const ChangeSet& set);
+
+private:
+    void makeRemotePreview(const NodeID& camera);
+
+    NodeMemory& m_memory;
+    ChangeQueue& m_queue;
+    HostSettings& m_settings;
+    const Announce m_announce;
+    NodeCopies m_copies;
+};
+
+} // namespace ko
+
+#endif
