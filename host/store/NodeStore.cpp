@@ -125,7 +125,7 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
         d->tables.addProgramLine(line);
     if (!batch.programLines.isEmpty())
         d->tables.trimProgramLines();
-    const Commit result = {d->log.revision(), writer.places(), writer.missingNodes()};
+    Commit result = {d->log.revision(), writer.places(), writer.missingNodes()};
     transaction.commit();
     return result;
 }

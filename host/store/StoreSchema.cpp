@@ -51,9 +51,9 @@ const QVector<QVector<const char*>>& steps()
         },
         {
             // From here on the changes that processes tell each other of are the history, too.
-            "CREATE TABLE change_sets (seq INTEGER PRIMARY KEY AUTOINCREMENT, id TEXT NOT NULL UNIQUE,"
-            " time INTEGER NOT NULL, user TEXT NOT NULL, host TEXT NOT NULL, purpose TEXT NOT NULL,"
-            " subject TEXT NOT NULL)",
+            ("CREATE TABLE change_sets (seq INTEGER PRIMARY KEY AUTOINCREMENT, id TEXT NOT NULL UNIQUE,"
+             " time INTEGER NOT NULL, user TEXT NOT NULL, host TEXT NOT NULL, purpose TEXT NOT NULL,"
+             " subject TEXT NOT NULL)"),
             "ALTER TABLE changes ADD COLUMN change_set INTEGER REFERENCES change_sets (seq)",
             "ALTER TABLE changes ADD COLUMN before TEXT",
             "ALTER TABLE changes ADD COLUMN after TEXT",
