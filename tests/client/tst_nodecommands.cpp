@@ -259,6 +259,7 @@ void tst_NodeCommands::nothingFoundShowsTheWayBack()
     QTest::mouseClick(child<QPushButton>(m_window.get(), "showAllButton"), Qt::LeftButton);
     QCOMPARE(m_view->model()->rowCount(), 5);
     QVERIFY(!child<QWidget>(m_window.get(), "emptyState")->isVisible());
+    QTest::qWait(500); // the button that clears the search fades; the toolkit loses its animation otherwise
 }
 
 KO_TEST_MAIN(tst_NodeCommands)
