@@ -44,14 +44,6 @@ int lock(const QString& file)
     return -1;
 }
 
-/// The draft last, which tells whose they are.
-void removeWithCompanions(const QString& draft)
-{
-    for (const char* end : StoreFile::Companions)
-        QFile::remove(draft + QLatin1String(end));
-    QFile::remove(draft);
-}
-
 [[noreturn]] void fail(StoreError::Kind kind, const QString& file, const char* detail)
 {
     throw StoreFailure{StoreError::make(kind, file, QLatin1String(detail))};
@@ -68,7 +60,7 @@ DraftFile::DraftFile(const QString& target)
 
 DraftFile::~DraftFile()
 {
-    removeWithCompanions(m_name);
+    StoreFile::removeWithCompanions(m_name);
     if (m_lock >= 0)
         ::close(m_lock);
 }
@@ -105,7 +97,7 @@ void DraftFile::removeLeftovers(const QString& database, const QString& folder)
         const int held = lock(draft.filePath());
         if (held < 0)
             continue;
-        removeWithCompanions(draft.filePath());
+        StoreFile::removeWithCompanions(draft.filePath());
         ::close(held);
     }
     // What was saved of a damaged database, for a user who does not look at it for a day.

@@ -3,6 +3,7 @@
 #include "store/SqliteFile.h"
 #include "store/SqliteStore.h"
 #include "store/StoreFile.h"
+#include "store/StoreSchema.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -23,7 +24,7 @@ constexpr int PageCountOffset = 28;
 enum class Mend {
     Length,   ///< nothing but that no page is said to be there that is not
     Header,   ///< also the header, as when something else was written over the start of the file
-    FirstPage ///< also where the tables begin: in a database of ours, always in the same pages
+    FirstPage ///< also where the tables begin: in databases of ours, mostly in the same pages
 };
 
 struct Finalize
@@ -66,19 +67,33 @@ const char* backwards(const QByteArray& table)
     return table == "settings" ? " ORDER BY key DESC" : " ORDER BY rowid DESC";
 }
 
+QByteArrayList columns(sqlite3* handle, const QByteArray& table)
+{
+    const Statement rows = prepare(handle, "SELECT * FROM " + table);
+    QByteArrayList names;
+    for (int column = 0; column < sqlite3_column_count(rows.get()); ++column)
+        names.append(sqlite3_column_name(rows.get(), column));
+    return names;
+}
+
 /// Copies rows up to the first page that cannot be read, and returns how many were new. Rows that do not fit
 /// are left out. \a most is more than a sound file can hold: pages of a damaged one may go in circles.
 qint64 copyRows(sqlite3* from, sqlite3* to, const QByteArray& table, const char* order, qint64 most)
 {
-    const Statement rows = prepare(from, "SELECT * FROM " + table + order);
-    if (!rows)
-        return 0;
+    QByteArrayList common; // a table of an older version has fewer columns
+    const QByteArrayList there = columns(from, table);
     QByteArrayList places;
-    for (int column = sqlite3_column_count(rows.get()); column > 0; --column)
-        places.append("?");
+    for (const QByteArray& column : columns(to, table)) {
+        if (there.contains(column)) {
+            common.append(column);
+            places.append("?");
+        }
+    }
+    const QByteArray list = common.join(", ");
+    const Statement rows = prepare(from, "SELECT " + list + " FROM " + table + order);
     const Statement insert =
-        prepare(to, "INSERT OR IGNORE INTO " + table + " VALUES (" + places.join(", ") + ")");
-    if (!insert)
+        prepare(to, "INSERT OR IGNORE INTO " + table + " (" + list + ") VALUES (" + places.join(", ") + ")");
+    if (!rows || !insert)
         return 0;
     qint64 copied = 0;
     while (most-- > 0 && sqlite3_step(rows.get()) == SQLITE_ROW) {
@@ -144,9 +159,9 @@ bool mend(const QString& copy, const QByteArray& soundPage, Mend what)
            file.write(what == Mend::FirstPage ? header + soundPage.mid(HeaderSize) : header) >= HeaderSize;
 }
 
-void execute(sqlite3* handle, const QString& file, const char* sql)
+void execute(sqlite3* handle, const QString& file, const QByteArray& sql)
 {
-    const int result = sqlite3_exec(handle, sql, nullptr, nullptr, nullptr);
+    const int result = sqlite3_exec(handle, sql.constData(), nullptr, nullptr, nullptr);
     if (result != SQLITE_OK)
         throw StoreFailure{
             StoreError::make(SqliteStore::kindOf(result), file, QString::fromUtf8(sqlite3_errmsg(handle)))};
@@ -174,6 +189,14 @@ qint64 save(const QString& copy, const QString& saved, qint64* nodes)
     execute(to.get(), saved,
             "DELETE FROM relations WHERE source NOT IN (SELECT n FROM nodes)"
             " OR destination NOT IN (SELECT n FROM nodes)");
+    // In a database that came from an older version this table begins where the first page of a new one does
+    // not know, and rows of another were taken for its rows.
+    execute(to.get(), saved,
+            "DELETE FROM change_sets WHERE typeof(time) <> 'integer' OR time < 1000000000000"); // ms: 2001
+    for (const char* table : {"audit", "changes"})
+        execute(to.get(), saved,
+                QByteArray("UPDATE ") + table +
+                    " SET change_set = NULL WHERE change_set NOT IN (SELECT seq FROM change_sets)");
     // The rows may be of a version that sealed no passwords.
     execute(to.get(), saved, "INSERT OR REPLACE INTO settings VALUES ('secrets.toSeal', '1')");
     execute(to.get(), saved, "COMMIT");
@@ -185,6 +208,18 @@ QByteArray firstPage(const QString& file)
 {
     QFile reader(file);
     return reader.open(QIODevice::ReadOnly) ? reader.read(PageSize) : QByteArray();
+}
+
+/// Of a database of this version, made as \a file for a moment.
+QByteArray firstPageOf(int version, const QString& file)
+{
+    StoreError error;
+    SqliteStore::open(file, &error, SqliteStore::Check::First, version).reset();
+    if (error)
+        throw StoreFailure{error};
+    const QByteArray page = firstPage(file);
+    StoreFile::removeWithCompanions(file);
+    return page;
 }
 
 } // namespace
@@ -208,15 +243,16 @@ void Salvage::run(const QString& database)
     SqliteStore::open(saved, &m_error).reset();
     if (m_error)
         return;
-    const QByteArray soundPage = firstPage(saved);
     qint64 rows = 0;
-    for (const Mend what : {Mend::Length, Mend::Header, Mend::FirstPage}) {
+    const auto attempt = [&](Mend what, const QByteArray& soundPage) {
         if (m_nodes == 0 && copyDatabase(database, copy) && mend(copy, soundPage, what))
             rows += save(copy, saved, &m_nodes);
-    }
-    QFile::remove(copy);
-    for (const char* end : StoreFile::Companions)
-        QFile::remove(copy + QLatin1String(end));
+    };
+    attempt(Mend::Length, firstPage(saved));
+    attempt(Mend::Header, firstPage(saved));
+    for (int version = StoreSchema::latest(); version > 0 && m_nodes == 0; --version)
+        attempt(Mend::FirstPage, firstPageOf(version, m_folder.filePath(QLatin1String("empty.kodb"))));
+    StoreFile::removeWithCompanions(copy);
     if (rows == 0)
         throw StoreFailure{
             StoreError::make(StoreError::Damaged, database, QLatin1String("nothing could be read"))};

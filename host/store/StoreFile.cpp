@@ -171,6 +171,13 @@ void keepPrivate(const QString& file)
         restrict(file + QLatin1String(end));
 }
 
+void removeWithCompanions(const QString& file)
+{
+    for (const char* end : Companions)
+        QFile::remove(file + QLatin1String(end));
+    QFile::remove(file);
+}
+
 bool flushFolder(const QString& file)
 {
     const QByteArray folder = QFile::encodeName(QFileInfo(file).absolutePath());

@@ -23,6 +23,9 @@ KO_HOST_EXPORT bool isSame(const QString& file, const QString& other);
 /// Whether \a file is an SQLite database, of whatever program, or what SQLite keeps beside one.
 bool belongsToDatabase(const QString& file);
 
+/// Removes a database that nobody uses; the file itself last, which says whose the others are.
+void removeWithCompanions(const QString& file);
+
 /// Makes an empty file that only its owner may read. False if \a file was there before.
 bool create(const QString& file);
 

@@ -2,7 +2,9 @@
 #include "support/TestMain.h"
 
 #include "store/Salvage.h"
+#include "store/SqliteStore.h"
 #include "store/StoreBackup.h"
+#include "store/StoreSchema.h"
 
 #include <QDir>
 
@@ -40,6 +42,9 @@ private slots:
     void truncated_data();
     void truncated();
     void logIsReadToo();
+    void olderVersions_data();
+    void olderVersions();
+    void lostChangeSets();
     void nothingIsLeftBehind();
     void nothingToRead_data();
     void nothingToRead();
@@ -168,6 +173,76 @@ void tst_Salvage::logIsReadToo()
     const Salvage salvage(m_file);
     QCOMPARE(salvage.nodeCount(), qint64(Cameras + 1));
     QCOMPARE(digest(m_file + QLatin1String("-wal")), log);
+}
+
+void tst_Salvage::olderVersions_data()
+{
+    QTest::addColumn<int>("version");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("size");
+    for (int version = 1; version <= StoreSchema::latest(); ++version) {
+        QTest::addRow("version %d, header", version) << version << 0 << 100;
+        QTest::addRow("version %d, first page", version) << version << 0 << PageSize;
+    }
+}
+
+/// Their tables have fewer columns, and others where ours have theirs.
+void tst_Salvage::olderVersions()
+{
+    QFETCH(int, version);
+    QFETCH(int, from);
+    QFETCH(int, size);
+    constexpr int rows = 300;
+    QFile::remove(m_file);
+    {
+        StoreError error;
+        const auto store = SqliteStore::open(m_file, &error, SqliteStore::Check::First, version);
+        QVERIFY2(store, qPrintable(error.detail));
+        Transaction transaction(*store, Transaction::Write);
+        for (int i = 0; i < rows; ++i) {
+            const QString id = QString::fromLatin1("n%1").arg(i);
+            store->run("INSERT INTO nodes VALUES (?, ?, 2, 'camera', '', -1, '')", {i + 1, id});
+            store->run("INSERT INTO audit (time, user, host, code, data) VALUES (?, 'u', 'h', 1, ?)",
+                       {i, id});
+            store->run("INSERT INTO changes (kind, id) VALUES ('n', ?)", {id});
+        }
+        transaction.commit();
+    }
+    spoil([=](QFile& file) { fill(file, from, size, 'x'); });
+    const Salvage salvage(m_file);
+    QVERIFY2(!salvage.error(), qPrintable(salvage.error().detail));
+    QCOMPARE(salvage.nodeCount(), qint64(rows));
+    StoreError error;
+    QVERIFY2(StoreBackup::verify(salvage.file(), &error), qPrintable(error.detail));
+    const std::unique_ptr<HostNodeDB> db = openDatabase(salvage.file());
+    QVERIFY(db);
+    PlainSql sql(salvage.file());
+    QCOMPARE(
+        sql.run(QLatin1String("SELECT count(*) FROM audit WHERE user = 'u' AND data = 'n' || time")).toInt(),
+        rows);
+    QCOMPARE(sql.run(QLatin1String("SELECT count(*) FROM changes WHERE kind = 'n'")).toInt(), rows);
+    QCOMPARE(sql.run(QLatin1String("SELECT count(*) FROM change_sets WHERE purpose <> 'start'")).toInt(), 0);
+}
+
+/// What happened stays in the logs, though nothing says any more who did it.
+void tst_Salvage::lostChangeSets()
+{
+    const auto count = [](const QString& file, const char* table) {
+        return PlainSql(file).run(QLatin1String("SELECT count(*) FROM ") + QLatin1String(table)).toInt();
+    };
+    const int changes = count(m_file, "changes");
+    const int audit = count(m_file, "audit");
+    const int page = PlainSql(m_file)
+                         .run(QLatin1String("SELECT rootpage FROM sqlite_schema WHERE name = 'change_sets'"))
+                         .toInt();
+    spoil([=](QFile& file) { fill(file, qint64(page - 1) * PageSize, PageSize, 'x'); });
+    const Salvage salvage(m_file);
+    QCOMPARE(salvage.nodeCount(), qint64(Cameras));
+    StoreError error;
+    QVERIFY2(StoreBackup::verify(salvage.file(), &error), qPrintable(error.detail));
+    QCOMPARE(count(salvage.file(), "changes"), changes);
+    QCOMPARE(count(salvage.file(), "audit"), audit);
+    QCOMPARE(count(salvage.file(), "change_sets"), 0);
 }
 
 void tst_Salvage::nothingIsLeftBehind()
