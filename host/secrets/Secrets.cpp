@@ -68,11 +68,6 @@ QString withoutHeld(const QString& text)
     return text.mid(int(std::strlen(Held)));
 }
 
-bool isHeld(const QString& text)
-{
-    return text.startsWith(QLatin1String(Held)) && Sealer::isSealed(withoutHeld(text));
-}
-
 bool isClearAllowed()
 {
     const QMutexLocker locker(&state().mutex);
@@ -127,6 +122,11 @@ void load()
 }
 
 } // namespace
+
+bool isHeld(const QString& text)
+{
+    return text.startsWith(QLatin1String(Held)) && Sealer::isSealed(withoutHeld(text));
+}
 
 const QStringList& properties()
 {

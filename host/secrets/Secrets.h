@@ -60,6 +60,9 @@ KO_HOST_EXPORT QString seal(const QString& owner, const QString& property, const
 /// All passwords of a node that comes into being: what describes it has them in the clear.
 void seal(NodeData& data);
 
+/// Whether \a sealed is held in memory, for want of a key.
+bool isHeld(const QString& sealed);
+
 /// What to store for what seal() gave. Nothing without a key, unless that was sealed with one.
 std::optional<QString> toStore(const QString& owner, const QString& property, const QString& sealed);
 

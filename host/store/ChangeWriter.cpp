@@ -38,12 +38,9 @@ void ChangeWriter::write(const ChangeSet& set)
 void ChangeWriter::addNode(NodeChange change)
 {
     change.place = m_tables.insertNode(change.place, change.summary, change.lookupKey);
-    const PropertyList properties = change.after->properties;
-    for (const PropertyList::Entry& entry : properties) {
-        const QVariant value = sealed(change.id, entry.name, entry.value);
-        m_tables.setProperty(change.place, entry.name, value);
-        change.after->properties.set(entry.name, value);
-    }
+    seal(change.id, &change.after->properties);
+    for (const PropertyList::Entry& entry : std::as_const(change.after->properties))
+        m_tables.setProperty(change.place, entry.name, entry.value);
     m_places.insert(change.id, change.place);
     note(change);
 }
@@ -56,18 +53,11 @@ void ChangeWriter::updateNode(NodeChange change)
         return;
     }
     m_tables.updateNode(n, change.summary, change.lookupKey);
-    const PropertyList before = change.before->properties;
-    for (const PropertyList::Entry& entry : before) {
-        change.before->properties.set(entry.name, sealed(change.id, entry.name, entry.value));
-        if (!change.after->properties.contains(entry.name))
-            m_tables.setProperty(n, entry.name, QVariant());
-    }
-    const PropertyList after = change.after->properties;
-    for (const PropertyList::Entry& entry : after) {
-        const QVariant value = sealed(change.id, entry.name, entry.value);
-        m_tables.setProperty(n, entry.name, value);
-        change.after->properties.set(entry.name, value);
-    }
+    seal(change.id, &change.before->properties);
+    seal(change.id, &change.after->properties);
+    const auto changes = PropertyList::difference(change.before->properties, change.after->properties);
+    for (const PropertyList::Entry& entry : changes)
+        m_tables.setProperty(n, entry.name, entry.value);
     note(change);
 }
 
@@ -159,9 +149,14 @@ QString ChangeWriter::sealed(const QString& owner, const QString& key, const QSt
     return *result;
 }
 
-QVariant ChangeWriter::sealed(const QString& owner, const QString& key, const QVariant& value)
+/// Almost always nothing is held, and the list stays shared.
+void ChangeWriter::seal(const NodeID& node, PropertyList* properties)
 {
-    return value.userType() == QMetaType::QString ? QVariant(sealed(owner, key, value.toString())) : value;
+    const PropertyList list = *properties;
+    for (const PropertyList::Entry& entry : list) {
+        if (entry.value.userType() == QMetaType::QString && Secrets::isHeld(entry.value.toString()))
+            properties->set(entry.name, sealed(node, entry.name, entry.value.toString()));
+    }
 }
 
 } // namespace ko

@@ -35,7 +35,7 @@ private:
     void note(const RelationChange& change);
     qint64 number();
     QString sealed(const QString& owner, const QString& key, const QString& text);
-    QVariant sealed(const QString& owner, const QString& key, const QVariant& value);
+    void seal(const NodeID& node, PropertyList* properties);
 
     NodeTables& m_tables;
     ChangeLog& m_log;
