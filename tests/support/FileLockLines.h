@@ -8,9 +8,7 @@
 
 namespace testsupport {
 
-/// The locks that any process has on a database and on what SQLite keeps beside it: kind of access, file and
-/// bytes, in order. From the system, without opening the files.
-inline QStringList lockLines(const QString& database)
+inline QStringList lockLinesOnce(const QString& database)
 {
     QStringList inodes;
     for (const char* end : {"", "-wal", "-shm"}) {
@@ -32,6 +30,21 @@ inline QStringList lockLines(const QString& database)
     }
     found.sort();
     return found;
+}
+
+/// The locks that any process has on a database and on what SQLite keeps beside it: kind of access, file and
+/// bytes, in order. From the system, without opening the files.
+inline QStringList lockLines(const QString& database)
+{
+    // The system gives its list in pieces, between which other processes lock and unlock: lines may be
+    // missing.
+    QStringList before;
+    QStringList lines = lockLinesOnce(database);
+    for (int times = 0; times < 10 && lines != before; ++times) {
+        before = lines;
+        lines = lockLinesOnce(database);
+    }
+    return lines;
 }
 
 } // namespace testsupport
