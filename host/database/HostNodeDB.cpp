@@ -125,6 +125,16 @@ kom::smart<const Node> HostNodeDB::node(const QString& id) const
     return d->nodes.node(id);
 }
 
+bool HostNodeDB::getBrief(const QString& id, NodeBrief* brief) const
+{
+    const NodeSummary found = summary(id);
+    if (found.id.isEmpty())
+        return false;
+    const bool isDevice = NodeTypes::isDevice(found.type);
+    *brief = NodeBrief{found.type, found.name, isDevice, isDevice ? found.location : QString()};
+    return true;
+}
+
 QVector<NodeSummary> HostNodeDB::summaries() const
 {
     return d->memory.cache.summaries();

@@ -53,6 +53,7 @@ public:
 
     // NodeDB
     kom::smart<const Node> node(const QString& id) const override;
+    bool getBrief(const QString& id, NodeBrief* brief) const override;
     Node* beginUpdateNode(const QString& id, int limit) override;
     void endUpdateNode(Node* node) override;
     void newNodeHint(const NodeHint& hint) override;

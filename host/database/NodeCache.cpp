@@ -1,7 +1,5 @@
 #include "database/NodeCache.h"
 
-#include "drivers/StoredNode.h"
-
 namespace ko {
 
 bool NodeRecord::isStored() const
@@ -11,7 +9,14 @@ bool NodeRecord::isStored() const
 
 NodeData NodeRecord::data() const
 {
-    return dynamic_cast<const StoredNode&>(*snapshot).nodeData();
+    NodeData data;
+    data.id = summary.id();
+    data.type = summary.type();
+    data.name = summary.name();
+    data.properties = properties.value_or(PropertyList());
+    data.context = context;
+    data.hasContext = context != nullptr;
+    return data;
 }
 
 NodeRecord* NodeCache::find(const NodeID& id) const

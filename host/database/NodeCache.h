@@ -2,14 +2,14 @@
 #define KO_NODECACHE_H
 
 #include "database/NodeIndex.h"
-#include "ko/Node.h"
-#include "kom/smart.h"
+#include "model/NodeData.h"
 #include "model/PackedSummary.h"
 
 #include <QHash>
 #include <QStringList>
 
 #include <map>
+#include <optional>
 
 namespace ko {
 
@@ -19,14 +19,14 @@ struct NodeRecord
     /// Its number in the store when that was last looked at, for the order only: other programs may change
     /// it. Larger than all of these while the node is not stored yet.
     qint64 order = 0;
-    PackedSummary summary;           ///< its identifier stays the same
-    kom::smart<const Node> snapshot; ///< null until somebody needs the properties
-    QString lookupKey;               ///< kept once NodeCache::lookupReady()
-    void* context = nullptr;         ///< null: none
+    PackedSummary summary;                  ///< its identifier stays the same
+    std::optional<PropertyList> properties; ///< once somebody needed them
+    QString lookupKey;                      ///< kept once NodeCache::lookupReady()
+    void* context = nullptr;                ///< null: none
 
     bool isStored() const;
 
-    /// Of the snapshot, which must be there.
+    /// Without properties that nobody needed yet.
     NodeData data() const;
 };
 

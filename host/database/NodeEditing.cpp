@@ -44,14 +44,23 @@ NodeEditing::NodeEditing(NodeMemory& memory, ChangeQueue& queue, HostSettings& s
 
 kom::smart<const Node> NodeEditing::node(const NodeID& id)
 {
+    const NodeRecord* record = read(id);
+    return record ? std::shared_ptr<const Node>(NodeTypes::createNode(record->data()))
+                  : kom::smart<const Node>();
+}
+
+/// The record of the node with its properties; null if there is none or it cannot be read.
+NodeRecord* NodeEditing::read(const NodeID& id)
+{
     NodeRecord* record = m_memory.cache.find(id);
-    return record ? m_queue.reading([&] { return m_memory.node(*record); }) : kom::smart<const Node>();
+    return record && m_queue.reading([&] { return m_memory.read(*record); }) ? record : nullptr;
 }
 
 Node* NodeEditing::begin(const NodeID& id)
 {
     m_queue.sync();
-    return node(id).null() ? nullptr : m_copies.begin(m_memory.cache.find(id)->data());
+    const NodeRecord* record = read(id);
+    return record ? m_copies.begin(record->data()) : nullptr;
 }
 
 void NodeEditing::end(Node* copy)
@@ -62,7 +71,7 @@ void NodeEditing::end(Node* copy)
             LogQt::line(LogQt::Error, QLatin1String("endUpdateNode() without its beginUpdateNode()"));
         return;
     }
-    NodeRecord* record = m_memory.cache.find(edit->id());
+    NodeRecord* record = read(edit->id());
     if (!record) {
         LogQt::line(LogQt::Debug, QLatin1String("A node was removed while it was edited"));
         return;

@@ -18,7 +18,7 @@ public:
     /// All outlive this.
     NodeEditing(NodeMemory& memory, ChangeQueue& queue, HostSettings& settings, Announce announce);
 
-    /// The node, null if there is none or it cannot be read.
+    /// The node as it is now, null if there is none or it cannot be read.
     kom::smart<const Node> node(const NodeID& id);
 
     /// A copy to be changed; null like node().
@@ -34,6 +34,7 @@ public:
     bool apply(const ChangeSet& set);
 
 private:
+    NodeRecord* read(const NodeID& id);
     void makeRemotePreview(const NodeID& camera);
 
     NodeMemory& m_memory;

@@ -40,20 +40,17 @@ NodeMemory::NodeMemory(NodeStore& store)
     environments = contents.environments;
 }
 
-const kom::smart<const Node>& NodeMemory::node(NodeRecord& record)
+bool NodeMemory::read(NodeRecord& record)
 {
-    if (!record.snapshot.null())
-        return record.snapshot;
-    NodeData data;
-    data.id = record.summary.id();
-    data.type = record.summary.type();
-    data.name = record.summary.name();
-    // None: another process removed it, which will be announced.
-    if (const std::optional<PropertyList> properties = m_store.properties(data.id)) {
-        data.properties = *properties;
-        setData(record, data);
-    }
-    return record.snapshot;
+    if (record.properties)
+        return true;
+    NodeData data = record.data();
+    const std::optional<PropertyList> properties = m_store.properties(data.id);
+    if (!properties)
+        return false; // another process removed it, which will be announced
+    data.properties = *properties;
+    setData(record, data);
+    return true;
 }
 
 void NodeMemory::readLookupKeys()
@@ -67,7 +64,7 @@ void NodeMemory::readLookupKeys()
     const QStringList changed = pending.nodes();
     for (const NodeID& id : changed) {
         NodeRecord* record = cache.find(id);
-        if (record && !record->snapshot.null()) // else only a relation of it waits
+        if (record && record->properties) // else only a relation of it waits
             cache.setLookupKey(*record, NodeTypes::lookupKey(record->data()));
     }
     cache.setLookupReady();
@@ -79,7 +76,7 @@ QStringList NodeMemory::nodesWithMac(const QString& mac)
     const QStringList waiting = pending.nodes();
     for (const NodeID& id : waiting) {
         const NodeRecord* record = cache.find(id);
-        if (record && record->snapshot.null())
+        if (record && !record->properties)
             continue; // only a relation of it waits
         ids.removeAll(id);
         if (record && record->data().properties.value(PropertyKeys::MacAddress).toString() == mac)
@@ -305,7 +302,7 @@ Notices NodeMemory::apply(const ChangeSet& set)
 void NodeMemory::apply(const NodeChange& change, Notices* notices)
 {
     NodeRecord* record = cache.find(change.id);
-    if (change.isAdded() == (record != nullptr) || (record && node(*record).null()))
+    if (change.isAdded() == (record != nullptr) || (record && !read(*record)))
         return;
     NodeData data;
     if (record) {
@@ -335,12 +332,10 @@ void NodeMemory::apply(const NodeChange& change, Notices* notices)
 }
 
 /// The properties of \a record were read: those of \a data, which has everything else from there.
-void NodeMemory::setData(NodeRecord& record, NodeData data)
+void NodeMemory::setData(NodeRecord& record, const NodeData& data)
 {
-    data.context = record.context;
-    data.hasContext = record.context != nullptr;
     record.summary = PackedSummary(NodeTypes::summaryOf(data));
-    record.snapshot = kom::smart<const Node>(std::shared_ptr<const Node>(NodeTypes::createNode(data)));
+    record.properties = data.properties;
     if (cache.lookupReady())
         cache.setLookupKey(record, NodeTypes::lookupKey(data));
 }

@@ -47,8 +47,9 @@ public:
     /// Reads everything but properties. Throws StoreFailure. \a store outlives the memory.
     explicit NodeMemory(NodeStore& store);
 
-    /// The node of \a record, null if the store has lost it. Throws StoreFailure.
-    const kom::smart<const Node>& node(NodeRecord& record);
+    /// Reads the properties of \a record, unless they are here. False if the store has lost the node. Throws
+    /// StoreFailure.
+    bool read(NodeRecord& record);
 
     /// Fills the look-up index, once. Throws StoreFailure.
     void readLookupKeys();
@@ -82,7 +83,7 @@ public:
 
 private:
     void apply(const NodeChange& change, Notices* notices);
-    void setData(NodeRecord& record, NodeData data);
+    void setData(NodeRecord& record, const NodeData& data);
     void takeNode(const NodeRow& row, bool always, Notices* notices);
     bool takeRow(NodeRecord& record, const NodeRow& row);
     void removeMissing(const Delta& delta, Notices* notices);

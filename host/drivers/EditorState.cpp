@@ -51,22 +51,22 @@ QVariant value(const QWidget* editor)
     return list ? itemTexts(list) : fieldValue(editor);
 }
 
-void copyItems(QComboBox* to, const QComboBox* from)
+/// \a from is not used any more afterwards.
+void takeItems(QComboBox* to, QComboBox* from)
 {
-    to->clear();
-    for (int i = 0; i < from->count(); ++i)
-        to->addItem(from->itemIcon(i), from->itemText(i), from->itemData(i));
+    const int current = from->currentIndex();
+    from->model()->setParent(to);
+    to->setModel(from->model()); // deletes the old one
+    to->setCurrentIndex(current);
 }
 
-void setValue(QWidget* editor, const QWidget* fresh)
+void setValue(QWidget* editor, QWidget* fresh)
 {
     if (auto* comboBox = qobject_cast<QComboBox*>(editor)) {
-        const auto* source = qobject_cast<const QComboBox*>(fresh);
-        copyItems(comboBox, source);
-        comboBox->setCurrentIndex(source->currentIndex());
+        takeItems(comboBox, qobject_cast<QComboBox*>(fresh));
     } else if (auto* list = qobject_cast<QListWidget*>(editor)) {
         list->clear();
-        list->addItems(itemTexts(qobject_cast<const QListWidget*>(fresh)));
+        list->addItems(itemTexts(qobject_cast<QListWidget*>(fresh)));
     } else {
         setField(editor, fieldValue(fresh));
     }
@@ -94,13 +94,13 @@ void EditorState::capture(const QWidget* page)
         m_values.insert(editor, value(editor));
 }
 
-void EditorState::refresh(QWidget* page, const QWidget* fresh)
+void EditorState::refresh(QWidget* page, QWidget* fresh)
 {
     // Told apart before anything is set: one field's new value may move another's.
-    QList<QPair<QWidget*, const QWidget*>> untouched;
+    QList<QPair<QWidget*, QWidget*>> untouched;
     const QList<QWidget*> found = editors(page);
     for (QWidget* editor : found) {
-        const QWidget* source = fresh->findChild<QWidget*>(editor->objectName());
+        QWidget* source = fresh->findChild<QWidget*>(editor->objectName());
         if (!source)
             continue;
         if (value(editor) == m_values.value(editor))

@@ -16,7 +16,7 @@ public:
 
     /// Gives the fields of \a page that the user has not touched the values that the same fields of
     /// \a fresh have. What he has typed stays.
-    void refresh(QWidget* page, const QWidget* fresh);
+    void refresh(QWidget* page, QWidget* fresh);
 
 private:
     QHash<const QWidget*, QVariant> m_values;

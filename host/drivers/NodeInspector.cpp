@@ -52,7 +52,11 @@ public:
 
     void nodeUpdated(ko::NodeID id) override
     {
-        if (id == this->nodeId())
+        if (id != this->nodeId())
+            return;
+        if (m_storing)
+            m_stack->stored();
+        else
             updateNode();
     }
 
@@ -77,12 +81,15 @@ private:
         InspectorWidget::ok(); // NOLINT(bugprone-parent-virtual-call)
         if (Node* node = NodeDB::getDB()->beginUpdateNode(this->nodeId(), -1)) {
             m_stack->accept(node);
+            m_storing = true;
             NodeDB::getDB()->endUpdateNode(node);
+            m_storing = false;
         }
         this->logPropertyChange();
     }
 
     PageStack* const m_stack;
+    bool m_storing = false; ///< what is announced now is what the pages show
 };
 
 template <class... Args>

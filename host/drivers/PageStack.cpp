@@ -18,6 +18,7 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace ko {
@@ -152,6 +153,7 @@ void PageStack::accept(NodeHint* hint)
 
 void PageStack::refresh()
 {
+    m_isStale = false;
     for (Page& page : m_pages) {
         // A second page is filled and compared, for filling the one that is shown again would lose what
         // was typed, and some pages add to their lists each time.
@@ -163,6 +165,19 @@ void PageStack::refresh()
     }
 }
 
+void PageStack::stored()
+{
+    capture();
+    m_isStale = true;
+    QTimer::singleShot(0, this, [this] { refreshStale(); });
+}
+
+void PageStack::refreshStale()
+{
+    if (m_isStale && isVisible())
+        refresh();
+}
+
 void PageStack::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
@@ -170,6 +185,7 @@ void PageStack::showEvent(QShowEvent* event)
     if (!m_shown)
         capture();
     m_shown = true;
+    refreshStale();
 }
 
 void PageStack::capture()

@@ -30,6 +30,10 @@ public:
     /// Brings what the user has not touched up to date with the node.
     void refresh();
 
+    /// What the pages show was stored. They are refreshed once control is back in the event loop, and not
+    /// before they are seen again: those of a dialog that is closing need not be built once more.
+    void stored();
+
     /// The field where typing starts, which is the name.
     void focusFirstField(Qt::FocusReason reason);
 
@@ -58,6 +62,7 @@ private:
     void guardAddress();
     QString nameOfTwin() const;
     void capture();
+    void refreshStale();
     void addPageKeys(QTabWidget* tabs);
 
     /// Captions line up across pages, also when another tab comes to the front.
@@ -67,6 +72,7 @@ private:
     QLabel* const m_goneLabel;
     NodeID m_id;
     ENodeType m_type = AllNodeTypes;
+    bool m_isStale = false; ///< stored() was called
     bool m_shown = false;
 };
 

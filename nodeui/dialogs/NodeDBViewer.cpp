@@ -35,17 +35,18 @@ QVariant NodeDBViewer::ViewerModel::data(const QModelIndex& index, int role) con
     const kom::smart<NodeViewEntry> entry = view()->entryFromInternalId(unsigned(index.internalId()));
     if (entry.null() || !entry->isNode())
         return QVariant();
-    const kom::smart<const Node> node =
-        NodeDB::getDB()->node(static_cast<const NodeEntry*>(entry.get())->id());
-    if (node.null())
+    const NodeID& id = static_cast<const NodeEntry*>(entry.get())->id();
+    if (index.column() == SymbolCell && role == Qt::DecorationRole) {
+        const kom::smart<const Node> node = NodeDB::getDB()->node(id);
+        return node.null() ? QVariant() : QVariant(node->icon());
+    }
+    NodeBrief brief;
+    if (role != Qt::DisplayRole || !NodeDB::getDB()->getBrief(id, &brief))
         return QVariant();
-    if (index.column() == SymbolCell && role == Qt::DecorationRole)
-        return QVariant(node->icon());
-    if (index.column() == NameCell && role == Qt::DisplayRole)
-        return node->name();
-    if (index.column() == TypeCell && role == Qt::DisplayRole)
-        return NodeDB::getDB()->readableNodeTypeName(node->type);
-    return QVariant();
+    if (index.column() == NameCell)
+        return brief.name;
+    return index.column() == TypeCell ? QVariant(NodeDB::getDB()->readableNodeTypeName(brief.type))
+                                      : QVariant();
 }
 
 QVariant NodeDBViewer::ViewerModel::headerData(int section, Qt::Orientation orientation, int role) const

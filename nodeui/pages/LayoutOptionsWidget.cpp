@@ -4,16 +4,20 @@
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/PropertyKeys.h"
+#include "pages/AudioSources.h"
 #include "utils/Fields.h"
 #include "utils/FileDialogs.h"
 
 #include "ui_LayoutOptionsWidget.h"
+
+#include <QListView>
 
 namespace ko {
 
 namespace {
 
 const int noLayout = -1;
+const int namesLength = 20; ///< characters for which there is room
 
 QString text(const Node& node, const QString& key)
 {
@@ -32,6 +36,10 @@ LayoutOptionsWidget::LayoutOptionsWidget(QWidget* parent)
     , m_ui(new Ui::LayoutOptionsWidget)
 {
     m_ui->setupUi(this);
+    // Sizes that follow the texts, or rows of different heights, would be looked up for every camera.
+    m_ui->audioPathIdComboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_ui->audioPathIdComboBox->setMinimumContentsLength(namesLength);
+    qobject_cast<QListView*>(m_ui->audioPathIdComboBox->view())->setUniformItemSizes(true);
     QObject::connect(m_ui->instructionFilePushButton, SIGNAL(clicked()), this, SLOT(openFileSelector()));
 }
 
@@ -79,17 +87,14 @@ void LayoutOptionsWidget::fillAudioPathIdComboBox()
         m_ui->audioPathIdComboBox->setEnabled(false);
         return;
     }
-    m_ui->audioPathIdComboBox->addItem(tr("Self"), m_nodeId);
-    const QStringList cameras = NodeDB::getDB()->nodeIdList(IPDeviceType);
-    for (const QString& id : cameras) {
-        if (id == m_nodeId)
-            continue;
-        const kom::smart<const Node> camera = NodeDB::getDB()->node(id);
-        if (!camera.null())
-            m_ui->audioPathIdComboBox->addItem(text(*camera, PropertyKeys::Name), id);
+    AudioSources* sources = qobject_cast<AudioSources*>(m_ui->audioPathIdComboBox->model());
+    if (!sources) {
+        sources = new AudioSources(m_nodeId, tr("Self"), m_ui->audioPathIdComboBox);
+        m_ui->audioPathIdComboBox->setModel(sources);
     }
+    sources->append(NodeDB::getDB()->nodeIdList(IPDeviceType));
     const QString source = text(*node, PropertyKeys::AudioPathID);
-    selectData(m_ui->audioPathIdComboBox, source.isEmpty() ? m_nodeId : source);
+    m_ui->audioPathIdComboBox->setCurrentIndex(sources->rowOf(source.isEmpty() ? m_nodeId : source));
 }
 
 void LayoutOptionsWidget::accept(Node* node)

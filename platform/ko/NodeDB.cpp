@@ -1,5 +1,7 @@
 #include "ko/NodeDB.h"
 
+#include "ko/IPDeviceNode.h"
+
 #include <QMetaType>
 
 namespace ko {
@@ -17,6 +19,16 @@ QList<NodeDB*>& instances()
 NodeDB* NodeDB::getDB()
 {
     return instances().isEmpty() ? nullptr : instances().last();
+}
+
+bool NodeDB::getBrief(const QString& id, NodeBrief* brief) const
+{
+    const kom::smart<const Node> found = node(id);
+    if (found.null())
+        return false;
+    const IPDeviceNode* device = dynamic_cast<const IPDeviceNode*>(found.get());
+    *brief = NodeBrief{found->type, found->name(), device != nullptr, device ? device->address() : QString()};
+    return true;
 }
 
 NodeDB::NodeDB(QObject* parent)

@@ -20,6 +20,15 @@ class INodeDriverComponent;
 class Node;
 class NodeHint;
 
+/// What a list of many nodes shows of each.
+struct NodeBrief
+{
+    ENodeType type = AllNodeTypes;
+    QString name;
+    bool isDevice = false;
+    QString address; ///< of a device
+};
+
 /// The node database of the process, implemented by the host.
 ///
 /// All calls and signals belong to the GUI thread. Nothing here throws or reports errors to the caller:
@@ -39,6 +48,10 @@ public:
 
     /// The node as it is now, or a null handle. What was handed out never changes.
     virtual kom::smart<const Node> node(const QString& id) const = 0;
+
+    /// The same in brief, which a host may give without reading the node. False, with \a brief as it was,
+    /// when there is no such node.
+    virtual bool getBrief(const QString& id, NodeBrief* brief) const;
 
     /// Opens a writable copy of the node, null if there is none. \a limit is the host's; pass -1.
     /// Each copy is given back to endUpdateNode() exactly once.

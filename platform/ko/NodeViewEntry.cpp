@@ -1,5 +1,7 @@
 #include "ko/NodeViewEntry.h"
 
+#include "ko/NodeDB.h"
+
 #include <numeric>
 
 namespace ko {
@@ -16,6 +18,8 @@ NodeEntry::NodeEntry(unsigned internalId, const NodeID& id)
     , m_id(id)
 {
 }
+
+NodeEntry::~NodeEntry() = default;
 
 SubViewEntry::SubViewEntry(unsigned internalId, const QString& name)
     : NodeViewEntry(internalId)

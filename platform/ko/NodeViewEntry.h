@@ -7,9 +7,11 @@
 
 #include <QStringList>
 
+#include <memory>
+
 namespace ko {
 
-class Node;
+struct NodeBrief;
 class SubViewEntry;
 
 /// One entry of a NodeView: a node or a sub-view.
@@ -41,6 +43,7 @@ class KO_PLATFORM_EXPORT NodeEntry : public NodeViewEntry
 {
 public:
     NodeEntry(unsigned internalId, const NodeID& id);
+    ~NodeEntry() override;
 
     bool isNode() const override { return true; }
     const NodeID& id() const { return m_id; }
@@ -49,7 +52,7 @@ private:
     friend class NodeViewModel;
 
     const NodeID m_id;
-    mutable kom::smart<const Node> m_shown; ///< as it was read for a cell; null: to be read again
+    mutable std::unique_ptr<NodeBrief> m_shown; ///< as it was read for a cell; null: to be read again
 };
 
 /// A named list of entries inside a view.

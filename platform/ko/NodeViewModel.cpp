@@ -1,6 +1,6 @@
 #include "ko/NodeViewModel.h"
 
-#include "ko/IPDeviceNode.h"
+#include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
 
@@ -85,24 +85,26 @@ QVariant NodeViewModel::data(const QModelIndex& index, int role) const
     }
     // A sorted list reads the same cells again and again.
     const NodeEntry* entry = static_cast<const NodeEntry*>(shown);
-    if (entry->m_shown.null())
-        entry->m_shown = NodeDB::getDB()->node(entry->id());
-    const Node* node = entry->m_shown.get();
-    if (!node)
-        return QVariant();
-    if (role == Qt::DecorationRole && index.column() == NameColumn)
-        return QVariant(node->icon());
+    if (role == Qt::DecorationRole && index.column() == NameColumn) {
+        const kom::smart<const Node> node = NodeDB::getDB()->node(entry->id());
+        return node.null() ? QVariant() : QVariant(node->icon());
+    }
     if (role != Qt::DisplayRole)
         return QVariant();
+    if (!entry->m_shown) {
+        NodeBrief brief;
+        if (!NodeDB::getDB()->getBrief(entry->id(), &brief))
+            return QVariant();
+        entry->m_shown = std::make_unique<NodeBrief>(brief);
+    }
+    const NodeBrief& brief = *entry->m_shown;
     switch (index.column()) {
     case NameColumn:
-        return node->name();
+        return brief.name;
     case TypeColumn:
-        return NodeDB::getDB()->readableNodeTypeName(node->type);
-    case AddressColumn: {
-        const IPDeviceNode* device = dynamic_cast<const IPDeviceNode*>(node);
-        return device ? QVariant(device->address()) : QVariant();
-    }
+        return NodeDB::getDB()->readableNodeTypeName(brief.type);
+    case AddressColumn:
+        return brief.isDevice ? QVariant(brief.address) : QVariant();
     default:
         return QVariant();
     }

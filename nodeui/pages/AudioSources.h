@@ -1,0 +1,37 @@
+#ifndef KO_AUDIOSOURCES_H
+#define KO_AUDIOSOURCES_H
+
+#include <QAbstractListModel>
+#include <QStringList>
+
+namespace ko {
+
+/// The nodes whose audio may accompany the video of one node: itself and others, whose names are looked up
+/// when they are shown. Identifiers are the data of Qt::UserRole.
+class AudioSources : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    /// Empty. The node itself is called \a selfName.
+    AudioSources(const QString& self, const QString& selfName, QObject* parent);
+
+    /// Adds the node itself and the nodes of \a ids that there are. In a long list those from the thousandth
+    /// on are believed to be there: asking for each would take longer than the rest of the page.
+    void append(QStringList ids);
+
+    /// The first row of the node; -1 if it has none.
+    int rowOf(const QString& id) const { return m_ids.indexOf(id); }
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const;
+
+private:
+    const QString m_self;
+    const QString m_selfName;
+    QStringList m_ids;
+};
+
+} // namespace ko
+
+#endif
