@@ -3,18 +3,24 @@
 #include "Stopwatch.h"
 #include "Workload.h"
 
+#include "LayoutAdapter.h"
+#include "NodeCommands.h"
 #include "dialogs/EditNodeDialog.h"
 #include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/RecordingFolderAssignmentDialog.h"
 #include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "drivers/InspectorPages.h"
 #include "drivers/NodeTypes.h"
+#include "inspector/NodeChangeLogEntry.h"
+#include "inspector/NodeRenameLogEntry.h"
 #include "interfaces/INodeDriverComponent.h"
+#include "ko/ActionLog.h"
 #include "ko/Node.h"
 #include "ko/NodeHint.h"
 
 #include <QDialogButtonBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTableWidget>
@@ -26,22 +32,33 @@ using namespace ko;
 
 namespace {
 
-/// The dialog of one camera, opened and painted.
+/// The dialog of one camera as the client opens it, to its first picture: the first one since the database
+/// was opened, or a later one.
 class Editing : public Contest
 {
 public:
-    explicit Editing(int size)
-        : m_db(bench::open(siteFile(size)))
+    enum class When { First, Later };
+
+    Editing(int size, When when)
+        : m_file(siteFile(size))
+        , m_db(bench::open(m_file))
         , m_id(m_db->nodeIdList(AllNodeTypes).value(size / 2))
+        , m_when(when)
     {
-        m_db->node(m_id)->name();
+        if (when == When::Later)
+            ours();
     }
 
     double ours() override
     {
+        if (m_when == When::First) {
+            m_db.reset();
+            m_db = bench::open(m_file);
+        }
         std::unique_ptr<EditNodeDialog> dialog;
         return milliseconds([&] {
-            dialog = std::make_unique<EditNodeDialog>(m_id, nullptr, false, 17, nullptr);
+            dialog =
+                std::make_unique<EditNodeDialog>(m_id, nullptr, false, NodeCommands::EditFlags, &m_layouts);
             paint(*dialog);
         });
     }
@@ -76,8 +93,59 @@ public:
     }
 
 private:
+    const QString m_file;
+    const LayoutAdapter m_layouts;
+    std::unique_ptr<HostNodeDB> m_db;
+    const QString m_id;
+    const When m_when;
+};
+
+/// OK in that dialog, until the click returns, against the same change without a window.
+class ClickingOk : public Contest
+{
+public:
+    explicit ClickingOk(int size)
+        : m_copy(size)
+        , m_db(bench::open(m_copy.file()))
+        , m_id(m_db->nodeIdList(AllNodeTypes).value(size / 2))
+    {
+    }
+
+    double ours() override
+    {
+        EditNodeDialog dialog(m_id, nullptr, false, NodeCommands::EditFlags, &m_layouts);
+        paint(dialog);
+        dialog.findChild<QLineEdit*>(QStringLiteral("nameLineEdit"))->setText(nextName());
+        QPushButton* ok =
+            dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"))->button(QDialogButtonBox::Ok);
+        return milliseconds([&] {
+            ok->click();
+            m_db->flush();
+        });
+    }
+
+    double baseline() override
+    {
+        const QString name = nextName();
+        const QString before = m_db->node(m_id)->name();
+        return milliseconds([&] {
+            Node* node = m_db->beginUpdateNode(m_id, -1);
+            node->setStringProperty(QStringLiteral("Name"), name);
+            m_db->endUpdateNode(node);
+            ActionLog::getInstance()->log(NodeRenameLogEntry(before, name));
+            ActionLog::getInstance()->log(NodeChangeLogEntry(name));
+            m_db->flush();
+        });
+    }
+
+private:
+    QString nextName() { return QStringLiteral("Gate %1").arg(++m_count); }
+
+    SiteCopy m_copy;
+    const LayoutAdapter m_layouts;
     const std::unique_ptr<HostNodeDB> m_db;
     const QString m_id;
+    int m_count = 0;
 };
 
 /// Makes this many recording folders of nobody.
@@ -289,8 +357,15 @@ QVector<Workload> dialogWorkloads()
          3.0,
          {1000},
          make<MassAssigning>},
-        {QStringLiteral("dialog of a camera, to its first picture"),
-         QStringLiteral("the same pages without a database"), 1.3, allSizes, make<Editing>, false},
+        {QStringLiteral("dialog of a camera, the first since the start, to its first picture"),
+         QStringLiteral("the same pages without a database"), 1.5, allSizes,
+         [](int size) { return std::make_unique<Editing>(size, Editing::When::First); }, false},
+        {QStringLiteral("dialog of a camera, a later one, to its first picture"),
+         QStringLiteral("the same pages without a database"), 1.5, allSizes,
+         [](int size) { return std::make_unique<Editing>(size, Editing::When::Later); }, false},
+        {QStringLiteral("OK in that dialog, until the click returns and the disk has it"),
+         QStringLiteral("the same change without a window, to disk and log"), 1.5, allSizes, make<ClickingOk>,
+         false},
     };
 }
 

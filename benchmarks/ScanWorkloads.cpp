@@ -74,6 +74,39 @@ private:
     QVector<DiscoveredDevice> m_devices;
 };
 
+/// The first device that is seen after the start, until its node is on the disk.
+class FirstSighting : public Contest
+{
+public:
+    explicit FirstSighting(int size)
+        : m_size(size)
+    {
+    }
+
+    double ours() override
+    {
+        const SiteCopy copy(m_size);
+        const auto db = bench::open(copy.file());
+        DiscoveredDevice device;
+        device.name = QStringLiteral("new");
+        device.address = QStringLiteral("192.168.77.7");
+        device.macAddress = QStringLiteral("00:1b:2c:3d:4e:5f");
+        device.port = 80;
+        device.service = QStringLiteral("_http._tcp");
+        return milliseconds([&] {
+            Scanners::of(*db).intake().beginScan();
+            Scanners::of(*db).intake().take({device});
+            while (db->summaries().size() == m_size || db->hasUnstoredChanges())
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        });
+    }
+
+    double baseline() override { return 700; }
+
+private:
+    const int m_size;
+};
+
 } // namespace
 
 QVector<Workload> scanWorkloads()
@@ -93,6 +126,9 @@ QVector<Workload> scanWorkloads()
          {10000},
          [](int size) { return std::make_unique<Burst>(size, Burst::What::Longest); },
          false},
+        {QStringLiteral("first device seen since the start, until its node is stored"),
+         QStringLiteral("700 ms"), 1.0, allSizes,
+         [](int size) { return std::make_unique<FirstSighting>(size); }, false},
     };
 }
 

@@ -29,9 +29,7 @@ namespace NodeCommands {
 
 namespace {
 
-const unsigned environmentRow = 0x80;
-const unsigned layoutLists = 0x20;
-const unsigned listOptions = 17; ///< as the other lists of nodes pass them
+const unsigned addFlags = NodeDialog::FromList | NodeDialog::EnvironmentControls;
 
 /// Those of which a user may add nodes. What is added most often comes first.
 QList<ENodeType> typesToAdd()
@@ -81,14 +79,14 @@ QStringList selectedDevices(MainWindow& window)
 void open(MainWindow& window, const QString& id, bool readOnly)
 {
     const LayoutAdapter layouts;
-    EditNodeDialog dialog(id, &window, readOnly, listOptions | environmentRow | layoutLists, &layouts);
+    EditNodeDialog dialog(id, &window, readOnly, EditFlags, &layouts);
     window.exec(dialog);
 }
 
 void add(MainWindow& window)
 {
     const QList<ENodeType> types = typesToAdd();
-    AddNodeDialog dialog(&window, &window, &types, false, listOptions | environmentRow);
+    AddNodeDialog dialog(&window, &window, &types, false, addFlags);
     new TypeChange(&dialog);
     runAddDialog(window, dialog);
 }
@@ -97,14 +95,14 @@ void duplicate(MainWindow& window)
 {
     const NodeSummary summary = window.database().summary(window.list().selectedIds().value(0));
     const kom::smart<const Node> node = window.database().node(summary.id);
-    const std::unique_ptr<QWidget> original(node.null() ? nullptr
-                                                        : node->createInspectorWidget(false, listOptions));
+    const std::unique_ptr<QWidget> original(
+        node.null() ? nullptr : node->createInspectorWidget(false, NodeDialog::FromList));
     if (!original || !NodeTypes::canBeAdded(summary.type)) {
         window.say(MainWindow::tr("Nodes of this type cannot be added."));
         return;
     }
     const QList<ENodeType> types = {summary.type};
-    AddNodeDialog dialog(&window, &window, &types, false, listOptions | environmentRow);
+    AddNodeDialog dialog(&window, &window, &types, false, addFlags);
     const FormFields::Values values = FormFields::values(original.get());
     const QList<QWidget*> fields = FormFields::in(&dialog);
     for (QWidget* field : fields) {

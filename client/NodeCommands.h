@@ -1,6 +1,8 @@
 #ifndef KO_NODECOMMANDS_H
 #define KO_NODECOMMANDS_H
 
+#include "dialogs/NodeDialog.h"
+
 #include <QStringList>
 
 namespace ko {
@@ -9,6 +11,10 @@ class MainWindow;
 
 /// What can be done with nodes, mostly with those that are selected in the window.
 namespace NodeCommands {
+
+/// The flags of the editor of a node.
+constexpr unsigned EditFlags =
+    NodeDialog::FromList | NodeDialog::EnvironmentControls | NodeDialog::FillLayoutLists;
 
 void add(MainWindow& window);
 void edit(MainWindow& window);

@@ -1,5 +1,6 @@
 #include "store/ChangeCoding.h"
 
+#include "store/JsonText.h"
 #include "store/PropertyCoding.h"
 
 #include <QJsonArray>
@@ -24,6 +25,14 @@ QString compact(const Json& json)
     return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact));
 }
 
+/// Of an object that begins with it, or goes on.
+void appendKey(QString* json, const char* key)
+{
+    json->append(QLatin1Char(json->isEmpty() ? '{' : ','));
+    JsonText::appendText(json, QLatin1String(key));
+    json->append(QLatin1Char(':'));
+}
+
 QJsonObject objectOf(const QString& text)
 {
     return QJsonDocument::fromJson(text.toUtf8()).object();
@@ -35,14 +44,20 @@ QString text(const std::optional<NodeValues>& values, const NodeChange& change)
 {
     if (!values)
         return QString();
-    QJsonObject object;
-    object.insert(QLatin1String(Name), values->name);
-    object.insert(QLatin1String(Properties), PropertyCoding::toJson(values->properties));
+    QString json;
+    json.reserve(64 * (1 + values->properties.count()));
+    appendKey(&json, Name);
+    JsonText::appendText(&json, values->name);
+    appendKey(&json, Properties);
+    PropertyCoding::appendJson(&json, values->properties);
     if (!change.isUpdated()) {
-        object.insert(QLatin1String(Type), int(change.type));
-        object.insert(QLatin1String(Place), double(change.place));
+        appendKey(&json, Type);
+        JsonText::appendNumber(&json, change.type);
+        appendKey(&json, Place);
+        JsonText::appendNumber(&json, double(change.place));
     }
-    return compact(object);
+    json.append(QLatin1Char('}'));
+    return json;
 }
 
 std::optional<NodeValues> nodeValues(const QString& text, NodeChange* change)

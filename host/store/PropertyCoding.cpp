@@ -1,5 +1,7 @@
 #include "store/PropertyCoding.h"
 
+#include "store/JsonText.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -125,12 +127,28 @@ QVariant decode(int type, const QVariant& value)
     }
 }
 
-QJsonObject toJson(const PropertyList& properties)
+void appendJson(QString* json, const PropertyList& properties)
 {
-    QJsonObject object;
-    for (const PropertyList::Entry& entry : properties)
-        object.insert(entry.name, pairOf(entry.value));
-    return object;
+    json->append(QLatin1Char('{'));
+    bool isFirst = true;
+    for (const PropertyList::Entry& entry : properties) {
+        if (!isFirst)
+            json->append(QLatin1Char(','));
+        isFirst = false;
+        JsonText::appendText(json, entry.name);
+        json->append(QLatin1String(":["));
+        const Stored stored = encode(entry.value);
+        JsonText::appendNumber(json, stored.type);
+        json->append(QLatin1Char(','));
+        if (stored.type == Set)
+            json->append(stored.value.toString()); // is JSON already
+        else if (stored.value.userType() == QMetaType::QString)
+            JsonText::appendText(json, stored.value.toString());
+        else
+            JsonText::appendNumber(json, stored.value.toDouble());
+        json->append(QLatin1Char(']'));
+    }
+    json->append(QLatin1Char('}'));
 }
 
 PropertyList listFromJson(const QJsonObject& object)

@@ -23,8 +23,8 @@ KO_HOST_EXPORT Stored encode(const QVariant& value);
 /// The value again, or an invalid one if nothing that encode() gave.
 KO_HOST_EXPORT QVariant decode(int type, const QVariant& value);
 
-/// All properties as an object: name to [type, value].
-QJsonObject toJson(const PropertyList& properties);
+/// Appends all properties as an object: name to [type, value].
+void appendJson(QString* json, const PropertyList& properties);
 PropertyList listFromJson(const QJsonObject& object);
 
 } // namespace PropertyCoding

@@ -62,6 +62,7 @@ private slots:
     void whatOthersChangedMeanwhileIsWhatWasBefore();
     void whatFailsToBeStoredStaysApart();
     void passwordsStaySealed();
+    void anyValueComesBack();
     void manyAtRandomAndBack();
 
 private:
@@ -332,6 +333,48 @@ void TestChangeSets::passwordsStaySealed()
         if (file.open(QIODevice::ReadOnly))
             QVERIFY(!file.readAll().contains("very-secret"));
     }
+}
+
+void TestChangeSets::anyValueComesBack()
+{
+    QString everyUnit; // but those of surrogates, which come in pairs
+    for (int unit = 1; unit < 0xD800; ++unit)
+        everyUnit.append(QChar(unit));
+    everyUnit.append(QString::fromUtf8("\xF0\x9F\x8E\xA5"));
+    kogen::PropertySet inner;
+    inner.insert(PropertyList::toProperty(everyUnit, everyUnit));
+    kogen::PropertySet set;
+    set.insert(PropertyList::toProperty(QLatin1String("a"), QVariant::fromValue(inner)));
+    set.insert(PropertyList::toProperty(QLatin1String("b"), 0.1F));
+    const float infinity = std::numeric_limits<float>::infinity();
+    const QVariantList values = {everyUnit,
+                                 QString::fromLatin1(""),
+                                 true,
+                                 false,
+                                 0,
+                                 std::numeric_limits<int>::min(),
+                                 std::numeric_limits<int>::max(),
+                                 0.1F,
+                                 -1e-38F,
+                                 std::numeric_limits<float>::max(),
+                                 infinity,
+                                 -infinity,
+                                 std::numeric_limits<float>::quiet_NaN(),
+                                 QVariant::fromValue(set)};
+    Node* node = m_db->beginUpdateNode(m_camera, -1);
+    for (int i = 0; i < values.size(); ++i)
+        node->addProperty(*PropertyList::toProperty(QString::fromLatin1("\"%1\\").arg(i), values.at(i)));
+    node->setStringProperty(QLatin1String("Name"), everyUnit);
+    m_db->endUpdateNode(node);
+    const QVector<ChangeSet> sets = newSets();
+    QCOMPARE(sets.size(), 1);
+    QCOMPARE(sets.constFirst().nodes.size(), 1);
+    const NodeValues& after = *sets.constFirst().nodes.constFirst().after;
+    QCOMPARE(after.name, everyUnit);
+    for (int i = 0; i < values.size(); ++i)
+        QVERIFY2(PropertyList::sameValue(after.properties.value(QString::fromLatin1("\"%1\\").arg(i)),
+                                         values.at(i)),
+                 qPrintable(QString::number(i)));
 }
 
 void TestChangeSets::randomChange(std::mt19937& random)

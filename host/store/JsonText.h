@@ -1,0 +1,21 @@
+#ifndef KO_JSONTEXT_H
+#define KO_JSONTEXT_H
+
+#include <QString>
+
+namespace ko {
+
+/// Writes JSON, which takes a good part of the time of storing a change when it is built as a document first.
+namespace JsonText {
+
+/// With its quotation marks.
+void appendText(QString* json, const QString& text);
+
+/// Anything that is not finite is no number in JSON, and becomes null.
+void appendNumber(QString* json, double number);
+
+} // namespace JsonText
+
+} // namespace ko
+
+#endif
