@@ -93,10 +93,12 @@ public:
         device.macAddress = QStringLiteral("00:1b:2c:3d:4e:5f");
         device.port = 80;
         device.service = QStringLiteral("_http._tcp");
+        bool isNode = false;
+        QObject::connect(db.get(), &HostNodeDB::nodeInserted, [&isNode] { isNode = true; });
         return milliseconds([&] {
             Scanners::of(*db).intake().beginScan();
             Scanners::of(*db).intake().take({device});
-            while (db->summaries().size() == m_size || db->hasUnstoredChanges())
+            while (!isNode || db->hasUnstoredChanges())
                 QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         });
     }

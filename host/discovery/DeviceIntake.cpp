@@ -52,6 +52,7 @@ public:
     void sighted(DiscoveredDevice seen);
     Device* add();
     void absorb(Device& device, const DiscoveredDevice& seen);
+    void prepareLookUps();
     void settle(Device& device);
     QString nodeOf(const Device& device);
     kom::smart<NodeHint> hint(const Device& device, const QString& address, int port) const;
@@ -77,6 +78,7 @@ public:
     Cause cause = Cause::now(Purpose::Scan); ///< what one scan adds is one change set
     int newInScan = 0;
     bool saidDropped = false;
+    bool isPrepared = false;
 };
 
 DeviceIntake::Private::Private(DeviceIntake& intake, HostNodeDB& database)
@@ -153,7 +155,16 @@ Device* DeviceIntake::Private::add()
     device->due = clock.elapsed() + Ripening;
     ripening.push_back(device);
     schedule(Ripening);
+    if (!std::exchange(isPrepared, true))
+        QTimer::singleShot(0, &q, [this] { prepareLookUps(); });
     return device;
+}
+
+/// In a large database the first ones take some time, which there is while the first device ripens.
+void DeviceIntake::Private::prepareLookUps()
+{
+    known.nodesAt(QString());
+    db.lookupHint(*hint(Device(), QLatin1String("0.0.0.0"), HttpPort));
 }
 
 void DeviceIntake::Private::absorb(Device& device, const DiscoveredDevice& seen)
