@@ -200,7 +200,7 @@ NodeStore::Wanted ChangeQueue::wanted() const
 {
     return [this](const NodeID& id) {
         const NodeRecord* record = m_memory.cache.find(id);
-        return record && record->properties;
+        return record && record->contents;
     };
 }
 

@@ -13,9 +13,11 @@ NodeData NodeRecord::data() const
     data.id = summary.id();
     data.type = summary.type();
     data.name = summary.name();
-    data.properties = properties.value_or(PropertyList());
-    data.context = context;
-    data.hasContext = context != nullptr;
+    if (contents) {
+        data.properties = contents->properties;
+        data.context = contents->context;
+        data.hasContext = contents->context != nullptr;
+    }
     return data;
 }
 
@@ -30,26 +32,17 @@ NodeRecord* NodeCache::find(const NodeID& id) const
     return m_byId.find(id);
 }
 
-const QStringList& NodeCache::ids() const
+const QStringList& NodeCache::ids(ENodeType type) const
 {
-    if (m_ids.isEmpty()) {
-        m_ids.reserve(count());
-        for (const auto& node : m_nodes)
-            m_ids.append(node.second.summary.id());
-    }
-    return m_ids;
-}
-
-QStringList NodeCache::ids(ENodeType type) const
-{
-    if (type == AllNodeTypes)
-        return ids();
-    QStringList result;
+    const auto found = m_ids.constFind(type);
+    if (found != m_ids.constEnd())
+        return *found;
+    QStringList& ids = m_ids[type];
     for (const auto& node : m_nodes) {
-        if (node.second.summary.type() == type)
-            result.append(node.second.summary.id());
+        if (type == AllNodeTypes || node.second.summary.type() == type)
+            ids.append(node.second.summary.id());
     }
-    return result;
+    return ids;
 }
 
 QVector<NodeSummary> NodeCache::summaries() const

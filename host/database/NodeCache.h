@@ -9,20 +9,25 @@
 #include <QStringList>
 
 #include <map>
-#include <optional>
+#include <memory>
 
 namespace ko {
 
 /// What is in memory of one node.
 struct NodeRecord
 {
+    struct Contents
+    {
+        PropertyList properties;
+        void* context = nullptr; ///< of the hint; null: none
+    };
+
     /// Its number in the store when that was last looked at, for the order only: other programs may change
     /// it. Larger than all of these while the node is not stored yet.
     qint64 order = 0;
-    PackedSummary summary;                  ///< its identifier stays the same
-    std::optional<PropertyList> properties; ///< once somebody needed them
-    QString lookupKey;                      ///< kept once NodeCache::lookupReady()
-    void* context = nullptr;                ///< null: none
+    PackedSummary summary;              ///< its identifier stays the same
+    std::unique_ptr<Contents> contents; ///< once somebody needed them
+    QString lookupKey;                  ///< kept once NodeCache::lookupReady()
 
     bool isStored() const;
 
@@ -49,11 +54,8 @@ public:
 
     NodeRecord* find(const NodeID& id) const;
 
-    /// The identifiers of all nodes; kept until a node comes, goes or changes its place.
-    const QStringList& ids() const;
-
-    /// Those of one type, or of all.
-    QStringList ids(ENodeType type) const;
+    /// The identifiers of the nodes of a type, or of all; kept until a node comes, goes or changes its place.
+    const QStringList& ids(ENodeType type) const;
     QVector<NodeSummary> summaries() const;
 
     /// Adds a node of the store that is not here yet.
@@ -82,7 +84,7 @@ private:
     Map m_nodes;
     mutable NodeIndex m_byId; ///< empty until a node is looked for
     mutable bool m_indexed = false;
-    mutable QStringList m_ids;
+    mutable QHash<int, QStringList> m_ids; ///< by type
     QMultiHash<QString, NodeRecord*> m_byLookupKey;
     qint64 m_nextUnstored = FirstUnstored;
     bool m_lookupReady = false;

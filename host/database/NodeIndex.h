@@ -1,9 +1,8 @@
 #ifndef KO_NODEINDEX_H
 #define KO_NODEINDEX_H
 
-#include <QString>
+#include "ko/Types.h"
 
-#include <string_view>
 #include <vector>
 
 namespace ko {
@@ -16,7 +15,7 @@ class NodeIndex
 {
 public:
     /// Null when there is none.
-    NodeRecord* find(const QString& id) const;
+    NodeRecord* find(const NodeID& id) const;
 
     /// Makes room for so many.
     void reserve(size_t count);
@@ -26,7 +25,6 @@ public:
     void remove(const NodeRecord* record);
 
 private:
-    NodeRecord* findUtf8(std::string_view id) const;
     void put(NodeRecord* record);
     void resize(size_t size);
 

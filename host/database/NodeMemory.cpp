@@ -42,7 +42,7 @@ NodeMemory::NodeMemory(NodeStore& store)
 
 bool NodeMemory::read(NodeRecord& record)
 {
-    if (record.properties)
+    if (record.contents)
         return true;
     NodeData data = record.data();
     const std::optional<PropertyList> properties = m_store.properties(data.id);
@@ -64,7 +64,7 @@ void NodeMemory::readLookupKeys()
     const QStringList changed = pending.nodes();
     for (const NodeID& id : changed) {
         NodeRecord* record = cache.find(id);
-        if (record && record->properties) // else only a relation of it waits
+        if (record && record->contents) // else only a relation of it waits
             cache.setLookupKey(*record, NodeTypes::lookupKey(record->data()));
     }
     cache.setLookupReady();
@@ -76,7 +76,7 @@ QStringList NodeMemory::nodesWithMac(const QString& mac)
     const QStringList waiting = pending.nodes();
     for (const NodeID& id : waiting) {
         const NodeRecord* record = cache.find(id);
-        if (record && !record->properties)
+        if (record && !record->contents)
             continue; // only a relation of it waits
         ids.removeAll(id);
         if (record && record->data().properties.value(PropertyKeys::MacAddress).toString() == mac)
@@ -227,8 +227,8 @@ void NodeMemory::add(const NodeData& data, qint64 place)
     change.place = place;
     change.after = NodeValues{data.name, data.properties};
     NodeRecord& record = cache.append(change.summary);
-    record.context = data.context;
     setData(record, data);
+    record.contents->context = data.context;
     pending.nodeAdded(change);
 }
 
@@ -335,7 +335,9 @@ void NodeMemory::apply(const NodeChange& change, Notices* notices)
 void NodeMemory::setData(NodeRecord& record, const NodeData& data)
 {
     record.summary = PackedSummary(NodeTypes::summaryOf(data));
-    record.properties = data.properties;
+    if (!record.contents)
+        record.contents = std::make_unique<NodeRecord::Contents>();
+    record.contents->properties = data.properties;
     if (cache.lookupReady())
         cache.setLookupKey(record, NodeTypes::lookupKey(data));
 }

@@ -7,8 +7,9 @@
 
 namespace ko {
 
-/// A NodeSummary in a third of the memory: its texts stand in UTF-8 in one array. Of most nodes of a large
-/// database nobody asks for them.
+/// A NodeSummary in half of the memory: name and location stand in UTF-8 in one array, since of most nodes of
+/// a large database nobody asks for them. The identifier is handed out again and again, in lists of all
+/// nodes.
 class PackedSummary
 {
 public:
@@ -16,20 +17,17 @@ public:
     explicit PackedSummary(const NodeSummary& summary);
 
     /// Texts in UTF-8.
-    PackedSummary(std::string_view id, ENodeType type, std::string_view name, std::string_view location,
+    PackedSummary(NodeID id, ENodeType type, std::string_view name, std::string_view location,
                   int recordingUsage);
 
-    NodeID id() const { return text(0, m_idSize); }
+    const NodeID& id() const { return m_id; }
     ENodeType type() const { return m_type; }
-    QString name() const { return text(m_idSize, m_nameSize); }
+    QString name() const { return text(0, m_nameSize); }
     NodeSummary unpacked() const;
-
-    /// Valid as long as the summary is there.
-    std::string_view idUtf8() const { return {m_texts.constData(), size_t(m_idSize)}; }
 
     bool operator==(const PackedSummary& other) const
     {
-        return m_idSize == other.m_idSize && m_nameSize == other.m_nameSize && m_type == other.m_type &&
+        return m_id == other.m_id && m_nameSize == other.m_nameSize && m_type == other.m_type &&
                m_recordingUsage == other.m_recordingUsage && m_texts == other.m_texts;
     }
     bool operator!=(const PackedSummary& other) const { return !(*this == other); }
@@ -37,8 +35,8 @@ public:
 private:
     QString text(int from, int size) const { return QString::fromUtf8(m_texts.constData() + from, size); }
 
-    QByteArray m_texts; ///< id, name and location
-    int m_idSize = 0;
+    NodeID m_id;
+    QByteArray m_texts; ///< name and location
     int m_nameSize = 0;
     ENodeType m_type = AllNodeTypes;
     int m_recordingUsage = -1;

@@ -44,9 +44,11 @@ void NodeTables::forEachNode(const std::function<void(qint64, const PackedSummar
 {
     SqliteRows rows = m_store.read("SELECT n, id, type, name, location, recording FROM nodes ORDER BY n");
     while (rows.next()) {
-        if (isIdentifier(rows.utf8(1)))
-            visit(rows.number(0), PackedSummary(rows.utf8(1), ENodeType(rows.number(2)), rows.utf8(3),
-                                                rows.utf8(4), int(rows.number(5))));
+        const std::string_view id = rows.utf8(1);
+        if (isIdentifier(id))
+            visit(rows.number(0),
+                  PackedSummary(NodeID::fromUtf8(id.data(), int(id.size())), ENodeType(rows.number(2)),
+                                rows.utf8(3), rows.utf8(4), int(rows.number(5))));
         else
             LogQt::line(
                 LogQt::Error,

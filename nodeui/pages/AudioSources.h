@@ -21,15 +21,25 @@ public:
     void append(QStringList ids);
 
     /// The first row of the node; -1 if it has none.
-    int rowOf(const QString& id) const { return m_ids.indexOf(id); }
+    int rowOf(const QString& id) const;
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const;
 
 private:
+    /// The node itself, and others in the database's own list: a copy without the node would take longer.
+    struct Section
+    {
+        QStringList ids;
+        int own; ///< the node's place in it, or -1
+    };
+
+    QString idAt(int row) const;
+
     const QString m_self;
     const QString m_selfName;
-    QStringList m_ids;
+    QList<Section> m_sections;
+    int m_rows;
 };
 
 } // namespace ko
