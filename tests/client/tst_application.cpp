@@ -1,6 +1,6 @@
+#include "client/AsClient.h"
 #include "support/ExecArguments.h"
 #include "support/HostFixture.h"
-#include "support/TestMain.h"
 
 #include "Application.h"
 #include "audit/AuditLog.h"
@@ -25,8 +25,6 @@
 using namespace ko;
 
 namespace {
-
-const char clientArgument[] = "--as-client";
 
 /// A program in a folder of its own that may leave a core dump as large as it likes.
 class DumpableProcess
@@ -154,7 +152,7 @@ Call tst_Application::call(const QStringList& arguments, int kilobytes)
 {
     const QString limit = QString("ulimit -f %1; trap '' XFSZ; exec \"$0\" \"$@\"").arg(2 * kilobytes);
     const QStringList command =
-        QStringList{QCoreApplication::applicationFilePath(), clientArgument} + arguments;
+        QStringList{QCoreApplication::applicationFilePath(), testsupport::clientArgument} + arguments;
     return kilobytes > 0 ? run("/bin/sh", QStringList{"-c", limit} + command)
                          : run(command.at(0), command.mid(1));
 }
@@ -256,7 +254,7 @@ void tst_Application::toolkitOptionsWithAWindow()
     m_database = write("no.kodb", QByteArray(1000, 'x')); // which it says before it asks what to do
     QProcess client;
     client.start(QCoreApplication::applicationFilePath(),
-                 QStringList({clientArgument, "--db", m_database}) + options);
+                 QStringList({testsupport::clientArgument, "--db", m_database}) + options);
     QString complained;
     const bool isHeard = QTest::qWaitFor(
         [&] {
@@ -393,7 +391,7 @@ void tst_Application::namesThatAreNoText()
     std::fclose(list);
     const auto removal = qScopeGuard([&name] { ::unlink(name.constData()); }); // the toolkit can't
 
-    const QString script = "exec \"$0\" " + QString(clientArgument) + " --db \"$1\" " + option +
+    const QString script = "exec \"$0\" " + QString(testsupport::clientArgument) + " --db \"$1\" " + option +
                            "\"$(printf '%s/in\\377.csv' \"$2\")\"";
     const Call result =
         run("/bin/sh", {"-c", script, QCoreApplication::applicationFilePath(), m_database, m_folder->path()});
@@ -533,7 +531,7 @@ void tst_Application::damageFoundWithTheWindowOpen()
     }
     QVERIFY(!error);
     QProcess client;
-    client.start(QCoreApplication::applicationFilePath(), {clientArgument, "--db", m_database});
+    client.start(QCoreApplication::applicationFilePath(), {testsupport::clientArgument, "--db", m_database});
     QByteArray complained;
     QVERIFY(QTest::qWaitFor(
         [&] {
@@ -618,8 +616,9 @@ void tst_Application::exportAppended()
     onDatabase({"--import", write("in.csv", "name,address\nGate,10.0.0.1\n")});
     const QString out = write("out.txt", "before\n");
     const QString script = QString("exec \"$0\" \"$@\" >> '%1'").arg(out);
-    const Call result = run("/bin/sh", {"-c", script, QCoreApplication::applicationFilePath(), clientArgument,
-                                        "--db", m_database, "--export", "/dev/stdout"});
+    const Call result =
+        run("/bin/sh", {"-c", script, QCoreApplication::applicationFilePath(), testsupport::clientArgument,
+                        "--db", m_database, "--export", "/dev/stdout"});
     QCOMPARE(result.exitCode, 0);
     QVERIFY(contentOf(out).startsWith("before\n"));
     QVERIFY(contentOf(out).contains("Gate"));
@@ -636,16 +635,7 @@ void tst_Application::restoreOfNothing()
 
 int main(int argc, char** argv)
 {
-    if (argc > 1 && QByteArray(argv[1]) == clientArgument) {
-        for (int i = 1; i < argc; ++i)
-            argv[i] = argv[i + 1]; // the program never sees it
-        --argc;
-        return Application(argc, argv).run();
-    }
-    QApplication app(argc, argv);
-    testsupport::prepareApplication();
-    tst_Application test;
-    return QTest::qExec(&test, argc, argv);
+    return testsupport::runTestOrClient<tst_Application>(argc, argv);
 }
 
 #include "tst_application.moc"

@@ -1,9 +1,8 @@
+#include "client/AsClient.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/PlainTexts.h"
-#include "support/TestMain.h"
 
-#include "Application.h"
 #include "DatabaseRecovery.h"
 #include "store/StoreBackup.h"
 
@@ -23,7 +22,6 @@ using namespace ko;
 
 namespace {
 
-const char clientArgument[] = "--as-client";
 const char chosenVariable[] = "KO_TEST_CHOSEN_DATABASE";
 
 /// The user of the client: chooses the other file, notes what window comes then, and closes it.
@@ -365,7 +363,7 @@ void tst_DatabaseRecovery::clientGoesOnWithAnother()
     environment.insert(QLatin1String(chosenVariable), other);
     client.setProcessEnvironment(environment);
     client.start(QCoreApplication::applicationFilePath(),
-                 {QLatin1String(clientArgument), QStringLiteral("--db"),
+                 {QLatin1String(testsupport::clientArgument), QStringLiteral("--db"),
                   m_folder->filePath(QStringLiteral("no/such"))});
     QVERIFY(client.waitForFinished(30000));
     QCOMPARE(client.exitCode(), 0);
@@ -391,16 +389,7 @@ void tst_DatabaseRecovery::namesAreShownAsTheyAre()
 
 int main(int argc, char** argv)
 {
-    if (argc > 1 && QByteArray(argv[1]) == clientArgument) {
-        for (int i = 1; i < argc; ++i)
-            argv[i] = argv[i + 1]; // the program never sees it
-        --argc;
-        return Application(argc, argv).run();
-    }
-    QApplication app(argc, argv);
-    testsupport::prepareApplication();
-    tst_DatabaseRecovery test;
-    return QTest::qExec(&test, argc, argv);
+    return testsupport::runTestOrClient<tst_DatabaseRecovery>(argc, argv);
 }
 
 #include "tst_databaserecovery.moc"
