@@ -1,86 +1,12 @@
 #include "database/HostNodeDB.h"
 
-#include "audit/AuditLog.h"
-#include "database/NodeEditing.h"
-#include "database/Scanning.h"
-#include "database/StoredLogs.h"
+#include "database/HostNodeDBPrivate.h"
 #include "drivers/NodeTypes.h"
-#include "ko/LogQt.h"
 #include "ko/NodeHint.h"
 #include "recording/VolumeProbe.h"
 #include "secrets/Secrets.h"
 
-#include <set>
-
 namespace ko {
-
-class HostNodeDB::Private
-{
-public:
-    Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened);
-
-    void start(Check when);
-    void storeDefaults();
-    void announce(const Notices& notices);
-
-    HostNodeDB& q;
-    const std::unique_ptr<NodeStore> store;
-    NodeMemory memory;
-    ChangeQueue queue;
-    HostSettings settings;
-    StoredLogs logs;
-    AuditLog audit;
-    NodeEditing nodes;
-    std::set<std::string> missingScanners; ///< known to be missing, said once each
-    std::unique_ptr<Scanning> scanning;    ///< goes first
-};
-
-HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)
-    : q(database)
-    , store(std::move(opened))
-    , memory(*store)
-    , queue(*store, memory)
-    , settings(memory, [this] { queue.schedule(); })
-    , logs(*store, memory, queue)
-    , audit(logs)
-    , nodes(memory, queue, settings, [this](const Notices& notices) { announce(notices); })
-{
-}
-
-void HostNodeDB::Private::start(Check when)
-{
-    QObject::connect(&queue, &ChangeQueue::brought, &q,
-                     [this](const Notices& notices) { announce(notices); });
-    QObject::connect(&queue, &ChangeQueue::failed, &q, &HostNodeDB::storeFailed);
-    QObject::connect(&queue, &ChangeQueue::recovered, &q, &HostNodeDB::storeRecovered);
-    QObject::connect(&queue, &ChangeQueue::damaged, &q, &HostNodeDB::storeDamaged);
-    QObject::connect(&queue, &ChangeQueue::checked, &q, &HostNodeDB::checked);
-    if (when == Check::Behind)
-        queue.checkInBackground();
-    storeDefaults();
-    Secrets::setClearAllowed(store->isSealingPending());
-    Secrets::setListener([this](StoreError::Kind kind) {
-        const bool sealed = kind == StoreError::SealedElsewhere;
-        queue.readFailed(StoreError::make(
-            kind, store->fileName(),
-            QLatin1String(sealed ? "a password cannot be opened" : "a password is not sealed")));
-    });
-    settings.reload();
-    queue.start();
-}
-
-/// Of a new database; another process may be making them at the same time.
-void HostNodeDB::Private::storeDefaults()
-{
-    if (!settings.isNew())
-        return;
-    memory.pending.enter(Cause::now(Purpose::Start));
-    StoreError error;
-    queue.runAlone([this] { settings.addDefaultEnvironment(); }, &error);
-    memory.pending.leave();
-    if (error)
-        throw StoreFailure{error};
-}
 
 std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error, Check check)
 {
@@ -127,12 +53,7 @@ kom::smart<const Node> HostNodeDB::node(const QString& id) const
 
 bool HostNodeDB::getBrief(const QString& id, NodeBrief* brief) const
 {
-    const NodeSummary found = summary(id);
-    if (found.id.isEmpty())
-        return false;
-    const bool isDevice = NodeTypes::isDevice(found.type);
-    *brief = NodeBrief{found.type, found.name, isDevice, isDevice ? found.location : QString()};
-    return true;
+    return d->memory.getBrief(id, brief);
 }
 
 QVector<NodeSummary> HostNodeDB::summaries() const
@@ -251,10 +172,7 @@ void HostNodeDB::setScanning(std::unique_ptr<Scanning> scanning)
 
 void HostNodeDB::startScanners(const std::string& name, unsigned interfaces, int limit)
 {
-    const bool found = d->scanning && d->scanning->start(name, interfaces, limit);
-    if (!found && d->missingScanners.insert(name).second)
-        LogQt::line(LogQt::Info, QString::fromLatin1("No scanner named \"%1\" is available in this program")
-                                     .arg(QString::fromStdString(name)));
+    d->startScanners(name, interfaces, limit);
 }
 
 void HostNodeDB::stopScanners(const std::string& name)
@@ -345,13 +263,9 @@ void HostNodeDB::leave()
     d->memory.pending.leave();
 }
 
-/// Only when somebody asks for it, the key is looked for again: the keychain may in turn ask the user, and
-/// runs an event loop.
 bool HostNodeDB::flush()
 {
-    if (d->queue.isKeyMissing() && Secrets::prepareAgain())
-        d->settings.reload(); // its password may be readable now
-    return d->queue.flush();
+    return d->flush();
 }
 
 HostNodeDB::Outcome HostNodeDB::runAlone(const std::function<void()>& work, StoreError* error)
@@ -377,24 +291,6 @@ void HostNodeDB::discardUnstoredChanges()
 void HostNodeDB::syncForeignChanges()
 {
     d->queue.sync();
-}
-
-/// Receivers may change the database; what is no longer true is not announced.
-void HostNodeDB::Private::announce(const Notices& notices)
-{
-    if (notices.settings) {
-        settings.reload();
-        emit q.settingsChanged();
-    }
-    for (const auto& notice : notices.nodes()) {
-        const bool exists = memory.cache.find(notice.second);
-        if (notice.first == Notices::Removed && !exists)
-            emit q.nodeRemoved(notice.second);
-        else if (notice.first == Notices::Inserted && exists)
-            emit q.nodeInserted(notice.second);
-        else if (notice.first == Notices::Updated && exists)
-            emit q.nodeUpdated(notice.second);
-    }
 }
 
 } // namespace ko

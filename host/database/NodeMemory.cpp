@@ -40,6 +40,17 @@ NodeMemory::NodeMemory(NodeStore& store)
     environments = contents.environments;
 }
 
+bool NodeMemory::getBrief(const NodeID& id, NodeBrief* brief) const
+{
+    const NodeRecord* record = cache.find(id);
+    if (!record)
+        return false;
+    const NodeSummary summary = record->summary.unpacked();
+    const bool isDevice = NodeTypes::isDevice(summary.type);
+    *brief = NodeBrief{summary.type, summary.name, isDevice, isDevice ? summary.location : QString()};
+    return true;
+}
+
 bool NodeMemory::read(NodeRecord& record)
 {
     if (record.contents)

@@ -4,6 +4,7 @@
 #include "database/NodeCache.h"
 #include "database/PendingChanges.h"
 #include "database/RelationIndex.h"
+#include "ko/NodeDB.h"
 #include "model/Delta.h"
 #include "store/NodeStore.h"
 
@@ -46,6 +47,9 @@ public:
 
     /// Reads everything but properties. Throws StoreFailure. \a store outlives the memory.
     explicit NodeMemory(NodeStore& store);
+
+    /// See NodeDB.
+    bool getBrief(const NodeID& id, NodeBrief* brief) const;
 
     /// Reads the properties of \a record, unless they are here. False if the store has lost the node. Throws
     /// StoreFailure.

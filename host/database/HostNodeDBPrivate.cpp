@@ -1,0 +1,90 @@
+#include "database/HostNodeDBPrivate.h"
+
+#include "ko/LogQt.h"
+#include "secrets/Secrets.h"
+
+namespace ko {
+
+HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)
+    : q(database)
+    , store(std::move(opened))
+    , memory(*store)
+    , queue(*store, memory)
+    , settings(memory, [this] { queue.schedule(); })
+    , logs(*store, memory, queue)
+    , audit(logs)
+    , nodes(memory, queue, settings, [this](const Notices& notices) { announce(notices); })
+{
+}
+
+void HostNodeDB::Private::start(Check when)
+{
+    QObject::connect(&queue, &ChangeQueue::brought, &q,
+                     [this](const Notices& notices) { announce(notices); });
+    QObject::connect(&queue, &ChangeQueue::failed, &q, &HostNodeDB::storeFailed);
+    QObject::connect(&queue, &ChangeQueue::recovered, &q, &HostNodeDB::storeRecovered);
+    QObject::connect(&queue, &ChangeQueue::damaged, &q, &HostNodeDB::storeDamaged);
+    QObject::connect(&queue, &ChangeQueue::checked, &q, &HostNodeDB::checked);
+    if (when == Check::Behind)
+        queue.checkInBackground();
+    storeDefaults();
+    Secrets::setClearAllowed(store->isSealingPending());
+    Secrets::setListener([this](StoreError::Kind kind) {
+        const bool sealed = kind == StoreError::SealedElsewhere;
+        queue.readFailed(StoreError::make(
+            kind, store->fileName(),
+            QLatin1String(sealed ? "a password cannot be opened" : "a password is not sealed")));
+    });
+    settings.reload();
+    queue.start();
+}
+
+/// Of a new database; another process may be making them at the same time.
+void HostNodeDB::Private::storeDefaults()
+{
+    if (!settings.isNew())
+        return;
+    memory.pending.enter(Cause::now(Purpose::Start));
+    StoreError error;
+    queue.runAlone([this] { settings.addDefaultEnvironment(); }, &error);
+    memory.pending.leave();
+    if (error)
+        throw StoreFailure{error};
+}
+
+/// Receivers may change the database; what is no longer true is not announced.
+void HostNodeDB::Private::announce(const Notices& notices)
+{
+    if (notices.settings) {
+        settings.reload();
+        emit q.settingsChanged();
+    }
+    for (const auto& notice : notices.nodes()) {
+        const bool exists = memory.cache.find(notice.second);
+        if (notice.first == Notices::Removed && !exists)
+            emit q.nodeRemoved(notice.second);
+        else if (notice.first == Notices::Inserted && exists)
+            emit q.nodeInserted(notice.second);
+        else if (notice.first == Notices::Updated && exists)
+            emit q.nodeUpdated(notice.second);
+    }
+}
+
+void HostNodeDB::Private::startScanners(const std::string& name, unsigned interfaces, int limit)
+{
+    const bool found = scanning && scanning->start(name, interfaces, limit);
+    if (!found && m_missingScanners.insert(name).second)
+        LogQt::line(LogQt::Info, QString::fromLatin1("No scanner named \"%1\" is available in this program")
+                                     .arg(QString::fromStdString(name)));
+}
+
+/// Only when somebody asks for it, the key is looked for again: the keychain may in turn ask the user, and
+/// runs an event loop.
+bool HostNodeDB::Private::flush()
+{
+    if (queue.isKeyMissing() && Secrets::prepareAgain())
+        settings.reload(); // its password may be readable now
+    return queue.flush();
+}
+
+} // namespace ko

@@ -1,0 +1,43 @@
+#ifndef KO_HOSTNODEDBPRIVATE_H
+#define KO_HOSTNODEDBPRIVATE_H
+
+#include "audit/AuditLog.h"
+#include "database/HostNodeDB.h"
+#include "database/NodeEditing.h"
+#include "database/Scanning.h"
+#include "database/StoredLogs.h"
+
+#include <set>
+
+namespace ko {
+
+/// What a database consists of, and how its parts are joined.
+class HostNodeDB::Private
+{
+public:
+    Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened);
+
+    void start(Check when);
+    void announce(const Notices& notices);
+    void startScanners(const std::string& name, unsigned interfaces, int limit);
+    bool flush();
+
+    HostNodeDB& q;
+    const std::unique_ptr<NodeStore> store;
+    NodeMemory memory;
+    ChangeQueue queue;
+    HostSettings settings;
+    StoredLogs logs;
+    AuditLog audit;
+    NodeEditing nodes;
+    std::unique_ptr<Scanning> scanning; ///< goes first
+
+private:
+    void storeDefaults();
+
+    std::set<std::string> m_missingScanners; ///< known to be missing, said once each
+};
+
+} // namespace ko
+
+#endif
