@@ -1,5 +1,6 @@
 #include "audit/ProgramLog.h"
 
+#include "HandOver.h"
 #include "audit/LogStore.h"
 #include "audit/ProgramLogEntry.h"
 #include "ko/OutsideText.h"
@@ -33,8 +34,7 @@ void ProgramLog::write(int level, const QString& line)
     if (QThread::currentThread() == thread())
         m_store.append(row);
     else
-        QMetaObject::invokeMethod(
-            this, [this, row] { m_store.append(row); }, Qt::QueuedConnection);
+        handOver(this, [this, row] { m_store.append(row); });
 }
 
 std::vector<AuditRecord> ProgramLog::entries(qint64 from, qint64 count, bool newestFirst) const

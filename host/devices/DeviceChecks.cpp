@@ -1,5 +1,6 @@
 #include "devices/DeviceChecks.h"
 
+#include "HandOver.h"
 #include "devices/DeviceCheck.h"
 
 #include <QHash>
@@ -148,8 +149,7 @@ void DeviceChecks::Worker::post()
         return;
     DeviceChecks* checks = &m_checks;
     const QVector<DeviceReport> reports = std::exchange(m_reports, {});
-    QMetaObject::invokeMethod(
-        checks, [checks, run = m_run, reports] { checks->take(run, reports); }, Qt::QueuedConnection);
+    handOver(checks, [checks, run = m_run, reports] { checks->take(run, reports); });
 }
 
 DeviceChecks::DeviceChecks(QObject* parent)

@@ -1,5 +1,6 @@
 #include "discovery/MdnsSession.h"
 
+#include "HandOver.h"
 #include "discovery/MdnsTxt.h"
 #include "discovery/ScanInterfaces.h"
 #include "discovery/ServiceTypes.h"
@@ -202,7 +203,7 @@ void MdnsSession::post(ScannerState::Phase phase, int error)
     };
     const std::lock_guard<std::mutex> lock(m_ending->mutex);
     if (m_receiver)
-        QMetaObject::invokeMethod(m_receiver, deliver, Qt::QueuedConnection);
+        handOver(m_receiver, deliver);
 }
 
 void MdnsSession::resolveNext()

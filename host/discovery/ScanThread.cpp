@@ -1,5 +1,7 @@
 #include "discovery/ScanThread.h"
 
+#include "HandOver.h"
+
 #include <utility>
 
 #include <sys/eventfd.h>
@@ -51,14 +53,13 @@ void ScanThread::post(int error)
 {
     m_sincePost.start();
     ScanReport report = m_report;
-    m_report.devices.clear();
+    m_report.devices = {}; // cleared, it could go on sharing what is read elsewhere now
     report.error = error;
-    const auto deliver = [self = weak_from_this(), report] {
+    handOver(&m_receiver, [self = weak_from_this(), report] {
         const std::shared_ptr<ScanThread> session = self.lock();
         if (session && session->m_isTaken)
             session->m_take(report);
-    };
-    QMetaObject::invokeMethod(&m_receiver, deliver, Qt::QueuedConnection);
+    });
 }
 
 void ScanThread::postNowAndThen()

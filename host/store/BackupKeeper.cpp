@@ -1,5 +1,6 @@
 #include "store/BackupKeeper.h"
 
+#include "HandOver.h"
 #include "ko/LogQt.h"
 #include "store/StoreBackup.h"
 
@@ -54,8 +55,7 @@ void BackupKeeper::makeNow()
     m_thread.reset(QThread::create([this, database = m_database] {
         StoreError error;
         const QString file = StoreBackup::add(database, &error);
-        QMetaObject::invokeMethod(
-            this, [this, file, error] { finished(file, error); }, Qt::QueuedConnection);
+        handOver(this, [this, file, error] { finished(file, error); });
     }));
     m_thread->start(QThread::LowPriority);
 }

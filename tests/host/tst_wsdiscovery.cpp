@@ -9,6 +9,7 @@
 
 #include <QNetworkDatagram>
 #include <QNetworkInterface>
+#include <QTemporaryDir>
 #include <QUdpSocket>
 
 #include <algorithm>
@@ -391,11 +392,13 @@ void WsDiscoveryTest::arpScanAsksWhoIsThere()
     QVERIFY2(network.connectSite(30), qPrintable(network.error()));
     const QString script = QStringLiteral(
         "import socket,sys\ns=socket.socket(socket.AF_INET,socket.SOCK_DGRAM)\ns.bind(('10.99.0.2',3702))\n"
-        "while True:\n d,a=s.recvfrom(65536)\n s.sendto(sys.argv[1].encode(),a)\n");
+        "open(sys.argv[2],'w')\nwhile True:\n d,a=s.recvfrom(65536)\n s.sendto(sys.argv[1].encode(),a)\n");
     const QByteArray answer = matches(match("http://10.99.0.2:8899/", "onvif://www.onvif.org/name/Odd"));
+    const QTemporaryDir folder;
+    const QString ready = folder.filePath(QStringLiteral("ready"));
     network.launch(NetworkNamespaces::Site, QStringLiteral("python3"),
-                   {QStringLiteral("-c"), script, QString::fromUtf8(answer)});
-    QTest::qWait(500);
+                   {QStringLiteral("-c"), script, QString::fromUtf8(answer), ready});
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(ready), Patience);
     ArpScanner scanner;
     const Reports reports(scanner);
     scanner.start(0xFFFFFFFF, -1);
