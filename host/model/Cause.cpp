@@ -23,7 +23,8 @@ const struct
     {Purpose::Edit, "edit"},         {Purpose::Add, "add"},         {Purpose::Remove, "remove"},
     {Purpose::Settings, "settings"}, {Purpose::Proxy, "proxy"},     {Purpose::Environments, "environments"},
     {Purpose::Scan, "scan"},         {Purpose::Address, "address"}, {Purpose::Import, "import"},
-    {Purpose::Start, "start"},       {Purpose::Restore, "restore"}, {Purpose::Unknown, ""},
+    {Purpose::Start, "start"},       {Purpose::Restore, "restore"}, {Purpose::Check, "check"},
+    {Purpose::Unknown, ""},
 };
 
 } // namespace

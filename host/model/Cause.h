@@ -17,6 +17,7 @@ enum class Purpose {
     Environments,
     Scan,    ///< what a scanner found
     Address, ///< a device answers at another address, and the user agreed
+    Check,   ///< by what a device is known again, as it said when it was checked
     Import,
     Start,   ///< what a new database begins with
     Restore, ///< a backup took the place of everything
