@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "CameraChecking.h"
 #include "MainWindow.h"
 #include "NodeCommands.h"
 #include "NodeListView.h"
@@ -95,6 +96,12 @@ const Commands::Command Commands::all[] = {
     {KO_TEXT("Net&work"), "actionAddressChanges", KO_TEXT("&Seen at a New Address..."),
      KO_TEXT("Devices that a scan found at another address than they have here"), "", "", Nothing, InMenu,
      &WindowCommands::showAddressChanges},
+    {KO_TEXT("Net&work"), "actionCheck", KO_TEXT("&Check Cameras"),
+     KO_TEXT("Asks the selected cameras, or all, who they are, and tries their passwords"), "F5",
+     "view-refresh", Nothing, InList | AfterLine, [](MainWindow& window) { window.checking().check(); }},
+    {KO_TEXT("Net&work"), "actionAcceptDevices", KO_TEXT("&Accept as This Camera..."),
+     KO_TEXT("Another device than before is this camera from now on"), "", "", SomeNodes, InList,
+     [](MainWindow& window) { window.checking().acceptDevices(); }},
 
     {KO_TEXT("&View"), "actionColumns", KO_TEXT("&Columns..."), KO_TEXT("Which columns the list has"), "", "",
      Nothing, InMenu, [](MainWindow& window) { window.list().chooseColumns(); }},

@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "CameraChecking.h"
 #include "Commands.h"
 #include "EmptyState.h"
 #include "EnvironmentNotice.h"
@@ -68,6 +69,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_counts(new QLabel(this))
     , m_commands(new Commands(*this))
     , m_surveys(new SurveyCommands(this))
+    , m_checking(new CameraChecking(*this, *m_model))
     , m_environment(new EnvironmentNotice(db, statusBar()))
     , m_store(new StoreNotice(db, this))
 {
@@ -122,11 +124,7 @@ void MainWindow::createEmptyState()
     m_empty->addWay(m_commands->action("actionImport"), tr("Import a List of Cameras..."));
     m_empty->addWay(m_commands->action("actionOverview"), tr("Find Devices in the Network..."));
     m_empty->addWay(m_commands->action("actionAdd"), tr("Add a Camera..."));
-    connect(m_empty, &EmptyState::showAll, m_search, [this] {
-        m_search->clear();
-        m_types->setCurrentIndex(0);
-        m_view->setFocus();
-    });
+    connect(m_empty, &EmptyState::showAll, this, [this] { find(QString()); });
 }
 
 void MainWindow::createSearch()
@@ -134,7 +132,9 @@ void MainWindow::createSearch()
     m_search->setObjectName(QStringLiteral("searchLineEdit"));
     m_search->setPlaceholderText(tr("Search (Ctrl+F)"));
     m_search->setClearButtonEnabled(true);
-    m_search->setToolTip(tr("Words in any column; \"type:camera\" looks in one, \"-yard\" leaves out"));
+    m_search->setToolTip(
+        tr("Words in any column; \"type:camera\" looks in one, \"state:wrong|locked\" for either, "
+           "\"-yard\" leaves out"));
     m_search->setAccessibleName(tr("Search"));
     connect(m_search, &QLineEdit::textChanged, m_model, &NodeListModel::setSearch);
     QAction* clear = new QAction(m_search);
@@ -234,6 +234,13 @@ void MainWindow::updateStatus()
     m_empty->setCounts(m_model->nodeCount(), m_model->rowCount());
 }
 
+void MainWindow::find(const QString& search)
+{
+    m_types->setCurrentIndex(0);
+    m_search->setText(search);
+    m_view->setFocus();
+}
+
 void MainWindow::say(const QString& text)
 {
     statusBar()->showMessage(text, 10000);
@@ -273,6 +280,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    m_checking->cancel();
     saveState();
     QMainWindow::closeEvent(event);
 }
@@ -285,7 +293,8 @@ void MainWindow::restoreState()
     m_view->header()->resizeSection(NodeListModel::NameColumn, 260);
     m_view->header()->resizeSection(NodeListModel::TypeColumn, 160);
     m_view->header()->resizeSection(NodeListModel::AddressColumn, 180);
-    m_view->restoreColumns(settings.value(QStringLiteral("window/columns")).toByteArray());
+    m_view->header()->resizeSection(NodeListModel::RecordingColumn, 150);
+    m_view->restoreColumns(settings);
     m_model->sort(m_view->header()->sortIndicatorSection(), m_view->header()->sortIndicatorOrder());
 }
 
@@ -293,7 +302,7 @@ void MainWindow::saveState() const
 {
     QSettings settings;
     settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("window/columns"), m_view->header()->saveState());
+    m_view->saveColumns(settings);
 }
 
 } // namespace ko

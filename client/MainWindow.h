@@ -13,6 +13,7 @@ class QLineEdit;
 
 namespace ko {
 
+class CameraChecking;
 class Commands;
 class EmptyState;
 class EnvironmentNotice;
@@ -34,6 +35,10 @@ public:
 
     HostNodeDB& database() const { return m_db; }
     NodeListView& list() const { return *m_view; }
+    CameraChecking& checking() const { return *m_checking; }
+
+    /// Shows the nodes of all types that a search finds.
+    void find(const QString& search);
 
     /// Shows a text in the status bar for a while.
     void say(const QString& text);
@@ -73,6 +78,7 @@ private:
     QLabel* const m_counts;
     Commands* const m_commands;
     SurveyCommands* const m_surveys;
+    CameraChecking* const m_checking;
     EnvironmentNotice* const m_environment;
     StoreNotice* const m_store;
     QSet<QString> m_changed; ///< taken into the list together at the end of the turn

@@ -1,5 +1,6 @@
 #include "NodeCommands.h"
 
+#include "CameraChecking.h"
 #include "DeviceSettings.h"
 #include "FormFields.h"
 #include "LayoutAdapter.h"
@@ -143,8 +144,12 @@ void remove(MainWindow& window)
 void editCredentials(MainWindow& window)
 {
     const QStringList devices = selectedDevices(window);
-    if (!devices.isEmpty())
-        window.say(DeviceSettings::editCredentials(window.database(), devices, &window));
+    if (devices.isEmpty())
+        return;
+    const QString done = DeviceSettings::editCredentials(window.database(), devices, &window);
+    window.say(done);
+    if (!done.isEmpty())
+        window.checking().offerToTry(devices);
 }
 
 void editRecording(MainWindow& window)

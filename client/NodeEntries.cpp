@@ -133,15 +133,52 @@ int NodeEntries::place(const Slots& rows, Slot slot) const
     return int(std::lower_bound(rows.begin(), rows.end(), slot, inOrder) - rows.begin());
 }
 
+void NodeEntries::putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted) const
+{
+    const auto inOrder = [this](Slot a, Slot b) { return less(a, b); };
+    const auto isTouched = [&touched](Slot slot) { return touched[size_t(slot)]; };
+    const auto end = std::remove_if(rows.begin(), rows.end(), isTouched);
+    Slots merged(int(end - rows.begin()) + int(sorted.size()));
+    auto to = merged.begin();
+    auto from = rows.begin();
+    for (const Slot slot : sorted) {
+        const auto next = std::lower_bound(from, end, slot, inOrder);
+        to = std::copy(from, next, to);
+        *to++ = slot;
+        from = next;
+    }
+    std::copy(from, end, to);
+    rows.swap(merged);
+}
+
+bool NodeEntries::changesFolders(const QVector<NodeSummary>& changed, const QStringList& removed) const
+{
+    const auto known = [this](const QString& id) {
+        const Slot slot = slotOf(id);
+        return slot < 0 ? NodeSummary() : node(slot);
+    };
+    const auto moves = [&known](const NodeSummary& node) {
+        const NodeSummary before = known(node.id);
+        return before.type == RecordingFolderType && before.location != node.location;
+    };
+    const auto goes = [&known](const QString& id) { return known(id).type == RecordingFolderType; };
+    return std::any_of(changed.begin(), changed.end(), moves) ||
+           std::any_of(removed.begin(), removed.end(), goes);
+}
+
 const QString& NodeEntries::lines(const Entry& entry) const
 {
-    if (entry.lines.isNull()) {
-        QStringList cells;
-        for (int column = 0; column < m_columns; ++column)
-            cells.append(m_text(entry.node, column));
-        entry.lines = SearchText::folded(cells.join(QLatin1Char('\n')));
-    }
+    if (entry.lines.isNull())
+        entry.lines = linesNow(entry.node);
     return entry.lines;
+}
+
+QString NodeEntries::linesNow(const NodeSummary& node) const
+{
+    QStringList cells;
+    for (int column = 0; column < m_columns; ++column)
+        cells.append(m_text(node, column));
+    return SearchText::folded(cells.join(QLatin1Char('\n')));
 }
 
 bool NodeEntries::matches(Slot slot, const NodeSearch& search) const
@@ -157,6 +194,22 @@ void NodeEntries::forgetTexts(int column)
             entry.columnKey = columnKey(entry);
     }
     m_prepared = 0;
+}
+
+void NodeEntries::forgetTexts(const QString& id)
+{
+    const Slot slot = slotOf(id);
+    if (slot < 0)
+        return;
+    m_entries[size_t(slot)].lines = QString();
+    m_prepared = std::min(m_prepared, size_t(slot));
+}
+
+bool NodeEntries::isShownBy(const NodeSummary& node) const
+{
+    const Slot slot = slotOf(node.id);
+    return slot >= 0 && entry(slot).node == node && !entry(slot).lines.isNull() &&
+           entry(slot).lines == linesNow(node);
 }
 
 bool NodeEntries::prepareSome() const

@@ -49,10 +49,21 @@ public:
     /// Where a node stands in sorted rows, or would stand.
     int place(const Slots& rows, Slot slot) const;
 
+    /// Takes what was \a touched out of \a rows and puts \a sorted into them.
+    void putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted) const;
+
+    /// Whether cameras that record into a folder will show something else.
+    bool changesFolders(const QVector<NodeSummary>& changed, const QStringList& removed) const;
+
     bool matches(Slot slot, const NodeSearch& search) const;
 
     /// The texts of a column are no longer what they were.
     void forgetTexts(int column);
+    /// Those of a node, which is shown as it was until it is put again.
+    void forgetTexts(const QString& id);
+
+    /// Whether putting the node would change nothing that is shown, as far as that is known.
+    bool isShownBy(const NodeSummary& node) const;
 
     /// Prepares some nodes for the search, for about a millisecond; false when all are.
     bool prepareSome() const;
@@ -71,6 +82,7 @@ private:
     const Entry& entry(Slot slot) const { return m_entries[size_t(slot)]; }
     QString columnKey(const Entry& entry) const;
     const QString& lines(const Entry& entry) const;
+    QString linesNow(const NodeSummary& node) const;
 
     const CellText m_text;
     const int m_columns;

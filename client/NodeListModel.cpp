@@ -1,6 +1,5 @@
 #include "NodeListModel.h"
 
-#include "SearchText.h"
 #include "drivers/NodeTypes.h"
 
 #include <QTimerEvent>
@@ -14,50 +13,13 @@ namespace {
 /// From so many changes on, putting everything in order again is cheaper than row by row.
 const int manyChanges = 64;
 
-const char* const titles[] = {
-    QT_TRANSLATE_NOOP("ko::NodeListModel", "Name"),
-    QT_TRANSLATE_NOOP("ko::NodeListModel", "Type"),
-    QT_TRANSLATE_NOOP("ko::NodeListModel", "Address"),
-    QT_TRANSLATE_NOOP("ko::NodeListModel", "Recording"),
-};
-
-QString textOf(const NodeSummary& node, int column, const NodeListModel::RecordingText& recordingText)
-{
-    switch (column) {
-    case NodeListModel::NameColumn:
-        return node.name;
-    case NodeListModel::TypeColumn:
-        return NodeTypes::readableName(node.type);
-    case NodeListModel::AddressColumn:
-        return node.location;
-    default:
-        return recordingText(node);
-    }
-}
-
-/// Rows are one line high; a name may hold line breaks.
-QString inOneLine(QString text)
-{
-    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
-}
-
-QStringList fields()
-{
-    QStringList fields;
-    for (const char* title : titles)
-        fields.append(SearchText::folded(NodeListModel::tr(title)).remove(QLatin1Char(' ')));
-    return fields;
-}
-
 } // namespace
 
 NodeListModel::NodeListModel(RecordingText recordingText, QObject* parent)
     : QAbstractTableModel(parent)
-    , m_entries(
-          [recordingText = std::move(recordingText)](const NodeSummary& node, int column) {
-              return inOneLine(textOf(node, column, recordingText));
-          },
-          ColumnCount)
+    , m_columns(std::move(recordingText))
+    , m_entries([this](const NodeSummary& node, int column) { return m_columns.text(node, column); },
+                m_columns.count())
 {
 }
 
@@ -110,13 +72,23 @@ void NodeListModel::setNodes(const QVector<NodeSummary>& nodes)
 
 void NodeListModel::apply(const QVector<NodeSummary>& changed, const QStringList& removed)
 {
-    const bool folders = changesFolders(changed, removed);
+    const bool folders = m_entries.changesFolders(changed, removed);
+    QVector<NodeSummary> differing;
+    std::copy_if(changed.begin(), changed.end(), std::back_inserter(differing),
+                 [this](const NodeSummary& node) { return !m_entries.isShownBy(node); });
+    put(differing, removed);
+    for (const QString& id : removed)
+        m_columns.forget(id);
+    if (folders)
+        textsChanged(RecordingColumn);
+}
+
+void NodeListModel::put(const QVector<NodeSummary>& changed, const QStringList& removed)
+{
     if (changed.size() + removed.size() >= manyChanges)
         applyMany(changed, removed);
     else
         applyOneByOne(changed, removed);
-    if (folders)
-        recordingTextsChanged();
 }
 
 void NodeListModel::applyOneByOne(const QVector<NodeSummary>& changed, const QStringList& removed)
@@ -193,7 +165,7 @@ void NodeListModel::moveRow(int from, int to)
         m_shown.move(from, to);
         endMoveRows();
     }
-    emit dataChanged(index(to, 0), index(to, ColumnCount - 1));
+    emit dataChanged(index(to, 0), index(to, columnCount() - 1));
 }
 
 void NodeListModel::applyMany(const QVector<NodeSummary>& changed, const QStringList& removed)
@@ -215,62 +187,85 @@ void NodeListModel::applyMany(const QVector<NodeSummary>& changed, const QString
     }
     m_entries.sort(moving);
     moving.erase(std::unique(moving.begin(), moving.end()), moving.end());
-    putInPlace(m_sorted, touched, moving);
-    putInPlace(m_shown, touched, filtered(moving));
+    m_entries.putInPlace(m_sorted, touched, moving);
+    m_entries.putInPlace(m_shown, touched, filtered(moving));
     m_preparing.start(0, this);
     endResetModel();
 }
 
-/// Takes what was \a touched out of \a rows and puts \a sorted into them.
-void NodeListModel::putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted) const
+void NodeListModel::textsChanged(int column)
 {
-    const auto inOrder = [this](Slot a, Slot b) { return m_entries.less(a, b); };
-    const auto isTouched = [&touched](Slot slot) { return touched[size_t(slot)]; };
-    const auto end = std::remove_if(rows.begin(), rows.end(), isTouched);
-    Slots merged(int(end - rows.begin()) + int(sorted.size()));
-    auto to = merged.begin();
-    auto from = rows.begin();
-    for (const Slot slot : sorted) {
-        const auto next = std::lower_bound(from, end, slot, inOrder);
-        to = std::copy(from, next, to);
-        *to++ = slot;
-        from = next;
-    }
-    std::copy(from, end, to);
-    rows.swap(merged);
-}
-
-/// Whether cameras that record into a folder will show something else.
-bool NodeListModel::changesFolders(const QVector<NodeSummary>& changed, const QStringList& removed) const
-{
-    const auto known = [this](const QString& id) {
-        const Slot slot = m_entries.slotOf(id);
-        return slot < 0 ? NodeSummary() : m_entries.node(slot);
-    };
-    const auto moves = [&known](const NodeSummary& node) {
-        const NodeSummary before = known(node.id);
-        return before.type == RecordingFolderType && before.location != node.location;
-    };
-    const auto goes = [&known](const QString& id) { return known(id).type == RecordingFolderType; };
-    return std::any_of(changed.begin(), changed.end(), moves) ||
-           std::any_of(removed.begin(), removed.end(), goes);
-}
-
-void NodeListModel::recordingTextsChanged()
-{
-    m_entries.forgetTexts(RecordingColumn);
+    m_entries.forgetTexts(column);
     m_preparing.start(0, this);
-    if (m_entries.sortColumn() == RecordingColumn)
-        sortRows(RecordingColumn, m_entries.sortOrder());
+    if (m_entries.sortColumn() == column)
+        sortRows(column, m_entries.sortOrder());
     if (!m_search.isEmpty())
         refilter(false);
     if (!m_shown.isEmpty())
-        emit dataChanged(index(0, RecordingColumn), index(int(m_shown.size()) - 1, RecordingColumn));
+        emit dataChanged(index(0, column), index(int(m_shown.size()) - 1, column));
+}
+
+void NodeListModel::fill(int column, const ListColumns::Texts& texts)
+{
+    m_columns.fill(column, texts);
+    textsChanged(column);
+}
+
+void NodeListModel::empty(int column)
+{
+    m_columns.empty(column);
+    textsChanged(column);
+}
+
+void NodeListModel::setText(int column, const QString& id, const QString& text)
+{
+    m_columns.setText(column, id, text);
+    m_entries.forgetTexts(id);
+}
+
+CameraState NodeListModel::stateOf(const QString& id) const
+{
+    const Slot slot = m_entries.slotOf(id);
+    return slot < 0 ? CameraState() : m_columns.state(m_entries.node(slot));
+}
+
+void NodeListModel::setStates(const QHash<QString, CameraState>& states)
+{
+    QVector<NodeSummary> nodes;
+    for (auto state = states.begin(); state != states.end(); ++state) {
+        const Slot slot = m_entries.slotOf(state.key());
+        if (slot < 0)
+            continue;
+        nodes.append(m_entries.node(slot));
+        m_columns.setState(nodes.last().id, state.value());
+    }
+    if (!m_search.isEmpty() || m_entries.sortColumn() == StateColumn)
+        put(nodes, {});
+    else
+        stateCellsChanged(nodes);
+}
+
+/// Nothing moves, comes or goes.
+void NodeListModel::stateCellsChanged(const QVector<NodeSummary>& nodes)
+{
+    int first = rowCount();
+    int last = -1;
+    for (const NodeSummary& node : nodes) {
+        m_entries.forgetTexts(node.id);
+        const int row = rowOf(node.id);
+        if (row < 0)
+            continue;
+        first = std::min(first, row);
+        last = std::max(last, row);
+    }
+    m_preparing.start(0, this);
+    if (last >= 0)
+        emit dataChanged(index(first, StateColumn), index(last, StateColumn));
 }
 
 void NodeListModel::setSearch(const QString& text)
 {
-    const NodeSearch search(text, fields());
+    const NodeSearch search(text, m_columns.fields());
     if (search == m_search)
         return;
     const bool narrower = search.isWithin(m_search);
@@ -313,8 +308,8 @@ QItemSelection NodeListModel::marked() const
     const auto begin = m_shown.begin();
     for (auto first = std::find_if(begin, m_shown.end(), isMarked); first != m_shown.end();) {
         const auto end = std::find_if_not(first, m_shown.end(), isMarked);
-        selection.append(
-            QItemSelectionRange(index(int(first - begin), 0), index(int(end - begin) - 1, ColumnCount - 1)));
+        selection.append(QItemSelectionRange(index(int(first - begin), 0),
+                                             index(int(end - begin) - 1, columnCount() - 1)));
         first = std::find_if(end, m_shown.end(), isMarked);
     }
     return selection;
@@ -327,7 +322,7 @@ int NodeListModel::rowCount(const QModelIndex& parent) const
 
 int NodeListModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int(ColumnCount);
+    return parent.isValid() ? 0 : m_columns.count();
 }
 
 QVariant NodeListModel::data(const QModelIndex& index, int role) const
@@ -340,6 +335,9 @@ QVariant NodeListModel::data(const QModelIndex& index, int role) const
         return m_entries.text(m_shown.at(index.row()), index.column());
     case Qt::DecorationRole:
         return index.column() == NameColumn ? QVariant(NodeTypes::icon(shown.type)) : QVariant();
+    case Qt::ForegroundRole:
+    case Qt::ToolTipRole:
+        return m_columns.decoration(shown, index.column(), role);
     case NodeIdRole:
         return shown.id;
     case NodeTypeRole:
@@ -352,13 +350,14 @@ QVariant NodeListModel::data(const QModelIndex& index, int role) const
 QVariant NodeListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     const bool isTitle = orientation == Qt::Horizontal && role == Qt::DisplayRole;
-    return isTitle && section >= 0 && section < ColumnCount ? QVariant(tr(titles[section])) : QVariant();
+    return isTitle && section >= 0 && section < columnCount() ? QVariant(m_columns.title(section))
+                                                              : QVariant();
 }
 
 void NodeListModel::sort(int column, Qt::SortOrder order)
 {
     const bool isNew = column != m_entries.sortColumn() || order != m_entries.sortOrder();
-    if (column >= 0 && column < ColumnCount && isNew)
+    if (column >= 0 && column < columnCount() && isNew)
         sortRows(column, order);
 }
 

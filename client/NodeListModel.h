@@ -1,6 +1,7 @@
 #ifndef KO_NODELISTMODEL_H
 #define KO_NODELISTMODEL_H
 
+#include "ListColumns.h"
 #include "NodeEntries.h"
 
 #include <QAbstractTableModel>
@@ -16,19 +17,39 @@ class NodeListModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { NameColumn, TypeColumn, AddressColumn, RecordingColumn, ColumnCount };
+    enum Column {
+        NameColumn,
+        TypeColumn,
+        AddressColumn,
+        RecordingColumn,
+        StateColumn,
+        FirstPropertyColumn ///< from here on, see ListColumns
+    };
     enum Role { NodeIdRole = Qt::UserRole, NodeTypeRole };
 
     /// Says in words where a node is recorded; called on the GUI thread, must be quick.
-    typedef std::function<QString(const NodeSummary&)> RecordingText;
+    typedef ListColumns::RecordingText RecordingText;
 
     explicit NodeListModel(RecordingText recordingText, QObject* parent = nullptr);
 
     void setNodes(const QVector<NodeSummary>& nodes);
 
     /// Takes in nodes that are new or changed and forgets others, together. Many at once cost far less
-    /// than one after the other. No node stands in both.
+    /// than one after the other. No node stands in both. One that shows what it did is left alone.
     void apply(const QVector<NodeSummary>& changed, const QStringList& removed);
+
+    /// What checks said; of nodes that are not there it is dropped.
+    void setStates(const QHash<QString, CameraState>& states);
+    CameraState stateOf(const QString& id) const;
+
+    const ListColumns& columns() const { return m_columns; }
+
+    /// The column of a property gets its texts, and from then on those of nodes that change by setText().
+    void fill(int column, const ListColumns::Texts& texts);
+    /// It is not looked at any more.
+    void empty(int column);
+    /// Shown by the next apply() with that node.
+    void setText(int column, const QString& id, const QString& text);
 
     /// Shows only nodes that match; see NodeSearch. The fields are the titles of the columns.
     void setSearch(const QString& text);
@@ -67,6 +88,7 @@ private:
     Slots filtered(const Slots& candidates) const;
     void refilter(bool narrower);
 
+    void put(const QVector<NodeSummary>& changed, const QStringList& removed);
     void applyOneByOne(const QVector<NodeSummary>& changed, const QStringList& removed);
     void insertOne(const NodeSummary& node);
     void updateOne(Slot slot, const NodeSummary& node);
@@ -76,11 +98,11 @@ private:
     void moveRow(int from, int to);
 
     void applyMany(const QVector<NodeSummary>& changed, const QStringList& removed);
-    void putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted) const;
-    bool changesFolders(const QVector<NodeSummary>& changed, const QStringList& removed) const;
-    void recordingTextsChanged();
+    void textsChanged(int column);
+    void stateCellsChanged(const QVector<NodeSummary>& nodes);
     void sortRows(int column, Qt::SortOrder order);
 
+    ListColumns m_columns;
     NodeEntries m_entries;
     Slots m_sorted; ///< all nodes
     Slots m_shown;  ///< those that pass the filter, in the same order

@@ -7,10 +7,18 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QSettings>
 
 #include <algorithm>
 
 namespace ko {
+
+namespace {
+
+const char columnsKey[] = "window/columns";
+const char keysKey[] = "window/columnKeys";
+
+} // namespace
 
 NodeListView::NodeListView(QWidget* parent)
     : QTreeView(parent)
@@ -42,7 +50,8 @@ void NodeListView::setNodeModel(NodeListModel* model)
     addColumnActions();
 }
 
-/// The menu of the header. The name stays: without it nobody knows what a row is.
+/// The menu of the header. The name stays: without it nobody knows what a row is. Properties are there for
+/// who wants them.
 void NodeListView::addColumnActions()
 {
     for (int column = NodeListModel::NameColumn + 1; column < m_model->columnCount(); ++column) {
@@ -50,17 +59,38 @@ void NodeListView::addColumnActions()
         QAction* action = new QAction(title, header());
         action->setObjectName(QStringLiteral("column%1").arg(column));
         action->setCheckable(true);
-        action->setChecked(true);
-        connect(action, &QAction::toggled, this,
-                [this, column](bool shown) { setColumnHidden(column, !shown); });
+        action->setChecked(column < NodeListModel::FirstPropertyColumn);
+        setColumnHidden(column, !action->isChecked());
+        connect(action, &QAction::toggled, this, [this, column](bool shown) {
+            setColumnHidden(column, !shown);
+            emit columnsChanged();
+        });
         header()->addAction(action);
     }
     header()->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
-void NodeListView::restoreColumns(const QByteArray& state)
+/// What tells columns apart in any language.
+QStringList NodeListView::columnKeys() const
 {
-    header()->restoreState(state);
+    QStringList keys;
+    for (int column = 0; column < m_model->columnCount(); ++column)
+        keys.append(m_model->columns().key(column));
+    return keys;
+}
+
+void NodeListView::saveColumns(QSettings& settings) const
+{
+    settings.setValue(QLatin1String(columnsKey), header()->saveState());
+    settings.setValue(QLatin1String(keysKey), columnKeys());
+}
+
+void NodeListView::restoreColumns(const QSettings& settings)
+{
+    // The header takes its columns by their places, which another version may have given to others.
+    if (settings.value(QLatin1String(keysKey)).toStringList() != columnKeys())
+        return;
+    header()->restoreState(settings.value(QLatin1String(columnsKey)).toByteArray());
     const QList<QAction*> actions = header()->actions();
     for (int i = 0; i < actions.size(); ++i)
         actions.at(i)->setChecked(!isColumnHidden(NodeListModel::NameColumn + 1 + i));
@@ -139,8 +169,8 @@ void NodeListView::selectNodes(const QStringList& ids)
     for (const QString& id : ids) {
         const int row = m_model->rowOf(id);
         if (row >= 0)
-            selection.append(QItemSelectionRange(m_model->index(row, 0),
-                                                 m_model->index(row, NodeListModel::ColumnCount - 1)));
+            selection.append(
+                QItemSelectionRange(m_model->index(row, 0), m_model->index(row, m_model->columnCount() - 1)));
     }
     if (selection.isEmpty())
         return;

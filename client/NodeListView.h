@@ -5,6 +5,8 @@
 
 #include <QTreeView>
 
+class QSettings;
+
 namespace ko {
 
 /// The table of nodes. What is selected stays selected, by identifier, when the filter shows other rows.
@@ -28,8 +30,10 @@ public:
     /// Brings up the menu of the header, in which columns are shown and hidden.
     void chooseColumns();
 
-    /// Puts back what QHeaderView::saveState() gave.
-    void restoreColumns(const QByteArray& state);
+    /// Which columns there are, how wide, in which order, and by which the list is sorted.
+    void saveColumns(QSettings& settings) const;
+    /// Does nothing if the columns are no longer those that were saved.
+    void restoreColumns(const QSettings& settings);
 
     /// For the search field: the focus goes to the current row, or to the first one.
     void enter();
@@ -41,6 +45,9 @@ signals:
     /// Return was pressed or a row was double-clicked.
     void nodeActivated(const QString& id);
 
+    /// The user has shown or hidden one.
+    void columnsChanged();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
@@ -49,6 +56,7 @@ protected:
 
 private:
     void addColumnActions();
+    QStringList columnKeys() const;
     void remember();
     void restore();
     void aboutToSort();

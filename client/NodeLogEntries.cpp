@@ -8,6 +8,7 @@ namespace {
 
 const char added[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Added device");
 const char removed[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Removed device");
+const char accepted[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Accepted another device");
 
 template <class Entry>
 LogEntry* create()
@@ -63,8 +64,29 @@ QString NodeRemoveLogEntry::title() const
     return LogEntry::tr(removed);
 }
 
+NodeAcceptLogEntry::NodeAcceptLogEntry(const QString& name)
+    : NodeLogEntry(name)
+{
+}
+
+FourChars NodeAcceptLogEntry::typeCode() const
+{
+    return "NAcc";
+}
+
+QString NodeAcceptLogEntry::description() const
+{
+    return LogEntry::tr("Accepted another device than before as %1.");
+}
+
+QString NodeAcceptLogEntry::title() const
+{
+    return LogEntry::tr(accepted);
+}
+
 void registerNodeLogEntries()
 {
+    logEntryFactory().registerCreator("NAcc", create<NodeAcceptLogEntry>, QLatin1String(accepted));
     logEntryFactory().registerCreator("NAdd", create<NodeAddLogEntry>, QLatin1String(added));
     logEntryFactory().registerCreator("NRem", create<NodeRemoveLogEntry>, QLatin1String(removed));
 }

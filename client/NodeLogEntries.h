@@ -38,6 +38,16 @@ public:
     QString title() const override;
 };
 
+class NodeAcceptLogEntry : public NodeLogEntry
+{
+public:
+    explicit NodeAcceptLogEntry(const QString& name);
+
+    FourChars typeCode() const override;
+    QString description() const override;
+    QString title() const override;
+};
+
 /// Lets stored entries be read back. To be called before the audit log is shown; again does no harm.
 void registerNodeLogEntries();
 

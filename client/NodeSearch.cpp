@@ -8,6 +8,29 @@ namespace ko {
 
 namespace {
 
+/// Parted at blanks, but not between quotes. A quote without a second one is a character like others: 19".
+QStringList parts(const QString& text)
+{
+    const QLatin1Char quote('"');
+    QStringList parts;
+    QString part;
+    bool isQuoted = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (c == quote && (isQuoted || text.indexOf(quote, i + 1) >= 0)) {
+            isQuoted = !isQuoted;
+        } else if (c == QLatin1Char(' ') && !isQuoted) {
+            parts.append(part);
+            part.clear();
+        } else {
+            part.append(c);
+        }
+    }
+    parts.append(part);
+    parts.removeAll(QString());
+    return parts;
+}
+
 bool standsInLine(const QString& word, int line, const QString& lines)
 {
     int begin = 0;
@@ -22,23 +45,37 @@ bool standsInLine(const QString& word, int line, const QString& lines)
 
 NodeSearch::NodeSearch(const QString& text, const QStringList& fields)
 {
-    const QStringList typed = SearchText::folded(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList typed = parts(SearchText::folded(text));
     for (const QString& part : typed) {
-        Word word = {part, -1, part.startsWith(QLatin1Char('-'))};
-        if (word.absent)
-            word.text.remove(0, 1);
-        const int colon = int(word.text.indexOf(QLatin1Char(':')));
-        word.column = colon < 0 ? -1 : int(fields.indexOf(word.text.left(colon)));
+        Word word = {{}, -1, part.startsWith(QLatin1Char('-'))};
+        const QString wanted = word.absent ? part.mid(1) : part;
+        const int colon = int(wanted.indexOf(QLatin1Char(':')));
+        word.column = colon < 0 ? -1 : int(fields.indexOf(wanted.left(colon)));
         if (word.column >= 0)
-            word.text.remove(0, colon + 1);
-        if (!word.text.isEmpty()) // else it is still being typed
+            word.texts = wanted.mid(colon + 1).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+        else if (!wanted.isEmpty())
+            word.texts = QStringList(wanted);
+        if (!word.texts.isEmpty()) // else it is still being typed
             m_words.append(word);
     }
 }
 
+QSet<int> NodeSearch::columns() const
+{
+    QSet<int> columns;
+    for (const Word& word : m_words) {
+        if (word.column >= 0)
+            columns.insert(word.column);
+    }
+    return columns;
+}
+
 bool NodeSearch::Word::matches(const QString& lines) const
 {
-    return absent != (column < 0 ? lines.contains(text) : standsInLine(text, column, lines));
+    const auto stands = [this, &lines](const QString& text) {
+        return column < 0 ? lines.contains(text) : standsInLine(text, column, lines);
+    };
+    return absent != std::any_of(texts.begin(), texts.end(), stands);
 }
 
 bool NodeSearch::Word::isWithin(const Word& other) const
@@ -47,7 +84,12 @@ bool NodeSearch::Word::isWithin(const Word& other) const
         return false;
     const Word& wide = absent ? *this : other;
     const Word& narrow = absent ? other : *this;
-    return (wide.column < 0 || wide.column == narrow.column) && narrow.text.contains(wide.text);
+    const auto isFound = [&wide](const QString& text) {
+        return std::any_of(wide.texts.begin(), wide.texts.end(),
+                           [&text](const QString& wanted) { return text.contains(wanted); });
+    };
+    return (wide.column < 0 || wide.column == narrow.column) &&
+           std::all_of(narrow.texts.begin(), narrow.texts.end(), isFound);
 }
 
 bool NodeSearch::matches(const QString& lines) const

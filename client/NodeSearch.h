@@ -1,13 +1,15 @@
 #ifndef KO_NODESEARCH_H
 #define KO_NODESEARCH_H
 
+#include <QSet>
 #include <QStringList>
 #include <QVector>
 
 namespace ko {
 
 /// What a user types to find nodes: words that all must stand in some column, whatever their case and
-/// accents. "field:word" looks in one column, "-word" wants that the word stands nowhere.
+/// accents. "field:word" looks in one column, "field:one|other" for either, "-word" wants that the word
+/// stands nowhere. Quotes keep words with a blank together: state:"no answer".
 class NodeSearch
 {
 public:
@@ -17,6 +19,9 @@ public:
     NodeSearch(const QString& text, const QStringList& fields);
 
     bool isEmpty() const { return m_words.isEmpty(); }
+
+    /// The columns that are looked at by their name.
+    QSet<int> columns() const;
 
     /// \a lines are the columns, folded, one to a line.
     bool matches(const QString& lines) const;
@@ -29,13 +34,13 @@ public:
 private:
     struct Word
     {
-        QString text;
-        int column; ///< -1 for any
+        QStringList texts; ///< any of them
+        int column;        ///< -1 for any
         bool absent;
 
         bool operator==(const Word& other) const
         {
-            return text == other.text && column == other.column && absent == other.absent;
+            return texts == other.texts && column == other.column && absent == other.absent;
         }
         bool matches(const QString& lines) const;
         bool isWithin(const Word& other) const;

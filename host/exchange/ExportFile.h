@@ -10,13 +10,13 @@ namespace ko {
 
 /// Where a list goes. A regular file is replaced when all is written, and is its owner's alone, because a
 /// list holds passwords. A device or a pipe is written to as it is. A database is refused.
-class ExportFile
+class KO_HOST_EXPORT ExportFile
 {
 public:
     explicit ExportFile(const QString& name);
 
     /// Whether what is written there appears where the program's own texts do.
-    KO_HOST_EXPORT static bool isStandardOutput(const QString& name);
+    static bool isStandardOutput(const QString& name);
 
     /// False if nothing can be written there.
     bool open();

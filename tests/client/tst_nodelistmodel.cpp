@@ -6,10 +6,14 @@
 #include "drivers/NodeTypes.h"
 
 #include <QAbstractItemModelTester>
+#include <QColor>
+#include <QElapsedTimer>
+#include <QPalette>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace ko;
 
@@ -72,6 +76,12 @@ private slots:
     void changeOfAHiddenNodeMovesNothing();
     void randomChangesAgainstTruth();
     void manyAtOnceEqualOneByOne();
+    void statesAreShownSoughtAndSorted();
+    void statesCostLittle();
+    void statesCanBeRead_data();
+    void statesCanBeRead();
+    void columnsOfProperties();
+    void whatShowsTheSameIsLeftAlone();
 
 private:
     static QStringList names(const NodeListModel& model);
@@ -117,8 +127,10 @@ void tst_NodeListModel::cellsAndHeaders()
         headers.append(model.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
         cells.append(model.index(0, column).data().toString());
     }
-    QCOMPARE(headers, QStringList({"Name", "Type", "Address", "Recording"}));
-    QCOMPARE(cells, QStringList({"Gate", "IP Camera", "10.0.0.1", "Via camera"}));
+    QCOMPARE(headers, QStringList({"Name", "Type", "Address", "Recording", "State", "Model", "Version", "MAC",
+                                   "Port", "SSL", "User", "Channel"}));
+    QCOMPARE(cells.mid(0, 5), QStringList({"Gate", "IP Camera", "10.0.0.1", "Via camera", "Not checked"}));
+    QCOMPARE(cells.mid(5).join(QString()), QString()); // until they are filled
     QVERIFY(!model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
     QCOMPARE(model.index(0, 2).data(NodeListModel::NodeIdRole).toString(), QString("a"));
 }
@@ -145,6 +157,16 @@ void tst_NodeListModel::searchFindsWordsInAnyColumn_data()
     QTest::newRow("without") << "-gate" << QStringList({"Dock"});
     QTest::newRow("field without") << "camera -address:0.9" << QStringList({"Gate 1", "Gate 2"});
     QTest::newRow("dash alone") << "gate -" << QStringList({"Gate 1", "Gate 2"});
+    QTest::newRow("either") << "name:dock|2" << QStringList({"Dock", "Gate 2"});
+    QTest::newRow("either, still being typed") << "name:dock|" << QStringList("Dock");
+    QTest::newRow("none of two") << "-name:dock|2" << QStringList("Gate 1");
+    QTest::newRow("no field, no choice") << "dock|gate" << QStringList();
+    QTest::newRow("quotes") << "\"gate 1\"" << QStringList("Gate 1");
+    QTest::newRow("order in quotes") << "\"1 gate\"" << QStringList();
+    QTest::newRow("quotes in a field") << "name:\"gate 2\"|dock" << QStringList({"Dock", "Gate 2"});
+    QTest::newRow("quote still open") << "gate \"1" << QStringList();
+    QTest::newRow("empty quotes") << "\"\" dock" << QStringList("Dock");
+    QTest::newRow("state") << "state:\"not checked\"" << all;
 }
 
 void tst_NodeListModel::searchFindsWordsInAnyColumn()
@@ -379,7 +401,7 @@ void tst_NodeListModel::everyColumnInEitherOrderAgainstTruth_data()
 {
     QTest::addColumn<int>("column");
     QTest::addColumn<Qt::SortOrder>("order");
-    for (int column = 0; column < NodeListModel::ColumnCount; ++column) {
+    for (int column = 0; column < NodeListModel::FirstPropertyColumn; ++column) {
         for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder})
             QTest::addRow("%d %d", column, int(order)) << column << order;
     }
@@ -406,7 +428,8 @@ void tst_NodeListModel::everyColumnInEitherOrderAgainstTruth()
 
     const auto key = [column](const NodeSummary& node) {
         const QString cells[] = {node.name, NodeTypes::readableName(node.type), node.location,
-                                 recordingText(node)};
+                                 recordingText(node),
+                                 node.type == IPDeviceType ? QString("Not checked") : QString()};
         return qMakePair(SearchText::sortKey(cells[column]), SearchText::sortKey(node.name));
     };
     QVector<NodeSummary> truth = nodes;
@@ -528,6 +551,150 @@ void tst_NodeListModel::manyAtOnceEqualOneByOne()
         single.apply({node}, {});
     many.apply(nodes, {});
     QCOMPARE(names(single), names(many));
+}
+
+void tst_NodeListModel::statesAreShownSoughtAndSorted()
+{
+    NodeListModel model(recordingText);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setNodes({summary("a", "Alpha", "10.0.0.1"), summary("b", "Beta", "10.0.0.2"),
+                    summary("v", "View", QString(), ViewType), summary("n", "No address")});
+    CameraState wrong;
+    wrong.state = DeviceReport::WrongPassword;
+    wrong.reason = "<b>refused</b>";
+    wrong.time = QDateTime(QDate(2026, 11, 22), QTime(12, 0));
+    CameraState answers = wrong;
+    answers.state = DeviceReport::Answers;
+    model.setStates({{"a", wrong}, {"b", answers}, {"gone", wrong}});
+    const auto cell = [&model](const QString& id, int role) {
+        return model.index(model.rowOf(id), NodeListModel::StateColumn).data(role);
+    };
+    QCOMPARE(cell("a", Qt::DisplayRole).toString(), QString("Wrong password"));
+    QCOMPARE(cell("b", Qt::DisplayRole).toString(), QString("Answers"));
+    for (const char* other : {"v", "n"})
+        QCOMPARE(cell(other, Qt::DisplayRole).toString(), QString());
+    QVERIFY(cell("a", Qt::ForegroundRole).value<QColor>() != cell("b", Qt::ForegroundRole).value<QColor>());
+    const QString tip = cell("a", Qt::ToolTipRole).toString();
+    QVERIFY2(tip.contains("&lt;b&gt;refused") && tip.contains("2026"), qPrintable(tip));
+
+    model.setSearch("state:wrong");
+    QCOMPARE(names(model), QStringList("Alpha"));
+    model.setStates({{"b", wrong}, {"a", CameraState()}}); // follows what comes
+    QCOMPARE(names(model), QStringList("Beta"));
+    model.setSearch(QString());
+    model.sort(NodeListModel::StateColumn, Qt::DescendingOrder);
+    QCOMPARE(names(model), QStringList({"Beta", "Alpha", "View", "No address"}));
+    model.setStates({{"a", answers}, {"b", CameraState()}});
+    QCOMPARE(names(model), QStringList({"Beta", "Alpha", "View", "No address"}));
+    model.setStates({{"a", wrong}});
+    QCOMPARE(names(model), QStringList({"Alpha", "Beta", "View", "No address"}));
+
+    model.apply({}, {"a"});
+    model.apply({summary("a", "Alpha", "10.0.0.1")}, {}); // another one of that name
+    QCOMPARE(cell("a", Qt::DisplayRole).toString(), QString("Not checked"));
+}
+
+/// Nothing is reset and nothing moves when neither order nor search looks at them.
+void tst_NodeListModel::statesCostLittle()
+{
+    const int count = 20000;
+    NodeListModel model(recordingText);
+    model.setNodes(site(count));
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    CameraState answers;
+    answers.state = DeviceReport::Answers;
+    QElapsedTimer clock;
+    clock.start();
+    for (int first = 0; first < count; first += 100) {
+        QHash<QString, CameraState> states;
+        for (int i = first; i < first + 100; ++i)
+            states.insert(QString("id%1").arg(i), answers);
+        model.setStates(states);
+    }
+    QVERIFY2(clock.elapsed() < 2000, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(reset.count(), 0);
+    QCOMPARE(changed.count(), count / 100);
+    QCOMPARE(changed.first().first().toModelIndex().column(), int(NodeListModel::StateColumn));
+    model.setSearch("state:answers");
+    QCOMPARE(model.rowCount(), count);
+}
+
+void tst_NodeListModel::statesCanBeRead_data()
+{
+    QTest::addColumn<QColor>("ground");
+    QTest::addColumn<QColor>("other");
+
+    QTest::newRow("light") << QColor(Qt::white) << QColor(245, 245, 245);
+    QTest::newRow("dark") << QColor(35, 38, 41) << QColor(49, 54, 59);
+    QTest::newRow("black") << QColor(Qt::black) << QColor(20, 20, 20);
+    QTest::newRow("ivory") << QColor(255, 255, 230) << QColor(240, 235, 210);
+}
+
+/// At least 4.5 to 1, as WCAG wants it of small texts.
+void tst_NodeListModel::statesCanBeRead()
+{
+    QFETCH(QColor, ground);
+    QFETCH(QColor, other);
+    QPalette palette;
+    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::AlternateBase, other);
+    const auto luminance = [](const QColor& color) {
+        const auto part = [](double value) {
+            return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
+    };
+    for (const DeviceReport::State state : CameraStates::all()) {
+        const QColor color = CameraStates::color(state, palette);
+        QCOMPARE(color.isValid(), state != DeviceReport::NotChecked);
+        for (const QColor& under : {ground, other}) {
+            const double a = luminance(color) + 0.05;
+            const double b = luminance(under) + 0.05;
+            QVERIFY2(!color.isValid() || qMax(a, b) / qMin(a, b) >= 4.5, qPrintable(color.name()));
+        }
+    }
+}
+
+void tst_NodeListModel::columnsOfProperties()
+{
+    const int column = NodeListModel::FirstPropertyColumn; // the model
+    NodeListModel model(recordingText);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setNodes({summary("a", "Alpha"), summary("b", "Beta"), summary("c", "Gamma")});
+    QCOMPARE(model.columns().key(column), QString("Model"));
+    QVERIFY(!model.columns().isFilled(column));
+    model.setSearch("model:ks");
+    QCOMPARE(model.rowCount(), 0);
+    model.fill(column, {{"a", "KS-10"}, {"b", "KS-9"}});
+    QCOMPARE(names(model), QStringList({"Alpha", "Beta"}));
+    model.setText(column, "a", "other");
+    model.setText(column, "c", "KS-1");
+    model.apply({model.node(model.rowOf("a")), summary("c", "Gamma")}, {});
+    QCOMPARE(names(model), QStringList({"Beta", "Gamma"}));
+    model.setSearch(QString());
+    model.sort(column, Qt::AscendingOrder);
+    QCOMPARE(names(model), QStringList({"Gamma", "Beta", "Alpha"}));
+    model.empty(column);
+    QCOMPARE(names(model), QStringList({"Alpha", "Beta", "Gamma"})); // alike now, by name
+    QCOMPARE(model.index(0, column).data().toString(), QString());
+}
+
+void tst_NodeListModel::whatShowsTheSameIsLeftAlone()
+{
+    const QVector<NodeSummary> nodes = site(200);
+    NodeListModel model(recordingText);
+    model.setNodes(nodes);
+    model.setSearch("camera"); // makes the texts
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    model.apply(nodes, {});
+    QCOMPARE(reset.count(), 0);
+    QVector<NodeSummary> renamed = nodes;
+    for (NodeSummary& node : renamed)
+        node.name = node.name.toUpper(); // which a search does not see
+    model.apply(renamed, {});
+    QCOMPARE(reset.count(), 1);
+    QVERIFY(names(model).first().startsWith("CAMERA"));
 }
 
 KO_TEST_MAIN(tst_NodeListModel)

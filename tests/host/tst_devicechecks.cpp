@@ -3,6 +3,7 @@
 #include "devices/DeviceCheck.h"
 #include "support/LogLines.h"
 #include "support/ProcessResources.h"
+#include "support/SimulatedSite.h"
 
 #include <QElapsedTimer>
 #include <QHostAddress>
@@ -24,6 +25,7 @@
 
 using namespace ko;
 using testsupport::ProcessResources;
+using Site = testsupport::SimulatedSite;
 
 namespace {
 
@@ -181,51 +183,6 @@ DeviceReport checked(const DeviceTarget& target)
     check.start();
     return finished.wait(40000) && finished.count() == 1 ? check.report() : DeviceReport();
 }
-
-/// A site with one server for all of its cameras, from 127.0.1.1 on.
-class Site
-{
-public:
-    explicit Site(const QStringList& options)
-    {
-        QTcpServer free;
-        free.listen();
-        port = free.serverPort();
-        free.close();
-        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(KO_KOSIM),
-                        QStringList{"--one-server", "--no-announce", "--http-port", QString::number(port)} +
-                            options);
-        QByteArray said;
-        isUp = QTest::qWaitFor(
-            [&] { return (said += m_process.readAllStandardOutput()).contains("ready: "); }, 20000);
-        QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
-                         [this] { m_process.readAllStandardOutput(); });
-    }
-    ~Site()
-    {
-        m_process.terminate();
-        m_process.waitForFinished();
-    }
-
-    DeviceTarget target(int camera) const
-    {
-        DeviceTarget target;
-        target.id = QString::number(camera);
-        target.address =
-            QHostAddress(QHostAddress("127.0.1.1").toIPv4Address() + quint32(camera) - 1).toString();
-        target.port = port;
-        target.user = QStringLiteral("admin");
-        target.password = QStringLiteral("kosim-pass");
-        return target;
-    }
-
-    bool isUp = false;
-    int port = 0;
-
-private:
-    QProcess m_process;
-};
 
 } // namespace
 

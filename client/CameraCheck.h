@@ -1,0 +1,90 @@
+#ifndef KO_CAMERACHECK_H
+#define KO_CAMERACHECK_H
+
+#include "CameraState.h"
+#include "devices/DeviceChecks.h"
+#include "ko/Types.h"
+#include "model/Cause.h"
+
+#include <QHash>
+#include <QSet>
+#include <QStringList>
+#include <QTimer>
+
+namespace ko {
+
+class HostNodeDB;
+class IPDeviceNode;
+
+/// Checks cameras of the database, and knows until when what was found holds: a camera whose address or
+/// credentials are changed is not checked any more, also if it is changed meanwhile.
+///
+/// What an answering camera is known by is remembered with its node, all of one check as one change set.
+/// Nothing waits: nodes are read in portions, devices asked in another thread.
+class CameraCheck : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Limits { Portion = 4 /* ms, of reading nodes at once */ };
+
+    typedef QHash<QString, CameraState> States; ///< by the identifier of the node
+
+    /// The database outlives the check.
+    explicit CameraCheck(HostNodeDB& db, QObject* parent = nullptr);
+
+    /// Each node has one result; what has no address or is no device is skipped. Not while one is running.
+    void start(const QStringList& nodes);
+
+    /// What was found until then stays.
+    void cancel();
+
+    bool isRunning() const { return m_isRunning; }
+    int done() const { return int(m_results.size()) + m_gone; }
+    int total() const { return m_total; }
+
+    /// Of the last one, also while it is running.
+    const States& results() const { return m_results; }
+    int skipped() const { return m_skipped; }
+
+signals:
+    /// New results, or cameras that are not checked any more.
+    void found(const ko::CameraCheck::States& states);
+    void progressed();
+
+    /// After the last result, or after cancel().
+    void finished();
+
+private:
+    void readSome();
+    void read(const QString& id);
+    void take(const QVector<DeviceReport>& reports);
+    void take(const DeviceReport& report, States* states);
+    void remember(const QVector<DeviceReport>& reports);
+    bool isAsChecked(const QString& id) const;
+    QByteArray fingerprint(const IPDeviceNode& node) const;
+    void nodeUpdated(const NodeID& id);
+    void nodeRemoved(const NodeID& id);
+    void lookAtUpdated();
+    void end();
+
+    HostNodeDB& m_db;
+    DeviceChecks m_checks;
+    QTimer m_reading;
+    QTimer m_looking;
+    const QByteArray m_salt; ///< so that no password can be guessed from what is kept of it
+    QStringList m_waiting;   ///< not read yet
+    QVector<DeviceTarget> m_targets;
+    QHash<QString, QByteArray> m_checkedAs; ///< of each camera that has a result, or waits for it
+    QSet<QString> m_updated;
+    States m_results;
+    Cause m_cause;
+    int m_total = 0;
+    int m_gone = 0; ///< removed meanwhile
+    int m_skipped = 0;
+    bool m_isRunning = false;
+};
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,227 @@
+#include "CameraChecking.h"
+
+#include "CheckPanel.h"
+#include "CheckReportDialog.h"
+#include "CheckReportModel.h"
+#include "MainWindow.h"
+#include "NameList.h"
+#include "NodeListModel.h"
+#include "NodeListView.h"
+#include "NodeLogEntries.h"
+#include "PlainMessageBox.h"
+#include "audit/AuditLog.h"
+#include "database/HostNodeDB.h"
+#include "devices/KnownDevice.h"
+#include "devices/NodeTarget.h"
+#include "ko/Node.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QPushButton>
+#include <QStatusBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace ko {
+
+CameraChecking::CameraChecking(MainWindow& window, NodeListModel& model)
+    : QObject(&window)
+    , m_window(window)
+    , m_model(model)
+    , m_panel(new CheckPanel(window.statusBar()))
+    , m_check(window.database())
+{
+    window.statusBar()->addPermanentWidget(m_panel);
+    m_panel->hide(); // adding it has shown it
+    connect(m_panel, &CheckPanel::cancelled, this, &CameraChecking::cancel);
+    connect(m_panel, &CheckPanel::pressed, this, &CameraChecking::takeOffer);
+    connect(&m_check, &CameraCheck::found, &m_model, &NodeListModel::setStates);
+    connect(&m_check, &CameraCheck::progressed, this,
+            [this] { m_panel->showProgress(m_check.done(), m_check.total()); });
+    connect(&m_check, &CameraCheck::finished, this, &CameraChecking::finish);
+}
+
+void CameraChecking::check()
+{
+    const QStringList selected = m_window.list().selectedIds();
+    start(selected.isEmpty() ? m_window.database().nodeIdList(AllNodeTypes) : selected, false);
+}
+
+void CameraChecking::start(const QStringList& nodes, bool isTry)
+{
+    if (m_check.isRunning()) {
+        m_window.say(tr("Cameras are being checked already."));
+        return;
+    }
+    const auto isTarget = [this](const QString& id) {
+        return NodeTarget::isOf(m_window.database().summary(id));
+    };
+    if (std::none_of(nodes.begin(), nodes.end(), isTarget)) {
+        m_window.say(tr("There is no camera with an address to check."));
+        return;
+    }
+    m_isTry = isTry;
+    m_isCancelled = false;
+    m_offer = Offer();
+    m_check.start(nodes);
+}
+
+void CameraChecking::cancel()
+{
+    m_isCancelled = m_check.isRunning();
+    m_check.cancel();
+}
+
+/// While a check is running the line waits for its end.
+void CameraChecking::offer(const Offer& offer)
+{
+    m_offer = offer;
+    if (!m_check.isRunning())
+        m_panel->showLine(offer.text, offer.button);
+}
+
+void CameraChecking::offerToTry(const QStringList& nodes)
+{
+    offer({tr("Try this password with the %n device(s), once each?", nullptr, int(nodes.size())),
+           tr("&Try It"), [this, nodes] { start(nodes, true); }});
+}
+
+void CameraChecking::takeOffer()
+{
+    const Offer offer = std::exchange(m_offer, Offer());
+    if (offer.take)
+        offer.take();
+}
+
+void CameraChecking::finish()
+{
+    m_panel->hide();
+    if (m_check.results().size() == 1)
+        sayResult();
+    else if (!m_offer.take)
+        m_offer = {outcome(), tr("&Report..."), [this] { showReport(); }};
+    if (m_offer.take)
+        offer(m_offer);
+    // Not over a dialog in which the user is at work.
+    if (m_check.results().size() > 1 && !m_isCancelled && !QApplication::activeModalWidget())
+        showReport();
+}
+
+void CameraChecking::sayResult()
+{
+    const auto result = m_check.results().constBegin();
+    const QString name = m_window.database().summary(result.key()).name;
+    const QString reason = result->reason.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(result->reason);
+    m_window.say(tr("%1: %2").arg(name, CameraStates::text(result->state)) + reason);
+}
+
+QString CameraChecking::outcome() const
+{
+    const CameraCheck::States& results = m_check.results();
+    const auto good = std::count_if(results.begin(), results.end(), [](const CameraState& state) {
+        return state.state == DeviceReport::Answers;
+    });
+    const QLocale locale;
+    QString text = m_isTry ? tr("%1 of %2 cameras took the password.") : tr("%1 of %2 cameras answer.");
+    text = text.arg(locale.toString(qlonglong(good)), locale.toString(qlonglong(results.size())));
+    if (m_isCancelled)
+        text += QLatin1Char(' ') + tr("The check was cancelled.");
+    return text;
+}
+
+void CameraChecking::showReport()
+{
+    QVector<CheckedCamera> cameras;
+    const CameraCheck::States& results = m_check.results();
+    cameras.reserve(int(results.size()));
+    for (auto result = results.begin(); result != results.end(); ++result) {
+        const NodeSummary node = m_window.database().summary(result.key());
+        if (!node.id.isEmpty())
+            cameras.append({node.id, node.name, node.location, result.value()});
+    }
+    auto* report = new CheckReportDialog(cameras, m_check.skipped(), m_isTry, &m_window);
+    connect(report, &CheckReportDialog::wanted, this, &CameraChecking::showInList);
+    report->show();
+}
+
+/// Filtered by their states, since they may be scattered over the whole list, and selected.
+void CameraChecking::showInList(const QVector<CheckedCamera>& cameras)
+{
+    QStringList ids;
+    QStringList states;
+    for (const CheckedCamera& camera : cameras) {
+        ids.append(camera.id);
+        const QString state = QStringLiteral("\"%1\"").arg(CameraStates::text(camera.state.state));
+        if (!states.contains(state))
+            states.append(state);
+    }
+    m_window.find(m_model.columns().fields().at(NodeListModel::StateColumn) + QLatin1Char(':') +
+                  states.join(QLatin1Char('|')));
+    m_window.list().selectNodes(ids);
+    m_window.activateWindow();
+}
+
+QStringList CameraChecking::names(const CameraCheck::States& others) const
+{
+    QStringList names;
+    for (auto other = others.begin(); other != others.end(); ++other)
+        names.append(m_window.database().summary(other.key()).name + QStringLiteral(": ") + other->reason);
+    names.sort();
+    return names;
+}
+
+void CameraChecking::acceptDevices()
+{
+    CameraCheck::States others;
+    const QStringList selected = m_window.list().selectedIds();
+    for (const QString& id : selected) {
+        const CameraState state = m_model.stateOf(id);
+        if (state.state == DeviceReport::OtherDevice)
+            others.insert(id, state);
+    }
+    if (others.isEmpty()) {
+        m_window.say(tr("None of the selected cameras was found to be another device: Network > Check "
+                        "Cameras looks for that."));
+        return;
+    }
+    PlainMessageBox box(
+        QMessageBox::Warning, tr("Accept Other Devices"),
+        tr("%n device(s) answered that are not the ones known so far. Accept them only if you know why, as "
+           "after an exchange or a new certificate: from the next check on they are sent what is stored as "
+           "user name and password.",
+           nullptr, int(others.size())) +
+            QStringLiteral("\n\n") + listOfNames(names(others)),
+        QMessageBox::Cancel, &m_window);
+    box.setObjectName(QStringLiteral("acceptDevicesBox"));
+    const QPushButton* go = box.addButton(tr("&Accept"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.setEscapeButton(QMessageBox::Cancel);
+    box.exec();
+    if (box.clickedButton() == static_cast<const QAbstractButton*>(go))
+        accept(others);
+}
+
+/// What was seen when the user was asked, not what may answer there now.
+void CameraChecking::accept(const CameraCheck::States& others)
+{
+    HostNodeDB& db = m_window.database();
+    const ChangeScope scope(db, Cause::now(Purpose::Check));
+    CameraCheck::States states;
+    QStringList accepted;
+    for (auto other = others.begin(); other != others.end(); ++other) {
+        Node* node = db.beginUpdateNode(other.key(), -1);
+        if (!node)
+            continue; // removed meanwhile
+        KnownDevice::replace(*node, other->seen);
+        db.endUpdateNode(node);
+        db.auditLog().log(NodeAcceptLogEntry(db.summary(other.key()).name));
+        accepted.append(other.key());
+        states.insert(other.key(), CameraState());
+    }
+    m_model.setStates(states);
+    offer({tr("%n device(s) accepted.", nullptr, int(accepted.size())), tr("&Check Them"),
+           [this, accepted] { start(accepted, false); }});
+}
+
+} // namespace ko

@@ -1,0 +1,68 @@
+#ifndef KO_CAMERACHECKING_H
+#define KO_CAMERACHECKING_H
+
+#include "CameraCheck.h"
+
+#include <functional>
+
+namespace ko {
+
+class CheckPanel;
+class MainWindow;
+class NodeListModel;
+struct CheckedCamera;
+
+/// Checks of cameras as the user of the window meets them: its list shows the states, a line in its status
+/// bar how far it is, and a report what came of it.
+class CameraChecking : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The window owns it.
+    CameraChecking(MainWindow& window, NodeListModel& model);
+
+    /// The selected nodes, or all when none is selected.
+    void check();
+
+    /// Offers to try the credentials that these have been given, once each.
+    void offerToTry(const QStringList& nodes);
+
+    /// The devices that answer in the place of the known ones of the selected nodes become the known ones, if
+    /// the user agrees.
+    void acceptDevices();
+
+    void cancel();
+
+private:
+    /// What can be done next.
+    struct Offer
+    {
+        QString text;
+        QString button;
+        std::function<void()> take; ///< null for nothing
+    };
+
+    void start(const QStringList& nodes, bool isTry);
+    void offer(const Offer& offer);
+    void takeOffer();
+    void finish();
+    void accept(const CameraCheck::States& others);
+    QStringList names(const CameraCheck::States& others) const;
+    QString outcome() const;
+    void showReport();
+    void sayResult();
+    void showInList(const QVector<CheckedCamera>& cameras);
+
+    MainWindow& m_window;
+    NodeListModel& m_model;
+    CheckPanel* const m_panel;
+    CameraCheck m_check;
+    Offer m_offer;
+    bool m_isTry = false;
+    bool m_isCancelled = false;
+};
+
+} // namespace ko
+
+#endif

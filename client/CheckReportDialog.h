@@ -1,0 +1,39 @@
+#ifndef KO_CHECKREPORTDIALOG_H
+#define KO_CHECKREPORTDIALOG_H
+
+#include <QDialog>
+
+class QTableView;
+
+namespace ko {
+
+class CheckReportModel;
+struct CheckedCamera;
+
+/// What came of a check, for the user to act on. The list stays usable beside it.
+class CheckReportDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// \a all: begins with all cameras instead of those in trouble.
+    CheckReportDialog(const QVector<CheckedCamera>& cameras, int skipped, bool all, QWidget* parent);
+
+signals:
+    /// The user wants to see the cameras that are listed in the main window.
+    void wanted(const QVector<ko::CheckedCamera>& cameras);
+
+private:
+    QString summary(int skipped) const;
+    void addButtons();
+    void copy();
+    void save();
+    void askForListed();
+
+    CheckReportModel* const m_model;
+    QTableView* const m_view;
+};
+
+} // namespace ko
+
+#endif

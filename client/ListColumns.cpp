@@ -1,0 +1,160 @@
+#include "ListColumns.h"
+
+#include "NodeListModel.h"
+#include "SearchText.h"
+#include "devices/NodeTarget.h"
+#include "drivers/NodeTypes.h"
+#include "ko/PropertyKeys.h"
+
+#include <QColor>
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace ko {
+
+namespace {
+
+const char* const titles[] = {
+    QT_TRANSLATE_NOOP("ko::NodeListModel", "Name"),    QT_TRANSLATE_NOOP("ko::NodeListModel", "Type"),
+    QT_TRANSLATE_NOOP("ko::NodeListModel", "Address"), QT_TRANSLATE_NOOP("ko::NodeListModel", "Recording"),
+    QT_TRANSLATE_NOOP("ko::NodeListModel", "State"),
+};
+
+const struct
+{
+    QLatin1String key;
+    const char* title;
+} known[] = {
+    {PropertyKeys::Model, QT_TRANSLATE_NOOP("ko::NodeListModel", "Model")},
+    {PropertyKeys::Version, QT_TRANSLATE_NOOP("ko::NodeListModel", "Version")},
+    {PropertyKeys::MacAddress, QT_TRANSLATE_NOOP("ko::NodeListModel", "MAC")},
+    {PropertyKeys::Port, QT_TRANSLATE_NOOP("ko::NodeListModel", "Port")},
+    {PropertyKeys::UseSSL, QT_TRANSLATE_NOOP("ko::NodeListModel", "SSL")},
+    {PropertyKeys::User, QT_TRANSLATE_NOOP("ko::NodeListModel", "User")},
+    {PropertyKeys::Channel, QT_TRANSLATE_NOOP("ko::NodeListModel", "Channel")},
+};
+
+/// Rows are one line high; a name may hold line breaks.
+QString inOneLine(QString text)
+{
+    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+}
+
+} // namespace
+
+ListColumns::ListColumns(RecordingText recordingText)
+    : m_recordingText(std::move(recordingText))
+    , m_properties(propertyColumns())
+{
+}
+
+/// Those that this program declares for devices, too.
+QVector<ListColumns::PropertyColumn> ListColumns::propertyColumns()
+{
+    QVector<PropertyColumn> columns;
+    for (const auto& column : known)
+        columns.append({column.key, NodeListModel::tr(column.title)});
+    const QVector<NodeProperty> declared = NodeTypes::properties(IPDeviceType);
+    for (const NodeProperty& property : declared) {
+        if (property.column)
+            columns.append({property.key, QString::fromUtf8(property.column)});
+    }
+    return columns;
+}
+
+const ListColumns::PropertyColumn* ListColumns::propertyColumn(int column) const
+{
+    const int i = column - NodeListModel::FirstPropertyColumn;
+    return i >= 0 && i < m_properties.size() ? &m_properties.at(i) : nullptr;
+}
+
+int ListColumns::count() const
+{
+    return NodeListModel::FirstPropertyColumn + int(m_properties.size());
+}
+
+QString ListColumns::title(int column) const
+{
+    const PropertyColumn* property = propertyColumn(column);
+    return property ? property->title : NodeListModel::tr(titles[column]);
+}
+
+QString ListColumns::key(int column) const
+{
+    const PropertyColumn* property = propertyColumn(column);
+    return property ? property->key : QString();
+}
+
+QStringList ListColumns::fields() const
+{
+    QStringList fields;
+    for (int column = 0; column < count(); ++column)
+        fields.append(SearchText::folded(title(column)).remove(QLatin1Char(' ')));
+    return fields;
+}
+
+QString ListColumns::text(const NodeSummary& node, int column) const
+{
+    switch (column) {
+    case NodeListModel::NameColumn:
+        return inOneLine(node.name);
+    case NodeListModel::TypeColumn:
+        return NodeTypes::readableName(node.type);
+    case NodeListModel::AddressColumn:
+        return inOneLine(node.location);
+    case NodeListModel::RecordingColumn:
+        return inOneLine(m_recordingText(node));
+    case NodeListModel::StateColumn:
+        return NodeTarget::isOf(node) ? CameraStates::text(state(node).state) : QString();
+    default: {
+        const auto texts = m_texts.constFind(column);
+        return texts == m_texts.constEnd() ? QString() : texts->value(node.id);
+    }
+    }
+}
+
+QVariant ListColumns::decoration(const NodeSummary& node, int column, int role) const
+{
+    if (column != NodeListModel::StateColumn || !m_states.contains(node.id))
+        return QVariant();
+    const CameraState state = m_states.value(node.id);
+    if (role == Qt::ToolTipRole) // which would take the words of a device with markup for rich text
+        return QStringLiteral("<span>%1</span>").arg(CameraStates::details(state).toHtmlEscaped());
+    const QColor color = CameraStates::color(state.state, QGuiApplication::palette());
+    return color.isValid() ? QVariant(color) : QVariant();
+}
+
+QString ListColumns::shown(int column, const QVariant& value) const
+{
+    // A word that can be looked for: "ssl:ssl", "-ssl".
+    if (value.userType() == QMetaType::Bool)
+        return value.toBool() ? title(column) : QString();
+    return inOneLine(value.toString());
+}
+
+CameraState ListColumns::state(const NodeSummary& node) const
+{
+    return m_states.value(node.id);
+}
+
+void ListColumns::setState(const QString& id, const CameraState& state)
+{
+    m_states.insert(id, state);
+}
+
+void ListColumns::setText(int column, const QString& id, const QString& text)
+{
+    if (text.isEmpty())
+        m_texts[column].remove(id);
+    else
+        m_texts[column].insert(id, text);
+}
+
+void ListColumns::forget(const QString& id)
+{
+    m_states.remove(id);
+    for (Texts& texts : m_texts)
+        texts.remove(id);
+}
+
+} // namespace ko
