@@ -10,6 +10,7 @@
 #include "NodeListModel.h"
 #include "NodeListView.h"
 #include "NodeLogEntries.h"
+#include "PropertyColumns.h"
 #include "ScannerStatus.h"
 #include "StoreNotice.h"
 #include "SurveyCommands.h"
@@ -63,6 +64,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_db(db)
     , m_model(new NodeListModel([&db](const NodeSummary& node) { return recordingText(db, node); }, this))
     , m_view(new NodeListView(this))
+    , m_properties(new PropertyColumns(db, *m_model, *m_view, this))
     , m_search(new QLineEdit(this))
     , m_types(new QComboBox(this))
     , m_empty(new EmptyState(m_view->viewport()))
@@ -136,6 +138,7 @@ void MainWindow::createSearch()
         tr("Words in any column; \"type:camera\" looks in one, \"state:wrong|locked\" for either, "
            "\"-yard\" leaves out"));
     m_search->setAccessibleName(tr("Search"));
+    connect(m_search, &QLineEdit::textChanged, m_properties, &PropertyColumns::setSearch);
     connect(m_search, &QLineEdit::textChanged, m_model, &NodeListModel::setSearch);
     QAction* clear = new QAction(m_search);
     clear->setShortcut(Qt::Key_Escape);
@@ -214,6 +217,7 @@ void MainWindow::applyChanges()
     const QStringList removed(m_removed.begin(), m_removed.end());
     m_changed.clear();
     m_removed.clear();
+    m_properties->take(changed);
     m_model->apply(changed, removed);
     updateStatus();
 }

@@ -20,6 +20,7 @@ class EnvironmentNotice;
 class HostNodeDB;
 class NodeListModel;
 class NodeListView;
+class PropertyColumns;
 class StoreNotice;
 class SurveyCommands;
 
@@ -72,6 +73,7 @@ private:
     HostNodeDB& m_db;
     NodeListModel* const m_model;
     NodeListView* const m_view;
+    PropertyColumns* const m_properties;
     QLineEdit* const m_search;
     QComboBox* const m_types;
     EmptyState* const m_empty;

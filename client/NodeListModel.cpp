@@ -223,6 +223,12 @@ void NodeListModel::setText(int column, const QString& id, const QString& text)
     m_entries.forgetTexts(id);
 }
 
+QString NodeListModel::knownId(const QString& id) const
+{
+    const Slot slot = m_entries.slotOf(id);
+    return slot < 0 ? id : m_entries.node(slot).id;
+}
+
 CameraState NodeListModel::stateOf(const QString& id) const
 {
     const Slot slot = m_entries.slotOf(id);

@@ -44,6 +44,9 @@ public:
 
     const ListColumns& columns() const { return m_columns; }
 
+    /// The same identifier, in the memory that it has here already if the node is there.
+    QString knownId(const QString& id) const;
+
     /// The column of a property gets its texts, and from then on those of nodes that change by setText().
     void fill(int column, const ListColumns::Texts& texts);
     /// It is not looked at any more.

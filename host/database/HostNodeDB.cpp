@@ -77,16 +77,15 @@ QStringList HostNodeDB::nodesWithMac(const QString& mac) const
     return d->queue.reading([&] { return d->memory.nodesWithMac(mac); });
 }
 
+void HostNodeDB::column(const QString& key, const Visit& visit) const
+{
+    d->queue.reading([&] { d->memory.column(key, visit); });
+}
+
 QString HostNodeDB::lookupHint(const NodeHint& hint) const
 {
     const QString key = NodeTypes::lookupKey(NodeTypes::dataOf(hint));
-    if (key.isEmpty())
-        return QString();
-    return d->queue.reading([&] {
-        d->memory.readLookupKeys();
-        const NodeRecord* record = d->memory.cache.findLookupKey(key);
-        return record ? record->summary.id() : QString();
-    });
+    return d->queue.reading([&] { return d->memory.nodeWithLookupKey(key); });
 }
 
 // Types

@@ -64,6 +64,16 @@ bool NodeMemory::read(NodeRecord& record)
     return true;
 }
 
+QString NodeMemory::nodeWithLookupKey(const QString& key)
+{
+    if (key.isEmpty())
+        return QString();
+    readLookupKeys();
+    const NodeRecord* record = cache.findLookupKey(key);
+    return record ? record->summary.id() : QString();
+}
+
+/// Once.
 void NodeMemory::readLookupKeys()
 {
     if (cache.lookupReady())
@@ -94,6 +104,25 @@ QStringList NodeMemory::nodesWithMac(const QString& mac)
             ids.append(id);
     }
     return ids;
+}
+
+void NodeMemory::column(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit)
+{
+    const QStringList nodes = pending.nodes();
+    QSet<NodeID> waiting;
+    for (const NodeID& id : nodes) {
+        const NodeRecord* record = cache.find(id);
+        if (record && !record->properties)
+            continue; // only a relation of it waits
+        waiting.insert(id);
+        const QVariant value = record ? record->data().properties.value(key) : QVariant();
+        if (value.isValid())
+            visit(id, value);
+    }
+    m_store.column(key, [&](const NodeID& id, const QVariant& value) {
+        if (!waiting.contains(id))
+            visit(id, value);
+    });
 }
 
 // What others changed

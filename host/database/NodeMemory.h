@@ -55,11 +55,14 @@ public:
     /// StoreFailure.
     bool read(NodeRecord& record);
 
-    /// Fills the look-up index, once. Throws StoreFailure.
-    void readLookupKeys();
+    /// The oldest node with this look-up key; empty if there is none. Throws StoreFailure.
+    QString nodeWithLookupKey(const QString& key);
 
     /// See NodeStore. Throws StoreFailure.
     QStringList nodesWithMac(const QString& mac);
+
+    /// See HostNodeDB. Throws StoreFailure.
+    void column(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit);
 
     /// Brings in what the store has now. A node that is said to have changed is announced also when
     /// nothing is seen to differ, since its properties may not have been read; not so when everything was
@@ -86,6 +89,7 @@ public:
     Notices apply(const ChangeSet& set);
 
 private:
+    void readLookupKeys();
     void apply(const NodeChange& change, Notices* notices);
     void setData(NodeRecord& record, const NodeData& data);
     void takeNode(const NodeRow& row, bool always, Notices* notices);

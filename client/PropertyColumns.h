@@ -1,0 +1,48 @@
+#ifndef KO_PROPERTYCOLUMNS_H
+#define KO_PROPERTYCOLUMNS_H
+
+#include "model/NodeData.h"
+
+#include <QObject>
+#include <QVector>
+
+namespace ko {
+
+class HostNodeDB;
+class Node;
+class NodeListModel;
+class NodeListView;
+
+/// Reads the texts of the list's columns of properties: of those alone that are looked at, since each takes
+/// time and memory with the number of nodes.
+class PropertyColumns : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All outlive this object.
+    PropertyColumns(const HostNodeDB& db, NodeListModel& model, const NodeListView& view,
+                    QObject* parent = nullptr);
+
+    /// A column is looked at while it is shown, sorted by, or named in \a search. To be called before the
+    /// model is told.
+    void setSearch(const QString& search);
+
+    /// Before the model takes in the nodes.
+    void take(const QVector<NodeSummary>& changed);
+
+private:
+    void update();
+    bool isWanted(int column) const;
+    void read(int column);
+    void take(const Node& node, const QVector<int>& columns);
+
+    const HostNodeDB& m_db;
+    NodeListModel& m_model;
+    const NodeListView& m_view;
+    QString m_search;
+};
+
+} // namespace ko
+
+#endif
