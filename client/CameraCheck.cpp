@@ -91,8 +91,8 @@ void CameraCheck::cancel()
 
 void CameraCheck::end()
 {
-    m_isRunning = false;
-    emit finished();
+    if (std::exchange(m_isRunning, false)) // else it was cancelled just before
+        emit finished();
 }
 
 void CameraCheck::take(const QVector<DeviceReport>& reports)

@@ -9,6 +9,7 @@
 #include "NodeListView.h"
 #include "NodeLogEntries.h"
 #include "PlainMessageBox.h"
+#include "SearchText.h"
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "devices/KnownDevice.h"
@@ -81,10 +82,12 @@ void CameraChecking::offer(const Offer& offer)
         m_panel->showLine(offer.text, offer.button);
 }
 
-void CameraChecking::offerToTry(const QStringList& nodes)
+void CameraChecking::offerToTry(const QString& done, const QStringList& nodes)
 {
-    offer({tr("Try this password with the %n device(s), once each?", nullptr, int(nodes.size())),
-           tr("&Try It"), [this, nodes] { start(nodes, true); }});
+    if (m_check.isRunning())
+        m_window.say(done); // the offer comes later
+    offer({done + QLatin1Char(' ') + tr("Try it, once with each?"), tr("&Try It"),
+           [this, nodes] { start(nodes, true); }});
 }
 
 void CameraChecking::takeOffer()
@@ -100,12 +103,12 @@ void CameraChecking::finish()
     if (m_check.results().size() == 1)
         sayResult();
     else if (!m_offer.take)
-        m_offer = {outcome(), tr("&Report..."), [this] { showReport(); }};
+        m_offer = {outcome(), tr("&Report..."), [this] { showReport(true); }};
     if (m_offer.take)
         offer(m_offer);
-    // Not over a dialog in which the user is at work.
+    // Not over a dialog in which the user is at work, nor taking the keys that he types.
     if (m_check.results().size() > 1 && !m_isCancelled && !QApplication::activeModalWidget())
-        showReport();
+        showReport(false);
 }
 
 void CameraChecking::sayResult()
@@ -130,7 +133,7 @@ QString CameraChecking::outcome() const
     return text;
 }
 
-void CameraChecking::showReport()
+void CameraChecking::showReport(bool isWanted)
 {
     QVector<CheckedCamera> cameras;
     const CameraCheck::States& results = m_check.results();
@@ -142,6 +145,7 @@ void CameraChecking::showReport()
     }
     auto* report = new CheckReportDialog(cameras, m_check.skipped(), m_isTry, &m_window);
     connect(report, &CheckReportDialog::wanted, this, &CameraChecking::showInList);
+    report->setAttribute(Qt::WA_ShowWithoutActivating, !isWanted);
     report->show();
 }
 
@@ -167,7 +171,9 @@ QStringList CameraChecking::names(const CameraCheck::States& others) const
     QStringList names;
     for (auto other = others.begin(); other != others.end(); ++other)
         names.append(m_window.database().summary(other.key()).name + QStringLiteral(": ") + other->reason);
-    names.sort();
+    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
+        return SearchText::sortKey(a) < SearchText::sortKey(b); // "Camera 2" before "Camera 10"
+    });
     return names;
 }
 

@@ -25,8 +25,8 @@ public:
     /// The selected nodes, or all when none is selected.
     void check();
 
-    /// Offers to try the credentials that these have been given, once each.
-    void offerToTry(const QStringList& nodes);
+    /// Says what was \a done, and offers to try the credentials that these have been given, once each.
+    void offerToTry(const QString& done, const QStringList& nodes);
 
     /// The devices that answer in the place of the known ones of the selected nodes become the known ones, if
     /// the user agrees.
@@ -50,7 +50,7 @@ private:
     void accept(const CameraCheck::States& others);
     QStringList names(const CameraCheck::States& others) const;
     QString outcome() const;
-    void showReport();
+    void showReport(bool isWanted);
     void sayResult();
     void showInList(const QVector<CheckedCamera>& cameras);
 

@@ -25,7 +25,8 @@ namespace ko {
 
 namespace {
 
-const int widths[] = {180, 130, 170, 220}; // the time has the rest
+const int widths[] = {190, 130, 190, 260}; // the time has the rest
+const int rowMargin = 6;
 
 } // namespace
 
@@ -51,6 +52,7 @@ CheckReportDialog::CheckReportDialog(const QVector<CheckedCamera>& cameras, int 
     m_view->setWordWrap(false);
     m_view->setTabKeyNavigation(false); // Tab leaves the view
     m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + rowMargin);
     m_view->horizontalHeader()->setStretchLastSection(true);
     for (int column = 0; column < int(std::size(widths)); ++column)
         m_view->setColumnWidth(column, widths[column]);
@@ -64,7 +66,7 @@ CheckReportDialog::CheckReportDialog(const QVector<CheckedCamera>& cameras, int 
     layout->addWidget(m_view);
     layout->addWidget(allCheckBox);
     addButtons();
-    resizeWithinScreen(*this, QSize(900, 420));
+    resizeWithinScreen(*this, QSize(980, 420));
 }
 
 void CheckReportDialog::addButtons()

@@ -242,6 +242,7 @@ void MainWindow::find(const QString& search)
 {
     m_types->setCurrentIndex(0);
     m_search->setText(search);
+    m_search->setCursorPosition(0); // a long one shows its field
     m_view->setFocus();
 }
 
@@ -294,9 +295,9 @@ void MainWindow::restoreState()
     const QSettings settings;
     if (!restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray()))
         resizeWithinScreen(*this, QSize(900, 600));
-    m_view->header()->resizeSection(NodeListModel::NameColumn, 260);
-    m_view->header()->resizeSection(NodeListModel::TypeColumn, 160);
-    m_view->header()->resizeSection(NodeListModel::AddressColumn, 180);
+    m_view->header()->resizeSection(NodeListModel::NameColumn, 250);
+    m_view->header()->resizeSection(NodeListModel::TypeColumn, 130);
+    m_view->header()->resizeSection(NodeListModel::AddressColumn, 150);
     m_view->header()->resizeSection(NodeListModel::RecordingColumn, 150);
     m_view->restoreColumns(settings);
     m_model->sort(m_view->header()->sortIndicatorSection(), m_view->header()->sortIndicatorOrder());

@@ -147,9 +147,8 @@ void editCredentials(MainWindow& window)
     if (devices.isEmpty())
         return;
     const QString done = DeviceSettings::editCredentials(window.database(), devices, &window);
-    window.say(done);
     if (!done.isEmpty())
-        window.checking().offerToTry(devices);
+        window.checking().offerToTry(done, devices);
 }
 
 void editRecording(MainWindow& window)
