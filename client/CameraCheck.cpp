@@ -11,6 +11,7 @@
 #include <QElapsedTimer>
 #include <QUuid>
 
+#include <algorithm>
 #include <utility>
 
 namespace ko {
@@ -43,6 +44,7 @@ void CameraCheck::start(const QStringList& nodes)
         if (NodeTarget::isOf(m_db.summary(id)))
             m_waiting.append(id);
     }
+    std::reverse(m_waiting.begin(), m_waiting.end()); // the first is taken from the end
     m_total = int(m_waiting.size());
     m_skipped = int(nodes.size()) - m_total;
     m_cause = Cause::now(Purpose::Check);
@@ -116,7 +118,9 @@ void CameraCheck::take(const DeviceReport& report, States* states)
     CameraState state;
     if (isAsChecked(report.id)) {
         state.state = report.state;
-        state.reason = report.reason;
+        state.isOpen = report.isOpen;
+        state.reason =
+            report.isOpen && report.reason.isEmpty() ? tr("it asks for no password") : report.reason;
         state.time = report.time;
         if (state.state == DeviceReport::OtherDevice)
             state.seen = report.seen;

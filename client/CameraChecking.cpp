@@ -122,8 +122,8 @@ void CameraChecking::sayResult()
 QString CameraChecking::outcome() const
 {
     const CameraCheck::States& results = m_check.results();
-    const auto good = std::count_if(results.begin(), results.end(), [](const CameraState& state) {
-        return state.state == DeviceReport::Answers;
+    const auto good = std::count_if(results.begin(), results.end(), [this](const CameraState& state) {
+        return state.state == DeviceReport::Answers && !(m_isTry && state.isOpen);
     });
     const QLocale locale;
     QString text = m_isTry ? tr("%1 of %2 cameras took the password.") : tr("%1 of %2 cameras answer.");

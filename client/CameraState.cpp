@@ -60,8 +60,8 @@ double contrast(const QColor& a, const QColor& b)
 QColor readable(int hue, const QPalette& palette)
 {
     const double enough = 4.5;
-    const QColor ground = palette.color(QPalette::Base);
-    const QColor other = palette.color(QPalette::AlternateBase);
+    const QColor& ground = palette.color(QPalette::Base);
+    const QColor& other = palette.color(QPalette::AlternateBase);
     const int step = luminance(ground) < 0.18 ? 8 : -8;
     int lightness = 120;
     QColor color = QColor::fromHsl(hue, 200, lightness);

@@ -115,11 +115,11 @@ void CheckReportDialog::copy()
 {
     QStringList lines;
     const QList<QStringList> table = m_model->table();
-    for (QStringList cells : table) {
-        for (QString& cell : cells) {
+    for (const QStringList& row : table) {
+        QStringList cells;
+        for (QString cell : row) {
             cell.replace(QLatin1Char('\t'), QLatin1Char(' ')).replace(QLatin1Char('\n'), QLatin1Char(' '));
-            if (isCsvFormula(cell)) // as the export writes it
-                cell.prepend(QLatin1Char('\''));
+            cells.append(isCsvFormula(cell) ? QLatin1Char('\'') + cell : cell); // as the export writes it
         }
         lines.append(cells.join(QLatin1Char('\t')));
     }

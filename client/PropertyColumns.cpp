@@ -88,7 +88,7 @@ void PropertyColumns::take(const QVector<NodeSummary>& changed)
 
 void PropertyColumns::take(const Node& node, const QVector<int>& columns)
 {
-    const kogen::PropertySet properties = node.properties();
+    const kogen::PropertySet& properties = node.properties();
     for (const int column : columns) {
         const auto property = properties[m_model.columns().key(column)];
         const QVariant value = property.null() ? QVariant() : property->value();

@@ -43,7 +43,8 @@ public:
     LoopWatch()
     {
         m_clock.start();
-        QObject::connect(&m_timer, &QTimer::timeout, [this] { longest = qMax(longest, m_clock.restart()); });
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer,
+                         [this] { longest = qMax(longest, m_clock.restart()); });
         m_timer.start(0);
     }
 
@@ -520,6 +521,23 @@ void tst_CameraCheck::credentialsAreTriedOnce()
     press("checkButton");
     QTRY_VERIFY_WITH_TIMEOUT(report(), Patience);
     QCOMPARE(state(ids.at(1)), QString("Locked out"));
+
+    // One that wants none has not taken it.
+    const SimulatedSite open({"--cameras", "2", "--onvif", "open,digest"});
+    QVERIFY(open.isUp);
+    for (const QString& id : ids)
+        m_host->change(id, [&](Node* node) { dynamic_cast<IPDeviceNode*>(node)->setPort(open.port); });
+    delete report();
+    give("kosim-pass");
+    press("checkButton");
+    QTRY_VERIFY_WITH_TIMEOUT(report(), Patience);
+    QVERIFY2(line().startsWith("1 of 2 cameras took the password"), qPrintable(line()));
+    QVERIFY(child<QTableView>(report(), "camerasTableView")
+                ->model()
+                ->index(0, 3)
+                .data()
+                .toString()
+                .contains("no password"));
 
     // It is only an offer.
     delete report();
