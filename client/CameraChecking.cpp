@@ -2,7 +2,6 @@
 
 #include "CheckPanel.h"
 #include "CheckReportDialog.h"
-#include "CheckReportModel.h"
 #include "MainWindow.h"
 #include "NameList.h"
 #include "NodeListModel.h"

@@ -1,6 +1,5 @@
 #include "CheckReportDialog.h"
 
-#include "CheckReportModel.h"
 #include "PlainMessageBox.h"
 #include "WindowSize.h"
 #include "exchange/CsvFormula.h"

@@ -1,14 +1,13 @@
 #ifndef KO_CHECKREPORTDIALOG_H
 #define KO_CHECKREPORTDIALOG_H
 
+#include "CheckReportModel.h"
+
 #include <QDialog>
 
 class QTableView;
 
 namespace ko {
-
-class CheckReportModel;
-struct CheckedCamera;
 
 /// What came of a check, for the user to act on. The list stays usable beside it.
 class CheckReportDialog : public QDialog

@@ -299,6 +299,7 @@ void MainWindow::restoreState()
     m_view->header()->resizeSection(NodeListModel::TypeColumn, 130);
     m_view->header()->resizeSection(NodeListModel::AddressColumn, 150);
     m_view->header()->resizeSection(NodeListModel::RecordingColumn, 150);
+    m_view->header()->resizeSection(NodeListModel::StateColumn, 180);
     m_view->restoreColumns(settings);
     m_model->sort(m_view->header()->sortIndicatorSection(), m_view->header()->sortIndicatorOrder());
 }
