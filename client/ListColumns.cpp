@@ -46,6 +46,8 @@ ListColumns::ListColumns(RecordingText recordingText)
     : m_recordingText(std::move(recordingText))
     , m_properties(propertyColumns())
 {
+    for (const DeviceReport::State state : CameraStates::all())
+        m_stateTexts.insert(state, CameraStates::text(state));
 }
 
 /// Those that this program declares for devices, too.
@@ -105,7 +107,7 @@ QString ListColumns::text(const NodeSummary& node, int column) const
     case NodeListModel::RecordingColumn:
         return inOneLine(m_recordingText(node));
     case NodeListModel::StateColumn:
-        return NodeTarget::isOf(node) ? CameraStates::text(state(node).state) : QString();
+        return NodeTarget::isOf(node) ? m_stateTexts.value(state(node).state) : QString();
     default: {
         const auto texts = m_texts.constFind(column);
         return texts == m_texts.constEnd() ? QString() : texts->value(node.id);

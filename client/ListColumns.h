@@ -61,6 +61,7 @@ private:
 
     const RecordingText m_recordingText;
     const QVector<PropertyColumn> m_properties;
+    QHash<int, QString> m_stateTexts; ///< made once: a list of many cameras wants each often
     QHash<QString, CameraState> m_states;
     QHash<int, Texts> m_texts; ///< of the columns that are filled
 };

@@ -175,10 +175,10 @@ const QString& NodeEntries::lines(const Entry& entry) const
 
 QString NodeEntries::linesNow(const NodeSummary& node) const
 {
-    QStringList cells;
+    QString lines;
     for (int column = 0; column < m_columns; ++column)
-        cells.append(m_text(node, column));
-    return SearchText::folded(cells.join(QLatin1Char('\n')));
+        lines.append(m_text(node, column)).append(QLatin1Char('\n'));
+    return SearchText::folded(lines);
 }
 
 bool NodeEntries::matches(Slot slot, const NodeSearch& search) const
