@@ -98,15 +98,18 @@ void CameraChecking::takeOffer()
 
 void CameraChecking::finish()
 {
+    const bool isOne = m_check.total() == 1;
     m_panel->hide();
-    if (m_check.results().size() == 1)
+    if (m_check.results().isEmpty())
+        m_window.say(m_isCancelled ? tr("The check was cancelled.") : QString());
+    else if (isOne)
         sayResult();
     else if (!m_offer.take)
         m_offer = {outcome(), tr("&Report..."), [this] { showReport(true); }};
     if (m_offer.take)
         offer(m_offer);
     // Not over a dialog in which the user is at work, nor taking the keys that he types.
-    if (m_check.results().size() > 1 && !m_isCancelled && !QApplication::activeModalWidget())
+    if (!isOne && !m_check.results().isEmpty() && !m_isCancelled && !QApplication::activeModalWidget())
         showReport(false);
 }
 

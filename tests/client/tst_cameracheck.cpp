@@ -88,6 +88,7 @@ private slots:
     void changedCameraIsNotChecked();
     void removedMeanwhile();
     void cancelled();
+    void cancelledAtOnce();
     void closingCancels();
     void oneCameraHasNoReport();
     void nothingToCheck();
@@ -422,6 +423,15 @@ void tst_CameraCheck::removedMeanwhile()
     QTRY_VERIFY_WITH_TIMEOUT(!child<QProgressBar>(m_window.get(), "checkProgressBar")->isVisible(), Patience);
     QCOMPARE(m_list->model()->rowCount(), 0);
     QVERIFY(!report());
+
+    HeldDevice other;
+    const QString only = addHeld(other);
+    QTRY_COMPARE(m_list->model()->rowCount(), 1);
+    action("actionCheck")->trigger();
+    QTRY_VERIFY(other.isAsked());
+    m_host->db()->removeNode(only);
+    other.release();
+    QTRY_VERIFY_WITH_TIMEOUT(!panel()->isVisible(), Patience);
 }
 
 void tst_CameraCheck::cancelled()
@@ -445,6 +455,24 @@ void tst_CameraCheck::cancelled()
     press("checkButton");
     QVERIFY(report());
     check(ids.mid(0, 1)); // again
+    QCOMPARE(state(ids.at(0)), QString("Answers"));
+}
+
+void tst_CameraCheck::cancelledAtOnce()
+{
+    const SimulatedSite site({"--cameras", "2", "--onvif", "digest"});
+    QVERIFY(site.isUp);
+    const QStringList ids = addCameras(site, 2);
+    open();
+    action("actionCheck")->trigger();
+    press("checkCancelButton");
+    QVERIFY(!panel()->isVisible());
+    QVERIFY(m_window->statusBar()->currentMessage().contains("cancelled"));
+    QTest::qWait(200);
+    QVERIFY(!report() && !panel()->isVisible());
+    for (const QString& id : ids)
+        QCOMPARE(state(id), QString("Not checked"));
+    check(ids);
     QCOMPARE(state(ids.at(0)), QString("Answers"));
 }
 
