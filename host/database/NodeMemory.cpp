@@ -112,10 +112,10 @@ void NodeMemory::column(const QString& key, const std::function<void(const NodeI
     QSet<NodeID> waiting;
     for (const NodeID& id : nodes) {
         const NodeRecord* record = cache.find(id);
-        if (record && !record->properties)
+        if (record && !record->contents)
             continue; // only a relation of it waits
         waiting.insert(id);
-        const QVariant value = record ? record->data().properties.value(key) : QVariant();
+        const QVariant value = record ? record->contents->properties.value(key) : QVariant();
         if (value.isValid())
             visit(id, value);
     }
