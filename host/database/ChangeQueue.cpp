@@ -1,5 +1,6 @@
 #include "database/ChangeQueue.h"
 
+#include "database/WrittenDevices.h"
 #include "ko/LogQt.h"
 
 #include <QScopedValueRollback>
@@ -140,6 +141,7 @@ NodeStore::Batch ChangeQueue::merge(const Delta& delta, const std::function<void
         emit brought(std::exchange(*notices, Notices()));
         work();
     }
+    WrittenDevices(m_store, m_memory).complete(notices);
     return {m_memory.pending.sets(), m_memory.pending.programLines};
 }
 

@@ -78,9 +78,16 @@ void NodeEditing::end(Node* copy)
     }
     if (!m_memory.update(*record, edit->mergedInto(record->data())))
         return;
-    m_queue.schedule();
+    written(edit->id(), record->summary.type());
     m_announce(updated({edit->id()}));
     makeRemotePreview(edit->id());
+}
+
+void NodeEditing::written(const NodeID& id, ENodeType type)
+{
+    if (NodeTypes::isDevice(type))
+        m_memory.pending.writtenDevices.append(id);
+    m_queue.schedule();
 }
 
 /// A camera that is reached through the remote preview server has a node with its settings for that.
@@ -101,7 +108,7 @@ NodeID NodeEditing::add(NodeData data)
     data.id = newNodeId();
     Secrets::seal(data);
     m_memory.add(data);
-    m_queue.schedule();
+    written(data.id, data.type);
     Notices notices;
     notices.inserted(data.id);
     m_announce(notices);

@@ -36,6 +36,7 @@ public:
 private:
     NodeRecord* read(const NodeID& id);
     void makeRemotePreview(const NodeID& camera);
+    void written(const NodeID& id, ENodeType type);
 
     NodeMemory& m_memory;
     ChangeQueue& m_queue;

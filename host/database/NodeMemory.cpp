@@ -282,6 +282,14 @@ bool NodeMemory::update(NodeRecord& record, const NodeData& data)
     return true;
 }
 
+void NodeMemory::amend(NodeRecord& record, const NodeData& data)
+{
+    const NodeData before = record.data();
+    setData(record, data);
+    if (!pending.amend(data.id, before.properties, data.properties))
+        pending.nodeUpdated(changeOf(data), before, data);
+}
+
 void NodeMemory::remove(NodeRecord& record)
 {
     const NodeID id = record.summary.id();

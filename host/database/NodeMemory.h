@@ -76,6 +76,8 @@ public:
     void add(const NodeData& data, qint64 place = 0);
     /// The node of \a record gets the name and the properties of \a data. False if it has them.
     bool update(NodeRecord& record, const NodeData& data);
+    /// The same, as a part of what was done to the node last.
+    void amend(NodeRecord& record, const NodeData& data);
     /// Takes the node with its relations out of memory.
     void remove(NodeRecord& record);
     /// False if nothing changes.

@@ -38,6 +38,17 @@ void setProperty(NodeChange& change, const QString& name, const QVariant& before
     change.after->properties.set(name, value);
 }
 
+void setProperties(NodeChange& change, const PropertyList& before,
+                   const QVector<PropertyList::Entry>& difference)
+{
+    for (const PropertyList::Entry& entry : difference) {
+        if (change.isAdded())
+            change.after->properties.set(entry.name, entry.value);
+        else
+            setProperty(change, entry.name, before.value(entry.name), entry.value);
+    }
+}
+
 } // namespace
 
 PendingChanges::Making& PendingChanges::current()
@@ -71,6 +82,7 @@ void PendingChanges::clear()
 {
     m_making.clear();
     programLines.clear();
+    writtenDevices.clear();
 }
 
 void PendingChanges::nodeAdded(const NodeChange& change)
@@ -95,12 +107,7 @@ void PendingChanges::nodeUpdated(NodeChange change, const NodeData& before, cons
     known->summary = change.summary;
     known->lookupKey = change.lookupKey;
     known->after->name = after.name;
-    for (const PropertyList::Entry& entry : difference) {
-        if (known->isAdded())
-            known->after->properties.set(entry.name, entry.value);
-        else
-            setProperty(*known, entry.name, before.properties.value(entry.name), entry.value);
-    }
+    setProperties(*known, before.properties, difference);
 }
 
 void PendingChanges::nodeRemoved(const NodeID& id, ENodeType type)
@@ -262,6 +269,16 @@ void PendingChanges::applyTo(NodeData& data)
             }
         }
     }
+}
+
+bool PendingChanges::amend(const NodeID& id, const PropertyList& before, const PropertyList& after)
+{
+    const auto last = std::find_if(m_making.rbegin(), m_making.rend(),
+                                   [&id](const Making& making) { return making.at.contains(id); });
+    if (last == m_making.rend() || last->set.nodes.at(last->at.value(id)).isRemoved())
+        return false;
+    setProperties(last->set.nodes[last->at.value(id)], before, PropertyList::difference(before, after));
+    return true;
 }
 
 void PendingChanges::show(const NodeID& id, const PackedSummary& summary, const QString& lookupKey)

@@ -19,6 +19,9 @@ class PendingChanges
 public:
     QVector<ProgramRow> programLines;
 
+    /// The devices that were added or edited, in that order; see WrittenDevices.
+    QVector<NodeID> writtenDevices;
+
     bool isEmpty() const { return programLines.isEmpty() && !hasChanges(); }
 
     /// Anything but lines of the program log.
@@ -46,6 +49,10 @@ public:
     void settingChanged(const SettingChange& change);
     void environmentsChanged(const EnvironmentsChange& change);
     void logged(const AuditRow& row);
+
+    /// Notes that the properties of a node differ, as a part of what was done to it last. False when nothing
+    /// waits of it.
+    bool amend(const NodeID& id, const PropertyList& before, const PropertyList& after);
 
     /// What follows from the values that applyTo() gave a node.
     void show(const NodeID& id, const PackedSummary& summary, const QString& lookupKey);

@@ -3,14 +3,14 @@
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "discovery/AddressChangeLogEntry.h"
+#include "discovery/FoundNodes.h"
 #include "discovery/KnownAddresses.h"
 #include "discovery/Scanner.h"
 #include "discovery/SightedDevices.h"
 #include "discovery/SightingFilter.h"
-#include "interfaces/INodeDriverComponent.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/LogQt.h"
-#include "ko/NodeHintIPDevice.h"
+#include "ko/NodeHint.h"
 #include "model/NetworkAddress.h"
 
 #include <QElapsedTimer>
@@ -32,13 +32,6 @@ const int Ripening = 500; // ms; in which the other services and addresses of a 
 
 typedef SightedDevice Device;
 
-/// What the user finds it by when it does not call itself anything.
-QString nameOf(const Device& device, const QString& address)
-{
-    const QStringList words = {device.name, device.model, device.location, address};
-    return *std::find_if(words.begin(), words.end(), [](const QString& word) { return !word.isEmpty(); });
-}
-
 } // namespace
 
 class DeviceIntake::Private
@@ -51,11 +44,11 @@ public:
     bool isRipe() const;
     void sighted(DiscoveredDevice seen);
     Device* add();
+    void ripen(Device& device);
     void absorb(Device& device, const DiscoveredDevice& seen);
     void prepareLookUps();
     void settle(Device& device);
     QString nodeOf(const Device& device);
-    kom::smart<NodeHint> hint(const Device& device, const QString& address, int port) const;
     bool noteChange(Device& device);
     bool noteChange(Device& device, const QString& mac);
     void seenAtHome(const Device& device);
@@ -65,6 +58,7 @@ public:
     DeviceIntake& q;
     HostNodeDB& db;
     KnownAddresses known;
+    FoundNodes nodes;
     SightingFilter filter;
     QTimer timer;
     QElapsedTimer clock;
@@ -85,6 +79,7 @@ DeviceIntake::Private::Private(DeviceIntake& intake, HostNodeDB& database)
     : q(intake)
     , db(database)
     , known(database)
+    , nodes(database)
 {
     timer.setSingleShot(true);
     QObject::connect(&timer, &QTimer::timeout, &q, [this] { work(); });
@@ -152,41 +147,39 @@ Device* DeviceIntake::Private::add()
     }
     ++newInScan;
     Device* device = &devices.add();
-    device->due = clock.elapsed() + Ripening;
-    ripening.push_back(device);
+    ripen(*device);
+    return device;
+}
+
+void DeviceIntake::Private::ripen(Device& device)
+{
+    if (device.isWaiting)
+        return;
+    device.isWaiting = true;
+    device.due = clock.elapsed() + Ripening;
+    ripening.push_back(&device);
     schedule(Ripening);
     if (!std::exchange(isPrepared, true))
         QTimer::singleShot(0, &q, [this] { prepareLookUps(); });
-    return device;
 }
 
 /// In a large database the first ones take some time, which there is while the first device ripens.
 void DeviceIntake::Private::prepareLookUps()
 {
     known.nodesAt(QString());
-    db.lookupHint(*hint(Device(), QLatin1String("0.0.0.0"), HttpPort));
+    db.lookupHint(*nodes.hint(Device(), QLatin1String("0.0.0.0"), HttpPort));
 }
 
 void DeviceIntake::Private::absorb(Device& device, const DiscoveredDevice& seen)
 {
+    const int addresses = int(device.addresses.size());
     devices.absorb(device, seen);
     device.scan = scan;
-    if (!device.nodeId.isEmpty())
-        seenAtHome(device);
-}
-
-kom::smart<NodeHint> DeviceIntake::Private::hint(const Device& device, const QString& address, int port) const
-{
-    auto hint = db.nodeDriver(IPDeviceType)->createNodeHint(IPDeviceType);
-    auto* description = dynamic_cast<NodeHintIPDevice*>(hint.get());
-    hint->setName(nameOf(device, address));
-    description->address = address;
-    if (port > 0)
-        description->port = port;
-    description->model = device.model;
-    description->version = device.version;
-    description->macAddress = MACAddress(device.macs().value(0));
-    return hint;
+    if (device.nodeId.isEmpty())
+        return;
+    seenAtHome(device);
+    if (device.addresses.size() > addresses)
+        ripen(device);
 }
 
 /// The node that the device has already, by the database's rule or by its address alone.
@@ -194,7 +187,7 @@ QString DeviceIntake::Private::nodeOf(const Device& device)
 {
     for (const QString& address : device.addresses) {
         for (const Device::Service& service : device.services) {
-            QString id = db.lookupHint(*hint(device, address, service.port));
+            QString id = db.lookupHint(*nodes.hint(device, address, service.port));
             if (!id.isEmpty())
                 return id;
         }
@@ -212,7 +205,10 @@ QString DeviceIntake::Private::nodeOf(const Device& device)
 void DeviceIntake::Private::settle(Device& device)
 {
     device.isNew = false;
-    device.nodeId = nodeOf(device);
+    device.isWaiting = false;
+    if (device.nodeId.isEmpty())
+        device.nodeId = nodeOf(device);
+    nodes.refresh(device);
     if (!device.nodeId.isEmpty())
         seenAtHome(device);
     else if (!noteChange(device))
@@ -271,7 +267,7 @@ void DeviceIntake::Private::seenAtHome(const Device& device)
 
 void DeviceIntake::Private::createNode(Device& device)
 {
-    const auto description = hint(device, device.bestAddress(), device.bestPort());
+    const auto description = nodes.hint(device, device.bestAddress(), device.bestPort());
     device.nodeId = db.add(*description);
 }
 
@@ -310,7 +306,7 @@ void DeviceIntake::beginScan()
         const bool isNoted = std::find(d->changedDevices.cbegin(), d->changedDevices.cend(), &device) !=
                              d->changedDevices.cend();
         const bool hasNode = !device.nodeId.isEmpty() && !d->db.summary(device.nodeId).id.isEmpty();
-        return !device.isNew && !hasNode && !isNoted;
+        return !device.isWaiting && !hasNode && !isNoted;
     });
 }
 
@@ -352,8 +348,10 @@ void DeviceIntake::accept(const QVector<AddressChange>& accepted)
             d->db.auditLog().log(AddressChangeLogEntry(device->name(), change.oldAddress, change.newAddress));
         }
         d->db.endUpdateNode(copy);
-        if (found)
-            found->nodeId = change.nodeId;
+        if (!found)
+            continue;
+        found->nodeId = change.nodeId;
+        d->nodes.refresh(*found);
     }
     emit addressChangesChanged();
 }

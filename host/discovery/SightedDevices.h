@@ -31,10 +31,11 @@ struct SightedDevice
     QString neighbourMac; ///< as seen
     QStringList addresses;
     QVector<Service> services;
-    QString nodeId;    ///< of a device that has a node
-    qint64 due = 0;    ///< when a node is looked for or made
-    bool isNew = true; ///< not dealt with yet
-    unsigned scan = 0; ///< in which it was seen last
+    QString nodeId;         ///< of a device that has a node
+    qint64 due = 0;         ///< when a node is looked for, made or refreshed
+    bool isWaiting = false; ///< for that
+    bool isNew = true;      ///< not dealt with yet
+    unsigned scan = 0;      ///< in which it was seen last
 
     /// The likeliest to be reached.
     QString bestAddress() const;

@@ -1,6 +1,7 @@
 #include "discovery/SightingFilter.h"
 
 #include "discovery/DeviceIntake.h"
+#include "drivers/FactoryExtension.h"
 #include "ko/LogQt.h"
 #include "ko/MACAddress.h"
 #include "model/NetworkAddress.h"
@@ -16,8 +17,7 @@ namespace {
 QString usableMac(const QString& text)
 {
     const QString mac = text.size() > 32 ? QString() : MACAddress(text).toString(true);
-    const bool group = !mac.isEmpty() && QString(mac.at(1)).toInt(nullptr, 16) % 2 == 1;
-    return group || mac == QLatin1String("00:00:00:00:00:00") ? QString() : mac;
+    return FactoryExtension::ofMac(mac).isEmpty() ? QString() : mac;
 }
 
 } // namespace

@@ -108,6 +108,11 @@ QStringList NodeStore::nodesWithMac(const QString& mac)
     return d->tables.nodesWithMac(mac);
 }
 
+QStringList NodeStore::nodesWithExtension(const QString& extension)
+{
+    return d->tables.nodesWithExtension(extension);
+}
+
 void NodeStore::lookupKeys(const std::function<void(const NodeID&, const QString&)>& visit)
 {
     d->tables.forEachLookupKey(visit);

@@ -61,6 +61,9 @@ public:
     /// The nodes with this MAC address, in the notation of MACAddress::toString(true).
     QStringList nodesWithMac(const QString& mac);
 
+    /// The nodes with this text as "FactoryIP".
+    QStringList nodesWithExtension(const QString& extension);
+
     /// The look-up keys of all nodes that have one.
     void lookupKeys(const std::function<void(const NodeID&, const QString&)>& visit);
 

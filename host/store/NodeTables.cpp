@@ -33,6 +33,14 @@ QVector<Relation> relationRows(SqliteStore::Rows rows)
     return result;
 }
 
+QStringList identifiers(SqliteStore::Rows rows)
+{
+    QStringList ids;
+    while (rows.next())
+        ids.append(rows.text(0));
+    return ids;
+}
+
 } // namespace
 
 NodeTables::NodeTables(SqliteStore& store)
@@ -114,13 +122,16 @@ void NodeTables::forEachValue(const QString& key,
 
 QStringList NodeTables::nodesWithMac(const QString& mac)
 {
-    QStringList ids;
-    SqliteStore::Rows rows = m_store.run("SELECT n.id FROM properties p JOIN nodes n ON n.n = p.node"
-                                         " WHERE p.key = 'MACAddress' AND p.value = ?",
-                                         {mac});
-    while (rows.next())
-        ids.append(rows.text(0));
-    return ids;
+    return identifiers(m_store.run("SELECT n.id FROM properties p JOIN nodes n ON n.n = p.node"
+                                   " WHERE p.key = 'MACAddress' AND p.value = ?",
+                                   {mac}));
+}
+
+QStringList NodeTables::nodesWithExtension(const QString& extension)
+{
+    return identifiers(m_store.run("SELECT n.id FROM properties p JOIN nodes n ON n.n = p.node"
+                                   " WHERE p.key = 'FactoryIP' AND p.value = ?",
+                                   {extension}));
 }
 
 qint64 NodeTables::insertNode(qint64 place, const PackedSummary& packed, const QString& lookupKey)

@@ -38,8 +38,9 @@ public:
     /// One property of all nodes that have it.
     void forEachValue(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit);
 
-    /// By an index.
+    // By an index.
     QStringList nodesWithMac(const QString& mac);
+    QStringList nodesWithExtension(const QString& extension);
 
     /// \a place is the number that it shall have, unless another node has it; 0 for the next. Returns its
     /// number.

@@ -63,6 +63,10 @@ const QVector<QVector<const char*>>& steps()
             // A scan asks for each device that it finds.
             "CREATE INDEX properties_mac ON properties (value) WHERE key = 'MACAddress'",
         },
+        {
+            // Each device that gets a factory extension asks whether another one has it.
+            "CREATE INDEX properties_extension ON properties (value) WHERE key = 'FactoryIP'",
+        },
     };
     return steps;
 }

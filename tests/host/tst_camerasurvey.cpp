@@ -1120,6 +1120,7 @@ void tst_CameraSurvey::exportThenImportGivesEqualDevices()
     {
         testsupport::HostFixture host;
         addRandomDevices(host.db(), 200);
+        QVERIFY(host.db()->flush()); // only now they have what devices get by themselves
         devices = allDevices();
         properties = allProperties(host.db());
         QCOMPARE(exportCameras(path("first.csv"), Passwords::Write).written, 200);

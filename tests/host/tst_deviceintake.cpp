@@ -4,6 +4,7 @@
 #include "discovery/Scanner.h"
 #include "discovery/Scanners.h"
 #include "discovery/WsDiscovery.h"
+#include "drivers/DeviceAddresses.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHint.h"
 #include "ko/NodeHintIPDevice.h"
@@ -121,6 +122,9 @@ private slots:
     void markupIsText();
     void credentialsAreNeverTaken();
     void servicesFamiliesAndScannersAreOneNode();
+    void allAddressesAreKept();
+    void addressSeenLaterIsAdded();
+    void knownDeviceLearnsItsAddresses();
     void knownDeviceGetsNoSecondNode_data();
     void knownDeviceGetsNoSecondNode();
     void channelsBehindOneAddressStay();
@@ -155,6 +159,7 @@ private:
     {
         return db().node(ids().value(i)).cast<const IPDeviceNode>();
     }
+    QStringList addresses(int i) const { return DeviceAddresses::read(*node(i)); }
     /// A camera of the database with this MAC address and model.
     QString addCamera(const QString& name, const QString& address, const QString& mac,
                       const QString& model = QString())
@@ -422,6 +427,47 @@ void DeviceIntakeTest::servicesFamiliesAndScannersAreOneNode()
     QCOMPARE(ids().size(), 1);
 }
 
+void DeviceIntakeTest::allAddressesAreKept()
+{
+    const QString name = QStringLiteral("Gate");
+    feed({seen(name, QStringLiteral("fe80::1%eth0"), 80, http, mac1),
+          seen(name, QStringLiteral("10.0.0.7"), 80, http, mac1),
+          seen(name, QStringLiteral("10.0.1.7"), 80, http, mac1),
+          seen(name, QStringLiteral("fd00::7"), 80, http, mac1)});
+    QCOMPARE(ids().size(), 1);
+    QCOMPARE(addresses(0), QStringList({"10.0.0.7", "10.0.1.7", "fd00::7", "fe80::1%eth0"}));
+    QCOMPARE(node(0)->stringProperty("IP", QString()), QStringLiteral("10.0.0.7"));
+    QCOMPARE(node(0)->stringProperty("FactoryIP", QString()), QStringLiteral("001122334455"));
+}
+
+void DeviceIntakeTest::addressSeenLaterIsAdded()
+{
+    feed({seen(QStringLiteral("Gate"), QStringLiteral("10.0.0.7"), 80, http)});
+    QCOMPARE(addresses(0), QStringList("10.0.0.7"));
+    feed({seen(QStringLiteral("Gate"), QStringLiteral("fd00::7"), 80, http)});
+    QCOMPARE(ids().size(), 1);
+    QCOMPARE(addresses(0), QStringList({"10.0.0.7", "fd00::7"}));
+}
+
+/// And nothing else of it is changed. Where it has moved, what it had of that kind is gone.
+void DeviceIntakeTest::knownDeviceLearnsItsAddresses()
+{
+    const QString id = addCamera(QStringLiteral("Survey"), QStringLiteral("10.0.0.7"), QString());
+    const QVector<DiscoveredDevice> found = {
+        seen(QStringLiteral("Gate"), QStringLiteral("fd00::7"), 8080, http, mac1, QStringLiteral("C-1")),
+        seen(QStringLiteral("Gate"), QStringLiteral("10.0.0.7"), 8080, http, mac1, QStringLiteral("C-1"))};
+    feed(found);
+    QCOMPARE(ids(), QStringList(id));
+    QCOMPARE(addresses(0), QStringList({"10.0.0.7", "fd00::7"}));
+    QCOMPARE(node(0)->name(), QStringLiteral("Survey"));
+    QCOMPARE(node(0)->port(), 80);
+    QVERIFY(node(0)->model().isEmpty() && node(0)->macAddress().isNull());
+    QVERIFY(db().flush());
+    const qint64 number = db().changeSets(0, 1000).last().number;
+    feed(found);
+    QVERIFY(db().changeSets(number, 1000).isEmpty());
+}
+
 void DeviceIntakeTest::knownDeviceGetsNoSecondNode_data()
 {
     QTest::addColumn<QString>("stored");
@@ -608,6 +654,7 @@ void DeviceIntakeTest::acceptedChangeIsWrittenAndLogged()
     intake().accept(intake().addressChanges());
     QCOMPARE(intake().addressChanges().size(), 0);
     QCOMPARE(db().summary(id).location, QStringLiteral("10.0.0.99"));
+    QCOMPARE(addresses(0), QStringList("10.0.0.99"));
     QCOMPARE(node(0)->user(0), QStringLiteral("admin"));
     QCOMPARE(db().auditLog().count(), logged + 1);
     const auto entries = db().auditLog().entries(0, 1, true);

@@ -1,0 +1,35 @@
+#ifndef KO_WRITTENDEVICES_H
+#define KO_WRITTENDEVICES_H
+
+#include "database/NodeMemory.h"
+
+namespace ko {
+
+/// What devices get by themselves when something of them is written, whoever writes it: their own address
+/// among their addresses, and a factory extension that no other device has, see docs/lookup.md.
+///
+/// Both come with the commit that stores what was written: only then nobody else can take an extension.
+class WrittenDevices
+{
+public:
+    /// Both outlive it.
+    WrittenDevices(NodeStore& store, NodeMemory& memory);
+
+    /// Within a commit, with all in memory that others stored. Throws StoreFailure.
+    void complete(Notices* notices);
+
+private:
+    void readWaiting(const QSet<NodeID>& written);
+    bool completeExtension(NodeData& device);
+    bool isFree(const QString& extension);
+
+    NodeStore& m_store;
+    NodeMemory& m_memory;
+    QSet<NodeID> m_waiting; ///< the nodes of which something waits: what is stored of them is of yesterday
+    QSet<NodeID> m_settled; ///< whose extension stays as it is
+    QSet<QString> m_taken;  ///< by those of which something waits
+};
+
+} // namespace ko
+
+#endif
