@@ -7,6 +7,7 @@
 #include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/RecordingFolderAssignmentDialog.h"
 #include "dialogs/RecordingFolderMassAssignmentDialog.h"
+#include "drivers/RemotePreviewDraft.h"
 #include "inspector/NodeChangeLogEntry.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/dialogFlags.h"
@@ -152,6 +153,7 @@ QString editRecording(HostNodeDB& db, const QStringList& devices, QWidget* paren
     if (devices.size() > 1)
         return editRecordings(db, devices, parent);
     RecordingFolderAssignmentDialog dialog(devices.constFirst(), parent);
+    new RemotePreviewDraft(devices.constFirst(), &dialog); // owned by the dialog
     if (dialog.exec() != QDialog::Accepted)
         return QString();
     logChanges(db, devices);

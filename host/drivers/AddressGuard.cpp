@@ -4,9 +4,7 @@
 #include "ko/OutsideText.h"
 
 #include <QAbstractButton>
-#include <QDialogButtonBox>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QSpinBox>
 
 #include <utility>
@@ -14,16 +12,13 @@
 namespace ko {
 
 AddressGuard::AddressGuard(const Fields& fields, TwinName twinName, QWidget* parent)
-    : QLabel(parent)
+    : FieldGuard(fields.address, parent)
     , m_fields(fields)
     , m_twinName(std::move(twinName))
     , m_stored(fields.address->text())
     , m_text(m_stored)
 {
     setObjectName(QStringLiteral("addressProblemLabel"));
-    setTextFormat(Qt::PlainText);
-    setWordWrap(true);
-    hide();
     connect(m_fields.address, &QLineEdit::textEdited, this, &AddressGuard::edited);
     connect(m_fields.address, &QLineEdit::textChanged, this, &AddressGuard::changed);
     connect(m_fields.address, &QLineEdit::editingFinished, this, &AddressGuard::finished);
@@ -34,9 +29,8 @@ void AddressGuard::edited(const QString& text)
 {
     m_isPasted = text.size() > m_text.size() + 1;
     m_text = text;
-    const QString problem = text == m_stored ? QString() : AddressText::parse(text).problem;
-    setRefused(problem);
-    if (problem.isEmpty())
+    setProblem(text == m_stored ? QString() : AddressText::parse(text).problem);
+    if (problem().isEmpty())
         hide(); // words come when the field is left: half an address is none yet
 }
 
@@ -54,12 +48,11 @@ void AddressGuard::finished()
     takeApart();
     if (m_fields.port->isReadOnly())
         return;
-    QString words = m_problem;
+    QString words = problem();
     const QString twin = words.isEmpty() ? m_twinName() : QString();
     if (!twin.isEmpty())
         words = tr("\"%1\" has this address and port already.").arg(OutsideText::visible(twin));
-    setText(words);
-    setVisible(!words.isEmpty());
+    say(words);
 }
 
 /// Shows an address that was typed with more around it in the fields where its parts belong.
@@ -82,19 +75,6 @@ void AddressGuard::takeApart()
         m_fields.user->setText(address.user);
     if (!address.password.isEmpty())
         m_fields.password->setText(address.password);
-}
-
-void AddressGuard::setRefused(const QString& problem)
-{
-    m_problem = problem;
-    m_fields.address->setAccessibleDescription(problem);
-    const QList<QDialogButtonBox*> boxes = window()->findChildren<QDialogButtonBox*>();
-    for (const QDialogButtonBox* box : boxes) {
-        for (const auto which : {QDialogButtonBox::Ok, QDialogButtonBox::Apply}) {
-            if (QPushButton* button = box->button(which))
-                button->setEnabled(problem.isEmpty());
-        }
-    }
 }
 
 } // namespace ko

@@ -1,7 +1,7 @@
 #ifndef KO_ADDRESSGUARD_H
 #define KO_ADDRESSGUARD_H
 
-#include <QLabel>
+#include "drivers/FieldGuard.h"
 
 #include <functional>
 
@@ -14,7 +14,7 @@ namespace ko {
 /// Watches the field in which a user types an address: what is pasted with a scheme, port or user is taken
 /// apart into the fields beside it, and what is no address is refused, in words above the field and by the
 /// buttons that would store it. An address that was there before is left alone, whatever it is.
-class AddressGuard : public QLabel
+class AddressGuard : public FieldGuard
 {
     Q_OBJECT
 
@@ -39,12 +39,10 @@ private:
     void changed(const QString& text);
     void finished();
     void takeApart();
-    void setRefused(const QString& problem);
 
     const Fields m_fields;
     const TwinName m_twinName;
     QString m_stored;
-    QString m_problem;
     QString m_text; ///< as it was typed or set last
     bool m_isPasted = false;
 };

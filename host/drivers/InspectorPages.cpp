@@ -1,14 +1,13 @@
 #include "drivers/InspectorPages.h"
 
+#include "drivers/CameraPages.h"
 #include "drivers/GeneralPage.h"
 #include "drivers/PropertyFormPage.h"
 #include "ko/PropertyKeys.h"
 #include "pages/ControlDataWidget.h"
 #include "pages/CustomNetworkProxyWidget.h"
-#include "pages/InfoWidget.h"
 #include "pages/PTZRotorControlWidget.h"
 #include "pages/PTZUrlsWidget.h"
-#include "pages/StorageLocationWidget.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -21,6 +20,12 @@ template <class Widget>
 std::unique_ptr<InspectorPage> create(QWidget* parent)
 {
     return std::make_unique<PageOf<Widget>>(new Widget(parent));
+}
+
+template <class Page>
+std::unique_ptr<InspectorPage> createPage(QWidget* parent)
+{
+    return std::make_unique<Page>(parent);
 }
 
 std::unique_ptr<InspectorPage> createLayoutOptions(QWidget* parent)
@@ -69,13 +74,13 @@ const PageSpec folder = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"
 const PageSpec remotePreview = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
                                 createForm<remotePreviewFields>};
 const PageSpec information = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device"), true,
-                              create<InfoWidget>};
+                              createPage<DevicePage>};
 const PageSpec control = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device"), false,
                           create<ControlDataWidget>};
 const PageSpec layoutOptions = {LayoutListPage::TabName, QT_TRANSLATE_NOOP("NodeInspector", "Layout options"),
                                 false, createLayoutOptions};
 const PageSpec recordings = {"recordings", QT_TRANSLATE_NOOP("NodeInspector", "Recordings"), false,
-                             create<StorageLocationWidget>};
+                             createPage<RecordingsPage>};
 const PageSpec rotor = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "PTZ"), false,
                         create<PTZRotorControlWidget>};
 const PageSpec urls = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "URLs"), false, create<PTZUrlsWidget>};

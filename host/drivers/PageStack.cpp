@@ -182,8 +182,10 @@ void PageStack::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     // Dialogs fill some lists after init(); nobody has typed anything before the first showing.
-    if (!m_shown)
+    if (!m_shown) {
         capture();
+        FieldGuard::enableButtons(*window()); // in the place of a form that refused something
+    }
     m_shown = true;
     refreshStale();
 }

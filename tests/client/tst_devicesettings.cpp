@@ -5,6 +5,7 @@
 #include "DeviceSettings.h"
 #include "ko/IPDeviceNode.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -75,6 +76,7 @@ private slots:
     void allTheSame();
     void noneWithAddress();
     void nothingToAskForOne();
+    void previewSettingsAtOnce();
     void othersAloneOpenNothing();
     void credentialsThatDiffer();
     void credentialsAgreedOn();
@@ -170,6 +172,20 @@ void tst_DeviceSettings::nothingToAskForOne()
     const Answers answers({cancel});
     DeviceSettings::editRecording(*m_host->db(), m_cameras.mid(3), nullptr);
     QCOMPARE(answers.opened(), QStringList("RecordingFolderAssignmentDialog"));
+}
+
+/// Of a camera that has never been reached through the remote preview server.
+void tst_DeviceSettings::previewSettingsAtOnce()
+{
+    const Answers answers({[](QDialog* dialog) {
+                               child<QCheckBox>(dialog, "recordingTransponderCheckBox")->click();
+                               child<QPushButton>(dialog, "recordingTransponderPushButton")->click();
+                           },
+                           cancel});
+    DeviceSettings::editRecording(*m_host->db(), m_cameras.mid(0, 1), nullptr);
+    QCOMPARE(answers.opened(),
+             QStringList({"RecordingFolderAssignmentDialog", "RecordingTransponderCustomSettingsDialog"}));
+    QCOMPARE(m_host->db()->nodeIdList(RecordingTransponderType), QStringList());
 }
 
 void tst_DeviceSettings::othersAloneOpenNothing()

@@ -1,0 +1,20 @@
+#ifndef KO_MACGUARD_H
+#define KO_MACGUARD_H
+
+#include "drivers/FieldGuard.h"
+
+namespace ko {
+
+/// Refuses what is no MAC address in a field that may also be empty.
+class MacGuard : public FieldGuard
+{
+    Q_OBJECT
+
+public:
+    /// The words come above the form that \a field is in.
+    explicit MacGuard(QLineEdit* field);
+};
+
+} // namespace ko
+
+#endif
