@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "CameraChecking.h"
+#include "FillInDialog.h"
 #include "MainWindow.h"
 #include "NodeCommands.h"
 #include "NodeListView.h"
@@ -71,6 +72,9 @@ const Commands::Command Commands::all[] = {
     {KO_TEXT("&Node"), "actionRecording", KO_TEXT("Access Re&cordings..."),
      KO_TEXT("Where the recordings of the selected cameras are played from"), "Ctrl+R", "folder-videos",
      SomeNodes, InList, &NodeCommands::editRecording},
+    {KO_TEXT("&Node"), "actionFillIn", KO_TEXT("&Fill In..."),
+     KO_TEXT("Asks the selected devices what they are, and stores what you choose of it"), "", "", SomeNodes,
+     InList, [](MainWindow& window) { FillInDialog::run(window); }},
 
     {KO_TEXT("&Node"), "actionDuplicate", KO_TEXT("&Duplicate..."),
      KO_TEXT("Adds a node that is like the selected one"), "Ctrl+D", "edit-copy", OneNode, InList | AfterLine,

@@ -1,5 +1,6 @@
 #include "DeviceSettings.h"
 
+#include "FillInDialog.h"
 #include "NameList.h"
 #include "PlainMessageBox.h"
 #include "audit/AuditLog.h"
@@ -11,6 +12,7 @@
 #include "inspector/NodeChangeLogEntry.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/dialogFlags.h"
+#include "utils/NodeDBUtils.h"
 
 #include <QCoreApplication>
 #include <QPushButton>
@@ -48,48 +50,60 @@ QStringList namesOf(const HostNodeDB& db, const QStringList& ids)
     return names;
 }
 
-/// Whether the camera has an address of its own that its folder on a file server can be named by.
-bool hasFactoryAddress(const HostNodeDB& db, const QString& id)
+/// Whether the camera's folder on a file server can be named.
+bool hasExtension(const HostNodeDB& db, const QString& id)
 {
     const kom::smart<const Node> camera = db.node(id);
-    const QString address =
-        camera.null() ? QString() : camera->stringProperty(QStringLiteral("FactoryIP"), QString());
-    return !address.isEmpty() && address != QLatin1String("10_0_0_0"); // as every camera leaves the factory
+    return !camera.null() && !NodeDBUtils::factoryExtension(*camera).isEmpty();
 }
 
-/// Takes the cameras out of the list that would get no folder of their own, if the user wants that. False
-/// when he wants nothing done.
-bool agreeOnCameras(const HostNodeDB& db, QStringList* cameras, QWidget* parent)
+enum class Answer { Cancel, LeaveOut, All, Ask };
+
+/// What is to become of cameras that would get no folder of their own.
+Answer askAbout(const QStringList& names, bool areAll, QWidget* parent)
 {
-    QStringList with;
-    QStringList without;
-    for (const QString& id : std::as_const(*cameras))
-        (hasFactoryAddress(db, id) ? with : without).append(id);
-    if (without.isEmpty())
-        return true;
     PlainMessageBox box(QMessageBox::Warning, translated("Access Recordings"), QString(), QMessageBox::Cancel,
                         parent);
     box.setObjectName(QStringLiteral("factoryAddressBox"));
     box.setText(
-        translated("The factory IP address of %n of the selected cameras is not known:",
-                   int(without.size())) +
-        QStringLiteral("\n\n") + listOfNames(namesOf(db, without)) + QStringLiteral("\n\n") +
+        translated("The factory IP address of %n of the selected cameras is not known:", int(names.size())) +
+        QStringLiteral("\n\n") + listOfNames(names) + QStringLiteral("\n\n") +
         translated("Their recordings can be played via the camera. On a file server, however, the folder of "
                    "a camera is named by this address: with the default path these cameras would share one "
                    "folder without a name, with a specific path they would lose the path that they have. "
-                   "The address of a camera is shown in Node > Edit, on the page \"Device\"."));
-    QPushButton* leaveOut = nullptr;
-    if (!with.isEmpty())
-        leaveOut = box.addButton(translated("&Leave Them Out"), QMessageBox::AcceptRole);
+                   "A camera that answers and takes its password tells what its folder can be named by."));
+    const QPushButton* ask = box.addButton(translated("As&k the Cameras..."), QMessageBox::ActionRole);
+    QPushButton* leaveOut =
+        areAll ? nullptr : box.addButton(translated("&Leave Them Out"), QMessageBox::AcceptRole);
     const QPushButton* all = box.addButton(translated("Go On With &All"), QMessageBox::DestructiveRole);
     box.setDefaultButton(leaveOut ? leaveOut : qobject_cast<QPushButton*>(box.button(QMessageBox::Cancel)));
     box.setEscapeButton(QMessageBox::Cancel);
     box.exec();
-    if (leaveOut && box.clickedButton() == leaveOut) {
-        *cameras = with;
-        return true;
+    const QAbstractButton* pressed = box.clickedButton();
+    if (pressed == static_cast<const QAbstractButton*>(ask))
+        return Answer::Ask;
+    if (leaveOut && pressed == leaveOut)
+        return Answer::LeaveOut;
+    return pressed == static_cast<const QAbstractButton*>(all) ? Answer::All : Answer::Cancel;
+}
+
+/// Takes the cameras out of the list that would get no folder of their own, if the user wants that. False
+/// when he wants nothing done.
+bool agreeOnCameras(HostNodeDB& db, QStringList* cameras, QWidget* parent)
+{
+    for (;;) {
+        QStringList with;
+        QStringList without;
+        for (const QString& id : std::as_const(*cameras))
+            (hasExtension(db, id) ? with : without).append(id);
+        const Answer answer =
+            without.isEmpty() ? Answer::All : askAbout(namesOf(db, without), with.isEmpty(), parent);
+        if (answer == Answer::LeaveOut)
+            *cameras = with;
+        if (answer != Answer::Ask)
+            return answer != Answer::Cancel;
+        FillInDialog::run(db, without, parent);
     }
-    return box.clickedButton() == static_cast<const QAbstractButton*>(all);
 }
 
 /// Asks before many different user names or passwords become one. Nothing of a password is shown.

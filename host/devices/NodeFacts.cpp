@@ -191,6 +191,11 @@ QVector<NodeFact> changes(const IPDeviceNode& node, const DeviceFacts& facts)
     return changes;
 }
 
+bool isCurrent(const Node& node, const NodeFact& fact)
+{
+    return PropertyList::sameValue(stored(node, fact.key), fact.before);
+}
+
 void write(Node& node, const NodeFact& fact)
 {
     if (fact.key == PropertyKeys::IPAddresses)

@@ -31,6 +31,9 @@ namespace NodeFacts {
 /// In the order in which a user wants to see them; nothing that the node has already.
 KO_HOST_EXPORT QVector<NodeFact> changes(const IPDeviceNode& node, const DeviceFacts& facts);
 
+/// Whether the node still has what it had before.
+KO_HOST_EXPORT bool isCurrent(const Node& node, const NodeFact& fact);
+
 /// Writes it into \a node, with what belongs to it.
 KO_HOST_EXPORT void write(Node& node, const NodeFact& fact);
 

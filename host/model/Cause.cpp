@@ -24,7 +24,7 @@ const struct
     {Purpose::Settings, "settings"}, {Purpose::Proxy, "proxy"},     {Purpose::Environments, "environments"},
     {Purpose::Scan, "scan"},         {Purpose::Address, "address"}, {Purpose::Import, "import"},
     {Purpose::Start, "start"},       {Purpose::Restore, "restore"}, {Purpose::Check, "check"},
-    {Purpose::Unknown, ""},
+    {Purpose::FillIn, "fill-in"},    {Purpose::Unknown, ""},
 };
 
 } // namespace

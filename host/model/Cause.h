@@ -18,6 +18,7 @@ enum class Purpose {
     Scan,    ///< what a scanner found
     Address, ///< a device answers at another address, and the user agreed
     Check,   ///< by what a device is known again, as it said when it was checked
+    FillIn,  ///< what devices told of themselves, and the user agreed
     Import,
     Start,   ///< what a new database begins with
     Restore, ///< a backup took the place of everything

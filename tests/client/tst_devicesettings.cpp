@@ -1,5 +1,5 @@
+#include "support/Answers.h"
 #include "support/HostFixture.h"
-#include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 
 #include "DeviceSettings.h"
@@ -14,42 +14,11 @@
 #include <QRadioButton>
 
 using namespace ko;
+using testsupport::Answers;
 using testsupport::child;
 using testsupport::ModalAnswer;
 
 namespace {
-
-/// Answers one dialog after the other; the last one that came is named.
-class Answers
-{
-public:
-    typedef std::function<void(QDialog*)> Action;
-
-    explicit Answers(const QVector<Action>& actions)
-        : m_actions(actions)
-    {
-        next();
-    }
-
-    QStringList opened() const { return m_opened; }
-
-private:
-    void next()
-    {
-        if (m_opened.size() >= m_actions.size())
-            return;
-        m_answers.push_back(std::make_unique<ModalAnswer>([this](QDialog* dialog) {
-            m_opened.append(dialog->objectName());
-            const Action action = m_actions.at(m_opened.size() - 1);
-            next();
-            action(dialog);
-        }));
-    }
-
-    const QVector<Action> m_actions;
-    std::vector<std::unique_ptr<ModalAnswer>> m_answers;
-    QStringList m_opened;
-};
 
 void pressEnter(QDialog* dialog)
 {
