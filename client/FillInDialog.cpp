@@ -77,7 +77,9 @@ void FillInDialog::createTable()
     m_table->setTabKeyNavigation(false); // Tab leaves the table
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->verticalHeader()->minimumSectionSize());
     m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setHighlightSections(false);
 }
 
 void FillInDialog::showProgress()
@@ -93,9 +95,10 @@ void FillInDialog::showTold()
     m_progress->hide();
     m_model.setRows(m_filling.rows());
     const QVector<FillInRow>& rows = m_model.rows();
-    m_hint->setText(rows.isEmpty()
-                        ? tr("There is nothing to fill in.")
-                        : tr("This is told otherwise by the devices. What is ticked is stored with OK."));
+    m_hint->setText(
+        rows.isEmpty()
+            ? tr("There is nothing to fill in.")
+            : tr("This is what the devices tell and what is not stored yet. OK stores what is ticked."));
     m_replace->setEnabled(
         std::any_of(rows.cbegin(), rows.cend(), [](const FillInRow& row) { return row.fact.isSet; }));
     m_table->resizeColumnsToContents();

@@ -17,7 +17,7 @@ MacGuard::MacGuard(QLineEdit* field)
     connect(field, &QLineEdit::textChanged, this, [this](const QString& text) {
         const bool isGood = text.trimmed().isEmpty() || !MACAddress(text).isNull();
         setProblem(isGood ? QString()
-                          : tr("A MAC address has twelve hexadecimal digits, such as 00:40:8C:12:34:AB."));
+                          : tr("A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB."));
         if (isGood)
             hide(); // words come when the field is left: half an address is none yet
     });

@@ -66,7 +66,7 @@ private:
     QStringList m_cameras;
 };
 
-static const QStringList extensions = {"00408C000001", "00408C000002", "00408C000003", "00408C000003_2"};
+static const QStringList extensions = {"00005E000001", "00005E000002", "00005E000003", "00005E000003_2"};
 
 void tst_RecordingPaths::init()
 {
@@ -94,7 +94,7 @@ void tst_RecordingPaths::scan()
         DiscoveredDevice device;
         device.name = QString("Scanned %1").arg(i);
         device.address = QString("10.0.0.%1").arg(i);
-        device.macAddress = QString("00:40:8C:00:00:0%1").arg(i);
+        device.macAddress = QString("00:00:5E:00:00:0%1").arg(i);
         found.append(device);
     }
     DeviceIntake& intake = Scanners::of(*m_host->db()).intake();
@@ -107,7 +107,7 @@ void tst_RecordingPaths::import()
 {
     QFile list(m_host->fileName() + ".csv");
     QVERIFY(list.open(QIODevice::WriteOnly));
-    list.write("name,address,MAC\nImported 1,10.0.1.1,00408C000003\nImported 2,cam.example,00408C000003\n");
+    list.write("name,address,MAC\nImported 1,10.0.1.1,00005E000003\nImported 2,cam.example,00005E000003\n");
     list.close();
     QCOMPARE(CameraSurvey::importCameras(list.fileName()).added, 2);
 }

@@ -74,13 +74,13 @@ void tst_CameraPages::macOfANewDevice()
     AddNodeDialog dialog(this, nullptr, &types, false, 0);
     dialog.show();
     QTest::keyClicks(child<QLineEdit>(&dialog, "addressLineEdit"), "10.0.0.8");
-    QTest::keyClicks(child<QLineEdit>(&dialog, "macLineEdit"), "00408c1234ab");
+    QTest::keyClicks(child<QLineEdit>(&dialog, "macLineEdit"), "00005e1234ab");
     button(dialog, QDialogButtonBox::Ok)->click();
     const auto node = db().node(dialog.nodeId()).cast<const IPDeviceNode>();
     QVERIFY(!node.null());
-    QCOMPARE(node->macAddress().toString(true), QString("00:40:8C:12:34:AB"));
+    QCOMPARE(node->macAddress().toString(true), QString("00:00:5E:12:34:AB"));
     QVERIFY(db().flush());
-    QCOMPARE(db().node(dialog.nodeId())->stringProperty("FactoryIP", QString()), QString("00408C1234AB"));
+    QCOMPARE(db().node(dialog.nodeId())->stringProperty("FactoryIP", QString()), QString("00005E1234AB"));
 }
 
 void tst_CameraPages::noMacIsRefused()
@@ -90,7 +90,7 @@ void tst_CameraPages::noMacIsRefused()
     dialog.show();
     QLineEdit* mac = child<QLineEdit>(&dialog, "macLineEdit");
     const QLabel* problem = child<QLabel>(&dialog, "macProblemLabel");
-    QTest::keyClicks(mac, "00:40:8C");
+    QTest::keyClicks(mac, "00:00:5E");
     QVERIFY(!button(dialog, QDialogButtonBox::Ok)->isEnabled());
     QVERIFY(problem->isHidden());
     emit mac->editingFinished();

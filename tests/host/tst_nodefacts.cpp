@@ -128,7 +128,7 @@ void tst_NodeFacts::whatIsSetIsNotReplacedUnasked()
     m_host->change(id, [](Node* node) {
         auto* device = dynamic_cast<IPDeviceNode*>(node);
         device->setModel("Dome, blue");
-        device->setMacAddress(MACAddress("00:40:8C:12:34:AB"));
+        device->setMacAddress(MACAddress("00:00:5E:12:34:AB"));
     });
     m_host->db()->flush();
     QStringList set;

@@ -47,7 +47,7 @@ private:
     std::unique_ptr<HostNodeDB> m_db;
 };
 
-static const QLatin1String mac("00:40:8C:12:34:AB");
+static const QLatin1String mac("00:00:5E:12:34:AB");
 
 void TestWrittenDevices::init()
 {
@@ -83,7 +83,7 @@ void TestWrittenDevices::extensions_data()
     const auto row = [](const char* name, const QString& made, const char* extension) {
         QTest::newRow(name) << made << QString::fromLatin1(extension);
     };
-    row("MAC", FactoryExtension::ofMac("00-40-8c-12-34-ab"), "00408C1234AB");
+    row("MAC", FactoryExtension::ofMac("00-00-5e-12-34-ab"), "00005E1234AB");
     row("no MAC", FactoryExtension::ofMac(QString()), "");
     row("MAC of a group", FactoryExtension::ofMac("01:00:5E:00:00:01"), "");
     row("MAC of all", FactoryExtension::ofMac("FF:FF:FF:FF:FF:FF"), "");
@@ -142,9 +142,9 @@ void TestWrittenDevices::alikeAreNumbered()
     QVERIFY(m_db->flush());
     const QString third = addDevice("10.0.0.3", mac);
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(ids.at(0)), QString("00408C1234AB"));
-    QCOMPARE(extension(ids.at(1)), QString("00408C1234AB_2"));
-    QCOMPARE(extension(third), QString("00408C1234AB_3"));
+    QCOMPARE(extension(ids.at(0)), QString("00005E1234AB"));
+    QCOMPARE(extension(ids.at(1)), QString("00005E1234AB_2"));
+    QCOMPARE(extension(third), QString("00005E1234AB_3"));
 }
 
 /// Such as a thousand that somebody announces with one MAC address.
@@ -166,8 +166,8 @@ void TestWrittenDevices::channelsAreCounted()
     const QString second = addDevice("10.0.0.1", mac, ChannelDeviceType, 2);
     const QString first = addDevice("10.0.0.1", mac, ChannelDeviceType, 1);
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(first), QString("00408C1234AB"));
-    QCOMPARE(extension(second), QString("00408C1234AB_2"));
+    QCOMPARE(extension(first), QString("00005E1234AB"));
+    QCOMPARE(extension(second), QString("00005E1234AB_2"));
 }
 
 /// There are recordings in the folder of that name.
@@ -175,9 +175,9 @@ void TestWrittenDevices::whatIsThereStays()
 {
     const QString id = addDevice("10.0.0.1", mac);
     QVERIFY(m_db->flush());
-    setText(*m_db, id, "MACAddress", "00:40:8C:99:99:99");
+    setText(*m_db, id, "MACAddress", "00:00:5E:99:99:99");
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(id), QString("00408C1234AB"));
+    QCOMPARE(extension(id), QString("00005E1234AB"));
     setText(*m_db, id, "FactoryIP", "10_1_2_3");
     QVERIFY(m_db->flush());
     QCOMPARE(extension(id), QString("10_1_2_3"));
@@ -190,7 +190,7 @@ void TestWrittenDevices::leavingTheFactoryIsNoExtension()
     for (const QString& id : {known, unknown})
         setText(*m_db, id, "FactoryIP", "10_0_0_0");
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(known), QString("00408C1234AB"));
+    QCOMPARE(extension(known), QString("00005E1234AB"));
     QCOMPARE(extension(unknown), QString("10_0_0_0"));
 }
 
@@ -213,8 +213,8 @@ void TestWrittenDevices::whoHasItKeepsIt()
     const QString second = addDevice("10.0.0.2", mac);
     setText(*m_db, first, "Model", "C-1");
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(first), QString("00408C1234AB"));
-    QCOMPARE(extension(second), QString("00408C1234AB_2"));
+    QCOMPARE(extension(first), QString("00005E1234AB"));
+    QCOMPARE(extension(second), QString("00005E1234AB_2"));
 }
 
 /// Another program writes between the change and its commit.
@@ -223,11 +223,11 @@ void TestWrittenDevices::takenByOthersMeanwhile()
     const QString other = addDevice("10.0.0.1", QString());
     QVERIFY(m_db->flush());
     const QString id = addDevice("10.0.0.2", mac);
-    PlainSql(m_file).run("INSERT INTO properties SELECT n, 'FactoryIP', 0, '00408C1234AB' FROM nodes"
+    PlainSql(m_file).run("INSERT INTO properties SELECT n, 'FactoryIP', 0, '00005E1234AB' FROM nodes"
                          " WHERE id = '" +
                          other + "'");
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(id), QString("00408C1234AB_2"));
+    QCOMPARE(extension(id), QString("00005E1234AB_2"));
 }
 
 void TestWrittenDevices::oneThatGoesMakesRoom()
@@ -237,7 +237,7 @@ void TestWrittenDevices::oneThatGoesMakesRoom()
     m_db->removeNode(id);
     const QString again = addDevice("10.0.0.1", mac);
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(again), QString("00408C1234AB"));
+    QCOMPARE(extension(again), QString("00005E1234AB"));
 }
 
 /// Of a database in which nobody made them yet.
@@ -250,7 +250,7 @@ void TestWrittenDevices::oldNodesGetTheirsWithTheNextChange()
     QCOMPARE(extension(id), QString("(no value)"));
     setText(*m_db, id, "Model", "C-1");
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(id), QString("00408C1234AB"));
+    QCOMPARE(extension(id), QString("00005E1234AB"));
     QCOMPARE(addresses(id), QStringList("10.0.0.1"));
 }
 
@@ -267,7 +267,7 @@ void TestWrittenDevices::belongsToTheChangeSet()
     const QVector<ChangeSet> sets = m_db->changeSets(before, 1000);
     QCOMPARE(int(sets.size()), 1);
     QCOMPARE(sets.first().nodes.first().after->properties.value("FactoryIP").toString(),
-             QString("00408C1234AB"));
+             QString("00005E1234AB"));
     PlainSql sql(m_file);
     QCOMPARE(sql.run("SELECT value FROM properties WHERE key = 'FactoryIP'").toString(), extension(id));
 }
@@ -280,7 +280,7 @@ void TestWrittenDevices::takenBackIsAsItWas()
     const qint64 before = m_db->changeSets(0, 1000).last().number;
     setText(*m_db, id, "MACAddress", mac);
     QVERIFY(m_db->flush());
-    QCOMPARE(extension(id), QString("00408C1234AB"));
+    QCOMPARE(extension(id), QString("00005E1234AB"));
     const QVector<ChangeSet> sets = m_db->changeSets(before, 1000);
     QCOMPARE(int(sets.size()), 1);
     QVERIFY(m_db->apply(sets.first().inverse()) && m_db->flush());
@@ -292,13 +292,13 @@ void TestWrittenDevices::imported()
 {
     QFile list(m_folder->filePath("list.csv"));
     QVERIFY(list.open(QIODevice::WriteOnly));
-    list.write("address,MAC\n10.0.0.1,00:40:8c:00:00:01\ncamera.example,00:40:8c:00:00:02\n10.0.0.3,\n");
+    list.write("address,MAC\n10.0.0.1,00:00:5e:00:00:01\ncamera.example,00:00:5e:00:00:02\n10.0.0.3,\n");
     list.close();
     QCOMPARE(CameraSurvey::importCameras(list.fileName()).added, 3);
     const QStringList ids = m_db->nodeIdList(IPDeviceType);
-    QCOMPARE(extension(ids.at(0)), QString("00408C000001"));
+    QCOMPARE(extension(ids.at(0)), QString("00005E000001"));
     QCOMPARE(addresses(ids.at(0)), QStringList("10.0.0.1"));
-    QCOMPARE(extension(ids.at(1)), QString("00408C000002"));
+    QCOMPARE(extension(ids.at(1)), QString("00005E000002"));
     QCOMPARE(addresses(ids.at(1)), QStringList());
     QCOMPARE(extension(ids.at(2)), QString("(no value)"));
 }
@@ -312,7 +312,7 @@ void TestWrittenDevices::announcedOnceItIsThere()
             seen = extension(id);
     });
     QVERIFY(m_db->flush());
-    QCOMPARE(seen, QString("00408C1234AB"));
+    QCOMPARE(seen, QString("00005E1234AB"));
 }
 
 KO_TEST_MAIN(TestWrittenDevices)
