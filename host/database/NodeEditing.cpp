@@ -1,5 +1,6 @@
 #include "database/NodeEditing.h"
 
+#include "database/WrittenDevices.h"
 #include "drivers/NodeTypes.h"
 #include "ko/LogQt.h"
 #include "ko/PropertyKeys.h"
@@ -107,6 +108,8 @@ NodeID NodeEditing::add(NodeData data)
 {
     data.id = newNodeId();
     Secrets::seal(data);
+    if (NodeTypes::isDevice(data.type))
+        WrittenDevices::prepare(data);
     m_memory.add(data);
     written(data.id, data.type);
     Notices notices;

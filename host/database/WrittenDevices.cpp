@@ -11,21 +11,26 @@ namespace ko {
 
 namespace {
 
-QString extensionOf(const NodeData& device)
+QString textOf(const NodeRecord& record, const QString& key)
 {
-    return device.properties.value(PropertyKeys::FactoryIP).toString();
+    return record.snapshot->stringProperty(key, QString());
 }
 
-/// Those that were known at another address are of another place.
-bool completeAddresses(PropertyList& properties)
+/// The address of the node, if it is not among those that are known of it.
+QString missingAddress(const NodeRecord& record)
 {
-    const QString address = NetworkAddress::normalised(properties.value(PropertyKeys::Address).toString());
-    const auto known = properties.value(PropertyKeys::IPAddresses).value<kogen::PropertySet>();
-    if (address.isEmpty() || DeviceAddresses::fromSet(known).contains(address))
-        return false;
+    const QString address = textOf(record, PropertyKeys::Address);
+    if (address == textOf(record, PropertyKeys::IP))
+        return QString();
+    const QString normalised = NetworkAddress::normalised(address);
+    return DeviceAddresses::read(*record.snapshot).contains(normalised) ? QString() : normalised;
+}
+
+/// What was known at another address is of another place.
+void setAddress(PropertyList& properties, const QString& address)
+{
     properties.set(PropertyKeys::IPAddresses, QVariant::fromValue(DeviceAddresses::toSet({address})));
     properties.set(PropertyKeys::IP, address);
-    return true;
 }
 
 } // namespace
@@ -36,6 +41,18 @@ WrittenDevices::WrittenDevices(NodeStore& store, NodeMemory& memory)
 {
 }
 
+void WrittenDevices::prepare(NodeData& device)
+{
+    const auto value = [&device](const QString& key) { return device.properties.value(key); };
+    const QString address = NetworkAddress::normalised(value(PropertyKeys::Address).toString());
+    if (!address.isEmpty() && !value(PropertyKeys::IPAddresses).isValid())
+        setAddress(device.properties, address);
+    const QString extension = FactoryExtension::ofChannel(value(PropertyKeys::MacAddress).toString(),
+                                                          value(PropertyKeys::Channel).toInt());
+    if (!extension.isEmpty() && FactoryExtension::isNone(value(PropertyKeys::FactoryIP).toString()))
+        device.properties.set(PropertyKeys::FactoryIP, extension);
+}
+
 void WrittenDevices::complete(Notices* notices)
 {
     const QVector<NodeID> written = m_memory.pending.writtenDevices;
@@ -44,13 +61,20 @@ void WrittenDevices::complete(Notices* notices)
     readWaiting(QSet<NodeID>(written.cbegin(), written.cend()));
     for (const NodeID& id : written) {
         NodeRecord* record = m_memory.cache.find(id);
-        if (!record || record->snapshot.null())
-            continue; // removed since
-        NodeData device = record->data();
-        const bool hasAddresses = completeAddresses(device.properties);
-        const bool hasExtension = completeExtension(device);
-        if (!hasAddresses && !hasExtension)
+        if (!record || record->snapshot.null() || m_settled.contains(id))
+            continue; // removed since, or seen to
+        m_settled.insert(id);
+        const QString address = missingAddress(*record);
+        const QString extension = extensionFor(*record);
+        const bool isExtended = extension != textOf(*record, PropertyKeys::FactoryIP);
+        if (address.isEmpty() && !isExtended)
             continue;
+        NodeData device = record->data();
+        if (!address.isEmpty())
+            setAddress(device.properties, address);
+        if (isExtended)
+            device.properties.set(PropertyKeys::FactoryIP,
+                                  extension.isEmpty() ? QVariant() : QVariant(extension));
         m_memory.amend(*record, device);
         notices->updated(id);
     }
@@ -66,35 +90,33 @@ void WrittenDevices::readWaiting(const QSet<NodeID>& written)
         if (record && record->snapshot.null())
             continue; // only a relation of it waits
         m_waiting.insert(id);
-        const QString extension = record ? extensionOf(record->data()) : QString();
+        const QString extension = record ? textOf(*record, PropertyKeys::FactoryIP) : QString();
         if (FactoryExtension::isNone(extension) ||
             (written.contains(id) && !m_store.nodesWithExtension(extension).contains(id)))
             continue;
-        m_settled.insert(id);
+        m_kept.insert(id);
         m_taken.insert(extension);
     }
 }
 
-bool WrittenDevices::completeExtension(NodeData& device)
+QString WrittenDevices::extensionFor(const NodeRecord& record)
 {
-    if (m_settled.contains(device.id))
-        return false;
-    m_settled.insert(device.id);
-    const QString stored = extensionOf(device);
-    const QString first = FactoryExtension::isNone(stored) ? FactoryExtension::ofDevice(device) : stored;
+    const QString stored = textOf(record, PropertyKeys::FactoryIP);
+    if (m_kept.contains(record.summary.id()))
+        return stored;
+    const QString made = FactoryExtension::ofChannel(textOf(record, PropertyKeys::MacAddress),
+                                                     record.snapshot->intProperty(PropertyKeys::Channel, 0));
+    const QString first = FactoryExtension::isNone(stored) ? made : stored;
     if (first.isEmpty())
-        return false;
-    QString extension;
-    for (int number = 1; number <= FactoryExtension::MostAlike && extension.isEmpty(); ++number) {
+        return stored;
+    for (int number = 1; number <= FactoryExtension::MostAlike; ++number) {
         const QString candidate = FactoryExtension::numbered(first, number);
-        if (isFree(candidate))
-            extension = candidate;
+        if (isFree(candidate)) {
+            m_taken.insert(candidate);
+            return candidate;
+        }
     }
-    m_taken.insert(extension);
-    if (extension == stored)
-        return false;
-    device.properties.set(PropertyKeys::FactoryIP, extension);
-    return true;
+    return QString();
 }
 
 bool WrittenDevices::isFree(const QString& extension)

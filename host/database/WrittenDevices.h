@@ -15,18 +15,23 @@ public:
     /// Both outlive it.
     WrittenDevices(NodeStore& store, NodeMemory& memory);
 
+    /// Gives a device that is not in memory yet what it will get, if no other one has it: most need nothing
+    /// more in the commit then.
+    static void prepare(NodeData& device);
+
     /// Within a commit, with all in memory that others stored. Throws StoreFailure.
     void complete(Notices* notices);
 
 private:
     void readWaiting(const QSet<NodeID>& written);
-    bool completeExtension(NodeData& device);
+    QString extensionFor(const NodeRecord& record);
     bool isFree(const QString& extension);
 
     NodeStore& m_store;
     NodeMemory& m_memory;
     QSet<NodeID> m_waiting; ///< the nodes of which something waits: what is stored of them is of yesterday
-    QSet<NodeID> m_settled; ///< whose extension stays as it is
+    QSet<NodeID> m_kept;    ///< whose extension stays as it is
+    QSet<NodeID> m_settled; ///< that have been seen to
     QSet<QString> m_taken;  ///< by those of which something waits
 };
 

@@ -6,6 +6,7 @@
 #include "ko/PropertyKeys.h"
 #include "kogen/Property.h"
 #include "model/NetworkAddress.h"
+#include "model/PropertyList.h"
 #include "utils/NodeDBUtils.h"
 
 #include <QCoreApplication>
@@ -90,11 +91,9 @@ QVariant extension(const IPDeviceNode& node, const DeviceFacts& facts)
     const QString known = node.stringProperty(PropertyKeys::FactoryIP, QString());
     if (!FactoryExtension::isNone(known))
         return QVariant();
-    NodeData device;
     const QString ownMac = node.macAddress().toString(true);
-    device.properties.set(PropertyKeys::MacAddress, ownMac.isEmpty() ? macOf(node, facts) : ownMac);
-    device.properties.set(PropertyKeys::Channel, node.intProperty(PropertyKeys::Channel, 0));
-    const QString made = FactoryExtension::ofDevice(device);
+    const QString made = FactoryExtension::ofChannel(ownMac.isEmpty() ? macOf(node, facts) : ownMac,
+                                                     node.intProperty(PropertyKeys::Channel, 0));
     return textOrNone(made.isEmpty() ? FactoryExtension::ofSerial(facts.serial) : made);
 }
 

@@ -1,7 +1,6 @@
 #include "drivers/FactoryExtension.h"
 
 #include "ko/MACAddress.h"
-#include "ko/PropertyKeys.h"
 
 #include <algorithm>
 
@@ -47,11 +46,10 @@ QString ofSerial(const QString& serial)
 }
 
 /// Each channel of a recorder records for itself.
-QString ofDevice(const NodeData& device)
+QString ofChannel(const QString& mac, int channel)
 {
-    const QString extension = ofMac(device.properties.value(PropertyKeys::MacAddress).toString());
-    const int channel = device.properties.value(PropertyKeys::Channel).toInt();
-    return extension.isEmpty() || channel <= 0 ? extension : numbered(extension, channel);
+    const QString extension = ofMac(mac);
+    return extension.isEmpty() ? extension : numbered(extension, channel);
 }
 
 QString numbered(const QString& extension, int number)

@@ -2,7 +2,8 @@
 #define KO_FACTORYEXTENSION_H
 
 #include "HostExport.h"
-#include "model/NodeData.h"
+
+#include <QString>
 
 namespace ko {
 
@@ -24,8 +25,8 @@ KO_HOST_EXPORT QString ofMac(const QString& mac);
 /// Made of a serial number as the device tells it; empty for one that says nothing.
 KO_HOST_EXPORT QString ofSerial(const QString& serial);
 
-/// Made of what is stored of a device; empty when nothing there identifies it.
-KO_HOST_EXPORT QString ofDevice(const NodeData& device);
+/// The same for one channel of a device, counted from 1; 0 for a device without.
+KO_HOST_EXPORT QString ofChannel(const QString& mac, int channel);
 
 /// What the \a number-th device of those that would have the same gets, counted from 1.
 KO_HOST_EXPORT QString numbered(const QString& extension, int number);

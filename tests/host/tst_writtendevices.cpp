@@ -305,14 +305,16 @@ void TestWrittenDevices::imported()
 
 void TestWrittenDevices::announcedOnceItIsThere()
 {
-    const QString id = addDevice("10.0.0.1", mac);
+    addDevice("10.0.0.1", mac);
+    QVERIFY(m_db->flush());
+    const QString id = addDevice("10.0.0.2", mac);
     QString seen;
     connect(m_db.get(), &NodeDB::nodeUpdated, this, [&](const NodeID& updated) {
         if (updated == id)
             seen = extension(id);
     });
     QVERIFY(m_db->flush());
-    QCOMPARE(seen, QString("00005E1234AB"));
+    QCOMPARE(seen, QString("00005E1234AB_2"));
 }
 
 KO_TEST_MAIN(TestWrittenDevices)
