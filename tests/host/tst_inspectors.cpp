@@ -420,8 +420,9 @@ void tst_Inspectors::pageContract()
         const kogen::PropertySet after = node->properties();
         m_db->endUpdateNode(node);
         for (const auto& entry : after) {
-            const bool same =
-                before.contains(entry.first) && before[entry.first]->value() == entry.second->value();
+            // Two variants with sets are never equal by themselves.
+            const bool same = before.contains(entry.first) &&
+                              PropertyList::sameValue(before[entry.first]->value(), entry.second->value());
             const bool unfilled =
                 entry.first == text("PreferredLayout") || entry.first == text("AudioPathID");
             QVERIFY2(same || unfilled || isAmong(alwaysWritten, entry.first), qPrintable(entry.first));
