@@ -101,7 +101,7 @@ void WrittenDevices::readWaiting(const QSet<NodeID>& written)
 
 QString WrittenDevices::extensionFor(const NodeRecord& record)
 {
-    const QString stored = textOf(record, PropertyKeys::FactoryIP);
+    QString stored = textOf(record, PropertyKeys::FactoryIP);
     if (m_kept.contains(record.summary.id()))
         return stored;
     const QString made = FactoryExtension::ofChannel(textOf(record, PropertyKeys::MacAddress),
@@ -110,7 +110,7 @@ QString WrittenDevices::extensionFor(const NodeRecord& record)
     if (first.isEmpty())
         return stored;
     for (int number = 1; number <= FactoryExtension::MostAlike; ++number) {
-        const QString candidate = FactoryExtension::numbered(first, number);
+        QString candidate = FactoryExtension::numbered(first, number);
         if (isFree(candidate)) {
             m_taken.insert(candidate);
             return candidate;

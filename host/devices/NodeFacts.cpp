@@ -56,7 +56,7 @@ QVariant version(const IPDeviceNode&, const DeviceFacts& facts)
 /// The one that the node has, if it is one of the device's.
 QString macOf(const IPDeviceNode& node, const DeviceFacts& facts)
 {
-    const QString known = node.macAddress().toString(true);
+    QString known = node.macAddress().toString(true);
     if (facts.macAddresses.contains(known))
         return known;
     const auto usable =
