@@ -13,7 +13,7 @@ namespace {
 
 QString textOf(const NodeRecord& record, const QString& key)
 {
-    return record.snapshot->stringProperty(key, QString());
+    return record.contents->properties.value(key).toString();
 }
 
 /// The address of the node, if it is not among those that are known of it.
@@ -23,7 +23,9 @@ QString missingAddress(const NodeRecord& record)
     if (address == textOf(record, PropertyKeys::IP))
         return QString();
     const QString normalised = NetworkAddress::normalised(address);
-    return DeviceAddresses::read(*record.snapshot).contains(normalised) ? QString() : normalised;
+    const QVariant known = record.contents->properties.value(PropertyKeys::IPAddresses);
+    const bool isKnown = DeviceAddresses::fromSet(known.value<kogen::PropertySet>()).contains(normalised);
+    return isKnown ? QString() : normalised;
 }
 
 /// What was known at another address is of another place.
@@ -61,7 +63,7 @@ void WrittenDevices::complete(Notices* notices)
     readWaiting(QSet<NodeID>(written.cbegin(), written.cend()));
     for (const NodeID& id : written) {
         NodeRecord* record = m_memory.cache.find(id);
-        if (!record || record->snapshot.null() || m_settled.contains(id))
+        if (!record || !record->contents || m_settled.contains(id))
             continue; // removed since, or seen to
         m_settled.insert(id);
         const QString address = missingAddress(*record);
@@ -87,7 +89,7 @@ void WrittenDevices::readWaiting(const QSet<NodeID>& written)
     const QStringList ids = m_memory.pending.nodes();
     for (const NodeID& id : ids) {
         const NodeRecord* record = m_memory.cache.find(id);
-        if (record && record->snapshot.null())
+        if (record && !record->contents)
             continue; // only a relation of it waits
         m_waiting.insert(id);
         const QString extension = record ? textOf(*record, PropertyKeys::FactoryIP) : QString();
@@ -104,8 +106,9 @@ QString WrittenDevices::extensionFor(const NodeRecord& record)
     QString stored = textOf(record, PropertyKeys::FactoryIP);
     if (m_kept.contains(record.summary.id()))
         return stored;
-    const QString made = FactoryExtension::ofChannel(textOf(record, PropertyKeys::MacAddress),
-                                                     record.snapshot->intProperty(PropertyKeys::Channel, 0));
+    const QString made =
+        FactoryExtension::ofChannel(textOf(record, PropertyKeys::MacAddress),
+                                    record.contents->properties.value(PropertyKeys::Channel).toInt());
     const QString first = FactoryExtension::isNone(stored) ? made : stored;
     if (first.isEmpty())
         return stored;
