@@ -128,7 +128,8 @@ QString CameraChecking::outcome() const
         return state.state == DeviceReport::Answers && !(m_isTry && state.isOpen);
     });
     const QLocale locale;
-    QString text = m_isTry ? tr("%1 of %2 cameras took the password.") : tr("%1 of %2 cameras answer.");
+    QString text =
+        m_isTry ? tr("%1 of %2 cameras took the password.") : tr("%1 of %2 cameras answer as they should.");
     text = text.arg(locale.toString(qlonglong(good)), locale.toString(qlonglong(results.size())));
     if (m_isCancelled)
         text += QLatin1Char(' ') + tr("The check was cancelled.");

@@ -24,7 +24,7 @@ namespace ko {
 
 namespace {
 
-const int widths[] = {190, 130, 190, 260}; // the time has the rest
+const int widths[] = {170, 110, 160, 0, 160}; // the reason has the rest
 const int rowMargin = 6;
 
 } // namespace
@@ -52,9 +52,12 @@ CheckReportDialog::CheckReportDialog(const QVector<CheckedCamera>& cameras, int 
     m_view->setTabKeyNavigation(false); // Tab leaves the view
     m_view->verticalHeader()->hide();
     m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + rowMargin);
-    m_view->horizontalHeader()->setStretchLastSection(true);
-    for (int column = 0; column < int(std::size(widths)); ++column)
-        m_view->setColumnWidth(column, widths[column]);
+    for (int column = 0; column < int(std::size(widths)); ++column) {
+        if (widths[column] > 0)
+            m_view->setColumnWidth(column, widths[column]);
+        else
+            m_view->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    }
 
     QCheckBox* allCheckBox = new QCheckBox(tr("List also those that &answer"), this);
     allCheckBox->setObjectName(QStringLiteral("allCheckBox"));
