@@ -3,6 +3,9 @@
 #include "database/HostNodeDB.h"
 #include "discovery/Scanners.h"
 
+#include <QPainter>
+#include <QStyle>
+
 namespace ko {
 
 ScannerStatus::ScannerStatus(HostNodeDB& db, QWidget* parent)
@@ -38,6 +41,14 @@ QString ScannerStatus::describe(const QString& name, const ScannerState& state)
     return QString();
 }
 
+void ScannerStatus::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    style()->drawItemText(&painter, rect(), int(alignment()), palette(), isEnabled(), shown,
+                          foregroundRole());
+}
+
 void ScannerStatus::refresh()
 {
     QStringList texts;
@@ -49,6 +60,7 @@ void ScannerStatus::refresh()
         texts.append(describe(scanner->title(), state));
     }
     setText(anyStarted ? texts.join(QStringLiteral("  |  ")) : QString());
+    setToolTip(text());
 }
 
 } // namespace ko

@@ -9,7 +9,8 @@ namespace ko {
 
 class HostNodeDB;
 
-/// What the scanners of the database are doing, for the status bar. Empty until one was started.
+/// What the scanners of the database are doing, for the status bar. Empty until one was started. It is cut
+/// where others need the room, and whole in the tool tip.
 class ScannerStatus : public QLabel
 {
     Q_OBJECT
@@ -20,6 +21,11 @@ public:
 
     /// "mDNS: 3 of 5, all interfaces"
     static QString describe(const QString& name, const ScannerState& state);
+
+    QSize minimumSizeHint() const override { return QSize(0, QLabel::minimumSizeHint().height()); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void refresh();

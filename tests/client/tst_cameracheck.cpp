@@ -96,6 +96,7 @@ private slots:
     void passwordThatCannotBeReadIsNotTried();
     void manyAreChecked();
     void roomForLongTexts();
+    void lineHasRoomBesideBusyScanners();
 
 private:
     QStringList addCameras(const SimulatedSite& site, int count);
@@ -657,6 +658,23 @@ void tst_CameraCheck::roomForLongTexts()
     action("actionCheck")->trigger();
     QTRY_VERIFY_WITH_TIMEOUT(report(), Patience);
     QCOMPARE(testsupport::cutOff(report()), QStringList());
+}
+
+/// What the scanners do is told in the same line, and can wait.
+void tst_CameraCheck::lineHasRoomBesideBusyScanners()
+{
+    m_host->add(IPDeviceType, "Gate", "127.0.0.1");
+    open();
+    m_window->resize(900, 500);
+    QLabel* scanners = child<QLabel>(m_window.get(), "scannerStatus");
+    scanners->setText(
+        "mDNS: 24 of 24, all interfaces  |  ARP: 200 of 254, eth0  |  WS-Discovery: 12 of 12, eth0");
+    m_window->checking().offerToTry("12 device(s): user name and password set.",
+                                    m_host->db()->nodeIdList(AllNodeTypes));
+    QCoreApplication::processEvents();
+    const QLabel* text = child<QLabel>(m_window.get(), "checkLabel");
+    QVERIFY(text->isVisible());
+    QVERIFY2(text->width() >= text->sizeHint().width(), qPrintable(QString::number(text->width())));
 }
 
 KO_TEST_MAIN(tst_CameraCheck)
