@@ -137,7 +137,7 @@ void tst_Soak::initTestCase()
         m_cameras.append(
             m_host->add(IPDeviceType, QStringLiteral("Camera"), QStringLiteral("%1.example.org").arg(i)));
     for (const QString& id : std::as_const(m_cameras))
-        m_host->change(id, [](Node* node) { node->setStringProperty("FactoryIP", "10_1_2_3"); });
+        m_host->change(id, [&id](Node* node) { node->setStringProperty("FactoryIP", "10_1_" + id); });
     QVERIFY(m_host->db()->flush());
     QCOMPARE(m_host->db()->summaries().size(), nodes);
     m_window = std::make_unique<MainWindow>(*m_host->db());
