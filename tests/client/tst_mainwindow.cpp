@@ -1,11 +1,7 @@
+#include "client/WindowFixture.h"
 #include "support/DialogCheck.h"
-#include "support/HostFixture.h"
-#include "support/ModalAnswer.h"
 #include "support/TestMain.h"
 
-#include "MainWindow.h"
-#include "NodeListModel.h"
-#include "NodeListView.h"
 #include "NodeLogEntries.h"
 #include "audit/AuditLog.h"
 #include "dialogs/NodeOverviewDialog.h"
@@ -27,13 +23,13 @@ using namespace ko;
 using testsupport::child;
 using testsupport::ModalAnswer;
 
-class tst_MainWindow : public QObject
+class tst_MainWindow : public QObject, protected testsupport::WindowFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { openWindow(); }
+    void cleanup() { closeWindow(); }
 
     void listShowsTheNodes();
     void searchWhileTyping();
@@ -63,36 +59,9 @@ private slots:
     void roomForLongTexts();
 
 private:
-    void trigger(const char* action) { child<QAction>(m_window.get(), action)->trigger(); }
     QStringList shown() const;
     QStringList logged() const;
-    void select(const QStringList& names);
-
-    std::unique_ptr<testsupport::HostFixture> m_host;
-    std::unique_ptr<MainWindow> m_window;
-    NodeListView* m_view = nullptr;
 };
-
-void tst_MainWindow::init()
-{
-    m_host = std::make_unique<testsupport::HostFixture>();
-    m_host->add(IPDeviceType, QStringLiteral("Gate north"), QStringLiteral("10.0.0.1"));
-    m_host->add(IPDeviceType, QStringLiteral("Gate south"), QStringLiteral("10.0.0.2"));
-    m_host->add(UrlCameraType, QStringLiteral("Yard"), QStringLiteral("10.0.1.1"));
-    m_host->add(RecordingFolderType, QStringLiteral("Archive"));
-    m_host->add(ViewType, QStringLiteral("Overview"));
-    QVERIFY(m_host->db()->flush());
-    m_window = std::make_unique<MainWindow>(*m_host->db());
-    m_window->resize(900, 500);
-    m_window->show();
-    m_view = m_window->findChild<NodeListView*>();
-}
-
-void tst_MainWindow::cleanup()
-{
-    m_window.reset();
-    m_host.reset();
-}
 
 QStringList tst_MainWindow::shown() const
 {
@@ -109,18 +78,6 @@ QStringList tst_MainWindow::logged() const
     for (const AuditRecord& record : records)
         texts.append(record.code.toString() + QLatin1String(": ") + record.entry->text());
     return texts;
-}
-
-void tst_MainWindow::select(const QStringList& names)
-{
-    QStringList ids;
-    const QStringList all = m_host->db()->nodeIdList(AllNodeTypes);
-    for (const QString& id : all) {
-        if (names.contains(m_host->db()->node(id)->name()))
-            ids.append(id);
-    }
-    m_view->selectNodes(ids);
-    QCOMPARE(m_view->selectedIds().size(), ids.size());
 }
 
 void tst_MainWindow::listShowsTheNodes()

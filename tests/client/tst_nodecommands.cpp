@@ -1,10 +1,5 @@
-#include "support/HostFixture.h"
-#include "support/ModalAnswer.h"
+#include "client/WindowFixture.h"
 #include "support/TestMain.h"
-
-#include "MainWindow.h"
-#include "NodeListModel.h"
-#include "NodeListView.h"
 
 #include <QAction>
 #include <QApplication>
@@ -50,13 +45,13 @@ public slots:
 } // namespace
 
 /// What can be done with the rows of the list, beside editing them.
-class tst_NodeCommands : public QObject
+class tst_NodeCommands : public QObject, protected testsupport::WindowFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { openWindow(); }
+    void cleanup() { closeWindow(); }
 
     void columnsAreChosenAndKept();
     void rowsAreCopied();
@@ -67,48 +62,7 @@ private slots:
     void webPageNeedsAnAddress();
     void emptyDatabaseSaysWhatToDo();
     void nothingFoundShowsTheWayBack();
-
-private:
-    void trigger(const char* action) { child<QAction>(m_window.get(), action)->trigger(); }
-    void select(const QStringList& names);
-
-    std::unique_ptr<testsupport::HostFixture> m_host;
-    std::unique_ptr<MainWindow> m_window;
-    NodeListView* m_view = nullptr;
 };
-
-void tst_NodeCommands::init()
-{
-    m_host = std::make_unique<testsupport::HostFixture>();
-    m_host->add(IPDeviceType, QStringLiteral("Gate north"), QStringLiteral("10.0.0.1"));
-    m_host->add(IPDeviceType, QStringLiteral("Gate south"), QStringLiteral("10.0.0.2"));
-    m_host->add(UrlCameraType, QStringLiteral("Yard"), QStringLiteral("10.0.1.1"));
-    m_host->add(RecordingFolderType, QStringLiteral("Archive"));
-    m_host->add(ViewType, QStringLiteral("Overview"));
-    QVERIFY(m_host->db()->flush());
-    m_window = std::make_unique<MainWindow>(*m_host->db());
-    m_window->resize(900, 500);
-    m_window->show();
-    m_view = m_window->findChild<NodeListView*>();
-}
-
-void tst_NodeCommands::cleanup()
-{
-    m_window.reset();
-    m_host.reset();
-}
-
-void tst_NodeCommands::select(const QStringList& names)
-{
-    QStringList ids;
-    const QStringList all = m_host->db()->nodeIdList(AllNodeTypes);
-    for (const QString& id : all) {
-        if (names.contains(m_host->db()->node(id)->name()))
-            ids.append(id);
-    }
-    m_view->selectNodes(ids);
-    QCOMPARE(m_view->selectedIds().size(), ids.size());
-}
 
 void tst_NodeCommands::columnsAreChosenAndKept()
 {
