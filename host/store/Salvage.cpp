@@ -82,8 +82,9 @@ qint64 copyRows(sqlite3* from, sqlite3* to, const QByteArray& table, const char*
 {
     QByteArrayList common; // a table of an older version has fewer columns
     const QByteArrayList there = columns(from, table);
+    const QByteArrayList ours = columns(to, table);
     QByteArrayList places;
-    for (const QByteArray& column : columns(to, table)) {
+    for (const QByteArray& column : ours) {
         if (there.contains(column)) {
             common.append(column);
             places.append("?");
