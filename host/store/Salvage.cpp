@@ -218,7 +218,7 @@ QByteArray firstPageOf(int version, const QString& file)
     SqliteStore::open(file, &error, SqliteStore::Check::First, version).reset();
     if (error)
         throw StoreFailure{error};
-    const QByteArray page = firstPage(file);
+    QByteArray page = firstPage(file);
     StoreFile::removeWithCompanions(file);
     return page;
 }
