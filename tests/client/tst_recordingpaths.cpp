@@ -66,7 +66,10 @@ private:
     QStringList m_cameras;
 };
 
-static const QStringList extensions = {"00005E000001", "00005E000002", "00005E000003", "00005E000003_2"};
+static QStringList extensions()
+{
+    return {"00005E000001", "00005E000002", "00005E000003", "00005E000003_2"};
+}
 
 void tst_RecordingPaths::init()
 {
@@ -143,7 +146,7 @@ void tst_RecordingPaths::manyWithTheDefaultPath()
     });
     for (int i = 0; i < m_cameras.size(); ++i) {
         QCOMPARE(usage(m_cameras.at(i)), int(DefaultPath));
-        QCOMPARE(text(folder(m_cameras.at(i)), "Path"), extensions.at(i));
+        QCOMPARE(text(folder(m_cameras.at(i)), "Path"), extensions().at(i));
         playAgain(m_cameras.at(i));
     }
 }
@@ -159,7 +162,7 @@ void tst_RecordingPaths::manyWithASpecificPath()
     });
     for (int i = 0; i < m_cameras.size(); ++i) {
         QCOMPARE(usage(m_cameras.at(i)), int(OwnFolder));
-        QCOMPARE(text(folder(m_cameras.at(i)), "Path"), "\\\\server/share/" + extensions.at(i));
+        QCOMPARE(text(folder(m_cameras.at(i)), "Path"), "\\\\server/share/" + extensions().at(i));
         QCOMPARE(text(folder(m_cameras.at(i)), "User"), QString("recorder"));
         QCOMPARE(text(folder(m_cameras.at(i)), "Password"), QString("secret"));
         playAgain(m_cameras.at(i));
@@ -182,7 +185,7 @@ void tst_RecordingPaths::oneWithTheDefaultPath()
         confirm(dialog);
     });
     QCOMPARE(usage(id), int(DefaultPath));
-    QCOMPARE(text(folder(id), "Path"), extensions.at(camera));
+    QCOMPARE(text(folder(id), "Path"), extensions().at(camera));
     playAgain(id);
 }
 

@@ -175,7 +175,8 @@ void tst_CameraPages::previewSettingsAtOnce()
     QCOMPARE(int(previews().size()), isConfirmed ? 1 : 0);
     QCOMPARE(db().relatedNodes(m_camera, RecordingTransponderRelation), previews());
     if (isConfirmed)
-        QVERIFY(!db().node(previews().first())->boolProperty("RecordingTransponderQualityUseDefault", true));
+        QVERIFY(
+            !db().node(previews().constFirst())->boolProperty("RecordingTransponderQualityUseDefault", true));
 }
 
 void tst_CameraPages::previewOfItsOwnStays()
