@@ -359,13 +359,20 @@ QVector<Workload> dialogWorkloads()
          make<MassAssigning>},
         {QStringLiteral("dialog of a camera, the first since the start, to its first picture"),
          QStringLiteral("the same pages without a database"), 1.5, allSizes,
-         [](int size) { return std::make_unique<Editing>(size, Editing::When::First); }, false},
+         [](int size) { return std::make_unique<Editing>(size, Editing::When::First); }, false, 12,
+         QStringLiteral(
+             "The first look for a node makes the index of all nodes, and the list of audio sources "
+             "that of the cameras' identifiers, which both are kept.")},
         {QStringLiteral("dialog of a camera, a later one, to its first picture"),
          QStringLiteral("the same pages without a database"), 1.5, allSizes,
-         [](int size) { return std::make_unique<Editing>(size, Editing::When::Later); }, false},
+         [](int size) { return std::make_unique<Editing>(size, Editing::When::Later); }, false, 2.6,
+         QStringLiteral("The camera is looked for in the list of all, to leave it out of its own audio "
+                        "sources.")},
         {QStringLiteral("OK in that dialog, until the click returns and the disk has it"),
          QStringLiteral("the same change without a window, to disk and log"), 1.5, allSizes, make<ClickingOk>,
-         false},
+         false, 2.4,
+         QStringLiteral("The pages write each of their fields, of which one differs; the other side writes "
+                        "that one.")},
     };
 }
 
