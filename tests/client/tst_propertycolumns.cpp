@@ -38,6 +38,7 @@ private:
     int column(const QString& title) const;
     QString cell(const QString& id, const QString& title) const;
     QStringList found(const QString& search);
+    bool m_hasSearched = false;
 
     std::unique_ptr<testsupport::HostFixture> m_host;
     std::unique_ptr<MainWindow> m_window;
@@ -72,6 +73,10 @@ void tst_PropertyColumns::init()
 
 void tst_PropertyColumns::cleanup()
 {
+    // The button that clears the search fades, and the toolkit loses its animation when the field goes
+    // before.
+    if (std::exchange(m_hasSearched, false))
+        QTest::qWait(500);
     m_window.reset();
     m_host.reset();
 }
@@ -111,6 +116,7 @@ QString tst_PropertyColumns::cell(const QString& id, const QString& title) const
 
 QStringList tst_PropertyColumns::found(const QString& search)
 {
+    m_hasSearched = true;
     child<QLineEdit>(m_window.get(), "searchLineEdit")->setText(search);
     QStringList names;
     for (int row = 0; row < m_list->model()->rowCount(); ++row)

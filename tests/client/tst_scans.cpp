@@ -418,10 +418,10 @@ void tst_Scans::burstOfDevices()
     }
     HostNodeDB& db = *m_host->db();
     QVector<qint64> bytes;
-    for (int round = 0; round < 4; ++round) {
+    for (int round = 0; round < 3; ++round) {
         Scanners::of(db).intake().beginScan();
         emit Scanners::of(db).all().at(0)->found(burst);
-        QTRY_COMPARE_WITH_TIMEOUT(rows(), Count, 60000);
+        QTRY_COMPARE_WITH_TIMEOUT(rows(), Count, 90000); // it is the disk that takes most of it
         child<QAction>(m_dialog.get(), "actionRemove_all")->trigger();
         QCOMPARE(rows(), 0);
         const QVector<NodeSummary> nodes = db.summaries();
@@ -434,7 +434,7 @@ void tst_Scans::burstOfDevices()
     }
     // The first round fills what is kept for later, such as the store's cache.
     const qint64 growth = bytes.last() - bytes.at(1);
-    QVERIFY2(growth < Count * 20, qPrintable(QString::number(growth)));
+    QVERIFY2(growth < Count * 10, qPrintable(QString::number(growth)));
 }
 
 int main(int argc, char** argv)
