@@ -13,13 +13,16 @@
 
 namespace ko {
 
+class Node;
+
 /// What is in memory of one node.
 struct NodeRecord
 {
     struct Contents
     {
         PropertyList properties;
-        void* context = nullptr; ///< of the hint; null: none
+        void* context = nullptr;          ///< of the hint; null: none
+        std::shared_ptr<const Node> node; ///< with these properties; null until somebody asks for it
     };
 
     /// Its number in the store when that was last looked at, for the order only: other programs may change

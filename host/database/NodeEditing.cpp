@@ -46,8 +46,12 @@ NodeEditing::NodeEditing(NodeMemory& memory, ChangeQueue& queue, HostSettings& s
 kom::smart<const Node> NodeEditing::node(const NodeID& id)
 {
     const NodeRecord* record = read(id);
-    return record ? std::shared_ptr<const Node>(NodeTypes::createNode(record->data()))
-                  : kom::smart<const Node>();
+    if (!record)
+        return kom::smart<const Node>();
+    std::shared_ptr<const Node>& node = record->contents->node;
+    if (!node)
+        node = NodeTypes::createNode(record->data());
+    return node;
 }
 
 /// The record of the node with its properties; null if there is none or it cannot be read.

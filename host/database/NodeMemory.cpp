@@ -268,7 +268,7 @@ void NodeMemory::add(const NodeData& data, qint64 place)
     change.after = NodeValues{data.name, data.properties};
     NodeRecord& record = cache.append(change.summary);
     setData(record, data);
-    record.contents->context = data.context;
+    record.contents->context = data.context; // nobody has the node yet
     pending.nodeAdded(change);
 }
 
@@ -386,6 +386,7 @@ void NodeMemory::setData(NodeRecord& record, const NodeData& data)
     if (!record.contents)
         record.contents = std::make_unique<NodeRecord::Contents>();
     record.contents->properties = data.properties;
+    record.contents->node.reset(); // what was handed out does not change
     if (cache.lookupReady())
         cache.setLookupKey(record, NodeTypes::lookupKey(data));
 }
