@@ -1,5 +1,6 @@
 #include "../host/StoreTesting.h"
 #include "Attack.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "discovery/DeviceIntake.h"
@@ -27,7 +28,7 @@ private slots:
 
 namespace {
 
-const int Patience = 5000; // ms
+const int LongestRound = 5000; // ms
 
 QByteArray harmful(Random& random)
 {
@@ -139,7 +140,7 @@ void TestHostileLists::lists()
                  (rounds.name() + again.badLines.value(0).reason.toUtf8()).constData());
         CameraSurvey::exportCameras(path("second.csv"), CameraSurvey::Passwords::Write);
         QVERIFY2(contentOf(path("second.csv")) == contentOf(path("first.csv")), rounds.name().constData());
-        QVERIFY2(clock.elapsed() < Patience, rounds.name().constData());
+        QVERIFY2(clock.elapsed() < LongestRound, rounds.name().constData());
     }
 }
 
@@ -169,7 +170,7 @@ void TestHostileLists::announcements()
         QElapsedTimer clock;
         clock.start();
         Scanners::of(*db).intake().take(devices);
-        QTRY_VERIFY_WITH_TIMEOUT(Scanners::of(*db).intake().isIdle(), Patience);
+        KO_TRY_VERIFY(Scanners::of(*db).intake().isIdle());
         QVERIFY(db->flush());
         const QVector<NodeSummary> all = db->summaries();
         for (const NodeSummary& node : all) {

@@ -5,6 +5,7 @@
 #include "ko/IPDeviceNode.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include <QPushButton>
@@ -86,7 +87,7 @@ void AddressChangesTest::begin(const QStringList& names)
         moved.append(device);
     }
     Scanners::of(db()).intake().take(moved);
-    QTRY_COMPARE(int(Scanners::of(db()).intake().addressChanges().size()), 3);
+    KO_TRY_COMPARE(int(Scanners::of(db()).intake().addressChanges().size()), 3);
 }
 
 void AddressChangesTest::nothingIsSelectedAtFirst()

@@ -8,6 +8,7 @@
 #include "support/DialogCheck.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/ProcessResources.h"
 #include "support/SimulatedSite.h"
 #include "support/TestMain.h"
@@ -30,11 +31,10 @@
 using namespace ko;
 using testsupport::child;
 using testsupport::ModalAnswer;
+using testsupport::Patience;
 using testsupport::SimulatedSite;
 
 namespace {
-
-const int Patience = 30000; // ms
 
 /// How long the event loop stood still at most while this object lives.
 class LoopWatch
@@ -168,7 +168,7 @@ void tst_CameraCheck::check(const QStringList& ids)
     m_list->selectNodes(ids);
     action("actionCheck")->trigger();
     QVERIFY(panel()->isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(!child<QProgressBar>(m_window.get(), "checkProgressBar")->isVisible(), Patience);
+    KO_TRY_VERIFY(!child<QProgressBar>(m_window.get(), "checkProgressBar")->isVisible());
 }
 
 QString tst_CameraCheck::state(const QString& id) const
@@ -374,7 +374,7 @@ void tst_CameraCheck::otherDeviceIsAccepted()
     }));
     QVERIFY2(line().contains("1 device"), qPrintable(line()));
     press("checkButton"); // "Check Them"
-    QTRY_VERIFY_WITH_TIMEOUT(!panel()->isVisible(), Patience);
+    KO_TRY_VERIFY(!panel()->isVisible());
     QCOMPARE(state(ids.at(0)), QString("Another device than before")); // it lies each time
 }
 
@@ -393,17 +393,17 @@ void tst_CameraCheck::changedCameraIsNotChecked()
     QCOMPARE(state(ids.at(0)), QString("Answers")); // the device is the same
     setPassword(ids.at(0), "other");
     m_host->change(ids.at(1), [](Node* node) { dynamic_cast<IPDeviceNode*>(node)->setAddress("127.0.0.9"); });
-    QTRY_COMPARE(state(ids.at(0)), QString("Not checked"));
-    QTRY_COMPARE(state(ids.at(1)), QString("Not checked"));
+    KO_TRY_COMPARE(state(ids.at(0)), QString("Not checked"));
+    KO_TRY_COMPARE(state(ids.at(1)), QString("Not checked"));
 
     // While it is under way: what comes is of the password before.
     m_list->selectNodes({waiting});
     action("actionCheck")->trigger();
-    QTRY_VERIFY(held.isAsked());
+    KO_TRY_VERIFY(held.isAsked());
     setPassword(waiting, "other");
     QTest::qWait(50);
     held.release();
-    QTRY_VERIFY_WITH_TIMEOUT(!panel()->isVisible(), Patience);
+    KO_TRY_VERIFY(!panel()->isVisible());
     QCOMPARE(state(waiting), QString("Not checked")); // and not "No answer"
     QVERIFY(m_window->statusBar()->currentMessage().contains("changed while"));
 }
@@ -416,23 +416,23 @@ void tst_CameraCheck::removedMeanwhile()
     const QStringList ids = addCameras(site, 1) + QStringList(addHeld(held));
     open();
     action("actionCheck")->trigger();
-    QTRY_COMPARE_WITH_TIMEOUT(state(ids.at(0)), QString("Answers"), Patience);
-    QTRY_VERIFY(held.isAsked());
+    KO_TRY_COMPARE(state(ids.at(0)), QString("Answers"));
+    KO_TRY_VERIFY(held.isAsked());
     for (const QString& id : ids)
         m_host->db()->removeNode(id);
     held.release();
-    QTRY_VERIFY_WITH_TIMEOUT(!child<QProgressBar>(m_window.get(), "checkProgressBar")->isVisible(), Patience);
+    KO_TRY_VERIFY(!child<QProgressBar>(m_window.get(), "checkProgressBar")->isVisible());
     QCOMPARE(m_list->model()->rowCount(), 0);
     QVERIFY(!report());
 
     HeldDevice other;
     const QString only = addHeld(other);
-    QTRY_COMPARE(m_list->model()->rowCount(), 1);
+    KO_TRY_COMPARE(m_list->model()->rowCount(), 1);
     action("actionCheck")->trigger();
-    QTRY_VERIFY(other.isAsked());
+    KO_TRY_VERIFY(other.isAsked());
     m_host->db()->removeNode(only);
     other.release();
-    QTRY_VERIFY_WITH_TIMEOUT(!panel()->isVisible(), Patience);
+    KO_TRY_VERIFY(!panel()->isVisible());
 }
 
 void tst_CameraCheck::cancelled()
@@ -442,7 +442,7 @@ void tst_CameraCheck::cancelled()
     const QStringList ids = addCameras(site, 40);
     open();
     action("actionCheck")->trigger();
-    QTRY_COMPARE_WITH_TIMEOUT(state(ids.at(0)), QString("Answers"), Patience);
+    KO_TRY_COMPARE(state(ids.at(0)), QString("Answers"));
     action("actionCheck")->trigger(); // a second one waits for nobody
     QVERIFY(m_window->statusBar()->currentMessage().contains("already"));
     QElapsedTimer clock;
@@ -539,7 +539,7 @@ void tst_CameraCheck::credentialsAreTriedOnce()
     for (int i = 0; i < 3; ++i) {
         give(QString("wrong %1").arg(i));
         press("checkButton"); // "Try It"
-        QTRY_VERIFY_WITH_TIMEOUT(report(), Patience);
+        KO_TRY_VERIFY(report());
         QCOMPARE(state(ids.at(0)), QString("Wrong password"));
         QVERIFY2(line().startsWith("0 of 2 cameras took the password"), qPrintable(line()));
         // Of a try all cameras are listed.
@@ -548,7 +548,7 @@ void tst_CameraCheck::credentialsAreTriedOnce()
     }
     give("kosim-pass");
     press("checkButton");
-    QTRY_VERIFY_WITH_TIMEOUT(report(), Patience);
+    KO_TRY_VERIFY(report());
     QCOMPARE(state(ids.at(1)), QString("Locked out"));
 
     // One that wants none has not taken it.
@@ -559,7 +559,7 @@ void tst_CameraCheck::credentialsAreTriedOnce()
     delete report();
     give("kosim-pass");
     press("checkButton");
-    QTRY_VERIFY_WITH_TIMEOUT(report(), Patience);
+    KO_TRY_VERIFY(report());
     QVERIFY2(line().startsWith("1 of 2 cameras took the password"), qPrintable(line()));
     QVERIFY(child<QTableView>(report(), "camerasTableView")
                 ->model()
@@ -608,7 +608,7 @@ void tst_CameraCheck::passwordThatCannotBeReadIsNotTried()
     {
         const ModalAnswer notice([](QDialog* dialog) { dialog->reject(); }); // of what could not be read
         m_host->db()->node(ids.at(0))->stringProperty("Password", QString());
-        QTRY_VERIFY(notice.fired());
+        KO_TRY_VERIFY(notice.fired());
     }
     check();
     QCOMPARE(state(ids.at(0)), QString("Not checked"));
@@ -656,7 +656,7 @@ void tst_CameraCheck::roomForLongTexts()
     const testsupport::LongLanguage language;
     open();
     action("actionCheck")->trigger();
-    QTRY_VERIFY_WITH_TIMEOUT(report(), Patience);
+    KO_TRY_VERIFY(report());
     QCOMPARE(testsupport::cutOff(report()), QStringList());
 }
 

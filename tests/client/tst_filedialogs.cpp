@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
@@ -100,10 +101,10 @@ void tst_FileDialogs::lookAround(QFileDialog* dialog) const
     dialog->setNameFilter(QStringLiteral("All files (*)"));
     dialog->setDirectory(QFileInfo(m_host->fileName()).path());
     auto* model = dialog->findChild<QFileSystemModel*>();
-    QTRY_VERIFY(model->index(m_host->fileName(), 2).isValid());
+    KO_TRY_VERIFY(model->index(m_host->fileName(), 2).isValid());
     const QModelIndex file = model->index(m_host->fileName(), 2);
-    QTRY_VERIFY(!model->data(file).toString().isEmpty());
-    QTRY_COMPARE(model->rowCount(file.parent()), 3);
+    KO_TRY_VERIFY(!model->data(file).toString().isEmpty());
+    KO_TRY_COMPARE(model->rowCount(file.parent()), 3);
     QTest::qWait(200);
 }
 

@@ -1,6 +1,7 @@
 #include "support/Answers.h"
 #include "support/DialogCheck.h"
 #include "support/HostFixture.h"
+#include "support/Patience.h"
 #include "support/SimulatedSite.h"
 #include "support/TestMain.h"
 
@@ -27,11 +28,10 @@ using namespace ko;
 using testsupport::Answers;
 using testsupport::child;
 using testsupport::ModalAnswer;
+using testsupport::Patience;
 using testsupport::SimulatedSite;
 
 namespace {
-
-const int Patience = 30000; // ms
 
 QPushButton* button(const QDialog* dialog, QDialogButtonBox::StandardButton which)
 {

@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "AddressChangesDialog.h"
@@ -208,7 +209,7 @@ void tst_Keyboard::initTestCase()
     moved.address = "10.0.9.1";
     moved.macAddress = mac;
     Scanners::of(*db).intake().take({moved});
-    QTRY_COMPARE(int(Scanners::of(*db).intake().addressChanges().size()), 1);
+    KO_TRY_COMPARE(int(Scanners::of(*db).intake().addressChanges().size()), 1);
     for (int i = 0; i < 5; ++i)
         db->auditLog().log(NodeAddLogEntry(QString("Entry %1").arg(i)));
 }
@@ -406,7 +407,7 @@ void tst_Keyboard::viewersByKeys()
              table->model()->index(1, 1).data().toString());
     activate(node);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    QTRY_VERIFY(!node);
+    KO_TRY_VERIFY(!node);
     activate(&viewer);
     QTest::keyClick(table, Qt::Key_Escape);
     QVERIFY(!viewer.isVisible());

@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "KeychainNotice.h"
@@ -127,7 +128,7 @@ void tst_KeychainNotice::retryLooksForTheKey()
         node->setStringProperty(QStringLiteral("Password"), QStringLiteral("s3cret"));
     });
     const auto box = [&window] { return window.findChild<QMessageBox*>(QStringLiteral("storeFailedBox")); };
-    QTRY_VERIFY(box());
+    KO_TRY_VERIFY(box());
     QVERIFY2(box()->text().contains(QStringLiteral("Passwords cannot be stored")), qPrintable(box()->text()));
     QVERIFY(box()->informativeText().contains(QStringLiteral("Gate")));
     QVERIFY(obstacle.remove());
@@ -136,7 +137,7 @@ void tst_KeychainNotice::retryLooksForTheKey()
         if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Retry"))
             QTest::mouseClick(button, Qt::LeftButton);
     }
-    QTRY_VERIFY(!host.db()->hasUnstoredChanges());
+    KO_TRY_VERIFY(!host.db()->hasUnstoredChanges());
     QVERIFY(QFile::exists(m_places.keyFile));
     QCOMPARE(host.db()->node(id)->stringProperty(QStringLiteral("Password"), QString()),
              QStringLiteral("s3cret"));

@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
@@ -221,7 +222,7 @@ void tst_Mnemonics::nodeChangesElsewhere()
     const QString id = m_window->findChild<NodeListView*>()->selectedIds().value(0);
     open("actionEdit", [this, &id](QDialog* dialog) {
         m_host->change(id, [](Node* node) { node->setStringProperty("Name", "Other"); });
-        QTRY_COMPARE(child<QLineEdit>(dialog, "nameLineEdit")->text(), QString("Other"));
+        KO_TRY_COMPARE(child<QLineEdit>(dialog, "nameLineEdit")->text(), QString("Other"));
         check(dialog);
     });
 }

@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/PlainTexts.h"
 #include "support/TestMain.h"
 
@@ -119,7 +120,7 @@ void tst_PlainMessageBox::changesAreNotStored()
     const auto hint = NodeTypes::driver(IPDeviceType)->createNodeHint(IPDeviceType);
     hint->setName(QStringLiteral("<b>camera</b>"));
     m_db->newNodeHint(*hint);
-    QTRY_VERIFY(m_told.contains(QStringLiteral("<b>bold</b><img src=x>")));
+    KO_TRY_VERIFY(m_told.contains(QStringLiteral("<b>bold</b><img src=x>")));
     QCOMPARE(m_notPlain, QStringList());
     QVERIFY(m_db->flush());
 }

@@ -1,5 +1,6 @@
 #include "support/Answers.h"
 #include "support/HostFixture.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
@@ -102,7 +103,7 @@ void tst_RecordingPaths::scan()
     }
     DeviceIntake& intake = Scanners::of(*m_host->db()).intake();
     intake.take(found);
-    QTRY_VERIFY(intake.isIdle());
+    KO_TRY_VERIFY(intake.isIdle());
 }
 
 /// Two of one MAC address, as clones have it.

@@ -9,6 +9,7 @@
 #include "support/LogLines.h"
 #include "support/ModalAnswer.h"
 #include "support/NetworkNamespaces.h"
+#include "support/Patience.h"
 #include "support/ProcessResources.h"
 #include "support/TestMain.h"
 
@@ -25,8 +26,7 @@ using testsupport::ProcessResources;
 
 namespace {
 
-const int Patience = 30000; // ms
-const int Prefix = 27;      // of the cable's network, so that a sweep is short
+const int Prefix = 27; // of the cable's network, so that a sweep is short
 
 const IPDeviceNode* device(HostNodeDB& db, const QString& id, kom::smart<const Node>& holder)
 {
@@ -159,7 +159,7 @@ void tst_Scans::bonjourFindsWhatIsAnnounced()
     QTest::qWait(1000);
     QCOMPARE(rows(), 0);
     press("bonjourButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 3, Patience);
+    KO_TRY_COMPARE(rows(), 3);
     QTest::qWait(1500); // no device twice, in spite of its services and address families
     QCOMPARE(rows(), 3);
     QCOMPARE(names(),
@@ -190,7 +190,7 @@ void tst_Scans::wsDiscoveryFindsWhatAnswers()
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("12"), QStringLiteral("--model"),
                       QStringLiteral("KS-9")}));
     press("bonjourButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 12, Patience);
+    KO_TRY_COMPARE(rows(), 12);
     const QVector<NodeSummary> nodes = m_host->db()->summaries();
     for (const NodeSummary& node : nodes) {
         kom::smart<const Node> holder;
@@ -215,7 +215,7 @@ void tst_Scans::hostileMatches()
         QVERIFY(m_network->addSiteAddress(QStringLiteral("10.99.0.%1").arg(10 + i), Prefix));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("6"), QStringLiteral("--hostile")}));
     press("bonjourButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 6, Patience);
+    KO_TRY_COMPARE(rows(), 6);
     QTest::qWait(1500);
     QCOMPARE(rows(), 6);
     const QStringList where = places();
@@ -238,7 +238,7 @@ void tst_Scans::arpAsksForNamesAndModels()
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("1"), QStringLiteral("--http-port"),
                       QStringLiteral("8899"), QStringLiteral("--port"), QStringLiteral("8900")}));
     press("arpButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 1, Patience);
+    KO_TRY_COMPARE(rows(), 1);
     QCOMPARE(names(), QStringList(QStringLiteral("Camera 1")));
     QCOMPARE(places(), QStringList(QStringLiteral("10.99.0.10")));
 }
@@ -252,7 +252,7 @@ void tst_Scans::arpFindsWhatListens()
     QTest::qWait(2000);
     QCOMPARE(rows(), 0); // they do not announce themselves
     press("arpButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 3, Patience);
+    KO_TRY_COMPARE(rows(), 3);
     QCOMPARE(places(), (QStringList{QStringLiteral("10.99.0.10"), QStringLiteral("10.99.0.11"),
                                     QStringLiteral("10.99.0.12")}));
     const QVector<NodeSummary> nodes = m_host->db()->summaries();
@@ -269,11 +269,11 @@ void tst_Scans::bothScansMakeOneNode()
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("2")}));
     press("arpButton");
     press("bonjourButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 2, Patience);
+    KO_TRY_COMPARE(rows(), 2);
     Scanner* arp = Scanners::of(*m_host->db()).all().at(1);
     QCOMPARE(arp->name(), QStringLiteral("ARP"));
     QTRY_COMPARE_WITH_TIMEOUT(int(arp->state().phase), int(ScannerState::Done), 60000);
-    QTRY_VERIFY(Scanners::of(*m_host->db()).all().at(0)->state().done >= 4);
+    KO_TRY_VERIFY(Scanners::of(*m_host->db()).all().at(0)->state().done >= 4);
     QTest::qWait(1500);
     QCOMPARE(rows(), 2);
 }
@@ -285,7 +285,7 @@ void tst_Scans::hostileAnnouncements()
     QVERIFY(startSite(6));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("6"), QStringLiteral("--hostile")}));
     press("bonjourButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 6, Patience);
+    KO_TRY_COMPARE(rows(), 6);
     const QStringList all = names();
     for (const QString& name : all) {
         QVERIFY(!name.isEmpty() && name.size() <= DeviceIntake::NameLength);
@@ -312,7 +312,7 @@ void tst_Scans::sharedMacIsNoKey()
     QVERIFY(startSite(3));
     QVERIFY(simulate({QStringLiteral("--cameras"), QStringLiteral("3"), QStringLiteral("--shared-mac")}));
     press("bonjourButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 3, Patience);
+    KO_TRY_COMPARE(rows(), 3);
     QCOMPARE(names(), (QStringList{QStringLiteral("Camera 1"), QStringLiteral("Camera 2"),
                                    QStringLiteral("Camera 3")}));
 }
@@ -325,15 +325,15 @@ void tst_Scans::movedCamerasStayWhereTheyAre()
                                QStringLiteral("--move-interval"), QStringLiteral("11")});
     QVERIFY(site);
     press("bonjourButton");
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 1, Patience);
+    KO_TRY_COMPARE(rows(), 1);
     QCOMPARE(places(), QStringList(QStringLiteral("10.99.0.10")));
     press("bonjourButton"); // within one scan two addresses are two devices
     QByteArray said;
-    QTRY_VERIFY_WITH_TIMEOUT((said += site->readAllStandardOutput()).contains("at 10.99.0.11"), Patience);
+    KO_TRY_VERIFY((said += site->readAllStandardOutput()).contains("at 10.99.0.11"));
     QTest::qWait(2500); // daemons remember a withdrawn address for a second
     press("bonjourButton");
     DeviceIntake& intake = Scanners::of(*m_host->db()).intake();
-    QTRY_COMPARE_WITH_TIMEOUT(int(intake.addressChanges().size()), 1, Patience);
+    KO_TRY_COMPARE(int(intake.addressChanges().size()), 1);
     QCOMPARE(intake.addressChanges().at(0).oldAddress, QStringLiteral("10.99.0.10"));
     QCOMPARE(intake.addressChanges().at(0).newAddress, QStringLiteral("10.99.0.11"));
     QCOMPARE(places(), QStringList(QStringLiteral("10.99.0.10")));
@@ -352,7 +352,7 @@ void tst_Scans::camerasAreFoundInAStorm()
         return places().contains(QStringLiteral("10.99.0.12")) &&
                Scanners::of(*m_host->db()).all().at(0)->state().done > 300;
     };
-    QTRY_VERIFY_WITH_TIMEOUT(isFound(), Patience);
+    KO_TRY_VERIFY(isFound());
     QVERIFY(names().contains(QStringLiteral("Camera 3")));
     QVERIFY2(log.lines.size() <= 2, qPrintable(log.lines.join(QLatin1Char('\n'))));
 }
@@ -367,7 +367,7 @@ void tst_Scans::buttonsOnAndOff()
         press("arpButton");
     };
     pressBoth();
-    QTRY_COMPARE_WITH_TIMEOUT(rows(), 1, Patience);
+    KO_TRY_COMPARE(rows(), 1);
     pressBoth();
     QTest::qWait(500); // threads end by themselves
     const ProcessResources before;
@@ -376,8 +376,8 @@ void tst_Scans::buttonsOnAndOff()
         QTest::qWait(i % 10 * 10);
         pressBoth();
     }
-    QTRY_COMPARE(ProcessResources().threads, before.threads);
-    QTRY_COMPARE(ProcessResources().descriptors, before.descriptors);
+    KO_TRY_COMPARE(ProcessResources().threads, before.threads);
+    KO_TRY_COMPARE(ProcessResources().descriptors, before.descriptors);
     QCOMPARE(rows(), 1); // neither cleared nor doubled
     const QList<Scanner*> scanners = Scanners::of(*m_host->db()).all();
     for (const Scanner* scanner : scanners)
@@ -397,11 +397,11 @@ void tst_Scans::closedWhileScansRun()
     m_dialog.reset();
     const QList<Scanner*> scanners = Scanners::of(*m_host->db()).all();
     QCOMPARE(int(scanners.at(0)->state().phase), int(ScannerState::Running)); // they go on
-    QTRY_COMPARE_WITH_TIMEOUT(int(m_host->db()->summaries().size()), 1, Patience);
+    KO_TRY_COMPARE(int(m_host->db()->summaries().size()), 1);
     m_host->db()->startScanners("ARP", 0xFFFFFFFF, -1);
     m_host.reset(); // in the middle of both
-    QTRY_VERIFY(ProcessResources().threads <= before.threads);
-    QTRY_VERIFY(ProcessResources().descriptors <= before.descriptors);
+    KO_TRY_VERIFY(ProcessResources().threads <= before.threads);
+    KO_TRY_VERIFY(ProcessResources().descriptors <= before.descriptors);
 }
 
 void tst_Scans::burstOfDevices()
@@ -429,7 +429,7 @@ void tst_Scans::burstOfDevices()
         for (const NodeSummary& node : nodes)
             db.removeNode(node.id);
         QVERIFY(db.flush());
-        QTRY_VERIFY(Scanners::of(db).intake().isIdle());
+        KO_TRY_VERIFY(Scanners::of(db).intake().isIdle());
         bytes.append(testsupport::heapInUse());
     }
     // The first round fills what is kept for later, such as the store's cache.

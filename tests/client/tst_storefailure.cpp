@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
@@ -132,7 +133,7 @@ void tst_StoreFailure::retryStoresAll()
 {
     m_other->run("BEGIN IMMEDIATE");
     assign();
-    QTRY_VERIFY(failureBox());
+    KO_TRY_VERIFY(failureBox());
     QCOMPARE(assigned(), 0);
     QVERIFY(failureBox()->informativeText().contains(QStringLiteral("    Camera 0\n")));
     QVERIFY(failureBox()->informativeText().contains(QStringLiteral("more")));
@@ -142,7 +143,7 @@ void tst_StoreFailure::retryStoresAll()
         if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Retry"))
             QTest::mouseClick(button, Qt::LeftButton);
     }
-    QTRY_VERIFY(!m_host->db()->hasUnstoredChanges());
+    KO_TRY_VERIFY(!m_host->db()->hasUnstoredChanges());
     QCOMPARE(assigned(), 40);
 }
 
@@ -150,7 +151,7 @@ void tst_StoreFailure::discardLeavesAllAsTheyWere()
 {
     m_other->run("BEGIN IMMEDIATE");
     assign();
-    QTRY_VERIFY(failureBox());
+    KO_TRY_VERIFY(failureBox());
     m_other->run("ROLLBACK");
     const QList<QAbstractButton*> buttons = failureBox()->buttons();
     for (QAbstractButton* button : buttons) {
@@ -171,7 +172,7 @@ void tst_StoreFailure::namesAreShownAsTheyAre()
     m_host->change(m_cameras.constFirst(), [](Node* node) {
         node->setStringProperty(QStringLiteral("Name"), QStringLiteral("<b>%1 & %n"));
     });
-    QTRY_VERIFY(failureBox());
+    KO_TRY_VERIFY(failureBox());
     QCOMPARE(failureBox()->textFormat(), Qt::PlainText);
     QVERIFY(failureBox()->informativeText().endsWith(QStringLiteral("\n    <b>%1 & %n")));
     m_other->run("ROLLBACK");
@@ -219,7 +220,7 @@ void tst_StoreFailure::importTellsWhatIsStored()
     QVERIFY(!otherBox);
     QCOMPARE(int(m_host->db()->summaries().size()), 40 + stored);
     // What waits now is the entry of the log about those that are stored.
-    QTRY_VERIFY(failureBox());
+    KO_TRY_VERIFY(failureBox());
     QVERIFY(!failureBox()->informativeText().contains(QStringLiteral("New ")));
     m_other->run("ROLLBACK");
     const QList<QAbstractButton*> buttons = failureBox()->buttons();
@@ -227,7 +228,7 @@ void tst_StoreFailure::importTellsWhatIsStored()
         if (button->text().remove(QLatin1Char('&')) == QStringLiteral("Retry"))
             QTest::mouseClick(button, Qt::LeftButton);
     }
-    QTRY_VERIFY(!m_host->db()->hasUnstoredChanges());
+    KO_TRY_VERIFY(!m_host->db()->hasUnstoredChanges());
     QCOMPARE(m_other->run("SELECT count(*) FROM nodes").toInt(), 40 + stored);
     const QString entry = m_host->db()->auditLog().entries(0, 1, true).front().entry->text();
     QVERIFY2(entry.contains(QStringLiteral(": %1 added").arg(stored)), qPrintable(entry));

@@ -1,4 +1,5 @@
 #include "StoreTesting.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include <QDir>
@@ -340,7 +341,7 @@ void TestBadFiles::damageFoundWhileReading()
     for (const QString& id : ids)
         missing += db->node(id).null() ? 1 : 0;
     QVERIFY(missing > 0);
-    QTRY_VERIFY(damaged.count() > 0);
+    KO_TRY_VERIFY(damaged.count() > 0);
     QCOMPARE(damaged.at(0).at(0).value<StoreError>().kind, StoreError::Damaged);
     QCOMPARE(digest(m_file), before);
 }
@@ -367,7 +368,7 @@ void TestBadFiles::damageFoundBehind()
     addCamera(*db, QLatin1String("new"), QLatin1String("10.0.1.1"));
     QVERIFY(!db->flush()); // the check had no time yet
     QCOMPARE(failed.at(0).at(0).value<StoreError>().kind, StoreError::Damaged);
-    QTRY_COMPARE(checked.count(), 1);
+    KO_TRY_COMPARE(checked.count(), 1);
     QCOMPARE(checked.at(0).at(0).value<StoreError>().kind, StoreError::Damaged);
     db.reset();
     QCOMPARE(digest(m_file), before);
@@ -384,7 +385,7 @@ void TestBadFiles::soundFileCheckedBehind()
         QSignalSpy checked(db.get(), SIGNAL(checked(ko::StoreError)));
         addCamera(*db, QLatin1String("new"), QLatin1String("10.0.1.1"));
         QVERIFY(db->flush());
-        QTRY_COMPARE(checked.count(), 1);
+        KO_TRY_COMPARE(checked.count(), 1);
         QVERIFY(!checked.at(0).at(0).value<StoreError>());
         db.reset();
         QVERIFY(QFile::remove(m_file));

@@ -1,4 +1,5 @@
 #include "StoreTesting.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "audit/AuditLog.h"
@@ -184,7 +185,7 @@ void TestChangeSets::everyWayIsOneChangeSet_data()
             found.append(device);
         }
         Scanners::of(db).intake().take(found);
-        QTRY_VERIFY(Scanners::of(db).intake().isIdle());
+        KO_TRY_VERIFY(Scanners::of(db).intake().isIdle());
         QCOMPARE(db.nodeIdList(IPDeviceType).size(), 102);
     });
 }

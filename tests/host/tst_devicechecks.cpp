@@ -2,6 +2,7 @@
 
 #include "devices/DeviceCheck.h"
 #include "support/LogLines.h"
+#include "support/Patience.h"
 #include "support/ProcessResources.h"
 #include "support/SimulatedSite.h"
 
@@ -521,7 +522,7 @@ void DeviceChecksTest::channelsAreCheckedOnce()
             [&](const QVector<DeviceReport>& some) { reports += some; });
     QSignalSpy finished(&checks, &DeviceChecks::finished);
     checks.start(targets);
-    QTRY_COMPARE(finished.count(), 1);
+    KO_TRY_COMPARE(finished.count(), 1);
     QCOMPARE(int(reports.size()), 16);
     QCOMPARE(checks.done(), 16);
     QVERIFY(!checks.isRunning());
@@ -546,7 +547,7 @@ void DeviceChecksTest::refusedPasswordIsNotFollowedByOthers()
             [&](const QVector<DeviceReport>& some) { reports += some; });
     QSignalSpy finished(&checks, &DeviceChecks::finished);
     checks.start(targets);
-    QTRY_COMPARE(finished.count(), 1);
+    KO_TRY_COMPARE(finished.count(), 1);
     QCOMPARE(device.tries(), 1);
     int refused = 0;
     for (const DeviceReport& report : qAsConst(reports))
@@ -585,8 +586,8 @@ void DeviceChecksTest::cancelIsAtOnce()
     clock.start();
     checks.reset();
     QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
-    QTRY_VERIFY(ProcessResources().threads <= before.threads);
-    QTRY_VERIFY(ProcessResources().descriptors <= before.descriptors);
+    KO_TRY_VERIFY(ProcessResources().threads <= before.threads);
+    KO_TRY_VERIFY(ProcessResources().descriptors <= before.descriptors);
 }
 
 /// KO_CHECKS=10000 is the whole promise; fewer are checked in each run.

@@ -12,6 +12,7 @@
 #include "network/NetworkText.h"
 #include "support/HostFixture.h"
 #include "support/LogLines.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include <QElapsedTimer>
@@ -322,7 +323,7 @@ void DeviceIntakeTest::scannersAreCalledByName()
     db().startScanners("mDNS", 0xFFFFFFFF, -1);
     QCOMPARE(scanner->starts, QStringList{QStringLiteral("ffffffff -1")});
     emit scanner->found({seen(QStringLiteral("A"), QStringLiteral("10.0.0.7"))});
-    QTRY_COMPARE(ids().size(), 1);
+    KO_TRY_COMPARE(ids().size(), 1);
     db().stopScanners("ARP");
     QCOMPARE(scanner->stops, 0);
     db().stopScanners("mDNS");

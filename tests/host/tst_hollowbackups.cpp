@@ -1,4 +1,5 @@
 #include "StoreTesting.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "store/StoreBackup.h"
@@ -169,7 +170,7 @@ void TestHollowBackups::numbersThatOtherNodesHad()
     const QStringList before = db->nodeIdList(AllNodeTypes);
     QSignalSpy removed(db.get(), SIGNAL(nodeRemoved(ko::NodeID)));
     QVERIFY2(StoreBackup::restore(other, m_file, &m_error), qPrintable(m_error.detail));
-    QTRY_COMPARE(removed.count(), int(before.size()));
+    KO_TRY_COMPARE(removed.count(), int(before.size()));
     QCOMPARE(db->nodeIdList(AllNodeTypes), QStringList(door));
     QCOMPARE(text(*db, door, "Model"), QLatin1String("of the door"));
     setText(*db, door, "Model", QLatin1String("changed"));

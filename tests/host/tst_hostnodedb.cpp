@@ -3,6 +3,7 @@
 #include "ko/Environments.h"
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/PropertyKeys.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include <QEventLoop>
@@ -751,7 +752,7 @@ void TestHostNodeDB::unreadableNodeIsNull()
     QVERIFY(m_db->node(id).null());
     QVERIFY(!m_db->beginUpdateNode(id, -1));
     QCOMPARE(m_db->summary(id).name, QLatin1String("a"));
-    QTRY_COMPARE(damaged.count(), 1);
+    KO_TRY_COMPARE(damaged.count(), 1);
     QVERIFY(!damaged.at(0).at(0).value<StoreError>().message.isEmpty());
     plain.run(QLatin1String("ALTER TABLE elsewhere RENAME TO properties"));
     QCOMPARE(m_db->node(id)->name(), QLatin1String("a"));

@@ -2,6 +2,7 @@
 #include "discovery/MdnsTxt.h"
 #include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
+#include "support/Patience.h"
 #include "support/ProcessResources.h"
 #include "support/TestMain.h"
 
@@ -164,7 +165,7 @@ void MdnsScannerTest::missingBusIsSaidOnce()
     MdnsScanner scanner;
     scanner.start(0xFFFFFFFF, -1);
     QCOMPARE(int(scanner.state().phase), int(ScannerState::Running));
-    QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Unavailable), 10000);
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
     QVERIFY(!scanner.state().reason.isEmpty());
     QTest::qWait(4500); // two more attempts
     QCOMPARE(log.lines.size(), 1);
@@ -186,21 +187,21 @@ void MdnsScannerTest::devicesAreFound()
     connect(&scanner, &Scanner::found, this,
             [&found](const QVector<DiscoveredDevice>& some) { found += some; });
     scanner.start(0xFFFFFFFF, -1);
-    QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 15000);
+    KO_TRY_VERIFY(!found.isEmpty());
     QCOMPARE(found.at(0).name, QStringLiteral("Gate"));
     QCOMPARE(found.at(0).port, 8554);
     QCOMPARE(found.at(0).service, QStringLiteral("_rtsp._tcp"));
     QCOMPARE(found.at(0).model, QStringLiteral("M10"));
     QCOMPARE(found.at(0).macAddress, QStringLiteral("00:11:22:33:44:55"));
     QVERIFY(!found.at(0).address.isEmpty());
-    QTRY_VERIFY(scanner.state().done >= 1);
+    KO_TRY_VERIFY(scanner.state().done >= 1);
     scanner.stop();
     const int count = int(found.size());
     QTest::qWait(300);
     QCOMPARE(int(found.size()), count);
     found.clear();
     scanner.start(0xFFFFFFFF, -1); // and again
-    QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 15000);
+    KO_TRY_VERIFY(!found.isEmpty());
     QVERIFY(log.lines.filter(QStringLiteral("hidden")).isEmpty());
     end(publisher);
 }
@@ -220,13 +221,13 @@ void MdnsScannerTest::daemonComesAndGoes()
         QVERIFY(startDaemon());
         QProcess publisher;
         QVERIFY(publish(publisher, QStringLiteral("Gate"), 8554));
-        QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 20000);
-        QTRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
+        KO_TRY_VERIFY(!found.isEmpty());
+        KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
         end(publisher);
         end(m_daemon);
         found.clear();
     }
-    QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Unavailable), 10000);
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
     QCOMPARE(scanner.state().reason, QStringLiteral("the Avahi daemon is not running"));
     end(m_bus); // the bus itself goes
     QTest::qWait(2500);
@@ -246,7 +247,7 @@ void MdnsScannerTest::limitAndInterfaces()
     connect(&scanner, &Scanner::found, this,
             [&found](const QVector<DiscoveredDevice>& some) { found += some; });
     scanner.start(0xFFFFFFFF, 1);
-    QTRY_VERIFY_WITH_TIMEOUT(scanner.state().done >= 2, 15000);
+    KO_TRY_VERIFY(scanner.state().done >= 2);
     QCOMPARE(int(found.size()), 1);
     scanner.stop();
     found.clear();
@@ -272,7 +273,7 @@ void MdnsScannerTest::onAndOffLeavesNothing()
         QTest::qWait(i % 10 * 3);
         scanner.stop();
     }
-    QTRY_VERIFY(ProcessResources() == before);
+    KO_TRY_VERIFY(ProcessResources() == before);
 }
 
 void MdnsScannerTest::daemonThatHangsHoldsNobodyUp()
@@ -298,20 +299,20 @@ void MdnsScannerTest::daemonThatHangsHoldsNobodyUp()
     }
     QVERIFY2(longest < Instant, qPrintable(QString::number(longest)));
     // The first waits for its answer; the others did not even ask.
-    QTRY_COMPARE(ProcessResources().threads, before.threads + 1);
+    KO_TRY_COMPARE(ProcessResources().threads, before.threads + 1);
 
     QVector<DiscoveredDevice> found;
     connect(scanner.get(), &Scanner::found, this,
             [&found](const QVector<DiscoveredDevice>& some) { found += some; });
     scanner->start(0xFFFFFFFF, -1);
-    QTRY_COMPARE(int(scanner->state().phase), int(ScannerState::Unavailable));
+    KO_TRY_COMPARE(int(scanner->state().phase), int(ScannerState::Unavailable));
     QCOMPARE(scanner->state().reason, QStringLiteral("the Avahi daemon does not answer"));
     stopped.goOn();
-    QTRY_VERIFY_WITH_TIMEOUT(!found.isEmpty(), 15000);
-    QTRY_COMPARE(int(scanner->state().phase), int(ScannerState::Running));
+    KO_TRY_VERIFY(!found.isEmpty());
+    KO_TRY_COMPARE(int(scanner->state().phase), int(ScannerState::Running));
     scanner.reset();
-    QTRY_COMPARE(ProcessResources().threads, before.threads);
-    QTRY_VERIFY(ProcessResources().descriptors <= before.descriptors); // that of the publisher may close
+    KO_TRY_COMPARE(ProcessResources().threads, before.threads);
+    KO_TRY_VERIFY(ProcessResources().descriptors <= before.descriptors); // that of the publisher may close
     QCOMPARE(log.lines, QStringList());
     end(publisher);
 }

@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "dialogs/GenericNodeViewer.h"
@@ -125,7 +126,7 @@ void tst_NodeBrowsing::closeDeletesTheViewer()
     QPointer<GenericNodeViewer> viewer(new GenericNodeViewer("unknown", nullptr));
     viewer->show();
     QTest::mouseClick(child<QPushButton>(viewer, "closeButton"), Qt::LeftButton);
-    QTRY_VERIFY(viewer.isNull());
+    KO_TRY_VERIFY(viewer.isNull());
 }
 
 void tst_NodeBrowsing::viewerForm()

@@ -1,3 +1,4 @@
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "recording/KoFFSDevice.h"
@@ -155,7 +156,7 @@ void tst_VolumeProbe::markerThatIsAPipe()
     QVERIFY(writer.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     writer.write("KoFFS 1\n");
     writer.close();
-    QTRY_VERIFY(VolumeProbe::isVolume(m_folder.path()));
+    KO_TRY_VERIFY(VolumeProbe::isVolume(m_folder.path()));
 }
 
 void tst_VolumeProbe::volumeThatHangs()
@@ -178,7 +179,7 @@ void tst_VolumeProbe::volumeThatHangs()
     QVERIFY(timer.elapsed() < 100 * VolumeProbe::Patience / 10); // nobody waits for it a second time
     QCOMPARE(looks->load(), 1);
     *release = true;
-    QTRY_VERIFY(VolumeProbe::isVolume(QStringLiteral("/")));
+    KO_TRY_VERIFY(VolumeProbe::isVolume(QStringLiteral("/")));
     QCOMPARE(looks->load(), 1);
 }
 

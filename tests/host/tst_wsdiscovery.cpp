@@ -4,6 +4,7 @@
 #include "network/SoapWalk.h"
 #include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
+#include "support/Patience.h"
 #include "support/ProcessResources.h"
 #include "support/TestMain.h"
 
@@ -20,8 +21,6 @@ using testsupport::NetworkNamespaces;
 using testsupport::ProcessResources;
 
 namespace {
-
-const int Patience = 20000; // ms
 
 QByteArray envelope(const QByteArray& body)
 {
@@ -300,14 +299,14 @@ void WsDiscoveryTest::withoutNetworkItIsSaidOnce()
     QCOMPARE(scanner.name(), QString("mDNS"));
     QCOMPARE(scanner.title(), QString("WS-Discovery"));
     scanner.start(0xFFFFFFFF, -1);
-    QTRY_COMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
     QCOMPARE(scanner.state().reason, QString("no network takes multicast"));
     QTest::qWait(6000); // it tries again
     QCOMPARE(int(log.lines.size()), 1);
     QVERIFY(log.lines.at(0).startsWith("WS-Discovery waits for a network that takes multicast: "));
     NetworkNamespaces network;
     QVERIFY2(network.connectSite(), qPrintable(network.error()));
-    QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Running), Patience);
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
     scanner.stop();
     QCOMPARE(int(scanner.state().phase), int(ScannerState::Cancelled));
 }
@@ -325,7 +324,7 @@ void WsDiscoveryTest::probesGoOutAndAreRepeated()
     WsDiscoveryScanner scanner;
     const Reports reports(scanner);
     scanner.start(0xFFFFFFFF, -1);
-    QTRY_COMPARE(int(camera.questions.size()), 6); // two kinds, and two repeats of each
+    KO_TRY_COMPARE(int(camera.questions.size()), 6); // two kinds, and two repeats of each
     QTest::qWait(1000);
     QCOMPARE(int(camera.questions.size()), 6);
     QCOMPARE(int(alone.questions.size()), 2);
@@ -336,7 +335,7 @@ void WsDiscoveryTest::probesGoOutAndAreRepeated()
     QCOMPARE(scanner.state().done, 1);
     scanner.stop();
     scanner.start(0, -1); // none of the interfaces
-    QTRY_COMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
     QCOMPARE(int(camera.questions.size()), 6);
 }
 
@@ -348,7 +347,7 @@ void WsDiscoveryTest::deviceThatGreetsIsFound()
     WsDiscoveryScanner scanner;
     const Reports reports(scanner);
     scanner.start(0xFFFFFFFF, -1);
-    QTRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
     QTest::qWait(1500); // it has asked all that it asks
     Camera camera(WsDiscovery::Port, QHostAddress("10.99.0.1"));
     camera.answer = matches(match("http://10.99.0.1/", "onvif://www.onvif.org/name/New"));
@@ -359,7 +358,7 @@ void WsDiscoveryTest::deviceThatGreetsIsFound()
     socket.setSocketOption(QAbstractSocket::MulticastLoopbackOption, 1);
     socket.setMulticastInterface(QNetworkInterface::interfaceFromName(NetworkNamespaces::hereInterface()));
     QVERIFY(socket.writeDatagram(envelope(hello), QHostAddress(WsDiscovery::Group), WsDiscovery::Port) > 0);
-    QTRY_COMPARE(placesOf(reports.devices), QString("10.99.0.1 80"));
+    KO_TRY_COMPARE(placesOf(reports.devices), QString("10.99.0.1 80"));
     QCOMPARE(reports.devices.at(0).name, QString("New"));
     QCOMPARE(int(camera.questions.size()), 2); // it was asked itself
 }
@@ -378,10 +377,10 @@ void WsDiscoveryTest::limitEndsTheScan()
     WsDiscoveryScanner scanner;
     const Reports reports(scanner);
     scanner.start(0xFFFFFFFF, 4);
-    QTRY_COMPARE(int(scanner.state().phase), int(ScannerState::Done));
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Done));
     QCOMPARE(int(reports.devices.size()), 4);
     scanner.start(0xFFFFFFFF, 4); // again
-    QTRY_COMPARE(int(reports.devices.size()), 8);
+    KO_TRY_COMPARE(int(reports.devices.size()), 8);
 }
 
 /// The far end of the cable has nothing that listens but a responder, at a port that no sweep looks at.
@@ -398,11 +397,11 @@ void WsDiscoveryTest::arpScanAsksWhoIsThere()
     const QString ready = folder.filePath(QStringLiteral("ready"));
     network.launch(NetworkNamespaces::Site, QStringLiteral("python3"),
                    {QStringLiteral("-c"), script, QString::fromUtf8(answer), ready});
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(ready), Patience);
+    KO_TRY_VERIFY(QFile::exists(ready));
     ArpScanner scanner;
     const Reports reports(scanner);
     scanner.start(0xFFFFFFFF, -1);
-    QTRY_COMPARE_WITH_TIMEOUT(int(scanner.state().phase), int(ScannerState::Done), Patience);
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Done));
     QVERIFY(!reports.devices.isEmpty());
     const DiscoveredDevice& device = reports.devices.at(0);
     QCOMPARE(device.address, QString("10.99.0.2"));
@@ -418,7 +417,7 @@ void WsDiscoveryTest::onAndOffLeavesNothing()
     QVERIFY2(network.connectSite(), qPrintable(network.error()));
     WsDiscoveryScanner scanner;
     scanner.start(0xFFFFFFFF, -1);
-    QTRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
+    KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Running));
     scanner.stop();
     const ProcessResources before;
     for (int i = 0; i < 100; ++i) {
@@ -429,7 +428,7 @@ void WsDiscoveryTest::onAndOffLeavesNothing()
         scanner.stop();
         QVERIFY(clock.elapsed() < 500);
     }
-    QTRY_VERIFY(ProcessResources().threads <= before.threads);
+    KO_TRY_VERIFY(ProcessResources().threads <= before.threads);
     QVERIFY(ProcessResources().descriptors <=
             before.descriptors); // fewer when a process of the test has gone
 }

@@ -8,6 +8,7 @@
 #include "ko/dialogFlags.h"
 #include "support/DialogCheck.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/SmallInspector.h"
 #include "support/TestMain.h"
 
@@ -424,8 +425,8 @@ private slots:
         typeBox(*dialog)->setCurrentIndex(1);
         QVERIFY(inspectorOf(*dialog)->isVisible());
         QVERIFY(dialog->height() > emptyHeight);
-        QTRY_COMPARE(inspectorOf(*dialog)->geometry(),
-                     child<QWidget>(dialog.get(), "containerWidget")->rect());
+        KO_TRY_COMPARE(inspectorOf(*dialog)->geometry(),
+                       child<QWidget>(dialog.get(), "containerWidget")->rect());
         typeBox(*dialog)->setCurrentIndex(0);
         QCOMPARE(dialog->height(), emptyHeight);
         QCOMPARE(log.lines.count(), 2);

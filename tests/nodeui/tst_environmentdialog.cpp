@@ -4,6 +4,7 @@
 #include "ko/dialogFlags.h"
 #include "support/DialogCheck.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/SmallHost.h"
 #include "support/TestMain.h"
 
@@ -67,7 +68,7 @@ struct Shown
     {
         QTest::keyClicks(editor(), text);
         QTest::keyClick(editor(), end);
-        QTRY_VERIFY(!editor());
+        KO_TRY_VERIFY(!editor());
     }
 
     void press(QDialogButtonBox::StandardButton button)
@@ -252,7 +253,7 @@ private slots:
         QTest::keyClick(shown.editor(), Qt::Key_Home);
         QTest::keyClick(shown.editor(), Qt::Key_Delete);
         QTest::keyClick(shown.editor(), Qt::Key_Return);
-        QTRY_VERIFY(!shown.editor());
+        KO_TRY_VERIFY(!shown.editor());
         QCOMPARE(shown.list->count(), 3);
         QCOMPARE(shown.idOf("ffice"), QString("{o}"));
     }
@@ -311,7 +312,7 @@ private slots:
         QTest::mouseClick(shown.add, Qt::LeftButton);
         QVERIFY(shown.dialog->dirty());
         QVERIFY(shown.editor());
-        QTRY_VERIFY(shown.editor()->hasFocus());
+        KO_TRY_VERIFY(shown.editor()->hasFocus());
         QVERIFY(shown.editor()->text().startsWith("Untitled "));
         QCOMPARE(shown.editor()->selectedText(), shown.editor()->text());
         shown.type("Cellar", Qt::Key_Return);
@@ -354,7 +355,7 @@ private slots:
         const int first = shown.editor()->text().section(' ', 1).toInt();
         QVERIFY(first >= 1);
         QTest::mouseClick(shown.add, Qt::LeftButton);
-        QTRY_COMPARE(shown.editor()->text(), QString("Untitled %1").arg(first + 1));
+        KO_TRY_COMPARE(shown.editor()->text(), QString("Untitled %1").arg(first + 1));
         QTest::keyClick(shown.editor(), Qt::Key_Escape);
         shown.press(QDialogButtonBox::Cancel);
 

@@ -6,15 +6,20 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
+#include <net/if.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace testsupport {
 
 namespace {
 
+const char HereInterface[] = "here0";
 const char InsideVariable[] = "KO_TEST_INSIDE_NAMESPACES";
 
 /// The daemons' own configuration would ask for users and folders that a bare system does not have.
@@ -114,6 +119,11 @@ void NetworkNamespaces::enter(char** argv)
     execute(command);
 }
 
+QString NetworkNamespaces::hereInterface()
+{
+    return QLatin1String(HereInterface);
+}
+
 QString NetworkNamespaces::missing()
 {
     return reason();
@@ -195,7 +205,24 @@ bool NetworkNamespaces::connectSite(int prefix)
            ip(Here, QStringLiteral("addr add 10.99.0.1/%1 dev %2").arg(prefix).arg(hereInterface())) &&
            addSiteAddress(QStringLiteral("10.99.0.2"), prefix) &&
            ip(Here, QStringLiteral("link set %1 up").arg(hereInterface())) &&
-           ip(Site, QStringLiteral("link set %1 up").arg(siteInterface()));
+           ip(Site, QStringLiteral("link set %1 up").arg(siteInterface())) && waitForCarrier();
+}
+
+bool NetworkNamespaces::waitForCarrier()
+{
+    // The kernel may report it late: while it takes another network down, and at most once a second.
+    const auto isRunning = [] {
+        ifreq request = {};
+        std::copy_n(HereInterface, sizeof HereInterface, request.ifr_name);
+        const int any = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+        const bool isKnown = ioctl(any, SIOCGIFFLAGS, &request) == 0;
+        close(any);
+        return isKnown && (request.ifr_flags & IFF_RUNNING) != 0;
+    };
+    if (QTest::qWaitFor(isRunning, 10000))
+        return true;
+    m_error = QStringLiteral("the cable has no carrier");
+    return false;
 }
 
 bool NetworkNamespaces::addSiteAddress(const QString& address, int prefix)

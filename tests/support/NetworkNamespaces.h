@@ -29,7 +29,8 @@ public:
     NetworkNamespaces() = default;
     ~NetworkNamespaces();
 
-    /// Lays the cable: 10.99.0.1 here and 10.99.0.2 at the site, with this prefix. False with an error().
+    /// Lays the cable: 10.99.0.1 here and 10.99.0.2 at the site, with this prefix, and waits until it
+    /// carries. False with an error().
     bool connectSite(int prefix = 24);
 
     /// Bus and daemon on both sides.
@@ -45,7 +46,7 @@ public:
     QProcess* launch(Side side, const QString& program, const QStringList& arguments);
     static void end(QProcess* process);
 
-    static QString hereInterface() { return QStringLiteral("here0"); }
+    static QString hereInterface();
     static QString siteInterface() { return QStringLiteral("site0"); }
     QString error() const { return m_error; }
 
@@ -54,6 +55,7 @@ private:
 
     QStringList inside(Side side, const QString& program, const QStringList& arguments) const;
     bool startDaemons(Side side);
+    bool waitForCarrier();
 
     qint64 m_site = 0; ///< process that keeps its namespaces
     bool m_isConnected = false;
