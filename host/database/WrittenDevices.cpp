@@ -4,6 +4,7 @@
 #include "drivers/FactoryExtension.h"
 #include "ko/PropertyKeys.h"
 #include "model/NetworkAddress.h"
+#include "model/NumberedTexts.h"
 
 #include <algorithm>
 
@@ -24,7 +25,7 @@ QString missingAddress(const NodeRecord& record)
         return QString();
     const QString normalised = NetworkAddress::normalised(address);
     const QVariant known = record.contents->properties.value(PropertyKeys::IPAddresses);
-    const bool isKnown = DeviceAddresses::fromSet(known.value<kogen::PropertySet>()).contains(normalised);
+    const bool isKnown = NumberedTexts::fromSet(known.value<kogen::PropertySet>()).contains(normalised);
     return isKnown ? QString() : normalised;
 }
 

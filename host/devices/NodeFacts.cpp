@@ -4,8 +4,8 @@
 #include "drivers/FactoryExtension.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/PropertyKeys.h"
-#include "kogen/Property.h"
 #include "model/NetworkAddress.h"
+#include "model/NumberedTexts.h"
 #include "model/PropertyList.h"
 #include "utils/NodeDBUtils.h"
 
@@ -25,15 +25,6 @@ namespace {
 const QLatin1String Channels("Channels");       // int: video sources
 const QLatin1String Resolutions("Resolutions"); // a set of strings
 const QLatin1String CanTurn("CanTurn");         // bool
-
-kogen::PropertySet setOf(const QStringList& texts)
-{
-    kogen::PropertySet set;
-    for (int i = 0; i < texts.size(); ++i)
-        set.insert(kom::makeSmart<kogen::StringProperty>(
-            QString::number(i + 1).rightJustified(2, QLatin1Char('0')), texts.at(i)));
-    return set;
-}
 
 /// An invalid value where the device tells nothing, or nothing that is fit for the node.
 typedef QVariant (*Told)(const IPDeviceNode& node, const DeviceFacts& facts);
@@ -117,7 +108,7 @@ QVariant resolutions(const IPDeviceNode&, const DeviceFacts& facts)
                                      : known);
     }
     texts.removeDuplicates();
-    return texts.isEmpty() ? QVariant() : QVariant::fromValue(setOf(texts));
+    return texts.isEmpty() ? QVariant() : QVariant::fromValue(NumberedTexts::toSet(texts));
 }
 
 /// Whether credentials for \a node may go there: a device may name anybody's address.
@@ -198,7 +189,7 @@ bool isCurrent(const Node& node, const NodeFact& fact)
 void write(Node& node, const NodeFact& fact)
 {
     if (fact.key == PropertyKeys::IPAddresses)
-        DeviceAddresses::write(node, DeviceAddresses::fromSet(fact.after.value<kogen::PropertySet>()));
+        DeviceAddresses::write(node, NumberedTexts::fromSet(fact.after.value<kogen::PropertySet>()));
     else
         node.addProperty(*PropertyList::toProperty(fact.key, fact.after));
 }
@@ -215,7 +206,7 @@ QString text(const QVariant& value)
     if (value.userType() == QMetaType::Bool)
         return QCoreApplication::translate("NodeFacts", value.toBool() ? "yes" : "no");
     if (value.userType() == qMetaTypeId<kogen::PropertySet>())
-        return DeviceAddresses::fromSet(value.value<kogen::PropertySet>()).join(QLatin1String(", "));
+        return NumberedTexts::fromSet(value.value<kogen::PropertySet>()).join(QLatin1String(", "));
     return value.toString();
 }
 

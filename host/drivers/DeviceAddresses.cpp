@@ -2,7 +2,7 @@
 
 #include "ko/PropertyAccess.h"
 #include "ko/PropertyKeys.h"
-#include "kogen/Property.h"
+#include "model/NumberedTexts.h"
 #include "network/NetworkText.h"
 
 #include <algorithm>
@@ -13,7 +13,8 @@ namespace DeviceAddresses {
 
 QStringList read(const PropertyAccess& device)
 {
-    return fromSet(device.propertySetProperty(PropertyKeys::IPAddresses, kogen::PropertySet()));
+    return NumberedTexts::fromSet(
+        device.propertySetProperty(PropertyKeys::IPAddresses, kogen::PropertySet()));
 }
 
 void write(PropertyAccess& device, const QStringList& addresses)
@@ -40,23 +41,9 @@ QStringList merged(const QStringList& known, const QStringList& seen)
     return all;
 }
 
-/// The names of the entries keep their order.
 kogen::PropertySet toSet(const QStringList& addresses)
 {
-    kogen::PropertySet set;
-    for (int i = 0; i < std::min<int>(Most, int(addresses.size())); ++i) {
-        const QString name = QString::number(i + 1).rightJustified(2, QLatin1Char('0'));
-        set.insert(kom::makeSmart<kogen::StringProperty>(name, addresses.at(i)));
-    }
-    return set;
-}
-
-QStringList fromSet(const kogen::PropertySet& set)
-{
-    QStringList addresses;
-    for (const auto& entry : set)
-        addresses.append(entry.second->value().toString());
-    return addresses;
+    return NumberedTexts::toSet(addresses.mid(0, Most));
 }
 
 } // namespace DeviceAddresses

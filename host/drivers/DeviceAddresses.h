@@ -25,9 +25,8 @@ KO_HOST_EXPORT void write(PropertyAccess& device, const QStringList& addresses);
 /// ones are gone.
 KO_HOST_EXPORT QStringList merged(const QStringList& known, const QStringList& seen);
 
-/// As the property "IPAddresses".
+/// As the property "IPAddresses", cut to the limit.
 kogen::PropertySet toSet(const QStringList& addresses);
-QStringList fromSet(const kogen::PropertySet& set);
 
 } // namespace DeviceAddresses
 

@@ -1,5 +1,6 @@
 #include "exchange/CameraSurvey.h"
 
+#include "devices/NodeTarget.h"
 #include "exchange/CsvWriter.h"
 #include "exchange/ExportFile.h"
 #include "exchange/FileName.h"
@@ -10,7 +11,6 @@
 #include "exchange/SurveyImport.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
-#include "ko/PropertyKeys.h"
 #include "model/Redaction.h"
 #include "secrets/Secrets.h"
 
@@ -65,15 +65,6 @@ bool canBeToldApart(const IPDeviceNode& device)
     return !device.name().trimmed().isEmpty() || !device.address().trimmed().isEmpty();
 }
 
-/// There is one, and it is shown empty.
-bool hasUnreadPassword(const IPDeviceNode& device)
-{
-    if (!device.password(0).isEmpty())
-        return false;
-    const auto stored = device.properties()[PropertyKeys::Password];
-    return !stored.null() && !stored->value().toString().isEmpty();
-}
-
 QString nameOf(const IPDeviceNode& device)
 {
     return device.name().trimmed().isEmpty() ? device.address() : device.name();
@@ -96,7 +87,7 @@ bool writeDevices(QIODevice* file, const QStringList& ids, Passwords passwords, 
         if (device.null())
             continue;
         const bool wanted = canBeToldApart(*device);
-        if (wanted && passwords == Passwords::Write && hasUnreadPassword(*device))
+        if (wanted && passwords == Passwords::Write && NodeTarget::hasUnreadPassword(*device))
             unread.add(nameOf(*device));
         good = !wanted || writer.writeRecord(record(*device, passwords));
         ++(wanted ? result->written : result->skipped);
