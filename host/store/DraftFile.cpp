@@ -102,7 +102,7 @@ void DraftFile::removeLeftovers(const QString& database, const QString& folder)
     }
     // What was saved of a damaged database, for a user who does not look at it for a day.
     const QFileInfoList folders =
-        info.dir().entryInfoList({info.fileName() + QLatin1String(".recovery-??????")}, QDir::Dirs);
+        info.dir().entryInfoList({info.fileName() + QLatin1String(".recovery.??????")}, QDir::Dirs);
     for (const QFileInfo& saved : folders) {
         if (saved.lastModified() < youngest.addDays(-1))
             QDir(saved.filePath()).removeRecursively();

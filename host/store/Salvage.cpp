@@ -226,7 +226,7 @@ QByteArray firstPageOf(int version, const QString& file)
 } // namespace
 
 Salvage::Salvage(const QString& database)
-    : m_folder(database + QLatin1String(".recovery-XXXXXX"))
+    : m_folder(database + QLatin1String(".recovery"))
 {
     try {
         run(database);
