@@ -1,6 +1,6 @@
 #include "KeychainNotice.h"
 
-#include "secrets/Secrets.h"
+#include "secrets/Keyring.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -21,18 +21,18 @@ QString translated(const char* text)
 KeychainNotice::KeychainNotice(Way way)
     : m_way(way)
 {
-    Secrets::setKeychainWait(this);
+    Keyring::ofInstallation().setKeychainWait(this);
 }
 
 KeychainNotice::~KeychainNotice()
 {
-    Secrets::setKeychainWait(nullptr);
+    Keyring::ofInstallation().setKeychainWait(nullptr);
 }
 
 bool KeychainNotice::prepare()
 {
     m_starting = true;
-    Secrets::prepare();
+    Keyring::ofInstallation().prepare();
     m_starting = false;
     return !m_quit;
 }

@@ -4,14 +4,14 @@
 #include "drivers/NodeTypes.h"
 #include "ko/NodeHint.h"
 #include "recording/VolumeProbe.h"
-#include "secrets/Secrets.h"
+#include "secrets/Vault.h"
 
 namespace ko {
 
 std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error, Check check)
 {
     qRegisterMetaType<ko::StoreError>("ko::StoreError");
-    Secrets::prepare();
+    Keyring::ofInstallation().prepare();
     std::unique_ptr<NodeStore> store = NodeStore::open(
         file, error, check == Check::First ? NodeStore::Check::First : NodeStore::Check::ByUser);
     if (!store)
@@ -34,7 +34,7 @@ HostNodeDB::HostNodeDB(std::unique_ptr<NodeStore> opened, Check check)
 HostNodeDB::~HostNodeDB()
 {
     blockSignals(true);
-    Secrets::setListener(nullptr);
+    d->store->vault()->setListener(nullptr);
     d->scanning.reset();
     d->queue.finish();
 }

@@ -1,7 +1,7 @@
 #include "database/HostNodeDBPrivate.h"
 
 #include "ko/LogQt.h"
-#include "secrets/Secrets.h"
+#include "secrets/Vault.h"
 
 namespace ko {
 
@@ -28,8 +28,8 @@ void HostNodeDB::Private::start(Check when)
     if (when == Check::Behind)
         queue.checkInBackground();
     storeDefaults();
-    Secrets::setClearAllowed(store->isSealingPending());
-    Secrets::setListener([this](StoreError::Kind kind) {
+    store->vault()->setClearAllowed(store->isSealingPending());
+    store->vault()->setListener([this](StoreError::Kind kind) {
         const bool sealed = kind == StoreError::SealedElsewhere;
         queue.readFailed(StoreError::make(
             kind, store->fileName(),
@@ -82,7 +82,7 @@ void HostNodeDB::Private::startScanners(const std::string& name, unsigned interf
 /// runs an event loop.
 bool HostNodeDB::Private::flush()
 {
-    if (queue.isKeyMissing() && Secrets::prepareAgain())
+    if (queue.isKeyMissing() && Keyring::ofInstallation().prepareAgain())
         settings.reload(); // its password may be readable now
     return queue.flush();
 }

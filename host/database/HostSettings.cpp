@@ -44,7 +44,7 @@ void HostSettings::addDefaultEnvironment()
 void HostSettings::reload()
 {
     m_environments.reload(m_memory.environments);
-    ProxySettings::toProxy(m_memory.settings, m_proxy);
+    ProxySettings::toProxy(m_memory.settings, m_proxy, *m_memory.vault());
 }
 
 void HostSettings::setText(const char* key, const QString& value)
@@ -64,9 +64,9 @@ int HostSettings::bandwidth() const
 void HostSettings::proxyChanged()
 {
     GlobalNetworkProxy untouched;
-    ProxySettings::toProxy(Settings(), untouched);
-    const Settings defaults = ProxySettings::fromProxy(untouched, Settings());
-    const Settings values = ProxySettings::fromProxy(m_proxy, m_memory.settings);
+    ProxySettings::toProxy(Settings(), untouched, *m_memory.vault());
+    const Settings defaults = ProxySettings::fromProxy(untouched, Settings(), *m_memory.vault());
+    const Settings values = ProxySettings::fromProxy(m_proxy, m_memory.settings, *m_memory.vault());
     for (auto it = values.begin(); it != values.end(); ++it) {
         if (m_memory.settings.value(it.key(), defaults.value(it.key())) != it.value() &&
             m_memory.setSetting(it.key(), it.value()))

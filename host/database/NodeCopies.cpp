@@ -5,13 +5,16 @@
 
 namespace ko {
 
-NodeCopies::NodeCopies() = default;
+NodeCopies::NodeCopies(std::shared_ptr<Vault> vault)
+    : m_vault(std::move(vault))
+{
+}
 
 NodeCopies::~NodeCopies() = default;
 
 Node* NodeCopies::begin(const NodeData& data)
 {
-    std::unique_ptr<Node> node = NodeTypes::createNode(data);
+    std::unique_ptr<Node> node = NodeTypes::createNode(data, m_vault);
     Node* copy = node.get();
     m_copies.emplace(copy, Copy{std::move(node), data});
     return copy;

@@ -10,11 +10,13 @@
 
 namespace ko {
 
+class Vault;
+
 /// The writable copies of nodes that are handed out for a change.
 class NodeCopies
 {
 public:
-    NodeCopies();
+    explicit NodeCopies(std::shared_ptr<Vault> vault);
     ~NodeCopies();
 
     /// A copy of the node with \a data, owned by this until end().
@@ -43,6 +45,7 @@ private:
         std::unique_ptr<Node> node;
         NodeData before;
     };
+    const std::shared_ptr<Vault> m_vault;
     std::unordered_map<const Node*, Copy> m_copies;
 };
 

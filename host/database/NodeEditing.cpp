@@ -4,7 +4,7 @@
 #include "drivers/NodeTypes.h"
 #include "ko/LogQt.h"
 #include "ko/PropertyKeys.h"
-#include "secrets/Secrets.h"
+#include "secrets/Vault.h"
 
 #include <QRandomGenerator>
 
@@ -40,6 +40,7 @@ NodeEditing::NodeEditing(NodeMemory& memory, ChangeQueue& queue, HostSettings& s
     , m_queue(queue)
     , m_settings(settings)
     , m_announce(std::move(announce))
+    , m_copies(memory.vault())
 {
 }
 
@@ -50,7 +51,7 @@ kom::smart<const Node> NodeEditing::node(const NodeID& id)
         return kom::smart<const Node>();
     std::shared_ptr<const Node>& node = record->contents->node;
     if (!node)
-        node = NodeTypes::createNode(record->data());
+        node = NodeTypes::createNode(record->data(), m_memory.vault());
     return node;
 }
 
@@ -111,7 +112,7 @@ void NodeEditing::makeRemotePreview(const NodeID& camera)
 NodeID NodeEditing::add(NodeData data)
 {
     data.id = newNodeId();
-    Secrets::seal(data);
+    m_memory.vault()->seal(data);
     if (NodeTypes::isDevice(data.type))
         WrittenDevices::prepare(data);
     m_memory.add(data);

@@ -48,6 +48,9 @@ public:
     /// Reads everything but properties. Throws StoreFailure. \a store outlives the memory.
     explicit NodeMemory(NodeStore& store);
 
+    /// Of the passwords in the store.
+    const std::shared_ptr<Vault>& vault() const { return m_store.vault(); }
+
     /// See NodeDB.
     bool getBrief(const NodeID& id, NodeBrief* brief) const;
 

@@ -2,6 +2,7 @@
 
 #include "ko/GlobalNetworkProxy.h"
 #include "secrets/Secrets.h"
+#include "secrets/Vault.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -28,7 +29,7 @@ constexpr int DefaultPort = 8080; // of a database in which none was set yet
 
 } // namespace
 
-Settings fromProxy(const GlobalNetworkProxy& proxy, const Settings& before)
+Settings fromProxy(const GlobalNetworkProxy& proxy, const Settings& before, Vault& vault)
 {
     const QJsonArray exceptions = QJsonArray::fromStringList(proxy.exceptions());
     Settings settings;
@@ -39,16 +40,15 @@ Settings fromProxy(const GlobalNetworkProxy& proxy, const Settings& before)
     set(Address, proxy.proxyAddress());
     set(Port, QString::number(proxy.proxyPort()));
     set(User, proxy.proxyUser());
-    settings.insert(password,
-                    proxy.saveProxyPassword()
-                        ? Secrets::seal(owner, password, proxy.proxyPassword(), before.value(password))
-                        : QString());
+    settings.insert(password, proxy.saveProxyPassword()
+                                  ? vault.seal(owner, password, proxy.proxyPassword(), before.value(password))
+                                  : QString());
     set(SavePassword, QString::number(proxy.saveProxyPassword()));
     set(Exceptions, QString::fromUtf8(QJsonDocument(exceptions).toJson(QJsonDocument::Compact)));
     return settings;
 }
 
-void toProxy(const Settings& settings, GlobalNetworkProxy& proxy)
+void toProxy(const Settings& settings, GlobalNetworkProxy& proxy, Vault& vault)
 {
     const auto get = [&settings](const char* key) { return settings.value(QLatin1String(key)); };
     const bool savePassword = get(SavePassword).toInt() != 0;
@@ -56,7 +56,7 @@ void toProxy(const Settings& settings, GlobalNetworkProxy& proxy)
     stored.setUseProxy(get(Use).toInt() != 0);
     const QString port = get(Port);
     stored.setProxyAddress(get(Address), port.isEmpty() ? DefaultPort : port.toInt());
-    stored.setProxyUser(get(User), savePassword ? Secrets::open(owner, password, settings.value(password))
+    stored.setProxyUser(get(User), savePassword ? vault.open(owner, password, settings.value(password))
                                                 : proxy.proxyPassword());
     stored.setSaveProxyPassword(savePassword);
     QStringList patterns;

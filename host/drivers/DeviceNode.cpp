@@ -5,24 +5,23 @@
 
 namespace ko {
 
-DeviceNode::DeviceNode(const NodeData& data)
-    : HostNode<IPDeviceNode>(data)
-    , m_proxy(ProxyProperties::read(data))
+DeviceNode::DeviceNode(const NodeData& data, std::shared_ptr<Vault> vault)
+    : HostNode<IPDeviceNode>(data, std::move(vault))
+    , m_proxy(ProxyProperties::read(data, m_vault.get()))
 {
 }
 
 NodeData DeviceNode::nodeData() const
 {
     NodeData data = m_data;
-    ProxyProperties::write(data, m_proxy);
+    ProxyProperties::write(data, m_proxy, m_vault.get());
     return data;
 }
 
 QVariant DeviceNode::read(const QString& name) const
 {
     // The proxy is handed out by reference, so only it knows its settings.
-    return ProxyProperties::isKey(name) ? opened(name, nodeData().properties.value(name))
-                                        : HostNode<IPDeviceNode>::read(name);
+    return ProxyProperties::isKey(name) ? opened(nodeData(), name) : HostNode<IPDeviceNode>::read(name);
 }
 
 void DeviceNode::write(const QString& name, const QVariant& value)
@@ -33,7 +32,7 @@ void DeviceNode::write(const QString& name, const QVariant& value)
     }
     m_data = nodeData();
     HostNode<IPDeviceNode>::write(name, value);
-    m_proxy = ProxyProperties::read(m_data);
+    m_proxy = ProxyProperties::read(m_data, m_vault.get());
 }
 
 void DeviceNode::notifyChange(int code)

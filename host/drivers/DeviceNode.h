@@ -11,7 +11,7 @@ namespace ko {
 class DeviceNode : public HostNode<IPDeviceNode>
 {
 public:
-    explicit DeviceNode(const NodeData& data);
+    DeviceNode(const NodeData& data, std::shared_ptr<Vault> vault);
 
     NodeData nodeData() const override;
 

@@ -9,18 +9,20 @@
 #include "ko/NodeHint.h"
 #include "ko/PropertyKeys.h"
 #include "secrets/Secrets.h"
+#include "secrets/Vault.h"
 
 namespace ko {
 
-/// A node of this host: \a Base, a kind of Node, over NodeData. Passwords are sealed in the data and in
-/// what properties() hands out; asking for one by its name opens it.
+/// A node of this host: \a Base, a kind of Node, over NodeData. The passwords of a database's node are sealed
+/// in the data and in what properties() hands out; asking for one by its name opens it.
 template <class Base>
 class HostNode : public PropertyStorage<Base>, public StoredNode
 {
 public:
-    explicit HostNode(const NodeData& data)
+    HostNode(const NodeData& data, std::shared_ptr<Vault> vault)
         : PropertyStorage<Base>(data.type)
         , m_data(data)
+        , m_vault(std::move(vault))
     {
     }
 
@@ -62,12 +64,13 @@ protected:
             return m_data.name;
         if (name == PropertyKeys::NodeType)
             return int(m_data.type);
-        return opened(name, m_data.properties.value(name));
+        return opened(m_data, name);
     }
 
-    QVariant opened(const QString& name, const QVariant& value) const
+    QVariant opened(const NodeData& data, const QString& name) const
     {
-        return isPassword(name, value) ? Secrets::open(m_data.id, name, value.toString()) : value;
+        const QVariant value = data.properties.value(name);
+        return isPassword(name, value) ? Vault::opened(m_vault.get(), data, name) : value;
     }
 
     void write(const QString& name, const QVariant& value) override
@@ -75,7 +78,9 @@ protected:
         if (name == PropertyKeys::Name)
             m_data.name = value.toString();
         else if (name != PropertyKeys::NodeType)
-            m_data.properties.set(name, isPassword(name, value) ? sealed(name, value.toString()) : value);
+            m_data.properties.set(name, isPassword(name, value)
+                                            ? Vault::sealed(m_vault.get(), m_data, name, value.toString())
+                                            : value);
     }
 
     /// Of whatever type: one of another that was put into the database is no password of ours.
@@ -84,12 +89,8 @@ protected:
         return value.isValid() && Secrets::isSecret(name);
     }
 
-    QString sealed(const QString& name, const QString& password) const
-    {
-        return Secrets::seal(m_data.id, name, password, m_data.properties.value(name).toString());
-    }
-
     NodeData m_data;
+    const std::shared_ptr<Vault> m_vault; ///< null for what belongs to no database
 };
 
 typedef HostNode<Node> PlainNode;

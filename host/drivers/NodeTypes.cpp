@@ -153,7 +153,7 @@ void describeDevice(NodeData& data, const NodeHintIPDevice& hint)
         set(PropertyKeys::MacAddress, hint.macAddress.toString(true));
     if (hint.type == ChannelDeviceType)
         set(PropertyKeys::Channel, hint.channel);
-    ProxyProperties::write(data, hint.proxy);
+    ProxyProperties::write(data, hint.proxy, nullptr);
 }
 
 // Parts of a lookup key are joined by a character that occurs in none of them.
@@ -268,13 +268,13 @@ kom::smart<INodeDriverComponent> driver(ENodeType type)
     return find(type) ? driver : kom::smart<INodeDriverComponent>();
 }
 
-std::unique_ptr<Node> createNode(const NodeData& data)
+std::unique_ptr<Node> createNode(const NodeData& data, const std::shared_ptr<Vault>& vault)
 {
     if (data.type == ChannelDeviceType)
-        return std::make_unique<ChannelDeviceNode>(data);
+        return std::make_unique<ChannelDeviceNode>(data, vault);
     if (isDevice(data.type))
-        return std::make_unique<DeviceNode>(data);
-    return std::make_unique<PlainNode>(data);
+        return std::make_unique<DeviceNode>(data, vault);
+    return std::make_unique<PlainNode>(data, vault);
 }
 
 NodeData described(const NodeHint& hint)

@@ -15,6 +15,7 @@ namespace ko {
 class INodeDriverComponent;
 class Node;
 class NodeHint;
+class Vault;
 
 /// A property of a type of node, declared once.
 struct NodeProperty
@@ -53,8 +54,10 @@ KO_HOST_EXPORT void declareForDevices(const NodeProperty& property);
 /// The driver, or a null handle for an unknown type. One driver serves all types.
 KO_HOST_EXPORT kom::smart<INodeDriverComponent> driver(ENodeType type);
 
-/// A node over \a data; an unknown type gives a plain node. \a data.id is kept as it is.
-KO_HOST_EXPORT std::unique_ptr<Node> createNode(const NodeData& data);
+/// A node over \a data; an unknown type gives a plain node. \a data.id is kept as it is. \a vault seals its
+/// passwords; without one they are in the clear.
+KO_HOST_EXPORT std::unique_ptr<Node> createNode(const NodeData& data,
+                                                const std::shared_ptr<Vault>& vault = nullptr);
 
 /// What a hint says: its name and the properties it carries or stands for, no id.
 KO_HOST_EXPORT NodeData described(const NodeHint& hint);

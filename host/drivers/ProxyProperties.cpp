@@ -1,7 +1,7 @@
 #include "drivers/ProxyProperties.h"
 
 #include "ko/PropertyKeys.h"
-#include "secrets/Secrets.h"
+#include "secrets/Vault.h"
 
 #include <algorithm>
 
@@ -17,32 +17,30 @@ bool isKey(const QString& name)
     return std::find(std::begin(keys), std::end(keys), name) != std::end(keys);
 }
 
-NetworkProxy read(const NodeData& node)
+NetworkProxy read(const NodeData& node, Vault* vault)
 {
     const auto value = [&node](const QString& key) { return node.properties.value(key); };
-    const QString password = PropertyKeys::ProxyPassword;
     NetworkProxy proxy;
     proxy.setProxyAddress(value(PropertyKeys::ProxyAddress).toString(),
                           value(PropertyKeys::ProxyPort).toInt());
     proxy.setProxyUser(value(PropertyKeys::ProxyUser).toString(),
-                       Secrets::open(node.id, password, node.properties.value(password).toString()));
+                       Vault::opened(vault, node, PropertyKeys::ProxyPassword));
     proxy.setUseProxy(value(PropertyKeys::ProxyUse).toBool());
     proxy.setSaveProxyPassword(value(PropertyKeys::ProxySavePassword).toBool());
     return proxy;
 }
 
-void write(NodeData& node, const NetworkProxy& proxy)
+void write(NodeData& node, const NetworkProxy& proxy, Vault* vault)
 {
-    if (proxy == read(node))
+    if (proxy == read(node, vault))
         return;
-    const QString password = PropertyKeys::ProxyPassword;
     const auto set = [&node](const QString& key, const QVariant& value) { node.properties.set(key, value); };
     set(PropertyKeys::ProxyUse, proxy.useProxy());
     set(PropertyKeys::ProxyAddress, proxy.proxyAddress());
     set(PropertyKeys::ProxyPort, proxy.proxyPort());
     set(PropertyKeys::ProxyUser, proxy.proxyUser());
     set(PropertyKeys::ProxyPassword,
-        Secrets::seal(node.id, password, proxy.proxyPassword(), node.properties.value(password).toString()));
+        Vault::sealed(vault, node, PropertyKeys::ProxyPassword, proxy.proxyPassword()));
     set(PropertyKeys::ProxySavePassword, proxy.saveProxyPassword());
 }
 

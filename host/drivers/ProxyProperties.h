@@ -6,16 +6,18 @@
 
 namespace ko {
 
+class Vault;
+
 /// The form in which a device's own proxy settings stand among its properties.
 namespace ProxyProperties {
 
 bool isKey(const QString& name);
 
-/// The password is opened; \a node is whose it is.
-NetworkProxy read(const NodeData& node);
+/// The password is opened by \a vault, or in the clear without one.
+NetworkProxy read(const NodeData& node, Vault* vault);
 
 /// Settings that were never touched leave no properties behind.
-void write(NodeData& node, const NetworkProxy& proxy);
+void write(NodeData& node, const NetworkProxy& proxy, Vault* vault);
 
 } // namespace ProxyProperties
 

@@ -12,7 +12,7 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "model/Redaction.h"
-#include "secrets/Secrets.h"
+#include "secrets/Keyring.h"
 
 #include <QCoreApplication>
 
@@ -123,7 +123,7 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
     if (!result.error.isEmpty())
         return result;
     if (passwords == Passwords::Write)
-        Secrets::prepareAgain();
+        Keyring::ofInstallation().prepareAgain();
     ExportFile file(fileName);
     const QStringList ids = only.isEmpty() ? NodeDB::getDB()->nodeIdList(AllNodeTypes) : only;
     const bool written =

@@ -14,7 +14,7 @@
 #include "ko/NodeDB.h"
 #include "ko/NodeHintIPDevice.h"
 #include "ko/OutsideText.h"
-#include "secrets/Secrets.h"
+#include "secrets/Keyring.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -306,7 +306,7 @@ bool SurveyImport::readSome(CsvReader& reader, const SurveyHeader& header, Pass 
 /// Before the first change: a device that was added without its password would be there the next time.
 bool SurveyImport::canStorePasswords()
 {
-    if (m_passwords.isEmpty() || Secrets::prepareAgain())
+    if (m_passwords.isEmpty() || Keyring::ofInstallation().prepareAgain())
         return true;
     m_result.error =
         say("The passwords of the list (in line %1) cannot be stored, because the key that seals "

@@ -1,13 +1,15 @@
 #include "store/ChangeWriter.h"
 
 #include "secrets/Secrets.h"
+#include "secrets/Vault.h"
 #include "store/ChangeCoding.h"
 
 namespace ko {
 
-ChangeWriter::ChangeWriter(NodeTables& tables, ChangeLog& log)
+ChangeWriter::ChangeWriter(NodeTables& tables, ChangeLog& log, Vault& vault)
     : m_tables(tables)
     , m_log(log)
+    , m_vault(vault)
 {
 }
 
@@ -140,7 +142,7 @@ QString ChangeWriter::sealed(const QString& owner, const QString& key, const QSt
     const auto found = m_sealed.constFind(text);
     if (found != m_sealed.constEnd())
         return *found;
-    const std::optional<QString> result = Secrets::toStore(owner, key, text);
+    const std::optional<QString> result = m_vault.toStore(owner, key, text);
     if (!result)
         throw StoreFailure{
             StoreError::make(StoreError::KeyNotKept, m_tables.fileName(), QLatin1String("no key"))};
@@ -154,7 +156,7 @@ void ChangeWriter::seal(const NodeID& node, PropertyList* properties)
 {
     const PropertyList list = *properties;
     for (const PropertyList::Entry& entry : list) {
-        if (entry.value.userType() == QMetaType::QString && Secrets::isHeld(entry.value.toString()))
+        if (entry.value.userType() == QMetaType::QString && Vault::isHeld(entry.value.toString()))
             properties->set(entry.name, sealed(node, entry.name, entry.value.toString()));
     }
 }

@@ -8,12 +8,14 @@
 
 namespace ko {
 
+class Vault;
+
 /// Writes change sets into the tables and into the log of changes, which thereby has what really changed.
 /// Belongs into a transaction that began with a look at what others changed; throws StoreFailure.
 class ChangeWriter
 {
 public:
-    ChangeWriter(NodeTables& tables, ChangeLog& log);
+    ChangeWriter(NodeTables& tables, ChangeLog& log, Vault& vault);
 
     /// Throws StoreError::KeyNotKept when a password is held in memory for want of a key.
     void write(const ChangeSet& set);
@@ -39,6 +41,7 @@ private:
 
     NodeTables& m_tables;
     ChangeLog& m_log;
+    Vault& m_vault;
     const ChangeSet* m_set = nullptr;
     qint64 m_number = 0;              ///< of the change set; given to the first thing that is changed
     QHash<QString, QString> m_sealed; ///< what was held in memory, to what was stored for it

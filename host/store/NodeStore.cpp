@@ -1,5 +1,6 @@
 #include "store/NodeStore.h"
 
+#include "secrets/Vault.h"
 #include "store/ChangeWriter.h"
 #include "store/DeltaReader.h"
 #include "store/StoredSecrets.h"
@@ -13,12 +14,14 @@ public:
         : connection(std::move(opened))
         , tables(*connection)
         , log(*connection)
+        , vault(std::make_shared<Vault>(Keyring::ofInstallation()))
     {
     }
 
     const std::unique_ptr<SqliteStore> connection;
     NodeTables tables;
     ChangeLog log;
+    const std::shared_ptr<Vault> vault;
     qint64 dataVersion = 0;
 };
 
@@ -43,6 +46,11 @@ std::unique_ptr<NodeStore> NodeStore::open(const QString& file, StoreError* erro
 const QString& NodeStore::fileName() const
 {
     return d->connection->fileName();
+}
+
+const std::shared_ptr<Vault>& NodeStore::vault() const
+{
+    return d->vault;
 }
 
 StoreError NodeStore::findDamage(const QString& file)
@@ -123,7 +131,7 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
 {
     Transaction transaction(*d->connection, Transaction::Write);
     const Batch batch = merge(DeltaReader(d->tables, d->log, wanted).since(revision));
-    ChangeWriter writer(d->tables, d->log);
+    ChangeWriter writer(d->tables, d->log, *d->vault);
     for (const ChangeSet& set : batch.sets)
         writer.write(set);
     for (const ProgramRow& line : batch.programLines)

@@ -9,6 +9,8 @@
 
 namespace ko {
 
+class Vault;
+
 /// The node database on a SQLite file: takes and gives values. Everything but open() throws StoreFailure
 /// when it fails, with the file as it was.
 class KO_HOST_EXPORT NodeStore
@@ -24,6 +26,9 @@ public:
     ~NodeStore();
 
     const QString& fileName() const;
+
+    /// Of its passwords. What is given to commit() was sealed by it.
+    const std::shared_ptr<Vault>& vault() const;
 
     /// From any thread, while the file is in use.
     static StoreError findDamage(const QString& file);

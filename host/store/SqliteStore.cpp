@@ -1,6 +1,6 @@
 #include "store/SqliteStore.h"
 
-#include "secrets/Secrets.h"
+#include "secrets/Keyring.h"
 #include "store/DraftFile.h"
 #include "store/SqliteFile.h"
 #include "store/StoreBackup.h"
@@ -253,7 +253,7 @@ QString SqliteStore::backUp(int version)
         QString copy = i == 1 ? name : name + QString::fromLatin1("-%1").arg(i);
         DraftFile draft(copy);
         run("VACUUM INTO ?", {draft.name()});
-        if (version < StoreSchema::FirstSealed && Secrets::isKeyKept()) {
+        if (version < StoreSchema::FirstSealed && Keyring::ofInstallation().isKept()) {
             SqliteStore saved(draft.name(), ReadWrite);
             StoredSecrets::seal(saved);
         }

@@ -1,6 +1,7 @@
 #include "store/StoredSecrets.h"
 
 #include "ko/LogQt.h"
+#include "secrets/Keyring.h"
 #include "secrets/Secrets.h"
 
 #include <QVector>
@@ -22,14 +23,15 @@ struct Clear
 /// What is sealed, and looked at again: the text in the clear exists nowhere else after this.
 QString sealed(const SqliteStore& store, const QString& owner, const QString& key, const QString& text)
 {
-    const std::optional<QString> result = Secrets::toStore(owner, key, Secrets::seal(owner, key, text));
-    if (!result)
+    const std::shared_ptr<const InstallationKey> installation = Keyring::ofInstallation().key();
+    if (!installation->sealer.canSeal())
         throw StoreFailure{
             StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key"))};
-    if (Secrets::open(owner, key, *result) != text)
+    QString result = installation->sealer.seal(text, owner, key);
+    if (installation->sealer.open(result, owner, key) != text)
         throw StoreFailure{
             StoreError::make(StoreError::Other, store.fileName(), QLatin1String("sealing failed"))};
-    return *result;
+    return result;
 }
 
 QVector<Clear> clearPasswords(SqliteStore& store)
@@ -91,7 +93,7 @@ void sealPending(SqliteStore& store)
     if (!isPending(store))
         return;
     try {
-        if (!Secrets::isKeyKept())
+        if (!Keyring::ofInstallation().isKept())
             throw StoreFailure{
                 StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key"))};
         seal(store);

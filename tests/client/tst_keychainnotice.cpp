@@ -5,7 +5,7 @@
 
 #include "KeychainNotice.h"
 #include "MainWindow.h"
-#include "secrets/Secrets.h"
+#include "secrets/Keyring.h"
 
 #include <QAbstractButton>
 #include <QElapsedTimer>
@@ -59,12 +59,12 @@ void tst_KeychainNotice::init()
     m_places.keyFile = path("config/key");
     m_places.keychain = QStringLiteral("konodeui-test");
     m_places.keychainPatience = 1500;
-    Secrets::setPlaces(m_places);
+    Keyring::ofInstallation().setPlaces(m_places);
 }
 
 void tst_KeychainNotice::cleanup()
 {
-    Secrets::setPlaces(InstallationKey::Places::standard());
+    Keyring::ofInstallation().setPlaces(InstallationKey::Places::standard());
 }
 
 void tst_KeychainNotice::windowWaitsAsLongAsTheUser_data()
@@ -119,7 +119,7 @@ void tst_KeychainNotice::retryLooksForTheKey()
     m_places.keyFile = path("config/key");
     QFile obstacle(path("config")); // the folder cannot be made: a file has its name
     QVERIFY(obstacle.open(QIODevice::WriteOnly));
-    Secrets::setPlaces(m_places);
+    Keyring::ofInstallation().setPlaces(m_places);
     testsupport::HostFixture host;
     MainWindow window(*host.db());
     window.show();

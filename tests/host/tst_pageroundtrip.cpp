@@ -1,4 +1,5 @@
 #include "secrets/Secrets.h"
+#include "secrets/Vault.h"
 #include "support/HostFixture.h"
 #include "support/PassThroughNodeDB.h"
 #include "support/TestMain.h"
@@ -225,14 +226,18 @@ public:
     using PassThroughNodeDB::PassThroughNodeDB;
 
     NodeData data;
+    const std::shared_ptr<Vault> vault = std::make_shared<Vault>(Keyring::ofInstallation());
 
     kom::smart<const Node> node(const QString& id) const override
     {
         return id == data.id
-                   ? kom::smart<const Node>(std::shared_ptr<const Node>(NodeTypes::createNode(data)))
+                   ? kom::smart<const Node>(std::shared_ptr<const Node>(NodeTypes::createNode(data, vault)))
                    : kom::smart<const Node>();
     }
-    Node* beginUpdateNode(const QString&, int) override { return NodeTypes::createNode(data).release(); }
+    Node* beginUpdateNode(const QString&, int) override
+    {
+        return NodeTypes::createNode(data, vault).release();
+    }
     void endUpdateNode(Node* node) override
     {
         data = dynamic_cast<StoredNode*>(node)->nodeData();
@@ -290,7 +295,7 @@ void tst_PageRoundTrip::storedValuesComeBack()
         for (const auto& entry : start)
             db.data.properties.set(entry.first,
                                    Secrets::isSecret(entry.first)
-                                       ? Secrets::seal(db.data.id, entry.first, entry.second.toString())
+                                       ? db.vault->seal(db.data.id, entry.first, entry.second.toString())
                                        : entry.second);
         const QString id = db.data.id;
 

@@ -5,6 +5,7 @@
 #include "exchange/CameraSurvey.h"
 #include "ko/GlobalNetworkProxy.h"
 #include "kogen/Property.h"
+#include "secrets/Keyring.h"
 #include "secrets/Secrets.h"
 #include "store/Salvage.h"
 #include "store/SqliteStore.h"
@@ -158,6 +159,7 @@ private slots:
     void globalProxy();
     void oldDatabaseIsSealed();
     void oldDatabaseWaitsForItsKey();
+    void databasesKeepTheirRules();
     void salvagedOldDatabaseIsSealed();
     void filesArePrivateWhateverTheUmask();
     void everyPasswordComesBack();
@@ -180,7 +182,7 @@ void tst_Secrets::init()
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(QDir(m_folder->path()).mkdir(QLatin1String("db")));
     m_file = path("db/nodes.db");
-    Secrets::setPlaces(places());
+    Keyring::ofInstallation().setPlaces(places());
 }
 
 void tst_Secrets::cleanup()
@@ -199,7 +201,7 @@ void tst_Secrets::useNewKey(const char* file)
 {
     InstallationKey::Places other = places();
     other.keyFile = path(file);
-    Secrets::setPlaces(other);
+    Keyring::ofInstallation().setPlaces(other);
 }
 
 QString tst_Secrets::stored(const QString& id, const char* key) const
@@ -355,7 +357,7 @@ void tst_Secrets::withoutAKeyNothingIsStored()
     QVERIFY(QFile::rename(path("config"), path("kept")));
     QFile obstacle(path("config"));
     QVERIFY(obstacle.open(QIODevice::WriteOnly));
-    Secrets::setPlaces(places());
+    Keyring::ofInstallation().setPlaces(places());
     const auto db = openDatabase(m_file);
     QVERIFY(db);
     QSignalSpy failed(db.get(), SIGNAL(storeFailed(ko::StoreError)));
@@ -403,7 +405,7 @@ void tst_Secrets::editorOpenWhileTheKeyComesBack()
     QVERIFY(QFile::rename(path("config"), path("kept")));
     QFile obstacle(path("config"));
     QVERIFY(obstacle.open(QIODevice::WriteOnly));
-    Secrets::setPlaces(places());
+    Keyring::ofInstallation().setPlaces(places());
     const auto db = openDatabase(m_file);
     const QString shown = text(*db, id, "Password");
     QCOMPARE(shown, QString());
@@ -440,7 +442,7 @@ void tst_Secrets::listsNeedTheKey()
                                .toString();
     InstallationKey::Places nowhere;
     nowhere.keyFile = QLatin1String("/proc/no such folder/key");
-    Secrets::setPlaces(nowhere);
+    Keyring::ofInstallation().setPlaces(nowhere);
     const auto db = openDatabase(m_file);
     QVERIFY(list.open(QIODevice::WriteOnly));
     list.write("name,address,password\nDock,10.0.0.3,\nGate,10.0.0.1,other\n");
@@ -493,7 +495,7 @@ void tst_Secrets::twoProcessesMakeOneKey()
     InstallationKey::Places standard = places();
     standard.keyFile = path("config/konodeui/installation.key");
     QCOMPARE(mode(standard.keyFile), 0600);
-    Secrets::setPlaces(standard);
+    Keyring::ofInstallation().setPlaces(standard);
     for (int i = 0; i < 8; ++i) {
         const auto db = openDatabase(path("db/") + QString::number(i));
         const QString id = db->nodeIdList(IPDeviceType).value(0);
@@ -774,7 +776,7 @@ void tst_Secrets::unopenedPasswordStays()
         QCoreApplication::processEvents();
         QCOMPARE(damaged.count(), 1);
     }
-    Secrets::setPlaces(places());
+    Keyring::ofInstallation().setPlaces(places());
     {
         const auto db = openDatabase(m_file);
         QCOMPARE(text(*db, id, "Password"), QLatin1String("s3cret"));
@@ -873,19 +875,43 @@ void tst_Secrets::oldDatabaseWaitsForItsKey()
     writeOldDatabase(m_file, passwords);
     InstallationKey::Places nowhere;
     nowhere.keyFile = QLatin1String("/proc/no such folder/key");
-    Secrets::setPlaces(nowhere);
+    Keyring::ofInstallation().setPlaces(nowhere);
     {
         const auto db = openDatabase(m_file);
         QVERIFY(db);
         QCOMPARE(text(*db, QLatin1String("n0"), "Password"), passwords.at(0));
     }
-    Secrets::setPlaces(places());
+    Keyring::ofInstallation().setPlaces(places());
     const auto db = openDatabase(m_file);
     QCOMPARE(text(*db, QLatin1String("n0"), "Password"), passwords.at(0));
     QVERIFY(Sealer::isSealed(stored(QLatin1String("n0"), "Password")));
     QFile::remove(
         QDir(path("db")).filePath(QDir(path("db")).entryList({QLatin1String("*.backup-v2-*")}).value(0)));
     QCOMPARE(filesWith(passwords, path("db")), QStringList());
+}
+
+/// One of an older version, which may have passwords in the clear, opened beside another one.
+void tst_Secrets::databasesKeepTheirRules()
+{
+    QString id;
+    {
+        const auto db = openDatabase(m_file);
+        id = addCamera(*db, QLatin1String("a"), QLatin1String("10.0.0.1"));
+        setText(*db, id, "Password", QLatin1String("s3cret"));
+    }
+    PlainSql(m_file).run(QLatin1String("UPDATE properties SET value = 'put there' WHERE key = 'Password'"));
+    const QStringList passwords = knownPasswords();
+    writeOldDatabase(path("db/old.db"), passwords);
+    InstallationKey::Places nowhere;
+    nowhere.keyFile = QLatin1String("/proc/no such folder/key");
+    Keyring::ofInstallation().setPlaces(nowhere);
+    const auto db = openDatabase(m_file);
+    QSignalSpy damaged(db.get(), SIGNAL(storeDamaged(ko::StoreError)));
+    const auto old = openDatabase(path("db/old.db"));
+    QCOMPARE(text(*old, QLatin1String("n0"), "Password"), passwords.at(0));
+    QCOMPARE(text(*db, id, "Password"), QString());
+    QCoreApplication::processEvents();
+    QCOMPARE(damaged.count(), 1);
 }
 
 void tst_Secrets::salvagedOldDatabaseIsSealed()
