@@ -117,8 +117,8 @@ void MainWindow::createList()
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::updateCommands);
     connect(m_model, &QAbstractItemModel::modelReset, this, &MainWindow::updateCommands);
-    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        connect(m_model, signal, this, &MainWindow::updateStatus);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, &MainWindow::updateStatus);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &MainWindow::updateStatus);
 }
 
 void MainWindow::createEmptyState()

@@ -625,7 +625,7 @@ void tst_CameraCheck::manyAreChecked()
     const SimulatedSite site({"--cameras", QString::number(count), "--onvif", "digest,token,clock,digest",
                               "--hostile-every", "100"});
     QVERIFY(site.isUp);
-    const QStringList ids = addCameras(site, count);
+    addCameras(site, count);
     open();
     // The dearest case: the list is in the order of what changes.
     m_list->sortByColumn(NodeListModel::StateColumn, Qt::AscendingOrder);
