@@ -1,15 +1,20 @@
 #ifndef KO_AUDITLOGMODEL_H
 #define KO_AUDITLOGMODEL_H
 
+#include "audit/AuditRecord.h"
+
 #include <QAbstractTableModel>
-#include <QDateTime>
 #include <QVector>
+
+#include <deque>
+#include <vector>
 
 namespace ko {
 
 class AuditLog;
 
-/// The audit log, newest first, read page by page as the view asks for more.
+/// The audit log, and what was done without an entry in it; newest first, read page by page as the view asks
+/// for more.
 class AuditLogModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -33,8 +38,23 @@ private:
         QString cells[ColumnCount];
     };
 
+    /// One of the two, read up to some place.
+    struct Source
+    {
+        std::deque<AuditRecord> waiting; ///< read, not shown yet
+        bool isAtEnd = false;
+    };
+
+    void read();
+    static void take(Source* source, std::vector<AuditRecord> page);
+    Row nextRow();
+
     AuditLog& m_log;
-    const qint64 m_count;
+    const qint64 m_count; ///< of the entries
+    qint64 m_read = 0;    ///< of these
+    qint64 m_before;      ///< number of the change set that was read last
+    Source m_entries;
+    Source m_silent;
     QVector<Row> m_rows;
 };
 

@@ -1,5 +1,6 @@
 #include "audit/AuditLog.h"
 
+#include "audit/ChangeSetLogEntry.h"
 #include "audit/GenericLogEntry.h"
 #include "audit/LogStore.h"
 #include "ko/LogEntryFactory.h"
@@ -7,21 +8,10 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSysInfo>
-
-#include <pwd.h>
-#include <unistd.h>
 
 namespace ko {
 
 namespace {
-
-/// Not from the environment, which anyone can set for himself.
-QString operatingSystemUser()
-{
-    const passwd* entry = ::getpwuid(::getuid());
-    return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(::getuid());
-}
 
 FourChars fourChars(const QString& text)
 {
@@ -55,8 +45,8 @@ std::unique_ptr<LogEntry> rebuilt(const AuditRow& row)
 
 AuditLog::AuditLog(LogStore& store)
     : m_store(store)
-    , m_user(operatingSystemUser())
-    , m_host(QSysInfo::machineHostName())
+    , m_user(Cause::currentUser())
+    , m_host(Cause::currentStation())
 {
 }
 
@@ -82,6 +72,19 @@ std::vector<AuditRecord> AuditLog::entries(qint64 from, qint64 count, bool newes
     for (const AuditRow& row : rows)
         records.push_back({row.seq, QDateTime::fromMSecsSinceEpoch(row.time, Qt::UTC), row.user, row.host,
                            FourChars(row.code), rebuilt(row)});
+    return records;
+}
+
+std::vector<AuditRecord> AuditLog::silentChanges(qint64 before, int count) const
+{
+    std::vector<AuditRecord> records;
+    const QVector<ChangeSetRow> rows = m_store.silentChangeSets(before, count);
+    for (const ChangeSetRow& row : rows) {
+        auto entry = std::make_unique<ChangeSetLogEntry>(row);
+        const FourChars code = entry->typeCode();
+        records.push_back({row.number, QDateTime::fromMSecsSinceEpoch(row.cause.time, Qt::UTC),
+                           row.cause.user, row.cause.station, code, std::move(entry)});
+    }
     return records;
 }
 

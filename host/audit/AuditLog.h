@@ -24,6 +24,11 @@ public:
     std::vector<AuditRecord> entries(qint64 from, qint64 count, bool newestFirst) const;
     qint64 count() const;
 
+    /// What was done to the database before the change set of number \a before without an entry here: found
+    /// by a scan, set in the preferences... At most \a count records, newest first; their numbers are those
+    /// of the change sets.
+    std::vector<AuditRecord> silentChanges(qint64 before, int count) const;
+
 private:
     LogStore& m_store;
     const QString m_user;

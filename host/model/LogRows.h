@@ -1,7 +1,7 @@
 #ifndef KO_LOGROWS_H
 #define KO_LOGROWS_H
 
-#include <QString>
+#include "model/Cause.h"
 
 namespace ko {
 
@@ -14,6 +14,15 @@ struct AuditRow
     QString host;
     quint32 code = 0;
     QString data; ///< JSON object: key to value
+};
+
+/// A change set that belongs to no entry of the audit log, as far as a log shows it.
+struct ChangeSetRow
+{
+    qint64 number = 0;
+    Cause cause;
+    int nodes = 0;     ///< that were added, changed or removed
+    QString firstName; ///< of these
 };
 
 /// One line of the program log as it is stored.

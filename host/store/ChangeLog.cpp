@@ -19,6 +19,13 @@ AuditRow auditRow(const SqliteStore::Rows& rows)
             rows.text(3),   quint32(rows.number(4)), rows.text(5)};
 }
 
+/// The columns id, time, user, host, purpose and subject, after the first one.
+Cause causeOf(const SqliteStore::Rows& rows)
+{
+    return {rows.text(1), rows.text(3), rows.text(4), rows.number(2), Purposes::fromWord(rows.text(5)),
+            rows.text(6)};
+}
+
 std::optional<QString> settingOf(const QString& text)
 {
     return text.isNull() ? std::nullopt : std::make_optional(text);
@@ -112,9 +119,7 @@ QVector<ChangeSet> ChangeLog::sets(qint64 after, int count)
         while (rows.next()) {
             ChangeSet set;
             set.number = rows.number(0);
-            set.cause = {
-                rows.text(1), rows.text(3), rows.text(4), rows.number(2), Purposes::fromWord(rows.text(5)),
-                rows.text(6)};
+            set.cause = causeOf(rows);
             result.append(set);
         }
     }
@@ -143,6 +148,25 @@ void ChangeLog::readAudit(ChangeSet* set)
                                          {set->number});
     while (rows.next())
         set->audit.append(auditRow(rows));
+}
+
+QVector<ChangeSetRow> ChangeLog::silentSets(qint64 before, int count)
+{
+    QVector<ChangeSetRow> result;
+    SqliteStore::Rows rows = m_store.run(
+        "SELECT seq, id, time, user, host, purpose, subject,"
+        " (SELECT count(DISTINCT id) FROM changes WHERE change_set = s.seq AND kind = 'N'),"
+        " (SELECT coalesce(after, before) FROM changes WHERE change_set = s.seq AND kind = 'N' LIMIT 1)"
+        " FROM change_sets s WHERE seq < ?"
+        " AND NOT EXISTS (SELECT 1 FROM audit WHERE change_set = s.seq) ORDER BY seq DESC LIMIT ?",
+        {before, count});
+    while (rows.next()) {
+        NodeChange first;
+        const std::optional<NodeValues> values = ChangeCoding::nodeValues(rows.text(8), &first);
+        result.append(
+            {rows.number(0), causeOf(rows), int(rows.number(7)), values ? values->name : QString()});
+    }
+    return result;
 }
 
 void ChangeLog::addAudit(qint64 changeSet, const AuditRow& row)

@@ -49,6 +49,9 @@ public:
     /// At most \a count change sets after number \a after, in order.
     QVector<ChangeSet> sets(qint64 after, int count);
 
+    /// See NodeStore::silentChangeSets().
+    QVector<ChangeSetRow> silentSets(qint64 before, int count);
+
     /// \a changeSet is 0 if nothing was changed.
     void addAudit(qint64 changeSet, const AuditRow& row);
     QVector<AuditRow> audit(const LogRange& range);

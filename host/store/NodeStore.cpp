@@ -149,6 +149,11 @@ QVector<ChangeSet> NodeStore::changeSets(qint64 after, int count)
     return d->log.sets(after, count);
 }
 
+QVector<ChangeSetRow> NodeStore::silentChangeSets(qint64 before, int count)
+{
+    return d->log.silentSets(before, count);
+}
+
 QVector<AuditRow> NodeStore::audit(const LogRange& range)
 {
     return d->log.audit(range);

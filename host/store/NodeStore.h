@@ -95,6 +95,8 @@ public:
 
     /// At most \a count change sets after number \a after, in order.
     QVector<ChangeSet> changeSets(qint64 after, int count);
+    /// Those before number \a before without an entry in the audit log, at most \a count, newest first.
+    QVector<ChangeSetRow> silentChangeSets(qint64 before, int count);
     QVector<AuditRow> audit(const LogRange& range);
     qint64 auditCount();
     QVector<ProgramRow> programLines(const LogRange& range);

@@ -5,6 +5,7 @@
 #include "RemoveNodesBox.h"
 #include "audit/AuditLog.h"
 #include "inspector/NodeChangeLogEntry.h"
+#include "model/Cause.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
@@ -37,6 +38,7 @@ private slots:
     void cleanup() { m_host.reset(); }
 
     void auditLogShowsTheNewestFirst();
+    void auditLogTellsWhatNoDialogLogs();
     void auditLogIsSearched();
     void auditLogSearchReadsWhatWasNotRead();
     void auditLogRowsAreCopied();
@@ -81,9 +83,45 @@ void tst_ClientDialogs::auditLogShowsTheNewestFirst()
     log(3);
     AuditLogDialog dialog(db().auditLog());
     const QStringList rows = texts(child<QTableView>(&dialog, "entriesTableView"));
-    QCOMPARE(int(rows.size()), 3);
+    QCOMPARE(int(rows.size()), 4); // the oldest is the database itself
     for (int i = 0; i < 3; ++i)
         QVERIFY2(rows.at(i).contains(QStringLiteral("Gate %1").arg(2 - i)), qPrintable(rows.at(i)));
+}
+
+void tst_ClientDialogs::auditLogTellsWhatNoDialogLogs()
+{
+    const auto change = [this](const std::function<void()>& work) {
+        QTest::qWait(2); // later than what was before
+        work();
+        QTest::qWait(0);
+    };
+    change([this] { log(1); });
+    change([this] { db().setBandwidth(SlowLocal); });
+    change([this] { log(1); });
+    change([this] { m_host->add(IPDeviceType, QStringLiteral("Yard\n2020-01-01")); });
+    change([this] {
+        m_host->add(IPDeviceType, QStringLiteral("A"));
+        log(1); // of the same turn: it is not said twice
+    });
+    change([this] {
+        for (const char* name : {"B", "C", "D"})
+            m_host->add(IPDeviceType, QLatin1String(name));
+    });
+    AuditLogDialog dialog(db().auditLog());
+    const QStringList rows = texts(child<QTableView>(&dialog, "entriesTableView"));
+    const QStringList expected = {QStringLiteral("Added by the program|B and 2 others"),
+                                  QStringLiteral("Gate 0"),
+                                  QStringLiteral("Added by the program|Yard\\n2020-01-01"),
+                                  QStringLiteral("Gate 0"),
+                                  QStringLiteral("Changed settings|"),
+                                  QStringLiteral("Gate 0"),
+                                  QStringLiteral("Made the database|")};
+    QCOMPARE(int(rows.size()), int(expected.size()));
+    for (int i = 0; i < rows.size(); ++i)
+        QVERIFY2(rows.at(i).contains(expected.at(i)), qPrintable(rows.at(i)));
+    const QString who = Cause::currentUser() + QStringLiteral(" (") + Cause::currentStation();
+    for (const QString& row : rows)
+        QVERIFY2(row.contains(who), qPrintable(row));
 }
 
 void tst_ClientDialogs::auditLogIsSearched()
@@ -100,7 +138,7 @@ void tst_ClientDialogs::auditLogIsSearched()
     QTest::keyClicks(search, QStringLiteral("<b>tor</b> & 100%"));
     QCOMPARE(view->model()->rowCount(), 1);
     search->clear();
-    QCOMPARE(view->model()->rowCount(), 13);
+    QCOMPARE(view->model()->rowCount(), 14); // with the database itself
 }
 
 void tst_ClientDialogs::auditLogSearchReadsWhatWasNotRead()
@@ -152,12 +190,17 @@ void tst_ClientDialogs::auditLogEntriesStayOnTheirLine()
 
 void tst_ClientDialogs::auditLogModelKeepsTheRules()
 {
+    for (int i = 0; i < 700; ++i) {
+        db().setGlobalRecordingFolderPath(QString::number(i)); // no dialog of the library logs it
+        QTest::qWait(0);
+    }
     log(700);
+    db().setGlobalRecordingFolderPath(QStringLiteral("last"));
     AuditLogModel model(db().auditLog());
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     while (model.canFetchMore(QModelIndex()))
         model.fetchMore(QModelIndex());
-    QCOMPARE(model.rowCount(), 700);
+    QCOMPARE(model.rowCount(), 1 + 2 * 700 + 1);
 }
 
 void tst_ClientDialogs::preferencesAreWrittenOnOk()

@@ -124,12 +124,12 @@ void tst_ItemModels::auditLogPageByPage()
     const BothTested tested(*view); // which reads on, too
     while (tested.proxy->canFetchMore(QModelIndex()))
         tested.proxy->fetchMore(QModelIndex());
-    QCOMPARE(tested.proxy->rowCount(), count);
+    QCOMPARE(tested.proxy->rowCount(), 1 + count); // it begins with the database
     auto* search = child<QLineEdit>(&dialog, "searchLineEdit");
     search->setText(QStringLiteral("nothing has this"));
     QCOMPARE(tested.proxy->rowCount(), 0);
     search->clear();
-    QCOMPARE(tested.proxy->rowCount(), count);
+    QCOMPARE(tested.proxy->rowCount(), 1 + count);
     // The toolkit loses the animation of a clear button that goes while it fades.
     QTest::qWait(300);
 }

@@ -12,6 +12,7 @@
 #include "ko/LogEntry.h"
 
 #include <functional>
+#include <limits>
 #include <random>
 
 using namespace ko;
@@ -69,6 +70,7 @@ private slots:
 private:
     QString addCameraWithEverything();
     QVector<ChangeSet> newSets();
+    void checkLogTellsOf(const ChangeSet& set);
     void randomChange(std::mt19937& random);
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -106,6 +108,29 @@ QVector<ChangeSet> TestChangeSets::newSets()
     if (!sets.isEmpty())
         m_last = sets.last().number;
     return sets;
+}
+
+/// Once: by its own entries, or without any.
+void TestChangeSets::checkLogTellsOf(const ChangeSet& set)
+{
+    const std::vector<AuditRecord> silent =
+        m_db->auditLog().silentChanges(std::numeric_limits<qint64>::max(), 1);
+    QVERIFY(!silent.empty());
+    const AuditRecord& record = silent.front();
+    QCOMPARE(record.seq == set.number, set.audit.isEmpty());
+    if (!set.audit.isEmpty())
+        return;
+    QCOMPARE(record.user, set.cause.user);
+    QCOMPARE(record.host, set.cause.station);
+    QCOMPARE(record.time.toMSecsSinceEpoch(), set.cause.time);
+    QVERIFY(!record.entry->title().isEmpty());
+    QCOMPARE(record.entry->text().isEmpty(), set.nodes.isEmpty());
+    if (!set.nodes.isEmpty()) {
+        const NodeChange& first = set.nodes.first();
+        QVERIFY2(record.entry->text().startsWith((first.after ? first.after : first.before)->name),
+                 qPrintable(record.entry->text()));
+        QCOMPARE(record.entry->text().contains(QString::number(set.nodes.size() - 1)), set.nodes.size() > 2);
+    }
 }
 
 void TestChangeSets::everyWayIsOneChangeSet_data()
@@ -205,6 +230,9 @@ void TestChangeSets::everyWayIsOneChangeSet()
     QCOMPARE(sets.first().cause.user, Cause::currentUser());
     QCOMPARE(sets.first().cause.station, Cause::currentStation());
     QVERIFY(qAbs(sets.first().cause.time - time) < 60000);
+    checkLogTellsOf(sets.first());
+    if (QTest::currentTestFailed())
+        return;
 
     QVERIFY(m_db->apply(sets.first().inverse()));
     const QVector<ChangeSet> back = newSets();
