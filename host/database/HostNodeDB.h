@@ -3,6 +3,7 @@
 
 #include "HostExport.h"
 #include "ko/NodeDB.h"
+#include "model/ChangeScope.h"
 #include "model/ChangeSet.h"
 #include "model/StoreError.h"
 
@@ -30,7 +31,7 @@ class Scanning;
 /// Other processes may use the same file. What they change arrives as the same three signals, within
 /// half a second; beginUpdateNode() looks for it first. Only properties that really differ are stored,
 /// so two processes that change different properties of one node both keep their work.
-class KO_HOST_EXPORT HostNodeDB : public NodeDB
+class KO_HOST_EXPORT HostNodeDB : public NodeDB, public ChangeGrouping
 {
     Q_OBJECT
 
@@ -113,11 +114,9 @@ public:
     /// Where a ProgramLog for this database keeps its lines.
     LogStore& logStore();
 
-    /// What is changed until leave() belongs to one change set, that of \a cause, in however many turns of
-    /// the event loop. What is changed without a cause belongs to the change set of its turn. See
-    /// ChangeScope.
-    void enter(const Cause& cause);
-    void leave();
+    // ChangeGrouping
+    void enter(const Cause& cause) override;
+    void leave() override;
 
     /// Does all that \a set says, as far as it can still be done: a node that is gone is not changed, one
     /// that is there is not added. False when something could not be read; what was done until then stays.
@@ -167,23 +166,6 @@ private:
     class Private;
     HostNodeDB(std::unique_ptr<NodeStore> opened, Check check);
     const std::unique_ptr<Private> d;
-};
-
-/// Everything that is changed while it lives is one change set.
-class ChangeScope
-{
-public:
-    /// \a db outlives it.
-    ChangeScope(HostNodeDB& db, const Cause& cause)
-        : m_db(db)
-    {
-        m_db.enter(cause);
-    }
-    ~ChangeScope() { m_db.leave(); }
-
-private:
-    Q_DISABLE_COPY(ChangeScope)
-    HostNodeDB& m_db;
 };
 
 } // namespace ko

@@ -59,6 +59,8 @@ void RemotePreviewDraft::make()
     const kom::smart<const Node> camera = NodeDB::getDB()->node(m_camera);
     if (camera.null() || !previewOf(m_camera).isEmpty())
         return;
+    if (auto* grouping = dynamic_cast<ChangeGrouping*>(NodeDB::getDB()))
+        m_scope.emplace(*grouping, Cause::now(Purpose::Edit));
     NodeData data;
     data.name = camera->name();
     m_made = add(NodeTypes::remotePreviewOf(data, NodeDB::getDB()->defaultRecordingTransponderIP()));
@@ -71,6 +73,7 @@ void RemotePreviewDraft::closed()
     const bool isUsed = !camera.null() && camera->boolProperty(PropertyKeys::UseRecordingTransponder, false);
     if (!m_made.isEmpty() && !isUsed)
         NodeDB::getDB()->removeNode(m_made);
+    m_scope.reset();
 }
 
 } // namespace ko

@@ -3,8 +3,11 @@
 
 #include "HostExport.h"
 #include "ko/Types.h"
+#include "model/ChangeScope.h"
 
 #include <QObject>
+
+#include <optional>
 
 namespace ko {
 
@@ -24,7 +27,8 @@ private:
     void closed();
 
     const NodeID m_camera;
-    NodeID m_made; ///< empty if the camera has one of its own
+    NodeID m_made;                      ///< empty if the camera has one of its own
+    std::optional<ChangeScope> m_scope; ///< with what the dialog changes it is one change set
 };
 
 } // namespace ko

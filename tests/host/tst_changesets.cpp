@@ -20,25 +20,6 @@ using namespace testsupport;
 
 namespace {
 
-/// Everything that a change set may change, in one text: equal texts, equal databases.
-QString stateOf(const QString& file)
-{
-    PlainSql sql(file);
-    QStringList rows;
-    for (const char* query :
-         {"SELECT group_concat(n || id || type || name || '|' || location || recording || lookup, x'0a')"
-          " FROM (SELECT * FROM nodes ORDER BY n)",
-          "SELECT group_concat(node || key || type || '|' || value, x'0a')"
-          " FROM (SELECT * FROM properties ORDER BY node, key)",
-          "SELECT group_concat(seq || '|' || source || '|' || destination || '|' || type, x'0a')"
-          " FROM (SELECT * FROM relations ORDER BY seq)",
-          "SELECT group_concat(key || '=' || value, x'0a') FROM (SELECT * FROM settings ORDER BY key)",
-          "SELECT group_concat(position || id || name, x'0a')"
-          " FROM (SELECT * FROM environments ORDER BY position)"})
-        rows.append(sql.run(QLatin1String(query)).toString());
-    return rows.join(QLatin1String("\n--\n"));
-}
-
 typedef std::function<void(HostNodeDB&)> Way;
 
 } // namespace
