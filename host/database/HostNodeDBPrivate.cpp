@@ -3,6 +3,8 @@
 #include "ko/LogQt.h"
 #include "secrets/Vault.h"
 
+#include <QElapsedTimer>
+
 namespace ko {
 
 HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)
@@ -37,6 +39,19 @@ void HostNodeDB::Private::start(Check when)
     });
     settings.reload();
     queue.start();
+    QObject::connect(&m_idle, &QTimer::timeout, &q, [this] { prepareSome(); });
+    m_idle.start(0);
+}
+
+void HostNodeDB::Private::prepareSome()
+{
+    QElapsedTimer clock;
+    clock.start();
+    bool isMore = true;
+    while (isMore && !clock.hasExpired(2))
+        isMore = memory.cache.indexSome();
+    if (!isMore)
+        m_idle.stop();
 }
 
 /// Of a new database; another process may be making them at the same time.

@@ -7,6 +7,8 @@
 #include "database/Scanning.h"
 #include "database/StoredLogs.h"
 
+#include <QTimer>
+
 #include <set>
 
 namespace ko {
@@ -34,7 +36,9 @@ public:
 
 private:
     void storeDefaults();
+    void prepareSome();
 
+    QTimer m_idle; ///< prepares between other things what else the first window would wait for
     std::set<std::string> m_missingScanners; ///< known to be missing, said once each
 };
 

@@ -23,13 +23,30 @@ NodeData NodeRecord::data() const
 
 NodeRecord* NodeCache::find(const NodeID& id) const
 {
-    if (!m_indexed) {
-        m_indexed = true;
-        m_byId.reserve(m_nodes.size());
-        for (const auto& node : m_nodes)
-            m_byId.insert(const_cast<NodeRecord*>(&node.second));
-    }
+    completeIndex();
     return m_byId.find(id);
+}
+
+bool NodeCache::indexSome() const
+{
+    if (m_indexing == Indexing::NotBegun) {
+        m_byId.reserve(m_nodes.size());
+        m_nextToIndex = m_nodes.begin();
+        m_indexing = Indexing::Begun;
+    }
+    for (int i = 0; i < 500 && m_indexing == Indexing::Begun; ++i) {
+        if (m_nextToIndex == m_nodes.end())
+            m_indexing = Indexing::Done;
+        else
+            m_byId.insert(const_cast<NodeRecord*>(&(m_nextToIndex++)->second));
+    }
+    return m_indexing != Indexing::Done;
+}
+
+void NodeCache::completeIndex() const
+{
+    while (indexSome()) {
+    }
 }
 
 const QStringList& NodeCache::ids(ENodeType type) const
@@ -56,12 +73,14 @@ QVector<NodeSummary> NodeCache::summaries() const
 
 NodeRecord& NodeCache::insert(qint64 order, const PackedSummary& summary)
 {
+    if (m_indexing == Indexing::Begun)
+        completeIndex();
     m_ids.clear();
     // Nearly always after all others.
     NodeRecord& record = m_nodes.emplace_hint(m_nodes.end(), order, NodeRecord())->second;
     record.order = order;
     record.summary = summary;
-    if (m_indexed)
+    if (m_indexing == Indexing::Done)
         m_byId.insert(&record);
     return record;
 }
@@ -86,15 +105,16 @@ NodeCache::Map::iterator NodeCache::placeOf(const NodeRecord& record)
 
 void NodeCache::remove(NodeRecord& record)
 {
+    completeIndex();
     m_ids.clear();
     setLookupKey(record, QString());
-    if (m_indexed)
-        m_byId.remove(&record);
+    m_byId.remove(&record);
     m_nodes.erase(placeOf(record));
 }
 
 void NodeCache::setStored(NodeRecord& record, qint64 order)
 {
+    completeIndex();
     m_ids.clear();
     Map::node_type node = m_nodes.extract(placeOf(record));
     record.order = qMin(order, FirstUnstored - 1);

@@ -57,6 +57,10 @@ public:
 
     NodeRecord* find(const NodeID& id) const;
 
+    /// Puts some more nodes into the index in which find() looks, which else does that for all when it is
+    /// first called. False when none is left.
+    bool indexSome() const;
+
     /// The identifiers of the nodes of a type, or of all; kept until a node comes, goes or changes its place.
     const QStringList& ids(ENodeType type) const;
     QVector<NodeSummary> summaries() const;
@@ -85,8 +89,12 @@ private:
     Map::iterator placeOf(const NodeRecord& record);
 
     Map m_nodes;
-    mutable NodeIndex m_byId; ///< empty until a node is looked for
-    mutable bool m_indexed = false;
+    void completeIndex() const;
+
+    mutable NodeIndex m_byId;
+    mutable Map::const_iterator m_nextToIndex;
+    enum class Indexing { NotBegun, Begun, Done };
+    mutable Indexing m_indexing = Indexing::NotBegun;
     mutable QHash<int, QStringList> m_ids; ///< by type
     QMultiHash<QString, NodeRecord*> m_byLookupKey;
     qint64 m_nextUnstored = FirstUnstored;
