@@ -37,7 +37,7 @@ QVariant AuditLogModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || role != Qt::DisplayRole)
         return QVariant();
-    return m_rows.at(index.row()).cells[index.column()];
+    return m_rows.at(index.row()).cells.at(std::size_t(index.column()));
 }
 
 QVariant AuditLogModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -6,6 +6,7 @@
 #include <QAbstractTableModel>
 #include <QVector>
 
+#include <array>
 #include <deque>
 #include <vector>
 
@@ -35,7 +36,7 @@ public:
 private:
     struct Row
     {
-        QString cells[ColumnCount];
+        std::array<QString, ColumnCount> cells;
     };
 
     /// One of the two, read up to some place.
