@@ -421,7 +421,7 @@ void tst_Scans::burstOfDevices()
     for (int round = 0; round < 3; ++round) {
         Scanners::of(db).intake().beginScan();
         emit Scanners::of(db).all().at(0)->found(burst);
-        QTRY_COMPARE_WITH_TIMEOUT(rows(), Count, 90000); // it is the disk that takes most of it
+        QTRY_COMPARE_WITH_TIMEOUT(rows(), Count, 10 * testsupport::Patience); // the disk takes most of it
         child<QAction>(m_dialog.get(), "actionRemove_all")->trigger();
         QCOMPARE(rows(), 0);
         const QVector<NodeSummary> nodes = db.summaries();
