@@ -54,6 +54,7 @@ public:
         if (m_when == When::First) {
             m_db.reset();
             m_db = bench::open(m_file);
+            passTime(300); // until somebody has seen the list, found the camera and opened it
         }
         std::unique_ptr<EditNodeDialog> dialog;
         return milliseconds([&] {

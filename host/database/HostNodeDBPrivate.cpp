@@ -49,7 +49,7 @@ void HostNodeDB::Private::prepareSome()
     clock.start();
     bool isMore = true;
     while (isMore && !clock.hasExpired(2))
-        isMore = memory.cache.indexSome();
+        isMore = memory.cache.prepareSome();
     if (!isMore)
         m_idle.stop();
 }

@@ -23,43 +23,53 @@ NodeData NodeRecord::data() const
 
 NodeRecord* NodeCache::find(const NodeID& id) const
 {
-    completeIndex();
+    prepareAll();
     return m_byId.find(id);
 }
 
-bool NodeCache::indexSome() const
+bool NodeCache::prepareSome() const
 {
-    if (m_indexing == Indexing::NotBegun) {
+    if (m_ready == Ready::Nothing) {
         m_byId.reserve(m_nodes.size());
-        m_nextToIndex = m_nodes.begin();
-        m_indexing = Indexing::Begun;
+        m_next = m_nodes.begin();
+        m_ready = Ready::Some;
     }
-    for (int i = 0; i < 500 && m_indexing == Indexing::Begun; ++i) {
-        if (m_nextToIndex == m_nodes.end())
-            m_indexing = Indexing::Done;
-        else
-            m_byId.insert(const_cast<NodeRecord*>(&(m_nextToIndex++)->second));
+    for (int i = 0; i < 500 && m_ready == Ready::Some; ++i) {
+        if (m_next == m_nodes.end()) {
+            m_ready = Ready::All;
+            break;
+        }
+        const PackedSummary& summary = m_next->second.summary;
+        m_ids[summary.type()].append(summary.id());
+        m_byId.insert(const_cast<NodeRecord*>(&(m_next++)->second));
     }
-    return m_indexing != Indexing::Done;
+    return m_ready != Ready::All;
 }
 
-void NodeCache::completeIndex() const
+void NodeCache::prepareAll() const
 {
-    while (indexSome()) {
+    while (prepareSome()) {
     }
+}
+
+/// Before a node comes, goes or changes its place.
+void NodeCache::changed()
+{
+    if (m_ready == Ready::Some)
+        prepareAll();
+    m_ids.clear();
+    m_allIds.clear();
 }
 
 const QStringList& NodeCache::ids(ENodeType type) const
 {
-    const auto found = m_ids.constFind(type);
-    if (found != m_ids.constEnd())
-        return *found;
-    QStringList& ids = m_ids[type];
-    for (const auto& node : m_nodes) {
-        if (type == AllNodeTypes || node.second.summary.type() == type)
-            ids.append(node.second.summary.id());
+    prepareAll();
+    const bool isMissing = type == AllNodeTypes ? m_allIds.isEmpty() : m_ids.isEmpty();
+    for (auto node = m_nodes.cbegin(); isMissing && node != m_nodes.cend(); ++node) {
+        const PackedSummary& summary = node->second.summary;
+        (type == AllNodeTypes ? m_allIds : m_ids[summary.type()]).append(summary.id());
     }
-    return ids;
+    return type == AllNodeTypes ? m_allIds : m_ids[type];
 }
 
 QVector<NodeSummary> NodeCache::summaries() const
@@ -73,14 +83,12 @@ QVector<NodeSummary> NodeCache::summaries() const
 
 NodeRecord& NodeCache::insert(qint64 order, const PackedSummary& summary)
 {
-    if (m_indexing == Indexing::Begun)
-        completeIndex();
-    m_ids.clear();
+    changed();
     // Nearly always after all others.
     NodeRecord& record = m_nodes.emplace_hint(m_nodes.end(), order, NodeRecord())->second;
     record.order = order;
     record.summary = summary;
-    if (m_indexing == Indexing::Done)
+    if (m_ready == Ready::All)
         m_byId.insert(&record);
     return record;
 }
@@ -105,8 +113,8 @@ NodeCache::Map::iterator NodeCache::placeOf(const NodeRecord& record)
 
 void NodeCache::remove(NodeRecord& record)
 {
-    completeIndex();
-    m_ids.clear();
+    prepareAll();
+    changed();
     setLookupKey(record, QString());
     m_byId.remove(&record);
     m_nodes.erase(placeOf(record));
@@ -114,8 +122,7 @@ void NodeCache::remove(NodeRecord& record)
 
 void NodeCache::setStored(NodeRecord& record, qint64 order)
 {
-    completeIndex();
-    m_ids.clear();
+    changed();
     Map::node_type node = m_nodes.extract(placeOf(record));
     record.order = qMin(order, FirstUnstored - 1);
     node.key() = record.order;

@@ -57,9 +57,9 @@ public:
 
     NodeRecord* find(const NodeID& id) const;
 
-    /// Puts some more nodes into the index in which find() looks, which else does that for all when it is
-    /// first called. False when none is left.
-    bool indexSome() const;
+    /// Gets some more nodes ready for find() and ids(), which else do that for all when they are first
+    /// called. False when none is left.
+    bool prepareSome() const;
 
     /// The identifiers of the nodes of a type, or of all; kept until a node comes, goes or changes its place.
     const QStringList& ids(ENodeType type) const;
@@ -89,13 +89,16 @@ private:
     Map::iterator placeOf(const NodeRecord& record);
 
     Map m_nodes;
-    void completeIndex() const;
+    void prepareAll() const;
+    void changed();
+
+    enum class Ready { Nothing, Some, All };
 
     mutable NodeIndex m_byId;
-    mutable Map::const_iterator m_nextToIndex;
-    enum class Indexing { NotBegun, Begun, Done };
-    mutable Indexing m_indexing = Indexing::NotBegun;
-    mutable QHash<int, QStringList> m_ids; ///< by type
+    mutable QHash<int, QStringList> m_ids; ///< by type; empty after a change
+    mutable QStringList m_allIds;          ///< likewise
+    mutable Ready m_ready = Ready::Nothing;
+    mutable Map::const_iterator m_next; ///< to be made ready
     QMultiHash<QString, NodeRecord*> m_byLookupKey;
     qint64 m_nextUnstored = FirstUnstored;
     bool m_lookupReady = false;

@@ -46,7 +46,7 @@ void NodeIndex::put(NodeRecord* record)
 void NodeIndex::reserve(size_t count)
 {
     size_t size = qMax<size_t>(16, m_table.size());
-    while (4 * count > 3 * size)
+    while (5 * count > 4 * size)
         size *= 2;
     if (size > m_table.size())
         resize(size);

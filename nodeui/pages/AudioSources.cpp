@@ -24,18 +24,25 @@ AudioSources::AudioSources(const QString& self, const QString& selfName, QObject
 {
 }
 
-void AudioSources::append(QStringList ids)
+void AudioSources::append(QStringList ids, bool hasSelf)
 {
     for (int i = qMin(int(ids.size()), mostLookedUp) - 1; i >= 0; --i) {
         if (!isThere(ids.at(i)))
             ids.removeAt(i);
     }
-    const Section section = {ids, int(ids.indexOf(m_self))};
-    const int rows = 1 + int(ids.size()) - (section.own < 0 ? 0 : 1);
-    beginInsertRows(QModelIndex(), m_rows, m_rows + rows - 1);
+    const Section section = {ids, hasSelf, -1};
+    beginInsertRows(QModelIndex(), m_rows, m_rows + section.rows() - 1);
     m_sections.append(section);
-    m_rows += rows;
+    m_rows += section.rows();
     endInsertRows();
+}
+
+/// Whether \a place, from 0 among the other nodes, lies after that of the node itself.
+bool AudioSources::isAfterSelf(const Section& section, int place) const
+{
+    if (section.hasSelf && section.own < 0)
+        section.own = int(section.ids.indexOf(m_self));
+    return section.own >= 0 && place >= section.own;
 }
 
 int AudioSources::rowOf(const QString& id) const
@@ -43,10 +50,9 @@ int AudioSources::rowOf(const QString& id) const
     int before = 0;
     for (const Section& section : m_sections) {
         const int place = id == m_self ? -1 : int(section.ids.indexOf(id));
-        const int rows = int(section.ids.size()) - (section.own < 0 ? 0 : 1);
         if (id == m_self || place >= 0)
-            return before + 1 + place - (section.own >= 0 && place > section.own ? 1 : 0);
-        before += 1 + rows;
+            return before + 1 + place - (place >= 0 && isAfterSelf(section, place - 1) ? 1 : 0);
+        before += section.rows();
     }
     return -1;
 }
@@ -56,10 +62,9 @@ QString AudioSources::idAt(int row) const
     for (const Section& section : m_sections) {
         if (row == 0)
             return m_self;
-        const int place = row - 1 + (section.own >= 0 && row > section.own ? 1 : 0);
-        if (place < section.ids.size())
-            return section.ids.at(place);
-        row = place - int(section.ids.size());
+        if (row < section.rows())
+            return section.ids.value(row - 1 + (isAfterSelf(section, row - 1) ? 1 : 0));
+        row -= section.rows();
     }
     return QString();
 }

@@ -17,8 +17,9 @@ public:
     AudioSources(const QString& self, const QString& selfName, QObject* parent);
 
     /// Adds the node itself and the nodes of \a ids that there are. In a long list those from the thousandth
-    /// on are believed to be there: asking for each would take longer than the rest of the page.
-    void append(QStringList ids);
+    /// on are believed to be there: asking for each would take longer than the rest of the page. \a hasSelf:
+    /// whether the node itself is one of them.
+    void append(QStringList ids, bool hasSelf);
 
     /// The first row of the node; -1 if it has none.
     int rowOf(const QString& id) const;
@@ -31,9 +32,13 @@ private:
     struct Section
     {
         QStringList ids;
-        int own; ///< the node's place in it, or -1
+        bool hasSelf;
+        mutable int own; ///< the node's place in it, or -1 until somebody needs it
+
+        int rows() const { return 1 + ids.size() - (hasSelf ? 1 : 0); }
     };
 
+    bool isAfterSelf(const Section& section, int place) const;
     QString idAt(int row) const;
 
     const QString m_self;

@@ -92,7 +92,7 @@ void LayoutOptionsWidget::fillAudioPathIdComboBox()
         sources = new AudioSources(m_nodeId, tr("Self"), m_ui->audioPathIdComboBox);
         m_ui->audioPathIdComboBox->setModel(sources);
     }
-    sources->append(NodeDB::getDB()->nodeIdList(IPDeviceType));
+    sources->append(NodeDB::getDB()->nodeIdList(IPDeviceType), node->type == IPDeviceType);
     const QString source = text(*node, PropertyKeys::AudioPathID);
     m_ui->audioPathIdComboBox->setCurrentIndex(sources->rowOf(source.isEmpty() ? m_nodeId : source));
 }
