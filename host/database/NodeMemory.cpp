@@ -251,6 +251,8 @@ void NodeMemory::stored(const NodeStore::Commit& commit, Notices* notices)
         if (NodeRecord* record = cache.find(it.key()))
             cache.setStored(*record, it.value());
     }
+    for (auto it = commit.reordered.begin(); it != commit.reordered.end(); ++it)
+        relations.replaceFrom(it.key(), it.value());
     for (const NodeID& id : commit.missingNodes) {
         if (NodeRecord* record = cache.find(id)) {
             forget(*record);

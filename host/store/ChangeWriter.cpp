@@ -86,8 +86,11 @@ void ChangeWriter::change(const RelationChange& change)
     RelationChange made = change;
     made.place = change.isAdded ? m_tables.addRelation(change.relation, change.place)
                                 : m_tables.removeRelation(change.relation);
-    if (made.place != 0)
-        note(made);
+    if (made.place == 0)
+        return;
+    note(made);
+    if (change.isAdded && change.place != 0)
+        m_reordered.insert(change.relation.source);
 }
 
 void ChangeWriter::change(const SettingChange& change)

@@ -5,6 +5,7 @@
 #include "store/NodeTables.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace ko {
 
@@ -25,6 +26,9 @@ public:
 
     /// Nodes to be changed that the store does not have: a program removed them without a word.
     const QVector<NodeID>& missingNodes() const { return m_missing; }
+
+    /// Where relations begin that were put between others.
+    const QSet<NodeID>& reordered() const { return m_reordered; }
 
 private:
     void addNode(NodeChange change);
@@ -47,6 +51,7 @@ private:
     QHash<QString, QString> m_sealed; ///< what was held in memory, to what was stored for it
     QHash<NodeID, qint64> m_places;
     QVector<NodeID> m_missing;
+    QSet<NodeID> m_reordered;
 };
 
 } // namespace ko

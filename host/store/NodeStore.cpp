@@ -138,7 +138,9 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
         d->tables.addProgramLine(line);
     if (!batch.programLines.isEmpty())
         d->tables.trimProgramLines();
-    Commit result = {d->log.revision(), writer.places(), writer.missingNodes()};
+    Commit result = {d->log.revision(), writer.places(), writer.missingNodes(), {}};
+    for (const NodeID& source : writer.reordered())
+        result.reordered.insert(source, d->tables.relationsFrom(source));
     transaction.commit();
     return result;
 }

@@ -85,6 +85,8 @@ public:
         qint64 revision;
         QHash<NodeID, qint64> places; ///< of the nodes that were added
         QVector<NodeID> missingNodes; ///< to be changed, but not there: taken as removed
+        /// By source: in their order, where some got their earlier places back.
+        QHash<NodeID, QVector<Relation>> reordered;
     };
 
     /// Keeps other programs from writing, calls \a merge with what they changed since \a revision, and stores

@@ -38,6 +38,7 @@ private slots:
 
     void everyWayIsOneChangeSet_data();
     void everyWayIsOneChangeSet();
+    void relationsComeBackInTheirOrder();
     void oneTurnIsOneChangeSet();
     void aCauseLastsOverTurns();
     void whatChangesNothingLeavesNone();
@@ -227,6 +228,29 @@ void TestChangeSets::everyWayIsOneChangeSet()
     const QVector<NodeSummary> seen = m_db->summaries();
     m_db = openDatabase(m_file);
     QCOMPARE(m_db->summaries(), seen);
+}
+
+/// The first one counts.
+void TestChangeSets::relationsComeBackInTheirOrder()
+{
+    QStringList folders = {m_folderNode};
+    for (const char* name : {"Second", "Third"}) {
+        folders.append(addNode(*m_db, RecordingFolderType, QLatin1String(name), QLatin1String("/x")));
+        m_db->addNodeRelation(m_camera, folders.last(), RecordingFolderRelation);
+        newSets();
+    }
+    m_db->removeNodeRelation(m_camera, folders.at(1), RecordingFolderRelation);
+    const QVector<ChangeSet> second = newSets();
+    m_db->removeNode(m_folderNode);
+    const QVector<ChangeSet> first = newSets();
+    QVERIFY(m_db->apply(second.first().inverse()));
+    newSets();
+    QCOMPARE(m_db->relatedNodes(m_camera, RecordingFolderRelation), folders.mid(1));
+    QVERIFY(m_db->apply(first.first().inverse()));
+    newSets();
+    QCOMPARE(m_db->relatedNodes(m_camera, RecordingFolderRelation), folders);
+    m_db = openDatabase(m_file);
+    QCOMPARE(m_db->relatedNodes(m_camera, RecordingFolderRelation), folders);
 }
 
 void TestChangeSets::oneTurnIsOneChangeSet()
