@@ -86,7 +86,7 @@ QByteArray DeviceCheck::authorization(const QString& path)
         return m_digest.authorization(m_target.user, m_target.password, "POST",
                                       QUrl::toPercentEncoding(path, "/:@!$&'()*+,;="));
     if (m_way == Way::Basic)
-        return "Basic " + (m_target.user + QLatin1Char(':') + m_target.password).toUtf8().toBase64();
+        return HttpDigest::basic(m_target.user, m_target.password);
     return QByteArray();
 }
 
@@ -229,6 +229,9 @@ void DeviceCheck::identified()
     if (m_target.wantsAllFacts) {
         for (const FactReader& reader : factReaders)
             m_questions.enqueue({reader.operation, -1});
+    } else if (m_target.wantsPicture) {
+        m_questions.enqueue({Operation::GetServices, -1});
+        m_questions.enqueue({Operation::GetProfiles, -1});
     } else if (m_report.seen.endpoint.isEmpty() && m_target.known.endpoint.isEmpty()) {
         m_questions.enqueue({Operation::GetEndpointReference, -1}); // for the next time
     }
@@ -238,7 +241,7 @@ void DeviceCheck::identified()
 void DeviceCheck::askNext()
 {
     if (m_questions.isEmpty())
-        return end(DeviceReport::Answers);
+        return m_target.wantsPicture ? fetchPicture() : end(DeviceReport::Answers);
     const Question next = m_questions.dequeue();
     ask(next.operation, &DeviceCheck::factTold, next.profile);
 }
@@ -263,8 +266,10 @@ void DeviceCheck::factTold(const HttpAnswer& answer)
         if (reader != std::end(factReaders) && reader->read(answer.body, facts))
             m_report.facts = facts;
         m_report.seen.endpoint = m_report.facts.endpoint;
-        if (m_asked.operation == Operation::GetProfiles)
+        if (m_asked.operation == Operation::GetProfiles && m_target.wantsAllFacts)
             queueProfiles();
+        if (m_asked.operation == Operation::GetProfiles && m_target.wantsPicture)
+            queuePicture();
     }
     // One that hangs would be waited for with each question.
     if (answer.error == HttpAnswer::TimedOut || answer.error == HttpAnswer::NotReached)
@@ -279,6 +284,31 @@ void DeviceCheck::queueProfiles()
         m_questions.enqueue({Operation::GetStreamUri, i});
         m_questions.enqueue({Operation::GetSnapshotUri, i});
     }
+}
+
+/// One profile of the channel: pictures of the others show the same.
+void DeviceCheck::queuePicture()
+{
+    m_pictureProfile = PictureFetch::profileOf(m_report.facts, m_target.channel);
+    if (m_pictureProfile >= 0)
+        m_questions.enqueue({Operation::GetSnapshotUri, m_pictureProfile});
+}
+
+void DeviceCheck::fetchPicture()
+{
+    if (m_pictureProfile < 0) {
+        m_report.pictureProblem = tr("it tells of no pictures of this channel");
+        return end(DeviceReport::Answers);
+    }
+    const QString& known = m_target.known.realm;
+    const QString realm = known.isEmpty() ? m_report.seen.realm : known;
+    m_picture = std::make_unique<PictureFetch>(*m_connection, m_target, realm,
+                                               [this](const QImage& picture, const QString& problem) {
+                                                   m_report.picture = picture;
+                                                   m_report.pictureProblem = problem;
+                                                   end(DeviceReport::Answers);
+                                               });
+    m_picture->start(m_report.facts.profiles.at(m_pictureProfile).snapshotUri, Deadline);
 }
 
 void DeviceCheck::end(DeviceReport::State state, const QString& reason)

@@ -4,6 +4,7 @@
 #include "devices/DeviceConnection.h"
 #include "devices/DeviceReport.h"
 #include "devices/HttpDigest.h"
+#include "devices/PictureFetch.h"
 #include "devices/SoapRequest.h"
 
 #include <QQueue>
@@ -69,6 +70,8 @@ private:
     void identified();
     void askNext();
     void queueProfiles();
+    void queuePicture();
+    void fetchPicture();
     void end(DeviceReport::State state, const QString& reason = QString());
 
     const DeviceTarget m_target;
@@ -78,6 +81,8 @@ private:
     Way m_way = Way::None;
     bool m_wasStale = false;
     QQueue<Question> m_questions;
+    int m_pictureProfile = -1; ///< of facts.profiles
+    std::unique_ptr<PictureFetch> m_picture;
     Question m_asked = {SoapRequest::Operation::GetSystemDateAndTime, -1};
     QTimer m_limit;
 };

@@ -21,8 +21,9 @@ QString placeOf(const DeviceTarget& target)
 bool isAlike(const DeviceTarget& a, const DeviceTarget& b)
 {
     return a.useSSL == b.useSSL && a.user == b.user && a.password == b.password &&
-           a.allowsBasic == b.allowsBasic && a.wantsAllFacts == b.wantsAllFacts && a.proxy == b.proxy &&
-           a.known.serial == b.known.serial && a.known.endpoint == b.known.endpoint &&
+           a.allowsBasic == b.allowsBasic && a.wantsAllFacts == b.wantsAllFacts &&
+           a.wantsPicture == b.wantsPicture && (!a.wantsPicture || a.channel == b.channel) &&
+           a.proxy == b.proxy && a.known.serial == b.known.serial && a.known.endpoint == b.known.endpoint &&
            a.known.realm == b.known.realm && a.known.certificate == b.known.certificate;
 }
 

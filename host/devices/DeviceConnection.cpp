@@ -1,5 +1,7 @@
 #include "devices/DeviceConnection.h"
 
+#include "devices/PictureReader.h"
+
 #include <QCryptographicHash>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -14,11 +16,11 @@ namespace {
 
 const int ReadBuffer = 65536; // bytes; who sends faster than we look waits
 
-QNetworkRequest requestFor(const QUrl& url)
+QNetworkRequest requestFor(const QUrl& url, const QByteArray& authorization)
 {
     QNetworkRequest request(url);
-    request.setHeader(QNetworkRequest::ContentTypeHeader,
-                      QByteArrayLiteral("application/soap+xml; charset=utf-8"));
+    if (!authorization.isEmpty())
+        request.setRawHeader("Authorization", authorization);
     request.setRawHeader("User-Agent", "konodeui");
     // What is packed may be a bomb.
     request.setRawHeader("Accept-Encoding", "identity");
@@ -76,13 +78,33 @@ void DeviceConnection::post(const QString& path, const QByteArray& message, cons
 {
     QUrl url = m_device;
     url.setPath(path);
-    QNetworkRequest request = requestFor(url);
-    if (!authorization.isEmpty())
-        request.setRawHeader("Authorization", authorization);
+    QNetworkRequest request = requestFor(url, authorization);
+    request.setHeader(QNetworkRequest::ContentTypeHeader,
+                      QByteArrayLiteral("application/soap+xml; charset=utf-8"));
+    begin(m_manager.post(request, message), LongestBody, deadline, take);
+}
+
+void DeviceConnection::get(const QUrl& place, const QByteArray& authorization, int deadline, const Take& take)
+{
+    QUrl url = m_device;
+    url.setPath(place.path(QUrl::FullyEncoded), QUrl::TolerantMode); // encoded as it was
+    url.setQuery(place.query(QUrl::FullyEncoded));
+    begin(m_manager.get(requestFor(url, authorization)), PictureReader::LongestPicture, deadline, take);
+}
+
+QByteArray DeviceConnection::requestTarget(const QUrl& place)
+{
+    const QByteArray path = place.path(QUrl::FullyEncoded).toLatin1();
+    return place.hasQuery() ? path + '?' + place.query(QUrl::FullyEncoded).toLatin1() : path;
+}
+
+void DeviceConnection::begin(QNetworkReply* reply, int longest, int deadline, const Take& take)
+{
     m_take = take;
     m_failure = HttpAnswer::None;
     m_body.clear();
-    m_reply = m_manager.post(request, message);
+    m_longest = longest;
+    m_reply = reply;
     m_reply->setReadBufferSize(ReadBuffer);
     connect(m_reply, &QNetworkReply::encrypted, this, &DeviceConnection::checkCertificate);
     connect(m_reply, &QNetworkReply::readyRead, this, &DeviceConnection::checkLength);
@@ -101,7 +123,7 @@ void DeviceConnection::checkCertificate()
 void DeviceConnection::checkLength()
 {
     m_body += m_reply->readAll();
-    if (m_body.size() > LongestBody)
+    if (m_body.size() > m_longest)
         fail(HttpAnswer::TooLong);
 }
 
@@ -139,7 +161,7 @@ void DeviceConnection::takeAnswer()
     m_deadline.stop();
     if (m_failure == HttpAnswer::None)
         m_body += m_reply->readAll();
-    if (m_body.size() > LongestBody && m_failure == HttpAnswer::None)
+    if (m_body.size() > m_longest && m_failure == HttpAnswer::None)
         m_failure = HttpAnswer::TooLong;
     const HttpAnswer result = answer();
     std::exchange(m_reply, nullptr)->deleteLater();

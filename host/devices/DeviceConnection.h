@@ -35,7 +35,8 @@ struct HttpAnswer
     QString text;          ///< of the error, for the user
 };
 
-/// Posts SOAP messages to one device, one at a time. Asynchronous, in the thread that it lives in.
+/// Posts SOAP messages to one device, and gets its pictures, one at a time. Asynchronous, in the thread that
+/// it lives in.
 ///
 /// It goes to this device alone: it follows no redirects, keeps no cookies, and sends no password but what it
 /// is given as an authorization. The certificate of a TLS connection must be the one that was remembered; of
@@ -45,7 +46,7 @@ class KO_HOST_EXPORT DeviceConnection : public QObject
     Q_OBJECT
 
 public:
-    enum Limits { LongestBody = 1 << 20 /* bytes */ };
+    enum Limits { LongestBody = 1 << 20 /* bytes, of an answer to a message */ };
 
     typedef std::function<void(const HttpAnswer& answer)> Take;
 
@@ -62,6 +63,13 @@ public:
     void post(const QString& path, const QByteArray& message, const QByteArray& authorization, int deadline,
               const Take& take);
 
+    /// The same for a picture; of \a place only path and query count. The body may be as long as
+    /// PictureReader takes it.
+    void get(const QUrl& place, const QByteArray& authorization, int deadline, const Take& take);
+
+    /// Path and query as a request says them.
+    static QByteArray requestTarget(const QUrl& place);
+
     /// Of the last connection, as in DeviceIdentity; empty without TLS.
     QByteArray certificate() const { return m_certificate; }
 
@@ -72,6 +80,7 @@ private slots:
     void takeAnswer();
 
 private:
+    void begin(QNetworkReply* reply, int longest, int deadline, const Take& take);
     void fail(HttpAnswer::Error error);
     HttpAnswer answer() const;
 
@@ -83,6 +92,7 @@ private:
     QTimer m_deadline;
     QNetworkReply* m_reply = nullptr; ///< belongs to the manager
     QByteArray m_body;
+    int m_longest = LongestBody;
     QNetworkAccessManager m_manager;
 };
 

@@ -4,6 +4,7 @@
 #include "devices/DeviceFacts.h"
 
 #include <QDateTime>
+#include <QImage>
 #include <QNetworkProxy>
 
 namespace ko {
@@ -20,6 +21,8 @@ struct DeviceTarget
     bool allowsBasic =
         false; ///< the user allowed the password in the clear, or base64 of it, for this device
     bool wantsAllFacts = false; ///< not only who it is: some ten more questions
+    bool wantsPicture = false;  ///< what it sees
+    int channel = 1;            ///< of which the picture is
     QNetworkProxy proxy = QNetworkProxy(QNetworkProxy::NoProxy);
 
     /// As remembered from the last report that the user believed; empty for a device that was never checked.
@@ -47,6 +50,8 @@ struct DeviceReport
     bool isOpen = false;    ///< it asked for no password
     DeviceIdentity seen;    ///< to be remembered, once the user believes it
     DeviceFacts facts;      ///< as far as they were told
+    QImage picture;         ///< null unless it was wanted and came; at most as PictureReader has it
+    QString pictureProblem; ///< why not, for the user
     qint64 clockOffset = 0; ///< s, how far the device's clock is ahead of ours
     QDateTime time;         ///< of the end of the check
 };

@@ -136,6 +136,11 @@ bool HttpDigest::offersBasic(const QByteArray& challenges)
                        [](const Challenge& challenge) { return challenge.scheme == "basic"; });
 }
 
+QByteArray HttpDigest::basic(const QString& user, const QString& password)
+{
+    return "Basic " + (user + QLatin1Char(':') + password).toUtf8().toBase64();
+}
+
 QByteArray HttpDigest::authorization(const QString& user, const QString& password, const QByteArray& method,
                                      const QByteArray& uri)
 {

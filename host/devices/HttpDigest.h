@@ -28,6 +28,9 @@ public:
     /// Whether the password is asked for in the clear.
     static bool offersBasic(const QByteArray& challenges);
 
+    /// The header "Authorization" that tells it so.
+    static QByteArray basic(const QString& user, const QString& password);
+
     /// The header "Authorization" of the next request. \a uri is that of the request line.
     QByteArray authorization(const QString& user, const QString& password, const QByteArray& method,
                              const QByteArray& uri);

@@ -2,6 +2,7 @@
 
 #include "devices/KnownDevice.h"
 #include "drivers/NodeTypes.h"
+#include "interfaces/ISupportsChannels.h"
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/PropertyKeys.h"
@@ -41,6 +42,8 @@ DeviceTarget of(const IPDeviceNode& node, const GlobalNetworkProxy& global)
     target.port = node.port() > 0 ? node.port() : int(target.useSSL ? HttpsPort : HttpPort);
     target.user = node.user(1);
     target.password = node.password(1);
+    if (const auto* channels = dynamic_cast<const ISupportsChannels*>(&node))
+        target.channel = channels->channel();
     target.proxy = proxyOf(node, global);
     target.known = KnownDevice::of(node);
     return target;

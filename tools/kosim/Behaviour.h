@@ -17,6 +17,15 @@ enum class Behaviour {
     Slow,       ///< takes two seconds for each answer
     Foreign,    ///< asks for the password of another device's realm
     Lying,      ///< has another serial number each time
+    // Good devices with bad pictures.
+    DotPicture,       ///< of one pixel
+    HugePicture,      ///< says that it has 60,000 x 60,000
+    ScansPicture,     ///< has thousands of scans
+    EndlessPicture,   ///< announces a gigabyte, and goes on after it
+    NoisePicture,     ///< begins like one and is none
+    PagePicture,      ///< a web page
+    ElsewherePicture, ///< is to be fetched from another host
+    RealmPicture,     ///< wants the password of another realm than the device
     // From here on no ONVIF is spoken.
     Silent,  ///< takes the request and never answers
     Broken,  ///< answers with half a message

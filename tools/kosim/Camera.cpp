@@ -52,11 +52,13 @@ void Camera::serveRtsp()
     });
 }
 
-/// All but the services of ONVIF asks for the password.
+/// All but the services of ONVIF and the pictures asks for the password, and refuses any.
 HttpReply Camera::answer(const HttpRequest& request)
 {
     if (request.path.startsWith("/onvif/"))
         return m_onvif.answer(request, m_identity, m_account);
+    if (request.path.startsWith("/snapshot/"))
+        return m_onvif.picture(request, m_identity, m_account);
     HttpReply reply;
     reply.status = 401;
     reply.headers = challenge("kosim", newNonce());

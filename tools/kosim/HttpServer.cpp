@@ -53,7 +53,7 @@ void writeEndlessly(QTcpSocket* socket)
 void write(QTcpSocket* socket, const HttpReply& reply)
 {
     QByteArray head = "HTTP/1.1 " + QByteArray::number(reply.status) +
-                      " Kosim\r\nContent-Type: application/soap+xml; charset=utf-8\r\n" + reply.headers;
+                      " Kosim\r\nContent-Type: " + reply.type + "\r\n" + reply.headers;
     if (!reply.isEndless)
         head += "Content-Length: " + QByteArray::number(reply.body.size()) + "\r\n";
     socket->write(head + "\r\n" + reply.body);

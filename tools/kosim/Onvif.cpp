@@ -1,6 +1,7 @@
 #include "Onvif.h"
 
 #include "OnvifAnswers.h"
+#include "Snapshot.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -77,6 +78,37 @@ HttpReply Onvif::answer(const HttpRequest& request, const Identity& identity, co
     return reply;
 }
 
+HttpReply Onvif::picture(const HttpRequest& request, const Identity& identity, const Account& account)
+{
+    HttpReply reply = misbehave();
+    if (m_behaviour >= Behaviour::Silent)
+        return reply;
+    const int delay = reply.delay;
+    const Access granted = accessToPicture(request, account);
+    if (granted == Access::Locked)
+        reply = ask(granted);
+    else if (granted == Access::Granted)
+        reply = Snapshot::answer(m_behaviour, request.path, identity);
+    else
+        reply = askByHttp(pictureRealm());
+    reply.delay = delay;
+    return reply;
+}
+
+Onvif::Access Onvif::accessToPicture(const HttpRequest& http, const Account& account)
+{
+    if (m_behaviour == Behaviour::Open)
+        return Access::Granted;
+    if (m_behaviour == Behaviour::Locks && m_failures >= FailuresUntilLocked)
+        return Access::Locked;
+    if (http.authorization.isEmpty())
+        return Access::Asked;
+    const bool fits = m_behaviour == Behaviour::Basic ? basicFits(http, account)
+                                                      : digestFits(http, pictureRealm(), account);
+    m_failures = fits ? 0 : m_failures + 1;
+    return fits ? Access::Granted : Access::Wrong;
+}
+
 /// For those that answer, only the delay.
 HttpReply Onvif::misbehave() const
 {
@@ -123,14 +155,23 @@ HttpReply Onvif::ask(Access access) const
         reply.body = soapFault("Sender", "NotAuthorized", "The account is locked, try again in 300 seconds");
         return reply;
     }
-    reply.status = 401;
-    reply.body = soapFault("Sender", "NotAuthorized", "The action requested requires authorization");
-    if (m_behaviour == Behaviour::Token || m_behaviour == Behaviour::WrongClock)
+    const bool isToken = m_behaviour == Behaviour::Token || m_behaviour == Behaviour::WrongClock;
+    if (isToken)
         reply.status = 400;
-    else if (m_behaviour == Behaviour::Basic)
+    else
+        reply = askByHttp(realm());
+    reply.body = soapFault("Sender", "NotAuthorized", "The action requested requires authorization");
+    return reply;
+}
+
+HttpReply Onvif::askByHttp(const QByteArray& realm) const
+{
+    HttpReply reply;
+    reply.status = 401;
+    if (m_behaviour == Behaviour::Basic)
         reply.headers = "WWW-Authenticate: Basic realm=\"kosim\"\r\n";
     else
-        reply.headers = "WWW-Authenticate: Digest realm=\"" + realm() + "\", nonce=\"" + nonce +
+        reply.headers = "WWW-Authenticate: Digest realm=\"" + realm + "\", nonce=\"" + nonce +
                         "\", algorithm=MD5, qop=\"auth\"\r\n";
     return reply;
 }
@@ -148,25 +189,30 @@ Onvif::Access Onvif::access(const HttpRequest& http, const SoapRequest& soap, co
     if (m_behaviour == Behaviour::Token || m_behaviour == Behaviour::WrongClock)
         fits = tokenFits(soap, account);
     else if (m_behaviour == Behaviour::Basic)
-        fits = http.authorization ==
-               "Basic " + (account.user + QLatin1Char(':') + account.password).toUtf8().toBase64();
+        fits = basicFits(http, account);
     else
-        fits = digestFits(http, account);
+        fits = digestFits(http, realm(), account);
     m_failures = fits ? 0 : m_failures + 1;
     return fits ? Access::Granted : Access::Wrong;
 }
 
-bool Onvif::digestFits(const HttpRequest& http, const Account& account) const
+bool Onvif::basicFits(const HttpRequest& http, const Account& account) const
+{
+    return http.authorization ==
+           "Basic " + (account.user + QLatin1Char(':') + account.password).toUtf8().toBase64();
+}
+
+bool Onvif::digestFits(const HttpRequest& http, const QByteArray& realm, const Account& account) const
 {
     if (!http.authorization.startsWith("Digest "))
         return false;
     const QMap<QString, QByteArray> told = parametersOf(http.authorization);
     const auto value = [&told](const char* name) { return told.value(QLatin1String(name)); };
-    const QByteArray secret = md5(account.user.toUtf8() + ':' + realm() + ':' + account.password.toUtf8());
+    const QByteArray secret = md5(account.user.toUtf8() + ':' + realm + ':' + account.password.toUtf8());
     const QByteArray expected = md5(secret + ':' + nonce + ':' + value("nc") + ':' + value("cnonce") +
                                     ":auth:" + md5(http.method + ':' + http.path));
-    return value("username") == account.user.toUtf8() && value("realm") == realm() &&
-           value("nonce") == nonce && value("uri") == http.path && value("response") == expected;
+    return value("username") == account.user.toUtf8() && value("realm") == realm && value("nonce") == nonce &&
+           value("uri") == http.path && value("response") == expected;
 }
 
 bool Onvif::tokenFits(const SoapRequest& soap, const Account& account) const
@@ -190,8 +236,15 @@ QByteArray Onvif::realm() const
     return m_behaviour == Behaviour::Foreign ? "bank.example" : "kosim";
 }
 
+QByteArray Onvif::pictureRealm() const
+{
+    return m_behaviour == Behaviour::RealmPicture ? "bank.example" : realm();
+}
+
 QByteArray Onvif::perform(const SoapRequest& soap, const Identity& identity)
 {
+    if (m_behaviour == Behaviour::ElsewherePicture && soap.operation == QLatin1String("GetSnapshotUri"))
+        return OnvifAnswers::snapshotElsewhere();
     if (m_behaviour != Behaviour::Lying)
         return OnvifAnswers::perform(soap, identity, clock());
     Identity other = identity;

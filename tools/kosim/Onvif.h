@@ -46,12 +46,13 @@ struct HttpReply
 {
     int status = 200;
     QByteArray body;
+    QByteArray type = "application/soap+xml; charset=utf-8";
     QByteArray headers; ///< besides length and type, each with its line end
     int delay = 0;      ///< ms; below 0 for never
     bool isEndless = false;
 };
 
-/// The device service of one simulated camera.
+/// The services of one simulated camera, and its pictures.
 class Onvif
 {
 public:
@@ -62,16 +63,23 @@ public:
 
     HttpReply answer(const HttpRequest& request, const Identity& identity, const Account& account);
 
+    /// Asks for HTTP digest also where the services want a token, as web servers of devices do.
+    HttpReply picture(const HttpRequest& request, const Identity& identity, const Account& account);
+
 private:
     enum class Access { Granted, Asked, Wrong, Locked };
 
     HttpReply misbehave() const;
     HttpReply ask(Access access) const;
+    HttpReply askByHttp(const QByteArray& realm) const;
     Access access(const HttpRequest& http, const SoapRequest& soap, const Account& account);
-    bool digestFits(const HttpRequest& http, const Account& account) const;
+    Access accessToPicture(const HttpRequest& http, const Account& account);
+    bool basicFits(const HttpRequest& http, const Account& account) const;
+    bool digestFits(const HttpRequest& http, const QByteArray& realm, const Account& account) const;
     bool tokenFits(const SoapRequest& soap, const Account& account) const;
     qint64 clock() const;
     QByteArray realm() const;
+    QByteArray pictureRealm() const;
     QByteArray perform(const SoapRequest& soap, const Identity& identity);
 
     Behaviour m_behaviour;

@@ -11,6 +11,9 @@ namespace OnvifAnswers {
 /// Empty for an operation that it does not know. \a clock is the device's, in seconds since 1970.
 QByteArray perform(const SoapRequest& request, const Identity& identity, qint64 clock);
 
+/// The picture is at a host that nobody has named.
+QByteArray snapshotElsewhere();
+
 QByteArray halfAMessage();
 QByteArray bomb();
 QByteArray endlessTag();

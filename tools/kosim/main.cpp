@@ -2,7 +2,7 @@
 #include "Say.h"
 #include "Site.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QSocketNotifier>
 
 #include <csignal>
@@ -31,7 +31,8 @@ int signalDescriptor()
 int main(int argc, char** argv)
 {
     const int ending = signalDescriptor();
-    const QCoreApplication app(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // pictures have texts in them; there is no window
+    const QGuiApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kosim"));
     kosim::Options options;
     const QString error = options.read(QCoreApplication::arguments());
