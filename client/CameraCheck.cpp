@@ -6,10 +6,7 @@
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/IPDeviceNode.h"
 
-#include <QCryptographicHash>
-#include <QDataStream>
 #include <QElapsedTimer>
-#include <QUuid>
 
 #include <algorithm>
 #include <utility>
@@ -19,7 +16,6 @@ namespace ko {
 CameraCheck::CameraCheck(HostNodeDB& db, QObject* parent)
     : QObject(parent)
     , m_db(db)
-    , m_salt(QUuid::createUuid().toRfc4122())
 {
     m_looking.setSingleShot(true);
     connect(&m_reading, &QTimer::timeout, this, &CameraCheck::readSome);
@@ -71,7 +67,7 @@ void CameraCheck::read(const QString& id)
         ++m_gone;
         return;
     }
-    m_checkedAs.insert(id, fingerprint(*node));
+    m_checkedAs.insert(id, m_fingerprint.of(*node));
     if (!NodeTarget::hasUnreadPassword(*node)) {
         m_targets.append(NodeTarget::of(*node, m_db.globalProxy()));
         return;
@@ -148,15 +144,7 @@ void CameraCheck::remember(const QVector<DeviceReport>& reports)
 bool CameraCheck::isAsChecked(const QString& id) const
 {
     const kom::smart<const IPDeviceNode> node = m_db.node(id).cast<const IPDeviceNode>();
-    return !node.null() && m_checkedAs.value(id) == fingerprint(*node);
-}
-
-QByteArray CameraCheck::fingerprint(const IPDeviceNode& node) const
-{
-    QByteArray bytes = m_salt;
-    QDataStream stream(&bytes, QIODevice::Append);
-    stream << node.address().trimmed() << node.port() << node.useSSL() << node.user(1) << node.password(1);
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+    return !node.null() && m_checkedAs.value(id) == m_fingerprint.of(*node);
 }
 
 void CameraCheck::nodeUpdated(const NodeID& id)

@@ -2,6 +2,7 @@
 #define KO_CAMERACHECK_H
 
 #include "CameraState.h"
+#include "DeviceFingerprint.h"
 #include "devices/DeviceChecks.h"
 #include "ko/Types.h"
 #include "model/Cause.h"
@@ -14,7 +15,6 @@
 namespace ko {
 
 class HostNodeDB;
-class IPDeviceNode;
 
 /// Checks cameras of the database, and knows until when what was found holds: a camera whose address or
 /// credentials are changed is not checked any more, also if it is changed meanwhile.
@@ -62,7 +62,6 @@ private:
     void take(const DeviceReport& report, States* states);
     void remember(const QVector<DeviceReport>& reports);
     bool isAsChecked(const QString& id) const;
-    QByteArray fingerprint(const IPDeviceNode& node) const;
     void nodeUpdated(const NodeID& id);
     void nodeRemoved(const NodeID& id);
     void lookAtUpdated();
@@ -72,8 +71,8 @@ private:
     DeviceChecks m_checks;
     QTimer m_reading;
     QTimer m_looking;
-    const QByteArray m_salt; ///< so that no password can be guessed from what is kept of it
-    QStringList m_waiting;   ///< not read yet
+    const DeviceFingerprint m_fingerprint;
+    QStringList m_waiting; ///< not read yet
     QVector<DeviceTarget> m_targets;
     QHash<QString, QByteArray> m_checkedAs; ///< of each camera that has a result, or waits for it
     QSet<QString> m_updated;

@@ -7,6 +7,7 @@
 #include "NodeListModel.h"
 #include "NodeListView.h"
 #include "NodeLogEntries.h"
+#include "PictureTip.h"
 #include "PlainMessageBox.h"
 #include "SearchText.h"
 #include "audit/AuditLog.h"
@@ -31,12 +32,16 @@ CameraChecking::CameraChecking(MainWindow& window, NodeListModel& model)
     , m_model(model)
     , m_panel(new CheckPanel(window.statusBar()))
     , m_check(window.database())
+    , m_pictures(window.database(), [&model](const QString& id) { return model.stateOf(id); })
 {
     window.statusBar()->addPermanentWidget(m_panel);
     m_panel->hide(); // adding it has shown it
     connect(m_panel, &CheckPanel::cancelled, this, &CameraChecking::cancel);
     connect(m_panel, &CheckPanel::pressed, this, &CameraChecking::takeOffer);
     connect(&m_check, &CameraCheck::found, &m_model, &NodeListModel::setStates);
+    connect(&m_check, &CameraCheck::found, this,
+            [this](const CameraCheck::States& states) { m_pictures.forgetProblems(states.keys()); });
+    new PictureTip(window.list(), m_pictures);
     connect(&m_check, &CameraCheck::progressed, this,
             [this] { m_panel->showProgress(m_check.done(), m_check.total()); });
     connect(&m_check, &CameraCheck::finished, this, &CameraChecking::finish);

@@ -2,6 +2,7 @@
 #define KO_CAMERACHECKING_H
 
 #include "CameraCheck.h"
+#include "CameraPictures.h"
 
 #include <functional>
 
@@ -34,6 +35,8 @@ public:
 
     void cancel();
 
+    CameraPictures& pictures() { return m_pictures; }
+
 private:
     /// What can be done next.
     struct Offer
@@ -58,6 +61,7 @@ private:
     NodeListModel& m_model;
     CheckPanel* const m_panel;
     CameraCheck m_check;
+    CameraPictures m_pictures;
     Offer m_offer;
     bool m_isTry = false;
     bool m_isCancelled = false;

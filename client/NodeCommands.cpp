@@ -7,6 +7,7 @@
 #include "MainWindow.h"
 #include "NodeListView.h"
 #include "NodeLogEntries.h"
+#include "PictureView.h"
 #include "RemoveNodesBox.h"
 #include "TypeChange.h"
 #include "audit/AuditLog.h"
@@ -81,6 +82,8 @@ void open(MainWindow& window, const QString& id, bool readOnly)
 {
     const LayoutAdapter layouts;
     EditNodeDialog dialog(id, &window, readOnly, EditFlags, &layouts);
+    if (readOnly)
+        PictureView::addTo(dialog, window.checking().pictures(), id);
     window.exec(dialog);
 }
 
