@@ -6,9 +6,6 @@
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/IPDeviceNode.h"
 
-#include <QElapsedTimer>
-
-#include <algorithm>
 #include <utility>
 
 namespace ko {
@@ -16,13 +13,18 @@ namespace ko {
 CameraCheck::CameraCheck(HostNodeDB& db, QObject* parent)
     : QObject(parent)
     , m_db(db)
+    , m_reading([this](const QString& id) { read(id); }, [this] { ask(); })
+    , m_reports([this](const DeviceReport& report) { take(report); }, [this] { tell(); })
 {
     m_looking.setSingleShot(true);
-    connect(&m_reading, &QTimer::timeout, this, &CameraCheck::readSome);
     connect(&m_looking, &QTimer::timeout, this, &CameraCheck::lookAtUpdated);
+    connect(&m_storing, &QTimer::timeout, this, [this] { rememberSome(StoredAtOnce); });
     connect(&m_checks, &DeviceChecks::checked, this,
-            QOverload<const QVector<DeviceReport>&>::of(&CameraCheck::take));
-    connect(&m_checks, &DeviceChecks::finished, this, &CameraCheck::end);
+            [this](const QVector<DeviceReport>& reports) { m_reports.add(reports); });
+    connect(&m_checks, &DeviceChecks::finished, this, [this] {
+        m_isAsked = true;
+        m_reports.add(QVector<DeviceReport>()); // the end comes after the last of them
+    });
     connect(&m_db, &NodeDB::nodeUpdated, this, &CameraCheck::nodeUpdated);
     connect(&m_db, &NodeDB::nodeRemoved, this, &CameraCheck::nodeRemoved);
 }
@@ -32,32 +34,22 @@ void CameraCheck::start(const QStringList& nodes)
     if (m_isRunning)
         return;
     m_isRunning = true;
+    m_isAsked = false;
+    m_news.clear();
     m_results.clear();
     m_targets.clear();
-    m_waiting.clear();
     m_gone = 0;
+    QStringList devices;
     for (const QString& id : nodes) {
         if (NodeTarget::isOf(m_db.summary(id)))
-            m_waiting.append(id);
+            devices.append(id);
     }
-    std::reverse(m_waiting.begin(), m_waiting.end()); // the first is taken from the end
-    m_total = int(m_waiting.size());
+    m_total = int(devices.size());
     m_skipped = int(nodes.size()) - m_total;
     m_cause = Cause::now(Purpose::Check);
-    m_reading.start(0);
+    m_reading.add(devices);
+    m_storing.start(StoreInterval);
     emit progressed();
-}
-
-void CameraCheck::readSome()
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (!m_waiting.isEmpty() && clock.elapsed() < Portion)
-        read(m_waiting.takeLast());
-    if (!m_waiting.isEmpty())
-        return;
-    m_reading.stop();
-    m_checks.start(std::exchange(m_targets, {}));
 }
 
 void CameraCheck::read(const QString& id)
@@ -78,41 +70,39 @@ void CameraCheck::read(const QString& id)
     emit found({{id, state}});
 }
 
+void CameraCheck::ask()
+{
+    if (m_reading.isEmpty())
+        m_checks.start(std::exchange(m_targets, {}));
+}
+
 void CameraCheck::cancel()
 {
     if (!m_isRunning)
         return;
-    m_reading.stop();
+    m_reading.clear();
     m_checks.cancel();
+    m_reports.clear();
+    rememberSome(int(m_news.size()));
     end();
 }
 
 void CameraCheck::end()
 {
+    m_storing.stop();
     if (std::exchange(m_isRunning, false)) // else it was cancelled just before
         emit finished();
 }
 
-void CameraCheck::take(const QVector<DeviceReport>& reports)
+void CameraCheck::take(const DeviceReport& report)
 {
-    States states;
-    for (const DeviceReport& report : reports)
-        take(report, &states);
-    remember(reports);
-    for (auto state = states.cbegin(); state != states.cend(); ++state)
-        m_results.insert(state.key(), state.value());
-    emit found(states);
-    emit progressed();
-}
-
-void CameraCheck::take(const DeviceReport& report, States* states)
-{
-    if (m_db.summary(report.id).id.isEmpty()) {
+    const kom::smart<const IPDeviceNode> node = m_db.node(report.id).cast<const IPDeviceNode>();
+    if (node.null()) {
         ++m_gone;
         return;
     }
     CameraState state;
-    if (isAsChecked(report.id)) {
+    if (isAsChecked(*node)) {
         state.state = report.state;
         state.isOpen = report.isOpen;
         state.reason =
@@ -120,36 +110,66 @@ void CameraCheck::take(const DeviceReport& report, States* states)
         state.time = report.time;
         if (state.state == DeviceReport::OtherDevice)
             state.seen = report.seen;
+        if (state.state == DeviceReport::Answers && KnownDevice::hasNews(*node, report.seen))
+            m_news.emplace_back(report.id, report.seen);
     } else {
         state.reason = tr("it was changed while it was checked");
     }
-    states->insert(report.id, state);
+    m_results.insert(report.id, state);
+    m_untold.insert(report.id, state);
 }
 
-/// Of those that answered as what they are known for, or for the first time.
-void CameraCheck::remember(const QVector<DeviceReport>& reports)
+void CameraCheck::tell()
+{
+    if (!m_untold.isEmpty())
+        emit found(std::exchange(m_untold, {}));
+    emit progressed();
+    endIfDone();
+}
+
+void CameraCheck::endIfDone()
+{
+    if (!m_isAsked || !m_reports.isEmpty())
+        return;
+    if (m_news.empty())
+        end();
+    else
+        m_storing.start(0); // nobody else has anything to do
+}
+
+/// In one commit.
+void CameraCheck::rememberSome(int most)
 {
     const ChangeScope scope(m_db, m_cause);
-    for (const DeviceReport& report : reports) {
-        if (report.state != DeviceReport::Answers || !isAsChecked(report.id) ||
-            !KnownDevice::hasNews(*m_db.node(report.id), report.seen))
-            continue;
-        Node* node = m_db.beginUpdateNode(report.id, -1);
-        if (node)
-            KnownDevice::remember(*node, report.seen);
-        m_db.endUpdateNode(node);
+    for (int i = 0; i < most && !m_news.empty(); ++i) {
+        remember(m_news.front().first, m_news.front().second);
+        m_news.pop_front();
     }
+    endIfDone();
 }
 
-bool CameraCheck::isAsChecked(const QString& id) const
+/// Of one that answered as what it is known for, or for the first time.
+void CameraCheck::remember(const QString& id, const DeviceIdentity& seen)
 {
-    const kom::smart<const IPDeviceNode> node = m_db.node(id).cast<const IPDeviceNode>();
-    return !node.null() && m_checkedAs.value(id) == m_fingerprint.of(*node);
+    const kom::smart<const IPDeviceNode> known = m_db.node(id).cast<const IPDeviceNode>();
+    if (known.null() || !isAsChecked(*known))
+        return; // removed or changed just before
+    Node* node = m_db.beginUpdateNode(id, -1);
+    if (node)
+        KnownDevice::remember(*node, seen);
+    m_remembered = id;
+    m_db.endUpdateNode(node);
+    m_remembered.clear();
+}
+
+bool CameraCheck::isAsChecked(const IPDeviceNode& node) const
+{
+    return m_checkedAs.value(node.id()) == m_fingerprint.of(node);
 }
 
 void CameraCheck::nodeUpdated(const NodeID& id)
 {
-    if (!m_checkedAs.contains(id))
+    if (id == m_remembered || !m_checkedAs.contains(id))
         return;
     m_updated.insert(id);
     m_looking.start(0);
@@ -167,7 +187,8 @@ void CameraCheck::lookAtUpdated()
     States states;
     const QSet<QString> updated = std::exchange(m_updated, {});
     for (const QString& id : updated) {
-        if (!m_checkedAs.contains(id) || isAsChecked(id))
+        const kom::smart<const IPDeviceNode> node = m_db.node(id).cast<const IPDeviceNode>();
+        if (!m_checkedAs.contains(id) || (!node.null() && isAsChecked(*node)))
             continue;
         // One that is being checked keeps what it is checked as, so that its report is seen to be too late.
         if (!m_isRunning || m_results.contains(id))

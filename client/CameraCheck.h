@@ -3,6 +3,7 @@
 
 #include "CameraState.h"
 #include "DeviceFingerprint.h"
+#include "InPortions.h"
 #include "devices/DeviceChecks.h"
 #include "ko/Types.h"
 #include "model/Cause.h"
@@ -15,6 +16,7 @@
 namespace ko {
 
 class HostNodeDB;
+class IPDeviceNode;
 
 /// Checks cameras of the database, and knows until when what was found holds: a camera whose address or
 /// credentials are changed is not checked any more, also if it is changed meanwhile.
@@ -26,7 +28,10 @@ class CameraCheck : public QObject
     Q_OBJECT
 
 public:
-    enum Limits { Portion = 4 /* ms, of reading nodes at once */ };
+    enum Limits {
+        StoreInterval = 100, ///< ms: each commit waits for the disk, whatever it holds
+        StoredAtOnce = 40    ///< cameras
+    };
 
     typedef QHash<QString, CameraState> States; ///< by the identifier of the node
 
@@ -56,12 +61,14 @@ signals:
     void finished();
 
 private:
-    void readSome();
     void read(const QString& id);
-    void take(const QVector<DeviceReport>& reports);
-    void take(const DeviceReport& report, States* states);
-    void remember(const QVector<DeviceReport>& reports);
-    bool isAsChecked(const QString& id) const;
+    void ask();
+    void take(const DeviceReport& report);
+    void tell();
+    void rememberSome(int most);
+    void remember(const QString& id, const DeviceIdentity& seen);
+    void endIfDone();
+    bool isAsChecked(const IPDeviceNode& node) const;
     void nodeUpdated(const NodeID& id);
     void nodeRemoved(const NodeID& id);
     void lookAtUpdated();
@@ -69,19 +76,24 @@ private:
 
     HostNodeDB& m_db;
     DeviceChecks m_checks;
-    QTimer m_reading;
+    InPortions<QString> m_reading;                         ///< nodes
+    InPortions<DeviceReport> m_reports;                    ///< not taken yet
+    std::deque<std::pair<QString, DeviceIdentity>> m_news; ///< to be remembered
+    QTimer m_storing;
     QTimer m_looking;
     const DeviceFingerprint m_fingerprint;
-    QStringList m_waiting; ///< not read yet
     QVector<DeviceTarget> m_targets;
     QHash<QString, QByteArray> m_checkedAs; ///< of each camera that has a result, or waits for it
     QSet<QString> m_updated;
+    QString m_remembered; ///< whose change is our own
     States m_results;
+    States m_untold; ///< taken in this portion
     Cause m_cause;
     int m_total = 0;
     int m_gone = 0; ///< removed meanwhile
     int m_skipped = 0;
     bool m_isRunning = false;
+    bool m_isAsked = false; ///< and all reports have come
 };
 
 } // namespace ko

@@ -143,15 +143,8 @@ QString CameraChecking::outcome() const
 
 void CameraChecking::showReport(bool isWanted)
 {
-    QVector<CheckedCamera> cameras;
-    const CameraCheck::States& results = m_check.results();
-    cameras.reserve(int(results.size()));
-    for (auto result = results.begin(); result != results.end(); ++result) {
-        const NodeSummary node = m_window.database().summary(result.key());
-        if (!node.id.isEmpty())
-            cameras.append({node.id, node.name, node.location, result.value()});
-    }
-    auto* report = new CheckReportDialog(cameras, m_check.skipped(), m_isTry, &m_window);
+    const auto nodeOf = [&db = m_window.database()](const QString& id) { return db.summary(id); };
+    auto* report = new CheckReportDialog(m_check.results(), nodeOf, m_check.skipped(), m_isTry, &m_window);
     connect(report, &CheckReportDialog::wanted, this, &CameraChecking::showInList);
     report->setAttribute(Qt::WA_ShowWithoutActivating, !isWanted);
     report->show();

@@ -29,10 +29,11 @@ const int rowMargin = 6;
 
 } // namespace
 
-CheckReportDialog::CheckReportDialog(const QVector<CheckedCamera>& cameras, int skipped, bool all,
+CheckReportDialog::CheckReportDialog(const CheckReportModel::States& results,
+                                     const CheckReportModel::NodeOf& nodeOf, int skipped, bool all,
                                      QWidget* parent)
     : QDialog(parent, dialogFlags(true))
-    , m_model(new CheckReportModel(cameras, this))
+    , m_model(new CheckReportModel(results, nodeOf, this))
     , m_view(new QTableView(this))
 {
     setObjectName(QStringLiteral("CheckReportDialog"));

@@ -16,7 +16,8 @@ class CheckReportDialog : public QDialog
 
 public:
     /// \a all: begins with all cameras instead of those in trouble.
-    CheckReportDialog(const QVector<CheckedCamera>& cameras, int skipped, bool all, QWidget* parent);
+    CheckReportDialog(const CheckReportModel::States& results, const CheckReportModel::NodeOf& nodeOf,
+                      int skipped, bool all, QWidget* parent);
 
 signals:
     /// The user wants to see the cameras that are listed in the main window.

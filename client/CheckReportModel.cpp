@@ -47,25 +47,36 @@ QVector<CheckedCamera> inOrder(const QVector<CheckedCamera>& cameras)
 
 } // namespace
 
-CheckReportModel::CheckReportModel(const QVector<CheckedCamera>& cameras, QObject* parent)
+CheckReportModel::CheckReportModel(const States& results, const NodeOf& nodeOf, QObject* parent)
     : QAbstractTableModel(parent)
-    , m_cameras(inOrder(cameras))
-    , m_troubled(int(cameras.size()) - countOf(DeviceReport::Answers))
-    , m_shown(m_troubled)
+    , m_results(results)
+    , m_nodeOf(nodeOf)
+    , m_troubled(inOrder(cameras(true)))
+    , m_cameras(m_troubled)
 {
+    for (const CameraState& state : m_results)
+        ++m_counts[state.state];
 }
 
+QVector<CheckedCamera> CheckReportModel::cameras(bool areTroubled) const
+{
+    QVector<CheckedCamera> cameras;
+    for (auto result = m_results.begin(); result != m_results.end(); ++result) {
+        if ((result->state != DeviceReport::Answers) != areTroubled)
+            continue;
+        const NodeSummary node = m_nodeOf(result.key());
+        if (!node.id.isEmpty())
+            cameras.append({node.id, node.name, node.location, result.value()});
+    }
+    return cameras;
+}
+
+/// Those that answer are put in order when somebody wants to see them: there may be thousands.
 void CheckReportModel::showAll(bool all)
 {
     beginResetModel();
-    m_shown = all ? int(m_cameras.size()) : m_troubled;
+    m_cameras = all ? m_troubled + inOrder(cameras(false)) : m_troubled;
     endResetModel();
-}
-
-int CheckReportModel::countOf(DeviceReport::State state) const
-{
-    return int(std::count_if(m_cameras.begin(), m_cameras.end(),
-                             [state](const CheckedCamera& camera) { return camera.state.state == state; }));
 }
 
 QList<QStringList> CheckReportModel::table() const
@@ -74,7 +85,7 @@ QList<QStringList> CheckReportModel::table() const
     for (const char* title : titles)
         header.append(tr(title));
     QList<QStringList> table = {header};
-    for (int row = 0; row < m_shown; ++row) {
+    for (int row = 0; row < m_cameras.size(); ++row) {
         QStringList cells;
         for (int column = 0; column < ColumnCount; ++column)
             cells.append(text(camera(row), column));
@@ -101,7 +112,7 @@ QString CheckReportModel::text(const CheckedCamera& camera, int column)
 
 int CheckReportModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_shown;
+    return parent.isValid() ? 0 : int(m_cameras.size());
 }
 
 int CheckReportModel::columnCount(const QModelIndex& parent) const
@@ -111,7 +122,7 @@ int CheckReportModel::columnCount(const QModelIndex& parent) const
 
 QVariant CheckReportModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || index.row() >= m_shown)
+    if (!index.isValid() || index.row() >= m_cameras.size())
         return QVariant();
     const CheckedCamera& shown = camera(index.row());
     if (role == Qt::DisplayRole)

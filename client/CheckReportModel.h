@@ -3,7 +3,12 @@
 
 #include "CameraState.h"
 
+#include "model/NodeData.h"
+
 #include <QAbstractTableModel>
+#include <QHash>
+
+#include <functional>
 
 namespace ko {
 
@@ -21,11 +26,15 @@ class CheckReportModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    explicit CheckReportModel(const QVector<CheckedCamera>& cameras, QObject* parent = nullptr);
+    typedef QHash<QString, CameraState> States; ///< by the identifier of the node
+    typedef std::function<NodeSummary(const QString& id)> NodeOf;
+
+    /// \a nodeOf gives the node, an empty one when it is gone; it is kept.
+    CheckReportModel(const States& results, const NodeOf& nodeOf, QObject* parent = nullptr);
 
     void showAll(bool all);
 
-    int countOf(DeviceReport::State state) const;
+    int countOf(DeviceReport::State state) const { return m_counts.value(state); }
     const CheckedCamera& camera(int row) const { return m_cameras.at(row); }
 
     /// The titles, then the rows.
@@ -38,10 +47,13 @@ public:
 
 private:
     static QString text(const CheckedCamera& camera, int column);
+    QVector<CheckedCamera> cameras(bool areTroubled) const;
 
-    QVector<CheckedCamera> m_cameras; ///< those in trouble come first
-    int m_troubled;
-    int m_shown;
+    const States m_results;
+    const NodeOf m_nodeOf;
+    QHash<int, int> m_counts; ///< by the state
+    const QVector<CheckedCamera> m_troubled;
+    QVector<CheckedCamera> m_cameras; ///< that are shown
 };
 
 } // namespace ko

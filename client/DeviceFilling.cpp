@@ -9,13 +9,14 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/OutsideText.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace ko {
 
 DeviceFilling::DeviceFilling(HostNodeDB& db, QObject* parent)
     : QObject(parent)
     , m_db(db)
+    , m_reading([this](const QString& id) { add(id); }, [this] { start(); })
 {
     connect(&m_checks, &DeviceChecks::checked, this, [this](const QVector<DeviceReport>& reports) {
         for (const DeviceReport& report : reports)
@@ -28,13 +29,14 @@ DeviceFilling::DeviceFilling(HostNodeDB& db, QObject* parent)
 void DeviceFilling::ask(const QStringList& nodes)
 {
     m_nodes = nodes;
-    QVector<DeviceTarget> targets;
-    for (const QString& id : nodes) {
-        add(id);
-        if (m_asked.value(id).problem.isEmpty())
-            targets.append(m_asked.value(id).target);
-    }
-    m_checks.start(targets);
+    m_reading.add(nodes);
+}
+
+void DeviceFilling::start()
+{
+    emit progressed();
+    if (m_reading.isEmpty())
+        m_checks.start(std::exchange(m_targets, {}));
 }
 
 void DeviceFilling::add(const QString& id)
@@ -50,7 +52,9 @@ void DeviceFilling::add(const QString& id)
     } else {
         asked.target = NodeTarget::of(*node, m_db.globalProxy());
         asked.target.wantsAllFacts = true;
+        m_targets.append(asked.target);
     }
+    m_unasked += asked.problem.isEmpty() ? 0 : 1;
 }
 
 void DeviceFilling::take(const DeviceReport& report)

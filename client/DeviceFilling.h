@@ -1,6 +1,7 @@
 #ifndef KO_DEVICEFILLING_H
 #define KO_DEVICEFILLING_H
 
+#include "InPortions.h"
 #include "devices/DeviceChecks.h"
 #include "devices/NodeFacts.h"
 
@@ -33,8 +34,8 @@ public:
     /// Once.
     void ask(const QStringList& nodes);
 
-    int done() const { return m_checks.done(); }
-    int total() const { return m_checks.total(); }
+    int done() const { return m_unasked + m_checks.done(); }
+    int total() const { return int(m_nodes.size()); }
 
     /// In the order of the nodes. After finished(), as the next.
     QVector<FillInRow> rows() const;
@@ -61,12 +62,16 @@ private:
     };
 
     void add(const QString& id);
+    void start();
     void take(const DeviceReport& report);
     bool storeNode(const QString& id, const QVector<NodeFact>& facts);
 
     HostNodeDB& m_db;
     DeviceChecks m_checks;
+    InPortions<QString> m_reading; ///< nodes
+    QVector<DeviceTarget> m_targets;
     QStringList m_nodes;
+    int m_unasked = 0; ///< of which nobody can be asked
     QHash<QString, Asked> m_asked;
 };
 

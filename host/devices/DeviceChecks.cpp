@@ -8,9 +8,13 @@
 #include <deque>
 #include <utility>
 
+#include <sys/resource.h>
+
 namespace ko {
 
 namespace {
+
+const int Niceness = 10;
 
 QString placeOf(const DeviceTarget& target)
 {
@@ -76,8 +80,15 @@ DeviceChecks::Worker::Worker(DeviceChecks& checks, int run, const QVector<Device
     connect(&m_reportTimer, &QTimer::timeout, this, [this] { post(); });
 }
 
+/// The user's windows come first: this thread, and those of the toolkit that it starts for HTTP, stand back.
+void standBack()
+{
+    setpriority(PRIO_PROCESS, 0, Niceness); // of the calling thread, on Linux
+}
+
 void DeviceChecks::Worker::begin()
 {
+    standBack();
     m_stepTimer.start(StepTime);
     m_reportTimer.start(ReportInterval);
 }
