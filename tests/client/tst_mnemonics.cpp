@@ -168,9 +168,9 @@ void tst_Mnemonics::menus()
 void tst_Mnemonics::dialogs_data()
 {
     QTest::addColumn<QString>("action");
-    for (const char* action :
-         {"actionAdd", "actionRemove", "actionCredentials", "actionRecording", "actionPreferences",
-          "actionProxy", "actionEnvironments", "actionOverview", "actionAddressChanges", "actionAuditLog"})
+    for (const char* action : {"actionAdd", "actionRemove", "actionCredentials", "actionRecording",
+                               "actionFillIn", "actionPreferences", "actionProxy", "actionEnvironments",
+                               "actionOverview", "actionAddressChanges", "actionAuditLog"})
         QTest::newRow(action) << action;
 }
 
