@@ -167,6 +167,21 @@ void CameraChecking::showInList(const QVector<CheckedCamera>& cameras)
     m_window.activateWindow();
 }
 
+CameraSurvey::MoreColumns CameraChecking::columns() const
+{
+    CameraSurvey::MoreColumns columns;
+    if (!m_model.columns().hasStates())
+        return columns;
+    columns.titles =
+        QStringList{QStringLiteral("state"), QStringLiteral("reason"), QStringLiteral("checked")};
+    columns.cells = [this](const QString& id) {
+        const CameraState state = m_model.stateOf(id);
+        return QStringList{CameraStates::text(state.state), state.reason,
+                           state.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))};
+    };
+    return columns;
+}
+
 QStringList CameraChecking::names(const CameraCheck::States& others) const
 {
     QStringList names;

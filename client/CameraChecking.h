@@ -3,6 +3,7 @@
 
 #include "CameraCheck.h"
 #include "CameraPictures.h"
+#include "exchange/CameraSurvey.h"
 
 #include <functional>
 
@@ -36,6 +37,9 @@ public:
     void cancel();
 
     CameraPictures& pictures() { return m_pictures; }
+
+    /// What the checks said, for a list of cameras that is written; none before the first one.
+    CameraSurvey::MoreColumns columns() const;
 
 private:
     /// What can be done next.

@@ -35,6 +35,7 @@ public:
 
     /// Of the cameras; any other node has none.
     CameraState state(const NodeSummary& node) const;
+    bool hasStates() const { return !m_states.isEmpty(); }
     void setState(const QString& id, const CameraState& state);
 
     // Columns of properties.

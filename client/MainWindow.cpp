@@ -265,14 +265,14 @@ void MainWindow::importCameras()
 
 void MainWindow::exportCameras()
 {
-    m_surveys->exportCameras();
+    m_surveys->exportCameras(QStringList(), m_checking->columns());
 }
 
 void MainWindow::exportSelected()
 {
     const QStringList devices = NodeCommands::selectedDevices(*this);
     if (!devices.isEmpty())
-        m_surveys->exportCameras(devices);
+        m_surveys->exportCameras(devices, m_checking->columns());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)

@@ -63,7 +63,7 @@ void SurveyCommands::importCameras()
     report.exec();
 }
 
-void SurveyCommands::exportCameras(const QStringList& only)
+void SurveyCommands::exportCameras(const QStringList& only, const CameraSurvey::MoreColumns& more)
 {
     const QString file =
         FileDialogs::saveFile(m_window, tr("Export Cameras"), QStringLiteral("cameras.csv"), tr(csvFilter));
@@ -79,7 +79,7 @@ void SurveyCommands::exportCameras(const QStringList& only)
         answer == QMessageBox::Yes ? CameraSurvey::Passwords::Write : CameraSurvey::Passwords::LeaveOut;
     CameraSurvey::ExportResult result;
     const auto work = [&](const CameraSurvey::Progress& progress) {
-        result = CameraSurvey::exportCameras(file, passwords, progress, only);
+        result = CameraSurvey::exportCameras(file, passwords, progress, only, more);
     };
     if (!run(tr("Exporting cameras..."), work))
         return;

@@ -24,7 +24,8 @@ public:
 
     void importCameras();
     /// All, or those of \a only if it names any nodes.
-    void exportCameras(const QStringList& only = QStringList());
+    void exportCameras(const QStringList& only = QStringList(),
+                       const CameraSurvey::MoreColumns& more = CameraSurvey::MoreColumns());
 
     /// For a window that is closed all the same, as at the end of a session: cancels the work, if there is
     /// any, and closes the window when it has ended. False if nothing is under way.

@@ -52,11 +52,14 @@ QString cell(const SurveyField& field, const IPDeviceNode& device, Passwords pas
     return field.column == SurveyColumn::Password ? QString() : Redaction::redacted(content(field, device));
 }
 
-QStringList record(const IPDeviceNode& device, Passwords passwords)
+QStringList record(const IPDeviceNode& device, Passwords passwords, const MoreColumns& more)
 {
     QStringList cells;
     for (const SurveyField& field : SurveyFields::all())
         cells.append(cell(field, device, passwords));
+    const QStringList others = more.cells ? more.cells(device.id()) : QStringList();
+    for (const QString& other : others)
+        cells.append(passwords == Passwords::Write ? other : Redaction::redacted(other));
     return cells;
 }
 
@@ -72,12 +75,12 @@ QString nameOf(const IPDeviceNode& device)
 
 /// Writes the devices among the nodes; false on an error and when cancelled.
 bool writeDevices(QIODevice* file, const QStringList& ids, Passwords passwords, const Progress& progress,
-                  ExportResult* result)
+                  const MoreColumns& more, ExportResult* result)
 {
     CsvWriter writer(file);
     ProgressReport report(progress);
     Sample unread;
-    bool good = writer.writeRecord(titles());
+    bool good = writer.writeRecord(titles() + more.titles);
     for (int i = 0; i < ids.size() && good; ++i) {
         if (!report.goOn(i, ids.size())) {
             result->cancelled = true;
@@ -89,7 +92,7 @@ bool writeDevices(QIODevice* file, const QStringList& ids, Passwords passwords, 
         const bool wanted = canBeToldApart(*device);
         if (wanted && passwords == Passwords::Write && NodeTarget::hasUnreadPassword(*device))
             unread.add(nameOf(*device));
-        good = !wanted || writer.writeRecord(record(*device, passwords));
+        good = !wanted || writer.writeRecord(record(*device, passwords, more));
         ++(wanted ? result->written : result->skipped);
     }
     if (!unread.isEmpty())
@@ -112,7 +115,7 @@ ImportResult importCameras(const QString& fileName, const Progress& progress)
 }
 
 ExportResult exportCameras(const QString& fileName, Passwords passwords, const Progress& progress,
-                           const QStringList& only)
+                           const QStringList& only, const MoreColumns& more)
 {
     ExportResult result;
     if (!NodeDB::getDB()) {
@@ -127,7 +130,7 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
     ExportFile file(fileName);
     const QStringList ids = only.isEmpty() ? NodeDB::getDB()->nodeIdList(AllNodeTypes) : only;
     const bool written =
-        file.open() && writeDevices(file.device(), ids, passwords, progress, &result) && file.commit();
+        file.open() && writeDevices(file.device(), ids, passwords, progress, more, &result) && file.commit();
     if (!written && !result.cancelled && result.error.isEmpty())
         result.error = file.whyNot();
     return result;

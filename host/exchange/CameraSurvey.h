@@ -56,6 +56,13 @@ enum class Passwords {
     LeaveOut ///< neither the column nor those that stand in URLs or other cells
 };
 
+/// What the caller adds to each line, for people: an import ignores it.
+struct MoreColumns
+{
+    QStringList titles;
+    std::function<QStringList(const QString& id)> cells; ///< one for each title
+};
+
 /// Reads the list as importCameras() does before its first change, without a database: what it refuses as a
 /// whole is in the result.
 KO_HOST_EXPORT ImportResult check(const QString& fileName);
@@ -71,7 +78,8 @@ KO_HOST_EXPORT ImportResult importCameras(const QString& fileName, const Progres
 /// one that cannot be read is an error.
 KO_HOST_EXPORT ExportResult exportCameras(const QString& fileName, Passwords passwords,
                                           const Progress& progress = Progress(),
-                                          const QStringList& only = QStringList());
+                                          const QStringList& only = QStringList(),
+                                          const MoreColumns& more = MoreColumns());
 
 } // namespace CameraSurvey
 

@@ -130,6 +130,7 @@ private slots:
     void credentialsAreTriedOnce();
     void passwordThatCannotBeReadIsNotTried();
     void manyAreChecked();
+    void statesAreExported();
     void roomForLongTexts();
     void lineHasRoomBesideBusyScanners();
 
@@ -684,6 +685,50 @@ void tst_CameraCheck::manyAreChecked()
         answering += model->index(row, NodeListModel::StateColumn).data().toString() == "Answers" ? 1 : 0;
     QVERIFY2(answering >= count - count / 100,
              qPrintable(QString::number(answering))); // some hostile ones do
+}
+
+/// For whoever mends what was found; an import takes the rest of the list.
+void tst_CameraCheck::statesAreExported()
+{
+    const SimulatedSite site({"--cameras", "2", "--onvif", "digest,web"});
+    QVERIFY(site.isUp);
+    const QStringList ids = addCameras(site, 2);
+    open();
+    QTemporaryDir folder;
+    const auto exported = [&](const char* command) {
+        const QString file = folder.filePath("list.csv");
+        QFile::remove(file);
+        const ModalAnswer answer([&file](QDialog* dialog) {
+            qobject_cast<QFileDialog*>(dialog)->selectFile(file);
+            dialog->accept();
+        });
+        QTimer passwords;
+        connect(&passwords, &QTimer::timeout, this, [] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+                box->button(QMessageBox::No)->click();
+        });
+        passwords.start(10);
+        action(command)->trigger();
+        QFile list(file);
+        return list.open(QIODevice::ReadOnly) ? QString::fromUtf8(list.readAll()).split("\r\n")
+                                              : QStringList();
+    };
+    QVERIFY(!exported("actionExport").value(0).contains("state"));
+    check();
+    QStringList lines = exported("actionExport");
+    QVERIFY2(lines.value(0).endsWith(",state,reason,checked"), qPrintable(lines.value(0)));
+    QVERIFY2(lines.filter("Camera 1").value(0).contains(",Answers,,20"), qPrintable(lines.join('\n')));
+    QVERIFY2(lines.filter("Camera 2").value(0).contains(",Not understood,it does not speak ONVIF,20"),
+             qPrintable(lines.join('\n')));
+    m_list->selectNodes({ids.at(1)});
+    lines = exported("actionExportSelected");
+    QCOMPARE(lines.filter("Camera").size(), 1);
+    QVERIFY(lines.value(1).contains(",Not understood,"));
+
+    const auto result = CameraSurvey::importCameras(folder.filePath("list.csv"));
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.unchanged, 1);
+    QCOMPARE(result.ignoredColumns, QStringList({"state", "reason", "checked"}));
 }
 
 void tst_CameraCheck::roomForLongTexts()
