@@ -12,9 +12,10 @@
 #include "SearchText.h"
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
+#include "devices/ClearPassword.h"
 #include "devices/KnownDevice.h"
 #include "devices/NodeTarget.h"
-#include "ko/Node.h"
+#include "ko/IPDeviceNode.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -193,57 +194,99 @@ QStringList CameraChecking::names(const CameraCheck::States& others) const
     return names;
 }
 
-void CameraChecking::acceptDevices()
+CameraCheck::States CameraChecking::selectedIn(DeviceReport::State wanted) const
 {
-    CameraCheck::States others;
+    CameraCheck::States found;
     const QStringList selected = m_window.list().selectedIds();
     for (const QString& id : selected) {
         const CameraState state = m_model.stateOf(id);
-        if (state.state == DeviceReport::OtherDevice)
-            others.insert(id, state);
+        if (state.state == wanted)
+            found.insert(id, state);
     }
+    return found;
+}
+
+/// Whether the user agrees; Return does not.
+bool CameraChecking::confirm(const char* name, const QString& title, const QString& text,
+                             const QString& button, const CameraCheck::States& cameras)
+{
+    PlainMessageBox box(QMessageBox::Warning, title,
+                        text + QStringLiteral("\n\n") + listOfNames(names(cameras)), QMessageBox::Cancel,
+                        &m_window);
+    box.setObjectName(QLatin1String(name));
+    const QPushButton* go = box.addButton(button, QMessageBox::DestructiveRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.setEscapeButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == static_cast<const QAbstractButton*>(go);
+}
+
+/// What was seen when the user was asked becomes the known device, not what may answer there now.
+void CameraChecking::acceptDevices()
+{
+    const CameraCheck::States others = selectedIn(DeviceReport::OtherDevice);
     if (others.isEmpty()) {
         m_window.say(tr("None of the selected cameras was found to be another device: Network > Check "
                         "Cameras looks for that."));
         return;
     }
-    PlainMessageBox box(
-        QMessageBox::Warning, tr("Accept Other Devices"),
+    const QString text =
         tr("%n device(s) answered that are not the ones known so far. Accept them only if you know why, as "
            "after an exchange or a new certificate: from the next check on they are sent what is stored as "
            "user name and password.",
-           nullptr, int(others.size())) +
-            QStringLiteral("\n\n") + listOfNames(names(others)),
-        QMessageBox::Cancel, &m_window);
-    box.setObjectName(QStringLiteral("acceptDevicesBox"));
-    const QPushButton* go = box.addButton(tr("&Accept"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.setEscapeButton(QMessageBox::Cancel);
-    box.exec();
-    if (box.clickedButton() == static_cast<const QAbstractButton*>(go))
-        accept(others);
+           nullptr, int(others.size()));
+    if (!confirm("acceptDevicesBox", tr("Accept Other Devices"), text, tr("&Accept"), others))
+        return;
+    change(others,
+           {[](Node& node, const CameraState& other) { KnownDevice::replace(node, other.seen); },
+            [this](const QString& name) { m_window.database().auditLog().log(NodeAcceptLogEntry(name)); },
+            QT_TR_NOOP("%n device(s) accepted.")});
 }
 
-/// What was seen when the user was asked, not what may answer there now.
-void CameraChecking::accept(const CameraCheck::States& others)
+void CameraChecking::allowClearPasswords()
+{
+    const CameraCheck::States cameras = selectedIn(DeviceReport::ClearPassword);
+    if (cameras.isEmpty()) {
+        m_window.say(tr("None of the selected cameras was found to want a clear password: Network > Check "
+                        "Cameras looks for that."));
+        return;
+    }
+    const QString text =
+        tr("%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can "
+           "read it, and use it for all cameras that have the same. Allow it only where the network is your "
+           "own. It holds as long as the camera keeps its address and port.",
+           nullptr, int(cameras.size()));
+    if (!confirm("clearPasswordsBox", tr("Allow Clear Passwords"), text, tr("&Allow"), cameras))
+        return;
+    change(cameras, {[](Node& node, const CameraState&) {
+                         if (auto* device = dynamic_cast<IPDeviceNode*>(&node))
+                             ClearPassword::allow(*device);
+                     },
+                     [this](const QString& name) {
+                         m_window.database().auditLog().log(NodeClearPasswordLogEntry(name));
+                     },
+                     QT_TR_NOOP("%n device(s) may be sent their passwords in the clear.")});
+}
+
+void CameraChecking::change(const CameraCheck::States& cameras, const Change& change)
 {
     HostNodeDB& db = m_window.database();
     const ChangeScope scope(db, Cause::now(Purpose::Check));
     CameraCheck::States states;
-    QStringList accepted;
-    for (auto other = others.begin(); other != others.end(); ++other) {
-        Node* node = db.beginUpdateNode(other.key(), -1);
+    QStringList changed;
+    for (auto camera = cameras.begin(); camera != cameras.end(); ++camera) {
+        Node* node = db.beginUpdateNode(camera.key(), -1);
         if (!node)
             continue; // removed meanwhile
-        KnownDevice::replace(*node, other->seen);
+        change.make(*node, camera.value());
         db.endUpdateNode(node);
-        db.auditLog().log(NodeAcceptLogEntry(db.summary(other.key()).name));
-        accepted.append(other.key());
-        states.insert(other.key(), CameraState());
+        change.log(db.summary(camera.key()).name);
+        changed.append(camera.key());
+        states.insert(camera.key(), CameraState());
     }
     m_model.setStates(states);
-    offer({tr("%n device(s) accepted.", nullptr, int(accepted.size())), tr("&Check Them"),
-           [this, accepted] { start(accepted, false); }});
+    offer({tr(change.done, nullptr, int(changed.size())), tr("&Check Them"),
+           [this, changed] { start(changed, false); }});
 }
 
 } // namespace ko

@@ -11,6 +11,7 @@ namespace ko {
 
 class CheckPanel;
 class MainWindow;
+class Node;
 class NodeListModel;
 struct CheckedCamera;
 
@@ -34,6 +35,10 @@ public:
     /// the user agrees.
     void acceptDevices();
 
+    /// Those of the selected nodes whose devices want it may be sent the password in the clear, if the user
+    /// agrees.
+    void allowClearPasswords();
+
     void cancel();
 
     CameraPictures& pictures() { return m_pictures; }
@@ -54,7 +59,18 @@ private:
     void offer(const Offer& offer);
     void takeOffer();
     void finish();
-    void accept(const CameraCheck::States& others);
+    /// What is done with each of some nodes, in one change set, and said when it is done.
+    struct Change
+    {
+        std::function<void(Node& node, const CameraState& state)> make;
+        std::function<void(const QString& name)> log;
+        const char* done; ///< with the number of devices
+    };
+
+    CameraCheck::States selectedIn(DeviceReport::State state) const;
+    bool confirm(const char* name, const QString& title, const QString& text, const QString& button,
+                 const CameraCheck::States& cameras);
+    void change(const CameraCheck::States& cameras, const Change& change);
     QStringList names(const CameraCheck::States& others) const;
     QString outcome() const;
     void showReport(bool isWanted);

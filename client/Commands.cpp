@@ -106,6 +106,9 @@ const Commands::Command Commands::all[] = {
     {KO_TEXT("Net&work"), "actionAcceptDevices", KO_TEXT("&Accept as This Camera..."),
      KO_TEXT("Another device than before is this camera from now on"), "", "", SomeNodes, InList,
      [](MainWindow& window) { window.checking().acceptDevices(); }},
+    {KO_TEXT("Net&work"), "actionAllowClearPasswords", KO_TEXT("A&llow Clear Password..."),
+     KO_TEXT("Cameras that take it in no other way are sent the password for all to read"), "", "", SomeNodes,
+     InList, [](MainWindow& window) { window.checking().allowClearPasswords(); }},
 
     {KO_TEXT("&View"), "actionColumns", KO_TEXT("&Columns..."), KO_TEXT("Which columns the list has"), "", "",
      Nothing, InMenu, [](MainWindow& window) { window.list().chooseColumns(); }},

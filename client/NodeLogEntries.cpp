@@ -8,6 +8,7 @@ namespace {
 
 const char added[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Added device");
 const char removed[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Removed device");
+const char allowedClear[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Allowed a clear password");
 const char accepted[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Accepted another device");
 
 template <class Entry>
@@ -84,10 +85,31 @@ QString NodeAcceptLogEntry::title() const
     return LogEntry::tr(accepted);
 }
 
+NodeClearPasswordLogEntry::NodeClearPasswordLogEntry(const QString& name)
+    : NodeLogEntry(name)
+{
+}
+
+FourChars NodeClearPasswordLogEntry::typeCode() const
+{
+    return "NClr";
+}
+
+QString NodeClearPasswordLogEntry::description() const
+{
+    return LogEntry::tr("Allowed to send the password of %1 in the clear.");
+}
+
+QString NodeClearPasswordLogEntry::title() const
+{
+    return LogEntry::tr(allowedClear);
+}
+
 void registerNodeLogEntries()
 {
     logEntryFactory().registerCreator("NAcc", create<NodeAcceptLogEntry>, QLatin1String(accepted));
     logEntryFactory().registerCreator("NAdd", create<NodeAddLogEntry>, QLatin1String(added));
+    logEntryFactory().registerCreator("NClr", create<NodeClearPasswordLogEntry>, QLatin1String(allowedClear));
     logEntryFactory().registerCreator("NRem", create<NodeRemoveLogEntry>, QLatin1String(removed));
 }
 

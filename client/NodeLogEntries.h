@@ -48,6 +48,16 @@ public:
     QString title() const override;
 };
 
+class NodeClearPasswordLogEntry : public NodeLogEntry
+{
+public:
+    explicit NodeClearPasswordLogEntry(const QString& name);
+
+    FourChars typeCode() const override;
+    QString description() const override;
+    QString title() const override;
+};
+
 /// Lets stored entries be read back. To be called before the audit log is shown; again does no harm.
 void registerNodeLogEntries();
 

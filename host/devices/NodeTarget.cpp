@@ -1,5 +1,6 @@
 #include "devices/NodeTarget.h"
 
+#include "devices/ClearPassword.h"
 #include "devices/KnownDevice.h"
 #include "drivers/NodeTypes.h"
 #include "interfaces/ISupportsChannels.h"
@@ -42,6 +43,7 @@ DeviceTarget of(const IPDeviceNode& node, const GlobalNetworkProxy& global)
     target.port = node.port() > 0 ? node.port() : int(target.useSSL ? HttpsPort : HttpPort);
     target.user = node.user(1);
     target.password = node.password(1);
+    target.allowsBasic = ClearPassword::isAllowed(node);
     if (const auto* channels = dynamic_cast<const ISupportsChannels*>(&node))
         target.channel = channels->channel();
     target.proxy = proxyOf(node, global);

@@ -16,8 +16,7 @@ namespace NodeTarget {
 /// Whether there is a device to ask: the node is one that has an address.
 KO_HOST_EXPORT bool isOf(const NodeSummary& node);
 
-/// \a global is the proxy of the application. Nothing is allowed in the clear, and only the identity is asked
-/// for.
+/// \a global is the proxy of the application. Only the identity is asked for.
 KO_HOST_EXPORT DeviceTarget of(const IPDeviceNode& node, const GlobalNetworkProxy& global);
 
 /// The way to the node: its own proxy, if it uses one, else the application's, unless that one's exceptions

@@ -120,6 +120,7 @@ private slots:
     void reportIsActedOn();
     void identityIsRememberedOnce();
     void otherDeviceIsAccepted();
+    void clearPasswordIsAllowed();
     void changedCameraIsNotChecked();
     void removedMeanwhile();
     void cancelled();
@@ -412,6 +413,55 @@ void tst_CameraCheck::otherDeviceIsAccepted()
     press("checkButton"); // "Check Them"
     KO_TRY_VERIFY(!panel()->isVisible());
     QCOMPARE(state(ids.at(0)), QString("Another device than before")); // it lies each time
+}
+
+void tst_CameraCheck::clearPasswordIsAllowed()
+{
+    const SimulatedSite site({"--cameras", "3", "--onvif", "basic,digest,basic"});
+    QVERIFY(site.isUp);
+    const QStringList ids = addCameras(site, 3);
+    open();
+    check();
+    m_list->selectNodes({ids.at(1)});
+    action("actionAllowClearPasswords")->trigger(); // no question: it has a better way
+    QVERIFY(m_window->statusBar()->currentMessage().contains("clear password"));
+
+    m_list->selectNodes(ids.mid(0, 2));
+    QString text;
+    {
+        const ModalAnswer answer([&text](QDialog* dialog) {
+            text = qobject_cast<QMessageBox*>(dialog)->text();
+            QTest::keyClick(dialog, Qt::Key_Return); // means Cancel
+        });
+        action("actionAllowClearPasswords")->trigger();
+        QVERIFY(answer.fired());
+    }
+    QVERIFY2(text.contains("Camera 1") && !text.contains("Camera 2"), qPrintable(text));
+    check();
+    QCOMPARE(state(ids.at(0)), QString("Wants a clear password"));
+    {
+        m_list->selectNodes(ids.mid(0, 2));
+        const ModalAnswer answer(ModalAnswer::press("Allow"));
+        action("actionAllowClearPasswords")->trigger();
+        QVERIFY(answer.fired());
+    }
+    QVERIFY(m_host->db()->flush());
+    const auto records = m_host->db()->auditLog().entries(0, 100, false);
+    QCOMPARE(std::count_if(records.begin(), records.end(),
+                           [](const AuditRecord& record) {
+                               return record.code.toString() == "NClr" &&
+                                      record.entry->text().contains("Camera 1");
+                           }),
+             1);
+    check();
+    QCOMPARE(state(ids.at(0)), QString("Answers"));
+    QCOMPARE(state(ids.at(2)), QString("Wants a clear password")); // for that node alone
+
+    // What answers at another place has not been allowed anything.
+    m_host->change(ids.at(0), [](Node* node) { dynamic_cast<IPDeviceNode*>(node)->setAddress("127.0.1.3"); });
+    m_host->change(ids.at(0), [](Node* node) { KnownDevice::replace(*node, DeviceIdentity()); });
+    check({ids.at(0)});
+    QCOMPARE(state(ids.at(0)), QString("Wants a clear password"));
 }
 
 void tst_CameraCheck::changedCameraIsNotChecked()
