@@ -6,6 +6,7 @@
 #include "network/NetworkText.h"
 
 #include <initializer_list>
+#include <iterator>
 
 using namespace ko;
 
@@ -27,35 +28,94 @@ void requireGood(const DeviceProfile& profile)
                   "pictures are possible");
 }
 
-} // namespace
-
-/// All readers, whatever the message is.
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+void requireGood(const DeviceFacts& facts)
 {
-    const QByteArray message = fuzz::soap(data, size, nullptr);
-    DeviceFacts facts;
-    QDateTime utc;
-    QString uri;
-    DeviceAnswers::readEndpoint(message, facts);
-    DeviceAnswers::readInformation(message, facts);
-    DeviceAnswers::readNetworkInterfaces(message, facts);
-    DeviceAnswers::readServices(message, facts);
-    DeviceAnswers::readVideoSources(message, facts);
-    DeviceAnswers::readProfiles(message, facts);
-    fuzz::require(!DeviceAnswers::readDateAndTime(message, utc) ||
-                      (utc.isValid() && utc.date().year() >= 1970),
-                  "a time is one");
-    DeviceAnswers::readUri(message, uri);
-    fuzz::require(uri.size() <= DeviceAnswers::UriLength, "addresses are cut");
-    requireClean(DeviceAnswers::readFault(message).text);
     for (const QString& text :
          {facts.maker, facts.model, facts.firmware, facts.serial, facts.hardware, facts.endpoint})
         requireClean(text);
-    for (const QString& mac : std::as_const(facts.macAddresses))
+    for (const QString& mac : facts.macAddresses)
         fuzz::require(MACAddress(mac).toString(true) == mac, "a MAC address is one");
-    for (const QString& address : std::as_const(facts.addresses))
+    for (const QString& address : facts.addresses)
         fuzz::require(NetworkAddress::normalised(address) == address, "an address is one");
-    for (const DeviceProfile& profile : std::as_const(facts.profiles))
+    for (const DeviceProfile& profile : facts.profiles)
         requireGood(profile);
+}
+
+/// A reader, with the element that it wants.
+struct Reader
+{
+    const char* element;
+    bool (*read)(const QByteArray& message);
+};
+
+bool readTime(const QByteArray& message)
+{
+    QDateTime utc;
+    const bool isRead = DeviceAnswers::readDateAndTime(message, utc);
+    fuzz::require(!isRead || (utc.isValid() && utc.date().year() >= 1970), "a time is one");
+    return isRead;
+}
+
+bool readUri(const QByteArray& message)
+{
+    QString uri;
+    const bool isRead = DeviceAnswers::readUri(message, uri);
+    fuzz::require(uri.size() <= DeviceAnswers::UriLength, "addresses are cut");
+    return isRead;
+}
+
+bool readFault(const QByteArray& message)
+{
+    const DeviceFault fault = DeviceAnswers::readFault(message);
+    requireClean(fault.text);
+    return fault.kind != DeviceFault::None;
+}
+
+template <bool (*Read)(const QByteArray& message, DeviceFacts& facts)>
+bool readFacts(const QByteArray& message)
+{
+    DeviceFacts facts;
+    const bool isRead = Read(message, facts);
+    requireGood(facts);
+    return isRead;
+}
+
+const Reader readers[] = {
+    {"GetSystemDateAndTimeResponse", readTime},
+    {"GetEndpointReferenceResponse", readFacts<DeviceAnswers::readEndpoint>},
+    {"GetDeviceInformationResponse", readFacts<DeviceAnswers::readInformation>},
+    {"GetNetworkInterfacesResponse", readFacts<DeviceAnswers::readNetworkInterfaces>},
+    {"GetServicesResponse", readFacts<DeviceAnswers::readServices>},
+    {"GetVideoSourcesResponse", readFacts<DeviceAnswers::readVideoSources>},
+    {"GetProfilesResponse", readFacts<DeviceAnswers::readProfiles>},
+    {"GetStreamUriResponse", readUri},
+    {"GetSnapshotUriResponse", readUri},
+    {"Fault", readFault},
+};
+
+/// How often each has taken a message for an answer of its own.
+struct Counts
+{
+    ~Counts()
+    {
+        for (size_t i = 0; i < std::size(readers); ++i)
+            std::fprintf(stderr, "%s: read %ld of %ld\n", readers[i].element, read[i], tried[i]);
+    }
+
+    long read[std::size(readers)] = {};
+    long tried[std::size(readers)] = {};
+};
+
+} // namespace
+
+/// The first byte says which, and whether it gets its own element or has to find it.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    static Counts counts;
+    if (size == 0)
+        return 0;
+    const size_t i = size_t(data[0] >> 1) % std::size(readers);
+    ++counts.tried[i];
+    counts.read[i] += readers[i].read(fuzz::soap(data, size, readers[i].element)) ? 1 : 0;
     return 0;
 }
