@@ -105,13 +105,14 @@ void PictureTip::showTip()
 QString PictureTip::html() const
 {
     const CameraPicture picture = m_pictures.picture(m_id);
+    const QString time = QLocale().toString(picture.time.toLocalTime(), QLocale::ShortFormat);
     QStringList parts(m_list.indexAt(m_place).data(Qt::ToolTipRole).toString());
     if (picture.image.isNull())
         parts.append(picture.problem.isEmpty() ? tr("Fetching the picture...")
                                                : picture.problem.toHtmlEscaped());
     else
         parts.append(inText(picture.image) + QStringLiteral("<br>") +
-                     QLocale().toString(picture.time.toLocalTime(), QLocale::ShortFormat).toHtmlEscaped());
+                     tr("Seen %1").arg(time).toHtmlEscaped());
     parts.removeAll(QString());
     return QStringLiteral("<p>") + parts.join(QStringLiteral("</p><p>")) + QStringLiteral("</p>");
 }

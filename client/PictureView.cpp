@@ -63,7 +63,7 @@ void PictureView::showPicture()
                                         Qt::SmoothTransformation);
     shown.setDevicePixelRatio(devicePixelRatioF());
     setPixmap(QPixmap::fromImage(shown));
-    setToolTip(QLocale().toString(picture.time.toLocalTime(), QLocale::ShortFormat));
+    setToolTip(tr("Seen %1").arg(QLocale().toString(picture.time.toLocalTime(), QLocale::ShortFormat)));
 }
 
 } // namespace ko

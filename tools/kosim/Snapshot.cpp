@@ -31,7 +31,7 @@ QByteArray jpeg(const QImage& image, bool isProgressive = false)
 QImage scene(const Identity& identity, const QSize& size)
 {
     QImage image(size, QImage::Format_RGB32);
-    const int hue = int(qHash(identity.serial, 0) % 360);
+    const int hue = identity.serial.mid(2).toInt() * 47 % 360;
     image.fill(QColor::fromHsv(hue, 90, 130));
     QPainter painter(&image);
     const int line = size.height() / 9;
