@@ -240,7 +240,7 @@ void CameraChecking::acceptDevices()
     change(others,
            {[](Node& node, const CameraState& other) { KnownDevice::replace(node, other.seen); },
             [this](const QString& name) { m_window.database().auditLog().log(NodeAcceptLogEntry(name)); },
-            QT_TR_NOOP("%n device(s) accepted.")});
+            QT_TR_N_NOOP("%n device(s) accepted.")});
 }
 
 void CameraChecking::allowClearPasswords()
@@ -265,7 +265,7 @@ void CameraChecking::allowClearPasswords()
                      [this](const QString& name) {
                          m_window.database().auditLog().log(NodeClearPasswordLogEntry(name));
                      },
-                     QT_TR_NOOP("%n device(s) may be sent their passwords in the clear.")});
+                     QT_TR_N_NOOP("%n device(s) may be sent their passwords in the clear.")});
 }
 
 void CameraChecking::change(const CameraCheck::States& cameras, const Change& change)

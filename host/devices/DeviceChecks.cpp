@@ -16,6 +16,12 @@ namespace {
 
 const int Niceness = 10;
 
+/// The user's windows come first: this thread, and those of the toolkit that it starts for HTTP, stand back.
+void standBack()
+{
+    setpriority(PRIO_PROCESS, 0, Niceness); // of the calling thread, on Linux
+}
+
 QString placeOf(const DeviceTarget& target)
 {
     return target.address.trimmed().toLower() + QLatin1Char(' ') + QString::number(target.port);
@@ -78,12 +84,6 @@ DeviceChecks::Worker::Worker(DeviceChecks& checks, int run, const QVector<Device
     }
     connect(&m_stepTimer, &QTimer::timeout, this, [this] { step(); });
     connect(&m_reportTimer, &QTimer::timeout, this, [this] { post(); });
-}
-
-/// The user's windows come first: this thread, and those of the toolkit that it starts for HTTP, stand back.
-void standBack()
-{
-    setpriority(PRIO_PROCESS, 0, Niceness); // of the calling thread, on Linux
 }
 
 void DeviceChecks::Worker::begin()
