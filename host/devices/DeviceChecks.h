@@ -30,7 +30,7 @@ public:
 
     explicit DeviceChecks(QObject* parent = nullptr);
 
-    /// Cancels, and waits for the thread: some milliseconds.
+    /// Cancels, and waits for the thread: some milliseconds, and until a picture is read.
     ~DeviceChecks() override;
 
     /// Begins; does nothing while it is running. Each target has exactly one report, unless cancelled.

@@ -515,6 +515,7 @@ void DeviceChecksTest::channelsAreCheckedOnce()
     for (int i = 0; i < 16; ++i) {
         targets.append(device.target());
         targets.last().id = QString::number(i);
+        targets.last().channel = i + 1;
     }
     DeviceChecks checks;
     QVector<DeviceReport> reports;

@@ -1,7 +1,9 @@
 #include "devices/NodeTarget.h"
 
+#include "devices/ClearPassword.h"
 #include "devices/KnownDevice.h"
 #include "exchange/CameraSurvey.h"
+#include "interfaces/ISupportsChannels.h"
 #include "ko/GlobalNetworkProxy.h"
 #include "support/HostFixture.h"
 #include "support/TestMain.h"
@@ -41,6 +43,8 @@ private slots:
 
     void onlyDevicesWithAnAddress();
     void nodeSaysWhereItIs();
+    void channelIsThatOfTheNode();
+    void clearPasswordIsOfOnePlace();
     void wayToTheNode_data();
     void wayToTheNode();
     void passwordThatCannotBeOpened();
@@ -101,6 +105,32 @@ void tst_NodeTarget::nodeSaysWhereItIs()
         target = NodeTarget::of(*device(), global);
         QCOMPARE(target.port, ssl ? 443 : 80);
     }
+}
+
+void tst_NodeTarget::channelIsThatOfTheNode()
+{
+    const GlobalNetworkProxy& global = m_host->db()->globalProxy();
+    QCOMPARE(NodeTarget::of(*device(), global).channel, 1);
+    const QString recorder = m_host->add(ChannelDeviceType, "Recorder", "10.0.0.1");
+    m_host->change(recorder, [](Node* node) { dynamic_cast<ISupportsChannels*>(node)->setChannel(3); });
+    QCOMPARE(NodeTarget::of(*deviceNode(recorder), global).channel, 3);
+}
+
+void tst_NodeTarget::clearPasswordIsOfOnePlace()
+{
+    const auto isAllowed = [this] {
+        return NodeTarget::of(*device(), m_host->db()->globalProxy()).allowsBasic;
+    };
+    QVERIFY(!isAllowed());
+    change([](IPDeviceNode& node) { ClearPassword::allow(node); });
+    QVERIFY(isAllowed());
+    change([](IPDeviceNode& node) { node.setStringProperty("Name", "Other"); });
+    QVERIFY(isAllowed());
+    change([](IPDeviceNode& node) { node.setPort(81); });
+    QVERIFY(!isAllowed());
+    change([](IPDeviceNode& node) { ClearPassword::allow(node); });
+    change([](IPDeviceNode& node) { node.setAddress("other.example.org"); });
+    QVERIFY(!isAllowed());
 }
 
 void tst_NodeTarget::wayToTheNode_data()
@@ -224,6 +254,7 @@ void tst_NodeTarget::identityStaysInThisHost()
 {
     change([](IPDeviceNode& node) {
         KnownDevice::remember(node, identity("secret-serial", "secret-endpoint", "secret-realm", "5ec4e7"));
+        ClearPassword::allow(node);
     });
     QTemporaryDir folder;
     const QString name = folder.filePath("cameras.csv");
@@ -234,6 +265,8 @@ void tst_NodeTarget::identityStaysInThisHost()
     const QByteArray content = file.readAll();
     QVERIFY(content.contains("cam.example.org"));
     QVERIFY2(!content.contains("secret-") && !content.contains("5ec4e7"), content.constData());
+    QVERIFY2(!content.contains("ClearPassword") && !content.contains("cam.example.org 80"),
+             content.constData());
 }
 
 KO_TEST_MAIN(tst_NodeTarget)
