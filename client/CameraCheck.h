@@ -29,8 +29,8 @@ class CameraCheck : public QObject
 
 public:
     enum Limits {
-        StoreInterval = 100, ///< ms: each commit waits for the disk, whatever it holds
-        StoredAtOnce = 40    ///< cameras
+        StoreInterval = 60, ///< ms: each commit waits for the disk, whatever it holds
+        StoredAtOnce = 20   ///< cameras
     };
 
     typedef QHash<QString, CameraState> States; ///< by the identifier of the node

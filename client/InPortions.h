@@ -18,7 +18,7 @@ class InPortions
 public:
     typedef std::function<void(const Item& item)> Take;
 
-    enum Limits { Portion = 4 /* ms, for one begun */ };
+    enum Limits { Portion = 2 /* ms, for one begun */ };
 
     /// \a taken is called after each portion; more may be added in it.
     InPortions(Take take, std::function<void()> taken)
