@@ -5,6 +5,7 @@
 #include "audit/AuditLog.h"
 #include "audit/AuditRecord.h"
 #include "devices/KnownDevice.h"
+#include "support/Answers.h"
 #include "support/DialogCheck.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
@@ -31,12 +32,19 @@
 #include <ctime>
 
 using namespace ko;
+using testsupport::Answers;
 using testsupport::child;
 using testsupport::ModalAnswer;
 using testsupport::Patience;
 using testsupport::SimulatedSite;
 
 namespace {
+
+#ifdef KO_SANITIZE
+const double Slowness = 5;
+#else
+const double Slowness = 1;
+#endif
 
 /// A heart that beats in the event loop, while this object lives.
 class LoopWatch
@@ -50,7 +58,10 @@ public:
         m_timer.start(Beat);
     }
 
-    double longest() const { return m_late.empty() ? 0 : *std::max_element(m_late.begin(), m_late.end()); }
+    double longest() const { return most(m_late); }
+
+    /// The same without what the machine does meanwhile.
+    double longestWork() const { return most(m_work); }
 
     /// ms that 99 of a hundred who come at any time wait at most.
     double wait() const { return percentile(m_late); }
@@ -66,6 +77,11 @@ private:
         timespec time = {};
         clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
         return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+    }
+
+    static double most(const std::vector<double>& values)
+    {
+        return values.empty() ? 0 : *std::max_element(values.begin(), values.end());
     }
 
     static double percentile(std::vector<double> values)
@@ -279,7 +295,7 @@ void tst_CameraCheck::everyKindOfCamera()
                  kinds.at(i) + ": " + (i == 1 ? QString("Wrong password") : cameras[i].state));
     QCOMPARE(state(view), QString());
     QCOMPARE(state(nowhere), QString());
-    QVERIFY2(watch.longest() < 250, qPrintable(QString::number(watch.longest())));
+    QVERIFY2(watch.longestWork() < 250 * Slowness, qPrintable(QString::number(watch.longestWork())));
 
     QVERIFY(report() && report()->isVisible() && !report()->isModal());
     const QString summary = child<QLabel>(report(), "summaryLabel")->text();
@@ -336,16 +352,14 @@ void tst_CameraCheck::reportIsActedOn()
 
     // What cannot be written is said.
     QString complaint;
-    const ModalAnswer chooser([](QDialog* dialog) {
-        qobject_cast<QFileDialog*>(dialog)->selectFile("/proc/nowhere.csv");
-        dialog->accept();
-    });
-    QTimer::singleShot(500, this, [&complaint] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            complaint = box->text();
-            box->reject();
-        }
-    });
+    const Answers answers({[](QDialog* dialog) {
+                               qobject_cast<QFileDialog*>(dialog)->selectFile("/proc/nowhere.csv");
+                               dialog->accept();
+                           },
+                           [&complaint](QDialog* dialog) {
+                               complaint = qobject_cast<QMessageBox*>(dialog)->text();
+                               dialog->reject();
+                           }});
     child<QPushButton>(report(), "saveButton")->click();
     QVERIFY2(complaint.contains("/proc/nowhere.csv"), qPrintable(complaint));
 }
@@ -726,8 +740,8 @@ void tst_CameraCheck::manyAreChecked()
           "heap %+lld KiB",
           count, clock.elapsed(), watch.wait(), watch.work(), watch.longest(),
           (testsupport::heapInUse() - before) / 1024);
-    QVERIFY2(watch.work() < 16, qPrintable(QString::number(watch.work())));
-    QVERIFY2(watch.longest() < 250, qPrintable(QString::number(watch.longest())));
+    QVERIFY2(watch.work() < 16 * Slowness, qPrintable(QString::number(watch.work())));
+    QVERIFY2(watch.longestWork() < 250 * Slowness, qPrintable(QString::number(watch.longestWork())));
     QCOMPARE(changeSets(Purpose::Check), 1);
     int answering = 0;
     const auto* model = m_list->model();

@@ -21,9 +21,10 @@ public:
         port = free.serverPort();
         free.close();
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(KO_KOSIM),
-                        QStringList{"--one-server", "--no-announce", "--http-port", QString::number(port)} +
-                            options);
+        // It ends with the test, also when that crashes: it holds the pipe that tells of the test's end.
+        m_process.start("setpriv", QStringList{"--pdeathsig", "TERM", KO_KOSIM, "--one-server",
+                                               "--no-announce", "--http-port", QString::number(port)} +
+                                       options);
         QByteArray said;
         isUp = QTest::qWaitFor(
             [&] { return (said += m_process.readAllStandardOutput()).contains("ready: "); }, 20000);
