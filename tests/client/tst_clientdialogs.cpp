@@ -90,7 +90,7 @@ void tst_ClientDialogs::auditLogShowsTheNewestFirst()
 
 void tst_ClientDialogs::auditLogTellsWhatNoDialogLogs()
 {
-    const auto change = [this](const std::function<void()>& work) {
+    const auto change = [](const std::function<void()>& work) {
         QTest::qWait(2); // later than what was before
         work();
         QTest::qWait(0);
