@@ -1,5 +1,6 @@
 #include "support/FileLockLines.h"
 #include "support/HostFixture.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
@@ -80,7 +81,7 @@ void TestKeptLocks::theBackupOfTheDay()
     BackupKeeper keeper(host.db()->fileName());
     QSignalSpy made(&keeper, &BackupKeeper::made);
     keeper.makeNow();
-    QVERIFY(made.wait());
+    QVERIFY(made.wait(testsupport::Patience));
     QCOMPARE(lockLines(host.db()->fileName()), before);
 }
 

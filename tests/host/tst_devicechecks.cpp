@@ -570,7 +570,7 @@ void DeviceChecksTest::cancelIsAtOnce()
     const ProcessResources before;
     for (int round = 0; round < 3; ++round) {
         checks->start(targets);
-        QVERIFY(some.wait(5000));
+        QVERIFY(some.wait(testsupport::Patience));
         QElapsedTimer clock;
         clock.start();
         checks->cancel();

@@ -1,4 +1,5 @@
 #include "StoreTesting.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "store/BackupKeeper.h"
@@ -353,7 +354,7 @@ void tst_StoreBackup::keeperMakesOneADay()
     QSignalSpy made(&keeper, &BackupKeeper::made);
     keeper.makeNow();
     keeper.makeNow(); // one is being made
-    QVERIFY(made.wait());
+    QVERIFY(made.wait(testsupport::Patience));
     QCOMPARE(made.count(), 1);
     QCOMPARE(StoreBackup::backups(m_file).size(), 1);
     QCOMPARE(made.at(0).at(0).toString(), StoreBackup::backups(m_file).at(0).file);
@@ -364,7 +365,7 @@ void tst_StoreBackup::keeperTellsFailures()
     BackupKeeper keeper(m_folder->filePath(QLatin1String("missing.kodb")));
     QSignalSpy failed(&keeper, &BackupKeeper::failed);
     keeper.makeNow();
-    QVERIFY(failed.wait());
+    QVERIFY(failed.wait(testsupport::Patience));
     QCOMPARE(failed.at(0).at(0).value<StoreError>().kind, StoreError::CannotOpen);
 }
 
