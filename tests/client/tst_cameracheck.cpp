@@ -759,19 +759,16 @@ void tst_CameraCheck::statesAreExported()
     const QStringList ids = addCameras(site, 2);
     open();
     QTemporaryDir folder;
+    QString file;
+    int number = 0;
     const auto exported = [&](const char* command) {
-        const QString file = folder.filePath("list.csv");
-        QFile::remove(file);
-        const ModalAnswer answer([&file](QDialog* dialog) {
-            qobject_cast<QFileDialog*>(dialog)->selectFile(file);
-            dialog->accept();
-        });
-        QTimer passwords;
-        connect(&passwords, &QTimer::timeout, this, [] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-                box->button(QMessageBox::No)->click();
-        });
-        passwords.start(10);
+        file = folder.filePath(QString("list%1.csv").arg(++number)); // nothing to be replaced
+        const Answers answers(
+            {[&file](QDialog* dialog) {
+                 qobject_cast<QFileDialog*>(dialog)->selectFile(file);
+                 dialog->accept();
+             },
+             [](QDialog* box) { qobject_cast<QMessageBox*>(box)->button(QMessageBox::No)->click(); }});
         action(command)->trigger();
         QFile list(file);
         return list.open(QIODevice::ReadOnly) ? QString::fromUtf8(list.readAll()).split("\r\n")
@@ -789,7 +786,7 @@ void tst_CameraCheck::statesAreExported()
     QCOMPARE(lines.filter("Camera").size(), 1);
     QVERIFY(lines.value(1).contains(",Not understood,"));
 
-    const auto result = CameraSurvey::importCameras(folder.filePath("list.csv"));
+    const auto result = CameraSurvey::importCameras(file);
     QCOMPARE(result.error, QString());
     QCOMPARE(result.unchanged, 1);
     QCOMPARE(result.ignoredColumns, QStringList({"state", "reason", "checked"}));
