@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 
 namespace ko {
 
@@ -9,12 +10,40 @@ namespace FileDialogs {
 
 namespace {
 
-class Dialog : public QFileDialog
+/// Tells files by their names. The toolkit's own may read the beginning of each to learn its type, in the
+/// thread of the window: that waits for slow servers, and for ever where a file is a device.
+class IconProvider : public QFileIconProvider
+{
+public:
+    using QFileIconProvider::icon;
+
+    QIcon icon(const QFileInfo& info) const override
+    {
+        return info.isFile() ? m_fileIcon : QFileIconProvider::icon(info);
+    }
+
+    QString type(const QFileInfo& info) const override
+    {
+        return info.isFile() ? info.suffix().toUpper() : QFileIconProvider::type(info);
+    }
+
+private:
+    const QIcon m_fileIcon = icon(File);
+};
+
+/// A base, so that it outlives the dialog, whose thread asks it.
+struct Icons
+{
+    IconProvider fileIcons;
+};
+
+class Dialog : private Icons, public QFileDialog
 {
 public:
     Dialog(QWidget* parent, const QString& title, const QString& filter, const QString& start)
         : QFileDialog(parent, title, QString(), filter)
     {
+        setIconProvider(&fileIcons);                          // first: a folder is read at once
         setDirectory(start.isEmpty() ? lastFolder() : start); // which may be gone by now
     }
 

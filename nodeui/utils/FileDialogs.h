@@ -9,9 +9,9 @@ class QWidget;
 
 namespace ko {
 
-/// The dialogs of the desktop, or the toolkit's own, that choose files and folders. They may open the files
-/// that they list, to learn their types or for thumbnails: a host whose files have locks that belong to the
-/// process loses those.
+/// The dialogs of the desktop, or the toolkit's own, that choose files and folders. The desktop's may open
+/// the files that they list, for types and thumbnails: a host whose files have locks that belong to the
+/// process loses those. The toolkit's open none.
 ///
 /// Each returns a null string when the user cancels. They begin in the folder of the last choice.
 namespace FileDialogs {

@@ -16,7 +16,10 @@
 
 #include <cstdio>
 
+#include <climits>
+
 #include <fcntl.h>
+#include <sys/inotify.h>
 #include <unistd.h>
 
 using namespace ko;
@@ -62,10 +65,12 @@ private slots:
     void importKeepsTheLocks();
     void exportKeepsTheLocks();
     void folderKeepsTheLocks();
+    void filesAreNotRead_data();
+    void filesAreNotRead();
 
 private:
     void trigger(const char* action);
-    void lookAround(QFileDialog* dialog) const;
+    void lookAround(QFileDialog* dialog, int files = 3) const;
     QStringList locks() const;
 
     std::unique_ptr<testsupport::HostFixture> m_host;
@@ -95,7 +100,7 @@ QStringList tst_FileDialogs::locks() const
 }
 
 /// Stays in the folder of the database until its files are listed with their types.
-void tst_FileDialogs::lookAround(QFileDialog* dialog) const
+void tst_FileDialogs::lookAround(QFileDialog* dialog, int files) const
 {
     QVERIFY(dialog);
     dialog->setNameFilter(QStringLiteral("All files (*)"));
@@ -104,7 +109,7 @@ void tst_FileDialogs::lookAround(QFileDialog* dialog) const
     KO_TRY_VERIFY(model->index(m_host->fileName(), 2).isValid());
     const QModelIndex file = model->index(m_host->fileName(), 2);
     KO_TRY_VERIFY(!model->data(file).toString().isEmpty());
-    KO_TRY_COMPARE(model->rowCount(file.parent()), 3);
+    KO_TRY_COMPARE(model->rowCount(file.parent()), files);
     QTest::qWait(200);
 }
 
@@ -156,6 +161,39 @@ void tst_FileDialogs::folderKeepsTheLocks()
     child<QPushButton>(&preferences, "browseButton")->click();
     QVERIFY(answer.fired());
     QCOMPARE(locks(), before);
+}
+
+void tst_FileDialogs::filesAreNotRead_data()
+{
+    QTest::addColumn<QByteArray>("action");
+    QTest::newRow("import") << QByteArray("actionImport");
+    QTest::newRow("export") << QByteArray("actionExport");
+}
+
+/// What waits for a slow server, or for ever: reading a device.
+void tst_FileDialogs::filesAreNotRead()
+{
+    QFETCH(QByteArray, action);
+    QFile file(QFileInfo(m_host->fileName()).dir().filePath(QStringLiteral("untyped")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<?xml version=\"1.0\"?>");
+    file.close();
+    const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    QVERIFY(::inotify_add_watch(watch, qPrintable(file.fileName()), IN_OPEN) >= 0);
+    const auto wasOpened = [watch] {
+        char event[sizeof(inotify_event) + NAME_MAX + 1];
+        return ::read(watch, event, sizeof event) > 0;
+    };
+    const testsupport::ModalAnswer answer([this](QDialog* dialog) {
+        lookAround(qobject_cast<QFileDialog*>(dialog), 4);
+        dialog->reject();
+    });
+    child<QAction>(m_window.get(), action)->trigger();
+    QVERIFY(answer.fired());
+    QVERIFY(!wasOpened());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(wasOpened()); // it is seen
+    ::close(watch);
 }
 
 int main(int argc, char** argv)
