@@ -3,6 +3,7 @@
 #include "SearchText.h"
 #include "WindowSize.h"
 #include "ko/dialogFlags.h"
+#include "utils/Retranslation.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -21,14 +22,9 @@ AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent
     , m_table(new QTableWidget(0, 4, this))
 {
     setObjectName(QStringLiteral("AddressChangesDialog"));
-    setWindowTitle(tr("Seen at a New Address"));
-    QLabel* hint = new QLabel(tr("These devices seem to answer at another address now. Accept only what you "
-                                 "expect: user name and password are sent to the new address from then on."),
-                              this);
+    QLabel* hint = new QLabel(this);
     hint->setWordWrap(true);
     m_table->setObjectName(QStringLiteral("changesTableWidget"));
-    m_table->setAccessibleName(tr("Devices"));
-    m_table->setHorizontalHeaderLabels({tr("Name"), tr("Old Address"), tr("New Address"), tr("MAC Address")});
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false); // Tab leaves the table
@@ -36,9 +32,9 @@ AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent
     m_table->horizontalHeader()->setStretchLastSection(true);
 
     QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    m_accept = buttons->addButton(tr("&Accept Selected"), QDialogButtonBox::ActionRole);
-    m_acceptAll = buttons->addButton(tr("Accept A&ll"), QDialogButtonBox::ActionRole);
-    m_dismiss = buttons->addButton(tr("&Dismiss Selected"), QDialogButtonBox::ActionRole);
+    m_accept = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
+    m_acceptAll = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
+    m_dismiss = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
     m_accept->setObjectName(QStringLiteral("acceptButton"));
     m_acceptAll->setObjectName(QStringLiteral("acceptAllButton"));
     m_dismiss->setObjectName(QStringLiteral("dismissButton"));
@@ -50,6 +46,17 @@ AddressChangesDialog::AddressChangesDialog(DeviceIntake& intake, QWidget* parent
     layout->addWidget(hint);
     layout->addWidget(m_table);
     layout->addWidget(buttons);
+    setTranslated(this, [this, hint] {
+        setWindowTitle(tr("Seen at a New Address"));
+        hint->setText(tr("These devices seem to answer at another address now. Accept only what you "
+                         "expect: user name and password are sent to the new address from then on."));
+        m_table->setAccessibleName(tr("Devices"));
+        m_table->setHorizontalHeaderLabels(
+            {tr("Name"), tr("Old Address"), tr("New Address"), tr("MAC Address")});
+        m_accept->setText(tr("&Accept Selected"));
+        m_acceptAll->setText(tr("Accept A&ll"));
+        m_dismiss->setText(tr("&Dismiss Selected"));
+    });
     resizeWithinScreen(*this, QSize(640, 360));
 
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

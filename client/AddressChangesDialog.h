@@ -2,6 +2,7 @@
 #define KO_ADDRESSCHANGESDIALOG_H
 
 #include "discovery/DeviceIntake.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 
@@ -14,6 +15,7 @@ namespace ko {
 class AddressChangesDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(AddressChangesDialog)
 
 public:
     explicit AddressChangesDialog(DeviceIntake& intake, QWidget* parent = nullptr);

@@ -2,6 +2,7 @@
 
 #include "DatabaseRecovery.h"
 #include "KeychainNotice.h"
+#include "Languages.h"
 #include "MainWindow.h"
 #include "PlainMessageBox.h"
 #include "audit/ProgramLog.h"
@@ -115,13 +116,14 @@ bool Application::parse()
     QStringList arguments;
     for (int i = 0; i < m_argc; ++i)
         arguments.append(FileName::fromBytes(m_argv[i]));
-    const QString refusal = m_options.read(arguments);
+    const QCoreApplication application(m_argc, m_argv); // speaks, and names the program
+    speak(arguments);
+    const QString refusal = m_options->read(arguments);
     if (!refusal.isEmpty())
         return refuse(refusal);
-    if (m_options.asksForHelp() || m_options.isSet("version")) {
-        const QCoreApplication application(m_argc, m_argv); // the texts name the program
-        const QString text = m_options.asksForHelp()
-                                 ? m_options.helpText()
+    if (m_options->asksForHelp() || m_options->isSet("version")) {
+        const QString text = m_options->asksForHelp()
+                                 ? m_options->helpText()
                                  : QCoreApplication::applicationName() + QLatin1Char(' ') +
                                        QCoreApplication::applicationVersion();
         const QStringList lines = text.split(QLatin1Char('\n'));
@@ -129,13 +131,23 @@ bool Application::parse()
             say(stdout, line);
         return false;
     }
-    if (!needsWindow() && !m_options.toolkitOption().isEmpty())
+    if (!needsWindow() && !m_options->toolkitOption().isEmpty())
         return refuse(
             QCoreApplication::translate("Application", "%1 is for windows, and none is opened here.")
-                .arg(m_options.toolkitOption()));
-    m_database = m_options.value("db");
+                .arg(m_options->toolkitOption()));
+    m_database = m_options->value("db");
     return canBeNamed(
-        {m_database, m_options.value("export"), m_options.value("backup"), m_options.value("restore")});
+        {m_database, m_options->value("export"), m_options->value("backup"), m_options->value("restore")});
+}
+
+/// The language comes first: the options tell about themselves in it. What is wrong with them is said later.
+void Application::speak(const QStringList& arguments)
+{
+    Options options;
+    options.read(arguments);
+    m_language = options.isSet("lang") ? Languages::best({options.value("lang")}) : Languages::preferred();
+    Languages::use(m_language);
+    m_options.emplace();
 }
 
 bool Application::refuse(const QString& reason)
@@ -166,12 +178,13 @@ int Application::run()
     keepFilesPrivate();
     const std::unique_ptr<QCoreApplication> application(needsWindow() ? new QApplication(m_argc, m_argv)
                                                                       : new QCoreApplication(m_argc, m_argv));
+    Languages::use(m_language);
     return runTask();
 }
 
 bool Application::needsWindow() const
 {
-    const auto isSet = [this](const char* task) { return m_options.isSet(task); };
+    const auto isSet = [this](const char* task) { return m_options->isSet(task); };
     const auto tasks = {"import", "export", "backup", "restore"};
     return std::none_of(tasks.begin(), tasks.end(), isSet);
 }
@@ -180,8 +193,8 @@ int Application::runTask()
 {
     if (m_database.isEmpty())
         m_database = defaultDatabase();
-    const bool imports = m_options.isSet("import");
-    const bool exports = m_options.isSet("export");
+    const bool imports = m_options->isSet("import");
+    const bool exports = m_options->isSet("export");
     const int copied = copyDatabase();
     if (copied != Good || !(needsWindow() || imports || exports))
         return copied;
@@ -192,7 +205,7 @@ int Application::runTask()
         return runWindow();
     if (imports && !QFileInfo::exists(StoreFile::resolved(m_database))) {
         // A list that is refused must not leave a new database behind.
-        const CameraSurvey::ImportResult refused = CameraSurvey::check(m_options.value("import"));
+        const CameraSurvey::ImportResult refused = CameraSurvey::check(m_options->value("import"));
         if (!refused.error.isEmpty())
             return report(refused);
     }
@@ -236,7 +249,7 @@ int Application::runWindow()
 
 int Application::importCameras() const
 {
-    return report(CameraSurvey::importCameras(m_options.value("import"), [](qint64, qint64) {
+    return report(CameraSurvey::importCameras(m_options->value("import"), [](qint64, qint64) {
         QCoreApplication::processEvents(); // the database stores what was done so far
         return true;
     }));
@@ -246,7 +259,7 @@ int Application::report(const CameraSurvey::ImportResult& result) const
 {
     for (const CameraSurvey::BadLine& line : result.badLines)
         say(stderr, QCoreApplication::translate("Application", "%1, line %2: %3")
-                        .arg(m_options.value("import"), QString::number(line.line), line.reason));
+                        .arg(m_options->value("import"), QString::number(line.line), line.reason));
     for (const QString& column : result.ignoredColumns)
         say(stderr, QCoreApplication::translate("Application", "Column \"%1\" is not used.").arg(column));
     if (!result.error.isEmpty())
@@ -265,9 +278,9 @@ int Application::report(const CameraSurvey::ImportResult& result) const
 
 int Application::exportCameras() const
 {
-    const QString file = m_options.value("export");
-    const auto passwords = m_options.isSet("without-passwords") ? CameraSurvey::Passwords::LeaveOut
-                                                                : CameraSurvey::Passwords::Write;
+    const QString file = m_options->value("export");
+    const auto passwords = m_options->isSet("without-passwords") ? CameraSurvey::Passwords::LeaveOut
+                                                                 : CameraSurvey::Passwords::Write;
     const CameraSurvey::ExportResult result = CameraSurvey::exportCameras(file, passwords);
     if (!result.error.isEmpty()) {
         say(stderr, result.error);
@@ -285,8 +298,9 @@ int Application::copyDatabase() const
 {
     StoreError error;
     const bool isGood =
-        (!m_options.isSet("backup") || StoreBackup::write(m_database, m_options.value("backup"), &error)) &&
-        (!m_options.isSet("restore") || StoreBackup::restore(m_options.value("restore"), m_database, &error));
+        (!m_options->isSet("backup") || StoreBackup::write(m_database, m_options->value("backup"), &error)) &&
+        (!m_options->isSet("restore") ||
+         StoreBackup::restore(m_options->value("restore"), m_database, &error));
     if (isGood)
         return Good;
     say(stderr, error.message);

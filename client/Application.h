@@ -5,6 +5,7 @@
 #include "exchange/CameraSurvey.h"
 
 #include <memory>
+#include <optional>
 
 namespace ko {
 
@@ -23,6 +24,7 @@ public:
 
 private:
     bool parse();
+    void speak(const QStringList& arguments);
     bool refuse(const QString& reason);
     bool canBeNamed(const QStringList& files);
     bool needsWindow() const;
@@ -36,7 +38,8 @@ private:
 
     int& m_argc;
     char** const m_argv;
-    Options m_options;
+    std::optional<Options> m_options; ///< made when the language is known
+    QString m_language;
     QString m_database;
     int m_exitCode = Good; ///< when parse() ends the program
 };

@@ -3,6 +3,7 @@
 #include "AuditLogModel.h"
 #include "WindowSize.h"
 #include "ko/dialogFlags.h"
+#include "utils/Retranslation.h"
 
 #include <QAction>
 #include <QApplication>
@@ -33,12 +34,10 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
     , m_view(new QTableView(this))
 {
     setObjectName(QStringLiteral("AuditLogDialog"));
-    setWindowTitle(tr("Audit Log"));
     m_found->setSourceModel(m_model);
     m_found->setFilterKeyColumn(-1);
     m_found->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_view->setObjectName(QStringLiteral("entriesTableView"));
-    m_view->setAccessibleName(tr("Entries"));
     m_view->setModel(m_found);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -52,12 +51,10 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
 
     QLineEdit* searchField = new QLineEdit(this);
     searchField->setObjectName(QStringLiteral("searchLineEdit"));
-    searchField->setPlaceholderText(tr("Search"));
-    searchField->setAccessibleName(tr("Search"));
     searchField->setClearButtonEnabled(true);
     connect(searchField, &QLineEdit::textChanged, this, &AuditLogDialog::search);
 
-    QAction* copyAction = new QAction(tr("Copy"), m_view);
+    QAction* copyAction = new QAction(m_view);
     copyAction->setObjectName(QStringLiteral("copyAction"));
     copyAction->setShortcut(QKeySequence::Copy);
     copyAction->setShortcutContext(Qt::WidgetShortcut);
@@ -69,13 +66,21 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     QVBoxLayout* layout = new QVBoxLayout(this);
     QHBoxLayout* searchRow = new QHBoxLayout;
-    QLabel* searchLabel = new QLabel(tr("&Find:"), this);
+    QLabel* searchLabel = new QLabel(this);
     searchLabel->setBuddy(searchField);
     searchRow->addWidget(searchLabel);
     searchRow->addWidget(searchField);
     layout->addLayout(searchRow);
     layout->addWidget(m_view);
     layout->addWidget(buttons);
+    setTranslated(this, [this, searchField, searchLabel, copyAction] {
+        setWindowTitle(tr("Audit Log"));
+        m_view->setAccessibleName(tr("Entries"));
+        searchField->setPlaceholderText(tr("Search"));
+        searchField->setAccessibleName(tr("Search"));
+        searchLabel->setText(tr("&Find:"));
+        copyAction->setText(tr("Copy"));
+    });
     resizeWithinScreen(*this, QSettings().value(QLatin1String(sizeKey), QSize(960, 520)).toSize());
 }
 

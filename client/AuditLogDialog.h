@@ -1,6 +1,8 @@
 #ifndef KO_AUDITLOGDIALOG_H
 #define KO_AUDITLOGDIALOG_H
 
+#include "ko/TrContext.h"
+
 #include <QDialog>
 
 class QLineEdit;
@@ -16,6 +18,7 @@ class AuditLogModel;
 class AuditLogDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(AuditLogDialog)
 
 public:
     explicit AuditLogDialog(AuditLog& log, QWidget* parent = nullptr);

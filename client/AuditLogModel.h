@@ -2,6 +2,7 @@
 #define KO_AUDITLOGMODEL_H
 
 #include "audit/AuditRecord.h"
+#include "ko/TrContext.h"
 
 #include <QAbstractTableModel>
 #include <QVector>
@@ -19,6 +20,7 @@ class AuditLog;
 class AuditLogModel : public QAbstractTableModel
 {
     Q_OBJECT
+    KO_TR_CONTEXT(AuditLogModel)
 
 public:
     enum Column { TimeColumn, UserColumn, TitleColumn, TextColumn, ColumnCount };

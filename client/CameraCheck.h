@@ -5,6 +5,7 @@
 #include "DeviceFingerprint.h"
 #include "InPortions.h"
 #include "devices/DeviceChecks.h"
+#include "ko/TrContext.h"
 #include "ko/Types.h"
 #include "model/Cause.h"
 
@@ -26,6 +27,7 @@ class IPDeviceNode;
 class CameraCheck : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(CameraCheck)
 
 public:
     enum Limits {

@@ -4,6 +4,7 @@
 #include "CameraCheck.h"
 #include "CameraPictures.h"
 #include "exchange/CameraSurvey.h"
+#include "ko/TrContext.h"
 
 #include <functional>
 
@@ -20,6 +21,7 @@ struct CheckedCamera;
 class CameraChecking : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(CameraChecking)
 
 public:
     /// The window owns it.

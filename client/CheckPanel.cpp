@@ -1,5 +1,7 @@
 #include "CheckPanel.h"
 
+#include "utils/Retranslation.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -20,7 +22,7 @@ CheckPanel::CheckPanel(QWidget* parent)
     : QWidget(parent)
     , m_text(new QLabel(this))
     , m_bar(new QProgressBar(this))
-    , m_cancel(new QPushButton(tr("Cance&l"), this))
+    , m_cancel(new QPushButton(this))
     , m_button(new QPushButton(this))
     , m_close(new QToolButton(this))
 {
@@ -28,7 +30,6 @@ CheckPanel::CheckPanel(QWidget* parent)
     m_text->setObjectName(QStringLiteral("checkLabel"));
     m_text->setTextFormat(Qt::PlainText);
     m_bar->setObjectName(QStringLiteral("checkProgressBar"));
-    m_bar->setAccessibleName(tr("Cameras checked"));
     m_bar->setFixedWidth(barWidth);
     m_bar->setTextVisible(false);
     m_cancel->setObjectName(QStringLiteral("checkCancelButton"));
@@ -37,8 +38,6 @@ CheckPanel::CheckPanel(QWidget* parent)
     m_close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     m_close->setAutoRaise(true);
     m_close->setFocusPolicy(Qt::TabFocus);
-    m_close->setAccessibleName(tr("Put this line away"));
-    m_close->setToolTip(m_close->accessibleName());
     QHBoxLayout* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     for (QWidget* part : std::initializer_list<QWidget*>{m_text, m_bar, m_cancel, m_button, m_close})
@@ -49,7 +48,17 @@ CheckPanel::CheckPanel(QWidget* parent)
         hide();
         emit pressed();
     });
+    setTranslated(this, [this] { retranslate(); });
     hide();
+}
+
+/// A line stays in the language in which it was said; progress says itself anew.
+void CheckPanel::retranslate()
+{
+    m_bar->setAccessibleName(tr("Cameras checked"));
+    m_cancel->setText(tr("Cance&l"));
+    m_close->setAccessibleName(tr("Put this line away"));
+    m_close->setToolTip(m_close->accessibleName());
 }
 
 void CheckPanel::showParts(bool isRunning)

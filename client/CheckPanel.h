@@ -1,6 +1,8 @@
 #ifndef KO_CHECKPANEL_H
 #define KO_CHECKPANEL_H
 
+#include "ko/TrContext.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -15,6 +17,7 @@ namespace ko {
 class CheckPanel : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(CheckPanel)
 
 public:
     explicit CheckPanel(QWidget* parent = nullptr);
@@ -29,6 +32,7 @@ signals:
     void pressed();
 
 private:
+    void retranslate();
     void showParts(bool isRunning);
 
     QLabel* const m_text;

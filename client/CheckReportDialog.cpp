@@ -7,6 +7,7 @@
 #include "exchange/ExportFile.h"
 #include "ko/dialogFlags.h"
 #include "utils/FileDialogs.h"
+#include "utils/Retranslation.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -37,15 +38,13 @@ CheckReportDialog::CheckReportDialog(const CheckReportModel::States& results,
     , m_view(new QTableView(this))
 {
     setObjectName(QStringLiteral("CheckReportDialog"));
-    setWindowTitle(tr("Cameras Checked"));
     setAttribute(Qt::WA_DeleteOnClose);
-    QLabel* summaryLabel = new QLabel(summary(skipped), this);
+    QLabel* summaryLabel = new QLabel(this);
     summaryLabel->setObjectName(QStringLiteral("summaryLabel"));
     summaryLabel->setTextFormat(Qt::PlainText);
     summaryLabel->setWordWrap(true);
 
     m_view->setObjectName(QStringLiteral("camerasTableView"));
-    m_view->setAccessibleName(tr("Cameras"));
     m_view->setModel(m_model);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setAlternatingRowColors(true);
@@ -60,7 +59,7 @@ CheckReportDialog::CheckReportDialog(const CheckReportModel::States& results,
             m_view->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
     }
 
-    QCheckBox* allCheckBox = new QCheckBox(tr("List also those that &answer"), this);
+    QCheckBox* allCheckBox = new QCheckBox(this);
     allCheckBox->setObjectName(QStringLiteral("allCheckBox"));
     connect(allCheckBox, &QCheckBox::toggled, m_model, &CheckReportModel::showAll);
     allCheckBox->setChecked(all);
@@ -68,6 +67,12 @@ CheckReportDialog::CheckReportDialog(const CheckReportModel::States& results,
     layout->addWidget(summaryLabel);
     layout->addWidget(m_view);
     layout->addWidget(allCheckBox);
+    setTranslated(this, [this, summaryLabel, allCheckBox, skipped] {
+        setWindowTitle(tr("Cameras Checked"));
+        summaryLabel->setText(summary(skipped));
+        m_view->setAccessibleName(tr("Cameras"));
+        allCheckBox->setText(tr("List also those that &answer"));
+    });
     addButtons();
     resizeWithinScreen(*this, QSize(980, 420));
 }
@@ -78,15 +83,16 @@ void CheckReportDialog::addButtons()
     const struct
     {
         const char* name;
-        QString text;
+        const char* text;
         void (CheckReportDialog::*run)();
     } actions[] = {
-        {"showButton", tr("S&how Them"), &CheckReportDialog::askForListed},
-        {"copyButton", tr("&Copy"), &CheckReportDialog::copy},
-        {"saveButton", tr("&Save As..."), &CheckReportDialog::save},
+        {"showButton", QT_TR_NOOP("S&how Them"), &CheckReportDialog::askForListed},
+        {"copyButton", QT_TR_NOOP("&Copy"), &CheckReportDialog::copy},
+        {"saveButton", QT_TR_NOOP("&Save As..."), &CheckReportDialog::save},
     };
     for (const auto& action : actions) {
-        QPushButton* button = buttons->addButton(action.text, QDialogButtonBox::ActionRole);
+        QPushButton* button = buttons->addButton(QString(), QDialogButtonBox::ActionRole);
+        setTranslated(button, [button, text = action.text] { button->setText(tr(text)); });
         button->setObjectName(QLatin1String(action.name));
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, action.run);
@@ -107,7 +113,7 @@ QString CheckReportDialog::summary(int skipped) const
         if (count > 0)
             counts.prepend(tr("%1: %2").arg(CameraStates::text(state), QLocale().toString(count)));
     }
-    QString summary = counts.join(QStringLiteral("; "));
+    QString summary = counts.join(tr("; ", "between the parts of a list"));
     if (skipped > 0)
         summary += QLatin1Char('\n') +
                    tr("%n node(s) left out, which are no devices or have no address.", nullptr, skipped);

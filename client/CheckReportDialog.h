@@ -2,6 +2,7 @@
 #define KO_CHECKREPORTDIALOG_H
 
 #include "CheckReportModel.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 
@@ -13,6 +14,7 @@ namespace ko {
 class CheckReportDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(CheckReportDialog)
 
 public:
     /// \a all: begins with all cameras instead of those in trouble.

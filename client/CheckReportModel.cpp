@@ -16,9 +16,9 @@ namespace {
 enum Column { NameColumn, AddressColumn, StateColumn, ReasonColumn, TimeColumn, ColumnCount };
 
 const char* const titles[] = {
-    QT_TRANSLATE_NOOP("ko::CheckReportModel", "Name"),  QT_TRANSLATE_NOOP("ko::CheckReportModel", "Address"),
-    QT_TRANSLATE_NOOP("ko::CheckReportModel", "State"), QT_TRANSLATE_NOOP("ko::CheckReportModel", "Reason"),
-    QT_TRANSLATE_NOOP("ko::CheckReportModel", "Time"),
+    QT_TRANSLATE_NOOP("CheckReportModel", "Name"),  QT_TRANSLATE_NOOP("CheckReportModel", "Address"),
+    QT_TRANSLATE_NOOP("CheckReportModel", "State"), QT_TRANSLATE_NOOP("CheckReportModel", "Reason"),
+    QT_TRANSLATE_NOOP("CheckReportModel", "Time"),
 };
 
 /// "Camera 2" before "Camera 10".

@@ -2,6 +2,7 @@
 #define KO_CHECKREPORTMODEL_H
 
 #include "CameraState.h"
+#include "ko/TrContext.h"
 
 #include "model/NodeData.h"
 
@@ -24,6 +25,7 @@ struct CheckedCamera
 class CheckReportModel : public QAbstractTableModel
 {
     Q_OBJECT
+    KO_TR_CONTEXT(CheckReportModel)
 
 public:
     typedef QHash<QString, CameraState> States; ///< by the identifier of the node

@@ -2,14 +2,19 @@
 
 #include "CameraChecking.h"
 #include "FillInDialog.h"
+#include "LanguageMenu.h"
 #include "MainWindow.h"
 #include "NodeCommands.h"
 #include "NodeListView.h"
 #include "WindowCommands.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+
+#include <algorithm>
+#include <utility>
 
 namespace ko {
 
@@ -39,89 +44,117 @@ struct Commands::Command
     void (*run)(MainWindow&);
 };
 
-#define KO_TEXT(text) QT_TRANSLATE_NOOP("ko::MainWindow", text)
-
 // The search field needs the room of the bar that the first commands of nodes leave.
 const Commands::Command Commands::all[] = {
-    {KO_TEXT("&File"), "actionImport", KO_TEXT("&Import..."),
-     KO_TEXT("Adds the cameras of a site survey (CSV)"), "", "document-open", Nothing, InMenu,
-     [](MainWindow& window) { window.importCameras(); }},
-    {KO_TEXT("&File"), "actionExport", KO_TEXT("&Export..."), KO_TEXT("Writes all cameras into a CSV file"),
-     "", "document-save-as", Nothing, InMenu, [](MainWindow& window) { window.exportCameras(); }},
-    {KO_TEXT("&File"), "actionExportSelected", KO_TEXT("Export &Selected..."),
-     KO_TEXT("Writes the selected cameras into a CSV file"), "", "", SomeNodes, InMenu,
-     [](MainWindow& window) { window.exportSelected(); }},
-    {KO_TEXT("&File"), "actionPreferences", KO_TEXT("&Preferences..."),
-     KO_TEXT("Default paths and the bandwidth"), "", "preferences-system", Nothing, AfterLine,
-     &WindowCommands::editPreferences},
-    {KO_TEXT("&File"), "actionQuit", KO_TEXT("&Quit"), KO_TEXT("Closes the program"), "Ctrl+Q",
-     "application-exit", Nothing, AfterLine, [](MainWindow& window) { window.close(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionImport", QT_TRANSLATE_NOOP("MainWindow", "&Import..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Adds the cameras of a site survey (CSV)"), "", "document-open", Nothing,
+     InMenu, [](MainWindow& window) { window.importCameras(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionExport", QT_TRANSLATE_NOOP("MainWindow", "&Export..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Writes all cameras into a CSV file"), "", "document-save-as", Nothing,
+     InMenu, [](MainWindow& window) { window.exportCameras(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionExportSelected",
+     QT_TRANSLATE_NOOP("MainWindow", "Export &Selected..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Writes the selected cameras into a CSV file"), "", "", SomeNodes,
+     InMenu, [](MainWindow& window) { window.exportSelected(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionPreferences",
+     QT_TRANSLATE_NOOP("MainWindow", "&Preferences..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Default paths and the bandwidth"), "", "preferences-system", Nothing,
+     AfterLine, &WindowCommands::editPreferences},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionQuit", QT_TRANSLATE_NOOP("MainWindow", "&Quit"),
+     QT_TRANSLATE_NOOP("MainWindow", "Closes the program"), "Ctrl+Q", "application-exit", Nothing, AfterLine,
+     [](MainWindow& window) { window.close(); }},
 
-    {KO_TEXT("&Node"), "actionAdd", KO_TEXT("&Add..."), KO_TEXT("Adds a node"), "Ctrl+N", "list-add", Nothing,
-     InList | InBar, &NodeCommands::add},
-    {KO_TEXT("&Node"), "actionEdit", KO_TEXT("&Edit..."), KO_TEXT("Changes the selected node"), "Ctrl+E; F2",
-     "document-edit", OneNode, InList | InBar, &NodeCommands::edit},
-    {KO_TEXT("&Node"), "actionRemove", KO_TEXT("&Remove..."), KO_TEXT("Removes the selected nodes"), "Del",
-     "list-remove", SomeNodes, InList | InBar, &NodeCommands::remove},
-    {KO_TEXT("&Node"), "actionProperties", KO_TEXT("&Properties"),
-     KO_TEXT("Shows the selected node without changing it"), "Alt+Return", "document-properties", OneNode,
-     InList | InBar, &NodeCommands::showProperties},
-    {KO_TEXT("&Node"), "actionCredentials", KO_TEXT("&User && Password..."),
-     KO_TEXT("Gives the selected devices one user name and password"), "Ctrl+U", "dialog-password", SomeNodes,
-     InList | AfterLine, &NodeCommands::editCredentials},
-    {KO_TEXT("&Node"), "actionRecording", KO_TEXT("Access Re&cordings..."),
-     KO_TEXT("Where the recordings of the selected cameras are played from"), "Ctrl+R", "folder-videos",
-     SomeNodes, InList, &NodeCommands::editRecording},
-    {KO_TEXT("&Node"), "actionFillIn", KO_TEXT("&Fill In..."),
-     KO_TEXT("Asks the selected devices what they are, and stores what you choose of it"), "", "", SomeNodes,
-     InList, [](MainWindow& window) { FillInDialog::run(window); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionAdd", QT_TRANSLATE_NOOP("MainWindow", "&Add..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Adds a node"), "Ctrl+N", "list-add", Nothing, InList | InBar,
+     &NodeCommands::add},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionEdit", QT_TRANSLATE_NOOP("MainWindow", "&Edit..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Changes the selected node"), "Ctrl+E; F2", "document-edit", OneNode,
+     InList | InBar, &NodeCommands::edit},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionRemove", QT_TRANSLATE_NOOP("MainWindow", "&Remove..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Removes the selected nodes"), "Del", "list-remove", SomeNodes,
+     InList | InBar, &NodeCommands::remove},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionProperties",
+     QT_TRANSLATE_NOOP("MainWindow", "&Properties"),
+     QT_TRANSLATE_NOOP("MainWindow", "Shows the selected node without changing it"), "Alt+Return",
+     "document-properties", OneNode, InList | InBar, &NodeCommands::showProperties},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionCredentials",
+     QT_TRANSLATE_NOOP("MainWindow", "&User && Password..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Gives the selected devices one user name and password"), "Ctrl+U",
+     "dialog-password", SomeNodes, InList | AfterLine, &NodeCommands::editCredentials},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionRecording",
+     QT_TRANSLATE_NOOP("MainWindow", "Access Re&cordings..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Where the recordings of the selected cameras are played from"),
+     "Ctrl+R", "folder-videos", SomeNodes, InList, &NodeCommands::editRecording},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionFillIn", QT_TRANSLATE_NOOP("MainWindow", "&Fill In..."),
+     QT_TRANSLATE_NOOP("MainWindow",
+                       "Asks the selected devices what they are, and stores what you choose of it"),
+     "", "", SomeNodes, InList, [](MainWindow& window) { FillInDialog::run(window); }},
 
-    {KO_TEXT("&Node"), "actionDuplicate", KO_TEXT("&Duplicate..."),
-     KO_TEXT("Adds a node that is like the selected one"), "Ctrl+D", "edit-copy", OneNode, InList | AfterLine,
-     &NodeCommands::duplicate},
-    {KO_TEXT("&Node"), "actionWebPage", KO_TEXT("Open &Web Page"),
-     KO_TEXT("Opens the page of the selected device in the browser"), "", "internet-web-browser", OneNode,
-     InList, &NodeCommands::openWebPage},
-    {KO_TEXT("&Node"), "actionCopyRows", KO_TEXT("Copy R&ows"),
-     KO_TEXT("Copies the selected rows for a spreadsheet"), "Ctrl+C", "edit-copy", SomeNodes, InList,
-     &NodeCommands::copyRows},
-    {KO_TEXT("&Node"), "actionCopyAddresses", KO_TEXT("Copy Addre&ss"),
-     KO_TEXT("Copies the addresses of the selected nodes"), "Ctrl+Shift+C", "", SomeNodes, InList,
-     &NodeCommands::copyAddresses},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionDuplicate",
+     QT_TRANSLATE_NOOP("MainWindow", "&Duplicate..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Adds a node that is like the selected one"), "Ctrl+D", "edit-copy",
+     OneNode, InList | AfterLine, &NodeCommands::duplicate},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionWebPage",
+     QT_TRANSLATE_NOOP("MainWindow", "Open &Web Page"),
+     QT_TRANSLATE_NOOP("MainWindow", "Opens the page of the selected device in the browser"), "",
+     "internet-web-browser", OneNode, InList, &NodeCommands::openWebPage},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionCopyRows",
+     QT_TRANSLATE_NOOP("MainWindow", "Copy R&ows"),
+     QT_TRANSLATE_NOOP("MainWindow", "Copies the selected rows for a spreadsheet"), "Ctrl+C", "edit-copy",
+     SomeNodes, InList, &NodeCommands::copyRows},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionCopyAddresses",
+     QT_TRANSLATE_NOOP("MainWindow", "Copy Addre&ss"),
+     QT_TRANSLATE_NOOP("MainWindow", "Copies the addresses of the selected nodes"), "Ctrl+Shift+C", "",
+     SomeNodes, InList, &NodeCommands::copyAddresses},
 
-    {KO_TEXT("Net&work"), "actionProxy", KO_TEXT("Network &Proxy..."),
-     KO_TEXT("The proxy server of the application"), "", "preferences-system-network", Nothing, InMenu,
-     &WindowCommands::editProxy},
-    {KO_TEXT("Net&work"), "actionEnvironments", KO_TEXT("&Environments..."),
-     KO_TEXT("The network environments"), "", "", Nothing, InMenu, &WindowCommands::editEnvironments},
-    {KO_TEXT("Net&work"), "actionOverview", KO_TEXT("&Find Devices..."),
-     KO_TEXT("Nodes that arrive while the network is scanned"), "", "edit-find", Nothing, InMenu,
-     &WindowCommands::findDevices},
-    {KO_TEXT("Net&work"), "actionAddressChanges", KO_TEXT("&Seen at a New Address..."),
-     KO_TEXT("Devices that a scan found at another address than they have here"), "", "", Nothing, InMenu,
-     &WindowCommands::showAddressChanges},
-    {KO_TEXT("Net&work"), "actionCheck", KO_TEXT("&Check Cameras"),
-     KO_TEXT("Asks the selected cameras, or all, who they are, and tries their passwords"), "F5",
-     "view-refresh", Nothing, InList | AfterLine, [](MainWindow& window) { window.checking().check(); }},
-    {KO_TEXT("Net&work"), "actionAcceptDevices", KO_TEXT("&Accept as This Camera..."),
-     KO_TEXT("Another device than before is this camera from now on"), "", "", SomeNodes, InList,
-     [](MainWindow& window) { window.checking().acceptDevices(); }},
-    {KO_TEXT("Net&work"), "actionAllowClearPasswords", KO_TEXT("A&llow Clear Password..."),
-     KO_TEXT("Cameras that take it in no other way are sent the password for all to read"), "", "", SomeNodes,
-     InList, [](MainWindow& window) { window.checking().allowClearPasswords(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionProxy",
+     QT_TRANSLATE_NOOP("MainWindow", "Network &Proxy..."),
+     QT_TRANSLATE_NOOP("MainWindow", "The proxy server of the application"), "", "preferences-system-network",
+     Nothing, InMenu, &WindowCommands::editProxy},
+    {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionEnvironments",
+     QT_TRANSLATE_NOOP("MainWindow", "&Environments..."),
+     QT_TRANSLATE_NOOP("MainWindow", "The network environments"), "", "", Nothing, InMenu,
+     &WindowCommands::editEnvironments},
+    {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionOverview",
+     QT_TRANSLATE_NOOP("MainWindow", "&Find Devices..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Nodes that arrive while the network is scanned"), "", "edit-find",
+     Nothing, InMenu, &WindowCommands::findDevices},
+    {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionAddressChanges",
+     QT_TRANSLATE_NOOP("MainWindow", "&Seen at a New Address..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Devices that a scan found at another address than they have here"), "",
+     "", Nothing, InMenu, &WindowCommands::showAddressChanges},
+    {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionCheck",
+     QT_TRANSLATE_NOOP("MainWindow", "&Check Cameras"),
+     QT_TRANSLATE_NOOP("MainWindow",
+                       "Asks the selected cameras, or all, who they are, and tries their passwords"),
+     "F5", "view-refresh", Nothing, InList | AfterLine,
+     [](MainWindow& window) { window.checking().check(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionAcceptDevices",
+     QT_TRANSLATE_NOOP("MainWindow", "&Accept as This Camera..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Another device than before is this camera from now on"), "", "",
+     SomeNodes, InList, [](MainWindow& window) { window.checking().acceptDevices(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionAllowClearPasswords",
+     QT_TRANSLATE_NOOP("MainWindow", "A&llow Clear Password..."),
+     QT_TRANSLATE_NOOP("MainWindow",
+                       "Cameras that take it in no other way are sent the password for all to read"),
+     "", "", SomeNodes, InList, [](MainWindow& window) { window.checking().allowClearPasswords(); }},
 
-    {KO_TEXT("&View"), "actionColumns", KO_TEXT("&Columns..."), KO_TEXT("Which columns the list has"), "", "",
-     Nothing, InMenu, [](MainWindow& window) { window.list().chooseColumns(); }},
-    {KO_TEXT("&View"), "actionAuditLog", KO_TEXT("&Audit Log..."), KO_TEXT("Who changed what, and when"),
-     "Ctrl+L", "view-history", Nothing, AfterLine, &WindowCommands::showAuditLog},
-    {KO_TEXT("&View"), "actionDatabase", KO_TEXT("Node &Database..."), KO_TEXT("Everything that is stored"),
-     "", "", Nothing, InMenu, &WindowCommands::showDatabase},
+    {QT_TRANSLATE_NOOP("MainWindow", "&View"), "actionColumns",
+     QT_TRANSLATE_NOOP("MainWindow", "&Columns..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Which columns the list has"), "", "", Nothing, InMenu,
+     [](MainWindow& window) { window.list().chooseColumns(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&View"), "actionAuditLog",
+     QT_TRANSLATE_NOOP("MainWindow", "&Audit Log..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Who changed what, and when"), "Ctrl+L", "view-history", Nothing,
+     AfterLine, &WindowCommands::showAuditLog},
+    {QT_TRANSLATE_NOOP("MainWindow", "&View"), "actionDatabase",
+     QT_TRANSLATE_NOOP("MainWindow", "Node &Database..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Everything that is stored"), "", "", Nothing, InMenu,
+     &WindowCommands::showDatabase},
 
-    {KO_TEXT("&Help"), "actionAbout", KO_TEXT("&About"), "", "", "help-about", Nothing, InMenu,
-     &WindowCommands::about},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Help"), "actionAbout", QT_TRANSLATE_NOOP("MainWindow", "&About"), "",
+     "", "help-about", Nothing, InMenu, &WindowCommands::about},
 };
-
-#undef KO_TEXT
 
 Commands::Commands(MainWindow& window)
     : QObject(&window)
@@ -130,8 +163,10 @@ Commands::Commands(MainWindow& window)
     QMenu* menu = nullptr;
     const char* title = "";
     for (const Command& command : all) {
-        if (qstrcmp(title, command.menu) != 0)
-            menu = window.menuBar()->addMenu(MainWindow::tr(command.menu));
+        if (qstrcmp(title, command.menu) != 0) {
+            menu = window.menuBar()->addMenu(QString());
+            m_menus.append({menu, command.menu});
+        }
         title = command.menu;
         if (command.places & AfterLine)
             menu->addSeparator();
@@ -141,15 +176,35 @@ Commands::Commands(MainWindow& window)
             window.list().addAction(action);
         m_actions.append(action);
     }
+    new LanguageMenu(*menuOf("actionColumns"), &window);
+    retranslate();
+}
+
+void Commands::retranslate()
+{
+    for (const Menu& menu : std::as_const(m_menus))
+        menu.menu->setTitle(MainWindow::tr(menu.title));
+    for (int i = 0; i < m_actions.size(); ++i) {
+        m_actions.at(i)->setText(MainWindow::tr(all[i].text));
+        if (*all[i].tip)
+            m_actions.at(i)->setStatusTip(MainWindow::tr(all[i].tip));
+    }
+}
+
+QMenu* Commands::menuOf(const char* name) const
+{
+    const auto found =
+        std::find_if(m_menus.begin(), m_menus.end(), [action = action(name)](const Menu& menu) {
+            return menu.menu->actions().contains(action);
+        });
+    Q_ASSERT(found != m_menus.end());
+    return found->menu;
 }
 
 QAction* Commands::createAction(const Command& command)
 {
-    QAction* action =
-        new QAction(QIcon::fromTheme(QLatin1String(command.icon)), MainWindow::tr(command.text), &m_window);
+    QAction* action = new QAction(QIcon::fromTheme(QLatin1String(command.icon)), QString(), &m_window);
     action->setObjectName(QLatin1String(command.name));
-    if (*command.tip)
-        action->setStatusTip(MainWindow::tr(command.tip));
     action->setShortcuts(QKeySequence::listFromString(QLatin1String(command.keys)));
     connect(action, &QAction::triggered, &m_window, [this, run = command.run] { run(m_window); });
     return action;

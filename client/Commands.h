@@ -24,6 +24,9 @@ public:
 
     void fill(QToolBar& bar) const;
 
+    /// Names everything in the language that the program has now.
+    void retranslate();
+
     /// Enables what can be done while so many nodes are selected.
     void setSelected(int nodes);
 
@@ -34,9 +37,17 @@ private:
     struct Command;
     static const Command all[];
 
+    struct Menu
+    {
+        QMenu* menu;
+        const char* title;
+    };
+
     QAction* createAction(const Command& command);
+    QMenu* menuOf(const char* name) const;
 
     MainWindow& m_window;
+    QVector<Menu> m_menus;
     QVector<QAction*> m_actions; ///< one for each command
 };
 

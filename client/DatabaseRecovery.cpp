@@ -35,10 +35,10 @@ struct Found
     QString saved() const { return salvage ? salvage->file() : QString(); }
 };
 
-QString translated(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("DatabaseRecovery", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(DatabaseRecovery)
+};
 
 QString timeOf(const QString& file, const QString& backup)
 {
@@ -54,15 +54,15 @@ QString offerText(const QString& file, const Found& found)
 {
     QStringList lines;
     lines.append(found.saved().isEmpty()
-                     ? translated("Nothing of it can be read.")
+                     ? Texts::tr("Nothing of it can be read.")
                      : QCoreApplication::translate("DatabaseRecovery", "%n node(s) of it can still be read.",
                                                    nullptr, int(found.salvage->nodeCount())));
     lines.append(found.backup.isEmpty()
-                     ? translated("There is no good backup.")
-                     : translated("The newest good backup was made at %1.").arg(timeOf(file, found.backup)));
+                     ? Texts::tr("There is no good backup.")
+                     : Texts::tr("The newest good backup was made at %1.").arg(timeOf(file, found.backup)));
     if (!found.saved().isEmpty() || !found.backup.isEmpty())
-        lines.append(translated("If you choose one of these, the damaged file is kept under another name. "
-                                "Otherwise nothing is changed."));
+        lines.append(Texts::tr("If you choose one of these, the damaged file is kept under another name. "
+                               "Otherwise nothing is changed."));
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -79,7 +79,7 @@ bool isDamaged(const QString& file, const StoreError& error)
 void doWhileShowing(const QString& text, QWidget* parent, const std::function<void()>& work)
 {
     QProgressDialog box(text, QString(), 0, 0, parent);
-    box.setWindowTitle(translated("Node Database"));
+    box.setWindowTitle(Texts::tr("Node Database"));
     box.setMinimumDuration(0);
     QEventLoop loop;
     const std::unique_ptr<QThread> thread(QThread::create(work));
@@ -93,12 +93,11 @@ void doWhileShowing(const QString& text, QWidget* parent, const std::function<vo
 Found lookFor(const QString& file, QWidget* parent)
 {
     Found found;
-    doWhileShowing(
-        translated("The node database is damaged. Looking for what can be read and for backups..."), parent,
-        [&] {
-            found.salvage = std::make_unique<Salvage>(file);
-            found.backup = StoreBackup::newestGood(file);
-        });
+    doWhileShowing(Texts::tr("The node database is damaged. Looking for what can be read and for backups..."),
+                   parent, [&] {
+                       found.salvage = std::make_unique<Salvage>(file);
+                       found.backup = StoreBackup::newestGood(file);
+                   });
     return found;
 }
 
@@ -122,7 +121,7 @@ Choice ask(PlainMessageBox& box, const QVector<Choice>& choices)
     for (const auto& each : buttons) {
         if (!choices.contains(each.choice))
             continue;
-        QPushButton* button = box.addButton(translated(each.text), each.role);
+        QPushButton* button = box.addButton(Texts::tr(each.text), each.role);
         chosen.insert(button, each.choice);
         if (each.choice == Quit)
             box.setEscapeButton(button);
@@ -137,19 +136,19 @@ QString damageText(StoreError::Kind kind)
 {
     switch (kind) {
     case StoreError::Damaged:
-        return translated("The node database \"%1\" is damaged.");
+        return Texts::tr("The node database \"%1\" is damaged.");
     case StoreError::OtherTables:
-        return translated("The tables of the node database \"%1\" were changed by another program.");
+        return Texts::tr("The tables of the node database \"%1\" were changed by another program.");
     case StoreError::Emptied:
-        return translated("The node database \"%1\" is empty or gone, although it held something.");
+        return Texts::tr("The node database \"%1\" is empty or gone, although it held something.");
     default:
-        return translated("The node database \"%1\" is damaged, or another file is in its place.");
+        return Texts::tr("The node database \"%1\" is damaged, or another file is in its place.");
     }
 }
 
 Choice askAboutDamage(const QString& file, const StoreError& error, const Found& found, QWidget* parent)
 {
-    PlainMessageBox box(QMessageBox::Critical, translated("Node Database"),
+    PlainMessageBox box(QMessageBox::Critical, Texts::tr("Node Database"),
                         damageText(error.kind).arg(QDir::toNativeSeparators(file)), QMessageBox::NoButton,
                         parent);
     box.setObjectName(QStringLiteral("recoveryBox"));
@@ -167,7 +166,7 @@ Choice askAboutDamage(const QString& file, const StoreError& error, const Found&
 
 Choice askAboutOthers(const StoreError& error, QWidget* parent)
 {
-    PlainMessageBox box(QMessageBox::Critical, translated("Node Database"), error.message,
+    PlainMessageBox box(QMessageBox::Critical, Texts::tr("Node Database"), error.message,
                         QMessageBox::NoButton, parent);
     box.setObjectName(QStringLiteral("notOpenedBox"));
     box.setDetailedText(error.detail);
@@ -177,8 +176,8 @@ Choice askAboutOthers(const StoreError& error, QWidget* parent)
 /// False if no file was chosen.
 bool chooseAnother(QString* file, QWidget* parent)
 {
-    const QString chosen = FileDialogs::fileOrNewName(parent, translated("Open Node Database"),
-                                                      translated("Node databases (*.kodb);;All files (*)"));
+    const QString chosen = FileDialogs::fileOrNewName(parent, Texts::tr("Open Node Database"),
+                                                      Texts::tr("Node databases (*.kodb);;All files (*)"));
     if (!chosen.isEmpty())
         *file = chosen;
     return !chosen.isEmpty();
@@ -188,14 +187,14 @@ void startAnew(const QString& file, QWidget* parent)
 {
     StoreError error;
     if (!StoreBackup::startAnew(file, &error))
-        PlainMessageBox::ask(QMessageBox::Critical, parent, translated("Node Database"), error.message);
+        PlainMessageBox::ask(QMessageBox::Critical, parent, Texts::tr("Node Database"), error.message);
 }
 
 void putInPlace(const QString& source, const QString& file, QWidget* parent)
 {
     StoreError error;
     if (!StoreBackup::restore(source, file, &error))
-        PlainMessageBox::ask(QMessageBox::Critical, parent, translated("Node Database"), error.message);
+        PlainMessageBox::ask(QMessageBox::Critical, parent, Texts::tr("Node Database"), error.message);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "InPortions.h"
 #include "devices/DeviceChecks.h"
 #include "devices/NodeFacts.h"
+#include "ko/TrContext.h"
 
 #include <QHash>
 #include <QStringList>
@@ -26,6 +27,7 @@ struct FillInRow
 class DeviceFilling : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(DeviceFilling)
 
 public:
     /// The database outlives it.

@@ -26,10 +26,10 @@ namespace DeviceSettings {
 
 namespace {
 
-QString translated(const char* text, int n = -1)
+struct Texts
 {
-    return QCoreApplication::translate("DeviceSettings", text, nullptr, n);
-}
+    Q_DECLARE_TR_FUNCTIONS(DeviceSettings)
+};
 
 /// These dialogs leave the audit log to whoever opens them.
 void logChanges(HostNodeDB& db, const QStringList& ids)
@@ -62,20 +62,21 @@ enum class Answer { Cancel, LeaveOut, All, Ask };
 /// What is to become of cameras that would get no folder of their own.
 Answer askAbout(const QStringList& names, bool areAll, QWidget* parent)
 {
-    PlainMessageBox box(QMessageBox::Warning, translated("Access Recordings"), QString(), QMessageBox::Cancel,
+    PlainMessageBox box(QMessageBox::Warning, Texts::tr("Access Recordings"), QString(), QMessageBox::Cancel,
                         parent);
     box.setObjectName(QStringLiteral("factoryAddressBox"));
     box.setText(
-        translated("The factory IP address of %n of the selected cameras is not known:", int(names.size())) +
+        Texts::tr("The factory IP address of %n of the selected cameras is not known:", nullptr,
+                  int(names.size())) +
         QStringLiteral("\n\n") + listOfNames(names) + QStringLiteral("\n\n") +
-        translated("Their recordings can be played via the camera. On a file server, however, the folder of "
-                   "a camera is named by this address: with the default path these cameras would share one "
-                   "folder without a name, with a specific path they would lose the path that they have. "
-                   "A camera that answers and takes its password tells what its folder can be named by."));
-    const QPushButton* ask = box.addButton(translated("As&k the Cameras..."), QMessageBox::ActionRole);
+        Texts::tr("Their recordings can be played via the camera. On a file server, however, the folder of "
+                  "a camera is named by this address: with the default path these cameras would share one "
+                  "folder without a name, with a specific path they would lose the path that they have. "
+                  "A camera that answers and takes its password tells what its folder can be named by."));
+    const QPushButton* ask = box.addButton(Texts::tr("As&k the Cameras..."), QMessageBox::ActionRole);
     QPushButton* leaveOut =
-        areAll ? nullptr : box.addButton(translated("&Leave Them Out"), QMessageBox::AcceptRole);
-    const QPushButton* all = box.addButton(translated("Go On With &All"), QMessageBox::DestructiveRole);
+        areAll ? nullptr : box.addButton(Texts::tr("&Leave Them Out"), QMessageBox::AcceptRole);
+    const QPushButton* all = box.addButton(Texts::tr("Go On With &All"), QMessageBox::DestructiveRole);
     box.setDefaultButton(leaveOut ? leaveOut : qobject_cast<QPushButton*>(box.button(QMessageBox::Cancel)));
     box.setEscapeButton(QMessageBox::Cancel);
     box.exec();
@@ -120,19 +121,19 @@ bool agreeOnCredentials(const HostNodeDB& db, const QStringList& devices, QWidge
     }
     if (users.size() <= 1 && passwords.size() <= 1)
         return true;
-    PlainMessageBox box(QMessageBox::Warning, translated("User & Password"), QString(), QMessageBox::Cancel,
+    PlainMessageBox box(QMessageBox::Warning, Texts::tr("User & Password"), QString(), QMessageBox::Cancel,
                         parent);
     box.setObjectName(QStringLiteral("credentialsBox"));
-    box.setText(translated("The %n selected devices do not have the same user name and password: there are "
-                           "%1 user names and %2 passwords.",
-                           int(devices.size()))
+    box.setText(Texts::tr("The %n selected devices do not have the same user name and password: there are "
+                          "%1 user names and %2 passwords.",
+                          nullptr, int(devices.size()))
                     .arg(users.size())
                     .arg(passwords.size()) +
                 QStringLiteral("\n\n") +
-                translated("The next window begins with those of the first device, and gives all of them "
-                           "what it shows when you press OK:") +
+                Texts::tr("The next window begins with those of the first device, and gives all of them "
+                          "what it shows when you press OK:") +
                 QStringLiteral("\n\n") + listOfNames(namesOf(db, devices)));
-    const QPushButton* go = box.addButton(translated("&Give All the Same..."), QMessageBox::AcceptRole);
+    const QPushButton* go = box.addButton(Texts::tr("&Give All the Same..."), QMessageBox::AcceptRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.setEscapeButton(QMessageBox::Cancel);
     box.exec();
@@ -146,7 +147,7 @@ QString editRecordings(HostNodeDB& db, const QStringList& devices, QWidget* pare
     std::copy_if(devices.begin(), devices.end(), std::back_inserter(cameras),
                  [&db](const QString& id) { return db.summary(id).type == IPDeviceType; });
     if (cameras.isEmpty())
-        return translated("Only IP devices can be set together. Select one of the others at a time.");
+        return Texts::tr("Only IP devices can be set together. Select one of the others at a time.");
     if (!agreeOnCameras(db, &cameras, parent))
         return QString();
     RecordingFolderMassAssignmentDialog dialog(parent, cameras, dialogFlags(false));
@@ -154,9 +155,9 @@ QString editRecordings(HostNodeDB& db, const QStringList& devices, QWidget* pare
         return QString();
     logChanges(db, cameras);
     const int others = int(devices.size() - cameras.size());
-    QString done = translated("%n device(s): access to recordings set.", int(cameras.size()));
+    QString done = Texts::tr("%n device(s): access to recordings set.", nullptr, int(cameras.size()));
     if (others > 0)
-        done += QLatin1Char(' ') + translated("%n left as they were.", others);
+        done += QLatin1Char(' ') + Texts::tr("%n left as they were.", nullptr, others);
     return done;
 }
 
@@ -171,7 +172,7 @@ QString editRecording(HostNodeDB& db, const QStringList& devices, QWidget* paren
     if (dialog.exec() != QDialog::Accepted)
         return QString();
     logChanges(db, devices);
-    return translated("%n device(s): access to recordings set.", 1);
+    return Texts::tr("%n device(s): access to recordings set.", nullptr, 1);
 }
 
 QString editCredentials(HostNodeDB& db, const QStringList& devices, QWidget* parent)
@@ -182,7 +183,7 @@ QString editCredentials(HostNodeDB& db, const QStringList& devices, QWidget* par
     if (dialog.exec() != QDialog::Accepted)
         return QString();
     logChanges(db, devices);
-    return translated("%n device(s): user name and password set.", int(devices.size()));
+    return Texts::tr("%n device(s): user name and password set.", nullptr, int(devices.size()));
 }
 
 } // namespace DeviceSettings

@@ -1,5 +1,7 @@
 #include "EmptyState.h"
 
+#include "utils/Retranslation.h"
+
 #include <QAction>
 #include <QGridLayout>
 #include <QLabel>
@@ -11,7 +13,7 @@ namespace ko {
 EmptyState::EmptyState(QWidget* area)
     : QWidget(area)
     , m_text(new QLabel(this))
-    , m_showAll(new QPushButton(tr("Show All Nodes"), this))
+    , m_showAll(new QPushButton(this))
 {
     setObjectName(QStringLiteral("emptyState"));
     m_text->setObjectName(QStringLiteral("emptyTextLabel"));
@@ -24,22 +26,30 @@ EmptyState::EmptyState(QWidget* area)
     QGridLayout* middle = new QGridLayout(area);
     middle->addWidget(this, 0, 0, Qt::AlignCenter);
     hide();
+    setTranslated(this, [this] {
+        m_showAll->setText(tr("Show All Nodes"));
+        for (const Way& way : std::as_const(m_ways))
+            way.button->setText(tr(way.text));
+        setCounts(m_nodes, m_shown);
+    });
 }
 
-void EmptyState::addWay(QAction* action, const QString& text)
+void EmptyState::addWay(QAction* action, const char* text)
 {
-    QPushButton* button = new QPushButton(action->icon(), text, this);
+    QPushButton* button = new QPushButton(action->icon(), tr(text), this);
     button->setObjectName(action->objectName() + QStringLiteral("Button"));
     connect(button, &QPushButton::clicked, action, &QAction::trigger);
     layout()->addWidget(button);
-    m_ways.append(button);
+    m_ways.append({button, text});
 }
 
 void EmptyState::setCounts(int nodes, int shown)
 {
+    m_nodes = nodes;
+    m_shown = shown;
     m_text->setText(nodes == 0 ? tr("There is nothing in this database yet.") : tr("No node is like that."));
-    for (QPushButton* button : std::as_const(m_ways))
-        button->setVisible(nodes == 0);
+    for (const Way& way : std::as_const(m_ways))
+        way.button->setVisible(nodes == 0);
     m_showAll->setVisible(nodes > 0);
     setVisible(shown == 0);
 }

@@ -1,6 +1,8 @@
 #ifndef KO_EMPTYSTATE_H
 #define KO_EMPTYSTATE_H
 
+#include "ko/TrContext.h"
+
 #include <QWidget>
 
 class QAction;
@@ -13,13 +15,14 @@ namespace ko {
 class EmptyState : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(EmptyState)
 
 public:
     /// Lies in the middle of \a area, which gets a layout for it.
     explicit EmptyState(QWidget* area);
 
-    /// A button for what brings nodes.
-    void addWay(QAction* action, const QString& text);
+    /// A button for what brings nodes. The text, a constant, is translated here.
+    void addWay(QAction* action, const char* text);
 
     /// Hides itself when there are rows to show.
     void setCounts(int nodes, int shown);
@@ -29,9 +32,17 @@ signals:
     void showAll();
 
 private:
+    struct Way
+    {
+        QPushButton* button;
+        const char* text;
+    };
+
     QLabel* const m_text;
-    QList<QPushButton*> m_ways; ///< while there are no nodes at all
+    QList<Way> m_ways; ///< while there are no nodes at all
     QPushButton* const m_showAll;
+    int m_nodes = 0;
+    int m_shown = 1; ///< as if there were rows, until the counts are known
 };
 
 } // namespace ko

@@ -2,6 +2,7 @@
 
 #include "database/HostNodeDB.h"
 #include "ko/Environments.h"
+#include "utils/Retranslation.h"
 
 #include <QDialog>
 #include <QStatusBar>
@@ -23,6 +24,7 @@ EnvironmentNotice::EnvironmentNotice(HostNodeDB& db, QStatusBar* statusBar)
     hide();
     statusBar->addPermanentWidget(this);
     connect(this, &QPushButton::clicked, this, &EnvironmentNotice::switchBack);
+    onLanguageChange(this, [this] { showText(); });
 }
 
 int EnvironmentNotice::exec(QDialog& dialog)
@@ -44,8 +46,13 @@ void EnvironmentNotice::offer(const QString& previous)
     if (name.isEmpty())
         return; // it was removed meanwhile
     m_previous = previous;
-    setText(tr("Back to \"%1\"").arg(QString(name).replace(QLatin1Char('&'), QLatin1String("&&"))));
+    showText();
     show();
+}
+
+void EnvironmentNotice::showText()
+{
+    setText(tr("Back to \"%1\"").arg(nameOf(m_previous).replace(QLatin1Char('&'), QLatin1String("&&"))));
 }
 
 void EnvironmentNotice::switchBack()

@@ -1,6 +1,8 @@
 #ifndef KO_ENVIRONMENTNOTICE_H
 #define KO_ENVIRONMENTNOTICE_H
 
+#include "ko/TrContext.h"
+
 #include <QPushButton>
 
 class QDialog;
@@ -18,6 +20,7 @@ class HostNodeDB;
 class EnvironmentNotice : public QPushButton
 {
     Q_OBJECT
+    KO_TR_CONTEXT(EnvironmentNotice)
 
 public:
     EnvironmentNotice(HostNodeDB& db, QStatusBar* statusBar);
@@ -27,6 +30,7 @@ public:
 
 private:
     void offer(const QString& previous);
+    void showText();
     void switchBack();
     QString nameOf(const QString& environment) const;
 

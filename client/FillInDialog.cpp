@@ -5,6 +5,7 @@
 #include "NodeCommands.h"
 #include "WindowSize.h"
 #include "ko/dialogFlags.h"
+#include "utils/Retranslation.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -38,14 +39,12 @@ FillInDialog::FillInDialog(HostNodeDB& db, const QStringList& devices, QWidget* 
     , m_hint(wrapped("hintLabel", this))
     , m_progress(new QProgressBar(this))
     , m_table(new QTableView(this))
-    , m_replace(new QCheckBox(tr("&Replace also what may have been entered by hand"), this))
+    , m_replace(new QCheckBox(this))
     , m_silent(wrapped("silentLabel", this))
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
     setObjectName(QStringLiteral("FillInDialog"));
-    setWindowTitle(tr("Fill In"));
     m_progress->setObjectName(QStringLiteral("progressBar"));
-    m_progress->setAccessibleName(tr("Devices that were asked"));
     m_replace->setObjectName(QStringLiteral("replaceCheckBox"));
     createTable();
     QVBoxLayout* layout = new QVBoxLayout(this);
@@ -65,13 +64,24 @@ FillInDialog::FillInDialog(HostNodeDB& db, const QStringList& devices, QWidget* 
     connect(&m_filling, &DeviceFilling::progressed, this, &FillInDialog::showProgress);
     connect(&m_filling, &DeviceFilling::finished, this, &FillInDialog::showTold);
     m_filling.ask(devices);
-    showProgress();
+    setTranslated(this, [this] { retranslate(); });
+}
+
+void FillInDialog::retranslate()
+{
+    setWindowTitle(tr("Fill In"));
+    m_replace->setText(tr("&Replace also what may have been entered by hand"));
+    m_progress->setAccessibleName(tr("Devices that were asked"));
+    m_table->setAccessibleName(tr("What the devices told"));
+    if (m_isTold)
+        showWords();
+    else
+        showProgress();
 }
 
 void FillInDialog::createTable()
 {
     m_table->setObjectName(QStringLiteral("factsTableView"));
-    m_table->setAccessibleName(tr("What the devices told"));
     m_table->setModel(&m_model);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false); // Tab leaves the table
@@ -92,23 +102,29 @@ void FillInDialog::showProgress()
 
 void FillInDialog::showTold()
 {
+    m_isTold = true;
     m_progress->hide();
     m_model.setRows(m_filling.rows());
     const QVector<FillInRow>& rows = m_model.rows();
-    m_hint->setText(
-        rows.isEmpty()
-            ? tr("There is nothing to fill in.")
-            : tr("This is what the devices tell and what is not stored yet. OK stores what is ticked."));
+    showWords();
     m_replace->setEnabled(
         std::any_of(rows.cbegin(), rows.cend(), [](const FillInRow& row) { return row.fact.isSet; }));
     m_table->resizeColumnsToContents();
-    const QStringList silent = m_filling.silent();
-    m_silent->setVisible(!silent.isEmpty());
-    m_silent->setText(tr("%n device(s) told nothing:", nullptr, int(silent.size())) + QLatin1Char('\n') +
-                      listOfNames(silent));
+    m_silent->setVisible(!m_filling.silent().isEmpty());
     enableOk();
     m_table->setFocus();
     m_table->setCurrentIndex(m_model.index(0, FillInModel::CameraColumn)); // where Space ticks
+}
+
+void FillInDialog::showWords()
+{
+    m_hint->setText(
+        m_model.rows().isEmpty()
+            ? tr("There is nothing to fill in.")
+            : tr("This is what the devices tell and what is not stored yet. OK stores what is ticked."));
+    const QStringList silent = m_filling.silent();
+    m_silent->setText(tr("%n device(s) told nothing:", nullptr, int(silent.size())) + QLatin1Char('\n') +
+                      listOfNames(silent));
 }
 
 void FillInDialog::enableOk()

@@ -2,6 +2,7 @@
 #define KO_FILLINDIALOG_H
 
 #include "FillInModel.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 
@@ -20,6 +21,7 @@ class MainWindow;
 class FillInDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(FillInDialog)
 
 public:
     FillInDialog(HostNodeDB& db, const QStringList& devices, QWidget* parent);
@@ -37,6 +39,8 @@ public:
 
 private:
     void createTable();
+    void retranslate();
+    void showWords();
     void showProgress();
     void showTold();
     void enableOk();
@@ -49,6 +53,7 @@ private:
     QCheckBox* const m_replace;
     QLabel* const m_silent;
     QDialogButtonBox* const m_buttons;
+    bool m_isTold = false;
     int m_changed = 0;
 };
 

@@ -2,6 +2,7 @@
 #define KO_FILLINMODEL_H
 
 #include "DeviceFilling.h"
+#include "ko/TrContext.h"
 
 #include <QAbstractTableModel>
 
@@ -11,6 +12,7 @@ namespace ko {
 class FillInModel : public QAbstractTableModel
 {
     Q_OBJECT
+    KO_TR_CONTEXT(FillInModel)
 
 public:
     enum Column { CameraColumn, WhatColumn, NowColumn, ThenColumn, ColumnCount };

@@ -2,6 +2,7 @@
 #define KO_IMPORTREPORTDIALOG_H
 
 #include "exchange/CameraSurvey.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 
@@ -11,6 +12,7 @@ namespace ko {
 class ImportReportDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(ImportReportDialog)
 
 public:
     explicit ImportReportDialog(const CameraSurvey::ImportResult& result, QWidget* parent = nullptr);

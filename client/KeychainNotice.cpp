@@ -11,10 +11,10 @@ namespace ko {
 
 namespace {
 
-QString translated(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("KeychainNotice", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(KeychainNotice)
+};
 
 } // namespace
 
@@ -41,19 +41,19 @@ bool KeychainNotice::begin(const std::function<void()>& giveUp)
 {
     if (m_way == Way::Line) {
         std::fprintf(stderr, "%s\n",
-                     qPrintable(translated("Waiting for the keychain. Unlock it if it asks for that.")));
+                     qPrintable(Texts::tr("Waiting for the keychain. Unlock it if it asks for that.")));
         return false;
     }
-    m_box = std::make_unique<QMessageBox>(QMessageBox::Information, translated("Keychain"),
-                                          translated("Waiting for your keychain."), QMessageBox::NoButton,
+    m_box = std::make_unique<QMessageBox>(QMessageBox::Information, Texts::tr("Keychain"),
+                                          Texts::tr("Waiting for your keychain."), QMessageBox::NoButton,
                                           QApplication::activeWindow());
     m_box->setObjectName(QStringLiteral("keychainBox"));
     m_box->setTextFormat(Qt::PlainText);
     m_box->setInformativeText(
-        translated("It has the key of the stored passwords. Unlock it if it asks for that.\n\n"
-                   "Without the key, stored passwords are shown empty and new ones cannot be stored."));
-    QPushButton* goOn = m_box->addButton(translated("&Continue Without Passwords"), QMessageBox::AcceptRole);
-    QPushButton* quit = m_starting ? m_box->addButton(translated("&Quit"), QMessageBox::RejectRole) : nullptr;
+        Texts::tr("It has the key of the stored passwords. Unlock it if it asks for that.\n\n"
+                  "Without the key, stored passwords are shown empty and new ones cannot be stored."));
+    QPushButton* goOn = m_box->addButton(Texts::tr("&Continue Without Passwords"), QMessageBox::AcceptRole);
+    QPushButton* quit = m_starting ? m_box->addButton(Texts::tr("&Quit"), QMessageBox::RejectRole) : nullptr;
     m_box->setEscapeButton(quit ? quit : goOn);
     QObject::connect(m_box.get(), &QDialog::finished, m_box.get(), [this, giveUp, quit] {
         m_quit = quit && m_box->clickedButton() == quit;

@@ -15,9 +15,9 @@ namespace ko {
 namespace {
 
 const char* const titles[] = {
-    QT_TRANSLATE_NOOP("ko::NodeListModel", "Name"),    QT_TRANSLATE_NOOP("ko::NodeListModel", "Type"),
-    QT_TRANSLATE_NOOP("ko::NodeListModel", "Address"), QT_TRANSLATE_NOOP("ko::NodeListModel", "Recording"),
-    QT_TRANSLATE_NOOP("ko::NodeListModel", "State"),
+    QT_TRANSLATE_NOOP("NodeListModel", "Name"),    QT_TRANSLATE_NOOP("NodeListModel", "Type"),
+    QT_TRANSLATE_NOOP("NodeListModel", "Address"), QT_TRANSLATE_NOOP("NodeListModel", "Recording"),
+    QT_TRANSLATE_NOOP("NodeListModel", "State"),
 };
 
 const struct
@@ -25,13 +25,13 @@ const struct
     QLatin1String key;
     const char* title;
 } known[] = {
-    {PropertyKeys::Model, QT_TRANSLATE_NOOP("ko::NodeListModel", "Model")},
-    {PropertyKeys::Version, QT_TRANSLATE_NOOP("ko::NodeListModel", "Version")},
-    {PropertyKeys::MacAddress, QT_TRANSLATE_NOOP("ko::NodeListModel", "MAC")},
-    {PropertyKeys::Port, QT_TRANSLATE_NOOP("ko::NodeListModel", "Port")},
-    {PropertyKeys::UseSSL, QT_TRANSLATE_NOOP("ko::NodeListModel", "SSL")},
-    {PropertyKeys::User, QT_TRANSLATE_NOOP("ko::NodeListModel", "User")},
-    {PropertyKeys::Channel, QT_TRANSLATE_NOOP("ko::NodeListModel", "Channel")},
+    {PropertyKeys::Model, QT_TRANSLATE_NOOP("NodeListModel", "Model")},
+    {PropertyKeys::Version, QT_TRANSLATE_NOOP("NodeListModel", "Version")},
+    {PropertyKeys::MacAddress, QT_TRANSLATE_NOOP("NodeListModel", "MAC")},
+    {PropertyKeys::Port, QT_TRANSLATE_NOOP("NodeListModel", "Port")},
+    {PropertyKeys::UseSSL, QT_TRANSLATE_NOOP("NodeListModel", "SSL")},
+    {PropertyKeys::User, QT_TRANSLATE_NOOP("NodeListModel", "User")},
+    {PropertyKeys::Channel, QT_TRANSLATE_NOOP("NodeListModel", "Channel")},
 };
 
 /// Rows are one line high; a name may hold line breaks.
@@ -44,8 +44,13 @@ QString inOneLine(QString text)
 
 ListColumns::ListColumns(RecordingText recordingText)
     : m_recordingText(std::move(recordingText))
-    , m_properties(propertyColumns())
 {
+    retranslate();
+}
+
+void ListColumns::retranslate()
+{
+    m_properties = propertyColumns();
     for (const DeviceReport::State state : CameraStates::all())
         m_stateTexts.insert(state, CameraStates::text(state));
 }

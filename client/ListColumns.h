@@ -38,6 +38,9 @@ public:
     bool hasStates() const { return !m_states.isEmpty(); }
     void setState(const QString& id, const CameraState& state);
 
+    /// The texts that are made once, in the language that the program has now.
+    void retranslate();
+
     // Columns of properties.
     QString key(int column) const; ///< of the property; empty for another column
     bool isFilled(int column) const { return m_texts.contains(column); }
@@ -61,7 +64,7 @@ private:
     const PropertyColumn* propertyColumn(int column) const;
 
     const RecordingText m_recordingText;
-    const QVector<PropertyColumn> m_properties;
+    QVector<PropertyColumn> m_properties;
     QHash<int, QString> m_stateTexts; ///< made once: a list of many cameras wants each often
     QHash<QString, CameraState> m_states;
     QHash<int, Texts> m_texts; ///< of the columns that are filled

@@ -20,6 +20,7 @@
 #include "discovery/DeviceIntake.h"
 #include "discovery/Scanners.h"
 #include "drivers/NodeTypes.h"
+#include "utils/Retranslation.h"
 #include "utils/WindowTitle.h"
 
 #include <QAction>
@@ -66,7 +67,9 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_view(new NodeListView(this))
     , m_properties(new PropertyColumns(db, *m_model, *m_view, this))
     , m_search(new QLineEdit(this))
+    , m_typesLabel(new QLabel(this))
     , m_types(new QComboBox(this))
+    , m_toolBar(new QToolBar(this))
     , m_empty(new EmptyState(m_view->viewport()))
     , m_counts(new QLabel(this))
     , m_commands(new Commands(*this))
@@ -76,7 +79,6 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_store(new StoreNotice(db, this))
 {
     setObjectName(QStringLiteral("MainWindow"));
-    setWindowTitle(tr("%1 - Nodes").arg(inWindowTitle(QFileInfo(db.fileName()).fileName())));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
     registerNodeLogEntries();
     new WheelGuard(this);
@@ -101,11 +103,33 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
 
     restoreState();
     updateCommands();
-    updateStatus();
+    setTranslated(this, [this] { retranslate(); });
     m_view->setFocus();
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::retranslate()
+{
+    setWindowTitle(tr("%1 - Nodes").arg(inWindowTitle(QFileInfo(m_db.fileName()).fileName())));
+    m_search->setPlaceholderText(tr("Search (Ctrl+F)"));
+    m_search->setToolTip(
+        tr("Words in any column; \"type:camera\" looks in one, \"state:wrong|locked\" for either, "
+           "\"-yard\" leaves out"));
+    m_search->setAccessibleName(tr("Search"));
+    m_types->setAccessibleName(tr("Type"));
+    m_types->setItemText(0, tr("All types"));
+    for (int i = 1; i < m_types->count(); ++i)
+        m_types->setItemText(i, m_db.readableNodeTypeName(ENodeType(m_types->itemData(i).toInt())));
+    m_typesLabel->setText(tr(" T&ype: "));
+    m_toolBar->setWindowTitle(tr("Nodes"));
+    m_commands->retranslate();
+    m_model->retranslate();
+    m_model->setSearch(m_search->text()); // whose words name columns
+    m_view->retranslate();
+    m_properties->retranslate();
+    updateStatus();
+}
 
 void MainWindow::createList()
 {
@@ -123,21 +147,18 @@ void MainWindow::createList()
 
 void MainWindow::createEmptyState()
 {
-    m_empty->addWay(m_commands->action("actionImport"), tr("Import a List of Cameras..."));
-    m_empty->addWay(m_commands->action("actionOverview"), tr("Find Devices in the Network..."));
-    m_empty->addWay(m_commands->action("actionAdd"), tr("Add a Camera..."));
+    m_empty->addWay(m_commands->action("actionImport"),
+                    QT_TRANSLATE_NOOP("EmptyState", "Import a List of Cameras..."));
+    m_empty->addWay(m_commands->action("actionOverview"),
+                    QT_TRANSLATE_NOOP("EmptyState", "Find Devices in the Network..."));
+    m_empty->addWay(m_commands->action("actionAdd"), QT_TRANSLATE_NOOP("EmptyState", "Add a Camera..."));
     connect(m_empty, &EmptyState::showAll, this, [this] { find(QString()); });
 }
 
 void MainWindow::createSearch()
 {
     m_search->setObjectName(QStringLiteral("searchLineEdit"));
-    m_search->setPlaceholderText(tr("Search (Ctrl+F)"));
     m_search->setClearButtonEnabled(true);
-    m_search->setToolTip(
-        tr("Words in any column; \"type:camera\" looks in one, \"state:wrong|locked\" for either, "
-           "\"-yard\" leaves out"));
-    m_search->setAccessibleName(tr("Search"));
     connect(m_search, &QLineEdit::textChanged, m_properties, &PropertyColumns::setSearch);
     connect(m_search, &QLineEdit::textChanged, m_model, &NodeListModel::setSearch);
     QAction* clear = new QAction(m_search);
@@ -164,8 +185,7 @@ void MainWindow::createSearch()
 void MainWindow::createTypes()
 {
     m_types->setObjectName(QStringLiteral("typeComboBox"));
-    m_types->setAccessibleName(tr("Type"));
-    m_types->addItem(tr("All types"), int(AllNodeTypes));
+    m_types->addItem(QString(), int(AllNodeTypes));
     const QList<ENodeType> all = NodeTypes::all();
     const NodeDB::TypeNames types = m_db.readableNodeTypeNames(&all, true);
     for (const auto& type : types)
@@ -176,17 +196,16 @@ void MainWindow::createTypes()
 
 void MainWindow::createToolBar()
 {
-    QToolBar* bar = addToolBar(tr("Nodes"));
-    bar->setObjectName(QStringLiteral("toolBar"));
-    bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_commands->fill(*bar);
-    bar->addSeparator();
-    bar->addWidget(m_search);
-    QLabel* typesLabel = new QLabel(tr(" T&ype: "), this); // by which a screen reader names the box
-    typesLabel->setBuddy(m_types);
-    bar->addWidget(typesLabel);
-    bar->addWidget(m_types);
+    addToolBar(m_toolBar);
+    m_toolBar->setObjectName(QStringLiteral("toolBar"));
+    m_toolBar->setMovable(false);
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_commands->fill(*m_toolBar);
+    m_toolBar->addSeparator();
+    m_toolBar->addWidget(m_search);
+    m_typesLabel->setBuddy(m_types); // by which a screen reader names the box
+    m_toolBar->addWidget(m_typesLabel);
+    m_toolBar->addWidget(m_types);
 }
 
 void MainWindow::nodeChanged(const NodeID& id)

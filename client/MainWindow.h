@@ -1,6 +1,7 @@
 #ifndef KO_MAINWINDOW_H
 #define KO_MAINWINDOW_H
 
+#include "ko/TrContext.h"
 #include "model/NodeData.h"
 
 #include <QMainWindow>
@@ -10,6 +11,7 @@ class QComboBox;
 class QDialog;
 class QLabel;
 class QLineEdit;
+class QToolBar;
 
 namespace ko {
 
@@ -28,6 +30,7 @@ class SurveyCommands;
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
+    KO_TR_CONTEXT(MainWindow)
 
 public:
     /// The database outlives the window.
@@ -58,6 +61,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void retranslate();
     void createList();
     void createEmptyState();
     void createSearch();
@@ -75,7 +79,9 @@ private:
     NodeListView* const m_view;
     PropertyColumns* const m_properties;
     QLineEdit* const m_search;
+    QLabel* const m_typesLabel;
     QComboBox* const m_types;
+    QToolBar* const m_toolBar;
     EmptyState* const m_empty;
     QLabel* const m_counts;
     Commands* const m_commands;

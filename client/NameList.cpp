@@ -10,10 +10,10 @@ namespace {
 
 const int namedAtMost = 10;
 
-QString translated(const char* text, int n = -1)
+struct Texts
 {
-    return QCoreApplication::translate("NameList", text, nullptr, n);
-}
+    Q_DECLARE_TR_FUNCTIONS(NameList)
+};
 
 } // namespace
 
@@ -23,10 +23,10 @@ QString listOfNames(const QStringList& names)
     const QStringList named = names.mid(0, namedAtMost);
     for (const QString& name : named)
         lines.append(QStringLiteral("    ") +
-                     (name.isEmpty() ? translated("(unnamed)") : OutsideText::visible(name)));
+                     (name.isEmpty() ? Texts::tr("(unnamed)") : OutsideText::visible(name)));
     const int more = int(names.size()) - namedAtMost;
     if (more > 0)
-        lines.append(QStringLiteral("    ") + translated("and %n more", more));
+        lines.append(QStringLiteral("    ") + Texts::tr("and %n more", nullptr, more));
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -205,6 +205,14 @@ void NodeListModel::textsChanged(int column)
         emit dataChanged(index(0, column), index(int(m_shown.size()) - 1, column));
 }
 
+void NodeListModel::retranslate()
+{
+    m_columns.retranslate();
+    for (const int column : {TypeColumn, RecordingColumn, StateColumn})
+        textsChanged(column);
+    emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
 void NodeListModel::fill(int column, const ListColumns::Texts& texts)
 {
     m_columns.fill(column, texts);
@@ -319,16 +327,6 @@ QItemSelection NodeListModel::marked() const
         first = std::find_if(end, m_shown.end(), isMarked);
     }
     return selection;
-}
-
-int NodeListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : int(m_shown.size());
-}
-
-int NodeListModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : m_columns.count();
 }
 
 QVariant NodeListModel::data(const QModelIndex& index, int role) const

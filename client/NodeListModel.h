@@ -3,6 +3,7 @@
 
 #include "ListColumns.h"
 #include "NodeEntries.h"
+#include "ko/TrContext.h"
 
 #include <QAbstractTableModel>
 #include <QBasicTimer>
@@ -15,6 +16,7 @@ namespace ko {
 class NodeListModel : public QAbstractTableModel
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NodeListModel)
 
 public:
     enum Column {
@@ -43,6 +45,9 @@ public:
     CameraState stateOf(const QString& id) const;
 
     const ListColumns& columns() const { return m_columns; }
+
+    /// Takes its texts, and those that the columns name, in the language that the program has now.
+    void retranslate();
 
     /// The same identifier, in the memory that it has here already if the node is there.
     QString knownId(const QString& id) const;
@@ -74,8 +79,14 @@ public:
     /// The marked nodes among those that are shown.
     QItemSelection marked() const;
 
-    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
-    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override
+    {
+        return parent.isValid() ? 0 : int(m_shown.size());
+    }
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override
+    {
+        return parent.isValid() ? 0 : m_columns.count();
+    }
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     void sort(int column, Qt::SortOrder order) override;

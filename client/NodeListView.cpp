@@ -1,6 +1,7 @@
 #include "NodeListView.h"
 
 #include "exchange/CsvFormula.h"
+#include "utils/Retranslation.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -24,7 +25,7 @@ NodeListView::NodeListView(QWidget* parent)
     : QTreeView(parent)
 {
     setObjectName(QStringLiteral("nodeListView"));
-    setAccessibleName(tr("Nodes"));
+    setTranslated(this, [this] { setAccessibleName(tr("Nodes")); });
     setRootIsDecorated(false);
     setUniformRowHeights(true); // otherwise the view measures every row
     setAlternatingRowColors(true);
@@ -94,6 +95,13 @@ void NodeListView::restoreColumns(const QSettings& settings)
     const QList<QAction*> actions = header()->actions();
     for (int i = 0; i < actions.size(); ++i)
         actions.at(i)->setChecked(!isColumnHidden(NodeListModel::NameColumn + 1 + i));
+}
+
+void NodeListView::retranslate()
+{
+    const QList<QAction*> actions = header()->actions();
+    for (int i = 0; i < actions.size(); ++i)
+        actions.at(i)->setText(m_model->columns().title(NodeListModel::NameColumn + 1 + i));
 }
 
 void NodeListView::chooseColumns()

@@ -2,6 +2,7 @@
 #define KO_NODELISTVIEW_H
 
 #include "NodeListModel.h"
+#include "ko/TrContext.h"
 
 #include <QTreeView>
 
@@ -13,6 +14,7 @@ namespace ko {
 class NodeListView : public QTreeView
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NodeListView)
 
 public:
     explicit NodeListView(QWidget* parent = nullptr);
@@ -29,6 +31,9 @@ public:
 
     /// Brings up the menu of the header, in which columns are shown and hidden.
     void chooseColumns();
+
+    /// Names the entries of that menu like the columns.
+    void retranslate();
 
     /// Which columns there are, how wide, in which order, and by which the list is sorted.
     void saveColumns(QSettings& settings) const;

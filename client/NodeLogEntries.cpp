@@ -6,10 +6,10 @@ namespace ko {
 
 namespace {
 
-const char added[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Added device");
-const char removed[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Removed device");
-const char allowedClear[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Allowed a clear password");
-const char accepted[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Accepted another device");
+const char* const added = QT_TRANSLATE_NOOP("LogEntry", "Added device");
+const char* const removed = QT_TRANSLATE_NOOP("LogEntry", "Removed device");
+const char* const allowedClear = QT_TRANSLATE_NOOP("LogEntry", "Allowed a clear password");
+const char* const accepted = QT_TRANSLATE_NOOP("LogEntry", "Accepted another device");
 
 template <class Entry>
 LogEntry* create()

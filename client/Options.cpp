@@ -16,6 +16,10 @@ struct Option
 const Option options[] = {
     {"db", QT_TRANSLATE_NOOP("Application", "Opens this node database; it is made if it is not there."),
      "FILE"},
+    {"lang",
+     QT_TRANSLATE_NOOP("Application",
+                       "Speaks this language, such as de or pt_BR, whatever is chosen elsewhere."),
+     "CODE"},
     {"import",
      QT_TRANSLATE_NOOP("Application", "Adds the cameras of a list (CSV) and ends. No window is needed."),
      "FILE"},
@@ -54,10 +58,10 @@ const Option toolkitOptions[] = {
     {"sync", "", ""},
 };
 
-QString translated(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("Application", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Application)
+};
 
 } // namespace
 
@@ -66,7 +70,7 @@ Options::Options()
     const auto add = [this](const Option& option) {
         QCommandLineOption added(QLatin1String(option.name), QString(), QLatin1String(option.value));
         if (*option.text)
-            added.setDescription(translated(option.text));
+            added.setDescription(Texts::tr(option.text));
         else
             added.setFlags(QCommandLineOption::HiddenFromHelp);
         m_parser.addOption(added);
@@ -74,9 +78,9 @@ Options::Options()
     // The toolkit's options have one dash, which must not be read as a row of one-letter options.
     m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     m_parser.setApplicationDescription(
-        translated("Shows, adds, edits and removes the nodes of a video-surveillance system.\n"
-                   "Without --import, --export, --backup and --restore it opens a window, and takes the "
-                   "toolkit's options (-platform, -style and others) too."));
+        Texts::tr("Shows, adds, edits and removes the nodes of a video-surveillance system.\n"
+                  "Without --import, --export, --backup and --restore it opens a window, and takes the "
+                  "toolkit's options (-platform, -style and others) too."));
     m_parser.addHelpOption();
     m_parser.addVersionOption();
     for (const Option& option : options)
@@ -90,7 +94,7 @@ QString Options::read(const QStringList& arguments)
     if (!m_parser.parse(arguments))
         return m_parser.errorText();
     if (!m_parser.positionalArguments().isEmpty())
-        return translated("Unexpected argument: %1").arg(m_parser.positionalArguments().constFirst());
+        return Texts::tr("Unexpected argument: %1").arg(m_parser.positionalArguments().constFirst());
     return asksForHelp() || isSet("version") ? QString() : badValue();
 }
 
@@ -99,7 +103,7 @@ QString Options::badValue() const
 {
     for (const Option& option : options) {
         if (*option.value && isSet(option.name) && value(option.name).isEmpty())
-            return translated("The value after --%1 is empty.").arg(QLatin1String(option.name));
+            return Texts::tr("The value after --%1 is empty.").arg(QLatin1String(option.name));
     }
     return QString();
 }

@@ -4,6 +4,7 @@
 #include "ko/dialogFlags.h"
 #include "pages/ControlDataWidget.h"
 #include "utils/FileDialogs.h"
+#include "utils/Retranslation.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -20,20 +21,32 @@ PreferencesDialog::PreferencesDialog(HostNodeDB& db, QWidget* parent)
     , m_db(db)
 {
     setObjectName(QStringLiteral("PreferencesDialog"));
-    setWindowTitle(tr("Preferences"));
     QFormLayout* form = new QFormLayout;
     QLineEdit* path = pathField();
-    QPushButton* browseButton = new QPushButton(tr("&Browse..."), this);
+    QPushButton* browseButton = new QPushButton(this);
     browseButton->setObjectName(QStringLiteral("browseButton"));
     connect(browseButton, &QPushButton::clicked, this, [this, path] { browse(path); });
     QHBoxLayout* pathRow = new QHBoxLayout;
     pathRow->addWidget(path);
     pathRow->addWidget(browseButton);
-    QLabel* pathLabel = new QLabel(tr("Default file server &path:"), this);
+    QLabel* pathLabel = new QLabel(this);
     pathLabel->setBuddy(path);
     form->addRow(pathLabel, pathRow);
-    form->addRow(tr("Default remote preview &server:"), previewField());
-    form->addRow(tr("&Connection:"), bandwidthField());
+    QLabel* previewLabel = new QLabel(this);
+    QWidget* preview = previewField();
+    previewLabel->setBuddy(preview);
+    form->addRow(previewLabel, preview);
+    QLabel* bandwidthLabel = new QLabel(this);
+    QWidget* bandwidth = bandwidthField();
+    bandwidthLabel->setBuddy(bandwidth);
+    form->addRow(bandwidthLabel, bandwidth);
+    setTranslated(this, [=] {
+        setWindowTitle(tr("Preferences"));
+        pathLabel->setText(tr("Default file server &path:"));
+        browseButton->setText(tr("&Browse..."));
+        previewLabel->setText(tr("Default remote preview &server:"));
+        bandwidthLabel->setText(tr("&Connection:"));
+    });
     QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -62,16 +75,20 @@ QWidget* PreferencesDialog::previewField()
 
 QWidget* PreferencesDialog::bandwidthField()
 {
-    const char* const texts[] = {QT_TR_NOOP("Slow Remote (Modem, ISDN, GPRS/2G, EDGE)"),
-                                 QT_TR_NOOP("Fast Remote (DSL, UMTS/3G)"),
-                                 QT_TR_NOOP("Slow Local (WLAN/WiFi, Ethernet)"),
-                                 QT_TR_NOOP("Fast Local (Fast Ethernet, Gigabit Ethernet)")};
+    static const char* const texts[] = {QT_TR_NOOP("Slow Remote (Modem, ISDN, GPRS/2G, EDGE)"),
+                                        QT_TR_NOOP("Fast Remote (DSL, UMTS/3G)"),
+                                        QT_TR_NOOP("Slow Local (WLAN/WiFi, Ethernet)"),
+                                        QT_TR_NOOP("Fast Local (Fast Ethernet, Gigabit Ethernet)")};
     QComboBox* bandwidth = new QComboBox(this);
     bandwidth->setObjectName(QStringLiteral("bandwidthComboBox"));
     bandwidth->setIconSize(QSize(24, 16));
     for (int i = SlowRemote; i <= FastLocal; ++i)
         bandwidth->addItem(QIcon(QLatin1String(ControlDataWidget::bandwidthIcon(ENodeBandwidth(i), false))),
-                           tr(texts[i]));
+                           QString());
+    setTranslated(bandwidth, [bandwidth] {
+        for (int i = SlowRemote; i <= FastLocal; ++i)
+            bandwidth->setItemText(i, tr(texts[i]));
+    });
     bandwidth->setCurrentIndex(m_db.bandwidth());
     m_writers.push_back([this, bandwidth] { m_db.setBandwidth(bandwidth->currentIndex()); });
     return bandwidth;

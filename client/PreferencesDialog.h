@@ -1,6 +1,8 @@
 #ifndef KO_PREFERENCESDIALOG_H
 #define KO_PREFERENCESDIALOG_H
 
+#include "ko/TrContext.h"
+
 #include <QDialog>
 
 #include <functional>
@@ -17,6 +19,7 @@ class HostNodeDB;
 class PreferencesDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(PreferencesDialog)
 
 public:
     explicit PreferencesDialog(HostNodeDB& db, QWidget* parent = nullptr);

@@ -65,6 +65,14 @@ void PropertyColumns::read(int column)
     m_model.fill(column, texts);
 }
 
+void PropertyColumns::retranslate()
+{
+    for (int column = NodeListModel::FirstPropertyColumn; column < m_model.columnCount(); ++column) {
+        if (m_model.columns().isFilled(column))
+            read(column); // a switch that is on shows the column's title
+    }
+}
+
 void PropertyColumns::take(const QVector<NodeSummary>& changed)
 {
     QVector<int> columns;

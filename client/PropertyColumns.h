@@ -28,6 +28,9 @@ public:
     /// model is told.
     void setSearch(const QString& search);
 
+    /// After the model's columns have their titles in another language.
+    void retranslate();
+
     /// Before the model takes in the nodes.
     void take(const QVector<NodeSummary>& changed);
 

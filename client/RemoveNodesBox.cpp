@@ -10,10 +10,10 @@ namespace ko {
 
 namespace {
 
-QString translated(const char* text, int n = -1)
+struct Texts
 {
-    return QCoreApplication::translate("RemoveNodesBox", text, nullptr, n);
-}
+    Q_DECLARE_TR_FUNCTIONS(RemoveNodesBox)
+};
 
 } // namespace
 
@@ -21,12 +21,12 @@ bool confirmRemoval(const QStringList& names, QWidget* parent)
 {
     const QString question =
         names.size() == 1
-            ? translated("Remove this node? It cannot be brought back.")
-            : translated("Remove these %n nodes? They cannot be brought back.", int(names.size()));
-    PlainMessageBox box(QMessageBox::Warning, translated("Remove Nodes"),
+            ? Texts::tr("Remove this node? It cannot be brought back.")
+            : Texts::tr("Remove these %n nodes? They cannot be brought back.", nullptr, int(names.size()));
+    PlainMessageBox box(QMessageBox::Warning, Texts::tr("Remove Nodes"),
                         question + QStringLiteral("\n\n") + listOfNames(names), QMessageBox::Cancel, parent);
     box.setObjectName(QStringLiteral("removeNodesBox"));
-    QPushButton* remove = box.addButton(translated("&Remove"), QMessageBox::DestructiveRole);
+    QPushButton* remove = box.addButton(Texts::tr("&Remove"), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.setEscapeButton(QMessageBox::Cancel);
     box.exec();

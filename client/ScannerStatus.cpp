@@ -2,7 +2,9 @@
 
 #include "database/HostNodeDB.h"
 #include "discovery/Scanners.h"
+#include "utils/Retranslation.h"
 
+#include <QLocale>
 #include <QPainter>
 #include <QStyle>
 
@@ -17,7 +19,7 @@ ScannerStatus::ScannerStatus(HostNodeDB& db, QWidget* parent)
     const QList<Scanner*> scanners = Scanners::of(db).all();
     for (Scanner* scanner : scanners)
         connect(scanner, &Scanner::stateChanged, this, &ScannerStatus::refresh);
-    refresh();
+    setTranslated(this, [this] { refresh(); });
 }
 
 QString ScannerStatus::describe(const QString& name, const ScannerState& state)
@@ -28,7 +30,8 @@ QString ScannerStatus::describe(const QString& name, const ScannerState& state)
         return tr("%1: idle").arg(name);
     case ScannerState::Running:
         return (state.total > 0
-                    ? tr("%1: %2 of %3").arg(name, QString::number(state.done), QString::number(state.total))
+                    ? tr("%1: %2 of %3")
+                          .arg(name, QLocale().toString(state.done), QLocale().toString(state.total))
                     : tr("%1: searching").arg(name)) +
                where;
     case ScannerState::Done:

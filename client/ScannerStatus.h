@@ -2,6 +2,7 @@
 #define KO_SCANNERSTATUS_H
 
 #include "discovery/Scanner.h"
+#include "ko/TrContext.h"
 
 #include <QLabel>
 
@@ -14,6 +15,7 @@ class HostNodeDB;
 class ScannerStatus : public QLabel
 {
     Q_OBJECT
+    KO_TR_CONTEXT(ScannerStatus)
 
 public:
     /// Shows the scanners that \a db has now; the database outlives the widget.

@@ -1,6 +1,7 @@
 #ifndef KO_STORENOTICE_H
 #define KO_STORENOTICE_H
 
+#include "ko/TrContext.h"
 #include "model/StoreError.h"
 
 #include <QObject>
@@ -17,6 +18,7 @@ class PlainMessageBox;
 class StoreNotice : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(StoreNotice)
 
 public:
     /// The database outlives the window, which owns this.

@@ -14,7 +14,7 @@ namespace ko {
 
 namespace {
 
-const char csvFilter[] = QT_TRANSLATE_NOOP("ko::SurveyCommands", "Lists of cameras (*.csv);;All files (*)");
+const char* const csvFilter = QT_TRANSLATE_NOOP("SurveyCommands", "Lists of cameras (*.csv);;All files (*)");
 
 } // namespace
 

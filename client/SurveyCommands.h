@@ -2,6 +2,7 @@
 #define KO_SURVEYCOMMANDS_H
 
 #include "exchange/CameraSurvey.h"
+#include "ko/TrContext.h"
 
 #include <QObject>
 
@@ -18,6 +19,7 @@ class SurveyProgress;
 class SurveyCommands : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(SurveyCommands)
 
 public:
     explicit SurveyCommands(QMainWindow* window);

@@ -14,6 +14,11 @@ if(KO_TESTS)
 endif()
 find_package(Qt${KO_QT} REQUIRED COMPONENTS ${KO_QT_COMPONENTS})
 
+# One tool for both toolkits: they read the same files. Not the lrelease in the path, which may be the empty wrapper
+# of qtchooser.
+find_program(KO_LRELEASE lrelease PATHS /usr/lib/qt6/bin /usr/lib/qt5/bin NO_DEFAULT_PATH)
+find_program(KO_LRELEASE NAMES lrelease-qt6 lrelease-qt5 lrelease REQUIRED)
+
 include(GNUInstallDirs)
 
 set(CMAKE_CXX_STANDARD 17)
@@ -45,6 +50,31 @@ elseif(KO_SANITIZE)
     target_compile_definitions(ko_flags INTERFACE KO_SANITIZE)
     target_link_options(ko_flags INTERFACE -fsanitize=address,undefined)
 endif()
+
+# ko_translations(NAME): compiles translations/NAME_*.ts of this folder into the resources of the target, as
+# :/translations/NAME_*.qm.
+function(ko_translations name)
+    file(GLOB sources CONFIGURE_DEPENDS translations/*.ts)
+    set(folder ${CMAKE_CURRENT_BINARY_DIR}/translations)
+    set(compiled)
+    set(entries)
+    foreach(source ${sources})
+        get_filename_component(language ${source} NAME_WE)
+        set(qm ${folder}/${language}.qm)
+        add_custom_command(OUTPUT ${qm} DEPENDS ${source}
+            COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
+            COMMAND ${KO_LRELEASE} -silent ${source} -qm ${qm})
+        list(APPEND compiled ${qm})
+        string(APPEND entries "<file>${language}.qm</file>")
+    endforeach()
+    set(list ${folder}/${name}_translations.qrc)
+    file(CONFIGURE OUTPUT ${list} CONTENT "<RCC><qresource prefix=\"/translations\">${entries}</qresource></RCC>\n")
+    set(source ${folder}/${name}_translations.cpp)
+    add_custom_command(OUTPUT ${source} DEPENDS ${list} ${compiled}
+        COMMAND Qt${KO_QT}::rcc --name ${name}_translations ${list} -o ${source})
+    set_source_files_properties(${source} ${list} PROPERTIES SKIP_AUTOGEN ON)
+    set(KO_TRANSLATIONS ${source} PARENT_SCOPE)
+endfunction()
 
 # ko_library(NAME SOURCES... [LINK PUBLIC-LIBRARIES...] [PRIVATE PRIVATE-LIBRARIES...])
 # A room of the house: libko<name>, target KoNodeUI::<name>, its own folder as include root.

@@ -11,20 +11,20 @@ const struct
     Purpose purpose;
     const char* title;
 } titles[] = {
-    {Purpose::Edit, QT_TRANSLATE_NOOP("ko::LogEntry", "Changed without a dialog")},
-    {Purpose::Add, QT_TRANSLATE_NOOP("ko::LogEntry", "Added by the program")},
-    {Purpose::Remove, QT_TRANSLATE_NOOP("ko::LogEntry", "Removed by the program")},
-    {Purpose::Settings, QT_TRANSLATE_NOOP("ko::LogEntry", "Changed settings")},
-    {Purpose::Proxy, QT_TRANSLATE_NOOP("ko::LogEntry", "Changed the global proxy")},
-    {Purpose::Environments, QT_TRANSLATE_NOOP("ko::LogEntry", "Changed environments")},
-    {Purpose::Scan, QT_TRANSLATE_NOOP("ko::LogEntry", "Found by a scan")},
-    {Purpose::Address, QT_TRANSLATE_NOOP("ko::LogEntry", "Accepted new addresses")},
-    {Purpose::Check, QT_TRANSLATE_NOOP("ko::LogEntry", "Noted what cameras are known by")},
-    {Purpose::FillIn, QT_TRANSLATE_NOOP("ko::LogEntry", "Filled in what cameras said")},
-    {Purpose::Import, QT_TRANSLATE_NOOP("ko::LogEntry", "Imported a list")},
-    {Purpose::Start, QT_TRANSLATE_NOOP("ko::LogEntry", "Made the database")},
-    {Purpose::Restore, QT_TRANSLATE_NOOP("ko::LogEntry", "Restored a backup")},
-    {Purpose::Unknown, QT_TRANSLATE_NOOP("ko::LogEntry", "Changed by a newer version")},
+    {Purpose::Edit, QT_TRANSLATE_NOOP("LogEntry", "Changed without a dialog")},
+    {Purpose::Add, QT_TRANSLATE_NOOP("LogEntry", "Added by the program")},
+    {Purpose::Remove, QT_TRANSLATE_NOOP("LogEntry", "Removed by the program")},
+    {Purpose::Settings, QT_TRANSLATE_NOOP("LogEntry", "Changed settings")},
+    {Purpose::Proxy, QT_TRANSLATE_NOOP("LogEntry", "Changed the global proxy")},
+    {Purpose::Environments, QT_TRANSLATE_NOOP("LogEntry", "Changed environments")},
+    {Purpose::Scan, QT_TRANSLATE_NOOP("LogEntry", "Found by a scan")},
+    {Purpose::Address, QT_TRANSLATE_NOOP("LogEntry", "Accepted new addresses")},
+    {Purpose::Check, QT_TRANSLATE_NOOP("LogEntry", "Noted what cameras are known by")},
+    {Purpose::FillIn, QT_TRANSLATE_NOOP("LogEntry", "Filled in what cameras said")},
+    {Purpose::Import, QT_TRANSLATE_NOOP("LogEntry", "Imported a list")},
+    {Purpose::Start, QT_TRANSLATE_NOOP("LogEntry", "Made the database")},
+    {Purpose::Restore, QT_TRANSLATE_NOOP("LogEntry", "Restored a backup")},
+    {Purpose::Unknown, QT_TRANSLATE_NOOP("LogEntry", "Changed by a newer version")},
 };
 
 QString nodesOf(const ChangeSetRow& row)

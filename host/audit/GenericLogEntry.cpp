@@ -31,7 +31,7 @@ QString GenericLogEntry::description() const
 
 QString GenericLogEntry::title() const
 {
-    return tr("Entry of unknown kind \"%1\"").arg(m_code.toString());
+    return LogEntry::tr("Entry of unknown kind \"%1\"").arg(m_code.toString());
 }
 
 } // namespace ko

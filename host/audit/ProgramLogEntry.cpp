@@ -36,12 +36,12 @@ LogCategory ProgramLogEntry::category() const
 
 QString ProgramLogEntry::description() const
 {
-    return tr("Level %1: %2");
+    return LogEntry::tr("Level %1: %2");
 }
 
 QString ProgramLogEntry::title() const
 {
-    return tr("Program log");
+    return LogEntry::tr("Program log");
 }
 
 } // namespace ko

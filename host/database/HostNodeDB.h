@@ -3,6 +3,7 @@
 
 #include "HostExport.h"
 #include "ko/NodeDB.h"
+#include "ko/TrContext.h"
 #include "model/ChangeScope.h"
 #include "model/ChangeSet.h"
 #include "model/StoreError.h"
@@ -34,6 +35,7 @@ class Scanning;
 class KO_HOST_EXPORT HostNodeDB : public NodeDB, public ChangeGrouping
 {
     Q_OBJECT
+    KO_TR_CONTEXT(HostNodeDB)
 
 public:
     /// When the file is looked through for damage.

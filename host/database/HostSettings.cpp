@@ -37,7 +37,7 @@ void HostSettings::addDefaultEnvironment()
     if (!isNew())
         return; // another process was faster
     const QString id = QUuid::createUuid().toString();
-    m_memory.setEnvironments({{id, QCoreApplication::translate("ko::HostNodeDB", "Default")}});
+    m_memory.setEnvironments({{id, QCoreApplication::translate("HostNodeDB", "Default")}});
     m_memory.setSetting(QLatin1String(ActiveEnvironment), id);
 }
 

@@ -6,6 +6,7 @@
 #include "devices/HttpDigest.h"
 #include "devices/PictureFetch.h"
 #include "devices/SoapRequest.h"
+#include "ko/TrContext.h"
 
 #include <QQueue>
 
@@ -24,6 +25,7 @@ namespace ko {
 class KO_HOST_EXPORT DeviceCheck : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(DeviceCheck)
 
 public:
     enum Limits {

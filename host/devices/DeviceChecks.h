@@ -3,6 +3,7 @@
 
 #include "HostExport.h"
 #include "devices/DeviceReport.h"
+#include "ko/TrContext.h"
 
 #include <QObject>
 #include <QThread>
@@ -19,6 +20,7 @@ namespace ko {
 class KO_HOST_EXPORT DeviceChecks : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(DeviceChecks)
 
 public:
     enum Limits {

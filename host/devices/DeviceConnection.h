@@ -2,6 +2,7 @@
 #define KO_DEVICECONNECTION_H
 
 #include "HostExport.h"
+#include "ko/TrContext.h"
 
 #include <QByteArray>
 #include <QNetworkAccessManager>
@@ -44,6 +45,7 @@ struct HttpAnswer
 class KO_HOST_EXPORT DeviceConnection : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(DeviceConnection)
 
 public:
     enum Limits { LongestBody = 1 << 20 /* bytes, of an answer to a message */ };

@@ -204,7 +204,8 @@ QString title(const QString& key)
 QString text(const QVariant& value)
 {
     if (value.userType() == QMetaType::Bool)
-        return QCoreApplication::translate("NodeFacts", value.toBool() ? "yes" : "no");
+        return value.toBool() ? QCoreApplication::translate("NodeFacts", "yes")
+                              : QCoreApplication::translate("NodeFacts", "no");
     if (value.userType() == qMetaTypeId<kogen::PropertySet>())
         return NumberedTexts::fromSet(value.value<kogen::PropertySet>()).join(QLatin1String(", "));
     return value.toString();

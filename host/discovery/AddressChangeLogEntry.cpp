@@ -6,7 +6,7 @@ namespace ko {
 
 namespace {
 
-const char Title[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Accepted new address");
+const char* const titleText = QT_TRANSLATE_NOOP("LogEntry", "Accepted new address");
 
 LogEntry* createEntry()
 {
@@ -15,7 +15,7 @@ LogEntry* createEntry()
 
 bool registerEntry()
 {
-    logEntryFactory().registerCreator("NAdr", createEntry, QLatin1String(Title));
+    logEntryFactory().registerCreator("NAdr", createEntry, QLatin1String(titleText));
     return true;
 }
 
@@ -47,12 +47,12 @@ LogCategory AddressChangeLogEntry::category() const
 
 QString AddressChangeLogEntry::description() const
 {
-    return tr("Moved device %1 from address %2 to %3, where it was found.");
+    return LogEntry::tr("Moved device %1 from address %2 to %3, where it was found.");
 }
 
 QString AddressChangeLogEntry::title() const
 {
-    return tr(Title);
+    return LogEntry::tr(titleText);
 }
 
 } // namespace ko

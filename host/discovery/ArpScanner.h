@@ -2,6 +2,7 @@
 #define KO_ARPSCANNER_H
 
 #include "discovery/SessionScanner.h"
+#include "ko/TrContext.h"
 
 namespace ko {
 
@@ -13,6 +14,7 @@ namespace ko {
 class KO_HOST_EXPORT ArpScanner : public SessionScanner
 {
     Q_OBJECT
+    KO_TR_CONTEXT(ArpScanner)
 
 public:
     /// \a discoveryPort is where hosts are asked by WS-Discovery.

@@ -56,7 +56,7 @@ ArpSweep::ArpSweep(const ArpSweepRange& range)
 {
     QVector<Neighbour> neighbours;
     if (m_socket < 0 || !NeighbourTable::read(neighbours))
-        m_error = QCoreApplication::translate("ko::ArpScanner", "the system gives no socket: %1")
+        m_error = QCoreApplication::translate("ArpScanner", "the system gives no socket: %1")
                       .arg(qt_error_string(errno));
 }
 

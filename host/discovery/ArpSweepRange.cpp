@@ -2,6 +2,7 @@
 
 #include "discovery/ScanInterfaces.h"
 
+#include <QCoreApplication>
 #include <QHostAddress>
 
 #include <algorithm>
@@ -50,7 +51,9 @@ bool isUsable(const ifaddrs& entry)
 QString ArpSweepRange::text() const
 {
     const QString range = interfaceName + QLatin1String(", ") + networkText(first, prefix);
-    return isPart() ? range + QLatin1String(" of ") + networkText(ownAddress, networkPrefix) : range;
+    return isPart() ? QCoreApplication::translate("ArpScanner", "%1 of %2")
+                          .arg(range, networkText(ownAddress, networkPrefix))
+                    : range;
 }
 
 ArpSweepRange ArpSweepRange::around(quint32 ownAddress, quint32 mask)

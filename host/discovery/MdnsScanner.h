@@ -2,6 +2,7 @@
 #define KO_MDNSSCANNER_H
 
 #include "discovery/SessionScanner.h"
+#include "ko/TrContext.h"
 
 namespace ko {
 
@@ -14,6 +15,7 @@ namespace ko {
 class KO_HOST_EXPORT MdnsScanner : public SessionScanner
 {
     Q_OBJECT
+    KO_TR_CONTEXT(MdnsScanner)
 
 public:
     using SessionScanner::SessionScanner;

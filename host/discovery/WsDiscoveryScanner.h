@@ -2,6 +2,7 @@
 #define KO_WSDISCOVERYSCANNER_H
 
 #include "discovery/SessionScanner.h"
+#include "ko/TrContext.h"
 
 namespace ko {
 
@@ -14,6 +15,7 @@ namespace ko {
 class KO_HOST_EXPORT WsDiscoveryScanner : public SessionScanner
 {
     Q_OBJECT
+    KO_TR_CONTEXT(WsDiscoveryScanner)
 
 public:
     explicit WsDiscoveryScanner(QObject* parent = nullptr, quint16 port = 3702);

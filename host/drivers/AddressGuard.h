@@ -2,6 +2,7 @@
 #define KO_ADDRESSGUARD_H
 
 #include "drivers/FieldGuard.h"
+#include "ko/TrContext.h"
 
 #include <functional>
 
@@ -17,6 +18,7 @@ namespace ko {
 class AddressGuard : public FieldGuard
 {
     Q_OBJECT
+    KO_TR_CONTEXT(AddressGuard)
 
 public:
     struct Fields

@@ -11,10 +11,10 @@ namespace ko {
 
 namespace {
 
-QString translated(const char* text)
+struct Texts
 {
-    return QCoreApplication::translate("AddressText", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(AddressText)
+};
 
 bool isIpv4(const QString& host)
 {
@@ -40,22 +40,22 @@ QString problemOf(const QString& host)
     static const QRegularExpression blank(QStringLiteral("\\s"));
     static const QRegularExpression numbers(QStringLiteral("^[\\d.]+$"));
     if (host.contains(blank))
-        return translated("An address holds no blanks.");
+        return Texts::tr("An address holds no blanks.");
     if (host.contains(QLatin1Char(':')))
         return QHostAddress(host).protocol() == QAbstractSocket::IPv6Protocol
                    ? QString()
-                   : translated("This is no IPv6 address, and no host with a port.");
+                   : Texts::tr("This is no IPv6 address, and no host with a port.");
     if (numbers.match(host).hasMatch())
-        return isIpv4(host) ? QString() : translated("An IP address has four numbers from 0 to 255.");
+        return isIpv4(host) ? QString() : Texts::tr("An IP address has four numbers from 0 to 255.");
     return isHostName(host) ? QString()
-                            : translated("The name of a host has letters, digits, dots and hyphens only.");
+                            : Texts::tr("The name of a host has letters, digits, dots and hyphens only.");
 }
 
 AddressText checked(AddressText address)
 {
     QString problem = problemOf(address.host);
     if (problem.isEmpty() && (address.port == 0 || address.port > 65535))
-        problem = translated("A port is a number from 1 to 65535.");
+        problem = Texts::tr("A port is a number from 1 to 65535.");
     if (problem.isEmpty())
         return address;
     AddressText bad;
@@ -68,7 +68,7 @@ AddressText fromUrl(const QString& text)
     const QUrl url(text, QUrl::TolerantMode);
     AddressText address;
     if (!url.isValid() || url.host().isEmpty()) {
-        address.problem = translated("This URL has no host that can be read.");
+        address.problem = Texts::tr("This URL has no host that can be read.");
         return address;
     }
     const QString scheme = url.scheme().toLower();

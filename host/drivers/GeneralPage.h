@@ -1,6 +1,8 @@
 #ifndef KO_GENERALPAGE_H
 #define KO_GENERALPAGE_H
 
+#include "ko/TrContext.h"
+
 #include <QWidget>
 
 class QLineEdit;
@@ -14,6 +16,7 @@ class NodeHint;
 class GeneralPage : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(GeneralPage)
 
 public:
     explicit GeneralPage(QWidget* parent);

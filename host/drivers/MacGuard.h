@@ -2,6 +2,7 @@
 #define KO_MACGUARD_H
 
 #include "drivers/FieldGuard.h"
+#include "ko/TrContext.h"
 
 namespace ko {
 
@@ -9,6 +10,7 @@ namespace ko {
 class MacGuard : public FieldGuard
 {
     Q_OBJECT
+    KO_TR_CONTEXT(MacGuard)
 
 public:
     /// The words come above the form that \a field is in.

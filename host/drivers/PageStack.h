@@ -3,6 +3,7 @@
 
 #include "drivers/EditorState.h"
 #include "drivers/InspectorPages.h"
+#include "ko/TrContext.h"
 
 #include <QWidget>
 
@@ -17,6 +18,7 @@ namespace ko {
 class PageStack : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(PageStack)
 
 public:
     PageStack(const QVector<PageSpec>& specs, QWidget* parent);

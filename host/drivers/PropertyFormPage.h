@@ -2,6 +2,7 @@
 #define KO_PROPERTYFORMPAGE_H
 
 #include "HostExport.h"
+#include "ko/TrContext.h"
 
 #include <QString>
 #include <QVector>
@@ -17,6 +18,7 @@ class PropertyAccess;
 class KO_HOST_EXPORT PropertyFormPage : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(PropertyFormPage)
 
 public:
     struct Field

@@ -9,23 +9,17 @@
 #include "exchange/Sample.h"
 #include "exchange/SurveyFields.h"
 #include "exchange/SurveyImport.h"
+#include "exchange/SurveyText.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "model/Redaction.h"
 #include "secrets/Keyring.h"
-
-#include <QCoreApplication>
 
 namespace ko {
 
 namespace CameraSurvey {
 
 namespace {
-
-QString say(const char* text)
-{
-    return QCoreApplication::translate("ko::CameraSurvey", text);
-}
 
 QStringList titles()
 {
@@ -96,9 +90,10 @@ bool writeDevices(QIODevice* file, const QStringList& ids, Passwords passwords, 
         ++(wanted ? result->written : result->skipped);
     }
     if (!unread.isEmpty())
-        result->error = say("Nothing was written, because these passwords cannot be read: %1. Unlock your "
-                            "keychain, bring the key file back, or leave the passwords out.")
-                            .arg(unread.text());
+        result->error =
+            SurveyText::tr("Nothing was written, because these passwords cannot be read: %1. Unlock your "
+                           "keychain, bring the key file back, or leave the passwords out.")
+                .arg(unread.text());
     return good && unread.isEmpty();
 }
 
@@ -119,7 +114,7 @@ ExportResult exportCameras(const QString& fileName, Passwords passwords, const P
 {
     ExportResult result;
     if (!NodeDB::getDB()) {
-        result.error = say("There is no database.");
+        result.error = SurveyText::tr("There is no database.");
         return result;
     }
     result.error = FileName::refusal(fileName);

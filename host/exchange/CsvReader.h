@@ -22,7 +22,7 @@ namespace ko {
 /// file of any size and content takes little memory.
 class KO_HOST_EXPORT CsvReader
 {
-    Q_DECLARE_TR_FUNCTIONS(ko::CsvReader)
+    Q_DECLARE_TR_FUNCTIONS(CsvReader)
 
 public:
     enum { MaximumRecordSize = 1024 * 1024 };

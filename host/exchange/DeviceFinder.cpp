@@ -1,21 +1,15 @@
 #include "exchange/DeviceFinder.h"
 
+#include "exchange/SurveyText.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHint.h"
 #include "ko/OutsideText.h"
 #include "model/NetworkAddress.h"
 
-#include <QCoreApplication>
-
 namespace ko {
 
 namespace {
-
-QString say(const char* text)
-{
-    return QCoreApplication::translate("ko::CameraSurvey", text);
-}
 
 /// Whether what the row says of \a column is also true of the device, or nothing is said.
 bool agrees(const SurveyRow& row, SurveyColumn column, const IPDeviceNode& node)
@@ -27,7 +21,7 @@ QString onlyOne(QStringList ids, const char* severalReason, QString* reason)
 {
     ids.removeDuplicates();
     if (ids.size() > 1)
-        *reason = say(severalReason);
+        *reason = SurveyText::tr(severalReason);
     return ids.size() == 1 ? ids.first() : QString();
 }
 
@@ -73,10 +67,10 @@ QString DeviceFinder::findByAddress(const SurveyRow& row, const NodeHint& hint, 
             agrees(row, SurveyColumn::Channel, *node))
             ids.append(candidate);
     }
-    return onlyOne(ids,
-                   QT_TRANSLATE_NOOP("ko::CameraSurvey",
-                                     "several devices have this address; give type, port and channel"),
-                   reason);
+    return onlyOne(
+        ids,
+        QT_TRANSLATE_NOOP("CameraSurvey", "several devices have this address; give type, port and channel"),
+        reason);
 }
 
 QString DeviceFinder::findByName(const SurveyRow& row, QString* reason)
@@ -95,7 +89,7 @@ QString DeviceFinder::findByName(const SurveyRow& row, QString* reason)
         (node->address().isEmpty() ? without : withAddress).append(candidate);
     }
     return onlyOne(without.isEmpty() ? withAddress : without,
-                   QT_TRANSLATE_NOOP("ko::CameraSurvey", "several devices have this name; give the address"),
+                   QT_TRANSLATE_NOOP("CameraSurvey", "several devices have this name; give the address"),
                    reason);
 }
 

@@ -1,8 +1,8 @@
 #include "exchange/ExportFile.h"
 
+#include "exchange/SurveyText.h"
 #include "store/StoreFile.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QRegularExpression>
 
@@ -16,11 +16,6 @@
 namespace ko {
 
 namespace {
-
-QString say(const char* text)
-{
-    return QCoreApplication::translate("ko::CameraSurvey", text);
-}
 
 /// The number of the open stream that \a name stands for, or -1. To open such a name again would write over
 /// what is there already.
@@ -74,7 +69,7 @@ bool ExportFile::open()
     if (!isRegularOrNew(m_name))
         return openStream(openAsItIs(m_name));
     if (StoreFile::belongsToDatabase(m_name)) {
-        m_reason = say("it is a database and was left as it is.");
+        m_reason = SurveyText::tr("it is a database and was left as it is.");
         return false;
     }
     // The rights before anything is in it.
@@ -105,7 +100,8 @@ QString ExportFile::whyNot()
     // After half a write the toolkit knows no reason yet; the next one gets it from the system.
     if (file.isOpen())
         file.flush();
-    return say("%1 cannot be written: %2").arg(m_name, m_reason.isEmpty() ? file.errorString() : m_reason);
+    return SurveyText::tr("%1 cannot be written: %2")
+        .arg(m_name, m_reason.isEmpty() ? file.errorString() : m_reason);
 }
 
 } // namespace ko

@@ -6,7 +6,7 @@ namespace ko {
 
 namespace {
 
-const char Title[] = QT_TRANSLATE_NOOP("ko::LogEntry", "Imported devices");
+const char* const titleText = QT_TRANSLATE_NOOP("LogEntry", "Imported devices");
 
 LogEntry* createEntry()
 {
@@ -15,7 +15,7 @@ LogEntry* createEntry()
 
 bool registerEntry()
 {
-    logEntryFactory().registerCreator("NImp", createEntry, QLatin1String(Title));
+    logEntryFactory().registerCreator("NImp", createEntry, QLatin1String(titleText));
     return true;
 }
 
@@ -48,12 +48,12 @@ LogCategory ImportLogEntry::category() const
 
 QString ImportLogEntry::description() const
 {
-    return tr("Imported devices from %1: %2 added, %3 changed, %4 lines refused.");
+    return LogEntry::tr("Imported devices from %1: %2 added, %3 changed, %4 lines refused.");
 }
 
 QString ImportLogEntry::title() const
 {
-    return tr(Title);
+    return LogEntry::tr(titleText);
 }
 
 } // namespace ko

@@ -1,7 +1,8 @@
 #ifndef KO_SAMPLE_H
 #define KO_SAMPLE_H
 
-#include <QCoreApplication>
+#include "exchange/SurveyText.h"
+
 #include <QStringList>
 
 namespace ko {
@@ -21,9 +22,9 @@ public:
     QString text() const
     {
         const QString named = m_names.join(QLatin1String(", "));
-        return m_count <= Named ? named
-                                : QCoreApplication::translate("ko::CameraSurvey", "%1 and %2 more")
-                                      .arg(named, QString::number(m_count - Named));
+        return m_count <= Named
+                   ? named
+                   : SurveyText::tr("%1 and %2 more").arg(named, QString::number(m_count - Named));
     }
 
 private:

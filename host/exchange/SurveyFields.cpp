@@ -1,6 +1,7 @@
 #include "exchange/SurveyFields.h"
 
 #include "drivers/NodeTypes.h"
+#include "exchange/SurveyText.h"
 #include "interfaces/ISupportsChannels.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHintIPDevice.h"
@@ -8,34 +9,27 @@
 #include "ko/PropertyKeys.h"
 #include "model/PropertyList.h"
 
-#include <QCoreApplication>
-
 namespace ko {
 
 namespace {
 
 const int MaximumTextLength = 1024;
 
-QString say(const char* text)
-{
-    return QCoreApplication::translate("ko::CameraSurvey", text);
-}
-
 QString checkedText(const QString& text, QString* reason)
 {
     for (const QChar c : text) {
         if (c.category() == QChar::Other_Control && c != QLatin1Char('\n'))
-            *reason = say("it holds control characters");
+            *reason = SurveyText::tr("it holds control characters");
     }
     if (text.size() > MaximumTextLength)
-        *reason = say("it is longer than 1024 characters");
+        *reason = SurveyText::tr("it is longer than 1024 characters");
     return text;
 }
 
 QString lineOfText(const QString& cell, QString* reason)
 {
     if (cell.contains(QLatin1Char('\n')))
-        *reason = say("it holds a line break");
+        *reason = SurveyText::tr("it holds a line break");
     return checkedText(cell, reason);
 }
 
@@ -54,7 +48,7 @@ QString shownText(const QString& cell, QString* reason)
 QString path(const QString& cell, QString* reason)
 {
     if (OutsideText::fit(cell) != cell)
-        *reason = say("it holds characters that cannot be seen");
+        *reason = SurveyText::tr("it holds characters that cannot be seen");
     return text(cell, reason);
 }
 
@@ -82,19 +76,19 @@ QString number(const QString& cell, int from, int to, const char* rule, QString*
     for (const QChar c : digits)
         good = good && c >= QLatin1Char('0') && c <= QLatin1Char('9');
     if (!good || value < from || value > to)
-        *reason = say(rule);
+        *reason = SurveyText::tr(rule);
     return QString::number(value);
 }
 
 QString port(const QString& cell, QString* reason)
 {
-    return number(cell, 0, 65535, QT_TRANSLATE_NOOP("ko::CameraSurvey", "it is no number from 0 to 65535"),
+    return number(cell, 0, 65535, QT_TRANSLATE_NOOP("CameraSurvey", "it is no number from 0 to 65535"),
                   reason);
 }
 
 QString channel(const QString& cell, QString* reason)
 {
-    return number(cell, 1, 4, QT_TRANSLATE_NOOP("ko::CameraSurvey", "it is no number from 1 to 4"), reason);
+    return number(cell, 1, 4, QT_TRANSLATE_NOOP("CameraSurvey", "it is no number from 1 to 4"), reason);
 }
 
 QString yesOrNo(bool value)
@@ -117,7 +111,7 @@ QString yesOrNoText(const QString& cell, QString* reason)
         if (given.compare(QLatin1String(word.word), Qt::CaseInsensitive) == 0)
             return yesOrNo(word.value);
     }
-    *reason = say("it is not one of yes, no, true, false, 1, 0");
+    *reason = SurveyText::tr("it is not one of yes, no, true, false, 1, 0");
     return QString();
 }
 
@@ -127,7 +121,7 @@ QString mac(const QString& cell, QString* reason)
         return QString();
     const MACAddress address(cell);
     if (address.isNull())
-        *reason = say("it is no MAC address (twelve hexadecimal digits)");
+        *reason = SurveyText::tr("it is no MAC address (twelve hexadecimal digits)");
     return address.toString(true);
 }
 
@@ -146,7 +140,7 @@ QString type(const QString& cell, QString* reason)
             return QString::number(int(word.type));
     }
     return number(given, 0, 0x7fffffff,
-                  QT_TRANSLATE_NOOP("ko::CameraSurvey",
+                  QT_TRANSLATE_NOOP("CameraSurvey",
                                     "it is not one of IP device, URL camera, channel device, and no number"),
                   reason);
 }
@@ -242,7 +236,7 @@ QString normalised(const NodeProperty& property, const QString& cell, QString* r
         return shownText(cell, reason);
     QVariant value(cell.trimmed());
     if (!value.toString().isEmpty() && !value.convert(type))
-        *reason = say("it is no number");
+        *reason = SurveyText::tr("it is no number");
     return value.toString();
 }
 

@@ -5,6 +5,7 @@
 #include "exchange/FileName.h"
 #include "exchange/ImportLogEntry.h"
 #include "exchange/RecordingPath.h"
+#include "exchange/SurveyText.h"
 #include "inspector/NodeChangeLogEntry.h"
 #include "inspector/NodeRenameLogEntry.h"
 #include "interfaces/INodeDriverComponent.h"
@@ -16,7 +17,6 @@
 #include "ko/OutsideText.h"
 #include "secrets/Keyring.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
@@ -28,11 +28,6 @@
 namespace ko {
 
 namespace {
-
-QString say(const char* text)
-{
-    return QCoreApplication::translate("ko::CameraSurvey", text);
-}
 
 ENodeType typeOf(const SurveyRow& row)
 {
@@ -150,7 +145,7 @@ CameraSurvey::ImportResult SurveyImport::check()
 CameraSurvey::ImportResult SurveyImport::run()
 {
     if (!NodeDB::getDB()) {
-        m_result.error = say("There is no database.");
+        m_result.error = SurveyText::tr("There is no database.");
     } else if (isSound()) {
         followOthers();
         readFile(Pass::Apply);
@@ -211,9 +206,10 @@ void SurveyImport::storeFailed(const QString& reason)
     m_result.added = m_storedAdded;
     m_result.updated = m_storedUpdated;
     m_result.storeFailed = true;
-    m_result.error = say("%1 The import has stopped there; only what is counted here is stored. Import the "
-                         "file again for the rest.")
-                         .arg(reason);
+    m_result.error =
+        SurveyText::tr("%1 The import has stopped there; only what is counted here is stored. Import the "
+                       "file again for the rest.")
+            .arg(reason);
 }
 
 void SurveyImport::log()
@@ -235,11 +231,11 @@ bool SurveyImport::open()
     struct stat info = {};
     const bool exists = ::stat(name.constData(), &info) == 0;
     if (exists && !S_ISREG(info.st_mode)) { // a pipe can't be read twice, and opening one may wait for ever
-        m_result.error = say("%1 is not a regular file.").arg(m_fileName);
+        m_result.error = SurveyText::tr("%1 is not a regular file.").arg(m_fileName);
         return false;
     }
     if (exists && isDatabase(info)) {
-        m_result.error = say("%1 is the node database itself.").arg(m_fileName);
+        m_result.error = SurveyText::tr("%1 is the node database itself.").arg(m_fileName);
         return false;
     }
     const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
@@ -248,7 +244,7 @@ bool SurveyImport::open()
         return true;
     m_result.error = exists ? QString() : FileName::refusal(m_fileName);
     if (m_result.error.isEmpty())
-        m_result.error = say("%1 cannot be read: %2").arg(m_fileName, reason);
+        m_result.error = SurveyText::tr("%1 cannot be read: %2").arg(m_fileName, reason);
     return false;
 }
 
@@ -295,8 +291,8 @@ bool SurveyImport::readSome(CsvReader& reader, const SurveyHeader& header, Pass 
         if (!reason.isEmpty())
             m_result.badLines.append({reader.line(), reason});
         if (m_result.badLines.size() >= CameraSurvey::MaximumBadLines) {
-            m_result.error =
-                say("%1 lines are bad; this is no list of cameras.").arg(int(CameraSurvey::MaximumBadLines));
+            m_result.error = SurveyText::tr("%1 lines are bad; this is no list of cameras.")
+                                 .arg(int(CameraSurvey::MaximumBadLines));
             return false;
         }
     } while (!m_progress.isDue());
@@ -309,9 +305,9 @@ bool SurveyImport::canStorePasswords()
     if (m_passwords.isEmpty() || Keyring::ofInstallation().prepareAgain())
         return true;
     m_result.error =
-        say("The passwords of the list (in line %1) cannot be stored, because the key that seals "
-            "them is not there. Unlock your keychain, bring the key file back, or make your "
-            "configuration folder writable. Nothing was imported.")
+        SurveyText::tr("The passwords of the list (in line %1) cannot be stored, because the key that seals "
+                       "them is not there. Unlock your keychain, bring the key file back, or make your "
+                       "configuration folder writable. Nothing was imported.")
             .arg(m_passwords.text());
     return false;
 }
@@ -320,9 +316,9 @@ bool SurveyImport::readHeader(CsvReader& reader, SurveyHeader* header)
 {
     QStringList titles;
     if (!reader.readRecord(&titles)) {
-        m_result.error = reader.error().isEmpty() ? say("The file is empty.") : reader.error();
+        m_result.error = reader.error().isEmpty() ? SurveyText::tr("The file is empty.") : reader.error();
     } else if (!reader.recordError().isEmpty()) {
-        m_result.error = say("The first line cannot be read: %1").arg(reader.recordError());
+        m_result.error = SurveyText::tr("The first line cannot be read: %1").arg(reader.recordError());
     } else {
         *header = SurveyHeader::read(titles, &m_result.error);
         m_result.ignoredColumns = header->ignoredColumns();
@@ -334,11 +330,11 @@ void SurveyImport::import(const SurveyRow& row, QString* reason)
 {
     const kom::smart<NodeHintIPDevice> hint = describe(row);
     if (hint.null()) {
-        *reason = say("devices of this type cannot be added here");
+        *reason = SurveyText::tr("devices of this type cannot be added here");
         return;
     }
     if (row.has(SurveyColumn::RecordingPath) && !RecordingPath::canBeAssigned()) {
-        *reason = say("recording folders cannot be added here");
+        *reason = SurveyText::tr("recording folders cannot be added here");
         return;
     }
     const QString id = m_finder.find(row, *hint, reason);
@@ -354,7 +350,7 @@ void SurveyImport::add(const SurveyRow& row, NodeHint& hint, QString* reason)
 {
     const QString id = create(hint);
     if (id.isEmpty()) {
-        *reason = say("the device could not be added");
+        *reason = SurveyText::tr("the device could not be added");
         return;
     }
     m_finder.added(id, row);
@@ -367,11 +363,11 @@ void SurveyImport::update(const QString& id, const SurveyRow& row, QString* reas
 {
     const auto node = deviceNode(id);
     if (node.null()) {
-        *reason = say("what is at this address is no device");
+        *reason = SurveyText::tr("what is at this address is no device");
         return;
     }
     if (row.has(SurveyColumn::Channel) && !dynamic_cast<const ISupportsChannels*>(node.get())) {
-        *reason = say("the device at this address has no channels");
+        *reason = SurveyText::tr("the device at this address has no channels");
         return;
     }
     const QString path = row.value(SurveyColumn::RecordingPath);
@@ -381,7 +377,7 @@ void SurveyImport::update(const QString& id, const SurveyRow& row, QString* reas
         return;
     }
     if (row.differs(*node) && !write(id, row)) {
-        *reason = say("the device could not be changed");
+        *reason = SurveyText::tr("the device could not be changed");
         return;
     }
     if (otherPath)

@@ -1,19 +1,13 @@
 #include "exchange/SurveyRow.h"
 
+#include "exchange/SurveyText.h"
 #include "ko/Types.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace ko {
 
 namespace {
-
-QString say(const char* text)
-{
-    return QCoreApplication::translate("ko::CameraSurvey", text);
-}
 
 int columnOf(const QString& title)
 {
@@ -32,7 +26,7 @@ SurveyHeader SurveyHeader::read(const QStringList& titles, QString* error)
     for (const QString& title : titles) {
         const int column = columnOf(title);
         if (column >= 0 && header.m_columns.contains(column))
-            *error = say("There are two columns \"%1\".")
+            *error = SurveyText::tr("There are two columns \"%1\".")
                          .arg(QLatin1String(SurveyFields::all()[size_t(column)].title));
         if (column < 0 && !title.trimmed().isEmpty())
             header.m_ignored.append(title.simplified());
@@ -40,7 +34,7 @@ SurveyHeader SurveyHeader::read(const QStringList& titles, QString* error)
     }
     // The titles are not repeated: without a header they would be the first camera with its password.
     if (!header.m_columns.contains(int(SurveyColumn::Address)))
-        *error = say("There is no column \"address\". The first line must name the columns.");
+        *error = SurveyText::tr("There is no column \"address\". The first line must name the columns.");
     return header;
 }
 
@@ -50,14 +44,14 @@ SurveyRow SurveyRow::read(const SurveyHeader& header, const QStringList& cells, 
     for (int i = 0; i < cells.size(); ++i) {
         const int column = i < header.m_columns.size() ? header.m_columns.at(i) : -1;
         if (i >= header.m_columns.size() && !cells.at(i).trimmed().isEmpty())
-            *reason = say("there are more cells than columns");
+            *reason = SurveyText::tr("there are more cells than columns");
         if (column < 0)
             continue;
         const SurveyField& field = SurveyFields::all()[size_t(column)];
         QString badCell;
         row.m_values[column] = field.normalised(cells.at(i), &badCell);
         if (!badCell.isEmpty() && reason->isEmpty())
-            *reason = say("bad %1: %2").arg(QLatin1String(field.title), badCell);
+            *reason = SurveyText::tr("bad %1: %2").arg(QLatin1String(field.title), badCell);
     }
     if (reason->isEmpty() && !row.isEmpty())
         *reason = row.contradiction();
@@ -101,10 +95,10 @@ void SurveyRow::describe(NodeHintIPDevice& hint) const
 QString SurveyRow::contradiction() const
 {
     if (!has(SurveyColumn::Address) && !has(SurveyColumn::Name))
-        return say("there is neither a name nor an address");
+        return SurveyText::tr("there is neither a name nor an address");
     const int type = has(SurveyColumn::Type) ? value(SurveyColumn::Type).toInt() : int(ChannelDeviceType);
     if (has(SurveyColumn::Channel) && (type == IPDeviceType || type == UrlCameraType))
-        return say("a device of this type has no channels");
+        return SurveyText::tr("a device of this type has no channels");
     return QString();
 }
 

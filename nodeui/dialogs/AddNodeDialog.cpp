@@ -8,6 +8,7 @@
 #include "ko/NodeHint.h"
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
+#include "utils/Retranslation.h"
 
 #include "ui_AddNodeDialog.h"
 
@@ -21,6 +22,7 @@ AddNodeDialog::AddNodeDialog(void* context, QWidget* parent, const QList<ENodeTy
     , m_flags(flags)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslate(); });
     QPushButton* okButton = m_ui->buttonBox->button(QDialogButtonBox::Ok);
     okButton->setDefault(true);
     okButton->setAutoDefault(true);
@@ -59,7 +61,24 @@ void AddNodeDialog::setInspectorFromIndex(int index)
     const ENodeType type = ENodeType(m_ui->nodeTypeComboBox->itemData(index).toInt());
     createInspector(type);
     adjustSize();
+    showTitle();
+}
+
+void AddNodeDialog::showTitle()
+{
+    const ENodeType type =
+        ENodeType(m_ui->nodeTypeComboBox->itemData(m_ui->nodeTypeComboBox->currentIndex()).toInt());
     setTitle(tr("Add %1"), NodeDB::getDB()->readableNodeTypeName(type));
+}
+
+void AddNodeDialog::retranslate()
+{
+    retranslateForm(*m_ui, this);
+    QComboBox* types = m_ui->nodeTypeComboBox;
+    for (int i = 0; i < types->count(); ++i)
+        types->setItemText(i, NodeDB::getDB()->readableNodeTypeName(ENodeType(types->itemData(i).toInt())));
+    if (types->currentIndex() >= 0)
+        showTitle();
 }
 
 void AddNodeDialog::removeInspector()

@@ -2,6 +2,7 @@
 #define KO_ADDNODEDIALOG_H
 
 #include "dialogs/NodeDialog.h"
+#include "ko/TrContext.h"
 #include "ko/Types.h"
 #include "kom/smart.h"
 
@@ -23,6 +24,7 @@ class NodeHint;
 class KO_NODEUI_EXPORT AddNodeDialog : public NodeDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(AddNodeDialog)
 
 public:
     /// \a context goes into the hint and is how the dialog knows its node again, so it should be unlike
@@ -44,6 +46,8 @@ private:
 
     void fillTypes(const QList<ENodeType>* types, bool sorted);
     void removeInspector();
+    void showTitle();
+    void retranslate();
     void createInspector(ENodeType type);
 
     void* const m_context;

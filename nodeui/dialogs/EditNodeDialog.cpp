@@ -6,6 +6,7 @@
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
+#include "utils/Retranslation.h"
 #include "utils/WindowTitle.h"
 
 #include "ui_EditNodeDialog.h"
@@ -39,15 +40,24 @@ EditNodeDialog::EditNodeDialog(const QString& id, QWidget* parent, bool readOnly
              {QDialogButtonBox::Apply, QDialogButtonBox::Cancel})
             removeFrom(m_ui->buttonBox, m_ui->buttonBox->button(which));
     }
-    const kom::smart<const Node> node = NodeDB::getDB()->node(id);
-    if (!node.null())
-        setTitle(tr("Properties of %1"), calledInTitles(*node));
+    showTitle(id);
+    onLanguageChange(this, [this, id] {
+        retranslateForm(*m_ui, this);
+        showTitle(id);
+    });
     setEnvironmentRow(m_ui->environmentLabel, m_ui->environmentComboBox, m_ui->proxyPushButton, flags);
     setInspectorWidget(id, readOnly, flags, layoutAdapter);
     adjustSize();
 }
 
 EditNodeDialog::~EditNodeDialog() = default;
+
+void EditNodeDialog::showTitle(const QString& id)
+{
+    const kom::smart<const Node> node = NodeDB::getDB()->node(id);
+    if (!node.null())
+        setTitle(tr("Properties of %1"), calledInTitles(*node));
+}
 
 void EditNodeDialog::setInspectorWidget(const QString& id, bool readOnly, unsigned flags,
                                         const ILayoutAdapter* layoutAdapter)

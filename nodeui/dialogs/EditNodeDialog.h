@@ -2,6 +2,7 @@
 #define KO_EDITNODEDIALOG_H
 
 #include "dialogs/NodeDialog.h"
+#include "ko/TrContext.h"
 
 #include <QScopedPointer>
 
@@ -20,6 +21,7 @@ class ILayoutAdapter;
 class KO_NODEUI_EXPORT EditNodeDialog : public NodeDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(EditNodeDialog)
 
 public:
     /// Read-only, only OK is there. \a flags: see NodeDialog::Flag. \a layoutAdapter supplies the layouts
@@ -31,6 +33,7 @@ public:
 private:
     Q_DISABLE_COPY(EditNodeDialog)
 
+    void showTitle(const QString& id);
     void setInspectorWidget(const QString& id, bool readOnly, unsigned flags,
                             const ILayoutAdapter* layoutAdapter);
     void fillLayoutLists(const ILayoutAdapter* layoutAdapter);

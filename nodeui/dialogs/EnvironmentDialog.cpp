@@ -5,6 +5,7 @@
 #include "ko/RowHeightDelegate.h"
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
+#include "utils/Retranslation.h"
 
 #include "ui_EnvironmentDialog.h"
 
@@ -27,6 +28,7 @@ EnvironmentDialog::EnvironmentDialog(QWidget* parent, Qt::WindowFlags flags)
     , m_ui(new Ui::EnvironmentDialog)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
     m_ui->listWidget->setItemDelegate(new RowHeightDelegate(rowHeight, nullptr, nullptr));
     m_ui->listWidget->itemDelegate()->setParent(m_ui->listWidget); // a view does not own its delegate
     QShortcut* remove = new QShortcut(QKeySequence(QKeySequence::Delete), m_ui->listWidget);

@@ -2,6 +2,7 @@
 #define KO_ENVIRONMENTDIALOG_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 #include <QScopedPointer>
@@ -21,6 +22,7 @@ namespace ko {
 class KO_NODEUI_EXPORT EnvironmentDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(EnvironmentDialog)
 
 public:
     /// Without \a flags the dialog takes dialogFlags(false).

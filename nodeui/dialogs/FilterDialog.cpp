@@ -1,6 +1,7 @@
 #include "dialogs/FilterDialog.h"
 
 #include "ko/NodeDB.h"
+#include "utils/Retranslation.h"
 
 #include "ui_FilterDialog.h"
 
@@ -16,6 +17,11 @@ FilterDialog::FilterDialog(QWidget* parent)
         QListWidgetItem* item = new QListWidgetItem(type.second, m_ui->listWidget);
         item->setCheckState(Qt::Checked);
     }
+    onLanguageChange(this, [this, types] {
+        m_ui->retranslateUi(this);
+        for (int row = 0; row < types.size(); ++row)
+            m_ui->listWidget->item(row)->setText(NodeDB::getDB()->readableNodeTypeName(types.at(row).first));
+    });
 }
 
 FilterDialog::~FilterDialog() = default;

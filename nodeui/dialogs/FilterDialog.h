@@ -1,6 +1,8 @@
 #ifndef KO_FILTERDIALOG_H
 #define KO_FILTERDIALOG_H
 
+#include "ko/TrContext.h"
+
 #include <QDialog>
 #include <QScopedPointer>
 
@@ -14,6 +16,7 @@ namespace ko {
 class FilterDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(FilterDialog)
 
 public:
     explicit FilterDialog(QWidget* parent);

@@ -2,6 +2,7 @@
 
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
+#include "utils/Retranslation.h"
 
 #include "ui_GenericNodeViewer.h"
 
@@ -14,11 +15,15 @@ GenericNodeViewer::GenericNodeViewer(const QString& id, QWidget* parent)
     , m_ui(new Ui::GenericNodeViewer)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this, id] {
+        retranslateForm(*m_ui, this);
+        showType(id);
+    });
 
     const kom::smart<const Node> node = NodeDB::getDB()->node(id);
     if (node.null())
         return;
-    m_ui->nodeTypeLineEdit->setText(NodeDB::getDB()->readableNodeTypeName(node->type));
+    showType(id);
     m_ui->nodeNameLineEdit->setText(node->name());
 
     const kogen::PropertySet& properties = node->properties();
@@ -35,6 +40,13 @@ GenericNodeViewer::GenericNodeViewer(const QString& id, QWidget* parent)
 }
 
 GenericNodeViewer::~GenericNodeViewer() = default;
+
+void GenericNodeViewer::showType(const QString& id)
+{
+    const kom::smart<const Node> node = NodeDB::getDB()->node(id);
+    if (!node.null())
+        m_ui->nodeTypeLineEdit->setText(NodeDB::getDB()->readableNodeTypeName(node->type));
+}
 
 void GenericNodeViewer::keyPressEvent(QKeyEvent* event)
 {

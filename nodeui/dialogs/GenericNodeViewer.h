@@ -2,6 +2,7 @@
 #define KO_GENERICNODEVIEWER_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QScopedPointer>
 #include <QWidget>
@@ -19,6 +20,7 @@ namespace ko {
 class KO_NODEUI_EXPORT GenericNodeViewer : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(GenericNodeViewer)
 
 public:
     GenericNodeViewer(const QString& id, QWidget* parent);
@@ -29,6 +31,8 @@ protected:
 
 private:
     Q_DISABLE_COPY(GenericNodeViewer)
+
+    void showType(const QString& id);
 
     const QScopedPointer<Ui::GenericNodeViewer> m_ui;
 };

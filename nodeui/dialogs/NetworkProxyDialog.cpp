@@ -1,6 +1,7 @@
 #include "dialogs/NetworkProxyDialog.h"
 
 #include "ui_NetworkProxyDialog.h"
+#include "utils/Retranslation.h"
 
 namespace ko {
 
@@ -9,6 +10,7 @@ NetworkProxyDialog::NetworkProxyDialog(QWidget* parent, Qt::WindowFlags flags)
     , m_ui(new Ui::NetworkProxyDialog)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
     m_ui->proxyWidget->setup();
 }
 

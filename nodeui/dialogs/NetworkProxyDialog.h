@@ -2,6 +2,7 @@
 #define KO_NETWORKPROXYDIALOG_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 #include <QScopedPointer>
@@ -16,6 +17,7 @@ namespace ko {
 class KO_NODEUI_EXPORT NetworkProxyDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NetworkProxyDialog)
 
 public:
     explicit NetworkProxyDialog(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());

@@ -4,6 +4,7 @@
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
 #include "utils/ProxyFields.h"
+#include "utils/Retranslation.h"
 
 #include "ui_NetworkProxyWidget.h"
 
@@ -28,11 +29,12 @@ NetworkProxyWidget::NetworkProxyWidget(QWidget* parent)
     , m_ui(new Ui::NetworkProxyWidget)
 {
     m_ui->setupUi(this);
-    // In the context of the form, so that translators find its texts in one place.
-    m_ui->exceptionsLineEdit->setToolTip(QCoreApplication::translate(
-        "NetworkProxyWidget",
-        "Enter hosts and domains for which proxy settings should not be used.<br>Use semicolon (;) as "
-        "separator and asterisk (*) for wildcards, e.g.:<br><b>*.example.org; 10.*; 192.168.*</b>"));
+    setTranslated(this, [this] {
+        retranslateForm(*m_ui, this);
+        m_ui->exceptionsLineEdit->setToolTip(
+            tr("Enter hosts and domains for which proxy settings should not be used.<br>Use semicolon (;) as "
+               "separator and asterisk (*) for wildcards, e.g.:<br><b>*.example.org; 10.*; 192.168.*</b>"));
+    });
 }
 
 NetworkProxyWidget::~NetworkProxyWidget() = default;

@@ -2,6 +2,7 @@
 #define KO_NETWORKPROXYWIDGET_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QScopedPointer>
 #include <QWidget>
@@ -17,6 +18,7 @@ namespace ko {
 class KO_NODEUI_EXPORT NetworkProxyWidget : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NetworkProxyWidget)
 
 public:
     explicit NetworkProxyWidget(QWidget* parent = nullptr);

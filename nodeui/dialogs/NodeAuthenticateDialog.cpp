@@ -3,6 +3,7 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/QtCompat.h"
+#include "utils/Retranslation.h"
 
 #include "ui_NodeAuthenticateDialog.h"
 
@@ -21,13 +22,12 @@ NodeAuthenticateDialog::NodeAuthenticateDialog(QWidget* parent, const QStringLis
     , m_nodeIds(nodeIds)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] {
+        retranslateForm(*m_ui, this);
+        showNames();
+    });
+    showNames();
     if (!m_nodeIds.isEmpty()) {
-        QString text = m_ui->cameraLabel->text();
-        const QString place = QLatin1String("%1");
-        const int index = int(text.indexOf(place));
-        if (index >= 0)
-            text.replace(index, place.size(), nodeNames(m_nodeIds)); // a name may hold "%1" too
-        m_ui->cameraLabel->setText(text);
         const kom::smart<const IPDeviceNode> first = deviceNode(m_nodeIds.first());
         if (!first.null()) {
             m_ui->userNameLineEdit->setText(first->user(1));
@@ -40,6 +40,18 @@ NodeAuthenticateDialog::NodeAuthenticateDialog(QWidget* parent, const QStringLis
 }
 
 NodeAuthenticateDialog::~NodeAuthenticateDialog() = default;
+
+void NodeAuthenticateDialog::showNames()
+{
+    if (m_nodeIds.isEmpty())
+        return;
+    QString text = m_ui->cameraLabel->text();
+    const QString place = QLatin1String("%1");
+    const int index = int(text.indexOf(place));
+    if (index >= 0)
+        text.replace(index, place.size(), nodeNames(m_nodeIds)); // a name may hold "%1" too
+    m_ui->cameraLabel->setText(text);
+}
 
 QString NodeAuthenticateDialog::nodeNames(const QStringList& nodeIds)
 {

@@ -2,6 +2,7 @@
 #define KO_NODEAUTHENTICATEDIALOG_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 #include <QScopedPointer>
@@ -20,6 +21,7 @@ namespace ko {
 class KO_NODEUI_EXPORT NodeAuthenticateDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NodeAuthenticateDialog)
 
 public:
     NodeAuthenticateDialog(QWidget* parent, const QStringList& nodeIds, Qt::WindowFlags flags);
@@ -34,6 +36,8 @@ public slots:
 
 private:
     Q_DISABLE_COPY(NodeAuthenticateDialog)
+
+    void showNames();
 
     const QScopedPointer<Ui::NodeAuthenticateDialog> m_ui;
     const QStringList m_nodeIds;

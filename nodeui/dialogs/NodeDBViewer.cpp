@@ -4,6 +4,7 @@
 #include "ko/Node.h"
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
+#include "utils/Retranslation.h"
 
 #include "ui_NodeDBViewer.h"
 
@@ -78,6 +79,7 @@ NodeDBViewer::NodeDBViewer(QWidget* parent)
     , m_proxy(new QSortFilterProxyModel)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
     m_proxy->setSourceModel(m_model);
     m_ui->nodesTableView->setModel(m_proxy);
 

@@ -2,6 +2,7 @@
 #define KO_NODEDBVIEWER_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include "ko/NodeViewModel.h"
 
@@ -23,6 +24,7 @@ namespace ko {
 class KO_NODEUI_EXPORT NodeDBViewer : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NodeDBViewer)
 
 public:
     class ViewerModel;

@@ -7,6 +7,7 @@
 #include "ko/NodeDB.h"
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
+#include "utils/Retranslation.h"
 #include "utils/WindowTitle.h"
 
 #include <QComboBox>
@@ -44,6 +45,9 @@ void NodeDialog::setEnvironmentRow(QLabel* label, QComboBox* comboBox, QPushButt
     setEnvironmentComboBox(comboBox);
     if (flags & EnvironmentControls) {
         setEnvironmentMenu();
+        onLanguageChange(comboBox, [comboBox] { // whose last entry is no environment
+            comboBox->setItemText(comboBox->count() - 1, tr("Edit Environments..."));
+        });
         ko::connect(comboBox, SIGNAL(currentIndexChanged(int)), this, SLOT(environmentChanged(int)));
         ko::connect(proxyButton, SIGNAL(clicked()), this, SLOT(editProxy()));
         return;

@@ -2,6 +2,7 @@
 #define KO_NODEDIALOG_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 
@@ -22,6 +23,7 @@ class InspectorWidget;
 class KO_NODEUI_EXPORT NodeDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NodeDialog)
 
 public:
     /// Bits of the flags word of the derived dialogs. The whole word reaches the inspector, which may

@@ -6,6 +6,7 @@
 #include "ko/NodeDB.h"
 #include "ko/NodeViewModel.h"
 #include "ko/connect.h"
+#include "utils/Retranslation.h"
 
 #include "ui_NodeOverviewDialog.h"
 
@@ -23,6 +24,7 @@ NodeOverviewDialog::NodeOverviewDialog(QWidget* parent)
     m_proxy.reset(new QSortFilterProxyModel);
     m_proxy->setSourceModel(m_model.data());
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
     // Nodes stand in the order in which they arrive until a header is clicked.
     m_ui->nodesTreeView->sortByColumn(-1, Qt::AscendingOrder);
     m_ui->nodesTreeView->setModel(m_proxy.data());

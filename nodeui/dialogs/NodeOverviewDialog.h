@@ -2,6 +2,7 @@
 #define KO_NODEOVERVIEWDIALOG_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include "ko/Types.h"
 #include "kom/smart.h"
@@ -30,6 +31,7 @@ class NodeViewModel;
 class KO_NODEUI_EXPORT NodeOverviewDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NodeOverviewDialog)
 
 public:
     explicit NodeOverviewDialog(QWidget* parent = nullptr);

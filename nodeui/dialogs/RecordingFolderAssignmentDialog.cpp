@@ -10,6 +10,7 @@
 #include "ko/connect.h"
 #include "utils/FileDialogs.h"
 #include "utils/NodeDBUtils.h"
+#include "utils/Retranslation.h"
 #include "utils/WindowTitle.h"
 
 #include "ui_RecordingFolderAssignmentDialog.h"
@@ -35,30 +36,62 @@ RecordingFolderAssignmentDialog::RecordingFolderAssignmentDialog(const QString& 
     , m_cameraId(cameraId)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslate(); });
     m_table.reset(new RecordingFolderTable(m_ui->relatedNodesWidget));
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     const kom::smart<const Node> camera = NodeDB::getDB()->node(m_cameraId);
-    if (!camera.null()) {
-        setWindowTitle(tr("Access Recordings of %1").arg(inWindowTitle(calledInTitles(*camera))));
+    if (!camera.null())
         showUsage(camera->intProperty(PropertyKeys::RecordingStorageUsage, ViaCamera));
-    }
+    showNames();
     showCameraType();
 
     m_ui->recordingFoldersGroupBox->hide();
     m_table->fill(m_cameraId);
 
-    const QMargins margins = layout()->contentsMargins();
-    const int content = margins.top() + m_ui->groupBox->sizeHint().height() +
-                        m_ui->buttonBox->sizeHint().height() + margins.bottom();
-    // layout()->spacing() is -1 in a style that has another one for each pair of widgets.
-    const int spacing = layout()->sizeHint().height() - m_ui->verticalSpacer_3->sizeHint().height() - content;
-    m_collapsedHeight = content + 2 * spacing;
+    measure();
     setFixedHeight(m_collapsedHeight);
     resize(sizeHint().width(), m_collapsedHeight); // the group box may be narrower than its texts
     connectAll();
 }
 
 RecordingFolderAssignmentDialog::~RecordingFolderAssignmentDialog() = default;
+
+/// The height without the table.
+void RecordingFolderAssignmentDialog::measure()
+{
+    const QMargins margins = layout()->contentsMargins();
+    const int content = margins.top() + m_ui->groupBox->sizeHint().height() +
+                        m_ui->buttonBox->sizeHint().height() + margins.bottom();
+    // layout()->spacing() is -1 in a style that has another one for each pair of widgets.
+    const int spacing = layout()->sizeHint().height() - m_ui->verticalSpacer_3->sizeHint().height() - content;
+    m_collapsedHeight = content + 2 * spacing;
+}
+
+bool RecordingFolderAssignmentDialog::isIpCamera() const
+{
+    const kom::smart<const Node> camera = NodeDB::getDB()->node(m_cameraId);
+    return !camera.null() && camera->intProperty(PropertyKeys::NodeType, 0) == IPDeviceType;
+}
+
+void RecordingFolderAssignmentDialog::showNames()
+{
+    const kom::smart<const Node> camera = NodeDB::getDB()->node(m_cameraId);
+    if (!camera.null())
+        setWindowTitle(tr("Access Recordings of %1").arg(inWindowTitle(calledInTitles(*camera))));
+    if (!isIpCamera()) // only IP cameras serve recordings themselves
+        m_ui->viaCameraRadioButton->setText(tr("No recording folder"));
+}
+
+void RecordingFolderAssignmentDialog::retranslate()
+{
+    retranslateForm(*m_ui, this);
+    showNames();
+    const bool isCollapsed = m_ui->recordingFoldersGroupBox->isHidden();
+    m_ui->moreButton->setText(isCollapsed ? tr("More...") : tr("Less..."));
+    measure();
+    if (isCollapsed)
+        setFixedHeight(m_collapsedHeight);
+}
 
 void RecordingFolderAssignmentDialog::connectAll()
 {
@@ -140,13 +173,10 @@ void RecordingFolderAssignmentDialog::showFirstFolder()
     m_folderId = id;
 }
 
-/// Only IP cameras serve recordings themselves.
 void RecordingFolderAssignmentDialog::showCameraType()
 {
     const kom::smart<const Node> camera = NodeDB::getDB()->node(m_cameraId);
-    const int type = camera.null() ? 0 : camera->intProperty(PropertyKeys::NodeType, 0);
-    if (type != IPDeviceType) {
-        m_ui->viaCameraRadioButton->setText(tr("No recording folder"));
+    if (!isIpCamera()) {
         m_ui->globalPathRadioButton->setEnabled(false);
         m_ui->recordingTransponderCheckBox->setChecked(false);
     } else {

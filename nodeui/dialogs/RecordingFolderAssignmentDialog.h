@@ -2,6 +2,7 @@
 #define KO_RECORDINGFOLDERASSIGNMENTDIALOG_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 #include "ko/Types.h"
 
 #include <QDialog>
@@ -24,6 +25,7 @@ class RecordingFolderTable;
 class KO_NODEUI_EXPORT RecordingFolderAssignmentDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(RecordingFolderAssignmentDialog)
 
 public:
     RecordingFolderAssignmentDialog(const QString& cameraId, QWidget* parent);
@@ -50,6 +52,10 @@ private slots:
 private:
     Q_DISABLE_COPY(RecordingFolderAssignmentDialog)
 
+    void measure();
+    bool isIpCamera() const;
+    void showNames();
+    void retranslate();
     void showUsage(int usage);
     void showFirstFolder();
     void showCameraType();

@@ -7,6 +7,7 @@
 #include "ko/connect.h"
 #include "utils/FileDialogs.h"
 #include "utils/NodeDBUtils.h"
+#include "utils/Retranslation.h"
 
 #include "ui_RecordingFolderMassAssignmentDialog.h"
 
@@ -52,10 +53,12 @@ RecordingFolderMassAssignmentDialog::RecordingFolderMassAssignmentDialog(QWidget
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     // Not in the form: what is made in a disabled box stays unknown to screen readers.
     m_ui->specificPathGroupBox->setEnabled(m_ui->specificFileServerPathRadioButton->isChecked());
+    onLanguageChange(this, [this] {
+        retranslateForm(*m_ui, this);
+        showNames();
+    });
+    showNames();
     if (!m_cameraIds.isEmpty()) {
-        const QString text = tr("<p><b>Select how %2 should access the recordings of:</b></p><ul>%1</ul>");
-        m_ui->cameraLabel->setText(
-            text.arg(nodeNames(m_cameraIds), htmlEscaped(QCoreApplication::applicationName())));
         const kom::smart<const Node> first = NodeDB::getDB()->node(m_cameraIds.first());
         if (!first.null()) {
             const int usage = first->intProperty(PropertyKeys::RecordingStorageUsage, ViaCamera);
@@ -74,6 +77,15 @@ RecordingFolderMassAssignmentDialog::RecordingFolderMassAssignmentDialog(QWidget
 }
 
 RecordingFolderMassAssignmentDialog::~RecordingFolderMassAssignmentDialog() = default;
+
+void RecordingFolderMassAssignmentDialog::showNames()
+{
+    if (m_cameraIds.isEmpty())
+        return;
+    const QString text = tr("<p><b>Select how %2 should access the recordings of:</b></p><ul>%1</ul>");
+    m_ui->cameraLabel->setText(
+        text.arg(nodeNames(m_cameraIds), htmlEscaped(QCoreApplication::applicationName())));
+}
 
 QString RecordingFolderMassAssignmentDialog::nodeNames(const QStringList& cameraIds)
 {

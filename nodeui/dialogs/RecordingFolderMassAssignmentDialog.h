@@ -2,6 +2,7 @@
 #define KO_RECORDINGFOLDERMASSASSIGNMENTDIALOG_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 #include <QScopedPointer>
@@ -21,6 +22,7 @@ namespace ko {
 class KO_NODEUI_EXPORT RecordingFolderMassAssignmentDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(RecordingFolderMassAssignmentDialog)
 
 public:
     RecordingFolderMassAssignmentDialog(QWidget* parent, const QStringList& cameraIds, Qt::WindowFlags flags);
@@ -40,6 +42,7 @@ private slots:
 private:
     Q_DISABLE_COPY(RecordingFolderMassAssignmentDialog)
 
+    void showNames();
     int storageUsage() const;
     void configure(const QString& cameraId) const;
 

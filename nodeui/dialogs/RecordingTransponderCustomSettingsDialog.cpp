@@ -8,6 +8,7 @@
 #include "ko/dialogFlags.h"
 #include "utils/Fields.h"
 #include "utils/NodeDBUtils.h"
+#include "utils/Retranslation.h"
 
 #include "ui_RecordingTransponderCustomSettingsDialog.h"
 
@@ -96,6 +97,7 @@ void nameLike(QComboBox* comboBox, const QCheckBox* checkBox)
     QLabel* label = new QLabel(checkBox->text(), comboBox->parentWidget());
     label->setBuddy(comboBox);
     label->hide();
+    onLanguageChange(label, [label, checkBox] { label->setText(checkBox->text()); });
 }
 
 } // namespace
@@ -107,6 +109,7 @@ RecordingTransponderCustomSettingsDialog::RecordingTransponderCustomSettingsDial
     , m_nodeId(nodeId)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
     m_ui->qualityComboBox->addItems(NodeDBUtils::sm_Qualities);
     m_ui->framerateComboBox->addItems(NodeDBUtils::sm_Framerates);
     m_ui->resolutionComboBox->addItems(NodeDBUtils::sm_Resolutions);

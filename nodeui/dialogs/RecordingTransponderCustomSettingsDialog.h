@@ -2,6 +2,7 @@
 #define KO_RECORDINGTRANSPONDERCUSTOMSETTINGSDIALOG_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QDialog>
 #include <QScopedPointer>
@@ -22,6 +23,7 @@ class Node;
 class KO_NODEUI_EXPORT RecordingTransponderCustomSettingsDialog : public QDialog
 {
     Q_OBJECT
+    KO_TR_CONTEXT(RecordingTransponderCustomSettingsDialog)
 
 public:
     /// \a nodeId: the node of the remote preview server; one that is missing gives an empty form.

@@ -7,7 +7,7 @@ namespace ko {
 namespace {
 
 // Not an array: the macro puts the text in parentheses in Qt 4.8.
-const char* const titleText = QT_TRANSLATE_NOOP("ko::LogEntry", "Changed device name");
+const char* const titleText = QT_TRANSLATE_NOOP("LogEntry", "Changed device name");
 
 LogEntry* create()
 {

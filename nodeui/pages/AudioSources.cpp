@@ -69,6 +69,14 @@ QString AudioSources::idAt(int row) const
     return QString();
 }
 
+void AudioSources::setSelfName(const QString& name)
+{
+    m_selfName = name;
+    const int row = rowOf(m_self);
+    if (row >= 0)
+        emit dataChanged(index(row), index(row));
+}
+
 int AudioSources::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : m_rows;

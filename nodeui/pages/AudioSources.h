@@ -21,6 +21,8 @@ public:
     /// whether the node itself is one of them.
     void append(QStringList ids, bool hasSelf);
 
+    void setSelfName(const QString& name);
+
     /// The first row of the node; -1 if it has none.
     int rowOf(const QString& id) const;
 
@@ -42,7 +44,7 @@ private:
     QString idAt(int row) const;
 
     const QString m_self;
-    const QString m_selfName;
+    QString m_selfName;
     QList<Section> m_sections;
     int m_rows;
 };

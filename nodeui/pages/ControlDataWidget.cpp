@@ -3,6 +3,7 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/NodeHintIPDevice.h"
+#include "utils/Retranslation.h"
 
 #include "ui_ControlDataWidget.h"
 
@@ -13,6 +14,7 @@ ControlDataWidget::ControlDataWidget(QWidget* parent)
     , m_ui(new Ui::ControlDataWidget)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
 }
 
 ControlDataWidget::~ControlDataWidget() = default;

@@ -2,6 +2,7 @@
 #define KO_CONTROLDATAWIDGET_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include "ko/Types.h"
 
@@ -24,6 +25,7 @@ class NodeHint;
 class KO_NODEUI_EXPORT ControlDataWidget : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(ControlDataWidget)
 
 public:
     explicit ControlDataWidget(QWidget* parent);

@@ -4,6 +4,7 @@
 #include "ko/NodeHintIPDevice.h"
 #include "ko/connect.h"
 #include "utils/ProxyFields.h"
+#include "utils/Retranslation.h"
 
 #include "ui_CustomNetworkProxyWidget.h"
 
@@ -25,6 +26,7 @@ CustomNetworkProxyWidget::CustomNetworkProxyWidget(QWidget* parent)
     , m_ui(new Ui::CustomNetworkProxyWidget)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
     ko::connect(m_ui->customProxyCheckBox, SIGNAL(stateChanged(int)), this, SLOT(checkBoxStateChanged(int)));
 }
 

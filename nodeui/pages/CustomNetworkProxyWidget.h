@@ -2,6 +2,7 @@
 #define KO_CUSTOMNETWORKPROXYWIDGET_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QScopedPointer>
 #include <QWidget>
@@ -22,6 +23,7 @@ class NodeHint;
 class KO_NODEUI_EXPORT CustomNetworkProxyWidget : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(CustomNetworkProxyWidget)
 
 public:
     explicit CustomNetworkProxyWidget(QWidget* parent = nullptr);

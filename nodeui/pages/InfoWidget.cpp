@@ -5,6 +5,7 @@
 #include "ko/PropertyKeys.h"
 #include "kogen/Property.h"
 #include "utils/Fields.h"
+#include "utils/Retranslation.h"
 
 #include "ui_InfoWidget.h"
 
@@ -48,6 +49,11 @@ InfoWidget::InfoWidget(QWidget* parent)
     , m_ui(new Ui::InfoWidget)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] {
+        retranslateForm(*m_ui, this);
+        if (m_isFactoryIPUnknown)
+            m_ui->factoryIPLineEdit->setText(tr("<Unknown>"));
+    });
 }
 
 InfoWidget::~InfoWidget() = default;
@@ -74,7 +80,8 @@ void InfoWidget::init(QString nodeId)
     // The dots of the factory address are stored as underscores.
     QString factoryIP = device->stringProperty(PropertyKeys::FactoryIP, QString());
     factoryIP.replace(QLatin1Char('_'), QLatin1Char('.'));
-    m_ui->factoryIPLineEdit->setText(factoryIP.isEmpty() ? tr("<Unknown>") : factoryIP);
+    m_isFactoryIPUnknown = factoryIP.isEmpty();
+    m_ui->factoryIPLineEdit->setText(m_isFactoryIPUnknown ? tr("<Unknown>") : factoryIP);
 }
 
 void InfoWidget::accept(Node* node)

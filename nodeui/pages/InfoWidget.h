@@ -2,6 +2,7 @@
 #define KO_INFOWIDGET_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QScopedPointer>
 #include <QWidget>
@@ -23,6 +24,7 @@ class NodeHint;
 class KO_NODEUI_EXPORT InfoWidget : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(InfoWidget)
 
 public:
     explicit InfoWidget(QWidget* parent);
@@ -38,6 +40,7 @@ private:
     Q_DISABLE_COPY(InfoWidget)
 
     const QScopedPointer<Ui::InfoWidget> m_ui;
+    bool m_isFactoryIPUnknown = false;
 };
 
 } // namespace ko

@@ -7,6 +7,7 @@
 #include "pages/AudioSources.h"
 #include "utils/Fields.h"
 #include "utils/FileDialogs.h"
+#include "utils/Retranslation.h"
 
 #include "ui_LayoutOptionsWidget.h"
 
@@ -36,6 +37,7 @@ LayoutOptionsWidget::LayoutOptionsWidget(QWidget* parent)
     , m_ui(new Ui::LayoutOptionsWidget)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslate(); });
     // Sizes that follow the texts, or rows of different heights, would be looked up for every camera.
     m_ui->audioPathIdComboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_ui->audioPathIdComboBox->setMinimumContentsLength(namesLength);
@@ -44,6 +46,17 @@ LayoutOptionsWidget::LayoutOptionsWidget(QWidget* parent)
 }
 
 LayoutOptionsWidget::~LayoutOptionsWidget() = default;
+
+/// The names of the layouts are the host's.
+void LayoutOptionsWidget::retranslate()
+{
+    retranslateForm(*m_ui, this);
+    const int undefined = m_ui->preferredLayoutComboBox->findData(noLayout);
+    if (undefined >= 0)
+        m_ui->preferredLayoutComboBox->setItemText(undefined, tr("Not defined"));
+    if (AudioSources* sources = qobject_cast<AudioSources*>(m_ui->audioPathIdComboBox->model()))
+        sources->setSelfName(tr("Self"));
+}
 
 void LayoutOptionsWidget::init(const NodeHint*) {}
 

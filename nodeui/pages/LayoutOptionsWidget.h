@@ -2,6 +2,7 @@
 #define KO_LAYOUTOPTIONSWIDGET_H
 
 #include "inspector/LayoutListPage.h"
+#include "ko/TrContext.h"
 
 #include <QScopedPointer>
 #include <QWidget>
@@ -24,6 +25,7 @@ class NodeHint;
 class KO_NODEUI_EXPORT LayoutOptionsWidget : public QWidget, public LayoutListPage
 {
     Q_OBJECT
+    KO_TR_CONTEXT(LayoutOptionsWidget)
 
 public:
     explicit LayoutOptionsWidget(QWidget* parent);
@@ -44,6 +46,8 @@ private slots:
 
 private:
     Q_DISABLE_COPY(LayoutOptionsWidget)
+
+    void retranslate();
 
     const QScopedPointer<Ui::LayoutOptionsWidget> m_ui;
     QString m_nodeId;

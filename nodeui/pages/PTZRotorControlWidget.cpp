@@ -5,6 +5,7 @@
 #include "ko/PropertyKeys.h"
 #include "ko/connect.h"
 #include "utils/Fields.h"
+#include "utils/Retranslation.h"
 
 #include "ui_PTZRotorControlWidget.h"
 
@@ -22,14 +23,14 @@ struct HeadType
 
 // 4 is no longer offered.
 const HeadType headTypes[] = {
-    {0, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "No pan/tilt head")},
-    {1, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "Videotronic SN-15AH")},
-    {2, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "Provitek")},
-    {3, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "VPT42/VPT501")},
-    {5, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "Provitek PT2")},
-    {6, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "Provitek PT3")},
-    {7, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "Provitek PT4")},
-    {addressedHead, QT_TRANSLATE_NOOP("ko::PTZRotorControlWidget", "Pelco D")},
+    {0, QT_TRANSLATE_NOOP("PTZRotorControlWidget", "No pan/tilt head")},
+    {1, QT_TRANSLATE_NOOP("PTZRotorControlWidget", "Videotronic SN-15AH")},
+    {2, QT_TRANSLATE_NOOP("PTZRotorControlWidget", "Provitek")},
+    {3, QT_TRANSLATE_NOOP("PTZRotorControlWidget", "VPT42/VPT501")},
+    {5, QT_TRANSLATE_NOOP("PTZRotorControlWidget", "Provitek PT2")},
+    {6, QT_TRANSLATE_NOOP("PTZRotorControlWidget", "Provitek PT3")},
+    {7, QT_TRANSLATE_NOOP("PTZRotorControlWidget", "Provitek PT4")},
+    {addressedHead, QT_TRANSLATE_NOOP("PTZRotorControlWidget", "Pelco D")},
 };
 
 struct Flag
@@ -51,6 +52,11 @@ PTZRotorControlWidget::PTZRotorControlWidget(QWidget* parent)
     , m_ui(new Ui::PTZRotorControlWidget)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] {
+        retranslateForm(*m_ui, this);
+        for (int i = 0; i < m_ui->typeComboBox->count(); ++i)
+            m_ui->typeComboBox->setItemText(i, tr(headTypes[i].name));
+    });
     // The texts that SIGNAL() and SLOT() make, written out because the blank is part of the signal's.
     ko::connect(m_ui->typeComboBox, "2currentIndexChanged (int)", this, "1enableRotorHeadSettings(int)");
 }

@@ -4,6 +4,7 @@
 #include "ko/NodeDB.h"
 #include "ko/PropertyKeys.h"
 #include "utils/Fields.h"
+#include "utils/Retranslation.h"
 
 #include "ui_PTZUrlsWidget.h"
 
@@ -36,6 +37,7 @@ PTZUrlsWidget::PTZUrlsWidget(QWidget* parent)
     , m_ui(new Ui::PTZUrlsWidget)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
 }
 
 PTZUrlsWidget::~PTZUrlsWidget() = default;

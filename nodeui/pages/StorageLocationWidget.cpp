@@ -5,6 +5,7 @@
 #include "ko/NodeDB.h"
 #include "ko/PropertyKeys.h"
 #include "ko/connect.h"
+#include "utils/Retranslation.h"
 
 #include "ui_StorageLocationWidget.h"
 
@@ -28,6 +29,10 @@ StorageLocationWidget::StorageLocationWidget(QWidget* parent)
     , m_ui(new Ui::StorageLocationWidget)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] {
+        retranslateForm(*m_ui, this);
+        init(m_nodeId);
+    });
     ko::connect(m_ui->changePushButton, SIGNAL(clicked()), this, SLOT(changeLocation()));
 }
 

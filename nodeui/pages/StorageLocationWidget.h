@@ -2,6 +2,7 @@
 #define KO_STORAGELOCATIONWIDGET_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QScopedPointer>
 #include <QWidget>
@@ -21,6 +22,7 @@ class NodeHint;
 class KO_NODEUI_EXPORT StorageLocationWidget : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(StorageLocationWidget)
 
 public:
     explicit StorageLocationWidget(QWidget* parent);

@@ -9,6 +9,7 @@
 #include "ko/connect.h"
 #include "ko/dialogFlags.h"
 #include "utils/Fields.h"
+#include "utils/Retranslation.h"
 
 #include "ui_UserDataWidget.h"
 
@@ -40,6 +41,7 @@ UserDataWidget::UserDataWidget(QWidget* parent)
     , m_ui(new Ui::UserDataWidget)
 {
     m_ui->setupUi(this);
+    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
     ko::connect(m_ui->addressLineEdit, SIGNAL(textChanged(QString)), this, SIGNAL(nameProposal(QString)));
     ko::connect(m_ui->sslCheckBox, SIGNAL(stateChanged(int)), this, SIGNAL(sslChanged(int)));
     ko::connect(&NodeDB::getDB()->globalProxy(), SIGNAL(globalProxyDataChanged()), this,

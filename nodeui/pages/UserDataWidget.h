@@ -2,6 +2,7 @@
 #define KO_USERDATAWIDGET_H
 
 #include "NodeUIExport.h"
+#include "ko/TrContext.h"
 
 #include <QScopedPointer>
 #include <QWidget>
@@ -23,6 +24,7 @@ class NodeHint;
 class KO_NODEUI_EXPORT UserDataWidget : public QWidget
 {
     Q_OBJECT
+    KO_TR_CONTEXT(UserDataWidget)
 
 public:
     explicit UserDataWidget(QWidget* parent);

@@ -101,7 +101,7 @@ private:
 /// in which the description's %1, %2, ... take them.
 class KO_PLATFORM_EXPORT LogEntry
 {
-    Q_DECLARE_TR_FUNCTIONS(ko::LogEntry)
+    Q_DECLARE_TR_FUNCTIONS(LogEntry)
 
 public:
     virtual ~LogEntry();

@@ -2,6 +2,7 @@
 #define KO_NODEVIEWMODEL_H
 
 #include "ko/NodeView.h"
+#include "ko/TrContext.h"
 
 #include <QAbstractItemModel>
 
@@ -15,6 +16,7 @@ namespace ko {
 class KO_PLATFORM_EXPORT NodeViewModel : public QAbstractItemModel
 {
     Q_OBJECT
+    KO_TR_CONTEXT(NodeViewModel)
 
 public:
     enum Column { NameColumn, TypeColumn, AddressColumn, ColumnCount };

@@ -3,6 +3,7 @@
 
 // The few places where Qt 4.8, 5.15 and 6 say the same thing differently.
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QString>
 #include <QStringList>
@@ -26,6 +27,16 @@ inline QString htmlEscaped(const QString& text)
     return text.toHtmlEscaped();
 #else
     return Qt::escape(text);
+#endif
+}
+
+/// What QCoreApplication::translate() returns.
+inline QString translated(const char* context, const char* text, const char* comment, int n)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QCoreApplication::translate(context, text, comment, n);
+#else
+    return QCoreApplication::translate(context, text, comment, QCoreApplication::CodecForTr, n);
 #endif
 }
 
