@@ -1,0 +1,157 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>CameraChecking</name>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>%n device answered that is not the one known so far. Accept it only if you know why, as after an exchange or a new certificate: from the next check on it is sent what is stored as user name and password.</numerusform>
+            <numerusform>%n devices answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>%n device accepted.</numerusform>
+            <numerusform>%n devices accepted.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>%n node left out, which is no device or has no address.</numerusform>
+            <numerusform>%n nodes left out, which are no devices or have no address.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>%n node of it can still be read.</numerusform>
+            <numerusform>%n nodes of it can still be read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>The factory IP address of %n of the selected cameras is not known:</numerusform>
+            <numerusform>The factory IP address of %n of the selected cameras is not known:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>The %n selected device does not have the same user name and password: there are %1 user names and %2 passwords.</numerusform>
+            <numerusform>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n device: access to recordings set.</numerusform>
+            <numerusform>%n devices: access to recordings set.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n left as it was.</numerusform>
+            <numerusform>%n left as they were.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n device: user name and password set.</numerusform>
+            <numerusform>%n devices: user name and password set.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>Asking %n device what it is. Nothing is stored yet.</numerusform>
+            <numerusform>Asking %n devices what they are. Nothing is stored yet.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n device told nothing:</numerusform>
+            <numerusform>%n devices told nothing:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>%n device filled in.</numerusform>
+            <numerusform>%n devices filled in.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>%n device seen at a new address: Network &gt; Seen at a New Address</numerusform>
+            <numerusform>%n devices seen at a new address: Network &gt; Seen at a New Address</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>%n row copied.</numerusform>
+            <numerusform>%n rows copied.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>%n address copied.</numerusform>
+            <numerusform>%n addresses copied.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Remove this node? It cannot be brought back.</numerusform>
+            <numerusform>Remove these %n nodes? They cannot be brought back.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>%n camera written.</numerusform>
+            <numerusform>%n cameras written.</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
