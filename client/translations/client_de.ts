@@ -1,0 +1,1341 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Unter neuer Adresse gesehen</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Diese Geräte scheinen jetzt unter einer anderen Adresse zu antworten. Übernehmen Sie nur, was Sie erwarten: Benutzername und Passwort werden ab dann an die neue Adresse gesendet.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Geräte</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Alte Adresse</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Neue Adresse</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MAC-Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>&amp;Auswahl übernehmen</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>A&amp;lle übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>Auswahl &amp;verwerfen</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Knotendatenbank</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>Die Knotendatenbank „%1“ liegt auf einem Netzlaufwerk. Zwei Programme, die sie dort gleichzeitig verwenden, können sie beschädigen. Verschieben Sie sie auf einen Datenträger dieses Computers.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 gilt nur für Fenster, hier wird aber keines geöffnet.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, Zeile %2: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>Die Spalte „%1“ wird nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>%1 hinzugefügt, %2 aktualisiert, %3 unverändert, %4 Zeilen mit Fehlern</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschrieben</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>%1 ohne Name und Adresse ausgelassen</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Öffnet diese Knotendatenbank; sie wird angelegt, wenn sie fehlt.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Verwendet diese Sprache, z. B. de oder pt_BR, unabhängig von anderen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Fügt die Kameras einer Liste (CSV) hinzu und endet. Es ist kein Fenster nötig.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Schreibt alle Kameras in eine Liste (CSV) und endet.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Lässt bei --export die Passwörter weg.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Kopiert die Datenbank, die in Gebrauch sein darf, in eine Datei und endet.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Gibt der Datenbank, die in Gebrauch sein darf, den Inhalt einer Sicherung und endet. Der bisherige Inhalt bleibt als Sicherung erhalten.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Zeigt, ergänzt, bearbeitet und entfernt die Knoten eines Videoüberwachungssystems.
+Ohne --import, --export, --backup und --restore wird ein Fenster geöffnet; dann gelten auch die Optionen des Toolkits (-platform, -style und andere).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Unerwartetes Argument: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>Der Wert nach --%1 ist leer.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Änderungsprotokoll</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>das Passwort kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>das Gerät verlangt kein Passwort</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>das Gerät wurde während der Prüfung geändert</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>Es werden bereits Kameras geprüft.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>Es gibt keine Kamera mit einer Adresse zum Prüfen.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>Einmal bei jeder ausprobieren?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>A&amp;usprobieren</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>Die Prüfung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>&amp;Bericht...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>%1 von %2 Kameras haben das Passwort angenommen.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>%1 von %2 Kameras antworten wie erwartet.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>Keine der ausgewählten Kameras wurde als anderes Gerät erkannt: Das ermittelt Netzwerk &gt; Kameras prüfen.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Andere Geräte akzeptieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>%n Gerät hat geantwortet, das nicht das bisher bekannte ist. Akzeptieren Sie es nur, wenn Sie den Grund kennen, etwa einen Austausch oder ein neues Zertifikat: Ab der nächsten Prüfung erhält es den gespeicherten Benutzernamen und das Passwort.</numerusform>
+            <numerusform>%n Geräte haben geantwortet, die nicht die bisher bekannten sind. Akzeptieren Sie sie nur, wenn Sie den Grund kennen, etwa einen Austausch oder ein neues Zertifikat: Ab der nächsten Prüfung erhalten sie den gespeicherten Benutzernamen und das Passwort.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>A&amp;kzeptieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>%n Gerät akzeptiert.</numerusform>
+            <numerusform>%n Geräte akzeptiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Anderes Gerät als bisher</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Ausgesperrt</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Falsches Passwort</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Verlangt Klartextpasswort</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>Nicht verstanden</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Nicht geprüft</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Antwortet</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Geprüfte Kameras</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Abb&amp;rechen</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Diese Zeile ausblenden</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Geprüfte Kameras: %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Geprüfte Kameras</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>&amp;Auch antwortende auflisten</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>In &amp;Liste zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Speichern unter...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>%n Knoten ausgelassen, der kein Gerät ist oder keine Adresse hat.</numerusform>
+            <numerusform>%n Knoten ausgelassen, die keine Geräte sind oder keine Adresse haben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Tabellen (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1 wurde nicht geschrieben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>Nichts davon kann gelesen werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>%n Knoten davon kann noch gelesen werden.</numerusform>
+            <numerusform>%n Knoten davon können noch gelesen werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>Es gibt keine brauchbare Sicherung.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>Die neueste brauchbare Sicherung stammt von %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Wenn Sie eines davon wählen, bleibt die beschädigte Datei unter einem anderen Namen erhalten. Andernfalls wird nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>Knotendatenbank</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>Die Knotendatenbank ist beschädigt. Es wird gesucht, was noch lesbar ist und welche Sicherungen es gibt...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>&amp;Andere öffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>Mit &amp;leerer beginnen</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>&amp;Lesbares verwenden</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>&amp;Sicherung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>Die Knotendatenbank „%1“ ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>Die Tabellen der Knotendatenbank „%1“ wurden von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>Die Knotendatenbank „%1“ ist leer oder fehlt, obwohl sie etwas enthielt.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>Die Knotendatenbank „%1“ ist beschädigt, oder an ihrer Stelle befindet sich eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Knotendatenbank öffnen</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Knotendatenbanken (*.kodb);;Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>keine Adresse vorhanden</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>das Passwort kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>inzwischen entfernt</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>nicht abgefragt</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Zugriff auf Aufzeichnungen</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>Die Werks-IP-Adresse von %n der ausgewählten Kameras ist nicht bekannt:</numerusform>
+            <numerusform>Die Werks-IP-Adresse von %n der ausgewählten Kameras ist nicht bekannt:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>Ihre Aufzeichnungen können über die Kamera wiedergegeben werden. Auf einem Dateiserver ist der Ordner einer Kamera jedoch nach dieser Adresse benannt: Mit dem Standardpfad würden sich diese Kameras einen Ordner ohne Namen teilen, mit einem eigenen Pfad würden sie ihren bisherigen Pfad verlieren. Eine Kamera, die antwortet und ihr Passwort annimmt, nennt, wonach ihr Ordner benannt werden kann.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>Kameras &amp;fragen...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Auslassen</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>Mit allen &amp;fortfahren</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Benutzer &amp; Passwort</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>Das %n ausgewählte Gerät hat nicht denselben Benutzernamen und dasselbe Passwort: Es gibt %1 Benutzernamen und %2 Passwörter.</numerusform>
+            <numerusform>Die %n ausgewählten Geräte haben nicht denselben Benutzernamen und dasselbe Passwort: Es gibt %1 Benutzernamen und %2 Passwörter.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>Das nächste Fenster beginnt mit denen des ersten Geräts und gibt allen, was es beim Klick auf OK anzeigt:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>&amp;Allen dieselben geben...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Nur IP-Geräte können gemeinsam eingestellt werden. Wählen Sie von den anderen jeweils eines aus.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n Gerät: Zugriff auf Aufzeichnungen eingestellt.</numerusform>
+            <numerusform>%n Geräte: Zugriff auf Aufzeichnungen eingestellt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n wurde nicht verändert.</numerusform>
+            <numerusform>%n wurden nicht verändert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n Gerät: Benutzername und Passwort eingestellt.</numerusform>
+            <numerusform>%n Geräte: Benutzername und Passwort eingestellt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Alle Knoten anzeigen</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>In dieser Datenbank ist noch nichts vorhanden.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Kein Knoten entspricht der Suche.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Kameraliste importieren...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Geräte im Netzwerk suchen...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Kamera hinzufügen...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>Die Umgebung des ganzen Programms ist jetzt „%1“.</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Zurück zu „%1“</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>Die Umgebung ist wieder „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Ausfüllen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>Auch e&amp;rsetzen, was möglicherweise von Hand eingegeben wurde</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Abgefragte Geräte</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>Angaben der Geräte</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>%n Gerät wird abgefragt. Noch wird nichts gespeichert.</numerusform>
+            <numerusform>%n Geräte werden abgefragt. Noch wird nichts gespeichert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>Es gibt nichts auszufüllen.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>Dies geben die Geräte an, und es ist noch nicht gespeichert. OK speichert, was angehakt ist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n Gerät hat nichts angegeben:</numerusform>
+            <numerusform>%n Geräte haben nichts angegeben:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>%n Gerät ausgefüllt.</numerusform>
+            <numerusform>%n Geräte ausgefüllt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Danach</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Nicht verwendete Spalten: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>Der Import wurde abgebrochen. Was bis dahin hinzugefügt wurde, bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>%1 hinzugefügt, %2 aktualisiert, %3 unverändert, %4 Zeilen mit Fehlern.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Kameras importieren</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>Auf den Schlüsselbund wird gewartet. Entsperren Sie ihn, wenn er danach fragt.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Schlüsselbund</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>Auf Ihren Schlüsselbund wird gewartet.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Er enthält den Schlüssel der gespeicherten Passwörter. Entsperren Sie ihn, wenn er danach fragt.
+
+Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>Ohne &amp;Passwörter fortfahren</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>S&amp;prache</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Wie das System</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 groß + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 groß + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Gerät hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Gerät entfernt</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Anderes Gerät akzeptiert</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Gerät mit dem Namen %1 hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Gerät mit dem Namen %1 entfernt.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Anderes Gerät als bisher als %1 akzeptiert.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importieren...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Fügt die Kameras einer Standorterfassung (CSV) hinzu</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Schreibt alle Kameras in eine CSV-Datei</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>Aus&amp;wahl exportieren...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Schreibt die ausgewählten Kameras in eine CSV-Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>Ei&amp;nstellungen...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Standardpfade und Bandbreite</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Schließt das Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Knoten</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Hinzufügen...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Fügt einen Knoten hinzu</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Bearbeiten...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Ändert den ausgewählten Knoten</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Entfernen...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Entfernt die ausgewählten Knoten</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>Eigen&amp;schaften</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Zeigt den ausgewählten Knoten, ohne ihn zu ändern</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>Benutzer &amp;&amp; &amp;Passwort...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Gibt den ausgewählten Geräten einen gemeinsamen Benutzernamen und ein Passwort</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Zugriff auf Auf&amp;zeichnungen...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>Von wo die Aufzeichnungen der ausgewählten Kameras wiedergegeben werden</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>Aus&amp;füllen...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Fragt die ausgewählten Geräte ab und speichert davon, was Sie auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>&amp;Duplizieren...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Fügt einen Knoten hinzu, der dem ausgewählten gleicht</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>&amp;Webseite öffnen</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Öffnet die Seite des ausgewählten Geräts im Browser</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>Zei&amp;len kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Kopiert die ausgewählten Zeilen für eine Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>&amp;Adresse kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Kopiert die Adressen der ausgewählten Knoten</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Netzwerk</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>Netzwerk&amp;proxy...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>Der Proxyserver der Anwendung</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>&amp;Umgebungen...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>Die Netzwerkumgebungen</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>&amp;Geräte suchen...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Knoten, die während der Netzwerksuche eintreffen</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>Unter neuer Adresse ge&amp;sehen...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Geräte, die eine Suche unter einer anderen als der hier gespeicherten Adresse gefunden hat</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>&amp;Kameras prüfen</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Fragt die ausgewählten oder alle Kameras, wer sie sind, und probiert ihre Passwörter aus</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>Als diese Kamera &amp;akzeptieren...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Ein anderes Gerät als bisher ist ab jetzt diese Kamera</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Spalten...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Welche Spalten die Liste hat</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>&amp;Änderungsprotokoll...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Wer was wann geändert hat</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>Knoten&amp;datenbank...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Alles, was gespeichert ist</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>Über die Kamera</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Standardpfad auf dem Dateiserver</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>%n Gerät unter neuer Adresse gesehen: Netzwerk &gt; Unter neuer Adresse gesehen</numerusform>
+            <numerusform>%n Geräte unter neuer Adresse gesehen: Netzwerk &gt; Unter neuer Adresse gesehen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Knoten</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Suchen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Wörter in beliebigen Spalten; „typ:kamera“ sucht in einer, „zustand:falsch|gesperrt“ nach einem von beiden, „-hof“ lässt aus</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Alle Typen</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> &amp;Typ: </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>%1 Knoten, %2 angezeigt, %3 ausgewählt</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>Keine Kamera ausgewählt. Wählen Sie zuerst eine oder mehrere in der Liste aus.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>Knoten dieses Typs können nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>Dieser Knoten hat keine Adresse. Geräte erhalten ihre unter Knoten &gt; Bearbeiten.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>Die Webseite von %1 konnte nicht geöffnet werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>%n Zeile kopiert.</numerusform>
+            <numerusform>%n Zeilen kopiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>%n Adresse kopiert.</numerusform>
+            <numerusform>%n Adressen kopiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Zeigt, ergänzt, bearbeitet und entfernt die Knoten eines Videoüberwachungssystems.&lt;/p&gt;&lt;p&gt;Freie Software unter der GNU LGPL 2.1 oder neuer.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(unbenannt)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weiterer</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Knoten</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>&amp;Standardpfad auf dem Dateiserver:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>Standardserver für die &amp;Fernvorschau:</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>&amp;Verbindung:</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Entfernt, langsam (Modem, ISDN, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Entfernt, schnell (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Lokal, langsam (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Lokal, schnell (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Standardpfad auf dem Dateiserver</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>Diesen Knoten entfernen? Er kann nicht wiederhergestellt werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Diesen Knoten entfernen? Er kann nicht wiederhergestellt werden.</numerusform>
+            <numerusform>Diese %n Knoten entfernen? Sie können nicht wiederhergestellt werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Knoten entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: inaktiv</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 von %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: sucht</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: fertig</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: nicht verfügbar (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Knotendatenbank</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Solange dieses Fenster geöffnet ist, geht keine Ihrer Eingaben verloren.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>Was als Ganzes noch gespeichert werden muss, gehört zu:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Änderungen sind nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>Änderungen &amp;verwerfen</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Alle Änderungen sind gespeichert.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Es gibt Änderungen, die nicht gespeichert werden konnten. Sie gehen verloren, wenn das Programm jetzt geschlossen wird.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Kameralisten (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Kameras importieren</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Kameras werden importiert...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Kameras exportieren</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>Auch die Passwörter schreiben? Wer die Datei lesen kann, kann dann jede Kamera darin verwenden.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Kameras werden exportiert...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>%n Kamera geschrieben.</numerusform>
+            <numerusform>%n Kameras geschrieben.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,623 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>AddressGuard</name>
+    <message>
+        <source>&quot;%1&quot; has this address and port already.</source>
+        <translation>„%1“ hat bereits diese Adresse und diesen Port.</translation>
+    </message>
+</context>
+<context>
+    <name>AddressText</name>
+    <message>
+        <source>An address holds no blanks.</source>
+        <translation>Eine Adresse enthält keine Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>This is no IPv6 address, and no host with a port.</source>
+        <translation>Dies ist weder eine IPv6-Adresse noch ein Host mit Port.</translation>
+    </message>
+    <message>
+        <source>An IP address has four numbers from 0 to 255.</source>
+        <translation>Eine IP-Adresse besteht aus vier Zahlen von 0 bis 255.</translation>
+    </message>
+    <message>
+        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <translation>Ein Hostname besteht nur aus Buchstaben, Ziffern, Punkten und Bindestrichen.</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535.</source>
+        <translation>Ein Port ist eine Zahl von 1 bis 65535.</translation>
+    </message>
+    <message>
+        <source>This URL has no host that can be read.</source>
+        <translation>Diese URL enthält keinen lesbaren Host.</translation>
+    </message>
+</context>
+<context>
+    <name>ArpScanner</name>
+    <message>
+        <source>no IPv4 network is attached</source>
+        <translation>kein IPv4-Netzwerk angeschlossen</translation>
+    </message>
+    <message>
+        <source>the system gives no socket: %1</source>
+        <translation>das System stellt keinen Socket bereit: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSurvey</name>
+    <message>
+        <source>Nothing was written, because these passwords cannot be read: %1. Unlock your keychain, bring the key file back, or leave the passwords out.</source>
+        <translation>Es wurde nichts geschrieben, weil diese Passwörter nicht gelesen werden können: %1. Entsperren Sie Ihren Schlüsselbund, stellen Sie die Schlüsseldatei wieder her oder lassen Sie die Passwörter weg.</translation>
+    </message>
+    <message>
+        <source>There is no database.</source>
+        <translation>Es ist keine Datenbank vorhanden.</translation>
+    </message>
+    <message>
+        <source>several devices have this address; give type, port and channel</source>
+        <translation>mehrere Geräte haben diese Adresse; geben Sie Typ, Port und Kanal an</translation>
+    </message>
+    <message>
+        <source>several devices have this name; give the address</source>
+        <translation>mehrere Geräte haben diesen Namen; geben Sie die Adresse an</translation>
+    </message>
+    <message>
+        <source>it is a database and was left as it is.</source>
+        <translation>ist eine Datenbank und wurde nicht verändert.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>it holds control characters</source>
+        <translation>enthält Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>it is longer than 1024 characters</source>
+        <translation>ist länger als 1024 Zeichen</translation>
+    </message>
+    <message>
+        <source>it holds a line break</source>
+        <translation>enthält einen Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>it holds characters that cannot be seen</source>
+        <translation>enthält unsichtbare Zeichen</translation>
+    </message>
+    <message>
+        <source>it is no number from 0 to 65535</source>
+        <translation>ist keine Zahl von 0 bis 65535</translation>
+    </message>
+    <message>
+        <source>it is no number from 1 to 4</source>
+        <translation>ist keine Zahl von 1 bis 4</translation>
+    </message>
+    <message>
+        <source>it is not one of yes, no, true, false, 1, 0</source>
+        <translation>ist nicht yes, no, true, false, 1 oder 0</translation>
+    </message>
+    <message>
+        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <translation>ist keine MAC-Adresse (zwölf hexadezimale Ziffern)</translation>
+    </message>
+    <message>
+        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <translation>ist weder IP device, URL camera oder channel device noch eine Zahl</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 The import has stopped there; only what is counted here is stored. Import the file again for the rest.</source>
+        <translation>%1 Der Import wurde an dieser Stelle angehalten; gespeichert ist nur, was hier gezählt ist. Importieren Sie die Datei für den Rest noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 ist keine normale Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is the node database itself.</source>
+        <translation>%1 ist die Knotendatenbank selbst.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 lines are bad; this is no list of cameras.</source>
+        <translation>%1 Zeilen sind fehlerhaft; dies ist keine Kameraliste.</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because the key that seals them is not there. Unlock your keychain, bring the key file back, or make your configuration folder writable. Nothing was imported.</source>
+        <translation>Die Passwörter der Liste (in Zeile %1) können nicht gespeichert werden, weil der Schlüssel zum Verschlüsseln fehlt. Entsperren Sie Ihren Schlüsselbund, stellen Sie die Schlüsseldatei wieder her oder machen Sie Ihren Konfigurationsordner beschreibbar. Es wurde nichts importiert.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The first line cannot be read: %1</source>
+        <translation>Die erste Zeile kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>devices of this type cannot be added here</source>
+        <translation>Geräte dieses Typs können hier nicht hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>recording folders cannot be added here</source>
+        <translation>Aufzeichnungsordner können hier nicht hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>the device could not be added</source>
+        <translation>das Gerät konnte nicht hinzugefügt werden</translation>
+    </message>
+    <message>
+        <source>what is at this address is no device</source>
+        <translation>unter dieser Adresse befindet sich kein Gerät</translation>
+    </message>
+    <message>
+        <source>the device at this address has no channels</source>
+        <translation>das Gerät unter dieser Adresse hat keine Kanäle</translation>
+    </message>
+    <message>
+        <source>the device could not be changed</source>
+        <translation>das Gerät konnte nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>There are two columns &quot;%1&quot;.</source>
+        <translation>Die Spalte „%1“ ist doppelt vorhanden.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;address&quot;. The first line must name the columns.</source>
+        <translation>Die Spalte „address“ fehlt. Die erste Zeile muss die Spalten benennen.</translation>
+    </message>
+    <message>
+        <source>there are more cells than columns</source>
+        <translation>es sind mehr Zellen als Spalten vorhanden</translation>
+    </message>
+    <message>
+        <source>bad %1: %2</source>
+        <translation>fehlerhafter Wert in %1: %2</translation>
+    </message>
+    <message>
+        <source>there is neither a name nor an address</source>
+        <translation>weder Name noch Adresse vorhanden</translation>
+    </message>
+    <message>
+        <source>a device of this type has no channels</source>
+        <translation>ein Gerät dieses Typs hat keine Kanäle</translation>
+    </message>
+</context>
+<context>
+    <name>CsvReader</name>
+    <message>
+        <source>The quoted cell that begins in the record of line %1 is never closed.</source>
+        <translation>Die Zelle in Anführungszeichen, die im Datensatz von Zeile %1 beginnt, wird nie geschlossen.</translation>
+    </message>
+    <message>
+        <source>The record that begins in line %1 is longer than 1 MiB.</source>
+        <translation>Der Datensatz, der in Zeile %1 beginnt, ist länger als 1 MiB.</translation>
+    </message>
+    <message>
+        <source>text follows the closing quote of a cell</source>
+        <translation>nach dem schließenden Anführungszeichen einer Zelle folgt Text</translation>
+    </message>
+    <message>
+        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <translation>Dies ist keine Textdatei (Zeile %1 enthält Binärdaten). Speichern Sie die Datei als UTF-8-Text.</translation>
+    </message>
+    <message>
+        <source>Line %1 is longer than 1 MiB.</source>
+        <translation>Zeile %1 ist länger als 1 MiB.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not UTF-8 text. Save the file as UTF-8 and try again.</source>
+        <translation>Zeile %1 ist kein UTF-8-Text. Speichern Sie die Datei als UTF-8 und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceCheck</name>
+    <message>
+        <source>it takes too long to answer</source>
+        <translation>das Gerät braucht zu lange für eine Antwort</translation>
+    </message>
+    <message>
+        <source>the address is no address</source>
+        <translation>die Adresse ist ungültig</translation>
+    </message>
+    <message>
+        <source>it does not speak ONVIF</source>
+        <translation>das Gerät spricht kein ONVIF</translation>
+    </message>
+    <message>
+        <source>endpoint</source>
+        <translation>Endpunkt</translation>
+    </message>
+    <message>
+        <source>it does not tell who it is</source>
+        <translation>das Gerät gibt sich nicht zu erkennen</translation>
+    </message>
+    <message>
+        <source>realm</source>
+        <translation>Anmeldebereich</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>das Gerät verlangt ein Passwort, aber es ist keines gespeichert</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>das Gerät verlangt das Passwort im Klartext</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>das Gerät verlangt das Passwort in unbekannter Form</translation>
+    </message>
+    <message>
+        <source>it has another %1 than before</source>
+        <translation>abweichend gegenüber bisher: %1</translation>
+    </message>
+    <message>
+        <source>serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceChecks</name>
+    <message>
+        <source>another password was refused there</source>
+        <translation>dort wurde bereits ein anderes Passwort abgelehnt</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceConnection</name>
+    <message>
+        <source>no answer in time</source>
+        <translation>keine rechtzeitige Antwort</translation>
+    </message>
+    <message>
+        <source>the answer is too long</source>
+        <translation>die Antwort ist zu lang</translation>
+    </message>
+    <message>
+        <source>it sends to another place</source>
+        <translation>das Gerät verweist auf eine andere Stelle</translation>
+    </message>
+    <message>
+        <source>it has another certificate than before</source>
+        <translation>das Gerät hat ein anderes Zertifikat als bisher</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <translation>Die Datei „%1“ kann nicht verwendet werden: Ihr Name ist in der Zeichenkodierung dieses Systems kein Text. Benennen Sie sie um.</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+</context>
+<context>
+    <name>HostNodeDB</name>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Entry of unknown kind &quot;%1&quot;</source>
+        <translation>Eintrag unbekannter Art „%1“</translation>
+    </message>
+    <message>
+        <source>Level %1: %2</source>
+        <translation>Stufe %1: %2</translation>
+    </message>
+    <message>
+        <source>Program log</source>
+        <translation>Programmprotokoll</translation>
+    </message>
+    <message>
+        <source>Accepted new address</source>
+        <translation>Neue Adresse übernommen</translation>
+    </message>
+    <message>
+        <source>Moved device %1 from address %2 to %3, where it was found.</source>
+        <translation>Gerät %1 von Adresse %2 nach %3 verschoben, wo es gefunden wurde.</translation>
+    </message>
+    <message>
+        <source>Imported devices</source>
+        <translation>Geräte importiert</translation>
+    </message>
+    <message>
+        <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
+        <translation>Geräte aus %1 importiert: %2 hinzugefügt, %3 geändert, %4 Zeilen abgelehnt.</translation>
+    </message>
+</context>
+<context>
+    <name>MacGuard</name>
+    <message>
+        <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>
+        <translation>Eine MAC-Adresse hat zwölf hexadezimale Ziffern, z. B. 00:00:5E:12:34:AB.</translation>
+    </message>
+</context>
+<context>
+    <name>MdnsScanner</name>
+    <message>
+        <source>the Avahi daemon is not running</source>
+        <translation>der Avahi-Dienst läuft nicht</translation>
+    </message>
+    <message>
+        <source>the Avahi daemon does not answer</source>
+        <translation>der Avahi-Dienst antwortet nicht</translation>
+    </message>
+    <message>
+        <source>all interfaces</source>
+        <translation>alle Schnittstellen</translation>
+    </message>
+</context>
+<context>
+    <name>NodeFacts</name>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Software version</source>
+        <translation>Softwareversion</translation>
+    </message>
+    <message>
+        <source>MAC address</source>
+        <translation>MAC-Adresse</translation>
+    </message>
+    <message>
+        <source>Current IP addresses</source>
+        <translation>Aktuelle IP-Adressen</translation>
+    </message>
+    <message>
+        <source>Factory IP address</source>
+        <translation>Werks-IP-Adresse</translation>
+    </message>
+    <message>
+        <source>Live stream (M-JPEG)</source>
+        <translation>Livestream (M-JPEG)</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Resolutions</source>
+        <translation>Auflösungen</translation>
+    </message>
+    <message>
+        <source>Pan, tilt, zoom</source>
+        <translation>Schwenken, Neigen, Zoomen</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+</context>
+<context>
+    <name>NodeInspector</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Layout options</source>
+        <translation>Layoutoptionen</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>PTZ</source>
+        <translation>PTZ</translation>
+    </message>
+    <message>
+        <source>URLs</source>
+        <translation>URLs</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+</context>
+<context>
+    <name>NodeTypes</name>
+    <message>
+        <source>Recording Folder</source>
+        <translation>Aufzeichnungsordner</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>IP Camera</source>
+        <translation>IP-Kamera</translation>
+    </message>
+    <message>
+        <source>URL Camera</source>
+        <translation>URL-Kamera</translation>
+    </message>
+    <message>
+        <source>Multi-Channel Device</source>
+        <translation>Mehrkanalgerät</translation>
+    </message>
+    <message>
+        <source>Internal Recorder</source>
+        <translation>Interner Rekorder</translation>
+    </message>
+    <message>
+        <source>Remote Preview Server</source>
+        <translation>Fernvorschau-Server</translation>
+    </message>
+    <message>
+        <source>Node of type %1</source>
+        <translation>Knoten vom Typ %1</translation>
+    </message>
+    <message>
+        <source>Remote preview of %1</source>
+        <translation>Fernvorschau von %1</translation>
+    </message>
+</context>
+<context>
+    <name>PageStack</name>
+    <message>
+        <source>This node has been removed meanwhile. Changes cannot be stored: close this window.</source>
+        <translation>Dieser Knoten wurde inzwischen entfernt. Änderungen können nicht gespeichert werden: Schließen Sie dieses Fenster.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Path:</source>
+        <translation>Pfad:</translation>
+    </message>
+    <message>
+        <source>Path is below the default file server path</source>
+        <translation>Pfad liegt unter dem Standardpfad auf dem Dateiserver</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Secure connection (SSL)</source>
+        <translation>Sichere Verbindung (SSL)</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>StoreError</name>
+    <message>
+        <source>&quot;%1&quot; is not a node database but some other kind of file. It was left as it is. Choose your database file, or a new file name to start an empty one.</source>
+        <translation>„%1“ ist keine Knotendatenbank, sondern eine Datei anderer Art. Sie wurde nicht verändert. Wählen Sie Ihre Datenbankdatei oder einen neuen Dateinamen, um mit einer leeren zu beginnen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a database of another program and holds no nodes. It was left as it is. Choose your node database, or a new file name to start an empty one.</source>
+        <translation>„%1“ ist die Datenbank eines anderen Programms und enthält keine Knoten. Sie wurde nicht verändert. Wählen Sie Ihre Knotendatenbank oder einen neuen Dateinamen, um mit einer leeren zu beginnen.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program and cannot be trusted. It was left as it is. Put a backup copy in its place.</source>
+        <translation>Die Tabellen der Knotendatenbank „%1“ wurden von einem anderen Programm geändert und sind nicht mehr vertrauenswürdig. Sie wurde nicht verändert. Ersetzen Sie sie durch eine Sicherungskopie.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, but its log or its backups are still there. Nothing was changed. Restore a backup of it, or choose a new file name to start an empty one.</source>
+        <translation>Die Knotendatenbank „%1“ ist leer oder fehlt, aber ihr Protokoll oder ihre Sicherungen sind noch vorhanden. Es wurde nichts geändert. Stellen Sie eine Sicherung wieder her oder wählen Sie einen neuen Dateinamen, um mit einer leeren zu beginnen.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged. It was left as it is. Restore a backup of it; those that this program made are in the folder &quot;%1.backups&quot;.</source>
+        <translation>Die Knotendatenbank „%1“ ist beschädigt. Sie wurde nicht verändert. Stellen Sie eine Sicherung wieder her; die Sicherungen dieses Programms liegen im Ordner „%1.backups“.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; was written by a newer version of this program. Install that version on this computer, or open the backup copy that it made in the same folder.</source>
+        <translation>Die Knotendatenbank „%1“ wurde von einer neueren Version dieses Programms geschrieben. Installieren Sie diese Version auf diesem Computer oder öffnen Sie die Sicherungskopie, die sie im selben Ordner angelegt hat.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be changed, because the file or its folder is write-protected for you. Ask your administrator for the right to write there, or copy the database into a folder of your own and open the copy.</source>
+        <translation>Die Knotendatenbank „%1“ kann nicht geändert werden, weil die Datei oder ihr Ordner für Sie schreibgeschützt ist. Bitten Sie Ihren Administrator um Schreibrechte oder kopieren Sie die Datenbank in einen eigenen Ordner und öffnen Sie die Kopie.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is held by another program. Close that program, or wait until its backup or copy is finished, and try again.</source>
+        <translation>Die Knotendatenbank „%1“ wird von einem anderen Programm festgehalten. Schließen Sie dieses Programm oder warten Sie, bis dessen Sicherung oder Kopie fertig ist, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>There is no space left for the node database &quot;%1&quot;. Delete files that you do not need from this disk, and try again.</source>
+        <translation>Für die Knotendatenbank „%1“ ist kein Platz mehr. Löschen Sie nicht benötigte Dateien von diesem Datenträger und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be opened. Check that its folder exists, that the disk or network drive is connected, and that you may read the file.</source>
+        <translation>Die Knotendatenbank „%1“ kann nicht geöffnet werden. Prüfen Sie, ob ihr Ordner vorhanden ist, der Datenträger oder das Netzlaufwerk verbunden ist und Sie die Datei lesen dürfen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder, a device or a pipe and cannot hold a node database. It was left as it is. Choose another file.</source>
+        <translation>„%1“ ist ein Ordner, ein Gerät oder eine Pipe und kann keine Knotendatenbank enthalten. Es wurde nichts verändert. Wählen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the node database itself and was left as it is. Choose another file for the copy.</source>
+        <translation>„%1“ ist die Knotendatenbank selbst und wurde nicht verändert. Wählen Sie eine andere Datei für die Kopie.</translation>
+    </message>
+    <message>
+        <source>Some passwords in the node database &quot;%1&quot; cannot be read and are shown empty, because the key that they were sealed with is not there. Unlock your keychain or bring the key file back, and start the program again. They stay in the database until you give new ones.</source>
+        <translation>Einige Passwörter in der Knotendatenbank „%1“ können nicht gelesen werden und werden leer angezeigt, weil der Schlüssel fehlt, mit dem sie verschlüsselt wurden. Entsperren Sie Ihren Schlüsselbund oder stellen Sie die Schlüsseldatei wieder her und starten Sie das Programm neu. Die Passwörter bleiben in der Datenbank, bis Sie neue vergeben.</translation>
+    </message>
+    <message>
+        <source>Some passwords in the node database &quot;%1&quot; were changed by something other than this program, and are shown empty. They stay in the database until you give new ones. Find out who can write to the file, or go back to a backup.</source>
+        <translation>Einige Passwörter in der Knotendatenbank „%1“ wurden nicht von diesem Programm geändert und werden leer angezeigt. Sie bleiben in der Datenbank, bis Sie neue vergeben. Finden Sie heraus, wer in die Datei schreiben kann, oder kehren Sie zu einer Sicherung zurück.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the node database &quot;%1&quot;, because the key that seals them can be found neither in your keychain nor in a file, nor kept there. Unlock your keychain, bring the key file back, or make your configuration folder writable, and try again.</source>
+        <translation>Passwörter können in der Knotendatenbank „%1“ nicht gespeichert werden, weil der Schlüssel zum Verschlüsseln weder in Ihrem Schlüsselbund noch in einer Datei gefunden oder dort abgelegt werden kann. Entsperren Sie Ihren Schlüsselbund, stellen Sie die Schlüsseldatei wieder her oder machen Sie Ihren Konfigurationsordner beschreibbar und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
+        <translation>Die Knotendatenbank „%1“ kann nicht gelesen oder geschrieben werden. Prüfen Sie, ob ihr Datenträger oder Netzlaufwerk verbunden ist, und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>WsDiscoveryScanner</name>
+    <message>
+        <source>no network takes multicast</source>
+        <translation>kein Netzwerk nimmt Multicast an</translation>
+    </message>
+</context>
+</TS>
