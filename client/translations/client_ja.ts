@@ -1,0 +1,1323 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>新しいアドレスで検出</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>これらのデバイスは別のアドレスで応答しているようです。心当たりのあるものだけを承認してください。承認後、ユーザー名とパスワードは新しいアドレスに送信されます。</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>以前のアドレス</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>新しいアドレス</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MACアドレス</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>選択項目を承認(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>すべて承認(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>選択項目を破棄(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>ノードデータベース</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>ノードデータベース「%1」はネットワークドライブ上にあります。2つのプログラムが同時に使用すると破損するおそれがあります。このコンピューターのディスクに移動してください。</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1はウィンドウ用のオプションですが、ウィンドウは開かれません。</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1、%2行目: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>列「%1」は使用されません。</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>追加%1、更新%2、変更なし%3、エラーのある行%4</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1件を書き込みました</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>名前もアドレスもない%1件を除外しました</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>このノードデータベースを開きます。ない場合は作成します。</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>ほかの設定に関係なく、この言語 (deやpt_BRなど) を使用します。</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>一覧 (CSV) のカメラを追加して終了します。ウィンドウは不要です。</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>すべてのカメラを一覧 (CSV) に書き込んで終了します。</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>--exportでパスワードを除外します。</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>データベース (使用中でも可) をファイルにコピーして終了します。</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>データベース (使用中でも可) をバックアップの内容に置き換えて終了します。現在の内容はバックアップとして残ります。</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>ビデオ監視システムのノードを表示、追加、編集、削除します。
+--import、--export、--backup、--restoreを指定しない場合はウィンドウを開き、ツールキットのオプション (-platform、-styleなど) も使用できます。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>予期しない引数: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>--%1の後の値が空です。</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>監査ログ</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>検索(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>内容</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>パスワードを読み取れません</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>パスワードを要求しません</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>確認中に変更されました</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>カメラはすでに確認中です。</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>確認できるアドレスを持つカメラがありません。</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>各カメラで1回ずつ試しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>試す(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>確認はキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>レポート(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>%2台中%1台のカメラがパスワードを受け入れました。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>%2台中%1台のカメラが正常に応答しています。</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>選択したカメラの中に、別のデバイスと判定されたものはありません。判定は「ネットワーク &gt; カメラの確認」で行います。</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>別のデバイスの承認</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>これまでと異なる%n台のデバイスが応答しました。交換や新しい証明書など、理由がわかっている場合にだけ承認してください。次回の確認から、保存されているユーザー名とパスワードが送信されます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>承認(&amp;A)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>%n台のデバイスを承認しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>確認する(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>以前と別のデバイス</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>ロックアウト中</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>パスワード不一致</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>平文パスワードを要求</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>解釈不能</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未確認</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>応答あり</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>確認済みのカメラ</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>キャンセル(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>この行を消す</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>確認済みのカメラ: %1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>カメラの確認結果</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>応答のあるカメラも表示する(&amp;A)</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>一覧で表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>名前を付けて保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>デバイスではないか、アドレスのない%n個のノードを除外しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>表 (*.csv);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1に書き込めませんでした: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>読み取れるものはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>%n個のノードはまだ読み取れます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>正常なバックアップがありません。</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>最新の正常なバックアップは%1に作成されました。</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>いずれかを選択すると、破損したファイルは別の名前で保存されます。選択しない場合、何も変更されません。</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>ノードデータベース</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>ノードデータベースが破損しています。読み取れるデータとバックアップを探しています...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>別のファイルを開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>再試行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>空のデータベースで開始(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>読み取れるデータを使用(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>バックアップを復元(&amp;B)</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>ノードデータベース「%1」は破損しています。</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>ノードデータベース「%1」のテーブルは別のプログラムに変更されています。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>ノードデータベース「%1」には以前データがありましたが、空になっているか、なくなっています。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>ノードデータベース「%1」が破損しているか、別のファイルに置き換わっています。</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>ノードデータベースを開く</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>ノードデータベース (*.kodb);;すべてのファイル (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>アドレスがありません</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>パスワードを読み取れません</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>すでに削除されています</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>問い合わせていません</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>録画へのアクセス</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>選択したカメラのうち%n台の工場出荷時のIPアドレスが不明です:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>これらの録画はカメラ経由で再生できます。ただし、ファイルサーバー上のカメラのフォルダー名にはこのアドレスが使われます。既定のパスではこれらのカメラが名前のない1つのフォルダーを共有し、個別のパスでは現在のパスが失われます。応答してパスワードを受け入れるカメラは、フォルダー名に使用できる情報を返します。</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>カメラに問い合わせる(&amp;K)...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>除外する(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>すべて続行(&amp;A)</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>ユーザーとパスワード</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>選択した%n台のデバイスのユーザー名とパスワードは同じではありません。ユーザー名が%1種類、パスワードが%2種類あります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>次のウィンドウには最初のデバイスのユーザー名とパスワードが表示され、OKを押すと表示されている内容がすべてのデバイスに設定されます:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>すべて同じにする(&amp;G)...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>まとめて設定できるのはIPデバイスだけです。その他は1つずつ選択してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n台のデバイス: 録画へのアクセスを設定しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n台は変更していません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n台のデバイス: ユーザー名とパスワードを設定しました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>すべてのノードを表示</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>このデータベースにはまだ何もありません。</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>該当するノードはありません。</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>カメラの一覧をインポート...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>ネットワーク上のデバイスを検索...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>カメラを追加...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>プログラム全体の環境は現在「%1」です。</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>「%1」に戻す</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>環境を「%1」に戻しました。</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>自動入力</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>手動で入力された可能性のある値も置き換える(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>問い合わせたデバイス</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>デバイスからの情報</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>%n台のデバイスに問い合わせています。まだ何も保存されません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>入力できる項目はありません。</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>デバイスから得られた、まだ保存されていない情報です。OKを押すと、チェックした項目が保存されます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n台のデバイスから情報が得られませんでした:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>%n台のデバイスに入力しました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>変更後</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>%1行目: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>使用されない列: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>インポートはキャンセルされました。それまでに追加されたものは残ります。</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>追加%1、更新%2、変更なし%3、エラーのある行%4。</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>カメラのインポート</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>キーチェーンを待っています。求められたらロックを解除してください。</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>キーチェーン</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>キーチェーンを待っています。</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>保存されたパスワードのキーが入っています。求められたらロックを解除してください。
+
+キーがないと、保存されたパスワードは空で表示され、新しいパスワードは保存できません。</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>パスワードなしで続行(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>言語(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>システムに合わせる(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>大1 + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>大1 + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>デバイスの追加</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>デバイスの削除</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>別のデバイスの承認</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>デバイス「%1」を追加しました。</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>デバイス「%1」を削除しました。</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>以前と別のデバイスを%1として承認しました。</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>インポート(&amp;I)...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>現地調査 (CSV) のカメラを追加します</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>エクスポート(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>すべてのカメラをCSVファイルに書き込みます</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>選択項目をエクスポート(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>選択したカメラをCSVファイルに書き込みます</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>環境設定(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>既定のパスと帯域幅</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>プログラムを閉じます</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>ノード(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>追加(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>ノードを追加します</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>編集(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>選択したノードを変更します</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>削除(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>選択したノードを削除します</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>プロパティ(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>選択したノードを変更せずに表示します</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>ユーザーとパスワード(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>選択したデバイスに共通のユーザー名とパスワードを設定します</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>録画へのアクセス(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>選択したカメラの録画の再生元</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>自動入力(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>選択したデバイスに情報を問い合わせ、選んだものを保存します</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>複製(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>選択したノードと同じノードを追加します</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>Webページを開く(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>選択したデバイスのページをブラウザーで開きます</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>行をコピー(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>選択した行を表計算ソフト用にコピーします</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>アドレスをコピー(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>選択したノードのアドレスをコピーします</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>ネットワーク(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>ネットワークプロキシ(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>アプリケーションのプロキシサーバー</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>環境(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>ネットワーク環境</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>デバイスの検索(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>ネットワークのスキャン中に見つかったノード</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>新しいアドレスで検出(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>ここに登録されているものと別のアドレスでスキャンに見つかったデバイス</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>カメラの確認(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>選択した、またはすべてのカメラの情報とパスワードを確認します</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>このカメラとして承認(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>以前と別のデバイスを、今後このカメラとして扱います</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>列(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>一覧に表示する列</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>監査ログ(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>だれが、何を、いつ変更したか</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>ノードデータベース(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>保存されているすべてのもの</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>バージョン情報(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>カメラ経由</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>既定のファイルサーバーパス</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>%n台のデバイスを新しいアドレスで検出しました: ネットワーク &gt; 新しいアドレスで検出</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - ノード</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>検索 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>任意の列の語を検索します。&quot;種類:カメラ&quot;は1つの列を検索し、&quot;状態:不一致|ロック&quot;はいずれかを検索し、&quot;-中庭&quot;は除外します</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>すべての種類</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> 種類(&amp;Y): </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>ノード</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>ノード%1個、表示%2、選択%3</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>カメラが選択されていません。先に一覧から1つ以上選択してください。</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>この種類のノードは追加できません。</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>このノードにはアドレスがありません。デバイスのアドレスは「ノード &gt; 編集」で設定します。</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>%1のWebページを開けませんでした。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>%n行をコピーしました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>%n個のアドレスをコピーしました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;ビデオ監視システムのノードを表示、追加、編集、削除します。&lt;/p&gt;&lt;p&gt;GNU LGPL 2.1以降に基づくフリーソフトウェアです。&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(名前なし)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>ほか%n件</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>録画</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>チャンネル</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>ノード</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>環境設定</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>既定のファイルサーバーパス(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>参照(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>既定のリモートプレビューサーバー(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>接続(&amp;C):</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>低速リモート (モデム、ISDN、GPRS/2G、EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>高速リモート (DSL、UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>低速ローカル (WLAN/WiFi、イーサネット)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>高速ローカル (ファストイーサネット、ギガビットイーサネット)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>既定のファイルサーバーパス</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>このノードを削除しますか? 元に戻すことはできません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>これら%n個のノードを削除しますか? 元に戻すことはできません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>ノードの削除</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: 待機中</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2/%3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: 検索中</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: 完了</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: キャンセル</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: 使用できません (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>ノードデータベース</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>このウィンドウが開いている間は、入力した内容は失われません。</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>保存を待っている変更 (すべて保存されるか、まったく保存されません) の対象:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>変更が保存されていません</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>再試行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>変更を破棄(&amp;D)</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>すべての変更が保存されました。</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>保存できなかった変更があります。今プログラムを閉じると失われます。</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>カメラの一覧 (*.csv);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>カメラのインポート</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>カメラをインポートしています...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>カメラのエクスポート</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>パスワードも書き込みますか? ファイルを読める人は、その中のすべてのカメラを使用できるようになります。</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>カメラをエクスポートしています...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>%n台のカメラを書き込みました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,623 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>AddressGuard</name>
+    <message>
+        <source>&quot;%1&quot; has this address and port already.</source>
+        <translation>「%1」がすでにこのアドレスとポートを使用しています。</translation>
+    </message>
+</context>
+<context>
+    <name>AddressText</name>
+    <message>
+        <source>An address holds no blanks.</source>
+        <translation>アドレスに空白は使用できません。</translation>
+    </message>
+    <message>
+        <source>This is no IPv6 address, and no host with a port.</source>
+        <translation>IPv6アドレスでも、ポート付きのホストでもありません。</translation>
+    </message>
+    <message>
+        <source>An IP address has four numbers from 0 to 255.</source>
+        <translation>IPアドレスは0~255の4つの数字です。</translation>
+    </message>
+    <message>
+        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <translation>ホスト名に使用できるのは英数字、ピリオド、ハイフンのみです。</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535.</source>
+        <translation>ポートは1~65535の数字です。</translation>
+    </message>
+    <message>
+        <source>This URL has no host that can be read.</source>
+        <translation>このURLにはホストが見つかりません。</translation>
+    </message>
+</context>
+<context>
+    <name>ArpScanner</name>
+    <message>
+        <source>no IPv4 network is attached</source>
+        <translation>IPv4ネットワークに接続されていません</translation>
+    </message>
+    <message>
+        <source>the system gives no socket: %1</source>
+        <translation>システムがソケットを提供しません: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSurvey</name>
+    <message>
+        <source>Nothing was written, because these passwords cannot be read: %1. Unlock your keychain, bring the key file back, or leave the passwords out.</source>
+        <translation>次のパスワードを読み取れないため、何も書き込まれませんでした: %1。キーチェーンのロックを解除するか、キーファイルを元に戻すか、パスワードを除外してください。</translation>
+    </message>
+    <message>
+        <source>There is no database.</source>
+        <translation>データベースがありません。</translation>
+    </message>
+    <message>
+        <source>several devices have this address; give type, port and channel</source>
+        <translation>このアドレスのデバイスが複数あります。種類、ポート、チャンネルを指定してください</translation>
+    </message>
+    <message>
+        <source>several devices have this name; give the address</source>
+        <translation>この名前のデバイスが複数あります。アドレスを指定してください</translation>
+    </message>
+    <message>
+        <source>it is a database and was left as it is.</source>
+        <translation>これはデータベースのため、変更しませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1に書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1、ほか%2件</translation>
+    </message>
+    <message>
+        <source>it holds control characters</source>
+        <translation>制御文字が含まれています</translation>
+    </message>
+    <message>
+        <source>it is longer than 1024 characters</source>
+        <translation>1024文字を超えています</translation>
+    </message>
+    <message>
+        <source>it holds a line break</source>
+        <translation>改行が含まれています</translation>
+    </message>
+    <message>
+        <source>it holds characters that cannot be seen</source>
+        <translation>表示できない文字が含まれています</translation>
+    </message>
+    <message>
+        <source>it is no number from 0 to 65535</source>
+        <translation>0~65535の数字ではありません</translation>
+    </message>
+    <message>
+        <source>it is no number from 1 to 4</source>
+        <translation>1~4の数字ではありません</translation>
+    </message>
+    <message>
+        <source>it is not one of yes, no, true, false, 1, 0</source>
+        <translation>yes、no、true、false、1、0のいずれでもありません</translation>
+    </message>
+    <message>
+        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <translation>MACアドレス (16進数12桁) ではありません</translation>
+    </message>
+    <message>
+        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <translation>IP device、URL camera、channel deviceのいずれでもなく、数字でもありません</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>数字ではありません</translation>
+    </message>
+    <message>
+        <source>%1 The import has stopped there; only what is counted here is stored. Import the file again for the rest.</source>
+        <translation>%1 インポートはそこで停止しました。ここに示した件数だけが保存されています。残りはファイルを再度インポートしてください。</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1は通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is the node database itself.</source>
+        <translation>%1はノードデータベースそのものです。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 lines are bad; this is no list of cameras.</source>
+        <translation>%1行が不正です。カメラの一覧ではありません。</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because the key that seals them is not there. Unlock your keychain, bring the key file back, or make your configuration folder writable. Nothing was imported.</source>
+        <translation>一覧のパスワード (%1行目) は、暗号化するキーがないため保存できません。キーチェーンのロックを解除するか、キーファイルを元に戻すか、設定フォルダーを書き込み可能にしてください。何もインポートされませんでした。</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>ファイルが空です。</translation>
+    </message>
+    <message>
+        <source>The first line cannot be read: %1</source>
+        <translation>最初の行を読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>devices of this type cannot be added here</source>
+        <translation>この種類のデバイスはここでは追加できません</translation>
+    </message>
+    <message>
+        <source>recording folders cannot be added here</source>
+        <translation>録画フォルダーはここでは追加できません</translation>
+    </message>
+    <message>
+        <source>the device could not be added</source>
+        <translation>デバイスを追加できませんでした</translation>
+    </message>
+    <message>
+        <source>what is at this address is no device</source>
+        <translation>このアドレスにあるものはデバイスではありません</translation>
+    </message>
+    <message>
+        <source>the device at this address has no channels</source>
+        <translation>このアドレスのデバイスにはチャンネルがありません</translation>
+    </message>
+    <message>
+        <source>the device could not be changed</source>
+        <translation>デバイスを変更できませんでした</translation>
+    </message>
+    <message>
+        <source>There are two columns &quot;%1&quot;.</source>
+        <translation>列「%1」が2つあります。</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;address&quot;. The first line must name the columns.</source>
+        <translation>列「address」がありません。最初の行に列名が必要です。</translation>
+    </message>
+    <message>
+        <source>there are more cells than columns</source>
+        <translation>列の数よりセルが多くあります</translation>
+    </message>
+    <message>
+        <source>bad %1: %2</source>
+        <translation>%1が不正です: %2</translation>
+    </message>
+    <message>
+        <source>there is neither a name nor an address</source>
+        <translation>名前もアドレスもありません</translation>
+    </message>
+    <message>
+        <source>a device of this type has no channels</source>
+        <translation>この種類のデバイスにはチャンネルがありません</translation>
+    </message>
+</context>
+<context>
+    <name>CsvReader</name>
+    <message>
+        <source>The quoted cell that begins in the record of line %1 is never closed.</source>
+        <translation>%1行目のレコードで始まる引用符付きのセルが閉じられていません。</translation>
+    </message>
+    <message>
+        <source>The record that begins in line %1 is longer than 1 MiB.</source>
+        <translation>%1行目で始まるレコードが1 MiBを超えています。</translation>
+    </message>
+    <message>
+        <source>text follows the closing quote of a cell</source>
+        <translation>セルの閉じ引用符の後に文字があります</translation>
+    </message>
+    <message>
+        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <translation>テキストファイルではありません (%1行目にバイナリデータがあります)。UTF-8テキストとして保存してください。</translation>
+    </message>
+    <message>
+        <source>Line %1 is longer than 1 MiB.</source>
+        <translation>%1行目が1 MiBを超えています。</translation>
+    </message>
+    <message>
+        <source>Line %1 is not UTF-8 text. Save the file as UTF-8 and try again.</source>
+        <translation>%1行目がUTF-8テキストではありません。UTF-8で保存して、もう一度試してください。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>ファイルを読み取れません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceCheck</name>
+    <message>
+        <source>it takes too long to answer</source>
+        <translation>応答に時間がかかりすぎます</translation>
+    </message>
+    <message>
+        <source>the address is no address</source>
+        <translation>アドレスが正しくありません</translation>
+    </message>
+    <message>
+        <source>it does not speak ONVIF</source>
+        <translation>ONVIFに対応していません</translation>
+    </message>
+    <message>
+        <source>endpoint</source>
+        <translation>エンドポイント</translation>
+    </message>
+    <message>
+        <source>it does not tell who it is</source>
+        <translation>デバイスの情報を返しません</translation>
+    </message>
+    <message>
+        <source>realm</source>
+        <translation>認証領域 (realm)</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>パスワードを要求していますが、保存されていません</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>平文のパスワードを要求しています</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>不明な方法でパスワードを要求しています</translation>
+    </message>
+    <message>
+        <source>it has another %1 than before</source>
+        <translation>%1が以前と異なります</translation>
+    </message>
+    <message>
+        <source>serial number</source>
+        <translation>シリアル番号</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceChecks</name>
+    <message>
+        <source>another password was refused there</source>
+        <translation>別のパスワードが拒否されています</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceConnection</name>
+    <message>
+        <source>no answer in time</source>
+        <translation>時間内に応答がありません</translation>
+    </message>
+    <message>
+        <source>the answer is too long</source>
+        <translation>応答が長すぎます</translation>
+    </message>
+    <message>
+        <source>it sends to another place</source>
+        <translation>別の場所に転送しています</translation>
+    </message>
+    <message>
+        <source>it has another certificate than before</source>
+        <translation>証明書が以前と異なります</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <translation>ファイル「%1」は使用できません。名前がこのシステムの文字コードで表せません。名前を変更してください。</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Name:</source>
+        <translation>名前:</translation>
+    </message>
+</context>
+<context>
+    <name>HostNodeDB</name>
+    <message>
+        <source>Default</source>
+        <translation>既定</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Entry of unknown kind &quot;%1&quot;</source>
+        <translation>不明な種類の項目「%1」</translation>
+    </message>
+    <message>
+        <source>Level %1: %2</source>
+        <translation>レベル%1: %2</translation>
+    </message>
+    <message>
+        <source>Program log</source>
+        <translation>プログラムログ</translation>
+    </message>
+    <message>
+        <source>Accepted new address</source>
+        <translation>新しいアドレスの承認</translation>
+    </message>
+    <message>
+        <source>Moved device %1 from address %2 to %3, where it was found.</source>
+        <translation>デバイス%1をアドレス%2から、検出された%3に移動しました。</translation>
+    </message>
+    <message>
+        <source>Imported devices</source>
+        <translation>デバイスのインポート</translation>
+    </message>
+    <message>
+        <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
+        <translation>%1からデバイスをインポートしました: 追加%2、変更%3、拒否された行%4</translation>
+    </message>
+</context>
+<context>
+    <name>MacGuard</name>
+    <message>
+        <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>
+        <translation>MACアドレスは16進数12桁です。例: 00:00:5E:12:34:AB</translation>
+    </message>
+</context>
+<context>
+    <name>MdnsScanner</name>
+    <message>
+        <source>the Avahi daemon is not running</source>
+        <translation>Avahiデーモンが動作していません</translation>
+    </message>
+    <message>
+        <source>the Avahi daemon does not answer</source>
+        <translation>Avahiデーモンが応答しません</translation>
+    </message>
+    <message>
+        <source>all interfaces</source>
+        <translation>すべてのインターフェイス</translation>
+    </message>
+</context>
+<context>
+    <name>NodeFacts</name>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Software version</source>
+        <translation>ソフトウェアバージョン</translation>
+    </message>
+    <message>
+        <source>MAC address</source>
+        <translation>MACアドレス</translation>
+    </message>
+    <message>
+        <source>Current IP addresses</source>
+        <translation>現在のIPアドレス</translation>
+    </message>
+    <message>
+        <source>Factory IP address</source>
+        <translation>工場出荷時のIPアドレス</translation>
+    </message>
+    <message>
+        <source>Live stream (M-JPEG)</source>
+        <translation>ライブストリーム (M-JPEG)</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Resolutions</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
+        <source>Pan, tilt, zoom</source>
+        <translation>パン、チルト、ズーム</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>いいえ</translation>
+    </message>
+</context>
+<context>
+    <name>NodeInspector</name>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>デバイス</translation>
+    </message>
+    <message>
+        <source>Layout options</source>
+        <translation>レイアウトオプション</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>録画</translation>
+    </message>
+    <message>
+        <source>PTZ</source>
+        <translation>PTZ</translation>
+    </message>
+    <message>
+        <source>URLs</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>プロキシ</translation>
+    </message>
+</context>
+<context>
+    <name>NodeTypes</name>
+    <message>
+        <source>Recording Folder</source>
+        <translation>録画フォルダー</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>ビュー</translation>
+    </message>
+    <message>
+        <source>IP Camera</source>
+        <translation>IPカメラ</translation>
+    </message>
+    <message>
+        <source>URL Camera</source>
+        <translation>URLカメラ</translation>
+    </message>
+    <message>
+        <source>Multi-Channel Device</source>
+        <translation>マルチチャンネルデバイス</translation>
+    </message>
+    <message>
+        <source>Internal Recorder</source>
+        <translation>内蔵レコーダー</translation>
+    </message>
+    <message>
+        <source>Remote Preview Server</source>
+        <translation>リモートプレビューサーバー</translation>
+    </message>
+    <message>
+        <source>Node of type %1</source>
+        <translation>種類%1のノード</translation>
+    </message>
+    <message>
+        <source>Remote preview of %1</source>
+        <translation>%1のリモートプレビュー</translation>
+    </message>
+</context>
+<context>
+    <name>PageStack</name>
+    <message>
+        <source>This node has been removed meanwhile. Changes cannot be stored: close this window.</source>
+        <translation>このノードはすでに削除されています。変更は保存できません。このウィンドウを閉じてください。</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Path:</source>
+        <translation>パス:</translation>
+    </message>
+    <message>
+        <source>Path is below the default file server path</source>
+        <translation>パスは既定のファイルサーバーパスの下にあります</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>ユーザー名:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>アドレス:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>ポート:</translation>
+    </message>
+    <message>
+        <source>Secure connection (SSL)</source>
+        <translation>安全な接続 (SSL)</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>参照...</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+</context>
+<context>
+    <name>StoreError</name>
+    <message>
+        <source>&quot;%1&quot; is not a node database but some other kind of file. It was left as it is. Choose your database file, or a new file name to start an empty one.</source>
+        <translation>「%1」はノードデータベースではなく、別の種類のファイルです。変更しませんでした。データベースファイルを選択するか、新しいファイル名を指定して空のデータベースを作成してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a database of another program and holds no nodes. It was left as it is. Choose your node database, or a new file name to start an empty one.</source>
+        <translation>「%1」は別のプログラムのデータベースで、ノードがありません。変更しませんでした。ノードデータベースを選択するか、新しいファイル名を指定して空のデータベースを作成してください。</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program and cannot be trusted. It was left as it is. Put a backup copy in its place.</source>
+        <translation>ノードデータベース「%1」のテーブルは別のプログラムに変更されたため、信頼できません。変更しませんでした。バックアップコピーに置き換えてください。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, but its log or its backups are still there. Nothing was changed. Restore a backup of it, or choose a new file name to start an empty one.</source>
+        <translation>ノードデータベース「%1」は空か存在しませんが、ログまたはバックアップは残っています。何も変更していません。バックアップを復元するか、新しいファイル名を指定して空のデータベースを作成してください。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged. It was left as it is. Restore a backup of it; those that this program made are in the folder &quot;%1.backups&quot;.</source>
+        <translation>ノードデータベース「%1」は破損しています。変更しませんでした。バックアップを復元してください。このプログラムが作成したバックアップはフォルダー「%1.backups」にあります。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; was written by a newer version of this program. Install that version on this computer, or open the backup copy that it made in the same folder.</source>
+        <translation>ノードデータベース「%1」は、このプログラムの新しいバージョンで書き込まれています。そのバージョンをこのコンピューターにインストールするか、同じフォルダーに作成されたバックアップコピーを開いてください。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be changed, because the file or its folder is write-protected for you. Ask your administrator for the right to write there, or copy the database into a folder of your own and open the copy.</source>
+        <translation>ファイルまたはフォルダーが書き込み禁止のため、ノードデータベース「%1」を変更できません。管理者に書き込み権限を依頼するか、データベースを自分のフォルダーにコピーして、そのコピーを開いてください。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is held by another program. Close that program, or wait until its backup or copy is finished, and try again.</source>
+        <translation>ノードデータベース「%1」は別のプログラムが使用しています。そのプログラムを閉じるか、バックアップやコピーが終わるのを待ってから、もう一度試してください。</translation>
+    </message>
+    <message>
+        <source>There is no space left for the node database &quot;%1&quot;. Delete files that you do not need from this disk, and try again.</source>
+        <translation>ノードデータベース「%1」のための空き容量がありません。このディスクから不要なファイルを削除して、もう一度試してください。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be opened. Check that its folder exists, that the disk or network drive is connected, and that you may read the file.</source>
+        <translation>ノードデータベース「%1」を開けません。フォルダーが存在し、ディスクまたはネットワークドライブが接続され、ファイルの読み取り権限があることを確認してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder, a device or a pipe and cannot hold a node database. It was left as it is. Choose another file.</source>
+        <translation>「%1」はフォルダー、デバイス、またはパイプのため、ノードデータベースにできません。変更しませんでした。別のファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the node database itself and was left as it is. Choose another file for the copy.</source>
+        <translation>「%1」はノードデータベースそのもののため、変更しませんでした。コピー先に別のファイルを選択してください。</translation>
+    </message>
+    <message>
+        <source>Some passwords in the node database &quot;%1&quot; cannot be read and are shown empty, because the key that they were sealed with is not there. Unlock your keychain or bring the key file back, and start the program again. They stay in the database until you give new ones.</source>
+        <translation>ノードデータベース「%1」の一部のパスワードは、暗号化に使用したキーがないため読み取れず、空で表示されます。キーチェーンのロックを解除するか、キーファイルを元に戻してから、プログラムを再起動してください。パスワードは、新しく設定するまでデータベースに残ります。</translation>
+    </message>
+    <message>
+        <source>Some passwords in the node database &quot;%1&quot; were changed by something other than this program, and are shown empty. They stay in the database until you give new ones. Find out who can write to the file, or go back to a backup.</source>
+        <translation>ノードデータベース「%1」の一部のパスワードは、このプログラム以外によって変更されたため、空で表示されます。新しく設定するまでデータベースに残ります。ファイルに書き込める人を調べるか、バックアップに戻してください。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the node database &quot;%1&quot;, because the key that seals them can be found neither in your keychain nor in a file, nor kept there. Unlock your keychain, bring the key file back, or make your configuration folder writable, and try again.</source>
+        <translation>パスワードを暗号化するキーがキーチェーンにもファイルにも見つからず、保存もできないため、ノードデータベース「%1」にパスワードを保存できません。キーチェーンのロックを解除するか、キーファイルを元に戻すか、設定フォルダーを書き込み可能にしてから、もう一度試してください。</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
+        <translation>ノードデータベース「%1」を読み書きできません。ディスクまたはネットワークドライブが接続されていることを確認して、もう一度試してください。</translation>
+    </message>
+</context>
+<context>
+    <name>WsDiscoveryScanner</name>
+    <message>
+        <source>no network takes multicast</source>
+        <translation>マルチキャストを使用できるネットワークがありません</translation>
+    </message>
+</context>
+</TS>
