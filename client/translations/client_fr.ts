@@ -1,0 +1,1341 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Vus à une nouvelle adresse</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Ces appareils semblent maintenant répondre à une autre adresse. N&apos;acceptez que ce à quoi vous vous attendez : le nom d&apos;utilisateur et le mot de passe seront désormais envoyés à la nouvelle adresse.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Appareils</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Ancienne adresse</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Nouvelle adresse</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>Adresse MAC</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>&amp;Accepter la sélection</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>Accepter &amp;tout</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Rejeter la sélection</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Base de données des nœuds</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>La base de données de nœuds « %1 » se trouve sur un lecteur réseau. Deux programmes qui l&apos;y utilisent en même temps peuvent l&apos;endommager. Déplacez-la sur un disque de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 ne concerne que les fenêtres, et aucune n&apos;est ouverte ici.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, ligne %2 : %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>La colonne « %1 » n&apos;est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>%1 ajoutés, %2 mis à jour, %3 inchangés, %4 lignes avec erreurs</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 écrits</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>%1 sans nom ni adresse laissés de côté</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Ouvre cette base de données de nœuds ; elle est créée si elle n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Utilise cette langue, par exemple de ou pt_BR, quel que soit le choix fait ailleurs.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Ajoute les caméras d&apos;une liste (CSV) et se termine. Aucune fenêtre n&apos;est nécessaire.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Écrit toutes les caméras dans une liste (CSV) et se termine.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Laisse les mots de passe hors de --export.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Copie la base de données, qui peut être en cours d&apos;utilisation, dans un fichier et se termine.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Donne à la base de données, qui peut être en cours d&apos;utilisation, le contenu d&apos;une sauvegarde et se termine. Le contenu actuel est conservé comme sauvegarde.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Affiche, ajoute, modifie et supprime les nœuds d&apos;un système de vidéosurveillance.
+Sans --import, --export, --backup ni --restore, ouvre une fenêtre et accepte aussi les options de la boîte à outils (-platform, -style et autres).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Argument inattendu : %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>La valeur après --%1 est vide.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Journal d&apos;audit</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Entrées</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Rechercher :</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>le mot de passe est illisible</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>l&apos;appareil ne demande pas de mot de passe</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>modifié pendant la vérification</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>Des caméras sont déjà en cours de vérification.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>Il n&apos;y a aucune caméra avec une adresse à vérifier.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>L&apos;essayer une fois avec chacune ?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>E&amp;ssayer</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>La vérification a été annulée.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>Rappor&amp;t...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>%1 caméras sur %2 ont accepté le mot de passe.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>%1 caméras sur %2 répondent comme prévu.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>Aucune des caméras sélectionnées n&apos;a été reconnue comme un autre appareil : c&apos;est Réseau &gt; Vérifier les caméras qui le détermine.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Accepter d&apos;autres appareils</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>%n appareil a répondu qui n&apos;est pas celui connu jusqu&apos;ici. Ne l&apos;acceptez que si vous savez pourquoi, par exemple après un remplacement ou un nouveau certificat : dès la prochaine vérification, il recevra le nom d&apos;utilisateur et le mot de passe enregistrés.</numerusform>
+            <numerusform>%n appareils ont répondu qui ne sont pas ceux connus jusqu&apos;ici. Ne les acceptez que si vous savez pourquoi, par exemple après un remplacement ou un nouveau certificat : dès la prochaine vérification, ils recevront le nom d&apos;utilisateur et le mot de passe enregistrés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>A&amp;ccepter</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>%n appareil accepté.</numerusform>
+            <numerusform>%n appareils acceptés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>&amp;Les vérifier</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Autre appareil qu&apos;avant</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Verrouillé</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Mot de passe incorrect</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Demande un mot de passe en clair</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Pas de réponse</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>Non compris</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Non vérifié</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Répond</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Caméras vérifiées</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Masquer cette ligne</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Caméras vérifiées : %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Caméras vérifiées</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Caméras</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>&amp;Lister aussi celles qui répondent</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>&amp;Montrer dans la liste</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Enregistrer sous...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>%n nœud laissé de côté, qui n&apos;est pas un appareil ou n&apos;a pas d&apos;adresse.</numerusform>
+            <numerusform>%n nœuds laissés de côté, qui ne sont pas des appareils ou n&apos;ont pas d&apos;adresse.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Tableaux (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1 n&apos;a pas été écrit : %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>Rien n&apos;en est lisible.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>%n nœud en est encore lisible.</numerusform>
+            <numerusform>%n nœuds en sont encore lisibles.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>Il n&apos;y a pas de bonne sauvegarde.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>La plus récente bonne sauvegarde date du %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Si vous choisissez l&apos;une de ces possibilités, le fichier endommagé est conservé sous un autre nom. Sinon, rien n&apos;est modifié.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>Base de données des nœuds</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>La base de données des nœuds est endommagée. Recherche de ce qui est lisible et des sauvegardes...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>&amp;Ouvrir une autre...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>&amp;Commencer à vide</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>&amp;Utiliser ce qui est lisible</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>Restaurer la &amp;sauvegarde</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>La base de données de nœuds « %1 » est endommagée.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>Les tables de la base de données de nœuds « %1 » ont été modifiées par un autre programme.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>La base de données de nœuds « %1 » est vide ou absente, alors qu&apos;elle contenait quelque chose.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>La base de données de nœuds « %1 » est endommagée, ou un autre fichier est à sa place.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Ouvrir une base de données de nœuds</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Bases de données de nœuds (*.kodb);;Tous les fichiers (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>pas d&apos;adresse</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>le mot de passe est illisible</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>supprimé entre-temps</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>non interrogé</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Accès aux enregistrements</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>L&apos;adresse IP d&apos;usine de %n des caméras sélectionnées n&apos;est pas connue :</numerusform>
+            <numerusform>L&apos;adresse IP d&apos;usine de %n des caméras sélectionnées n&apos;est pas connue :</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>Leurs enregistrements peuvent être lus via la caméra. Sur un serveur de fichiers, cependant, le dossier d&apos;une caméra porte le nom de cette adresse : avec le chemin par défaut, ces caméras partageraient un dossier sans nom ; avec un chemin spécifique, elles perdraient leur chemin actuel. Une caméra qui répond et accepte son mot de passe indique d&apos;après quoi son dossier peut être nommé.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>&amp;Interroger les caméras...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Les laisser de côté</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>Continuer avec &amp;toutes</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Utilisateur &amp; mot de passe</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>Le %n appareil sélectionné n&apos;a pas le même nom d&apos;utilisateur et le même mot de passe : il y a %1 noms d&apos;utilisateur et %2 mots de passe.</numerusform>
+            <numerusform>Les %n appareils sélectionnés n&apos;ont pas tous le même nom d&apos;utilisateur et le même mot de passe : il y a %1 noms d&apos;utilisateur et %2 mots de passe.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>La fenêtre suivante commence avec ceux du premier appareil, et donne à tous ce qu&apos;elle affiche quand vous cliquez sur OK :</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>&amp;Donner les mêmes à tous...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Seuls les appareils IP peuvent être réglés ensemble. Sélectionnez les autres un par un.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n appareil : accès aux enregistrements défini.</numerusform>
+            <numerusform>%n appareils : accès aux enregistrements défini.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n est resté inchangé.</numerusform>
+            <numerusform>%n sont restés inchangés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n appareil : nom d&apos;utilisateur et mot de passe définis.</numerusform>
+            <numerusform>%n appareils : nom d&apos;utilisateur et mot de passe définis.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Afficher tous les nœuds</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>Cette base de données ne contient encore rien.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Aucun nœud ne correspond.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Importer une liste de caméras...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Rechercher des appareils sur le réseau...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Ajouter une caméra...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>L&apos;environnement de tout le programme est maintenant « %1 ».</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Revenir à « %1 »</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>L&apos;environnement est de nouveau « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>&amp;Remplacer aussi ce qui a pu être saisi à la main</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Appareils interrogés</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>Réponses des appareils</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>%n appareil est interrogé. Rien n&apos;est encore enregistré.</numerusform>
+            <numerusform>%n appareils sont interrogés. Rien n&apos;est encore enregistré.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>Il n&apos;y a rien à remplir.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>Voici ce qu&apos;indiquent les appareils et qui n&apos;est pas encore enregistré. OK enregistre ce qui est coché.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n appareil n&apos;a rien indiqué :</numerusform>
+            <numerusform>%n appareils n&apos;ont rien indiqué :</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>%n appareil rempli.</numerusform>
+            <numerusform>%n appareils remplis.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Caméra</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Actuel</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Ensuite</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Colonnes non utilisées : %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>L&apos;importation a été annulée. Ce qui a été ajouté jusque-là est conservé.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>%1 ajoutés, %2 mis à jour, %3 inchangés, %4 lignes avec erreurs.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importer des caméras</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>En attente du trousseau. Déverrouillez-le s&apos;il le demande.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Trousseau</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>En attente de votre trousseau.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Il contient la clé des mots de passe enregistrés. Déverrouillez-le s&apos;il le demande.
+
+Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux ne peuvent pas être enregistrés.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>&amp;Continuer sans mots de passe</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Comme le système</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 grande + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 grande + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Appareil ajouté</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Appareil supprimé</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Autre appareil accepté</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Appareil nommé %1 ajouté.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Appareil nommé %1 supprimé.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Autre appareil qu&apos;avant accepté comme %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importer...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Ajoute les caméras d&apos;un relevé de site (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exporter...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Écrit toutes les caméras dans un fichier CSV</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>Exporter la &amp;sélection...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Écrit les caméras sélectionnées dans un fichier CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Préférences...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Chemins par défaut et bande passante</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Ferme le programme</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Nœud</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Ajouter...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Ajoute un nœud</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Modifier...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Modifie le nœud sélectionné</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Supprimer...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Supprime les nœuds sélectionnés</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Propriétés</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Affiche le nœud sélectionné sans le modifier</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>&amp;Utilisateur &amp;&amp; mot de passe...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Donne aux appareils sélectionnés un même nom d&apos;utilisateur et mot de passe</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Accès aux en&amp;registrements...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>D&apos;où sont lus les enregistrements des caméras sélectionnées</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>Remp&amp;lir...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Interroge les appareils sélectionnés et enregistre ce que vous choisissez</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>&amp;Dupliquer...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Ajoute un nœud semblable au nœud sélectionné</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>Ouvrir la page &amp;web</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Ouvre la page de l&apos;appareil sélectionné dans le navigateur</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>Copier les li&amp;gnes</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Copie les lignes sélectionnées pour un tableur</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>&amp;Copier l&apos;adresse</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Copie les adresses des nœuds sélectionnés</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Réseau</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>&amp;Proxy réseau...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>Le serveur proxy de l&apos;application</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>&amp;Environnements...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>Les environnements réseau</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>&amp;Rechercher des appareils...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Nœuds qui arrivent pendant l&apos;analyse du réseau</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>Vus à une &amp;nouvelle adresse...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Appareils qu&apos;une recherche a trouvés à une autre adresse que celle enregistrée ici</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>&amp;Vérifier les caméras</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Demande aux caméras sélectionnées, ou à toutes, qui elles sont, et essaie leurs mots de passe</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>&amp;Accepter comme cette caméra...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Un autre appareil qu&apos;avant est désormais cette caméra</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Colonnes...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Les colonnes de la liste</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>&amp;Journal d&apos;audit...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Qui a modifié quoi, et quand</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>&amp;Base de données des nœuds...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Tout ce qui est enregistré</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>Via la caméra</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Chemin par défaut du serveur de fichiers</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>%n appareil vu à une nouvelle adresse : Réseau &gt; Vus à une nouvelle adresse</numerusform>
+            <numerusform>%n appareils vus à une nouvelle adresse : Réseau &gt; Vus à une nouvelle adresse</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Nœuds</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Rechercher (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Mots dans toutes les colonnes ; &quot;type:caméra&quot; cherche dans une seule, &quot;état:incorrect|verrouillé&quot; l&apos;un ou l&apos;autre, &quot;-cour&quot; exclut</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Tous les types</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> T&amp;ype : </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nœuds</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>%1 nœuds, %2 affichés, %3 sélectionnés</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>Aucune caméra n&apos;est sélectionnée. Sélectionnez-en d&apos;abord une ou plusieurs dans la liste.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>Les nœuds de ce type ne peuvent pas être ajoutés.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>Ce nœud n&apos;a pas d&apos;adresse. Celle des appareils se règle dans Nœud &gt; Modifier.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>La page web de %1 n&apos;a pas pu être ouverte.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>%n ligne copiée.</numerusform>
+            <numerusform>%n lignes copiées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>%n adresse copiée.</numerusform>
+            <numerusform>%n adresses copiées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Affiche, ajoute, modifie et supprime les nœuds d&apos;un système de vidéosurveillance.&lt;/p&gt;&lt;p&gt;Logiciel libre sous la GNU LGPL 2.1 ou ultérieure.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(sans nom)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>et %n autre</numerusform>
+            <numerusform>et %n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Nœuds</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>Chemin par défaut du &amp;serveur de fichiers :</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>Serveur d&apos;&amp;aperçu à distance par défaut :</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>&amp;Connexion :</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Distant lent (modem, RNIS, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Distant rapide (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Local lent (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Local rapide (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Chemin par défaut du serveur de fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>Supprimer ce nœud ? Il ne pourra pas être récupéré.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Supprimer ce nœud ? Il ne pourra pas être récupéré.</numerusform>
+            <numerusform>Supprimer ces %n nœuds ? Ils ne pourront pas être récupérés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Supprimer des nœuds</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1 : inactif</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1 : %2 sur %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1 : recherche</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1 : terminé</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1 : annulé</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1 : non disponible (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Base de données des nœuds</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Rien de ce que vous avez saisi n&apos;est perdu tant que cette fenêtre est ouverte.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>Ce qui attend d&apos;être enregistré, en entier ou pas du tout, concerne :</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>&amp;Abandonner les modifications</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Toutes les modifications sont enregistrées.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Certaines modifications n&apos;ont pas pu être enregistrées. Elles sont perdues si le programme est fermé maintenant.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Listes de caméras (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importer des caméras</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Importation des caméras...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Exporter des caméras</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>Écrire aussi les mots de passe ? Quiconque peut lire le fichier pourra alors utiliser toutes les caméras qu&apos;il contient.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Exportation des caméras...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>%n caméra écrite.</numerusform>
+            <numerusform>%n caméras écrites.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+</TS>
