@@ -1,0 +1,1341 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Vistos en una dirección nueva</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Estos dispositivos parecen responder ahora en otra dirección. Acepte solo lo que espera: el nombre de usuario y la contraseña se enviarán en adelante a la dirección nueva.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Dirección anterior</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Dirección nueva</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>Dirección MAC</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>&amp;Aceptar selección</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>Aceptar &amp;todo</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Descartar selección</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Base de datos de nodos</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>La base de datos de nodos «%1» está en una unidad de red. Dos programas que la usen allí a la vez pueden dañarla. Muévala a un disco de este equipo.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 es para ventanas, y aquí no se abre ninguna.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, línea %2: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>La columna «%1» no se usa.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>%1 añadidas, %2 actualizadas, %3 sin cambios, %4 líneas con errores</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 escritas</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>%1 sin nombre ni dirección omitidas</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Abre esta base de datos de nodos; si no existe, se crea.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Usa este idioma, como de o pt_BR, sin importar lo que se haya elegido en otra parte.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Añade las cámaras de una lista (CSV) y termina. No se necesita ninguna ventana.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Escribe todas las cámaras en una lista (CSV) y termina.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Omite las contraseñas en --export.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Copia la base de datos, que puede estar en uso, en un archivo y termina.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Da a la base de datos, que puede estar en uso, el contenido de una copia de seguridad y termina. El contenido actual se conserva como copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Muestra, añade, edita y elimina los nodos de un sistema de videovigilancia.
+Sin --import, --export, --backup ni --restore abre una ventana y acepta también las opciones de la biblioteca gráfica (-platform, -style y otras).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Argumento inesperado: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>El valor después de --%1 está vacío.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Registro de auditoría</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Entradas</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Buscar:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>su contraseña no se puede leer</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>no pide contraseña</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>se ha modificado durante la comprobación</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>Ya se están comprobando cámaras.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>No hay ninguna cámara con dirección que comprobar.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>¿Probarla una vez con cada una?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>&amp;Probar</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>La comprobación se ha cancelado.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>&amp;Informe...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>%1 de %2 cámaras aceptaron la contraseña.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>%1 de %2 cámaras responden como deben.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>Ninguna de las cámaras seleccionadas resultó ser otro dispositivo: eso lo determina Red &gt; Comprobar cámaras.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Aceptar otros dispositivos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>Ha respondido %n dispositivo que no es el conocido hasta ahora. Acéptelo solo si sabe por qué, por ejemplo tras una sustitución o un certificado nuevo: desde la próxima comprobación se le enviarán el nombre de usuario y la contraseña guardados.</numerusform>
+            <numerusform>Han respondido %n dispositivos que no son los conocidos hasta ahora. Acéptelos solo si sabe por qué, por ejemplo tras una sustitución o un certificado nuevo: desde la próxima comprobación se les enviarán el nombre de usuario y la contraseña guardados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>A&amp;ceptar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>%n dispositivo aceptado.</numerusform>
+            <numerusform>%n dispositivos aceptados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>&amp;Comprobar</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Otro dispositivo que antes</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Bloqueado</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Contraseña incorrecta</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Pide contraseña sin cifrar</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>No se entiende</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Sin comprobar</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Responde</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Cámaras comprobadas</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Cance&amp;lar</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Quitar esta línea</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Cámaras comprobadas: %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Cámaras comprobadas</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Cámaras</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>&amp;Mostrar también las que responden</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>&amp;Ver en la lista</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Guardar como...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>Se ha omitido %n nodo, que no es un dispositivo o no tiene dirección.</numerusform>
+            <numerusform>Se han omitido %n nodos, que no son dispositivos o no tienen dirección.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Tablas (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>No se ha escrito %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>No se puede leer nada de ella.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>Aún se puede leer %n nodo de ella.</numerusform>
+            <numerusform>Aún se pueden leer %n nodos de ella.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>No hay ninguna copia de seguridad válida.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>La copia de seguridad válida más reciente es de %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Si elige una de estas opciones, el archivo dañado se conserva con otro nombre. De lo contrario, no se modifica nada.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>Base de datos de nodos</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>La base de datos de nodos está dañada. Buscando lo que se puede leer y copias de seguridad...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>Abrir &amp;otra...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>&amp;Empezar con una vacía</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>&amp;Usar lo que se puede leer</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>Restaurar la &amp;copia</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>La base de datos de nodos «%1» está dañada.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>Otro programa ha modificado las tablas de la base de datos de nodos «%1».</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>La base de datos de nodos «%1» está vacía o ha desaparecido, aunque contenía algo.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>La base de datos de nodos «%1» está dañada, o hay otro archivo en su lugar.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Abrir base de datos de nodos</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Bases de datos de nodos (*.kodb);;Todos los archivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>no tiene dirección</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>su contraseña no se puede leer</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>se ha eliminado entretanto</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>no se le ha preguntado</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Acceso a las grabaciones</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>No se conoce la dirección IP de fábrica de %n de las cámaras seleccionadas:</numerusform>
+            <numerusform>No se conoce la dirección IP de fábrica de %n de las cámaras seleccionadas:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>Sus grabaciones se pueden reproducir a través de la cámara. En un servidor de archivos, sin embargo, la carpeta de una cámara lleva el nombre de esta dirección: con la ruta predeterminada, estas cámaras compartirían una carpeta sin nombre; con una ruta específica, perderían la que tienen. Una cámara que responde y acepta su contraseña indica con qué se puede nombrar su carpeta.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>&amp;Preguntar a las cámaras...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Omitirlas</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>&amp;Seguir con todas</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Usuario y contraseña</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>El %n dispositivo seleccionado no tiene el mismo nombre de usuario y contraseña: hay %1 nombres de usuario y %2 contraseñas.</numerusform>
+            <numerusform>Los %n dispositivos seleccionados no tienen el mismo nombre de usuario y contraseña: hay %1 nombres de usuario y %2 contraseñas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>La ventana siguiente empieza con los del primer dispositivo y da a todos lo que muestre al pulsar Aceptar:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>&amp;Dar los mismos a todos...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Solo los dispositivos IP se pueden ajustar juntos. Seleccione los demás de uno en uno.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n dispositivo: acceso a las grabaciones definido.</numerusform>
+            <numerusform>%n dispositivos: acceso a las grabaciones definido.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n ha quedado como estaba.</numerusform>
+            <numerusform>%n han quedado como estaban.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n dispositivo: nombre de usuario y contraseña definidos.</numerusform>
+            <numerusform>%n dispositivos: nombre de usuario y contraseña definidos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Mostrar todos los nodos</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>Aún no hay nada en esta base de datos.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Ningún nodo coincide.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Importar una lista de cámaras...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Buscar dispositivos en la red...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Añadir una cámara...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>El entorno de todo el programa es ahora «%1».</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Volver a «%1»</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>El entorno vuelve a ser «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Rellenar</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>&amp;Reemplazar también lo que pueda haberse introducido a mano</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Dispositivos consultados</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>Lo que indican los dispositivos</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>Consultando a %n dispositivo. Aún no se guarda nada.</numerusform>
+            <numerusform>Consultando a %n dispositivos. Aún no se guarda nada.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>No hay nada que rellenar.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>Esto es lo que indican los dispositivos y aún no está guardado. Aceptar guarda lo marcado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n dispositivo no ha indicado nada:</numerusform>
+            <numerusform>%n dispositivos no han indicado nada:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>%n dispositivo rellenado.</numerusform>
+            <numerusform>%n dispositivos rellenados.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Cámara</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Después</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Línea %1: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Columnas no usadas: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>La importación se ha cancelado. Se conserva lo añadido hasta entonces.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>%1 añadidas, %2 actualizadas, %3 sin cambios, %4 líneas con errores.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importar cámaras</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>Esperando al llavero. Desbloquéelo si lo pide.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Llavero</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>Esperando a su llavero.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Contiene la clave de las contraseñas guardadas. Desbloquéelo si lo pide.
+
+Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guardar otras nuevas.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>&amp;Continuar sin contraseñas</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Como el sistema</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 grande + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 grande + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Dispositivo añadido</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Dispositivo eliminado</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Otro dispositivo aceptado</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Dispositivo con el nombre %1 añadido.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Dispositivo con el nombre %1 eliminado.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Aceptado como %1 otro dispositivo que antes.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importar...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Añade las cámaras de un levantamiento del sitio (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportar...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Escribe todas las cámaras en un archivo CSV</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>E&amp;xportar selección...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Escribe las cámaras seleccionadas en un archivo CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Preferencias...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Rutas predeterminadas y ancho de banda</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Cierra el programa</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Nodo</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Añadir...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Añade un nodo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Editar...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Modifica el nodo seleccionado</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>E&amp;liminar...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Elimina los nodos seleccionados</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Propiedades</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Muestra el nodo seleccionado sin modificarlo</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>&amp;Usuario y contraseña...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Da a los dispositivos seleccionados un mismo nombre de usuario y contraseña</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Acceso a las &amp;grabaciones...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>Desde dónde se reproducen las grabaciones de las cámaras seleccionadas</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>&amp;Rellenar...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Pregunta a los dispositivos seleccionados y guarda lo que usted elija</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>&amp;Duplicar...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Añade un nodo igual al seleccionado</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>Abrir página &amp;web</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Abre la página del dispositivo seleccionado en el navegador</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>Copiar &amp;filas</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Copia las filas seleccionadas para una hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>&amp;Copiar dirección</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Copia las direcciones de los nodos seleccionados</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Red</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>&amp;Proxy de red...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>El servidor proxy de la aplicación</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>&amp;Entornos...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>Los entornos de red</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>&amp;Buscar dispositivos...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Nodos que llegan mientras se explora la red</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>&amp;Vistos en una dirección nueva...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Dispositivos que una búsqueda encontró en una dirección distinta de la que tienen aquí</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>&amp;Comprobar cámaras</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Pregunta a las cámaras seleccionadas, o a todas, quiénes son y prueba sus contraseñas</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>&amp;Aceptar como esta cámara...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Otro dispositivo que antes es desde ahora esta cámara</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Columnas...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Qué columnas tiene la lista</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>Registro de &amp;auditoría...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Quién cambió qué y cuándo</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>Base de &amp;datos de nodos...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Todo lo que está guardado</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>A través de la cámara</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Ruta predeterminada del servidor de archivos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>%n dispositivo visto en una dirección nueva: Red &gt; Vistos en una dirección nueva</numerusform>
+            <numerusform>%n dispositivos vistos en una dirección nueva: Red &gt; Vistos en una dirección nueva</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Nodos</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Buscar (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Palabras en cualquier columna; &quot;tipo:cámara&quot; busca en una, &quot;estado:incorrecta|bloqueado&quot; cualquiera de las dos, &quot;-patio&quot; excluye</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Todos los tipos</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> &amp;Tipo: </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nodos</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>%1 nodos, %2 mostrados, %3 seleccionados</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>No hay ninguna cámara seleccionada. Seleccione antes una o varias en la lista.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>No se pueden añadir nodos de este tipo.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>Este nodo no tiene dirección. La de los dispositivos se indica en Nodo &gt; Editar.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>No se ha podido abrir la página web de %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>%n fila copiada.</numerusform>
+            <numerusform>%n filas copiadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>%n dirección copiada.</numerusform>
+            <numerusform>%n direcciones copiadas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Muestra, añade, edita y elimina los nodos de un sistema de videovigilancia.&lt;/p&gt;&lt;p&gt;Software libre bajo la GNU LGPL 2.1 o posterior.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(sin nombre)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>y %n más</numerusform>
+            <numerusform>y %n más</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Puerto</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Nodos</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>&amp;Ruta predeterminada del servidor de archivos:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Examinar...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>&amp;Servidor de vista previa remota predeterminado:</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>&amp;Conexión:</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Remota lenta (módem, RDSI, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Remota rápida (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Local lenta (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Local rápida (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Ruta predeterminada del servidor de archivos</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>¿Eliminar este nodo? No se podrá recuperar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>¿Eliminar este nodo? No se podrá recuperar.</numerusform>
+            <numerusform>¿Eliminar estos %n nodos? No se podrán recuperar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Eliminar nodos</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: inactivo</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: buscando</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: terminado</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: cancelado</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: no disponible (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Base de datos de nodos</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Nada de lo introducido se pierde mientras esta ventana esté abierta.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>Lo que espera a guardarse, todo o nada, pertenece a:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>&amp;Descartar cambios</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Todos los cambios están guardados.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Hay cambios que no se han podido guardar. Se perderán si el programa se cierra ahora.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Listas de cámaras (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importar cámaras</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Importando cámaras...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Exportar cámaras</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>¿Escribir también las contraseñas? Quien pueda leer el archivo podrá usar todas las cámaras que contiene.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Exportando cámaras...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>%n cámara escrita.</numerusform>
+            <numerusform>%n cámaras escritas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+</TS>

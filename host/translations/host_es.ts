@@ -1,0 +1,623 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>AddressGuard</name>
+    <message>
+        <source>&quot;%1&quot; has this address and port already.</source>
+        <translation>«%1» ya tiene esta dirección y este puerto.</translation>
+    </message>
+</context>
+<context>
+    <name>AddressText</name>
+    <message>
+        <source>An address holds no blanks.</source>
+        <translation>Una dirección no contiene espacios.</translation>
+    </message>
+    <message>
+        <source>This is no IPv6 address, and no host with a port.</source>
+        <translation>No es una dirección IPv6 ni un host con puerto.</translation>
+    </message>
+    <message>
+        <source>An IP address has four numbers from 0 to 255.</source>
+        <translation>Una dirección IP tiene cuatro números de 0 a 255.</translation>
+    </message>
+    <message>
+        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <translation>El nombre de un host solo contiene letras, cifras, puntos y guiones.</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535.</source>
+        <translation>Un puerto es un número de 1 a 65535.</translation>
+    </message>
+    <message>
+        <source>This URL has no host that can be read.</source>
+        <translation>Esta URL no contiene un host legible.</translation>
+    </message>
+</context>
+<context>
+    <name>ArpScanner</name>
+    <message>
+        <source>no IPv4 network is attached</source>
+        <translation>no hay ninguna red IPv4 conectada</translation>
+    </message>
+    <message>
+        <source>the system gives no socket: %1</source>
+        <translation>el sistema no proporciona ningún socket: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSurvey</name>
+    <message>
+        <source>Nothing was written, because these passwords cannot be read: %1. Unlock your keychain, bring the key file back, or leave the passwords out.</source>
+        <translation>No se ha escrito nada porque no se pueden leer estas contraseñas: %1. Desbloquee su llavero, restaure el archivo de clave u omita las contraseñas.</translation>
+    </message>
+    <message>
+        <source>There is no database.</source>
+        <translation>No hay ninguna base de datos.</translation>
+    </message>
+    <message>
+        <source>several devices have this address; give type, port and channel</source>
+        <translation>varios dispositivos tienen esta dirección; indique el tipo, el puerto y el canal</translation>
+    </message>
+    <message>
+        <source>several devices have this name; give the address</source>
+        <translation>varios dispositivos tienen este nombre; indique la dirección</translation>
+    </message>
+    <message>
+        <source>it is a database and was left as it is.</source>
+        <translation>es una base de datos y no se ha modificado.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>No se puede escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>it holds control characters</source>
+        <translation>contiene caracteres de control</translation>
+    </message>
+    <message>
+        <source>it is longer than 1024 characters</source>
+        <translation>tiene más de 1024 caracteres</translation>
+    </message>
+    <message>
+        <source>it holds a line break</source>
+        <translation>contiene un salto de línea</translation>
+    </message>
+    <message>
+        <source>it holds characters that cannot be seen</source>
+        <translation>contiene caracteres invisibles</translation>
+    </message>
+    <message>
+        <source>it is no number from 0 to 65535</source>
+        <translation>no es un número de 0 a 65535</translation>
+    </message>
+    <message>
+        <source>it is no number from 1 to 4</source>
+        <translation>no es un número de 1 a 4</translation>
+    </message>
+    <message>
+        <source>it is not one of yes, no, true, false, 1, 0</source>
+        <translation>no es yes, no, true, false, 1 ni 0</translation>
+    </message>
+    <message>
+        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <translation>no es una dirección MAC (doce cifras hexadecimales)</translation>
+    </message>
+    <message>
+        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <translation>no es IP device, URL camera ni channel device, ni un número</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>no es un número</translation>
+    </message>
+    <message>
+        <source>%1 The import has stopped there; only what is counted here is stored. Import the file again for the rest.</source>
+        <translation>%1 La importación se ha detenido ahí; solo se ha guardado lo que aquí se cuenta. Importe de nuevo el archivo para el resto.</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 no es un archivo normal.</translation>
+    </message>
+    <message>
+        <source>%1 is the node database itself.</source>
+        <translation>%1 es la propia base de datos de nodos.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>No se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 lines are bad; this is no list of cameras.</source>
+        <translation>%1 líneas son incorrectas; no es una lista de cámaras.</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because the key that seals them is not there. Unlock your keychain, bring the key file back, or make your configuration folder writable. Nothing was imported.</source>
+        <translation>Las contraseñas de la lista (en la línea %1) no se pueden guardar porque falta la clave que las cifra. Desbloquee su llavero, restaure el archivo de clave o permita la escritura en su carpeta de configuración. No se ha importado nada.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>The first line cannot be read: %1</source>
+        <translation>No se puede leer la primera línea: %1</translation>
+    </message>
+    <message>
+        <source>devices of this type cannot be added here</source>
+        <translation>aquí no se pueden añadir dispositivos de este tipo</translation>
+    </message>
+    <message>
+        <source>recording folders cannot be added here</source>
+        <translation>aquí no se pueden añadir carpetas de grabación</translation>
+    </message>
+    <message>
+        <source>the device could not be added</source>
+        <translation>no se ha podido añadir el dispositivo</translation>
+    </message>
+    <message>
+        <source>what is at this address is no device</source>
+        <translation>lo que hay en esta dirección no es un dispositivo</translation>
+    </message>
+    <message>
+        <source>the device at this address has no channels</source>
+        <translation>el dispositivo de esta dirección no tiene canales</translation>
+    </message>
+    <message>
+        <source>the device could not be changed</source>
+        <translation>no se ha podido modificar el dispositivo</translation>
+    </message>
+    <message>
+        <source>There are two columns &quot;%1&quot;.</source>
+        <translation>Hay dos columnas «%1».</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;address&quot;. The first line must name the columns.</source>
+        <translation>Falta la columna «address». La primera línea debe nombrar las columnas.</translation>
+    </message>
+    <message>
+        <source>there are more cells than columns</source>
+        <translation>hay más celdas que columnas</translation>
+    </message>
+    <message>
+        <source>bad %1: %2</source>
+        <translation>%1 incorrecto: %2</translation>
+    </message>
+    <message>
+        <source>there is neither a name nor an address</source>
+        <translation>no hay nombre ni dirección</translation>
+    </message>
+    <message>
+        <source>a device of this type has no channels</source>
+        <translation>un dispositivo de este tipo no tiene canales</translation>
+    </message>
+</context>
+<context>
+    <name>CsvReader</name>
+    <message>
+        <source>The quoted cell that begins in the record of line %1 is never closed.</source>
+        <translation>La celda entre comillas que empieza en el registro de la línea %1 no se cierra.</translation>
+    </message>
+    <message>
+        <source>The record that begins in line %1 is longer than 1 MiB.</source>
+        <translation>El registro que empieza en la línea %1 supera 1 MiB.</translation>
+    </message>
+    <message>
+        <source>text follows the closing quote of a cell</source>
+        <translation>hay texto después de las comillas finales de una celda</translation>
+    </message>
+    <message>
+        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <translation>No es un archivo de texto (la línea %1 contiene datos binarios). Guarde el archivo como texto UTF-8.</translation>
+    </message>
+    <message>
+        <source>Line %1 is longer than 1 MiB.</source>
+        <translation>La línea %1 supera 1 MiB.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not UTF-8 text. Save the file as UTF-8 and try again.</source>
+        <translation>La línea %1 no es texto UTF-8. Guarde el archivo como UTF-8 e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceCheck</name>
+    <message>
+        <source>it takes too long to answer</source>
+        <translation>tarda demasiado en responder</translation>
+    </message>
+    <message>
+        <source>the address is no address</source>
+        <translation>la dirección no es válida</translation>
+    </message>
+    <message>
+        <source>it does not speak ONVIF</source>
+        <translation>no habla ONVIF</translation>
+    </message>
+    <message>
+        <source>endpoint</source>
+        <translation>punto de conexión</translation>
+    </message>
+    <message>
+        <source>it does not tell who it is</source>
+        <translation>no dice quién es</translation>
+    </message>
+    <message>
+        <source>realm</source>
+        <translation>dominio de autenticación</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>pide una contraseña y no hay ninguna guardada</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>pide la contraseña sin cifrar</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>pide la contraseña de una forma desconocida</translation>
+    </message>
+    <message>
+        <source>it has another %1 than before</source>
+        <translation>distinto de antes: %1</translation>
+    </message>
+    <message>
+        <source>serial number</source>
+        <translation>número de serie</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceChecks</name>
+    <message>
+        <source>another password was refused there</source>
+        <translation>allí se rechazó otra contraseña</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceConnection</name>
+    <message>
+        <source>no answer in time</source>
+        <translation>sin respuesta a tiempo</translation>
+    </message>
+    <message>
+        <source>the answer is too long</source>
+        <translation>la respuesta es demasiado larga</translation>
+    </message>
+    <message>
+        <source>it sends to another place</source>
+        <translation>redirige a otro lugar</translation>
+    </message>
+    <message>
+        <source>it has another certificate than before</source>
+        <translation>tiene un certificado distinto de antes</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <translation>No se puede usar el archivo «%1»: su nombre no es texto en la codificación de este sistema. Cámbiele el nombre.</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Name:</source>
+        <translation>Nombre:</translation>
+    </message>
+</context>
+<context>
+    <name>HostNodeDB</name>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Entry of unknown kind &quot;%1&quot;</source>
+        <translation>Entrada de tipo desconocido «%1»</translation>
+    </message>
+    <message>
+        <source>Level %1: %2</source>
+        <translation>Nivel %1: %2</translation>
+    </message>
+    <message>
+        <source>Program log</source>
+        <translation>Registro del programa</translation>
+    </message>
+    <message>
+        <source>Accepted new address</source>
+        <translation>Dirección nueva aceptada</translation>
+    </message>
+    <message>
+        <source>Moved device %1 from address %2 to %3, where it was found.</source>
+        <translation>Dispositivo %1 trasladado de la dirección %2 a %3, donde se encontró.</translation>
+    </message>
+    <message>
+        <source>Imported devices</source>
+        <translation>Dispositivos importados</translation>
+    </message>
+    <message>
+        <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
+        <translation>Dispositivos importados de %1: %2 añadidos, %3 modificados, %4 líneas rechazadas.</translation>
+    </message>
+</context>
+<context>
+    <name>MacGuard</name>
+    <message>
+        <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>
+        <translation>Una dirección MAC tiene doce cifras hexadecimales, como 00:00:5E:12:34:AB.</translation>
+    </message>
+</context>
+<context>
+    <name>MdnsScanner</name>
+    <message>
+        <source>the Avahi daemon is not running</source>
+        <translation>el servicio Avahi no está en ejecución</translation>
+    </message>
+    <message>
+        <source>the Avahi daemon does not answer</source>
+        <translation>el servicio Avahi no responde</translation>
+    </message>
+    <message>
+        <source>all interfaces</source>
+        <translation>todas las interfaces</translation>
+    </message>
+</context>
+<context>
+    <name>NodeFacts</name>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Software version</source>
+        <translation>Versión de software</translation>
+    </message>
+    <message>
+        <source>MAC address</source>
+        <translation>Dirección MAC</translation>
+    </message>
+    <message>
+        <source>Current IP addresses</source>
+        <translation>Direcciones IP actuales</translation>
+    </message>
+    <message>
+        <source>Factory IP address</source>
+        <translation>Dirección IP de fábrica</translation>
+    </message>
+    <message>
+        <source>Live stream (M-JPEG)</source>
+        <translation>Transmisión en vivo (M-JPEG)</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canales</translation>
+    </message>
+    <message>
+        <source>Resolutions</source>
+        <translation>Resoluciones</translation>
+    </message>
+    <message>
+        <source>Pan, tilt, zoom</source>
+        <translation>Giro, inclinación, zoom</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+</context>
+<context>
+    <name>NodeInspector</name>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Dispositivo</translation>
+    </message>
+    <message>
+        <source>Layout options</source>
+        <translation>Opciones de diseño</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Grabaciones</translation>
+    </message>
+    <message>
+        <source>PTZ</source>
+        <translation>PTZ</translation>
+    </message>
+    <message>
+        <source>URLs</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+</context>
+<context>
+    <name>NodeTypes</name>
+    <message>
+        <source>Recording Folder</source>
+        <translation>Carpeta de grabación</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Vista</translation>
+    </message>
+    <message>
+        <source>IP Camera</source>
+        <translation>Cámara IP</translation>
+    </message>
+    <message>
+        <source>URL Camera</source>
+        <translation>Cámara URL</translation>
+    </message>
+    <message>
+        <source>Multi-Channel Device</source>
+        <translation>Dispositivo multicanal</translation>
+    </message>
+    <message>
+        <source>Internal Recorder</source>
+        <translation>Grabador interno</translation>
+    </message>
+    <message>
+        <source>Remote Preview Server</source>
+        <translation>Servidor de vista previa remota</translation>
+    </message>
+    <message>
+        <source>Node of type %1</source>
+        <translation>Nodo de tipo %1</translation>
+    </message>
+    <message>
+        <source>Remote preview of %1</source>
+        <translation>Vista previa remota de %1</translation>
+    </message>
+</context>
+<context>
+    <name>PageStack</name>
+    <message>
+        <source>This node has been removed meanwhile. Changes cannot be stored: close this window.</source>
+        <translation>Este nodo se ha eliminado entretanto. Los cambios no se pueden guardar: cierre esta ventana.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Path:</source>
+        <translation>Ruta:</translation>
+    </message>
+    <message>
+        <source>Path is below the default file server path</source>
+        <translation>La ruta está bajo la ruta predeterminada del servidor de archivos</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nombre de usuario:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Dirección:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Puerto:</translation>
+    </message>
+    <message>
+        <source>Secure connection (SSL)</source>
+        <translation>Conexión segura (SSL)</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Examinar...</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Seleccionar carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>StoreError</name>
+    <message>
+        <source>&quot;%1&quot; is not a node database but some other kind of file. It was left as it is. Choose your database file, or a new file name to start an empty one.</source>
+        <translation>«%1» no es una base de datos de nodos, sino un archivo de otro tipo. No se ha modificado. Elija su archivo de base de datos, o un nombre de archivo nuevo para empezar con una vacía.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a database of another program and holds no nodes. It was left as it is. Choose your node database, or a new file name to start an empty one.</source>
+        <translation>«%1» es la base de datos de otro programa y no contiene nodos. No se ha modificado. Elija su base de datos de nodos, o un nombre de archivo nuevo para empezar con una vacía.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program and cannot be trusted. It was left as it is. Put a backup copy in its place.</source>
+        <translation>Otro programa ha modificado las tablas de la base de datos de nodos «%1», que ya no son fiables. No se ha modificado. Sustitúyala por una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, but its log or its backups are still there. Nothing was changed. Restore a backup of it, or choose a new file name to start an empty one.</source>
+        <translation>La base de datos de nodos «%1» está vacía o ha desaparecido, pero su registro o sus copias de seguridad siguen ahí. No se ha modificado nada. Restaure una copia de seguridad, o elija un nombre de archivo nuevo para empezar con una vacía.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged. It was left as it is. Restore a backup of it; those that this program made are in the folder &quot;%1.backups&quot;.</source>
+        <translation>La base de datos de nodos «%1» está dañada. No se ha modificado. Restaure una copia de seguridad; las que hizo este programa están en la carpeta «%1.backups».</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; was written by a newer version of this program. Install that version on this computer, or open the backup copy that it made in the same folder.</source>
+        <translation>La base de datos de nodos «%1» fue escrita por una versión más reciente de este programa. Instale esa versión en este equipo, o abra la copia de seguridad que hizo en la misma carpeta.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be changed, because the file or its folder is write-protected for you. Ask your administrator for the right to write there, or copy the database into a folder of your own and open the copy.</source>
+        <translation>La base de datos de nodos «%1» no se puede modificar porque el archivo o su carpeta están protegidos contra escritura para usted. Pida a su administrador permiso de escritura, o copie la base de datos en una carpeta propia y abra la copia.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is held by another program. Close that program, or wait until its backup or copy is finished, and try again.</source>
+        <translation>Otro programa retiene la base de datos de nodos «%1». Cierre ese programa, o espere a que termine su copia de seguridad, e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>There is no space left for the node database &quot;%1&quot;. Delete files that you do not need from this disk, and try again.</source>
+        <translation>No queda espacio para la base de datos de nodos «%1». Elimine de este disco los archivos que no necesite e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be opened. Check that its folder exists, that the disk or network drive is connected, and that you may read the file.</source>
+        <translation>No se puede abrir la base de datos de nodos «%1». Compruebe que su carpeta existe, que el disco o la unidad de red están conectados y que usted puede leer el archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder, a device or a pipe and cannot hold a node database. It was left as it is. Choose another file.</source>
+        <translation>«%1» es una carpeta, un dispositivo o una tubería y no puede contener una base de datos de nodos. No se ha modificado. Elija otro archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the node database itself and was left as it is. Choose another file for the copy.</source>
+        <translation>«%1» es la propia base de datos de nodos y no se ha modificado. Elija otro archivo para la copia.</translation>
+    </message>
+    <message>
+        <source>Some passwords in the node database &quot;%1&quot; cannot be read and are shown empty, because the key that they were sealed with is not there. Unlock your keychain or bring the key file back, and start the program again. They stay in the database until you give new ones.</source>
+        <translation>Algunas contraseñas de la base de datos de nodos «%1» no se pueden leer y se muestran vacías, porque falta la clave con la que se cifraron. Desbloquee su llavero o restaure el archivo de clave y reinicie el programa. Permanecen en la base de datos hasta que indique otras nuevas.</translation>
+    </message>
+    <message>
+        <source>Some passwords in the node database &quot;%1&quot; were changed by something other than this program, and are shown empty. They stay in the database until you give new ones. Find out who can write to the file, or go back to a backup.</source>
+        <translation>Algunas contraseñas de la base de datos de nodos «%1» no fueron modificadas por este programa y se muestran vacías. Permanecen en la base de datos hasta que indique otras nuevas. Averigüe quién puede escribir en el archivo, o vuelva a una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the node database &quot;%1&quot;, because the key that seals them can be found neither in your keychain nor in a file, nor kept there. Unlock your keychain, bring the key file back, or make your configuration folder writable, and try again.</source>
+        <translation>No se pueden guardar contraseñas en la base de datos de nodos «%1», porque la clave que las cifra no está en su llavero ni en un archivo, ni se puede guardar allí. Desbloquee su llavero, restaure el archivo de clave o permita la escritura en su carpeta de configuración, e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
+        <translation>La base de datos de nodos «%1» no se puede leer ni escribir. Compruebe que su disco o unidad de red está conectado e inténtelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>WsDiscoveryScanner</name>
+    <message>
+        <source>no network takes multicast</source>
+        <translation>ninguna red admite multidifusión</translation>
+    </message>
+</context>
+</TS>
