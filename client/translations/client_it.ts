@@ -1,0 +1,1341 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Visti a un nuovo indirizzo</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Questi dispositivi sembrano rispondere ora a un altro indirizzo. Accettare solo ciò che ci si aspetta: da quel momento nome utente e password vengono inviati al nuovo indirizzo.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivi</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Vecchio indirizzo</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Nuovo indirizzo</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>Indirizzo MAC</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>&amp;Accetta selezionati</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>Accetta &amp;tutti</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Scarta selezionati</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Database dei nodi</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>Il database dei nodi &quot;%1&quot; si trova su un&apos;unità di rete. Due programmi che lo usano lì contemporaneamente possono danneggiarlo. Spostarlo su un disco di questo computer.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 vale per le finestre, e qui non ne viene aperta nessuna.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, riga %2: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>La colonna &quot;%1&quot; non viene usata.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>%1 aggiunte, %2 aggiornate, %3 invariate, %4 righe con errori</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 scritte</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>%1 senza nome e indirizzo escluse</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Apre questo database dei nodi; se non esiste, viene creato.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Usa questa lingua, ad esempio de o pt_BR, qualunque sia quella scelta altrove.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Aggiunge le telecamere di un elenco (CSV) e termina. Non serve alcuna finestra.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Scrive tutte le telecamere in un elenco (CSV) e termina.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Esclude le password da --export.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Copia il database, che può essere in uso, in un file e termina.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Dà al database, che può essere in uso, il contenuto di un backup e termina. Il contenuto attuale viene conservato come backup.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Mostra, aggiunge, modifica e rimuove i nodi di un sistema di videosorveglianza.
+Senza --import, --export, --backup e --restore apre una finestra e accetta anche le opzioni del toolkit (-platform, -style e altre).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Argomento imprevisto: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>Il valore dopo --%1 è vuoto.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Registro di controllo</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Voci</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Cerca:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utente</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Cosa</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>la password non può essere letta</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>non chiede alcuna password</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>è stato modificato durante il controllo</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>È già in corso un controllo delle telecamere.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>Non c&apos;è alcuna telecamera con un indirizzo da controllare.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>Provarla una volta con ciascuna?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>&amp;Prova</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>Il controllo è stato annullato.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>Rapp&amp;orto...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>%1 telecamere su %2 hanno accettato la password.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>%1 telecamere su %2 rispondono come previsto.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>Nessuna delle telecamere selezionate è risultata un altro dispositivo: lo determina Rete &gt; Controlla telecamere.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Accetta altri dispositivi</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>Ha risposto %n dispositivo che non è quello conosciuto finora. Accettarlo solo se si sa perché, ad esempio dopo una sostituzione o un nuovo certificato: dal prossimo controllo riceverà il nome utente e la password salvati.</numerusform>
+            <numerusform>Hanno risposto %n dispositivi che non sono quelli conosciuti finora. Accettarli solo se si sa perché, ad esempio dopo una sostituzione o un nuovo certificato: dal prossimo controllo riceveranno il nome utente e la password salvati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>&amp;Accetta</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>%n dispositivo accettato.</numerusform>
+            <numerusform>%n dispositivi accettati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>&amp;Controllali</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Dispositivo diverso da prima</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Bloccato</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Password errata</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Chiede la password in chiaro</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Nessuna risposta</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>Non compreso</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Non controllata</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Risponde</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Telecamere controllate</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Annu&amp;lla</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Nascondi questa riga</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Telecamere controllate: %1 di %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Telecamere controllate</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Telecamere</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>&amp;Elenca anche quelle che rispondono</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>&amp;Mostra nell&apos;elenco</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Salva con nome...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>Escluso %n nodo, che non è un dispositivo o non ha indirizzo.</numerusform>
+            <numerusform>Esclusi %n nodi, che non sono dispositivi o non hanno indirizzo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Tabelle (*.csv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1 non è stato scritto: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>Non se ne può leggere nulla.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>Se ne può ancora leggere %n nodo.</numerusform>
+            <numerusform>Se ne possono ancora leggere %n nodi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>Non c&apos;è alcun backup valido.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>Il backup valido più recente è del %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Scegliendo una di queste opzioni, il file danneggiato viene conservato con un altro nome. Altrimenti non viene modificato nulla.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>Database dei nodi</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>Il database dei nodi è danneggiato. Ricerca di ciò che è leggibile e dei backup...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Es&amp;ci</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>Apri un &amp;altro...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Riprova</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>&amp;Inizia con uno vuoto</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>&amp;Usa ciò che è leggibile</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>Ripristina il &amp;backup</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>Il database dei nodi &quot;%1&quot; è danneggiato.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>Le tabelle del database dei nodi &quot;%1&quot; sono state modificate da un altro programma.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>Il database dei nodi &quot;%1&quot; è vuoto o assente, anche se conteneva qualcosa.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>Il database dei nodi &quot;%1&quot; è danneggiato, o al suo posto c&apos;è un altro file.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Apri database dei nodi</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Database dei nodi (*.kodb);;Tutti i file (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>non ha un indirizzo</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>la password non può essere letta</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>è stato rimosso nel frattempo</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>non è stato interrogato</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Accesso alle registrazioni</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>L&apos;indirizzo IP di fabbrica di %n delle telecamere selezionate non è noto:</numerusform>
+            <numerusform>L&apos;indirizzo IP di fabbrica di %n delle telecamere selezionate non è noto:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>Le loro registrazioni possono essere riprodotte tramite la telecamera. Su un file server, però, la cartella di una telecamera prende il nome da questo indirizzo: con il percorso predefinito queste telecamere condividerebbero una cartella senza nome, con un percorso specifico perderebbero quello che hanno. Una telecamera che risponde e accetta la sua password indica come può essere chiamata la sua cartella.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>&amp;Interroga le telecamere...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Escludile</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>&amp;Continua con tutte</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Utente e password</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>Il %n dispositivo selezionato non ha lo stesso nome utente e la stessa password: ci sono %1 nomi utente e %2 password.</numerusform>
+            <numerusform>I %n dispositivi selezionati non hanno lo stesso nome utente e la stessa password: ci sono %1 nomi utente e %2 password.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>La finestra successiva inizia con quelli del primo dispositivo e dà a tutti ciò che mostra quando si preme OK:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>&amp;Dai gli stessi a tutti...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Solo i dispositivi IP possono essere impostati insieme. Selezionare gli altri uno alla volta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n dispositivo: accesso alle registrazioni impostato.</numerusform>
+            <numerusform>%n dispositivi: accesso alle registrazioni impostato.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n è rimasto com&apos;era.</numerusform>
+            <numerusform>%n sono rimasti com&apos;erano.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n dispositivo: nome utente e password impostati.</numerusform>
+            <numerusform>%n dispositivi: nome utente e password impostati.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Mostra tutti i nodi</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>In questo database non c&apos;è ancora nulla.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Nessun nodo corrisponde.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Importa un elenco di telecamere...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Cerca dispositivi in rete...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Aggiungi una telecamera...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>L&apos;ambiente dell&apos;intero programma è ora &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Torna a &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>L&apos;ambiente è di nuovo &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Compila</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>&amp;Sostituisci anche ciò che può essere stato immesso a mano</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Dispositivi interrogati</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>Risposte dei dispositivi</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>Interrogazione di %n dispositivo. Non viene ancora salvato nulla.</numerusform>
+            <numerusform>Interrogazione di %n dispositivi. Non viene ancora salvato nulla.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>Non c&apos;è nulla da compilare.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>Questo è ciò che indicano i dispositivi e che non è ancora salvato. OK salva ciò che è selezionato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n dispositivo non ha indicato nulla:</numerusform>
+            <numerusform>%n dispositivi non hanno indicato nulla:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>%n dispositivo compilato.</numerusform>
+            <numerusform>%n dispositivi compilati.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Telecamera</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Cosa</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Dopo</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Riga %1: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Colonne non usate: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>L&apos;importazione è stata annullata. Ciò che era stato aggiunto rimane.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>%1 aggiunte, %2 aggiornate, %3 invariate, %4 righe con errori.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importa telecamere</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Dettagli</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>In attesa del portachiavi. Sbloccarlo se lo chiede.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Portachiavi</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>In attesa del portachiavi.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Contiene la chiave delle password salvate. Sbloccarlo se lo chiede.
+
+Senza la chiave le password salvate appaiono vuote e non se ne possono salvare di nuove.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>Continua &amp;senza password</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Es&amp;ci</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Lingua</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Come il sistema</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 grande + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 grande + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Dispositivo aggiunto</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Dispositivo rimosso</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Altro dispositivo accettato</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Dispositivo con nome %1 aggiunto.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Dispositivo con nome %1 rimosso.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Accettato come %1 un dispositivo diverso da prima.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importa...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Aggiunge le telecamere di un rilievo del sito (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Esporta...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Scrive tutte le telecamere in un file CSV</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>Esporta &amp;selezionate...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Scrive le telecamere selezionate in un file CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Preferenze...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Percorsi predefiniti e larghezza di banda</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Es&amp;ci</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Chiude il programma</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Nodo</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Aggiungi...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Aggiunge un nodo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Modifica...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Modifica il nodo selezionato</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Rimuovi...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Rimuove i nodi selezionati</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Proprietà</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Mostra il nodo selezionato senza modificarlo</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>&amp;Utente e password...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Assegna ai dispositivi selezionati un unico nome utente e password</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Accesso alle re&amp;gistrazioni...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>Da dove vengono riprodotte le registrazioni delle telecamere selezionate</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>C&amp;ompila...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Interroga i dispositivi selezionati e salva ciò che si sceglie</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>&amp;Duplica...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Aggiunge un nodo uguale a quello selezionato</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>Apri pagina &amp;web</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Apre la pagina del dispositivo selezionato nel browser</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>Copia rig&amp;he</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Copia le righe selezionate per un foglio di calcolo</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>&amp;Copia indirizzo</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Copia gli indirizzi dei nodi selezionati</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Rete</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>&amp;Proxy di rete...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>Il server proxy dell&apos;applicazione</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>&amp;Ambienti...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>Gli ambienti di rete</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>&amp;Cerca dispositivi...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Nodi che arrivano durante la scansione della rete</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>&amp;Visti a un nuovo indirizzo...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Dispositivi che una ricerca ha trovato a un indirizzo diverso da quello che hanno qui</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>C&amp;ontrolla telecamere</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Chiede alle telecamere selezionate, o a tutte, chi sono e prova le loro password</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>Acce&amp;tta come questa telecamera...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Un dispositivo diverso da prima è d&apos;ora in poi questa telecamera</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Colonne...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Quali colonne ha l&apos;elenco</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>&amp;Registro di controllo...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Chi ha modificato cosa e quando</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>&amp;Database dei nodi...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Tutto ciò che è salvato</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aiuto</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Informazioni</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>Tramite la telecamera</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Percorso predefinito del file server</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>%n dispositivo visto a un nuovo indirizzo: Rete &gt; Visti a un nuovo indirizzo</numerusform>
+            <numerusform>%n dispositivi visti a un nuovo indirizzo: Rete &gt; Visti a un nuovo indirizzo</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Nodi</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Cerca (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Parole in qualsiasi colonna; &quot;tipo:telecamera&quot; cerca in una, &quot;stato:errata|bloccato&quot; una delle due, &quot;-cortile&quot; esclude</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Tutti i tipi</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> &amp;Tipo: </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nodi</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>%1 nodi, %2 mostrati, %3 selezionati</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>Nessuna telecamera selezionata. Selezionarne prima una o più nell&apos;elenco.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>I nodi di questo tipo non possono essere aggiunti.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>Questo nodo non ha un indirizzo. Quello dei dispositivi si imposta in Nodo &gt; Modifica.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>Impossibile aprire la pagina web di %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>%n riga copiata.</numerusform>
+            <numerusform>%n righe copiate.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>%n indirizzo copiato.</numerusform>
+            <numerusform>%n indirizzi copiati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Mostra, aggiunge, modifica e rimuove i nodi di un sistema di videosorveglianza.&lt;/p&gt;&lt;p&gt;Software libero con licenza GNU LGPL 2.1 o successiva.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(senza nome)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>e %n altro</numerusform>
+            <numerusform>e altri %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Registrazione</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versione</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utente</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canale</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Nodi</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferenze</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>&amp;Percorso predefinito del file server:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>S&amp;foglia...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>&amp;Server di anteprima remota predefinito:</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>&amp;Connessione:</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Remota lenta (modem, ISDN, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Remota veloce (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Locale lenta (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Locale veloce (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Percorso predefinito del file server</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>Rimuovere questo nodo? Non potrà essere recuperato.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Rimuovere questo nodo? Non potrà essere recuperato.</numerusform>
+            <numerusform>Rimuovere questi %n nodi? Non potranno essere recuperati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Rimuovi nodi</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: inattivo</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 di %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: ricerca in corso</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: terminato</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: annullato</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: non disponibile (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Database dei nodi</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Finché questa finestra è aperta, nulla di quanto immesso va perso.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>Ciò che attende di essere salvato, tutto o niente, appartiene a:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Modifiche non salvate</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Riprova</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>&amp;Scarta modifiche</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Tutte le modifiche sono salvate.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Alcune modifiche non sono state salvate. Se il programma viene chiuso ora, vanno perse.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Elenchi di telecamere (*.csv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importa telecamere</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Importazione delle telecamere...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Esporta telecamere</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>Scrivere anche le password? Chi può leggere il file potrà poi usare tutte le telecamere che contiene.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Esportazione delle telecamere...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>%n telecamera scritta.</numerusform>
+            <numerusform>%n telecamere scritte.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+</TS>
