@@ -1,0 +1,1341 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Gezien op een nieuw adres</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Deze apparaten lijken nu op een ander adres te antwoorden. Accepteer alleen wat u verwacht: gebruikersnaam en wachtwoord worden vanaf dan naar het nieuwe adres gestuurd.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Apparaten</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Oud adres</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Nieuw adres</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MAC-adres</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>Selectie &amp;accepteren</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>A&amp;lles accepteren</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>Selectie &amp;negeren</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Knooppuntdatabase</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>De knooppuntdatabase &quot;%1&quot; staat op een netwerkstation. Twee programma&apos;s die hem daar tegelijk gebruiken, kunnen hem beschadigen. Verplaats hem naar een schijf van deze computer.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 is voor vensters, en hier wordt er geen geopend.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, regel %2: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>De kolom &quot;%1&quot; wordt niet gebruikt.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>%1 toegevoegd, %2 bijgewerkt, %3 ongewijzigd, %4 regels met fouten</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 geschreven</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>%1 zonder naam en adres weggelaten</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Opent deze knooppuntdatabase; die wordt gemaakt als hij er niet is.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Gebruikt deze taal, bijvoorbeeld de of pt_BR, ongeacht wat elders is gekozen.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Voegt de camera&apos;s van een lijst (CSV) toe en stopt. Er is geen venster nodig.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Schrijft alle camera&apos;s naar een lijst (CSV) en stopt.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Laat de wachtwoorden weg bij --export.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Kopieert de database, die in gebruik mag zijn, naar een bestand en stopt.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Geeft de database, die in gebruik mag zijn, de inhoud van een reservekopie en stopt. De huidige inhoud wordt als reservekopie bewaard.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Toont, voegt toe, bewerkt en verwijdert de knooppunten van een videobewakingssysteem.
+Zonder --import, --export, --backup en --restore wordt een venster geopend en gelden ook de opties van de toolkit (-platform, -style en andere).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Onverwacht argument: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>De waarde na --%1 is leeg.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Auditlogboek</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Items</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Zoeken:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Gebruiker</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Wat</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>het wachtwoord kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>het vraagt niet om een wachtwoord</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>het is tijdens de controle gewijzigd</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>Er worden al camera&apos;s gecontroleerd.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>Er is geen camera met een adres om te controleren.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>Bij elke één keer proberen?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>&amp;Proberen</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>De controle is geannuleerd.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>&amp;Rapport...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>%1 van %2 camera&apos;s accepteerden het wachtwoord.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>%1 van %2 camera&apos;s antwoorden zoals het hoort.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>Geen van de geselecteerde camera&apos;s bleek een ander apparaat te zijn: Netwerk &gt; Camera&apos;s controleren stelt dat vast.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Andere apparaten accepteren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>Er antwoordde %n apparaat dat niet het tot nu toe bekende is. Accepteer het alleen als u weet waarom, bijvoorbeeld na een vervanging of een nieuw certificaat: vanaf de volgende controle ontvangt het de opgeslagen gebruikersnaam en het wachtwoord.</numerusform>
+            <numerusform>Er antwoordden %n apparaten die niet de tot nu toe bekende zijn. Accepteer ze alleen als u weet waarom, bijvoorbeeld na een vervanging of een nieuw certificaat: vanaf de volgende controle ontvangen ze de opgeslagen gebruikersnaam en het wachtwoord.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>&amp;Accepteren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>%n apparaat geaccepteerd.</numerusform>
+            <numerusform>%n apparaten geaccepteerd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>&amp;Controleren</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Ander apparaat dan voorheen</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Geblokkeerd</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Onjuist wachtwoord</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Wil een onversleuteld wachtwoord</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Geen antwoord</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>Niet begrepen</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Niet gecontroleerd</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Antwoordt</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Gecontroleerde camera&apos;s</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Ann&amp;uleren</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Deze regel verbergen</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Gecontroleerde camera&apos;s: %1 van %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Gecontroleerde camera&apos;s</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Camera&apos;s</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>Ook die &amp;antwoorden tonen</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>In &amp;lijst tonen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiëren</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Opslaan als...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>%n knooppunt weggelaten, dat geen apparaat is of geen adres heeft.</numerusform>
+            <numerusform>%n knooppunten weggelaten, die geen apparaten zijn of geen adres hebben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Tabellen (*.csv);;Alle bestanden (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1 is niet geschreven: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Reden</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tijd</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>Er kan niets van worden gelezen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>Er kan nog %n knooppunt van worden gelezen.</numerusform>
+            <numerusform>Er kunnen nog %n knooppunten van worden gelezen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>Er is geen goede reservekopie.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>De nieuwste goede reservekopie is gemaakt op %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Als u een van deze kiest, wordt het beschadigde bestand onder een andere naam bewaard. Anders wordt niets gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>Knooppuntdatabase</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>De knooppuntdatabase is beschadigd. Er wordt gezocht naar wat leesbaar is en naar reservekopieën...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Afsluiten</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>Een andere &amp;openen...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>O&amp;pnieuw</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>&amp;Leeg beginnen</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>Leesbare ge&amp;bruiken</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>&amp;Reservekopie terugzetten</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>De knooppuntdatabase &quot;%1&quot; is beschadigd.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>De tabellen van de knooppuntdatabase &quot;%1&quot; zijn door een ander programma gewijzigd.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>De knooppuntdatabase &quot;%1&quot; is leeg of verdwenen, hoewel er iets in stond.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>De knooppuntdatabase &quot;%1&quot; is beschadigd, of er staat een ander bestand op zijn plaats.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Knooppuntdatabase openen</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Knooppuntdatabases (*.kodb);;Alle bestanden (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>het heeft geen adres</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>het wachtwoord kan niet worden gelezen</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>het is intussen verwijderd</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>het is niet gevraagd</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Toegang tot opnamen</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>Het fabrieks-IP-adres van %n van de geselecteerde camera&apos;s is niet bekend:</numerusform>
+            <numerusform>Het fabrieks-IP-adres van %n van de geselecteerde camera&apos;s is niet bekend:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>Hun opnamen kunnen via de camera worden afgespeeld. Op een bestandsserver wordt de map van een camera echter naar dit adres genoemd: met het standaardpad zouden deze camera&apos;s één map zonder naam delen, met een specifiek pad zouden ze hun huidige pad verliezen. Een camera die antwoordt en zijn wachtwoord accepteert, meldt waarnaar zijn map kan worden genoemd.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>Camera&apos;s &amp;vragen...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Weglaten</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>&amp;Doorgaan met alle</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Gebruiker &amp; wachtwoord</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>Het %n geselecteerde apparaat heeft niet dezelfde gebruikersnaam en hetzelfde wachtwoord: er zijn %1 gebruikersnamen en %2 wachtwoorden.</numerusform>
+            <numerusform>De %n geselecteerde apparaten hebben niet dezelfde gebruikersnaam en hetzelfde wachtwoord: er zijn %1 gebruikersnamen en %2 wachtwoorden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>Het volgende venster begint met die van het eerste apparaat en geeft ze allemaal wat het toont wanneer u op OK klikt:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>Alle &amp;hetzelfde geven...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Alleen IP-apparaten kunnen samen worden ingesteld. Selecteer de andere één voor één.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n apparaat: toegang tot opnamen ingesteld.</numerusform>
+            <numerusform>%n apparaten: toegang tot opnamen ingesteld.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n is niet gewijzigd.</numerusform>
+            <numerusform>%n zijn niet gewijzigd.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n apparaat: gebruikersnaam en wachtwoord ingesteld.</numerusform>
+            <numerusform>%n apparaten: gebruikersnaam en wachtwoord ingesteld.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Alle knooppunten tonen</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>Er staat nog niets in deze database.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Geen knooppunt voldoet daaraan.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Een lijst met camera&apos;s importeren...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Apparaten in het netwerk zoeken...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Een camera toevoegen...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>De omgeving van het hele programma is nu &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Terug naar &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>De omgeving is weer &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Invullen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>&amp;Ook vervangen wat misschien met de hand is ingevoerd</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Gevraagde apparaten</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>Wat de apparaten meldden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>%n apparaat wordt gevraagd. Er wordt nog niets opgeslagen.</numerusform>
+            <numerusform>%n apparaten worden gevraagd. Er wordt nog niets opgeslagen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>Er is niets in te vullen.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>Dit melden de apparaten en is nog niet opgeslagen. OK slaat op wat is aangevinkt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n apparaat meldde niets:</numerusform>
+            <numerusform>%n apparaten meldden niets:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>%n apparaat ingevuld.</numerusform>
+            <numerusform>%n apparaten ingevuld.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Wat</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nu</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Straks</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Regel %1: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Niet-gebruikte kolommen: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>Het importeren is geannuleerd. Wat tot dan toe is toegevoegd, blijft behouden.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>%1 toegevoegd, %2 bijgewerkt, %3 ongewijzigd, %4 regels met fouten.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Camera&apos;s importeren</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>Wachten op de sleutelbos. Ontgrendel hem als hij daarom vraagt.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Sleutelbos</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>Wachten op uw sleutelbos.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Hij bevat de sleutel van de opgeslagen wachtwoorden. Ontgrendel hem als hij daarom vraagt.
+
+Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen nieuwe worden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>&amp;Doorgaan zonder wachtwoorden</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Afsluiten</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Taal</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Zoals het systeem</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 groot + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 groot + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Apparaat toegevoegd</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Apparaat verwijderd</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Ander apparaat geaccepteerd</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Apparaat met naam %1 toegevoegd.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Apparaat met naam %1 verwijderd.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Ander apparaat dan voorheen geaccepteerd als %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Bestand</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importeren...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Voegt de camera&apos;s van een locatie-inventarisatie (CSV) toe</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exporteren...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Schrijft alle camera&apos;s naar een CSV-bestand</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>&amp;Selectie exporteren...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Schrijft de geselecteerde camera&apos;s naar een CSV-bestand</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Voorkeuren...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Standaardpaden en bandbreedte</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Afsluiten</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Sluit het programma</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Knooppunt</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Toevoegen...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Voegt een knooppunt toe</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Bewerken...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Wijzigt het geselecteerde knooppunt</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Verwijderen...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Verwijdert de geselecteerde knooppunten</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Eigenschappen</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Toont het geselecteerde knooppunt zonder het te wijzigen</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>&amp;Gebruiker &amp;&amp; wachtwoord...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Geeft de geselecteerde apparaten één gebruikersnaam en wachtwoord</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Toegang tot &amp;opnamen...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>Waarvandaan de opnamen van de geselecteerde camera&apos;s worden afgespeeld</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>&amp;Invullen...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Vraagt de geselecteerde apparaten wat ze zijn en slaat op wat u daarvan kiest</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>&amp;Dupliceren...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Voegt een knooppunt toe dat gelijk is aan het geselecteerde</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>&amp;Webpagina openen</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Opent de pagina van het geselecteerde apparaat in de browser</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>&amp;Rijen kopiëren</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Kopieert de geselecteerde rijen voor een spreadsheet</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>&amp;Adres kopiëren</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Kopieert de adressen van de geselecteerde knooppunten</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Netwerk</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>Netwerk&amp;proxy...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>De proxyserver van de toepassing</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>&amp;Omgevingen...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>De netwerkomgevingen</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>Apparaten &amp;zoeken...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Knooppunten die binnenkomen terwijl het netwerk wordt gescand</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>&amp;Gezien op een nieuw adres...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Apparaten die een scan op een ander adres heeft gevonden dan ze hier hebben</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>&amp;Camera&apos;s controleren</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Vraagt de geselecteerde camera&apos;s, of alle, wie ze zijn en probeert hun wachtwoorden</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>&amp;Accepteren als deze camera...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Een ander apparaat dan voorheen is vanaf nu deze camera</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Bee&amp;ld</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Kolommen...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Welke kolommen de lijst heeft</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>&amp;Auditlogboek...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Wie wat wanneer heeft gewijzigd</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>Knooppunt&amp;database...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Alles wat is opgeslagen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Over</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>Via de camera</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Standaardpad op de bestandsserver</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>%n apparaat gezien op een nieuw adres: Netwerk &gt; Gezien op een nieuw adres</numerusform>
+            <numerusform>%n apparaten gezien op een nieuw adres: Netwerk &gt; Gezien op een nieuw adres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Knooppunten</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Zoeken (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Woorden in elke kolom; &quot;type:camera&quot; zoekt in één, &quot;status:onjuist|geblokkeerd&quot; naar een van beide, &quot;-binnenplaats&quot; laat weg</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Alle typen</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> T&amp;ype: </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knooppunten</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>%1 knooppunten, %2 getoond, %3 geselecteerd</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>Er is geen camera geselecteerd. Selecteer eerst een of meer in de lijst.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>Knooppunten van dit type kunnen niet worden toegevoegd.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>Dit knooppunt heeft geen adres. Apparaten krijgen het onder Knooppunt &gt; Bewerken.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>De webpagina van %1 kon niet worden geopend.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>%n rij gekopieerd.</numerusform>
+            <numerusform>%n rijen gekopieerd.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>%n adres gekopieerd.</numerusform>
+            <numerusform>%n adressen gekopieerd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Toont, voegt toe, bewerkt en verwijdert de knooppunten van een videobewakingssysteem.&lt;/p&gt;&lt;p&gt;Vrije software onder de GNU LGPL 2.1 of later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(naamloos)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>en nog %n</numerusform>
+            <numerusform>en nog %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Opname</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versie</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Poort</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Gebruiker</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanaal</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Knooppunten</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Voorkeuren</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>Standaard&amp;pad op de bestandsserver:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Bladeren...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>Standaard&amp;server voor extern voorbeeld:</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>&amp;Verbinding:</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Extern, langzaam (modem, ISDN, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Extern, snel (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Lokaal, langzaam (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Lokaal, snel (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Standaardpad op de bestandsserver</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>Dit knooppunt verwijderen? Het kan niet worden teruggehaald.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Dit knooppunt verwijderen? Het kan niet worden teruggehaald.</numerusform>
+            <numerusform>Deze %n knooppunten verwijderen? Ze kunnen niet worden teruggehaald.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Knooppunten verwijderen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: inactief</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 van %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: zoekt</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: klaar</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: geannuleerd</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: niet beschikbaar (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Knooppuntdatabase</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Zolang dit venster open is, gaat niets van uw invoer verloren.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>Wat nog moet worden opgeslagen, alles of niets, hoort bij:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Wijzigingen zijn niet opgeslagen</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>O&amp;pnieuw</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>Wijzigingen &amp;verwerpen</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Alle wijzigingen zijn opgeslagen.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Er zijn wijzigingen die niet konden worden opgeslagen. Ze gaan verloren als het programma nu wordt gesloten.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Lijsten met camera&apos;s (*.csv);;Alle bestanden (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Camera&apos;s importeren</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Camera&apos;s importeren...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Camera&apos;s exporteren</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>Ook de wachtwoorden schrijven? Wie het bestand kan lezen, kan dan elke camera erin gebruiken.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Camera&apos;s exporteren...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>%n camera geschreven.</numerusform>
+            <numerusform>%n camera&apos;s geschreven.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+</TS>
