@@ -1,0 +1,1341 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Vistos em um novo endereço</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Estes dispositivos parecem responder agora em outro endereço. Aceite apenas o que você espera: o nome de usuário e a senha serão enviados ao novo endereço a partir de então.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Dispositivos</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Endereço antigo</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Novo endereço</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>Endereço MAC</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>&amp;Aceitar selecionados</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>Aceitar &amp;todos</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Descartar selecionados</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Banco de dados de nós</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>O banco de dados de nós &quot;%1&quot; está em uma unidade de rede. Dois programas que o usem ali ao mesmo tempo podem danificá-lo. Mova-o para um disco deste computador.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 é para janelas, e nenhuma é aberta aqui.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, linha %2: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>A coluna &quot;%1&quot; não é usada.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>%1 adicionadas, %2 atualizadas, %3 inalteradas, %4 linhas com erros</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>%1 gravadas</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>%1 sem nome e endereço omitidas</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Abre este banco de dados de nós; ele é criado se não existir.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Usa este idioma, como de ou pt_BR, não importa o que foi escolhido em outro lugar.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Adiciona as câmeras de uma lista (CSV) e termina. Nenhuma janela é necessária.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Grava todas as câmeras em uma lista (CSV) e termina.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Deixa as senhas fora de --export.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Copia o banco de dados, que pode estar em uso, para um arquivo e termina.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Dá ao banco de dados, que pode estar em uso, o conteúdo de um backup e termina. O conteúdo atual é mantido como backup.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Mostra, adiciona, edita e remove os nós de um sistema de videomonitoramento.
+Sem --import, --export, --backup e --restore, abre uma janela e aceita também as opções do toolkit (-platform, -style e outras).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Argumento inesperado: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>O valor após --%1 está vazio.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Registro de auditoria</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Entradas</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Pesquisar</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Pesquisar:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuário</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>O quê</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>a senha não pode ser lida</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>não pede senha</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>foi alterado durante a verificação</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>As câmeras já estão sendo verificadas.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>Não há câmera com endereço para verificar.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>Testar uma vez em cada uma?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>&amp;Testar</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>A verificação foi cancelada.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>Rela&amp;tório...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>%1 de %2 câmeras aceitaram a senha.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>%1 de %2 câmeras respondem como devem.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>Nenhuma das câmeras selecionadas se revelou outro dispositivo: isso é determinado por Rede &gt; Verificar câmeras.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Aceitar outros dispositivos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>Respondeu %n dispositivo que não é o conhecido até agora. Aceite-o somente se souber por quê, como após uma troca ou um novo certificado: a partir da próxima verificação, ele receberá o nome de usuário e a senha armazenados.</numerusform>
+            <numerusform>Responderam %n dispositivos que não são os conhecidos até agora. Aceite-os somente se souber por quê, como após uma troca ou um novo certificado: a partir da próxima verificação, eles receberão o nome de usuário e a senha armazenados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>&amp;Aceitar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>%n dispositivo aceito.</numerusform>
+            <numerusform>%n dispositivos aceitos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>&amp;Verificar</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Outro dispositivo</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Bloqueado</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Senha incorreta</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Pede senha sem criptografia</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Sem resposta</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>Não compreendido</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Não verificada</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Responde</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Câmeras verificadas</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Cance&amp;lar</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Ocultar esta linha</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Câmeras verificadas: %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Câmeras verificadas</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Câmeras</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>&amp;Mostrar também as que respondem</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>&amp;Ver na lista</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Salvar como...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>%n nó omitido, que não é um dispositivo ou não tem endereço.</numerusform>
+            <numerusform>%n nós omitidos, que não são dispositivos ou não têm endereço.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Tabelas (*.csv);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1 não foi gravado: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Endereço</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>Nada dele pode ser lido.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>Ainda pode ser lido %n nó dele.</numerusform>
+            <numerusform>Ainda podem ser lidos %n nós dele.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>Não há backup válido.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>O backup válido mais recente é de %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Se você escolher uma destas opções, o arquivo danificado será mantido com outro nome. Caso contrário, nada será alterado.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>Banco de dados de nós</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>O banco de dados de nós está danificado. Procurando o que pode ser lido e backups...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>Abrir &amp;outro...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Repetir</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>&amp;Começar com um vazio</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>&amp;Usar o que pode ser lido</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>Restaurar o &amp;backup</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>O banco de dados de nós &quot;%1&quot; está danificado.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>As tabelas do banco de dados de nós &quot;%1&quot; foram alteradas por outro programa.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>O banco de dados de nós &quot;%1&quot; está vazio ou desapareceu, embora tivesse algo.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>O banco de dados de nós &quot;%1&quot; está danificado, ou outro arquivo está no lugar dele.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Abrir banco de dados de nós</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Bancos de dados de nós (*.kodb);;Todos os arquivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>não tem endereço</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>a senha não pode ser lida</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>foi removido nesse meio-tempo</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>não foi consultado</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Acesso às gravações</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>O endereço IP de fábrica de %n das câmeras selecionadas não é conhecido:</numerusform>
+            <numerusform>O endereço IP de fábrica de %n das câmeras selecionadas não é conhecido:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>As gravações delas podem ser reproduzidas pela câmera. Em um servidor de arquivos, porém, a pasta de uma câmera recebe o nome deste endereço: com o caminho padrão, estas câmeras compartilhariam uma pasta sem nome; com um caminho específico, perderiam o caminho que têm. Uma câmera que responde e aceita sua senha informa com que nome sua pasta pode ser chamada.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>&amp;Perguntar às câmeras...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Deixá-las de fora</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>&amp;Continuar com todas</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Usuário e senha</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>O %n dispositivo selecionado não tem o mesmo nome de usuário e senha: há %1 nomes de usuário e %2 senhas.</numerusform>
+            <numerusform>Os %n dispositivos selecionados não têm o mesmo nome de usuário e senha: há %1 nomes de usuário e %2 senhas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>A próxima janela começa com os do primeiro dispositivo e dá a todos o que ela mostrar quando você pressionar OK:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>&amp;Dar os mesmos a todos...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Somente dispositivos IP podem ser definidos em conjunto. Selecione os outros um de cada vez.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n dispositivo: acesso às gravações definido.</numerusform>
+            <numerusform>%n dispositivos: acesso às gravações definido.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n ficou como estava.</numerusform>
+            <numerusform>%n ficaram como estavam.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n dispositivo: nome de usuário e senha definidos.</numerusform>
+            <numerusform>%n dispositivos: nome de usuário e senha definidos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Mostrar todos os nós</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>Ainda não há nada neste banco de dados.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Nenhum nó corresponde.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Importar uma lista de câmeras...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Localizar dispositivos na rede...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Adicionar uma câmera...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>O ambiente de todo o programa agora é &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Voltar para &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>O ambiente é novamente &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Preencher</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>&amp;Substituir também o que pode ter sido digitado à mão</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Dispositivos consultados</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>O que os dispositivos informaram</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>Consultando %n dispositivo. Nada é armazenado ainda.</numerusform>
+            <numerusform>Consultando %n dispositivos. Nada é armazenado ainda.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>Não há nada para preencher.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>Isto é o que os dispositivos informam e ainda não está armazenado. OK armazena o que está marcado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n dispositivo não informou nada:</numerusform>
+            <numerusform>%n dispositivos não informaram nada:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>%n dispositivo preenchido.</numerusform>
+            <numerusform>%n dispositivos preenchidos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Câmera</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>O quê</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Agora</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Depois</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Linha %1: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Colunas não usadas: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>A importação foi cancelada. O que foi adicionado até então permanece.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>%1 adicionadas, %2 atualizadas, %3 inalteradas, %4 linhas com erros.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importar câmeras</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>Aguardando o chaveiro. Desbloqueie-o se ele pedir.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Chaveiro</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>Aguardando seu chaveiro.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Ele contém a chave das senhas armazenadas. Desbloqueie-o se ele pedir.
+
+Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armazenadas.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>&amp;Continuar sem senhas</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Como o sistema</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 grande + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 grande + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Dispositivo adicionado</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Dispositivo removido</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Outro dispositivo aceito</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Dispositivo com o nome %1 adicionado.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Dispositivo com o nome %1 removido.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Outro dispositivo que não o anterior aceito como %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importar...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Adiciona as câmeras de um levantamento do local (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportar...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Grava todas as câmeras em um arquivo CSV</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>E&amp;xportar selecionadas...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Grava as câmeras selecionadas em um arquivo CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Preferências...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Caminhos padrão e largura de banda</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Fecha o programa</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Nó</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Adicionar...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Adiciona um nó</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Editar...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Altera o nó selecionado</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Remover...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Remove os nós selecionados</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Propriedades</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Mostra o nó selecionado sem alterá-lo</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>&amp;Usuário e senha...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Dá aos dispositivos selecionados um mesmo nome de usuário e senha</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Acesso às &amp;gravações...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>De onde são reproduzidas as gravações das câmeras selecionadas</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>Preenc&amp;her...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Pergunta aos dispositivos selecionados o que são e armazena o que você escolher</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>&amp;Duplicar...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Adiciona um nó igual ao selecionado</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>Abrir página &amp;web</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Abre a página do dispositivo selecionado no navegador</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>Copiar &amp;linhas</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Copia as linhas selecionadas para uma planilha</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>&amp;Copiar endereço</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Copia os endereços dos nós selecionados</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Rede</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>&amp;Proxy de rede...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>O servidor proxy do aplicativo</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>&amp;Ambientes...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>Os ambientes de rede</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>&amp;Localizar dispositivos...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Nós que chegam enquanto a rede é examinada</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>&amp;Vistos em um novo endereço...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Dispositivos que uma busca encontrou em um endereço diferente do que têm aqui</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>V&amp;erificar câmeras</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Pergunta às câmeras selecionadas, ou a todas, quem são e testa suas senhas</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>A&amp;ceitar como esta câmera...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Outro dispositivo passa a ser esta câmera a partir de agora</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>E&amp;xibir</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Colunas...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Quais colunas a lista tem</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>Registro de &amp;auditoria...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Quem alterou o quê, e quando</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>Banco de &amp;dados de nós...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Tudo o que está armazenado</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;juda</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Sobre</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>Pela câmera</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Caminho padrão do servidor de arquivos</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>%n dispositivo visto em um novo endereço: Rede &gt; Vistos em um novo endereço</numerusform>
+            <numerusform>%n dispositivos vistos em um novo endereço: Rede &gt; Vistos em um novo endereço</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Nós</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Pesquisar (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Palavras em qualquer coluna; &quot;tipo:câmera&quot; procura em uma, &quot;estado:incorreta|bloqueado&quot; uma das duas, &quot;-pátio&quot; exclui</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Pesquisar</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Todos os tipos</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> Ti&amp;po: </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nós</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>%1 nós, %2 exibidos, %3 selecionados</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>Nenhuma câmera selecionada. Selecione primeiro uma ou mais na lista.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>Nós deste tipo não podem ser adicionados.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>Este nó não tem endereço. O dos dispositivos é definido em Nó &gt; Editar.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>A página web de %1 não pôde ser aberta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>%n linha copiada.</numerusform>
+            <numerusform>%n linhas copiadas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>%n endereço copiado.</numerusform>
+            <numerusform>%n endereços copiados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Mostra, adiciona, edita e remove os nós de um sistema de videomonitoramento.&lt;/p&gt;&lt;p&gt;Software livre sob a GNU LGPL 2.1 ou posterior.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(sem nome)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>e mais %n</numerusform>
+            <numerusform>e mais %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Endereço</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Gravação</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versão</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuário</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Nós</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferências</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>Caminho padrão do &amp;servidor de arquivos:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Procurar...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>Servidor padrão de &amp;visualização remota:</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>&amp;Conexão:</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Remota lenta (modem, ISDN, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Remota rápida (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Local lenta (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Local rápida (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Caminho padrão do servidor de arquivos</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>Remover este nó? Ele não poderá ser recuperado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Remover este nó? Ele não poderá ser recuperado.</numerusform>
+            <numerusform>Remover estes %n nós? Eles não poderão ser recuperados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Remover nós</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Remover</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: inativo</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 de %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: procurando</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: concluído</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: cancelado</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: não disponível (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Banco de dados de nós</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Nada do que você digitou se perde enquanto esta janela estiver aberta.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>O que espera para ser armazenado, tudo ou nada, pertence a:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Alterações não armazenadas</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Repetir</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>&amp;Descartar alterações</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Todas as alterações foram armazenadas.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Há alterações que não puderam ser armazenadas. Elas se perdem se o programa for fechado agora.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Listas de câmeras (*.csv);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importar câmeras</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Importando câmeras...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Exportar câmeras</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>Gravar também as senhas? Quem puder ler o arquivo poderá usar todas as câmeras que estão nele.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Exportando câmeras...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>%n câmera gravada.</numerusform>
+            <numerusform>%n câmeras gravadas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+</TS>
