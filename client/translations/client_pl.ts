@@ -1,0 +1,1359 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Widziane pod nowym adresem</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Te urządzenia zdają się teraz odpowiadać pod innym adresem. Przyjmij tylko te, których się spodziewasz: nazwa użytkownika i hasło będą odtąd wysyłane na nowy adres.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Urządzenia</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Stary adres</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Nowy adres</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>Adres MAC</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>&amp;Przyjmij zaznaczone</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>Przyjmij &amp;wszystkie</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Odrzuć zaznaczone</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Baza danych węzłów</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>Baza danych węzłów „%1” leży na dysku sieciowym. Dwa programy używające jej tam jednocześnie mogą ją uszkodzić. Przenieś ją na dysk tego komputera.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 dotyczy okien, a tutaj żadne nie jest otwierane.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, wiersz %2: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>Kolumna „%1” nie jest używana.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>Dodano %1, zaktualizowano %2, bez zmian %3, wierszy z błędami: %4</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>Zapisano: %1</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>Pominięto bez nazwy i adresu: %1</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Otwiera tę bazę danych węzłów; jeśli jej nie ma, zostanie utworzona.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Używa tego języka, np. de lub pt_BR, niezależnie od innych ustawień.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Dodaje kamery z listy (CSV) i kończy pracę. Okno nie jest potrzebne.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Zapisuje wszystkie kamery na liście (CSV) i kończy pracę.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Pomija hasła przy --export.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Kopiuje bazę danych, która może być w użyciu, do pliku i kończy pracę.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Nadaje bazie danych, która może być w użyciu, zawartość kopii zapasowej i kończy pracę. Obecna zawartość jest zachowywana jako kopia zapasowa.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Pokazuje, dodaje, edytuje i usuwa węzły systemu monitoringu wizyjnego.
+Bez --import, --export, --backup i --restore otwiera okno i przyjmuje też opcje biblioteki graficznej (-platform, -style i inne).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Nieoczekiwany argument: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>Wartość po --%1 jest pusta.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Dziennik zmian</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Wpisy</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Szukaj</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Szukaj:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Użytkownik</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>nie można odczytać hasła</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>urządzenie nie wymaga hasła</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>zmieniono podczas sprawdzania</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>Kamery są już sprawdzane.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>Nie ma kamery z adresem do sprawdzenia.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>Wypróbować raz na każdym?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>Wyp&amp;róbuj</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>Sprawdzanie anulowano.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>&amp;Raport...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>Hasło przyjęło %1 z %2 kamer.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>Prawidłowo odpowiada %1 z %2 kamer.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>Żadna z zaznaczonych kamer nie okazała się innym urządzeniem: ustala to Sieć &gt; Sprawdź kamery.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Przyjmij inne urządzenia</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>Odpowiedziało %n urządzenie inne niż dotąd znane. Przyjmij je tylko, jeśli znasz powód, np. wymianę lub nowy certyfikat: od następnego sprawdzenia otrzyma zapisaną nazwę użytkownika i hasło.</numerusform>
+            <numerusform>Odpowiedziały %n urządzenia inne niż dotąd znane. Przyjmij je tylko, jeśli znasz powód, np. wymianę lub nowy certyfikat: od następnego sprawdzenia otrzymają zapisaną nazwę użytkownika i hasło.</numerusform>
+            <numerusform>Odpowiedziało %n urządzeń innych niż dotąd znane. Przyjmij je tylko, jeśli znasz powód, np. wymianę lub nowy certyfikat: od następnego sprawdzenia otrzymają zapisaną nazwę użytkownika i hasło.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>&amp;Przyjmij</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>Przyjęto %n urządzenie.</numerusform>
+            <numerusform>Przyjęto %n urządzenia.</numerusform>
+            <numerusform>Przyjęto %n urządzeń.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>Sp&amp;rawdź</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Inne urządzenie niż poprzednio</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Zablokowano</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Błędne hasło</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Wymaga jawnego hasła</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Brak odpowiedzi</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>Niezrozumiałe</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Niesprawdzona</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Odpowiada</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Sprawdzone kamery</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>An&amp;uluj</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Ukryj ten wiersz</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Sprawdzone kamery: %1 z %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Sprawdzone kamery</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kamery</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>Pokaż też te, które &amp;odpowiadają</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>Pokaż na &amp;liście</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Zapisz jako...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>Pominięto %n węzeł, który nie jest urządzeniem lub nie ma adresu.</numerusform>
+            <numerusform>Pominięto %n węzły, które nie są urządzeniami lub nie mają adresu.</numerusform>
+            <numerusform>Pominięto %n węzłów, które nie są urządzeniami lub nie mają adresu.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Tabele (*.csv);;Wszystkie pliki (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>Nie zapisano %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Powód</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>Niczego z niej nie można odczytać.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>Można z niej jeszcze odczytać %n węzeł.</numerusform>
+            <numerusform>Można z niej jeszcze odczytać %n węzły.</numerusform>
+            <numerusform>Można z niej jeszcze odczytać %n węzłów.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>Nie ma dobrej kopii zapasowej.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>Najnowsza dobra kopia zapasowa pochodzi z %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Jeśli wybierzesz jedną z tych możliwości, uszkodzony plik zostanie zachowany pod inną nazwą. W przeciwnym razie nic się nie zmieni.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>Baza danych węzłów</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>Baza danych węzłów jest uszkodzona. Wyszukiwanie danych do odczytu i kopii zapasowych...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Zakończ</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>&amp;Otwórz inną...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Ponów</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>Zacznij od p&amp;ustej</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>Użyj &amp;czytelnych danych</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>Przywróć &amp;kopię zapasową</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>Baza danych węzłów „%1” jest uszkodzona.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>Tabele bazy danych węzłów „%1” zostały zmienione przez inny program.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>Baza danych węzłów „%1” jest pusta lub zniknęła, choć coś zawierała.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>Baza danych węzłów „%1” jest uszkodzona lub na jej miejscu jest inny plik.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Otwórz bazę danych węzłów</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Bazy danych węzłów (*.kodb);;Wszystkie pliki (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>brak adresu</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>nie można odczytać hasła</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>usunięto w międzyczasie</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>nie odpytano</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Dostęp do nagrań</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>Fabryczny adres IP %n z zaznaczonych kamer nie jest znany:</numerusform>
+            <numerusform>Fabryczne adresy IP %n z zaznaczonych kamer nie są znane:</numerusform>
+            <numerusform>Fabryczne adresy IP %n z zaznaczonych kamer nie są znane:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>Ich nagrania można odtwarzać przez kamerę. Na serwerze plików folder kamery jest jednak nazwany od tego adresu: przy ścieżce domyślnej kamery te dzieliłyby jeden folder bez nazwy, a przy osobnej ścieżce straciłyby obecną. Kamera, która odpowiada i przyjmuje swoje hasło, podaje, jak można nazwać jej folder.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>Odpytaj &amp;kamery...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Pomiń je</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>Kontynuuj ze &amp;wszystkimi</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Użytkownik i hasło</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>%n zaznaczone urządzenie nie ma tej samej nazwy użytkownika i hasła: nazw użytkownika jest %1, a haseł %2.</numerusform>
+            <numerusform>%n zaznaczone urządzenia nie mają tej samej nazwy użytkownika i hasła: nazw użytkownika jest %1, a haseł %2.</numerusform>
+            <numerusform>%n zaznaczonych urządzeń nie ma tej samej nazwy użytkownika i hasła: nazw użytkownika jest %1, a haseł %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>Następne okno zaczyna od danych pierwszego urządzenia i po naciśnięciu OK nadaje wszystkim to, co pokazuje:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>Nadaj wszystkim &amp;te same...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Tylko urządzenia IP można ustawiać razem. Pozostałe zaznaczaj pojedynczo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n urządzenie: ustawiono dostęp do nagrań.</numerusform>
+            <numerusform>%n urządzenia: ustawiono dostęp do nagrań.</numerusform>
+            <numerusform>%n urządzeń: ustawiono dostęp do nagrań.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n pozostało bez zmian.</numerusform>
+            <numerusform>%n pozostały bez zmian.</numerusform>
+            <numerusform>%n pozostało bez zmian.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n urządzenie: ustawiono nazwę użytkownika i hasło.</numerusform>
+            <numerusform>%n urządzenia: ustawiono nazwę użytkownika i hasło.</numerusform>
+            <numerusform>%n urządzeń: ustawiono nazwę użytkownika i hasło.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Pokaż wszystkie węzły</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>W tej bazie danych nie ma jeszcze niczego.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Żaden węzeł nie pasuje.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Importuj listę kamer...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Znajdź urządzenia w sieci...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Dodaj kamerę...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>Środowiskiem całego programu jest teraz „%1”.</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Wróć do „%1”</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>Środowiskiem jest znowu „%1”.</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Uzupełnij</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>&amp;Zastąp też to, co mogło zostać wpisane ręcznie</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Odpytane urządzenia</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>Co podały urządzenia</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>Odpytywanie %n urządzenia. Nic nie jest jeszcze zapisywane.</numerusform>
+            <numerusform>Odpytywanie %n urządzeń. Nic nie jest jeszcze zapisywane.</numerusform>
+            <numerusform>Odpytywanie %n urządzeń. Nic nie jest jeszcze zapisywane.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>Nie ma czego uzupełniać.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>To podają urządzenia, a nie jest jeszcze zapisane. OK zapisuje to, co zaznaczono.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n urządzenie niczego nie podało:</numerusform>
+            <numerusform>%n urządzenia niczego nie podały:</numerusform>
+            <numerusform>%n urządzeń niczego nie podało:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>Uzupełniono %n urządzenie.</numerusform>
+            <numerusform>Uzupełniono %n urządzenia.</numerusform>
+            <numerusform>Uzupełniono %n urządzeń.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Teraz</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Potem</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Wiersz %1: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Nieużywane kolumny: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>Import anulowano. To, co dodano do tej chwili, pozostaje.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>Dodano %1, zaktualizowano %2, bez zmian %3, wierszy z błędami: %4.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importuj kamery</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Szczegóły</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>Oczekiwanie na pęk kluczy. Odblokuj go, jeśli o to poprosi.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Pęk kluczy</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>Oczekiwanie na pęk kluczy.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Zawiera klucz zapisanych haseł. Odblokuj go, jeśli o to poprosi.
+
+Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisać.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>&amp;Kontynuuj bez haseł</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Zakończ</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Język</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Jak w systemie</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 duży + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 duży + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Dodano urządzenie</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Usunięto urządzenie</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Przyjęto inne urządzenie</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Dodano urządzenie o nazwie %1.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Usunięto urządzenie o nazwie %1.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Jako %1 przyjęto inne urządzenie niż poprzednio.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Plik</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importuj...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Dodaje kamery ze spisu obiektu (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Eksportuj...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Zapisuje wszystkie kamery w pliku CSV</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>Eksportuj z&amp;aznaczone...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Zapisuje zaznaczone kamery w pliku CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Preferencje...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Domyślne ścieżki i przepustowość</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Zakończ</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Zamyka program</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Węzeł</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Dodaj...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Dodaje węzeł</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Edytuj...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Zmienia zaznaczony węzeł</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Usuń...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Usuwa zaznaczone węzły</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Właściwości</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Pokazuje zaznaczony węzeł bez zmieniania go</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>Użytkownik i &amp;hasło...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Nadaje zaznaczonym urządzeniom jedną nazwę użytkownika i hasło</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Dostęp do &amp;nagrań...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>Skąd odtwarzane są nagrania zaznaczonych kamer</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>Uzu&amp;pełnij...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Odpytuje zaznaczone urządzenia i zapisuje z tego to, co wybierzesz</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>Dup&amp;likuj...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Dodaje węzeł taki jak zaznaczony</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>Otwó&amp;rz stronę WWW</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Otwiera stronę zaznaczonego urządzenia w przeglądarce</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>Kopiuj w&amp;iersze</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Kopiuje zaznaczone wiersze do arkusza kalkulacyjnego</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>&amp;Kopiuj adres</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Kopiuje adresy zaznaczonych węzłów</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Sieć</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>&amp;Proxy sieciowe...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>Serwer proxy aplikacji</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>Ś&amp;rodowiska...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>Środowiska sieciowe</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>&amp;Znajdź urządzenia...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Węzły pojawiające się podczas skanowania sieci</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>&amp;Widziane pod nowym adresem...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Urządzenia, które skanowanie znalazło pod innym adresem niż zapisany tutaj</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>&amp;Sprawdź kamery</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Pyta zaznaczone kamery lub wszystkie, czym są, i wypróbowuje ich hasła</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>Prz&amp;yjmij jako tę kamerę...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Inne urządzenie niż poprzednio jest odtąd tą kamerą</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Wi&amp;dok</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Kolumny...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Które kolumny ma lista</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>Dziennik &amp;zmian...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Kto, co i kiedy zmienił</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>&amp;Baza danych węzłów...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Wszystko, co jest zapisane</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Po&amp;moc</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;O programie</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>Przez kamerę</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Domyślna ścieżka serwera plików</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>Pod nowym adresem widziano %n urządzenie: Sieć &gt; Widziane pod nowym adresem</numerusform>
+            <numerusform>Pod nowym adresem widziano %n urządzenia: Sieć &gt; Widziane pod nowym adresem</numerusform>
+            <numerusform>Pod nowym adresem widziano %n urządzeń: Sieć &gt; Widziane pod nowym adresem</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Węzły</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Szukaj (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Słowa w dowolnej kolumnie; „typ:kamera” szuka w jednej, „stan:błędne|zablokowano” jednego z dwóch, „-podwórze” pomija</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Szukaj</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Wszystkie typy</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> &amp;Typ: </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Węzły</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>Węzły: %1, pokazane: %2, zaznaczone: %3</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>Nie zaznaczono żadnej kamery. Najpierw zaznacz jedną lub kilka na liście.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>Węzłów tego typu nie można dodawać.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>Ten węzeł nie ma adresu. Adres urządzenia podaje się w Węzeł &gt; Edytuj.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>Nie udało się otworzyć strony WWW %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>Skopiowano %n wiersz.</numerusform>
+            <numerusform>Skopiowano %n wiersze.</numerusform>
+            <numerusform>Skopiowano %n wierszy.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>Skopiowano %n adres.</numerusform>
+            <numerusform>Skopiowano %n adresy.</numerusform>
+            <numerusform>Skopiowano %n adresów.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O programie</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Pokazuje, dodaje, edytuje i usuwa węzły systemu monitoringu wizyjnego.&lt;/p&gt;&lt;p&gt;Wolne oprogramowanie na licencji GNU LGPL 2.1 lub nowszej.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(bez nazwy)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+            <numerusform>i jeszcze %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Nagrywanie</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Wersja</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Użytkownik</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanał</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Węzły</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencje</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>Domyślna ś&amp;cieżka serwera plików:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Przeglądaj...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>Domyślny &amp;serwer podglądu zdalnego:</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>P&amp;ołączenie:</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Zdalne wolne (modem, ISDN, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Zdalne szybkie (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Lokalne wolne (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Lokalne szybkie (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Domyślna ścieżka serwera plików</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>Usunąć ten węzeł? Nie będzie można go przywrócić.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Usunąć %n węzeł? Nie będzie można go przywrócić.</numerusform>
+            <numerusform>Usunąć te %n węzły? Nie będzie można ich przywrócić.</numerusform>
+            <numerusform>Usunąć te %n węzłów? Nie będzie można ich przywrócić.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Usuń węzły</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Usuń</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: bezczynne</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 z %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: wyszukiwanie</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: gotowe</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: anulowano</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: niedostępne (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Baza danych węzłów</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Dopóki to okno jest otwarte, nic z wprowadzonych danych nie przepadnie.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>To, co czeka na zapisanie, w całości albo wcale, dotyczy:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Zmiany nie są zapisane</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Ponów</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>&amp;Odrzuć zmiany</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Wszystkie zmiany są zapisane.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Są zmiany, których nie udało się zapisać. Przepadną, jeśli program zostanie teraz zamknięty.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Listy kamer (*.csv);;Wszystkie pliki (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importuj kamery</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Importowanie kamer...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Eksportuj kamery</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>Zapisać też hasła? Kto może odczytać plik, będzie mógł używać wszystkich kamer, które zawiera.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Eksportowanie kamer...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>Zapisano %n kamerę.</numerusform>
+            <numerusform>Zapisano %n kamery.</numerusform>
+            <numerusform>Zapisano %n kamer.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+</TS>
