@@ -1,0 +1,1359 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="cs" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Viděno na nové adrese</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Tato zařízení nyní zřejmě odpovídají na jiné adrese. Přijměte jen to, co očekáváte: uživatelské jméno a heslo se od té chvíle posílají na novou adresu.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Zařízení</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Název</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Stará adresa</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Nová adresa</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>Adresa MAC</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>&amp;Přijmout vybrané</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>Přijmout &amp;vše</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Zahodit vybrané</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Databáze uzlů</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>Databáze uzlů „%1“ leží na síťové jednotce. Dva programy, které ji tam používají současně, ji mohou poškodit. Přesuňte ji na disk tohoto počítače.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 platí pro okna, a zde se žádné neotevírá.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, řádek %2: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>Sloupec „%1“ se nepoužívá.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>přidáno %1, aktualizováno %2, beze změny %3, řádků s chybami %4</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>zapsáno: %1</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>vynecháno bez názvu a adresy: %1</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Otevře tuto databázi uzlů; pokud neexistuje, vytvoří ji.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Použije tento jazyk, např. de nebo pt_BR, bez ohledu na jiná nastavení.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Přidá kamery ze seznamu (CSV) a skončí. Okno není potřeba.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Zapíše všechny kamery do seznamu (CSV) a skončí.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Vynechá hesla z --export.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Zkopíruje databázi, která se může používat, do souboru a skončí.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Dá databázi, která se může používat, obsah zálohy a skončí. Současný obsah se uchová jako záloha.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Zobrazuje, přidává, upravuje a odebírá uzly kamerového systému.
+Bez --import, --export, --backup a --restore otevře okno a přijímá i volby grafické knihovny (-platform, -style a další).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Neočekávaný argument: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>Hodnota za --%1 je prázdná.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Protokol změn</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Záznamy</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hledat</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Hledat:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopírovat</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Uživatel</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>heslo nelze přečíst</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>nepožaduje heslo</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>během kontroly bylo změněno</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>Kamery se již kontrolují.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>Není žádná kamera s adresou ke kontrole.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>Vyzkoušet jednou u každého?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>&amp;Vyzkoušet</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>Kontrola byla zrušena.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>Z&amp;práva...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>Heslo přijalo %1 z %2 kamer.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>Správně odpovídá %1 z %2 kamer.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>U žádné z vybraných kamer nebylo zjištěno jiné zařízení: zjišťuje to Síť &gt; Zkontrolovat kamery.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Přijmout jiná zařízení</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>Odpovědělo %n zařízení, které není to dosud známé. Přijměte je jen tehdy, když víte proč, např. po výměně nebo s novým certifikátem: od příští kontroly mu bude posláno uložené uživatelské jméno a heslo.</numerusform>
+            <numerusform>Odpověděla %n zařízení, která nejsou ta dosud známá. Přijměte je jen tehdy, když víte proč, např. po výměně nebo s novým certifikátem: od příští kontroly jim bude posláno uložené uživatelské jméno a heslo.</numerusform>
+            <numerusform>Odpovědělo %n zařízení, která nejsou ta dosud známá. Přijměte je jen tehdy, když víte proč, např. po výměně nebo s novým certifikátem: od příští kontroly jim bude posláno uložené uživatelské jméno a heslo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>&amp;Přijmout</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>Přijato %n zařízení.</numerusform>
+            <numerusform>Přijata %n zařízení.</numerusform>
+            <numerusform>Přijato %n zařízení.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>Z&amp;kontrolovat</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Jiné zařízení než dříve</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Zablokováno</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Chybné heslo</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Požaduje otevřené heslo</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Žádná odpověď</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>Nesrozumitelné</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Nezkontrolováno</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Odpovídá</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Zkontrolované kamery</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Z&amp;rušit</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Skrýt tento řádek</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Zkontrolované kamery: %1 z %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Zkontrolované kamery</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kamery</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>Zobrazit i ty, které &amp;odpovídají</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>Zobrazit v &amp;seznamu</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopírovat</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Uložit jako...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>Vynechán %n uzel, který není zařízení nebo nemá adresu.</numerusform>
+            <numerusform>Vynechány %n uzly, které nejsou zařízení nebo nemají adresu.</numerusform>
+            <numerusform>Vynecháno %n uzlů, které nejsou zařízení nebo nemají adresu.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Tabulky (*.csv);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1 nebylo zapsáno: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Název</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresa</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stav</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Důvod</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Čas</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>Nelze z ní nic přečíst.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>Lze z ní ještě přečíst %n uzel.</numerusform>
+            <numerusform>Lze z ní ještě přečíst %n uzly.</numerusform>
+            <numerusform>Lze z ní ještě přečíst %n uzlů.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>Není žádná dobrá záloha.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>Nejnovější dobrá záloha je z %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Zvolíte-li některou z těchto možností, poškozený soubor se uchová pod jiným názvem. Jinak se nic nezmění.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>Databáze uzlů</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>Databáze uzlů je poškozena. Hledá se, co lze přečíst, a zálohy...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Konec</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>&amp;Otevřít jinou...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Zkusit znovu</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>Začít s &amp;prázdnou</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>Použí&amp;t čitelné</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>Obnovit zá&amp;lohu</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>Databáze uzlů „%1“ je poškozena.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>Tabulky databáze uzlů „%1“ změnil jiný program.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>Databáze uzlů „%1“ je prázdná nebo zmizela, ačkoli něco obsahovala.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>Databáze uzlů „%1“ je poškozena, nebo je na jejím místě jiný soubor.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Otevřít databázi uzlů</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Databáze uzlů (*.kodb);;Všechny soubory (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>nemá adresu</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>heslo nelze přečíst</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>mezitím odebráno</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>nedotázáno</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Přístup k záznamům</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>Tovární adresa IP %n z vybraných kamer není známa:</numerusform>
+            <numerusform>Tovární adresy IP %n z vybraných kamer nejsou známy:</numerusform>
+            <numerusform>Tovární adresy IP %n z vybraných kamer nejsou známy:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>Jejich záznamy lze přehrávat přes kameru. Na souborovém serveru je však složka kamery pojmenována podle této adresy: s výchozí cestou by tyto kamery sdílely jednu složku bez názvu, se zvláštní cestou by přišly o tu, kterou mají. Kamera, která odpovídá a přijme své heslo, sdělí, podle čeho lze její složku pojmenovat.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>&amp;Dotázat se kamer...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Vynechat je</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>&amp;Pokračovat se všemi</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Uživatel a heslo</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>%n vybrané zařízení nemá stejné uživatelské jméno a heslo: uživatelských jmen je %1 a hesel %2.</numerusform>
+            <numerusform>%n vybraná zařízení nemají stejné uživatelské jméno a heslo: uživatelských jmen je %1 a hesel %2.</numerusform>
+            <numerusform>%n vybraných zařízení nemá stejné uživatelské jméno a heslo: uživatelských jmen je %1 a hesel %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>Další okno začíná údaji prvního zařízení a po stisknutí OK dá všem to, co zobrazuje:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>&amp;Dát všem stejné...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Společně lze nastavit jen zařízení IP. Ostatní vybírejte po jednom.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n zařízení: přístup k záznamům nastaven.</numerusform>
+            <numerusform>%n zařízení: přístup k záznamům nastaven.</numerusform>
+            <numerusform>%n zařízení: přístup k záznamům nastaven.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n zůstalo beze změny.</numerusform>
+            <numerusform>%n zůstala beze změny.</numerusform>
+            <numerusform>%n zůstalo beze změny.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n zařízení: uživatelské jméno a heslo nastaveny.</numerusform>
+            <numerusform>%n zařízení: uživatelské jméno a heslo nastaveny.</numerusform>
+            <numerusform>%n zařízení: uživatelské jméno a heslo nastaveny.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Zobrazit všechny uzly</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>V této databázi zatím nic není.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Žádný uzel nevyhovuje.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Importovat seznam kamer...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Najít zařízení v síti...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Přidat kameru...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>Prostředí celého programu je nyní „%1“.</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Zpět na „%1“</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>Prostředí je opět „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Doplnit</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>&amp;Nahradit i to, co mohlo být zadáno ručně</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Dotázaná zařízení</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>Co zařízení sdělila</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>Dotazuje se %n zařízení. Zatím se nic neukládá.</numerusform>
+            <numerusform>Dotazují se %n zařízení. Zatím se nic neukládá.</numerusform>
+            <numerusform>Dotazuje se %n zařízení. Zatím se nic neukládá.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>Není co doplnit.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>Toto zařízení sdělují a není to zatím uloženo. OK uloží zaškrtnuté.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n zařízení nic nesdělilo:</numerusform>
+            <numerusform>%n zařízení nic nesdělila:</numerusform>
+            <numerusform>%n zařízení nic nesdělilo:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>Doplněno %n zařízení.</numerusform>
+            <numerusform>Doplněna %n zařízení.</numerusform>
+            <numerusform>Doplněno %n zařízení.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nyní</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Potom</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Řádek %1: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Nepoužité sloupce: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>Import byl zrušen. Co bylo do té doby přidáno, zůstává.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>Přidáno %1, aktualizováno %2, beze změny %3, řádků s chybami %4.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importovat kamery</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Podrobnosti</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>Čeká se na klíčenku. Odemkněte ji, pokud o to požádá.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Klíčenka</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>Čeká se na vaši klíčenku.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Obsahuje klíč uložených hesel. Odemkněte ji, pokud o to požádá.
+
+Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>&amp;Pokračovat bez hesel</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Konec</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Jazyk</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Podle systému</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 velká + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 velká + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Přidáno zařízení</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Odebráno zařízení</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Přijato jiné zařízení</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Přidáno zařízení s názvem %1.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Odebráno zařízení s názvem %1.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Jako %1 přijato jiné zařízení než dříve.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>S&amp;oubor</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Importovat...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Přidá kamery ze soupisu lokality (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportovat...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Zapíše všechny kamery do souboru CSV</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>Exportovat &amp;vybrané...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Zapíše vybrané kamery do souboru CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Předvolby...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Výchozí cesty a šířka pásma</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Konec</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Zavře program</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Uzel</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Přidat...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Přidá uzel</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Upravit...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Změní vybraný uzel</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Odebrat...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Odebere vybrané uzly</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Vlastnosti</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Zobrazí vybraný uzel, aniž by jej změnil</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>Uživatel a &amp;heslo...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Dá vybraným zařízením jedno uživatelské jméno a heslo</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Přístup k &amp;záznamům...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>Odkud se přehrávají záznamy vybraných kamer</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>Dop&amp;lnit...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Dotáže se vybraných zařízení a uloží z toho, co zvolíte</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>&amp;Duplikovat...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Přidá uzel stejný jako vybraný</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>Otevřít &amp;webovou stránku</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Otevře stránku vybraného zařízení v prohlížeči</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>Kopírovat řádk&amp;y</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Zkopíruje vybrané řádky pro tabulkový kalkulátor</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>&amp;Kopírovat adresu</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Zkopíruje adresy vybraných uzlů</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Síť</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>Síťová &amp;proxy...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>Server proxy aplikace</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>P&amp;rostředí...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>Síťová prostředí</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>&amp;Najít zařízení...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Uzly, které přicházejí během hledání v síti</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>&amp;Viděno na nové adrese...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Zařízení, která hledání našlo na jiné adrese, než mají zde</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>&amp;Zkontrolovat kamery</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Zeptá se vybraných kamer, nebo všech, co jsou zač, a vyzkouší jejich hesla</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>Přijmout &amp;jako tuto kameru...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Jiné zařízení než dříve je odteď touto kamerou</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Zobrazit</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Sloupce...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Které sloupce má seznam</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>Protokol &amp;změn...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Kdo, co a kdy změnil</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>&amp;Databáze uzlů...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Vše, co je uloženo</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Nápověda</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;O programu</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>Přes kameru</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Výchozí cesta souborového serveru</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>Na nové adrese bylo viděno %n zařízení: Síť &gt; Viděno na nové adrese</numerusform>
+            <numerusform>Na nové adrese byla viděna %n zařízení: Síť &gt; Viděno na nové adrese</numerusform>
+            <numerusform>Na nové adrese bylo viděno %n zařízení: Síť &gt; Viděno na nové adrese</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Uzly</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Hledat (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Slova v libovolném sloupci; „typ:kamera“ hledá v jednom, „stav:chybné|zablokováno“ jedno z obou, „-dvůr“ vynechá</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hledat</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Všechny typy</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> &amp;Typ: </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Uzly</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>Uzlů: %1, zobrazeno: %2, vybráno: %3</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>Není vybrána žádná kamera. Nejprve jednu nebo více vyberte v seznamu.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>Uzly tohoto typu nelze přidat.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>Tento uzel nemá adresu. Adresa zařízení se zadává v Uzel &gt; Upravit.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>Webovou stránku %1 se nepodařilo otevřít.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>Zkopírován %n řádek.</numerusform>
+            <numerusform>Zkopírovány %n řádky.</numerusform>
+            <numerusform>Zkopírováno %n řádků.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>Zkopírována %n adresa.</numerusform>
+            <numerusform>Zkopírovány %n adresy.</numerusform>
+            <numerusform>Zkopírováno %n adres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O programu</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Zobrazuje, přidává, upravuje a odebírá uzly kamerového systému.&lt;/p&gt;&lt;p&gt;Svobodný software pod GNU LGPL 2.1 nebo novější.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(bez názvu)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>a %n další</numerusform>
+            <numerusform>a %n další</numerusform>
+            <numerusform>a %n dalších</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Název</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresa</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Záznam</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stav</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Verze</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Uživatel</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanál</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Uzly</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Předvolby</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>Výchozí &amp;cesta souborového serveru:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Procházet...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>Výchozí &amp;server vzdáleného náhledu:</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>Př&amp;ipojení:</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Vzdálené pomalé (modem, ISDN, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Vzdálené rychlé (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Místní pomalé (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Místní rychlé (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Výchozí cesta souborového serveru</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>Odebrat tento uzel? Nelze jej vrátit.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Odebrat %n uzel? Nelze jej vrátit.</numerusform>
+            <numerusform>Odebrat tyto %n uzly? Nelze je vrátit.</numerusform>
+            <numerusform>Odebrat těchto %n uzlů? Nelze je vrátit.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Odebrat uzly</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Odebrat</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: nečinné</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 z %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: hledá se</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: hotovo</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: zrušeno</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: není k dispozici (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Databáze uzlů</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Dokud je toto okno otevřené, nic z toho, co jste zadali, se neztratí.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>Co čeká na uložení, vše nebo nic, patří k:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Změny nejsou uloženy</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Zkusit znovu</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>Zah&amp;odit změny</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Všechny změny jsou uloženy.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Některé změny se nepodařilo uložit. Pokud program nyní zavřete, ztratí se.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Seznamy kamer (*.csv);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Importovat kamery</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Importují se kamery...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Exportovat kamery</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>Zapsat i hesla? Kdo může soubor číst, může pak používat všechny kamery v něm.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Exportují se kamery...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>Zapsána %n kamera.</numerusform>
+            <numerusform>Zapsány %n kamery.</numerusform>
+            <numerusform>Zapsáno %n kamer.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+</context>
+</TS>

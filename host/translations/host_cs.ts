@@ -1,0 +1,623 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="cs" sourcelanguage="en">
+<context>
+    <name>AddressGuard</name>
+    <message>
+        <source>&quot;%1&quot; has this address and port already.</source>
+        <translation>„%1“ už má tuto adresu a port.</translation>
+    </message>
+</context>
+<context>
+    <name>AddressText</name>
+    <message>
+        <source>An address holds no blanks.</source>
+        <translation>Adresa neobsahuje mezery.</translation>
+    </message>
+    <message>
+        <source>This is no IPv6 address, and no host with a port.</source>
+        <translation>Toto není adresa IPv6 ani hostitel s portem.</translation>
+    </message>
+    <message>
+        <source>An IP address has four numbers from 0 to 255.</source>
+        <translation>Adresa IP má čtyři čísla od 0 do 255.</translation>
+    </message>
+    <message>
+        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <translation>Název hostitele obsahuje jen písmena, číslice, tečky a spojovníky.</translation>
+    </message>
+    <message>
+        <source>A port is a number from 1 to 65535.</source>
+        <translation>Port je číslo od 1 do 65535.</translation>
+    </message>
+    <message>
+        <source>This URL has no host that can be read.</source>
+        <translation>Tato adresa URL neobsahuje čitelného hostitele.</translation>
+    </message>
+</context>
+<context>
+    <name>ArpScanner</name>
+    <message>
+        <source>no IPv4 network is attached</source>
+        <translation>není připojena žádná síť IPv4</translation>
+    </message>
+    <message>
+        <source>the system gives no socket: %1</source>
+        <translation>systém neposkytuje soket: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 z %2</translation>
+    </message>
+</context>
+<context>
+    <name>CameraSurvey</name>
+    <message>
+        <source>Nothing was written, because these passwords cannot be read: %1. Unlock your keychain, bring the key file back, or leave the passwords out.</source>
+        <translation>Nic nebylo zapsáno, protože tato hesla nelze přečíst: %1. Odemkněte svou klíčenku, vraťte soubor s klíčem nebo hesla vynechejte.</translation>
+    </message>
+    <message>
+        <source>There is no database.</source>
+        <translation>Databáze neexistuje.</translation>
+    </message>
+    <message>
+        <source>several devices have this address; give type, port and channel</source>
+        <translation>tuto adresu má více zařízení; uveďte typ, port a kanál</translation>
+    </message>
+    <message>
+        <source>several devices have this name; give the address</source>
+        <translation>tento název má více zařízení; uveďte adresu</translation>
+    </message>
+    <message>
+        <source>it is a database and was left as it is.</source>
+        <translation>je to databáze a nebyla změněna.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written: %2</source>
+        <translation>%1 nelze zapsat: %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 a další: %2</translation>
+    </message>
+    <message>
+        <source>it holds control characters</source>
+        <translation>obsahuje řídicí znaky</translation>
+    </message>
+    <message>
+        <source>it is longer than 1024 characters</source>
+        <translation>je delší než 1024 znaků</translation>
+    </message>
+    <message>
+        <source>it holds a line break</source>
+        <translation>obsahuje zalomení řádku</translation>
+    </message>
+    <message>
+        <source>it holds characters that cannot be seen</source>
+        <translation>obsahuje neviditelné znaky</translation>
+    </message>
+    <message>
+        <source>it is no number from 0 to 65535</source>
+        <translation>není číslo od 0 do 65535</translation>
+    </message>
+    <message>
+        <source>it is no number from 1 to 4</source>
+        <translation>není číslo od 1 do 4</translation>
+    </message>
+    <message>
+        <source>it is not one of yes, no, true, false, 1, 0</source>
+        <translation>není yes, no, true, false, 1 ani 0</translation>
+    </message>
+    <message>
+        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <translation>není adresa MAC (dvanáct šestnáctkových číslic)</translation>
+    </message>
+    <message>
+        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <translation>není IP device, URL camera ani channel device, ani číslo</translation>
+    </message>
+    <message>
+        <source>it is no number</source>
+        <translation>není číslo</translation>
+    </message>
+    <message>
+        <source>%1 The import has stopped there; only what is counted here is stored. Import the file again for the rest.</source>
+        <translation>%1 Import se tam zastavil; uloženo je jen to, co je zde spočítáno. Zbytek přidáte opětovným importem souboru.</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 není běžný soubor.</translation>
+    </message>
+    <message>
+        <source>%1 is the node database itself.</source>
+        <translation>%1 je sama databáze uzlů.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 nelze přečíst: %2</translation>
+    </message>
+    <message>
+        <source>%1 lines are bad; this is no list of cameras.</source>
+        <translation>Chybných řádků: %1; toto není seznam kamer.</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because the key that seals them is not there. Unlock your keychain, bring the key file back, or make your configuration folder writable. Nothing was imported.</source>
+        <translation>Hesla ze seznamu (na řádku %1) nelze uložit, protože chybí klíč, který je šifruje. Odemkněte svou klíčenku, vraťte soubor s klíčem nebo povolte zápis do složky s konfigurací. Nic nebylo importováno.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Soubor je prázdný.</translation>
+    </message>
+    <message>
+        <source>The first line cannot be read: %1</source>
+        <translation>První řádek nelze přečíst: %1</translation>
+    </message>
+    <message>
+        <source>devices of this type cannot be added here</source>
+        <translation>zařízení tohoto typu zde nelze přidat</translation>
+    </message>
+    <message>
+        <source>recording folders cannot be added here</source>
+        <translation>složky záznamů zde nelze přidat</translation>
+    </message>
+    <message>
+        <source>the device could not be added</source>
+        <translation>zařízení se nepodařilo přidat</translation>
+    </message>
+    <message>
+        <source>what is at this address is no device</source>
+        <translation>na této adrese není zařízení</translation>
+    </message>
+    <message>
+        <source>the device at this address has no channels</source>
+        <translation>zařízení na této adrese nemá kanály</translation>
+    </message>
+    <message>
+        <source>the device could not be changed</source>
+        <translation>zařízení se nepodařilo změnit</translation>
+    </message>
+    <message>
+        <source>There are two columns &quot;%1&quot;.</source>
+        <translation>Sloupec „%1“ je zde dvakrát.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;address&quot;. The first line must name the columns.</source>
+        <translation>Chybí sloupec „address“. První řádek musí obsahovat názvy sloupců.</translation>
+    </message>
+    <message>
+        <source>there are more cells than columns</source>
+        <translation>je více buněk než sloupců</translation>
+    </message>
+    <message>
+        <source>bad %1: %2</source>
+        <translation>chybné %1: %2</translation>
+    </message>
+    <message>
+        <source>there is neither a name nor an address</source>
+        <translation>není uveden název ani adresa</translation>
+    </message>
+    <message>
+        <source>a device of this type has no channels</source>
+        <translation>zařízení tohoto typu nemá kanály</translation>
+    </message>
+</context>
+<context>
+    <name>CsvReader</name>
+    <message>
+        <source>The quoted cell that begins in the record of line %1 is never closed.</source>
+        <translation>Buňka v uvozovkách, která začíná v záznamu na řádku %1, není uzavřena.</translation>
+    </message>
+    <message>
+        <source>The record that begins in line %1 is longer than 1 MiB.</source>
+        <translation>Záznam začínající na řádku %1 je delší než 1 MiB.</translation>
+    </message>
+    <message>
+        <source>text follows the closing quote of a cell</source>
+        <translation>za uzavírací uvozovkou buňky následuje text</translation>
+    </message>
+    <message>
+        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <translation>Toto není textový soubor (řádek %1 obsahuje binární data). Uložte soubor jako text UTF-8.</translation>
+    </message>
+    <message>
+        <source>Line %1 is longer than 1 MiB.</source>
+        <translation>Řádek %1 je delší než 1 MiB.</translation>
+    </message>
+    <message>
+        <source>Line %1 is not UTF-8 text. Save the file as UTF-8 and try again.</source>
+        <translation>Řádek %1 není text UTF-8. Uložte soubor jako UTF-8 a zkuste to znovu.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1</source>
+        <translation>Soubor nelze přečíst: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceCheck</name>
+    <message>
+        <source>it takes too long to answer</source>
+        <translation>odpověď trvá příliš dlouho</translation>
+    </message>
+    <message>
+        <source>the address is no address</source>
+        <translation>adresa je neplatná</translation>
+    </message>
+    <message>
+        <source>it does not speak ONVIF</source>
+        <translation>nepodporuje ONVIF</translation>
+    </message>
+    <message>
+        <source>endpoint</source>
+        <translation>koncový bod</translation>
+    </message>
+    <message>
+        <source>it does not tell who it is</source>
+        <translation>neuvádí, co je zač</translation>
+    </message>
+    <message>
+        <source>realm</source>
+        <translation>oblast ověření</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>požaduje heslo a žádné není uloženo</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>požaduje heslo v otevřené podobě</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>požaduje heslo neznámým způsobem</translation>
+    </message>
+    <message>
+        <source>it has another %1 than before</source>
+        <translation>jiné než dříve: %1</translation>
+    </message>
+    <message>
+        <source>serial number</source>
+        <translation>sériové číslo</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceChecks</name>
+    <message>
+        <source>another password was refused there</source>
+        <translation>bylo tam odmítnuto jiné heslo</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceConnection</name>
+    <message>
+        <source>no answer in time</source>
+        <translation>žádná odpověď včas</translation>
+    </message>
+    <message>
+        <source>the answer is too long</source>
+        <translation>odpověď je příliš dlouhá</translation>
+    </message>
+    <message>
+        <source>it sends to another place</source>
+        <translation>odkazuje jinam</translation>
+    </message>
+    <message>
+        <source>it has another certificate than before</source>
+        <translation>má jiný certifikát než dříve</translation>
+    </message>
+</context>
+<context>
+    <name>FileName</name>
+    <message>
+        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <translation>Soubor „%1“ nelze použít: jeho název není text v kódování tohoto systému. Přejmenujte jej.</translation>
+    </message>
+</context>
+<context>
+    <name>GeneralPage</name>
+    <message>
+        <source>Name:</source>
+        <translation>Název:</translation>
+    </message>
+</context>
+<context>
+    <name>HostNodeDB</name>
+    <message>
+        <source>Default</source>
+        <translation>Výchozí</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Entry of unknown kind &quot;%1&quot;</source>
+        <translation>Záznam neznámého druhu „%1“</translation>
+    </message>
+    <message>
+        <source>Level %1: %2</source>
+        <translation>Úroveň %1: %2</translation>
+    </message>
+    <message>
+        <source>Program log</source>
+        <translation>Protokol programu</translation>
+    </message>
+    <message>
+        <source>Accepted new address</source>
+        <translation>Přijata nová adresa</translation>
+    </message>
+    <message>
+        <source>Moved device %1 from address %2 to %3, where it was found.</source>
+        <translation>Zařízení %1 přesunuto z adresy %2 na %3, kde bylo nalezeno.</translation>
+    </message>
+    <message>
+        <source>Imported devices</source>
+        <translation>Importována zařízení</translation>
+    </message>
+    <message>
+        <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
+        <translation>Importována zařízení z %1: přidáno %2, změněno %3, odmítnuto řádků %4.</translation>
+    </message>
+</context>
+<context>
+    <name>MacGuard</name>
+    <message>
+        <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>
+        <translation>Adresa MAC má dvanáct šestnáctkových číslic, např. 00:00:5E:12:34:AB.</translation>
+    </message>
+</context>
+<context>
+    <name>MdnsScanner</name>
+    <message>
+        <source>the Avahi daemon is not running</source>
+        <translation>služba Avahi neběží</translation>
+    </message>
+    <message>
+        <source>the Avahi daemon does not answer</source>
+        <translation>služba Avahi neodpovídá</translation>
+    </message>
+    <message>
+        <source>all interfaces</source>
+        <translation>všechna rozhraní</translation>
+    </message>
+</context>
+<context>
+    <name>NodeFacts</name>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Software version</source>
+        <translation>Verze softwaru</translation>
+    </message>
+    <message>
+        <source>MAC address</source>
+        <translation>Adresa MAC</translation>
+    </message>
+    <message>
+        <source>Current IP addresses</source>
+        <translation>Aktuální adresy IP</translation>
+    </message>
+    <message>
+        <source>Factory IP address</source>
+        <translation>Tovární adresa IP</translation>
+    </message>
+    <message>
+        <source>Live stream (M-JPEG)</source>
+        <translation>Živý proud (M-JPEG)</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanály</translation>
+    </message>
+    <message>
+        <source>Resolutions</source>
+        <translation>Rozlišení</translation>
+    </message>
+    <message>
+        <source>Pan, tilt, zoom</source>
+        <translation>Otáčení, naklápění, zoom</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ano</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>ne</translation>
+    </message>
+</context>
+<context>
+    <name>NodeInspector</name>
+    <message>
+        <source>General</source>
+        <translation>Obecné</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Zařízení</translation>
+    </message>
+    <message>
+        <source>Layout options</source>
+        <translation>Možnosti rozložení</translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation>Záznamy</translation>
+    </message>
+    <message>
+        <source>PTZ</source>
+        <translation>PTZ</translation>
+    </message>
+    <message>
+        <source>URLs</source>
+        <translation>Adresy URL</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+</context>
+<context>
+    <name>NodeTypes</name>
+    <message>
+        <source>Recording Folder</source>
+        <translation>Složka záznamů</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Pohled</translation>
+    </message>
+    <message>
+        <source>IP Camera</source>
+        <translation>Kamera IP</translation>
+    </message>
+    <message>
+        <source>URL Camera</source>
+        <translation>Kamera URL</translation>
+    </message>
+    <message>
+        <source>Multi-Channel Device</source>
+        <translation>Vícekanálové zařízení</translation>
+    </message>
+    <message>
+        <source>Internal Recorder</source>
+        <translation>Interní rekordér</translation>
+    </message>
+    <message>
+        <source>Remote Preview Server</source>
+        <translation>Server vzdáleného náhledu</translation>
+    </message>
+    <message>
+        <source>Node of type %1</source>
+        <translation>Uzel typu %1</translation>
+    </message>
+    <message>
+        <source>Remote preview of %1</source>
+        <translation>Vzdálený náhled: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PageStack</name>
+    <message>
+        <source>This node has been removed meanwhile. Changes cannot be stored: close this window.</source>
+        <translation>Tento uzel byl mezitím odebrán. Změny nelze uložit: zavřete toto okno.</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Stránky</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Path:</source>
+        <translation>Cesta:</translation>
+    </message>
+    <message>
+        <source>Path is below the default file server path</source>
+        <translation>Cesta leží pod výchozí cestou souborového serveru</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Uživatelské jméno:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Heslo:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresa:</translation>
+    </message>
+    <message>
+        <source>Port:</source>
+        <translation>Port:</translation>
+    </message>
+    <message>
+        <source>Secure connection (SSL)</source>
+        <translation>Zabezpečené připojení (SSL)</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Procházet...</translation>
+    </message>
+    <message>
+        <source>Select Folder</source>
+        <translation>Vybrat složku</translation>
+    </message>
+</context>
+<context>
+    <name>StoreError</name>
+    <message>
+        <source>&quot;%1&quot; is not a node database but some other kind of file. It was left as it is. Choose your database file, or a new file name to start an empty one.</source>
+        <translation>„%1“ není databáze uzlů, ale soubor jiného druhu. Nebyl změněn. Vyberte svůj soubor databáze, nebo nový název souboru, chcete-li začít s prázdnou.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a database of another program and holds no nodes. It was left as it is. Choose your node database, or a new file name to start an empty one.</source>
+        <translation>„%1“ je databáze jiného programu a neobsahuje uzly. Nebyla změněna. Vyberte svou databázi uzlů, nebo nový název souboru, chcete-li začít s prázdnou.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program and cannot be trusted. It was left as it is. Put a backup copy in its place.</source>
+        <translation>Tabulky databáze uzlů „%1“ změnil jiný program a nelze jim věřit. Databáze nebyla změněna. Nahraďte ji záložní kopií.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, but its log or its backups are still there. Nothing was changed. Restore a backup of it, or choose a new file name to start an empty one.</source>
+        <translation>Databáze uzlů „%1“ je prázdná nebo zmizela, ale její protokol nebo zálohy stále existují. Nic nebylo změněno. Obnovte zálohu, nebo zvolte nový název souboru, chcete-li začít s prázdnou.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged. It was left as it is. Restore a backup of it; those that this program made are in the folder &quot;%1.backups&quot;.</source>
+        <translation>Databáze uzlů „%1“ je poškozena. Nebyla změněna. Obnovte zálohu; zálohy vytvořené tímto programem jsou ve složce „%1.backups“.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; was written by a newer version of this program. Install that version on this computer, or open the backup copy that it made in the same folder.</source>
+        <translation>Databázi uzlů „%1“ zapsala novější verze tohoto programu. Nainstalujte ji na tomto počítači, nebo otevřete záložní kopii, kterou vytvořila ve stejné složce.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be changed, because the file or its folder is write-protected for you. Ask your administrator for the right to write there, or copy the database into a folder of your own and open the copy.</source>
+        <translation>Databázi uzlů „%1“ nelze změnit, protože soubor nebo jeho složka jsou pro vás chráněny proti zápisu. Požádejte správce o právo zápisu, nebo databázi zkopírujte do vlastní složky a otevřete kopii.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is held by another program. Close that program, or wait until its backup or copy is finished, and try again.</source>
+        <translation>Databázi uzlů „%1“ drží jiný program. Zavřete jej, nebo počkejte, až dokončí zálohu či kopii, a zkuste to znovu.</translation>
+    </message>
+    <message>
+        <source>There is no space left for the node database &quot;%1&quot;. Delete files that you do not need from this disk, and try again.</source>
+        <translation>Pro databázi uzlů „%1“ už není místo. Smažte z tohoto disku soubory, které nepotřebujete, a zkuste to znovu.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be opened. Check that its folder exists, that the disk or network drive is connected, and that you may read the file.</source>
+        <translation>Databázi uzlů „%1“ nelze otevřít. Zkontrolujte, zda její složka existuje, zda je připojen disk nebo síťová jednotka a zda smíte soubor číst.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder, a device or a pipe and cannot hold a node database. It was left as it is. Choose another file.</source>
+        <translation>„%1“ je složka, zařízení nebo roura a nemůže obsahovat databázi uzlů. Nic nebylo změněno. Vyberte jiný soubor.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is the node database itself and was left as it is. Choose another file for the copy.</source>
+        <translation>„%1“ je sama databáze uzlů a nebyla změněna. Vyberte pro kopii jiný soubor.</translation>
+    </message>
+    <message>
+        <source>Some passwords in the node database &quot;%1&quot; cannot be read and are shown empty, because the key that they were sealed with is not there. Unlock your keychain or bring the key file back, and start the program again. They stay in the database until you give new ones.</source>
+        <translation>Některá hesla v databázi uzlů „%1“ nelze přečíst a zobrazují se prázdná, protože chybí klíč, kterým byla zašifrována. Odemkněte svou klíčenku nebo vraťte soubor s klíčem a spusťte program znovu. Hesla zůstávají v databázi, dokud nezadáte nová.</translation>
+    </message>
+    <message>
+        <source>Some passwords in the node database &quot;%1&quot; were changed by something other than this program, and are shown empty. They stay in the database until you give new ones. Find out who can write to the file, or go back to a backup.</source>
+        <translation>Některá hesla v databázi uzlů „%1“ nezměnil tento program a zobrazují se prázdná. Zůstávají v databázi, dokud nezadáte nová. Zjistěte, kdo může do souboru zapisovat, nebo se vraťte k záloze.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the node database &quot;%1&quot;, because the key that seals them can be found neither in your keychain nor in a file, nor kept there. Unlock your keychain, bring the key file back, or make your configuration folder writable, and try again.</source>
+        <translation>Hesla nelze uložit do databáze uzlů „%1“, protože klíč, který je šifruje, není ve vaší klíčence ani v souboru a nelze jej tam uložit. Odemkněte svou klíčenku, vraťte soubor s klíčem nebo povolte zápis do složky s konfigurací a zkuste to znovu.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
+        <translation>Databázi uzlů „%1“ nelze číst ani zapisovat. Zkontrolujte, zda je připojen její disk nebo síťová jednotka, a zkuste to znovu.</translation>
+    </message>
+</context>
+<context>
+    <name>WsDiscoveryScanner</name>
+    <message>
+        <source>no network takes multicast</source>
+        <translation>žádná síť nepřijímá multicast</translation>
+    </message>
+</context>
+</TS>
