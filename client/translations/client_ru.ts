@@ -1,0 +1,1359 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>AddressChangesDialog</name>
+    <message>
+        <source>Seen at a New Address</source>
+        <translation>Замечены по новому адресу</translation>
+    </message>
+    <message>
+        <source>These devices seem to answer at another address now. Accept only what you expect: user name and password are sent to the new address from then on.</source>
+        <translation>Эти устройства, похоже, теперь отвечают по другому адресу. Принимайте только то, чего ожидаете: с этого момента имя пользователя и пароль отправляются на новый адрес.</translation>
+    </message>
+    <message>
+        <source>Devices</source>
+        <translation>Устройства</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Old Address</source>
+        <translation>Старый адрес</translation>
+    </message>
+    <message>
+        <source>New Address</source>
+        <translation>Новый адрес</translation>
+    </message>
+    <message>
+        <source>MAC Address</source>
+        <translation>MAC-адрес</translation>
+    </message>
+    <message>
+        <source>&amp;Accept Selected</source>
+        <translation>&amp;Принять выбранные</translation>
+    </message>
+    <message>
+        <source>Accept A&amp;ll</source>
+        <translation>Принять &amp;все</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Отклонить выбранные</translation>
+    </message>
+</context>
+<context>
+    <name>Application</name>
+    <message>
+        <source>Node Database</source>
+        <translation>База данных узлов</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <translation>База данных узлов «%1» находится на сетевом диске. Две программы, одновременно использующие её там, могут её повредить. Переместите её на диск этого компьютера.</translation>
+    </message>
+    <message>
+        <source>%1 is for windows, and none is opened here.</source>
+        <translation>%1 относится к окнам, а здесь окна не открываются.</translation>
+    </message>
+    <message>
+        <source>%1, line %2: %3</source>
+        <translation>%1, строка %2: %3</translation>
+    </message>
+    <message>
+        <source>Column &quot;%1&quot; is not used.</source>
+        <translation>Столбец «%1» не используется.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
+        <translation>добавлено %1, обновлено %2, без изменений %3, строк с ошибками %4</translation>
+    </message>
+    <message>
+        <source>%1 written</source>
+        <translation>записано: %1</translation>
+    </message>
+    <message>
+        <source>%1 without name and address left out</source>
+        <translation>пропущено без имени и адреса: %1</translation>
+    </message>
+    <message>
+        <source>Opens this node database; it is made if it is not there.</source>
+        <translation>Открывает эту базу данных узлов; если её нет, она создаётся.</translation>
+    </message>
+    <message>
+        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <translation>Использует этот язык, например de или pt_BR, независимо от других настроек.</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a list (CSV) and ends. No window is needed.</source>
+        <translation>Добавляет камеры из списка (CSV) и завершает работу. Окно не нужно.</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a list (CSV) and ends.</source>
+        <translation>Записывает все камеры в список (CSV) и завершает работу.</translation>
+    </message>
+    <message>
+        <source>Leaves the passwords out of --export.</source>
+        <translation>Не включает пароли в --export.</translation>
+    </message>
+    <message>
+        <source>Copies the database, which may be in use, into a file and ends.</source>
+        <translation>Копирует базу данных, которая может использоваться, в файл и завершает работу.</translation>
+    </message>
+    <message>
+        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <translation>Помещает в базу данных, которая может использоваться, содержимое резервной копии и завершает работу. Текущее содержимое сохраняется как резервная копия.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Показывает, добавляет, изменяет и удаляет узлы системы видеонаблюдения.
+Без --import, --export, --backup и --restore открывает окно и принимает также параметры графической библиотеки (-platform, -style и другие).</translation>
+    </message>
+    <message>
+        <source>Unexpected argument: %1</source>
+        <translation>Непредвиденный аргумент: %1</translation>
+    </message>
+    <message>
+        <source>The value after --%1 is empty.</source>
+        <translation>Значение после --%1 пусто.</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogDialog</name>
+    <message>
+        <source>Audit Log</source>
+        <translation>Журнал аудита</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Записи</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Найти:</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+</context>
+<context>
+    <name>AuditLogModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Пользователь</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+</context>
+<context>
+    <name>CameraCheck</name>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>не удаётся прочитать пароль</translation>
+    </message>
+    <message>
+        <source>it asks for no password</source>
+        <translation>не требует пароля</translation>
+    </message>
+    <message>
+        <source>it was changed while it was checked</source>
+        <translation>изменено во время проверки</translation>
+    </message>
+</context>
+<context>
+    <name>CameraChecking</name>
+    <message>
+        <source>Cameras are being checked already.</source>
+        <translation>Камеры уже проверяются.</translation>
+    </message>
+    <message>
+        <source>There is no camera with an address to check.</source>
+        <translation>Нет камеры с адресом для проверки.</translation>
+    </message>
+    <message>
+        <source>Try it, once with each?</source>
+        <translation>Попробовать по одному разу на каждом?</translation>
+    </message>
+    <message>
+        <source>&amp;Try It</source>
+        <translation>Попро&amp;бовать</translation>
+    </message>
+    <message>
+        <source>The check was cancelled.</source>
+        <translation>Проверка отменена.</translation>
+    </message>
+    <message>
+        <source>&amp;Report...</source>
+        <translation>&amp;Отчёт...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras took the password.</source>
+        <translation>Камер, принявших пароль: %1 из %2.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 cameras answer as they should.</source>
+        <translation>Камер, отвечающих как положено: %1 из %2.</translation>
+    </message>
+    <message>
+        <source>None of the selected cameras was found to be another device: Network &gt; Check Cameras looks for that.</source>
+        <translation>Ни одна из выбранных камер не оказалась другим устройством: это выясняет Сеть &gt; Проверить камеры.</translation>
+    </message>
+    <message>
+        <source>Accept Other Devices</source>
+        <translation>Принять другие устройства</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
+        <translation>
+            <numerusform>Ответило %n устройство, отличное от известного до сих пор. Принимайте его, только если знаете причину, например замену или новый сертификат: со следующей проверки ему отправляются сохранённые имя пользователя и пароль.</numerusform>
+            <numerusform>Ответили %n устройства, отличные от известных до сих пор. Принимайте их, только если знаете причину, например замену или новый сертификат: со следующей проверки им отправляются сохранённые имя пользователя и пароль.</numerusform>
+            <numerusform>Ответили %n устройств, отличных от известных до сих пор. Принимайте их, только если знаете причину, например замену или новый сертификат: со следующей проверки им отправляются сохранённые имя пользователя и пароль.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Accept</source>
+        <translation>&amp;Принять</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) accepted.</source>
+        <translation>
+            <numerusform>Принято %n устройство.</numerusform>
+            <numerusform>Принято %n устройства.</numerusform>
+            <numerusform>Принято %n устройств.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Check Them</source>
+        <translation>Провер&amp;ить</translation>
+    </message>
+</context>
+<context>
+    <name>CameraStates</name>
+    <message>
+        <source>Another device than before</source>
+        <translation>Другое устройство, чем прежде</translation>
+    </message>
+    <message>
+        <source>Locked out</source>
+        <translation>Заблокирован вход</translation>
+    </message>
+    <message>
+        <source>Wrong password</source>
+        <translation>Неверный пароль</translation>
+    </message>
+    <message>
+        <source>Wants a clear password</source>
+        <translation>Требует открытый пароль</translation>
+    </message>
+    <message>
+        <source>No answer</source>
+        <translation>Нет ответа</translation>
+    </message>
+    <message>
+        <source>Not understood</source>
+        <translation>Непонятный ответ</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Не проверено</translation>
+    </message>
+    <message>
+        <source>Answers</source>
+        <translation>Отвечает</translation>
+    </message>
+</context>
+<context>
+    <name>CheckPanel</name>
+    <message>
+        <source>Cameras checked</source>
+        <translation>Проверенные камеры</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>От&amp;мена</translation>
+    </message>
+    <message>
+        <source>Put this line away</source>
+        <translation>Убрать эту строку</translation>
+    </message>
+    <message>
+        <source>Cameras checked: %1 of %2</source>
+        <translation>Проверено камер: %1 из %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportDialog</name>
+    <message>
+        <source>Cameras Checked</source>
+        <translation>Проверенные камеры</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Камеры</translation>
+    </message>
+    <message>
+        <source>List also those that &amp;answer</source>
+        <translation>Показать и те, что &amp;отвечают</translation>
+    </message>
+    <message>
+        <source>S&amp;how Them</source>
+        <translation>Показать в &amp;списке</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>Со&amp;хранить как...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <comment>between the parts of a list</comment>
+        <translation>; </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) left out, which are no devices or have no address.</source>
+        <translation>
+            <numerusform>Пропущен %n узел, который не является устройством или не имеет адреса.</numerusform>
+            <numerusform>Пропущены %n узла, которые не являются устройствами или не имеют адреса.</numerusform>
+            <numerusform>Пропущены %n узлов, которые не являются устройствами или не имеют адреса.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Tables (*.csv);;All files (*)</source>
+        <translation>Таблицы (*.csv);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1 не записан: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CheckReportModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Причина</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+</context>
+<context>
+    <name>DatabaseRecovery</name>
+    <message>
+        <source>Nothing of it can be read.</source>
+        <translation>Прочитать из неё ничего нельзя.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) of it can still be read.</source>
+        <translation>
+            <numerusform>Из неё ещё можно прочитать %n узел.</numerusform>
+            <numerusform>Из неё ещё можно прочитать %n узла.</numerusform>
+            <numerusform>Из неё ещё можно прочитать %n узлов.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no good backup.</source>
+        <translation>Исправной резервной копии нет.</translation>
+    </message>
+    <message>
+        <source>The newest good backup was made at %1.</source>
+        <translation>Последняя исправная резервная копия сделана %1.</translation>
+    </message>
+    <message>
+        <source>If you choose one of these, the damaged file is kept under another name. Otherwise nothing is changed.</source>
+        <translation>Если выбрать один из этих вариантов, повреждённый файл сохраняется под другим именем. Иначе ничего не меняется.</translation>
+    </message>
+    <message>
+        <source>Node Database</source>
+        <translation>База данных узлов</translation>
+    </message>
+    <message>
+        <source>The node database is damaged. Looking for what can be read and for backups...</source>
+        <translation>База данных узлов повреждена. Идёт поиск читаемых данных и резервных копий...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <source>&amp;Open Another...</source>
+        <translation>&amp;Открыть другую...</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>&amp;Start an Empty One</source>
+        <translation>&amp;Начать с пустой</translation>
+    </message>
+    <message>
+        <source>Use What &amp;Can Be Read</source>
+        <translation>&amp;Использовать читаемое</translation>
+    </message>
+    <message>
+        <source>Restore the &amp;Backup</source>
+        <translation>Восстановить &amp;копию</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged.</source>
+        <translation>База данных узлов «%1» повреждена.</translation>
+    </message>
+    <message>
+        <source>The tables of the node database &quot;%1&quot; were changed by another program.</source>
+        <translation>Таблицы базы данных узлов «%1» изменены другой программой.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is empty or gone, although it held something.</source>
+        <translation>База данных узлов «%1» пуста или исчезла, хотя в ней что-то было.</translation>
+    </message>
+    <message>
+        <source>The node database &quot;%1&quot; is damaged, or another file is in its place.</source>
+        <translation>База данных узлов «%1» повреждена, или на её месте другой файл.</translation>
+    </message>
+    <message>
+        <source>Open Node Database</source>
+        <translation>Открыть базу данных узлов</translation>
+    </message>
+    <message>
+        <source>Node databases (*.kodb);;All files (*)</source>
+        <translation>Базы данных узлов (*.kodb);;Все файлы (*)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceFilling</name>
+    <message>
+        <source>it has no address</source>
+        <translation>нет адреса</translation>
+    </message>
+    <message>
+        <source>its password cannot be read</source>
+        <translation>не удаётся прочитать пароль</translation>
+    </message>
+    <message>
+        <source>it was removed meanwhile</source>
+        <translation>тем временем удалено</translation>
+    </message>
+    <message>
+        <source>it was not asked</source>
+        <translation>не опрошено</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceSettings</name>
+    <message>
+        <source>Access Recordings</source>
+        <translation>Доступ к записям</translation>
+    </message>
+    <message numerus="yes">
+        <source>The factory IP address of %n of the selected cameras is not known:</source>
+        <translation>
+            <numerusform>Заводской IP-адрес неизвестен у %n из выбранных камер:</numerusform>
+            <numerusform>Заводской IP-адрес неизвестен у %n из выбранных камер:</numerusform>
+            <numerusform>Заводской IP-адрес неизвестен у %n из выбранных камер:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Their recordings can be played via the camera. On a file server, however, the folder of a camera is named by this address: with the default path these cameras would share one folder without a name, with a specific path they would lose the path that they have. A camera that answers and takes its password tells what its folder can be named by.</source>
+        <translation>Их записи можно воспроизводить через камеру. Однако на файловом сервере папка камеры называется по этому адресу: с путём по умолчанию у этих камер была бы одна общая папка без имени, с отдельным путём они потеряли бы имеющийся. Камера, которая отвечает и принимает свой пароль, сообщает, как можно назвать её папку.</translation>
+    </message>
+    <message>
+        <source>As&amp;k the Cameras...</source>
+        <translation>О&amp;просить камеры...</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Them Out</source>
+        <translation>&amp;Исключить их</translation>
+    </message>
+    <message>
+        <source>Go On With &amp;All</source>
+        <translation>Продолжить со &amp;всеми</translation>
+    </message>
+    <message>
+        <source>User &amp; Password</source>
+        <translation>Пользователь и пароль</translation>
+    </message>
+    <message numerus="yes">
+        <source>The %n selected devices do not have the same user name and password: there are %1 user names and %2 passwords.</source>
+        <translation>
+            <numerusform>У %n выбранного устройства не одинаковые имя пользователя и пароль: имён пользователя %1, паролей %2.</numerusform>
+            <numerusform>У %n выбранных устройств не одинаковые имя пользователя и пароль: имён пользователя %1, паролей %2.</numerusform>
+            <numerusform>У %n выбранных устройств не одинаковые имя пользователя и пароль: имён пользователя %1, паролей %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The next window begins with those of the first device, and gives all of them what it shows when you press OK:</source>
+        <translation>Следующее окно начинается с данных первого устройства и по нажатию ОК задаёт всем то, что показывает:</translation>
+    </message>
+    <message>
+        <source>&amp;Give All the Same...</source>
+        <translation>&amp;Задать всем одинаковые...</translation>
+    </message>
+    <message>
+        <source>Only IP devices can be set together. Select one of the others at a time.</source>
+        <translation>Вместе можно настраивать только IP-устройства. Остальные выбирайте по одному.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): access to recordings set.</source>
+        <translation>
+            <numerusform>%n устройство: доступ к записям задан.</numerusform>
+            <numerusform>%n устройства: доступ к записям задан.</numerusform>
+            <numerusform>%n устройств: доступ к записям задан.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left as they were.</source>
+        <translation>
+            <numerusform>%n осталось без изменений.</numerusform>
+            <numerusform>%n остались без изменений.</numerusform>
+            <numerusform>%n остались без изменений.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): user name and password set.</source>
+        <translation>
+            <numerusform>%n устройство: имя пользователя и пароль заданы.</numerusform>
+            <numerusform>%n устройства: имя пользователя и пароль заданы.</numerusform>
+            <numerusform>%n устройств: имя пользователя и пароль заданы.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>EmptyState</name>
+    <message>
+        <source>Show All Nodes</source>
+        <translation>Показать все узлы</translation>
+    </message>
+    <message>
+        <source>There is nothing in this database yet.</source>
+        <translation>В этой базе данных пока ничего нет.</translation>
+    </message>
+    <message>
+        <source>No node is like that.</source>
+        <translation>Подходящих узлов нет.</translation>
+    </message>
+    <message>
+        <source>Import a List of Cameras...</source>
+        <translation>Импортировать список камер...</translation>
+    </message>
+    <message>
+        <source>Find Devices in the Network...</source>
+        <translation>Найти устройства в сети...</translation>
+    </message>
+    <message>
+        <source>Add a Camera...</source>
+        <translation>Добавить камеру...</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentNotice</name>
+    <message>
+        <source>The environment of the whole program is now &quot;%1&quot;.</source>
+        <translation>Среда всей программы теперь «%1».</translation>
+    </message>
+    <message>
+        <source>Back to &quot;%1&quot;</source>
+        <translation>Вернуться к «%1»</translation>
+    </message>
+    <message>
+        <source>The environment is &quot;%1&quot; again.</source>
+        <translation>Среда снова «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>FillInDialog</name>
+    <message>
+        <source>Fill In</source>
+        <translation>Заполнить</translation>
+    </message>
+    <message>
+        <source>&amp;Replace also what may have been entered by hand</source>
+        <translation>&amp;Заменить и то, что могло быть введено вручную</translation>
+    </message>
+    <message>
+        <source>Devices that were asked</source>
+        <translation>Опрошенные устройства</translation>
+    </message>
+    <message>
+        <source>What the devices told</source>
+        <translation>Ответы устройств</translation>
+    </message>
+    <message numerus="yes">
+        <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
+        <translation>
+            <numerusform>Опрашивается %n устройство. Пока ничего не сохраняется.</numerusform>
+            <numerusform>Опрашиваются %n устройства. Пока ничего не сохраняется.</numerusform>
+            <numerusform>Опрашиваются %n устройств. Пока ничего не сохраняется.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is nothing to fill in.</source>
+        <translation>Заполнять нечего.</translation>
+    </message>
+    <message>
+        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <translation>Это сообщают устройства, и это ещё не сохранено. ОК сохраняет отмеченное.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) told nothing:</source>
+        <translation>
+            <numerusform>%n устройство ничего не сообщило:</numerusform>
+            <numerusform>%n устройства ничего не сообщили:</numerusform>
+            <numerusform>%n устройств ничего не сообщили:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) filled in.</source>
+        <translation>
+            <numerusform>Заполнено %n устройство.</numerusform>
+            <numerusform>Заполнено %n устройства.</numerusform>
+            <numerusform>Заполнено %n устройств.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FillInModel</name>
+    <message>
+        <source>Camera</source>
+        <translation>Камера</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Сейчас</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Затем</translation>
+    </message>
+</context>
+<context>
+    <name>ImportReportDialog</name>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Строка %1: %2</translation>
+    </message>
+    <message>
+        <source>Columns that are not used: %1</source>
+        <translation>Неиспользуемые столбцы: %1</translation>
+    </message>
+    <message>
+        <source>The import was cancelled. What was added until then stays.</source>
+        <translation>Импорт отменён. Всё добавленное до этого остаётся.</translation>
+    </message>
+    <message>
+        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
+        <translation>Добавлено %1, обновлено %2, без изменений %3, строк с ошибками %4.</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Импорт камер</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Подробности</translation>
+    </message>
+</context>
+<context>
+    <name>KeychainNotice</name>
+    <message>
+        <source>Waiting for the keychain. Unlock it if it asks for that.</source>
+        <translation>Ожидание связки ключей. Разблокируйте её, если она попросит.</translation>
+    </message>
+    <message>
+        <source>Keychain</source>
+        <translation>Связка ключей</translation>
+    </message>
+    <message>
+        <source>Waiting for your keychain.</source>
+        <translation>Ожидание вашей связки ключей.</translation>
+    </message>
+    <message>
+        <source>It has the key of the stored passwords. Unlock it if it asks for that.
+
+Without the key, stored passwords are shown empty and new ones cannot be stored.</source>
+        <translation>В ней находится ключ сохранённых паролей. Разблокируйте её, если она попросит.
+
+Без ключа сохранённые пароли показываются пустыми, а новые нельзя сохранить.</translation>
+    </message>
+    <message>
+        <source>&amp;Continue Without Passwords</source>
+        <translation>&amp;Продолжить без паролей</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+</context>
+<context>
+    <name>LanguageMenu</name>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Язык</translation>
+    </message>
+    <message>
+        <source>&amp;As the System</source>
+        <translation>&amp;Как в системе</translation>
+    </message>
+</context>
+<context>
+    <name>LayoutAdapter</name>
+    <message>
+        <source>1 x 1</source>
+        <translation>1 x 1</translation>
+    </message>
+    <message>
+        <source>2 x 2</source>
+        <translation>2 x 2</translation>
+    </message>
+    <message>
+        <source>3 x 3</source>
+        <translation>3 x 3</translation>
+    </message>
+    <message>
+        <source>4 x 4</source>
+        <translation>4 x 4</translation>
+    </message>
+    <message>
+        <source>1 large + 5</source>
+        <translation>1 большое + 5</translation>
+    </message>
+    <message>
+        <source>1 large + 7</source>
+        <translation>1 большое + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogEntry</name>
+    <message>
+        <source>Added device</source>
+        <translation>Добавлено устройство</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Удалено устройство</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Принято другое устройство</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Добавлено устройство с именем %1.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Удалено устройство с именем %1.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Принято другое устройство, чем прежде, как %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>&amp;Import...</source>
+        <translation>&amp;Импорт...</translation>
+    </message>
+    <message>
+        <source>Adds the cameras of a site survey (CSV)</source>
+        <translation>Добавляет камеры из описи объекта (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Экспорт...</translation>
+    </message>
+    <message>
+        <source>Writes all cameras into a CSV file</source>
+        <translation>Записывает все камеры в файл CSV</translation>
+    </message>
+    <message>
+        <source>Export &amp;Selected...</source>
+        <translation>Экспорт выб&amp;ранных...</translation>
+    </message>
+    <message>
+        <source>Writes the selected cameras into a CSV file</source>
+        <translation>Записывает выбранные камеры в файл CSV</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Настройки...</translation>
+    </message>
+    <message>
+        <source>Default paths and the bandwidth</source>
+        <translation>Пути по умолчанию и пропускная способность</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+    <message>
+        <source>Closes the program</source>
+        <translation>Закрывает программу</translation>
+    </message>
+    <message>
+        <source>&amp;Node</source>
+        <translation>&amp;Узел</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>&amp;Добавить...</translation>
+    </message>
+    <message>
+        <source>Adds a node</source>
+        <translation>Добавляет узел</translation>
+    </message>
+    <message>
+        <source>&amp;Edit...</source>
+        <translation>&amp;Изменить...</translation>
+    </message>
+    <message>
+        <source>Changes the selected node</source>
+        <translation>Изменяет выбранный узел</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Удалить...</translation>
+    </message>
+    <message>
+        <source>Removes the selected nodes</source>
+        <translation>Удаляет выбранные узлы</translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation>&amp;Свойства</translation>
+    </message>
+    <message>
+        <source>Shows the selected node without changing it</source>
+        <translation>Показывает выбранный узел, не изменяя его</translation>
+    </message>
+    <message>
+        <source>&amp;User &amp;&amp; Password...</source>
+        <translation>&amp;Пользователь и пароль...</translation>
+    </message>
+    <message>
+        <source>Gives the selected devices one user name and password</source>
+        <translation>Задаёт выбранным устройствам общие имя пользователя и пароль</translation>
+    </message>
+    <message>
+        <source>Access Re&amp;cordings...</source>
+        <translation>Дос&amp;туп к записям...</translation>
+    </message>
+    <message>
+        <source>Where the recordings of the selected cameras are played from</source>
+        <translation>Откуда воспроизводятся записи выбранных камер</translation>
+    </message>
+    <message>
+        <source>&amp;Fill In...</source>
+        <translation>&amp;Заполнить...</translation>
+    </message>
+    <message>
+        <source>Asks the selected devices what they are, and stores what you choose of it</source>
+        <translation>Опрашивает выбранные устройства и сохраняет то, что вы выберете</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate...</source>
+        <translation>Ду&amp;блировать...</translation>
+    </message>
+    <message>
+        <source>Adds a node that is like the selected one</source>
+        <translation>Добавляет узел, подобный выбранному</translation>
+    </message>
+    <message>
+        <source>Open &amp;Web Page</source>
+        <translation>Открыть &amp;веб-страницу</translation>
+    </message>
+    <message>
+        <source>Opens the page of the selected device in the browser</source>
+        <translation>Открывает страницу выбранного устройства в браузере</translation>
+    </message>
+    <message>
+        <source>Copy R&amp;ows</source>
+        <translation>Копировать ст&amp;роки</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows for a spreadsheet</source>
+        <translation>Копирует выбранные строки для электронной таблицы</translation>
+    </message>
+    <message>
+        <source>Copy Addre&amp;ss</source>
+        <translation>Копировать &amp;адрес</translation>
+    </message>
+    <message>
+        <source>Copies the addresses of the selected nodes</source>
+        <translation>Копирует адреса выбранных узлов</translation>
+    </message>
+    <message>
+        <source>Net&amp;work</source>
+        <translation>&amp;Сеть</translation>
+    </message>
+    <message>
+        <source>Network &amp;Proxy...</source>
+        <translation>Сетевой &amp;прокси...</translation>
+    </message>
+    <message>
+        <source>The proxy server of the application</source>
+        <translation>Прокси-сервер приложения</translation>
+    </message>
+    <message>
+        <source>&amp;Environments...</source>
+        <translation>С&amp;реды...</translation>
+    </message>
+    <message>
+        <source>The network environments</source>
+        <translation>Сетевые среды</translation>
+    </message>
+    <message>
+        <source>&amp;Find Devices...</source>
+        <translation>&amp;Найти устройства...</translation>
+    </message>
+    <message>
+        <source>Nodes that arrive while the network is scanned</source>
+        <translation>Узлы, появляющиеся во время поиска в сети</translation>
+    </message>
+    <message>
+        <source>&amp;Seen at a New Address...</source>
+        <translation>&amp;Замечены по новому адресу...</translation>
+    </message>
+    <message>
+        <source>Devices that a scan found at another address than they have here</source>
+        <translation>Устройства, найденные поиском по другому адресу, чем указан здесь</translation>
+    </message>
+    <message>
+        <source>&amp;Check Cameras</source>
+        <translation>Про&amp;верить камеры</translation>
+    </message>
+    <message>
+        <source>Asks the selected cameras, or all, who they are, and tries their passwords</source>
+        <translation>Опрашивает выбранные или все камеры и проверяет их пароли</translation>
+    </message>
+    <message>
+        <source>&amp;Accept as This Camera...</source>
+        <translation>Принять &amp;как эту камеру...</translation>
+    </message>
+    <message>
+        <source>Another device than before is this camera from now on</source>
+        <translation>Другое устройство, чем прежде, отныне является этой камерой</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>&amp;Columns...</source>
+        <translation>&amp;Столбцы...</translation>
+    </message>
+    <message>
+        <source>Which columns the list has</source>
+        <translation>Какие столбцы есть в списке</translation>
+    </message>
+    <message>
+        <source>&amp;Audit Log...</source>
+        <translation>&amp;Журнал аудита...</translation>
+    </message>
+    <message>
+        <source>Who changed what, and when</source>
+        <translation>Кто, что и когда изменил</translation>
+    </message>
+    <message>
+        <source>Node &amp;Database...</source>
+        <translation>&amp;База данных узлов...</translation>
+    </message>
+    <message>
+        <source>Everything that is stored</source>
+        <translation>Всё, что сохранено</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Сп&amp;равка</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;О программе</translation>
+    </message>
+    <message>
+        <source>Via camera</source>
+        <translation>Через камеру</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Путь к файловому серверу по умолчанию</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
+        <translation>
+            <numerusform>По новому адресу замечено %n устройство: Сеть &gt; Замечены по новому адресу</numerusform>
+            <numerusform>По новому адресу замечены %n устройства: Сеть &gt; Замечены по новому адресу</numerusform>
+            <numerusform>По новому адресу замечены %n устройств: Сеть &gt; Замечены по новому адресу</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 - Nodes</source>
+        <translation>%1 - Узлы</translation>
+    </message>
+    <message>
+        <source>Search (Ctrl+F)</source>
+        <translation>Поиск (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Words in any column; &quot;type:camera&quot; looks in one, &quot;state:wrong|locked&quot; for either, &quot;-yard&quot; leaves out</source>
+        <translation>Слова в любом столбце; «тип:камера» ищет в одном, «состояние:неверный|заблокирован» — любое из двух, «-двор» исключает</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Все типы</translation>
+    </message>
+    <message>
+        <source> T&amp;ype: </source>
+        <translation> &amp;Тип: </translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Узлы</translation>
+    </message>
+    <message>
+        <source>%1 nodes, %2 shown, %3 selected</source>
+        <translation>Узлов: %1, показано: %2, выбрано: %3</translation>
+    </message>
+    <message>
+        <source>No camera is selected. Select one or more in the list first.</source>
+        <translation>Камера не выбрана. Сначала выберите в списке одну или несколько.</translation>
+    </message>
+    <message>
+        <source>Nodes of this type cannot be added.</source>
+        <translation>Узлы этого типа нельзя добавлять.</translation>
+    </message>
+    <message>
+        <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
+        <translation>У этого узла нет адреса. Адрес устройства задаётся в меню Узел &gt; Изменить.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened.</source>
+        <translation>Не удалось открыть веб-страницу %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) copied.</source>
+        <translation>
+            <numerusform>Скопирована %n строка.</numerusform>
+            <numerusform>Скопированы %n строки.</numerusform>
+            <numerusform>Скопировано %n строк.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n address(es) copied.</source>
+        <translation>
+            <numerusform>Скопирован %n адрес.</numerusform>
+            <numerusform>Скопированы %n адреса.</numerusform>
+            <numerusform>Скопировано %n адресов.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Показывает, добавляет, изменяет и удаляет узлы системы видеонаблюдения.&lt;/p&gt;&lt;p&gt;Свободное ПО на условиях GNU LGPL 2.1 или новее.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>NameList</name>
+    <message>
+        <source>(unnamed)</source>
+        <translation>(без имени)</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %n</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>NodeListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Модель</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Версия</translation>
+    </message>
+    <message>
+        <source>MAC</source>
+        <translation>MAC</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Порт</translation>
+    </message>
+    <message>
+        <source>SSL</source>
+        <translation>SSL</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Пользователь</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Канал</translation>
+    </message>
+</context>
+<context>
+    <name>NodeListView</name>
+    <message>
+        <source>Nodes</source>
+        <translation>Узлы</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Default file server &amp;path:</source>
+        <translation>&amp;Путь к файловому серверу по умолчанию:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Обзор...</translation>
+    </message>
+    <message>
+        <source>Default remote preview &amp;server:</source>
+        <translation>&amp;Сервер удалённого предпросмотра по умолчанию:</translation>
+    </message>
+    <message>
+        <source>&amp;Connection:</source>
+        <translation>Со&amp;единение:</translation>
+    </message>
+    <message>
+        <source>Slow Remote (Modem, ISDN, GPRS/2G, EDGE)</source>
+        <translation>Медленное удалённое (модем, ISDN, GPRS/2G, EDGE)</translation>
+    </message>
+    <message>
+        <source>Fast Remote (DSL, UMTS/3G)</source>
+        <translation>Быстрое удалённое (DSL, UMTS/3G)</translation>
+    </message>
+    <message>
+        <source>Slow Local (WLAN/WiFi, Ethernet)</source>
+        <translation>Медленное локальное (WLAN/WiFi, Ethernet)</translation>
+    </message>
+    <message>
+        <source>Fast Local (Fast Ethernet, Gigabit Ethernet)</source>
+        <translation>Быстрое локальное (Fast Ethernet, Gigabit Ethernet)</translation>
+    </message>
+    <message>
+        <source>Default File Server Path</source>
+        <translation>Путь к файловому серверу по умолчанию</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
+    <message>
+        <source>Remove this node? It cannot be brought back.</source>
+        <translation>Удалить этот узел? Вернуть его будет нельзя.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <translation>
+            <numerusform>Удалить %n узел? Вернуть его будет нельзя.</numerusform>
+            <numerusform>Удалить эти %n узла? Вернуть их будет нельзя.</numerusform>
+            <numerusform>Удалить эти %n узлов? Вернуть их будет нельзя.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Удаление узлов</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+</context>
+<context>
+    <name>ScannerStatus</name>
+    <message>
+        <source>%1: idle</source>
+        <translation>%1: бездействует</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3</source>
+        <translation>%1: %2 из %3</translation>
+    </message>
+    <message>
+        <source>%1: searching</source>
+        <translation>%1: поиск</translation>
+    </message>
+    <message>
+        <source>%1: done</source>
+        <translation>%1: готово</translation>
+    </message>
+    <message>
+        <source>%1: cancelled</source>
+        <translation>%1: отменено</translation>
+    </message>
+    <message>
+        <source>%1: not available (%2)</source>
+        <translation>%1: недоступно (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>StoreNotice</name>
+    <message>
+        <source>Node Database</source>
+        <translation>База данных узлов</translation>
+    </message>
+    <message>
+        <source>Nothing you entered is lost while this window is open.</source>
+        <translation>Пока это окно открыто, введённое не пропадёт.</translation>
+    </message>
+    <message>
+        <source>What waits to be stored, all of it or nothing, belongs to:</source>
+        <translation>То, что ждёт сохранения целиком или никак, относится к:</translation>
+    </message>
+    <message>
+        <source>Changes Are Not Stored</source>
+        <translation>Изменения не сохранены</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>&amp;Discard Changes</source>
+        <translation>&amp;Отбросить изменения</translation>
+    </message>
+    <message>
+        <source>All changes are stored.</source>
+        <translation>Все изменения сохранены.</translation>
+    </message>
+    <message>
+        <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
+        <translation>Некоторые изменения не удалось сохранить. Они пропадут, если закрыть программу сейчас.</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyCommands</name>
+    <message>
+        <source>Lists of cameras (*.csv);;All files (*)</source>
+        <translation>Списки камер (*.csv);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Import Cameras</source>
+        <translation>Импорт камер</translation>
+    </message>
+    <message>
+        <source>Importing cameras...</source>
+        <translation>Импорт камер...</translation>
+    </message>
+    <message>
+        <source>Export Cameras</source>
+        <translation>Экспорт камер</translation>
+    </message>
+    <message>
+        <source>Write the passwords too? Whoever can read the file can then use every camera in it.</source>
+        <translation>Записать и пароли? Тот, кто может прочитать файл, сможет использовать все камеры в нём.</translation>
+    </message>
+    <message>
+        <source>Exporting cameras...</source>
+        <translation>Экспорт камер...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) written.</source>
+        <translation>
+            <numerusform>Записана %n камера.</numerusform>
+            <numerusform>Записаны %n камеры.</numerusform>
+            <numerusform>Записано %n камер.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SurveyProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+</TS>
