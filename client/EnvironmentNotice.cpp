@@ -24,7 +24,10 @@ EnvironmentNotice::EnvironmentNotice(HostNodeDB& db, QStatusBar* statusBar)
     hide();
     statusBar->addPermanentWidget(this);
     connect(this, &QPushButton::clicked, this, &EnvironmentNotice::switchBack);
-    onLanguageChange(this, [this] { showText(); });
+    onLanguageChange(this, [this] {
+        if (!m_previous.isEmpty())
+            showText();
+    });
 }
 
 int EnvironmentNotice::exec(QDialog& dialog)

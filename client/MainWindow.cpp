@@ -31,9 +31,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+
+#include <algorithm>
 
 namespace ko {
 
@@ -118,9 +121,7 @@ void MainWindow::retranslate()
            "\"-yard\" leaves out"));
     m_search->setAccessibleName(tr("Search"));
     m_types->setAccessibleName(tr("Type"));
-    m_types->setItemText(0, tr("All types"));
-    for (int i = 1; i < m_types->count(); ++i)
-        m_types->setItemText(i, m_db.readableNodeTypeName(ENodeType(m_types->itemData(i).toInt())));
+    fillTypes();
     m_typesLabel->setText(tr(" T&ype: "));
     m_toolBar->setWindowTitle(tr("Nodes"));
     m_commands->retranslate();
@@ -185,13 +186,22 @@ void MainWindow::createSearch()
 void MainWindow::createTypes()
 {
     m_types->setObjectName(QStringLiteral("typeComboBox"));
-    m_types->addItem(QString(), int(AllNodeTypes));
+    connect(m_types, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this] { m_model->setTypeFilter(ENodeType(m_types->currentData().toInt())); });
+}
+
+/// In the order of their names.
+void MainWindow::fillTypes()
+{
+    const QSignalBlocker blocker(m_types);
+    const QVariant chosen = m_types->currentData();
+    m_types->clear();
+    m_types->addItem(tr("All types"), int(AllNodeTypes));
     const QList<ENodeType> all = NodeTypes::all();
     const NodeDB::TypeNames types = m_db.readableNodeTypeNames(&all, true);
     for (const auto& type : types)
         m_types->addItem(NodeTypes::icon(type.first), type.second, int(type.first));
-    connect(m_types, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            [this] { m_model->setTypeFilter(ENodeType(m_types->currentData().toInt())); });
+    m_types->setCurrentIndex(std::max(0, m_types->findData(chosen)));
 }
 
 void MainWindow::createToolBar()

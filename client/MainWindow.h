@@ -66,6 +66,7 @@ private:
     void createEmptyState();
     void createSearch();
     void createTypes();
+    void fillTypes();
     void createToolBar();
     void nodeChanged(const NodeID& id);
     void nodeRemoved(const NodeID& id);

@@ -12,7 +12,7 @@ FormLayout::FormLayout(QWidget* page)
     m_grid->setColumnStretch(1, 1);
 }
 
-void FormLayout::addRow(const QString& caption, QWidget* field, QWidget* behind)
+QLabel* FormLayout::addRow(const QString& caption, QWidget* field, QWidget* behind)
 {
     QLabel* label = new QLabel(caption, m_grid->parentWidget());
     QFont font = label->font();
@@ -26,6 +26,7 @@ void FormLayout::addRow(const QString& caption, QWidget* field, QWidget* behind)
     if (behind)
         m_grid->addWidget(behind, m_rows, 2);
     ++m_rows;
+    return label;
 }
 
 void FormLayout::addRow(QWidget* field)

@@ -4,6 +4,7 @@
 #include <QString>
 
 class QGridLayout;
+class QLabel;
 class QWidget;
 
 namespace ko {
@@ -15,8 +16,8 @@ public:
     /// Gives \a page a grid layout, which it owns.
     explicit FormLayout(QWidget* page);
 
-    /// A caption, whose buddy is \a field, and beside it the field with whatever belongs behind it.
-    void addRow(const QString& caption, QWidget* field, QWidget* behind = nullptr);
+    /// Returns the caption, whose buddy is \a field, and beside it the field with whatever belongs behind it.
+    QLabel* addRow(const QString& caption, QWidget* field, QWidget* behind = nullptr);
 
     /// A field that says itself what it is, such as a check box.
     void addRow(QWidget* field);

@@ -6,7 +6,9 @@
 #include "ko/NodeHint.h"
 #include "ko/PropertyKeys.h"
 #include "utils/Fields.h"
+#include "utils/Retranslation.h"
 
+#include <QLabel>
 #include <QLineEdit>
 
 namespace ko {
@@ -17,7 +19,8 @@ GeneralPage::GeneralPage(QWidget* parent)
 {
     setObjectName(QLatin1String("generalPage"));
     m_nameLineEdit->setObjectName(QLatin1String("nameLineEdit"));
-    FormLayout(this).addRow(tr("Name:"), m_nameLineEdit);
+    QLabel* caption = FormLayout(this).addRow(QString(), m_nameLineEdit);
+    setTranslated(this, [caption] { caption->setText(tr("Name:")); });
     connect(m_nameLineEdit, &QLineEdit::textEdited, this, &GeneralPage::nameEdited);
 }
 

@@ -7,6 +7,7 @@
 #include "ko/NodeDB.h"
 #include "ko/NodeHintIPDevice.h"
 #include "ko/connect.h"
+#include "utils/Retranslation.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
@@ -25,6 +26,8 @@ namespace ko {
 
 namespace {
 
+const char ownWidth[] = "ko_width"; ///< property of a caption: the least that its page gives it
+
 /// How far right of its tab's edge a caption begins: pages and their boxes have margins of their own.
 int indent(const QLabel* caption)
 {
@@ -34,12 +37,16 @@ int indent(const QLabel* caption)
     return left;
 }
 
+void showTitle(QTabWidget& tabs, QWidget& tab, const char* title)
+{
+    tabs.setTabText(tabs.indexOf(&tab), QCoreApplication::translate("NodeInspector", title));
+}
+
 } // namespace
 
 PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
     : QWidget(parent)
-    , m_goneLabel(new QLabel(
-          tr("This node has been removed meanwhile. Changes cannot be stored: close this window."), this))
+    , m_goneLabel(new QLabel(this))
 {
     QTabWidget* tabs = new QTabWidget(this);
     tabs->setObjectName(QLatin1String("tabWidget"));
@@ -53,7 +60,9 @@ PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
             tab = new QWidget;
             tab->setObjectName(QLatin1String(spec.tab));
             new QVBoxLayout(tab);
-            tabs->addTab(tab, QCoreApplication::translate("NodeInspector", spec.title));
+            tabs->addTab(tab, QString());
+            onLanguageChange(tab, [tabs, tab, title = spec.title] { showTitle(*tabs, *tab, title); });
+            showTitle(*tabs, *tab, spec.title);
         }
         m_pages.push_back(Page{spec, spec.create(tab), EditorState()});
         tab->layout()->addWidget(m_pages.back().page->widget());
@@ -66,8 +75,14 @@ PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
     layout->addWidget(m_goneLabel);
     layout->addWidget(tabs);
 
+    setTranslated(this, [this, tabs] {
+        m_goneLabel->setText(
+            tr("This node has been removed meanwhile. Changes cannot be stored: close this window."));
+        tabs->tabBar()->setAccessibleName(tr("Pages"));
+    });
     alignCaptions();
-    tabs->tabBar()->setAccessibleName(tr("Pages"));
+    // After the pages, which get their new texts in this turn.
+    onLanguageChange(this, [this] { QTimer::singleShot(0, this, &PageStack::alignCaptions); });
     addPageKeys(tabs);
 }
 
@@ -113,8 +128,12 @@ void PageStack::alignCaptions()
             add(form->itemAt(row, QFormLayout::LabelRole));
     }
     int edge = 0;
-    for (const QLabel* caption : std::as_const(captions))
-        edge = qMax(edge, indent(caption) + qMax(caption->sizeHint().width(), caption->minimumWidth()));
+    for (QLabel* caption : std::as_const(captions)) {
+        if (!caption->property(ownWidth).isValid())
+            caption->setProperty(ownWidth, caption->minimumWidth());
+        edge = qMax(edge,
+                    indent(caption) + qMax(caption->sizeHint().width(), caption->property(ownWidth).toInt()));
+    }
     for (QLabel* caption : std::as_const(captions))
         caption->setMinimumWidth(edge - indent(caption));
 }

@@ -6,6 +6,7 @@
 #include "ko/NodeHint.h"
 #include "utils/Fields.h"
 #include "utils/FileDialogs.h"
+#include "utils/Retranslation.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -15,6 +16,15 @@
 
 namespace ko {
 
+namespace {
+
+void setCaption(QLabel* label, const char* caption)
+{
+    setTranslated(label, [label, caption] { label->setText(PropertyFormPage::tr(caption)); });
+}
+
+} // namespace
+
 PropertyFormPage::PropertyFormPage(const QVector<Field>& fields, QWidget* parent)
     : QWidget(parent)
     , m_fields(fields)
@@ -22,7 +32,8 @@ PropertyFormPage::PropertyFormPage(const QVector<Field>& fields, QWidget* parent
     FormLayout layout(this);
     for (const Field& field : m_fields) {
         if (field.kind == Field::Flag) {
-            QCheckBox* checkBox = new QCheckBox(tr(field.caption), this);
+            QCheckBox* checkBox = new QCheckBox(this);
+            setTranslated(checkBox, [checkBox, text = field.caption] { checkBox->setText(tr(text)); });
             checkBox->setObjectName(field.key);
             layout.addRow(checkBox);
             continue;
@@ -31,7 +42,7 @@ PropertyFormPage::PropertyFormPage(const QVector<Field>& fields, QWidget* parent
             QSpinBox* spinBox = new QSpinBox(this);
             spinBox->setObjectName(field.key);
             spinBox->setRange(0, 65535);
-            layout.addRow(tr(field.caption), spinBox);
+            setCaption(layout.addRow(QString(), spinBox), field.caption);
             continue;
         }
         QLineEdit* lineEdit = new QLineEdit(this);
@@ -40,10 +51,11 @@ PropertyFormPage::PropertyFormPage(const QVector<Field>& fields, QWidget* parent
             lineEdit->setEchoMode(QLineEdit::Password);
         QPushButton* browse = nullptr;
         if (field.kind == Field::Folder) {
-            browse = new QPushButton(tr("Browse..."), this);
+            browse = new QPushButton(this);
+            setTranslated(browse, [browse] { browse->setText(tr("Browse...")); });
             connect(browse, &QPushButton::clicked, this, [this, key = field.key] { chooseFolder(key); });
         }
-        layout.addRow(tr(field.caption), lineEdit, browse);
+        setCaption(layout.addRow(QString(), lineEdit, browse), field.caption);
     }
 }
 

@@ -56,11 +56,11 @@ QVariant NodeDBViewer::ViewerModel::headerData(int section, Qt::Orientation orie
         return QVariant();
     switch (section) {
     case SymbolCell:
-        return tr("Symbol");
+        return NodeViewModel::tr("Symbol");
     case NameCell:
-        return tr("Name");
+        return NodeViewModel::tr("Name");
     case TypeCell:
-        return tr("Node type");
+        return NodeViewModel::tr("Node type");
     default:
         return QVariant();
     }

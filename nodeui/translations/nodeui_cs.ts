@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>Zavřít</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Symbol</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Název</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>Typ uzlu</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>Adresa</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>Typ uzlu</translation>
     </message>
 </context>
 <context>

@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Symbol</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>Knotentyp</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>Knotentyp</translation>
     </message>
 </context>
 <context>

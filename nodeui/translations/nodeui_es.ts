@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Símbolo</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Nombre</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>Tipo de nodo</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Símbolo</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>Tipo de nodo</translation>
     </message>
 </context>
 <context>

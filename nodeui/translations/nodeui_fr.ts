@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Symbole</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Nom</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>Type de nœud</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>Type de nœud</translation>
     </message>
 </context>
 <context>

@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Simbolo</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Nome</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>Tipo di nodo</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>Indirizzo</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Simbolo</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>Tipo di nodo</translation>
     </message>
 </context>
 <context>

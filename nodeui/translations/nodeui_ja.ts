@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>シンボル</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名前</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>ノードの種類</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>シンボル</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>ノードの種類</translation>
     </message>
 </context>
 <context>

@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>Sluiten</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Symbool</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Naam</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>Knooppunttype</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbool</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>Knooppunttype</translation>
     </message>
 </context>
 <context>

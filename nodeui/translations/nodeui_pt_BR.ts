@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>Fechar</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Símbolo</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Nome</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>Tipo de nó</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>Endereço</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Símbolo</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>Tipo de nó</translation>
     </message>
 </context>
 <context>

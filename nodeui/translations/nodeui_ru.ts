@@ -404,18 +404,6 @@
         <source>Close</source>
         <translation>Закрыть</translation>
     </message>
-    <message>
-        <source>Symbol</source>
-        <translation>Значок</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Имя</translation>
-    </message>
-    <message>
-        <source>Node type</source>
-        <translation>Тип узла</translation>
-    </message>
 </context>
 <context>
     <name>NodeDialog</name>
@@ -500,6 +488,14 @@
     <message>
         <source>Address</source>
         <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Значок</translation>
+    </message>
+    <message>
+        <source>Node type</source>
+        <translation>Тип узла</translation>
     </message>
 </context>
 <context>

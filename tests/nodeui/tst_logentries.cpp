@@ -17,7 +17,7 @@ public:
     bool isEmpty() const override { return false; }
     QString translate(const char* context, const char* text, const char*, int) const override
     {
-        if (QByteArray(context) != "ko::LogEntry")
+        if (QByteArray(context) != "LogEntry")
             return QString();
         return QByteArray(text) == "Changed name of device from %1 to %2." ? "%2 <- %1"
                                                                            : "t:" + QString(text);

@@ -1,0 +1,141 @@
+#ifndef TESTS_CLIENT_ALLWINDOWS_H
+#define TESTS_CLIENT_ALLWINDOWS_H
+
+#include "support/HostFixture.h"
+#include "support/ModalAnswer.h"
+
+#include "AddressChangesDialog.h"
+#include "CheckReportDialog.h"
+#include "ImportReportDialog.h"
+#include "MainWindow.h"
+#include "NodeListView.h"
+#include "dialogs/GenericNodeViewer.h"
+#include "dialogs/NodeDBViewer.h"
+#include "dialogs/RecordingFolderAssignmentDialog.h"
+#include "dialogs/RecordingFolderMassAssignmentDialog.h"
+#include "dialogs/RecordingTransponderCustomSettingsDialog.h"
+#include "ko/PropertyKeys.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QTabWidget>
+#include <QTest>
+
+namespace testsupport {
+
+/// Opens every window of the client and of the library, one after the other, over a small database.
+class AllWindows
+{
+public:
+    typedef std::function<void(const QString& name, QWidget* window)> Look;
+
+    AllWindows()
+    {
+        m_camera = m_host.add(ko::IPDeviceType, QStringLiteral("1"), QStringLiteral("10.0.0.1"));
+        m_folder = m_host.add(ko::RecordingFolderType, QStringLiteral("2"));
+        m_url = m_host.add(ko::UrlCameraType, QStringLiteral("3"), QStringLiteral("10.0.0.3"));
+        m_host.change(m_camera, [](ko::Node* node) {
+            node->setStringProperty(ko::PropertyKeys::FactoryIP, QStringLiteral("10_0_0_1"));
+            node->setIntProperty(ko::PropertyKeys::RecordingStorageUsage, 2);
+        });
+        m_host.db()->flush();
+    }
+
+    void visit(const Look& look)
+    {
+        ko::MainWindow window(*m_host.db());
+        window.resize(1100, 600);
+        show(&window, QStringLiteral("main"), look);
+        window.findChild<ko::NodeListView*>()->selectNodes({m_camera});
+        visitDialogs(window, look);
+        trigger(window, "actionOverview", [&](QDialog* overview) {
+            const ModalAnswer answer([&](QDialog* dialog) {
+                look(QStringLiteral("filter"), dialog);
+                dialog->reject();
+            });
+            child<QAbstractButton>(overview, "filterButton")->click();
+            QVERIFY(answer.fired());
+        });
+        visitEditors(window, look);
+        visitOthers(window, look);
+    }
+
+    HostFixture& host() { return m_host; }
+
+private:
+    static void show(QWidget* window, const QString& name, const Look& look)
+    {
+        window->show();
+        QCoreApplication::processEvents();
+        look(name, window);
+    }
+
+    static void trigger(ko::MainWindow& window, const char* action, const std::function<void(QDialog*)>& look)
+    {
+        const ModalAnswer answer([&look](QDialog* dialog) {
+            QCoreApplication::processEvents();
+            look(dialog);
+            dialog->reject();
+        });
+        child<QAction>(&window, action)->trigger();
+        QVERIFY2(answer.fired(), action);
+    }
+
+    void visitDialogs(ko::MainWindow& window, const Look& look)
+    {
+        for (const char* action :
+             {"actionAdd", "actionRemove", "actionProperties", "actionCredentials", "actionRecording",
+              "actionPreferences", "actionProxy", "actionEnvironments", "actionOverview",
+              "actionAddressChanges", "actionAuditLog", "actionFillIn", "actionAbout"})
+            trigger(window, action, [&](QDialog* dialog) { look(QString::fromLatin1(action), dialog); });
+    }
+
+    void visitEditors(ko::MainWindow& window, const Look& look)
+    {
+        for (const QString& id : {m_camera, m_folder, m_url}) {
+            window.findChild<ko::NodeListView*>()->selectNodes({id});
+            trigger(window, "actionEdit", [&](QDialog* dialog) {
+                auto* tabs = dialog->findChild<QTabWidget*>();
+                for (int i = 0; i < tabs->count(); ++i) {
+                    tabs->setCurrentIndex(i);
+                    QCoreApplication::processEvents();
+                    look(QStringLiteral("editor of %1, page %2").arg(id).arg(i), dialog);
+                }
+            });
+        }
+    }
+
+    void visitOthers(ko::MainWindow& window, const Look& look)
+    {
+        const auto nodeOf = [this](const QString& id) { return m_host.db()->summary(id); };
+        auto* report = new ko::CheckReportDialog({{m_camera, ko::CameraState()}}, nodeOf, 2, true, &window);
+        show(report, QStringLiteral("check report"), look);
+        delete report;
+        ko::CameraSurvey::ImportResult imported;
+        imported.ignoredColumns.append(QStringLiteral("9"));
+        ko::ImportReportDialog import(imported, &window);
+        show(&import, QStringLiteral("import report"), look);
+        ko::GenericNodeViewer viewer(m_camera, &window);
+        show(&viewer, QStringLiteral("generic viewer"), look);
+        ko::NodeDBViewer database(&window);
+        database.setWindowFlag(Qt::Window);
+        show(&database, QStringLiteral("database viewer"), look);
+        ko::RecordingFolderAssignmentDialog recordings(m_camera, &window);
+        show(&recordings, QStringLiteral("recordings"), look);
+        child<QAbstractButton>(&recordings, "moreButton")->click();
+        show(&recordings, QStringLiteral("recordings, all"), look);
+        ko::RecordingFolderMassAssignmentDialog many(&window, {m_camera, m_url}, Qt::Dialog);
+        show(&many, QStringLiteral("recordings of many"), look);
+        ko::RecordingTransponderCustomSettingsDialog preview(m_camera, &window);
+        show(&preview, QStringLiteral("remote preview"), look);
+    }
+
+    HostFixture m_host;
+    QString m_camera;
+    QString m_folder;
+    QString m_url;
+};
+
+} // namespace testsupport
+
+#endif
