@@ -206,6 +206,14 @@ QStringList cutOff(const QWidget* window)
         if (box->isVisible() && follows && box->width() < box->minimumSizeHint().width())
             names.append(box->objectName());
     }
+    const QList<QWidget*> widgets = window->findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        const bool showsText =
+            qobject_cast<const QLabel*>(widget) || qobject_cast<const QPushButton*>(widget);
+        if (showsText && widget->isVisible() && widget->minimumSizeHint().width() > widget->maximumWidth() &&
+            widget->objectName() != "instructionFilePushButton") // three dots, which fit
+            names.append(widget->objectName() + " (fixed)");
+    }
     const QList<QTabBar*> bars = window->findChildren<QTabBar*>();
     for (const QTabBar* bar : bars) {
         if (bar->isVisible() && bar->width() < bar->sizeHint().width() && !bar->usesScrollButtons())
