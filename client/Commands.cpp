@@ -4,6 +4,7 @@
 #include "FillInDialog.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
+#include "MnemonicText.h"
 #include "NodeCommands.h"
 #include "NodeListView.h"
 #include "WindowCommands.h"
@@ -185,7 +186,10 @@ void Commands::retranslate()
     for (const Menu& menu : std::as_const(m_menus))
         menu.menu->setTitle(MainWindow::tr(menu.title));
     for (int i = 0; i < m_actions.size(); ++i) {
-        m_actions.at(i)->setText(MainWindow::tr(all[i].text));
+        const QString text = MainWindow::tr(all[i].text);
+        m_actions.at(i)->setText(text);
+        // The toolkit would leave the brackets of "編集(&E)..." on the tool button.
+        m_actions.at(i)->setIconText(MnemonicText::without(text).remove(QLatin1String("...")));
         if (*all[i].tip)
             m_actions.at(i)->setStatusTip(MainWindow::tr(all[i].tip));
     }

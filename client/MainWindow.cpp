@@ -104,9 +104,9 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
             say(tr("%n device(s) seen at a new address: Network > Seen at a New Address", nullptr, count));
     });
 
+    setTranslated(this, [this] { retranslate(); });
     restoreState();
     updateCommands();
-    setTranslated(this, [this] { retranslate(); });
     m_view->setFocus();
 }
 
@@ -325,12 +325,23 @@ void MainWindow::restoreState()
     if (!restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray()))
         resizeWithinScreen(*this, QSize(900, 600));
     m_view->header()->resizeSection(NodeListModel::NameColumn, 250);
-    m_view->header()->resizeSection(NodeListModel::TypeColumn, 130);
+    const int more = std::max(0, widestType() - 130);
+    m_view->header()->resizeSection(NodeListModel::TypeColumn, 130 + more);
     m_view->header()->resizeSection(NodeListModel::AddressColumn, 150);
     m_view->header()->resizeSection(NodeListModel::RecordingColumn, 150);
-    m_view->header()->resizeSection(NodeListModel::StateColumn, 180);
+    m_view->header()->resizeSection(NodeListModel::StateColumn, std::max(100, 180 - more)); // has the rest
     m_view->restoreColumns(settings);
     m_model->sort(m_view->header()->sortIndicatorSection(), m_view->header()->sortIndicatorOrder());
+}
+
+/// With the room that a cell has around its text.
+int MainWindow::widestType() const
+{
+    const int room = 2 * fontMetrics().averageCharWidth();
+    int width = 0;
+    for (int i = 1; i < m_types->count(); ++i)
+        width = std::max(width, fontMetrics().horizontalAdvance(m_types->itemText(i)) + room);
+    return width;
 }
 
 void MainWindow::saveState() const

@@ -73,6 +73,7 @@ private:
     void updateCommands();
     void updateStatus();
     void restoreState();
+    int widestType() const;
     void saveState() const;
 
     HostNodeDB& m_db;

@@ -1,11 +1,15 @@
 #include "Mnemonics.h"
 
+#include "MnemonicText.h"
+
 #include <QApplication>
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QEvent>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
+#include <QLayout>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -84,34 +88,7 @@ QStringList lettersOfMenus(const QWidget* window)
     return letters;
 }
 
-/// With a mark before a letter that is not used yet, the first one of a word if possible; else as it is.
-QString withLetter(const QString& text, const QStringList& used)
-{
-    for (const bool atBegin : {true, false}) {
-        for (int i = 0; i < text.size(); ++i) {
-            const bool begins = i == 0 || !text.at(i - 1).isLetterOrNumber();
-            if (!text.at(i).isLetterOrNumber() || begins != atBegin)
-                continue;
-            QString marked = QString(text).insert(i, QLatin1Char('&'));
-            if (!used.contains(QKeySequence::mnemonic(marked).toString()))
-                return marked;
-        }
-    }
-    return text;
-}
-
-QString withoutLetter(QString text)
-{
-    for (int i = 0; i < text.size(); ++i) {
-        if (text.at(i) == QLatin1Char('&') && text.mid(i, 2) != QLatin1String("&&"))
-            return text.remove(i, 1);
-        if (text.at(i) == QLatin1Char('&'))
-            ++i;
-    }
-    return text;
-}
-
-void assignIn(const QWidget* window)
+void assignIn(QWidget* window)
 {
     QVector<Caption> captions = captionsInSight(window);
     // Letters that somebody chose stay; then short texts, which have not many to choose from.
@@ -122,16 +99,23 @@ void assignIn(const QWidget* window)
         return std::make_pair(isOurs(a), a.text.size()) < std::make_pair(isOurs(b), b.text.size());
     });
     QStringList used = lettersOfMenus(window);
+    bool isLonger = false;
     for (Caption& caption : captions) {
         const bool isFree = !caption.letter().isEmpty() && !used.contains(caption.letter());
         if (isOurs(caption) && !isFree) {
-            const QString text = withLetter(withoutLetter(caption.text), used);
+            const QString text = MnemonicText::with(MnemonicText::without(caption.text), used);
             if (text != caption.text)
                 caption.set(text);
+            isLonger = isLonger || text.size() > caption.text.size() + 1; // by brackets
             caption.text = text;
             caption.owner->setProperty(given, true);
         }
         used.append(caption.letter());
+    }
+    // The dialog had its size before.
+    if (isLonger && qobject_cast<QDialog*>(window) && window->layout()) {
+        window->layout()->activate();
+        window->resize(std::max(window->width(), window->sizeHint().width()), window->height());
     }
 }
 

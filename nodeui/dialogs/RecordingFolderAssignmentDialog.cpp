@@ -91,6 +91,7 @@ void RecordingFolderAssignmentDialog::retranslate()
     measure();
     if (isCollapsed)
         setFixedHeight(m_collapsedHeight);
+    resize(sizeHint().expandedTo(size()).width(), height()); // a layout does not widen a dialog of a given height
 }
 
 void RecordingFolderAssignmentDialog::connectAll()

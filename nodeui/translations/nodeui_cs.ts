@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Zadejte uživatelské jméno a heslo pro ověření u&lt;br&gt;%1:</translation>
+        <translation>Zadejte uživatelské jméno a heslo pro&lt;br&gt;%1 k ověření:</translation>
     </message>
     <message>
         <source>User name: </source>

@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Bitte geben Sie Benutzername und Passwort zur Anmeldung ein für&lt;br&gt;%1:</translation>
+        <translation>Bitte geben Sie Benutzername und Passwort ein, um sich bei&lt;br&gt;%1 anzumelden:</translation>
     </message>
     <message>
         <source>User name: </source>

@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Introduzca el nombre de usuario y la contraseña de autenticación para&lt;br&gt;%1:</translation>
+        <translation>Introduzca el nombre de usuario y la contraseña para&lt;br&gt;%1 a fin de autenticarse:</translation>
     </message>
     <message>
         <source>User name: </source>

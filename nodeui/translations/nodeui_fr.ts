@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Veuillez saisir le nom d&apos;utilisateur et le mot de passe d&apos;authentification pour&lt;br&gt;%1 :</translation>
+        <translation>Veuillez saisir le nom d&apos;utilisateur et le mot de passe pour&lt;br&gt;%1 afin de vous authentifier :</translation>
     </message>
     <message>
         <source>User name: </source>

@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Immettere nome utente e password per l&apos;autenticazione a&lt;br&gt;%1:</translation>
+        <translation>Immettere nome utente e password per&lt;br&gt;%1 per autenticarsi:</translation>
     </message>
     <message>
         <source>User name: </source>

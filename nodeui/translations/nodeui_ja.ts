@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>次のカメラの認証に使用するユーザー名とパスワードを入力してください。&lt;br&gt;%1:</translation>
+        <translation>次のカメラのユーザー名とパスワードを入力してください。&lt;br&gt;%1認証に使用します:</translation>
     </message>
     <message>
         <source>User name: </source>

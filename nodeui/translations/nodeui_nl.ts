@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Voer de gebruikersnaam en het wachtwoord in voor aanmelding bij&lt;br&gt;%1:</translation>
+        <translation>Voer gebruikersnaam en wachtwoord in voor&lt;br&gt;%1 om u aan te melden:</translation>
     </message>
     <message>
         <source>User name: </source>

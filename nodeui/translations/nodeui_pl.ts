@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Wprowadź nazwę użytkownika i hasło do uwierzytelnienia dla&lt;br&gt;%1:</translation>
+        <translation>Wprowadź nazwę użytkownika i hasło dla&lt;br&gt;%1 w celu uwierzytelnienia:</translation>
     </message>
     <message>
         <source>User name: </source>

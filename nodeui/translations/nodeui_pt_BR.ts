@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Informe o nome de usuário e a senha para autenticação em&lt;br&gt;%1:</translation>
+        <translation>Informe o nome de usuário e a senha para&lt;br&gt;%1 a fim de autenticar-se:</translation>
     </message>
     <message>
         <source>User name: </source>

@@ -367,7 +367,7 @@
     </message>
     <message>
         <source>Please enter user name and password for&lt;br&gt;%1 to authenticate:</source>
-        <translation>Введите имя пользователя и пароль для авторизации на&lt;br&gt;%1:</translation>
+        <translation>Введите имя пользователя и пароль для&lt;br&gt;%1 для авторизации:</translation>
     </message>
     <message>
         <source>User name: </source>
