@@ -91,7 +91,8 @@ void RecordingFolderAssignmentDialog::retranslate()
     measure();
     if (isCollapsed)
         setFixedHeight(m_collapsedHeight);
-    resize(sizeHint().expandedTo(size()).width(), height()); // a layout does not widen a dialog of a given height
+    resize(sizeHint().expandedTo(size()).width(),
+           height()); // a layout does not widen a dialog of a given height
 }
 
 void RecordingFolderAssignmentDialog::connectAll()
