@@ -88,6 +88,21 @@ QStringList lettersOfMenus(const QWidget* window)
     return letters;
 }
 
+/// A dialog that had its size before its captions got longer.
+void widen(QWidget* dialog, const QVector<Caption>& captions)
+{
+    // A layout hears of what is in its boxes only when theirs are done.
+    for (const Caption& caption : captions) {
+        auto* widget = qobject_cast<QWidget*>(caption.owner);
+        while (widget && widget != dialog) {
+            widget = widget->parentWidget();
+            if (widget->layout())
+                widget->layout()->activate();
+        }
+    }
+    dialog->resize(std::max(dialog->width(), dialog->sizeHint().width()), dialog->height());
+}
+
 void assignIn(QWidget* window)
 {
     QVector<Caption> captions = captionsInSight(window);
@@ -112,11 +127,8 @@ void assignIn(QWidget* window)
         }
         used.append(caption.letter());
     }
-    // The dialog had its size before.
-    if (isLonger && qobject_cast<QDialog*>(window) && window->layout()) {
-        window->layout()->activate();
-        window->resize(std::max(window->width(), window->sizeHint().width()), window->height());
-    }
+    if (isLonger && qobject_cast<QDialog*>(window))
+        widen(window, captions);
 }
 
 } // namespace

@@ -62,18 +62,25 @@ public:
 
     HostFixture& host() { return m_host; }
 
+    /// Letters for the keyboard and sizes come in turns of their own.
+    static void settle()
+    {
+        for (int i = 0; i < 5; ++i)
+            QCoreApplication::processEvents();
+    }
+
 private:
     static void show(QWidget* window, const QString& name, const Look& look)
     {
         window->show();
-        QCoreApplication::processEvents();
+        settle();
         look(name, window);
     }
 
     static void trigger(ko::MainWindow& window, const char* action, const std::function<void(QDialog*)>& look)
     {
         const ModalAnswer answer([&look](QDialog* dialog) {
-            QCoreApplication::processEvents();
+            settle();
             look(dialog);
             dialog->reject();
         });
@@ -98,7 +105,7 @@ private:
                 auto* tabs = dialog->findChild<QTabWidget*>();
                 for (int i = 0; i < tabs->count(); ++i) {
                     tabs->setCurrentIndex(i);
-                    QCoreApplication::processEvents();
+                    settle();
                     look(QStringLiteral("editor of %1, page %2").arg(id).arg(i), dialog);
                 }
             });

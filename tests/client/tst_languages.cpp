@@ -142,8 +142,7 @@ QString difference(const QStringList& are, const QStringList& expected)
 void speak(const QString& code)
 {
     Languages::use(code);
-    for (int i = 0; i < 3; ++i)
-        QCoreApplication::processEvents();
+    AllWindows::settle();
 }
 
 /// A syllable or a picture is no key.
@@ -398,7 +397,6 @@ void tst_Languages::windows()
     const auto straight = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
     QStringList problems;
     windows.visit([&](const QString& name, QWidget* window) {
-        QCoreApplication::processEvents();
         for (const QString& cut : cutOff(window))
             problems.append(name + ": " + cut + " is cut off");
         for (const QString& text : lettersTwice(window) + lettersTwiceInMenus(window))
@@ -464,8 +462,7 @@ void tst_Languages::menuWorksAtOnce()
     QVERIFY(viewer);
     const auto choose = [&window](const char* language) {
         child<QAction>(&window, language)->trigger();
-        for (int i = 0; i < 3; ++i)
-            QCoreApplication::processEvents();
+        AllWindows::settle();
     };
     const QStringList before = plain(textsOf(&window));
     const QAction* file = window.menuBar()->actions().first();
