@@ -5,6 +5,7 @@
 
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
@@ -19,22 +20,22 @@ QString details(const CameraSurvey::ImportResult& result)
         lines.append(ImportReportDialog::tr("Line %1: %2").arg(QString::number(line.line), line.reason));
     if (!result.ignoredColumns.isEmpty())
         lines.append(ImportReportDialog::tr("Columns that are not used: %1")
-                         .arg(OutsideText::visible(result.ignoredColumns.join(QLatin1String(", ")))));
+                         .arg(OutsideText::visible(result.ignoredColumns.join(
+                             ImportReportDialog::tr(", ", "between the parts of a list")))));
     return lines.join(QLatin1Char('\n'));
 }
 
 QString summary(const CameraSurvey::ImportResult& result)
 {
+    const QLocale locale;
     QStringList lines;
     if (!result.error.isEmpty())
         lines.append(result.error);
     if (result.cancelled)
         lines.append(ImportReportDialog::tr("The import was cancelled. What was added until then stays."));
     lines.append(ImportReportDialog::tr("%1 added, %2 updated, %3 unchanged, %4 lines with errors.")
-                     .arg(result.added)
-                     .arg(result.updated)
-                     .arg(result.unchanged)
-                     .arg(result.badLines.size()));
+                     .arg(locale.toString(result.added), locale.toString(result.updated),
+                          locale.toString(result.unchanged), locale.toString(int(result.badLines.size()))));
     return lines.join(QLatin1String("\n\n"));
 }
 

@@ -697,6 +697,11 @@ Bez --import, --export, --backup a --restore otevře okno a přijímá i volby g
         <source>Details</source>
         <translation>Podrobnosti</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

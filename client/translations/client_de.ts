@@ -685,6 +685,11 @@ Ohne --import, --export, --backup und --restore wird ein Fenster geöffnet; dann
         <source>Details</source>
         <translation>Einzelheiten</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

@@ -685,6 +685,11 @@ Sin --import, --export, --backup ni --restore abre una ventana y acepta también
         <source>Details</source>
         <translation>Detalles</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

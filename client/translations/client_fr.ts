@@ -685,6 +685,11 @@ Sans --import, --export, --backup ni --restore, ouvre une fenêtre et accepte au
         <source>Details</source>
         <translation>Détails</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

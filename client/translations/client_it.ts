@@ -685,6 +685,11 @@ Senza --import, --export, --backup e --restore apre una finestra e accetta anche
         <source>Details</source>
         <translation>Dettagli</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

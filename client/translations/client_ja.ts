@@ -673,6 +673,11 @@ Without --import, --export, --backup and --restore it opens a window, and takes 
         <source>Details</source>
         <translation>詳細</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

@@ -685,6 +685,11 @@ Zonder --import, --export, --backup en --restore wordt een venster geopend en ge
         <source>Details</source>
         <translation>Details</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

@@ -697,6 +697,11 @@ Bez --import, --export, --backup i --restore otwiera okno i przyjmuje też opcje
         <source>Details</source>
         <translation>Szczegóły</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

@@ -685,6 +685,11 @@ Sem --import, --export, --backup e --restore, abre uma janela e aceita também a
         <source>Details</source>
         <translation>Detalhes</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

@@ -697,6 +697,11 @@ Without --import, --export, --backup and --restore it opens a window, and takes 
         <source>Details</source>
         <translation>Подробности</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>

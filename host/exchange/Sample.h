@@ -21,7 +21,7 @@ public:
 
     QString text() const
     {
-        const QString named = m_names.join(QLatin1String(", "));
+        const QString named = m_names.join(SurveyText::tr(", ", "between the parts of a list"));
         return m_count <= Named
                    ? named
                    : SurveyText::tr("%1 and %2 more").arg(named, QString::number(m_count - Named));

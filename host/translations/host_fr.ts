@@ -200,6 +200,11 @@
         <source>a device of this type has no channels</source>
         <translation>un appareil de ce type n&apos;a pas de canaux</translation>
     </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>

@@ -273,6 +273,7 @@ private slots:
     void searchFollows();
     void plurals_data();
     void plurals();
+    void libraryAlone();
     void commandLine();
 };
 
@@ -518,6 +519,14 @@ void tst_Languages::plurals()
     QFETCH(int, count);
     Languages::use(code);
     QTEST(MainWindow::tr("%n row(s) copied.", nullptr, count), "text");
+}
+
+/// As a client with a host of its own installs them.
+void tst_Languages::libraryAlone()
+{
+    QTranslator translator;
+    QVERIFY(translator.load(QLocale("it_CH"), "nodeui", "_", ":/translations"));
+    QCOMPARE(translator.translate("NodeViewModel", "Address"), QString("Indirizzo"));
 }
 
 void tst_Languages::commandLine()
