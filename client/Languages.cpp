@@ -8,7 +8,9 @@
 #include <QTranslator>
 
 #include <algorithm>
-#include <array>
+#include <memory>
+#include <utility>
+#include <vector>
 
 /// Outside the namespace, as the macro demands.
 static void initTranslations()
@@ -47,10 +49,12 @@ public:
             {QStringLiteral("nodeui_"), ours},
             {QStringLiteral("qtbase_"), toolkitFolder()},
         };
-        for (size_t i = 0; i < m_parts.size(); ++i) {
-            // A file that is not there leaves its part empty, and its texts as they are in the sources.
-            if (!m_parts[i].load(files[i].name + language, files[i].folder))
-                m_parts[i].load(nullptr, 0);
+        m_parts.clear();
+        for (const auto& file : files) {
+            auto part = std::make_unique<QTranslator>();
+            if (part->load(file.name + language,
+                           file.folder)) // what is not there stays as the sources have it
+                m_parts.push_back(std::move(part));
         }
         m_language = language;
     }
@@ -61,8 +65,8 @@ public:
 
     QString translate(const char* context, const char* text, const char* comment, int n) const override
     {
-        for (const QTranslator& part : m_parts) {
-            const QString translation = part.translate(context, text, comment, n);
+        for (const auto& part : m_parts) {
+            const QString translation = part->translate(context, text, comment, n);
             if (!translation.isNull())
                 return translation;
         }
@@ -79,7 +83,7 @@ private:
 #endif
     }
 
-    std::array<QTranslator, 4> m_parts;
+    std::vector<std::unique_ptr<QTranslator>> m_parts;
     QString m_language;
 };
 
