@@ -66,7 +66,7 @@ public:
     QString translate(const char* context, const char* text, const char* comment, int n) const override
     {
         for (const auto& part : m_parts) {
-            const QString translation = part->translate(context, text, comment, n);
+            QString translation = part->translate(context, text, comment, n);
             if (!translation.isNull())
                 return translation;
         }
@@ -128,7 +128,7 @@ const QVector<Language>& all()
 QString best(const QStringList& wanted)
 {
     for (const QString& name : wanted) {
-        const QString exact = QString(name).replace(QLatin1Char('-'), QLatin1Char('_'));
+        QString exact = QString(name).replace(QLatin1Char('-'), QLatin1Char('_'));
         const QString language = exact.section(QLatin1Char('_'), 0, 0);
         QString found;
         for (const Language& each : all()) {

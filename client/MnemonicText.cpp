@@ -30,7 +30,7 @@ QString inBrackets(const QString& text, const QStringList& used)
     while (end > 0 && QStringLiteral(".: ").contains(text.at(end - 1)))
         --end;
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        const QString marked = QString(text).insert(end, QStringLiteral("(&%1)").arg(QLatin1Char(letter)));
+        QString marked = QString(text).insert(end, QStringLiteral("(&%1)").arg(QLatin1Char(letter)));
         if (isFree(marked, used))
             return marked;
     }
@@ -48,7 +48,7 @@ QString with(const QString& text, const QStringList& used)
             const bool begins = i == 0 || !text.at(i - 1).isLetterOrNumber();
             if (!isLetter(text.at(i)) || begins != atBegin)
                 continue;
-            const QString marked = QString(text).insert(i, QLatin1Char('&'));
+            QString marked = QString(text).insert(i, QLatin1Char('&'));
             if (isFree(marked, used))
                 return marked;
         }
