@@ -22,7 +22,9 @@ KO_PLATFORM_EXPORT QString translatedFor(const QMetaObject& type, const char* te
 
 } // namespace ko
 
-// What Q_OBJECT declares, with the context changed. A class outside the namespace keeps its own.
+// What Q_OBJECT declares, with the context changed. A class outside the namespace keeps its own. Nothing
+// beside Q_OBJECT can replace its tr(), so the toolkit's headers that come later see this, too: their classes
+// return what they did before, since no name of theirs begins with "ko::".
 #undef QT_TR_FUNCTIONS
 #define QT_TR_FUNCTIONS                                                                                      \
     static inline QString tr(const char* text, const char* comment = nullptr, int n = -1)                    \
