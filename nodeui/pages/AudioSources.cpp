@@ -72,9 +72,8 @@ QString AudioSources::idAt(int row) const
 void AudioSources::setSelfName(const QString& name)
 {
     m_selfName = name;
-    const int row = rowOf(m_self);
-    if (row >= 0)
-        emit dataChanged(index(row), index(row));
+    if (m_rows > 0)
+        emit dataChanged(index(0), index(m_rows - 1)); // each section begins with it
 }
 
 int AudioSources::rowCount(const QModelIndex& parent) const

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSet>
 #include <QTemporaryDir>
 
 using namespace ko;
@@ -77,6 +78,7 @@ private slots:
     void audioPathSelection();
     void noAudioPaths();
     void fillingAgainAppends();
+    void eachSelfFollowsTheLanguage();
     void acceptOrder();
     void acceptWritesAllAlways();
     void acceptUnchanged();
@@ -363,6 +365,26 @@ void tst_LayoutOptionsWidget::fillingAgainAppends()
     QCOMPARE(m_layout->count(), 6);
     QCOMPARE(m_audio->count(), 4);
     QCOMPARE(m_layout->currentText(), QString("Wall"));
+}
+
+/// A list that was filled twice has the camera itself twice.
+void tst_LayoutOptionsWidget::eachSelfFollowsTheLanguage()
+{
+    carryAll("7", "bare");
+    m_page->init(QString("cam"));
+    m_page->fillAudioPathIdComboBox();
+    m_page->fillAudioPathIdComboBox();
+    QSet<int> shownAnew;
+    connect(m_audio->model(), &QAbstractItemModel::dataChanged, this,
+            [&shownAnew](const QModelIndex& first, const QModelIndex& last) {
+                for (int row = first.row(); row <= last.row(); ++row)
+                    shownAnew.insert(row);
+            });
+    QEvent change(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(m_page.get(), &change);
+    for (int row = 0; row < m_audio->count(); ++row)
+        QVERIFY(m_audio->itemText(row) != "Self" || shownAnew.contains(row));
+    QCOMPARE(m_audio->findText("Self", Qt::MatchExactly), 0);
 }
 
 void tst_LayoutOptionsWidget::acceptOrder()
