@@ -31,8 +31,7 @@ QString nodesOf(const ChangeSetRow& row)
 {
     if (row.nodes < 2)
         return row.firstName;
-    return row.nodes == 2 ? LogEntry::tr("%1 and another one").arg(row.firstName)
-                          : LogEntry::tr("%1 and %2 others").arg(row.firstName).arg(row.nodes - 1);
+    return LogEntry::tr("%1 and %n other(s)", nullptr, row.nodes - 1).arg(row.firstName);
 }
 
 } // namespace

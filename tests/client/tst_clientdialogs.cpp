@@ -109,7 +109,7 @@ void tst_ClientDialogs::auditLogTellsWhatNoDialogLogs()
     });
     AuditLogDialog dialog(db().auditLog());
     const QStringList rows = texts(child<QTableView>(&dialog, "entriesTableView"));
-    const QStringList expected = {QStringLiteral("Added by the program|B and 2 others"),
+    const QStringList expected = {QStringLiteral("Added by the program|B and 2 other(s)"),
                                   QStringLiteral("Gate 0"),
                                   QStringLiteral("Added by the program|Yard\\n2020-01-01"),
                                   QStringLiteral("Gate 0"),
