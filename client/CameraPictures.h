@@ -4,6 +4,7 @@
 #include "CameraState.h"
 #include "DeviceFingerprint.h"
 #include "devices/DeviceChecks.h"
+#include "ko/TrContext.h"
 #include "ko/Types.h"
 
 #include <QCache>
@@ -31,6 +32,7 @@ struct CameraPicture
 class CameraPictures : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(CameraPictures)
 
 public:
     enum Limits {

@@ -1,6 +1,8 @@
 #ifndef KO_PICTURETIP_H
 #define KO_PICTURETIP_H
 
+#include "ko/TrContext.h"
+
 #include <QObject>
 #include <QPoint>
 #include <QTimer>
@@ -15,6 +17,7 @@ class NodeListView;
 class PictureTip : public QObject
 {
     Q_OBJECT
+    KO_TR_CONTEXT(PictureTip)
 
 public:
     enum Limits {

@@ -1,6 +1,7 @@
 #include "PictureView.h"
 
 #include "CameraPictures.h"
+#include "utils/Retranslation.h"
 
 #include <QBoxLayout>
 #include <QDialog>
@@ -17,10 +18,13 @@ PictureView::PictureView(CameraPictures& pictures, const QString& id, QWidget* p
     setAlignment(Qt::AlignCenter);
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
-    setAccessibleName(tr("Picture of the camera"));
     connect(&m_pictures, &CameraPictures::came, this, [this](const QString& id) {
         if (id == m_id)
             showPicture();
+    });
+    setTranslated(this, [this] {
+        setAccessibleName(tr("Picture of the camera"));
+        showPicture();
     });
 }
 
@@ -31,7 +35,6 @@ void PictureView::addTo(QDialog& dialog, CameraPictures& pictures, const QString
         return;
     auto* view = new PictureView(pictures, id, &dialog);
     layout->insertWidget(0, view);
-    view->showPicture();
     dialog.adjustSize();
 }
 

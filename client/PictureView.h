@@ -1,6 +1,8 @@
 #ifndef KO_PICTUREVIEW_H
 #define KO_PICTUREVIEW_H
 
+#include "ko/TrContext.h"
+
 #include <QLabel>
 
 class QDialog;
@@ -14,6 +16,7 @@ class CameraPictures;
 class PictureView : public QLabel
 {
     Q_OBJECT
+    KO_TR_CONTEXT(PictureView)
 
 public:
     enum Limits { Width = 320, Height = 180 /* pixels, at most */ };

@@ -8,6 +8,7 @@
 #include "CheckReportDialog.h"
 #include "ImportReportDialog.h"
 #include "MainWindow.h"
+#include "NodeListModel.h"
 #include "NodeListView.h"
 #include "dialogs/GenericNodeViewer.h"
 #include "dialogs/NodeDBViewer.h"
@@ -58,6 +59,7 @@ public:
         });
         visitEditors(window, look);
         visitOthers(window, look);
+        visitRefusals(window, look);
     }
 
     HostFixture& host() { return m_host; }
@@ -135,6 +137,30 @@ private:
         show(&many, QStringLiteral("recordings of many"), look);
         ko::RecordingTransponderCustomSettingsDialog preview(m_camera, &window);
         show(&preview, QStringLiteral("remote preview"), look);
+    }
+
+    /// What is said of a camera that a check has found to want the user's decision.
+    void visitRefusals(ko::MainWindow& window, const Look& look)
+    {
+        const struct
+        {
+            ko::DeviceReport::State state;
+            const char* action;
+        } refusals[] = {
+            {ko::DeviceReport::OtherDevice, "actionAcceptDevices"},
+            {ko::DeviceReport::ClearPassword, "actionAllowClearPasswords"},
+        };
+        window.list().selectNodes({m_camera});
+        for (const auto& refusal : refusals) {
+            ko::CameraState state;
+            state.state = refusal.state;
+            window.findChild<ko::NodeListModel*>()->setStates({{m_camera, state}});
+            for (const char* action : {refusal.action, "actionProperties"})
+                trigger(window, action, [&](QDialog* dialog) {
+                    look(QStringLiteral("%1, %2").arg(QLatin1String(refusal.action), QLatin1String(action)),
+                         dialog);
+                });
+        }
     }
 
     HostFixture m_host;

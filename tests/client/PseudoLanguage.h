@@ -36,7 +36,9 @@ public:
             original != QLatin1String("<br>");
         if (!hasWords)
             return original;
-        const QString end(int(original.size()) * 2 / 5, QLatin1Char('n'));
+        QString end(int(original.size()) * 2 / 5, QLatin1Char('n'));
+        for (int i = LongestWord; i + 1 < end.size(); i += LongestWord + 1)
+            end[i] = QLatin1Char(' '); // what is wrapped needs places for that
         int at = int(original.size());
         while (at > 0 && QStringLiteral(".: >").contains(original.at(at - 1)))
             --at; // the end stays what it is
@@ -49,6 +51,8 @@ public:
     const QSet<QString>& known() const { return m_known; }
 
 private:
+    enum { LongestWord = 20 }; // letters, of what is added
+
     void read(const QString& fileName)
     {
         QFile file(fileName);
