@@ -248,6 +248,45 @@ Bez --import, --export, --backup a --restore otevře okno a přijímá i volby g
         <source>&amp;Check Them</source>
         <translation>Z&amp;kontrolovat</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>U žádné z vybraných kamer nebylo zjištěno, že požaduje otevřené heslo: zjišťuje to Síť &gt; Zkontrolovat kamery.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n zařízení přijímá heslo pouze v otevřené podobě. Bez SSL je může přečíst každý, kdo cestou naslouchá, a použít pro všechny kamery se stejným heslem. Povolte to jen tam, kde je síť vaše vlastní. Platí to, dokud si kamera ponechá svou adresu a port.</numerusform>
+            <numerusform>%n zařízení přijímají heslo pouze v otevřené podobě. Bez SSL je může přečíst každý, kdo cestou naslouchá, a použít pro všechny kamery se stejným heslem. Povolte to jen tam, kde je síť vaše vlastní. Platí to, dokud si kamera ponechá svou adresu a port.</numerusform>
+            <numerusform>%n zařízení přijímá heslo pouze v otevřené podobě. Bez SSL je může přečíst každý, kdo cestou naslouchá, a použít pro všechny kamery se stejným heslem. Povolte to jen tam, kde je síť vaše vlastní. Platí to, dokud si kamera ponechá svou adresu a port.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Povolit otevřená hesla</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Povolit</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>Povoleno odesílat otevřené heslo %n zařízení.</numerusform>
+            <numerusform>Povoleno odesílat otevřená hesla %n zařízením.</numerusform>
+            <numerusform>Povoleno odesílat otevřená hesla %n zařízením.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>Po zkontrolování kamery (F5) se zde zobrazí její obraz.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>Heslo nelze přečíst.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -798,6 +837,14 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>Accepted another device than before as %1.</source>
         <translation>Jako %1 přijato jiné zařízení než dříve.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Povoleno otevřené heslo</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Povoleno odesílat heslo %1 v otevřené podobě.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1117,6 +1164,14 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Zobrazuje, přidává, upravuje a odebírá uzly kamerového systému.&lt;/p&gt;&lt;p&gt;Svobodný software pod GNU LGPL 2.1 nebo novější.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>Povoli&amp;t otevřené heslo...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>Kamerám, které je jinak nepřijmou, se heslo odesílá čitelné pro všechny</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1189,6 +1244,32 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Nodes</source>
         <translation>Uzly</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Načítání obrazu...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Viděno %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Obraz kamery</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Načítání obrazu...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Viděno %1</translation>
     </message>
 </context>
 <context>

@@ -246,6 +246,43 @@ Ohne --import, --export, --backup und --restore wird ein Fenster geöffnet; dann
         <source>&amp;Check Them</source>
         <translation>&amp;Prüfen</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>Keine der ausgewählten Kameras verlangt ein Klartextpasswort: Das ermittelt Netzwerk &gt; Kameras prüfen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n Gerät nimmt das Passwort nur im Klartext an. Ohne SSL kann jeder, der unterwegs mithört, es lesen und für alle Kameras verwenden, die dasselbe haben. Erlauben Sie es nur dort, wo das Netzwerk Ihr eigenes ist. Die Erlaubnis gilt, solange die Kamera ihre Adresse und ihren Port behält.</numerusform>
+            <numerusform>%n Geräte nehmen das Passwort nur im Klartext an. Ohne SSL kann jeder, der unterwegs mithört, es lesen und für alle Kameras verwenden, die dasselbe haben. Erlauben Sie es nur dort, wo das Netzwerk Ihr eigenes ist. Die Erlaubnis gilt, solange die Kamera ihre Adresse und ihren Port behält.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Klartextpasswörter erlauben</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Erlauben</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>%n Gerät darf sein Passwort im Klartext gesendet werden.</numerusform>
+            <numerusform>%n Geräten darf ihr Passwort im Klartext gesendet werden.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>Sobald die Kamera geprüft wurde (F5), ist hier ihr Bild zu sehen.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>Das Passwort kann nicht gelesen werden.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -786,6 +823,14 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>Accepted another device than before as %1.</source>
         <translation>Anderes Gerät als bisher als %1 akzeptiert.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Klartextpasswort erlaubt</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Es wurde erlaubt, das Passwort von %1 im Klartext zu senden.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1102,6 +1147,14 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Zeigt, ergänzt, bearbeitet und entfernt die Knoten eines Videoüberwachungssystems.&lt;/p&gt;&lt;p&gt;Freie Software unter der GNU LGPL 2.1 oder neuer.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>Klar&amp;textpasswort erlauben...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>Kameras, die es nicht anders annehmen, wird das Passwort für alle lesbar gesendet</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1173,6 +1226,32 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Nodes</source>
         <translation>Knoten</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Das Bild wird geholt...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Gesehen am %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Bild der Kamera</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Das Bild wird geholt...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Gesehen am %1</translation>
     </message>
 </context>
 <context>

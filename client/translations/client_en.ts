@@ -17,6 +17,20 @@
             <numerusform>%n devices accepted.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n device takes the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</numerusform>
+            <numerusform>%n devices take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>%n device may be sent its password in the clear.</numerusform>
+            <numerusform>%n devices may be sent their passwords in the clear.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>CheckReportDialog</name>

@@ -246,6 +246,43 @@ Sin --import, --export, --backup ni --restore abre una ventana y acepta también
         <source>&amp;Check Them</source>
         <translation>&amp;Comprobar</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>Ninguna de las cámaras seleccionadas pide una contraseña sin cifrar: eso lo determina Red &gt; Comprobar cámaras.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n dispositivo solo admite la contraseña sin cifrar. Sin SSL, quien escuche por el camino puede leerla y usarla en todas las cámaras que tengan la misma. Permítalo solo donde la red sea suya. El permiso vale mientras la cámara conserve su dirección y su puerto.</numerusform>
+            <numerusform>%n dispositivos solo admiten la contraseña sin cifrar. Sin SSL, quien escuche por el camino puede leerla y usarla en todas las cámaras que tengan la misma. Permítalo solo donde la red sea suya. El permiso vale mientras la cámara conserve su dirección y su puerto.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Permitir contraseñas sin cifrar</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Permitir</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>Se permite enviar la contraseña sin cifrar a %n dispositivo.</numerusform>
+            <numerusform>Se permite enviar las contraseñas sin cifrar a %n dispositivos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>Cuando se haya comprobado la cámara (F5), su imagen aparecerá aquí.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>Su contraseña no se puede leer.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -786,6 +823,14 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>Accepted another device than before as %1.</source>
         <translation>Aceptado como %1 otro dispositivo que antes.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Contraseña sin cifrar permitida</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Se ha permitido enviar sin cifrar la contraseña de %1.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1102,6 +1147,14 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Muestra, añade, edita y elimina los nodos de un sistema de videovigilancia.&lt;/p&gt;&lt;p&gt;Software libre bajo la GNU LGPL 2.1 o posterior.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>Permi&amp;tir contraseña sin cifrar...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>A las cámaras que no la admiten de otro modo se les envía la contraseña legible para todos</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1173,6 +1226,32 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Nodes</source>
         <translation>Nodos</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Obteniendo la imagen...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Visto el %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Imagen de la cámara</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Obteniendo la imagen...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Visto el %1</translation>
     </message>
 </context>
 <context>

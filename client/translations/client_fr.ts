@@ -246,6 +246,43 @@ Sans --import, --export, --backup ni --restore, ouvre une fenêtre et accepte au
         <source>&amp;Check Them</source>
         <translation>&amp;Les vérifier</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>Aucune des caméras sélectionnées ne demande un mot de passe en clair : c&apos;est Réseau &gt; Vérifier les caméras qui le détermine.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n appareil n&apos;accepte le mot de passe qu&apos;en clair. Sans SSL, quiconque écoute en chemin peut le lire et s&apos;en servir pour toutes les caméras qui ont le même. Ne l&apos;autorisez que là où le réseau est le vôtre. L&apos;autorisation vaut tant que la caméra garde son adresse et son port.</numerusform>
+            <numerusform>%n appareils n&apos;acceptent le mot de passe qu&apos;en clair. Sans SSL, quiconque écoute en chemin peut le lire et s&apos;en servir pour toutes les caméras qui ont le même. Ne l&apos;autorisez que là où le réseau est le vôtre. L&apos;autorisation vaut tant que la caméra garde son adresse et son port.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Autoriser les mots de passe en clair</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>Aut&amp;oriser</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>Le mot de passe peut être envoyé en clair à %n appareil.</numerusform>
+            <numerusform>Les mots de passe peuvent être envoyés en clair à %n appareils.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>Une fois la caméra vérifiée (F5), son image s&apos;affiche ici.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>Le mot de passe est illisible.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -786,6 +823,14 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>Accepted another device than before as %1.</source>
         <translation>Autre appareil qu&apos;avant accepté comme %1.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Mot de passe en clair autorisé</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>L&apos;envoi en clair du mot de passe de %1 a été autorisé.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1102,6 +1147,14 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Affiche, ajoute, modifie et supprime les nœuds d&apos;un système de vidéosurveillance.&lt;/p&gt;&lt;p&gt;Logiciel libre sous la GNU LGPL 2.1 ou ultérieure.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>Aut&amp;oriser le mot de passe en clair...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>Les caméras qui ne l&apos;acceptent pas autrement reçoivent le mot de passe lisible par tous</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1173,6 +1226,32 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Nodes</source>
         <translation>Nœuds</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Récupération de l&apos;image...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Vu le %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Image de la caméra</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Récupération de l&apos;image...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Vu le %1</translation>
     </message>
 </context>
 <context>

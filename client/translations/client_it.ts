@@ -246,6 +246,43 @@ Senza --import, --export, --backup e --restore apre una finestra e accetta anche
         <source>&amp;Check Them</source>
         <translation>&amp;Controllali</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>Nessuna delle telecamere selezionate chiede la password in chiaro: lo determina Rete &gt; Controlla telecamere.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n dispositivo accetta la password solo in chiaro. Senza SSL, chi è in ascolto lungo il percorso può leggerla e usarla per tutte le telecamere che hanno la stessa. Consentirlo solo dove la rete è la propria. Il consenso vale finché la telecamera mantiene indirizzo e porta.</numerusform>
+            <numerusform>%n dispositivi accettano la password solo in chiaro. Senza SSL, chi è in ascolto lungo il percorso può leggerla e usarla per tutte le telecamere che hanno la stessa. Consentirlo solo dove la rete è la propria. Il consenso vale finché la telecamera mantiene indirizzo e porta.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Consenti password in chiaro</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Consenti</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>A %n dispositivo può essere inviata la password in chiaro.</numerusform>
+            <numerusform>A %n dispositivi possono essere inviate le password in chiaro.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>Dopo il controllo della telecamera (F5), qui appare la sua immagine.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>La password non può essere letta.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -786,6 +823,14 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>Accepted another device than before as %1.</source>
         <translation>Accettato come %1 un dispositivo diverso da prima.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Password in chiaro consentita</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Consentito l&apos;invio in chiaro della password di %1.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1102,6 +1147,14 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Mostra, aggiunge, modifica e rimuove i nodi di un sistema di videosorveglianza.&lt;/p&gt;&lt;p&gt;Software libero con licenza GNU LGPL 2.1 o successiva.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>Consenti password &amp;in chiaro...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>Alle telecamere che non la accettano altrimenti la password è inviata leggibile da tutti</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1173,6 +1226,32 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Nodes</source>
         <translation>Nodi</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Recupero dell&apos;immagine...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Visto il %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Immagine della telecamera</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Recupero dell&apos;immagine...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Visto il %1</translation>
     </message>
 </context>
 <context>

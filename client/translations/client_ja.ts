@@ -244,6 +244,41 @@ Without --import, --export, --backup and --restore it opens a window, and takes 
         <source>&amp;Check Them</source>
         <translation>確認する(&amp;C)</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>選択したカメラの中に、平文パスワードを要求すると判定されたものはありません。判定は「ネットワーク &gt; カメラの確認」で行います。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n台のデバイスは、パスワードを平文でのみ受け付けます。SSLがない場合、途中で盗聴する者はパスワードを読み取り、同じパスワードのすべてのカメラに使用できます。自社のネットワーク内でのみ許可してください。許可は、カメラのアドレスとポートが変わらない間だけ有効です。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>平文パスワードの許可</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>許可(&amp;A)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>%n台のデバイスへの平文パスワードの送信を許可しました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>カメラを確認すると (F5)、ここに画像が表示されます。</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>パスワードを読み取れません。</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -774,6 +809,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Accepted another device than before as %1.</source>
         <translation>以前と別のデバイスを%1として承認しました。</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>平文パスワードの許可</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>%1のパスワードを平文で送信することを許可しました。</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1087,6 +1130,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;ビデオ監視システムのノードを表示、追加、編集、削除します。&lt;/p&gt;&lt;p&gt;GNU LGPL 2.1以降に基づくフリーソフトウェアです。&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>平文パスワードを許可(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>ほかの方法では受け付けないカメラに、誰でも読める形でパスワードを送信します</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1157,6 +1208,32 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Nodes</source>
         <translation>ノード</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>画像を取得しています...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>%1に取得</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>カメラの画像</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>画像を取得しています...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>%1に取得</translation>
     </message>
 </context>
 <context>

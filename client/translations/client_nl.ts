@@ -246,6 +246,43 @@ Zonder --import, --export, --backup en --restore wordt een venster geopend en ge
         <source>&amp;Check Them</source>
         <translation>&amp;Controleren</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>Geen van de geselecteerde camera&apos;s wil een onversleuteld wachtwoord: Netwerk &gt; Camera&apos;s controleren stelt dat vast.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n apparaat accepteert het wachtwoord alleen onversleuteld. Zonder SSL kan wie onderweg meeluistert het lezen en gebruiken voor alle camera&apos;s met hetzelfde wachtwoord. Sta het alleen toe waar het netwerk van uzelf is. Het geldt zolang de camera zijn adres en poort houdt.</numerusform>
+            <numerusform>%n apparaten accepteren het wachtwoord alleen onversleuteld. Zonder SSL kan wie onderweg meeluistert het lezen en gebruiken voor alle camera&apos;s met hetzelfde wachtwoord. Sta het alleen toe waar het netwerk van uzelf is. Het geldt zolang de camera zijn adres en poort houdt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Onversleutelde wachtwoorden toestaan</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Toestaan</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>Naar %n apparaat mag het wachtwoord onversleuteld worden gestuurd.</numerusform>
+            <numerusform>Naar %n apparaten mogen de wachtwoorden onversleuteld worden gestuurd.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>Zodra de camera is gecontroleerd (F5), staat hier het beeld.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>Het wachtwoord kan niet worden gelezen.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -786,6 +823,14 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>Accepted another device than before as %1.</source>
         <translation>Ander apparaat dan voorheen geaccepteerd als %1.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Onversleuteld wachtwoord toegestaan</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Toegestaan om het wachtwoord van %1 onversleuteld te sturen.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1102,6 +1147,14 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Toont, voegt toe, bewerkt en verwijdert de knooppunten van een videobewakingssysteem.&lt;/p&gt;&lt;p&gt;Vrije software onder de GNU LGPL 2.1 of later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>O&amp;nversleuteld wachtwoord toestaan...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>Camera&apos;s die het niet anders accepteren krijgen het wachtwoord voor iedereen leesbaar toegestuurd</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1173,6 +1226,32 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Nodes</source>
         <translation>Knooppunten</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Het beeld wordt opgehaald...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Gezien op %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Beeld van de camera</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Het beeld wordt opgehaald...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Gezien op %1</translation>
     </message>
 </context>
 <context>

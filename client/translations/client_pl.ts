@@ -248,6 +248,45 @@ Bez --import, --export, --backup i --restore otwiera okno i przyjmuje też opcje
         <source>&amp;Check Them</source>
         <translation>Sp&amp;rawdź</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>Żadna z zaznaczonych kamer nie wymaga jawnego hasła: ustala to Sieć &gt; Sprawdź kamery.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n urządzenie przyjmuje hasło tylko jawnym tekstem. Bez SSL każdy, kto podsłuchuje po drodze, może je odczytać i użyć do wszystkich kamer z tym samym hasłem. Należy na to zezwalać tylko we własnej sieci. Zezwolenie obowiązuje, dopóki kamera zachowuje swój adres i port.</numerusform>
+            <numerusform>%n urządzenia przyjmują hasło tylko jawnym tekstem. Bez SSL każdy, kto podsłuchuje po drodze, może je odczytać i użyć do wszystkich kamer z tym samym hasłem. Należy na to zezwalać tylko we własnej sieci. Zezwolenie obowiązuje, dopóki kamera zachowuje swój adres i port.</numerusform>
+            <numerusform>%n urządzeń przyjmuje hasło tylko jawnym tekstem. Bez SSL każdy, kto podsłuchuje po drodze, może je odczytać i użyć do wszystkich kamer z tym samym hasłem. Należy na to zezwalać tylko we własnej sieci. Zezwolenie obowiązuje, dopóki kamera zachowuje swój adres i port.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Zezwól na jawne hasła</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Zezwól</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>Zezwolono na wysyłanie jawnego hasła do %n urządzenia.</numerusform>
+            <numerusform>Zezwolono na wysyłanie jawnych haseł do %n urządzeń.</numerusform>
+            <numerusform>Zezwolono na wysyłanie jawnych haseł do %n urządzeń.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>Po sprawdzeniu kamery (F5) będzie tu widoczny jej obraz.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>Nie można odczytać hasła.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -798,6 +837,14 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>Accepted another device than before as %1.</source>
         <translation>Jako %1 przyjęto inne urządzenie niż poprzednio.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Zezwolono na jawne hasło</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Zezwolono na wysyłanie hasła %1 jawnym tekstem.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1117,6 +1164,14 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Pokazuje, dodaje, edytuje i usuwa węzły systemu monitoringu wizyjnego.&lt;/p&gt;&lt;p&gt;Wolne oprogramowanie na licencji GNU LGPL 2.1 lub nowszej.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>Zezwól na &amp;jawne hasło...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>Kamerom, które nie przyjmują go inaczej, hasło jest wysyłane w postaci czytelnej dla wszystkich</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1189,6 +1244,32 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Nodes</source>
         <translation>Węzły</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Pobieranie obrazu...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Widziane %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Obraz z kamery</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Pobieranie obrazu...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Widziane %1</translation>
     </message>
 </context>
 <context>

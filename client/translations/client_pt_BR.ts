@@ -246,6 +246,43 @@ Sem --import, --export, --backup e --restore, abre uma janela e aceita também a
         <source>&amp;Check Them</source>
         <translation>&amp;Verificar</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>Nenhuma das câmeras selecionadas pede a senha sem criptografia: isso é determinado por Rede &gt; Verificar câmeras.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n dispositivo só aceita a senha sem criptografia. Sem SSL, quem escutar no caminho pode lê-la e usá-la em todas as câmeras que tenham a mesma. Permita isso somente onde a rede for sua. A permissão vale enquanto a câmera mantiver o endereço e a porta.</numerusform>
+            <numerusform>%n dispositivos só aceitam a senha sem criptografia. Sem SSL, quem escutar no caminho pode lê-la e usá-la em todas as câmeras que tenham a mesma. Permita isso somente onde a rede for sua. A permissão vale enquanto a câmera mantiver o endereço e a porta.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Permitir senhas sem criptografia</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Permitir</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>A senha pode ser enviada sem criptografia a %n dispositivo.</numerusform>
+            <numerusform>As senhas podem ser enviadas sem criptografia a %n dispositivos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>Depois que a câmera for verificada (F5), a imagem dela aparecerá aqui.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>A senha não pode ser lida.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -786,6 +823,14 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>Accepted another device than before as %1.</source>
         <translation>Outro dispositivo que não o anterior aceito como %1.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Senha sem criptografia permitida</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Permitido enviar a senha de %1 sem criptografia.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1102,6 +1147,14 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Mostra, adiciona, edita e remove os nós de um sistema de videomonitoramento.&lt;/p&gt;&lt;p&gt;Software livre sob a GNU LGPL 2.1 ou posterior.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>Permitir &amp;senha sem criptografia...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>As câmeras que não a aceitam de outro modo recebem a senha legível por todos</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1173,6 +1226,32 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Nodes</source>
         <translation>Nós</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Obtendo a imagem...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Visto em %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Imagem da câmera</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Obtendo a imagem...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Visto em %1</translation>
     </message>
 </context>
 <context>

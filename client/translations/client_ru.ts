@@ -248,6 +248,45 @@ Without --import, --export, --backup and --restore it opens a window, and takes 
         <source>&amp;Check Them</source>
         <translation>Провер&amp;ить</translation>
     </message>
+    <message>
+        <source>None of the selected cameras was found to want a clear password: Network &gt; Check Cameras looks for that.</source>
+        <translation>Ни одна из выбранных камер не требует открытый пароль: это выясняет Сеть &gt; Проверить камеры.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can read it, and use it for all cameras that have the same. Allow it only where the network is your own. It holds as long as the camera keeps its address and port.</source>
+        <translation>
+            <numerusform>%n устройство принимает пароль только в открытом виде. Без SSL его может прочитать любой, кто слушает по пути, и использовать для всех камер с таким же паролем. Разрешайте это только там, где сеть ваша собственная. Разрешение действует, пока у камеры те же адрес и порт.</numerusform>
+            <numerusform>%n устройства принимают пароль только в открытом виде. Без SSL его может прочитать любой, кто слушает по пути, и использовать для всех камер с таким же паролем. Разрешайте это только там, где сеть ваша собственная. Разрешение действует, пока у камеры те же адрес и порт.</numerusform>
+            <numerusform>%n устройств принимают пароль только в открытом виде. Без SSL его может прочитать любой, кто слушает по пути, и использовать для всех камер с таким же паролем. Разрешайте это только там, где сеть ваша собственная. Разрешение действует, пока у камеры те же адрес и порт.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Allow Clear Passwords</source>
+        <translation>Разрешить открытые пароли</translation>
+    </message>
+    <message>
+        <source>&amp;Allow</source>
+        <translation>&amp;Разрешить</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) may be sent their passwords in the clear.</source>
+        <translation>
+            <numerusform>Разрешено отправлять пароль в открытом виде %n устройству.</numerusform>
+            <numerusform>Разрешено отправлять пароли в открытом виде %n устройствам.</numerusform>
+            <numerusform>Разрешено отправлять пароли в открытом виде %n устройствам.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>CameraPictures</name>
+    <message>
+        <source>Once the camera was checked (F5), its picture is here.</source>
+        <translation>После проверки камеры (F5) здесь будет её изображение.</translation>
+    </message>
+    <message>
+        <source>Its password cannot be read.</source>
+        <translation>Не удаётся прочитать пароль.</translation>
+    </message>
 </context>
 <context>
     <name>CameraStates</name>
@@ -798,6 +837,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Accepted another device than before as %1.</source>
         <translation>Принято другое устройство, чем прежде, как %1.</translation>
     </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Разрешён открытый пароль</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Разрешено отправлять пароль %1 в открытом виде.</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1117,6 +1164,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Shows, adds, edits and removes the nodes of a video-surveillance system.&lt;/p&gt;&lt;p&gt;Free software under the GNU LGPL 2.1 or later.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</source>
         <translation>&lt;h3&gt;%1 %2&lt;/h3&gt;&lt;p&gt;Показывает, добавляет, изменяет и удаляет узлы системы видеонаблюдения.&lt;/p&gt;&lt;p&gt;Свободное ПО на условиях GNU LGPL 2.1 или новее.&lt;/p&gt;&lt;p&gt;Qt %3&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>A&amp;llow Clear Password...</source>
+        <translation>Разрешить &amp;открытый пароль...</translation>
+    </message>
+    <message>
+        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <translation>Камерам, которые не принимают его иначе, пароль отправляется в виде, доступном всем</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1189,6 +1244,32 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Nodes</source>
         <translation>Узлы</translation>
+    </message>
+</context>
+<context>
+    <name>PictureTip</name>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Получение изображения...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Снимок от %1</translation>
+    </message>
+</context>
+<context>
+    <name>PictureView</name>
+    <message>
+        <source>Picture of the camera</source>
+        <translation>Изображение с камеры</translation>
+    </message>
+    <message>
+        <source>Fetching the picture...</source>
+        <translation>Получение изображения...</translation>
+    </message>
+    <message>
+        <source>Seen %1</source>
+        <translation>Снимок от %1</translation>
     </message>
 </context>
 <context>

@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>sériové číslo</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>neuvádí žádné obrazy tohoto kanálu</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,70 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Importována zařízení z %1: přidáno %2, změněno %3, odmítnuto řádků %4.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Změněno bez dialogového okna</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Přidáno programem</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Odebráno programem</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Nastavení změněna</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Globální proxy změněna</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Prostředí změněna</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Nalezeno hledáním</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Přijaty nové adresy</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Zaznamenány rozpoznávací znaky kamer</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Doplněny údaje od kamer</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Importován seznam</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Vytvořena databáze</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Obnovena záloha</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Změněno novější verzí</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 a ještě %n</numerusform>
+            <numerusform>%1 a ještě %n</numerusform>
+            <numerusform>%1 a ještě %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +578,41 @@
     <message>
         <source>Pages</source>
         <translation>Stránky</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>neuvádí žádnou adresu obrazu</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>adresa obrazu obsahuje otevřené heslo</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>to, co odesílá, není obraz</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>odmítá poskytnout obraz</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>požaduje heslo a žádné není uloženo</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>jeho obrazy mají jinou oblast ověření než zařízení</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>požaduje heslo neznámým způsobem</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>požaduje heslo v otevřené podobě</translation>
     </message>
 </context>
 <context>

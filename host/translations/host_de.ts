@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>Seriennummer</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>das Gerät nennt keine Bilder dieses Kanals</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,69 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Geräte aus %1 importiert: %2 hinzugefügt, %3 geändert, %4 Zeilen abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Ohne Dialog geändert</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Vom Programm hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Vom Programm entfernt</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Einstellungen geändert</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Globalen Proxy geändert</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Umgebungen geändert</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Von einer Suche gefunden</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Neue Adressen übernommen</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Erkennungsmerkmale von Kameras vermerkt</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Angaben von Kameras eingetragen</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Liste importiert</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Datenbank angelegt</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Sicherung wiederhergestellt</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Von einer neueren Version geändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 und ein weiterer</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +577,41 @@
     <message>
         <source>Pages</source>
         <translation>Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>das Gerät nennt keine Adresse eines Bildes</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>die Adresse des Bildes enthält ein Klartextpasswort</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>was das Gerät sendet, ist kein Bild</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>das Gerät verweigert das Bild</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>das Gerät verlangt ein Passwort, aber es ist keines gespeichert</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>die Bilder haben einen anderen Anmeldebereich als das Gerät</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>das Gerät verlangt das Passwort in unbekannter Form</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>das Gerät verlangt das Passwort im Klartext</translation>
     </message>
 </context>
 <context>

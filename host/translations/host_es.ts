@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>número de serie</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>no indica imágenes de este canal</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,69 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Dispositivos importados de %1: %2 añadidos, %3 modificados, %4 líneas rechazadas.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Cambiado sin cuadro de diálogo</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Añadido por el programa</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Eliminado por el programa</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Configuración cambiada</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Proxy global cambiado</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Entornos cambiados</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Encontrado por una búsqueda</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Direcciones nuevas aceptadas</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Anotado cómo se reconocen las cámaras</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Rellenado lo que dijeron las cámaras</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Lista importada</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Base de datos creada</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Copia de seguridad restaurada</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Cambiado por una versión más reciente</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 y otro más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +577,41 @@
     <message>
         <source>Pages</source>
         <translation>Páginas</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>no indica la dirección de ninguna imagen</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>la dirección de su imagen contiene una contraseña sin cifrar</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>lo que envía no es una imagen</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>deniega la imagen</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>pide una contraseña y no hay ninguna guardada</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>sus imágenes tienen otro dominio de autenticación que el dispositivo</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>pide la contraseña de una forma desconocida</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>pide la contraseña sin cifrar</translation>
     </message>
 </context>
 <context>

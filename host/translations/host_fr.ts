@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>numéro de série</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>l&apos;appareil n&apos;indique aucune image de ce canal</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,69 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Appareils importés de %1 : %2 ajoutés, %3 modifiés, %4 lignes refusées.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Modifié sans boîte de dialogue</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Ajouté par le programme</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Supprimé par le programme</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Paramètres modifiés</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Proxy global modifié</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Environnements modifiés</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Trouvé par une recherche</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Nouvelles adresses acceptées</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Signes distinctifs de caméras notés</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Rempli avec les indications des caméras</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Liste importée</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Base de données créée</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Sauvegarde restaurée</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Modifié par une version plus récente</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 et un autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +577,41 @@
     <message>
         <source>Pages</source>
         <translation>Pages</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>l&apos;appareil n&apos;indique aucune adresse d&apos;image</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>l&apos;adresse de l&apos;image contient un mot de passe en clair</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>ce que l&apos;appareil envoie n&apos;est pas une image</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>l&apos;appareil refuse l&apos;image</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>l&apos;appareil demande un mot de passe et aucun n&apos;est enregistré</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>ses images ont un autre domaine d&apos;authentification que l&apos;appareil</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>l&apos;appareil demande le mot de passe d&apos;une façon inconnue</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>l&apos;appareil demande le mot de passe en clair</translation>
     </message>
 </context>
 <context>

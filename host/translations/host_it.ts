@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>numero di serie</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>non indica immagini di questo canale</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,69 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Dispositivi importati da %1: %2 aggiunti, %3 modificati, %4 righe rifiutate.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Modificato senza finestra di dialogo</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Aggiunto dal programma</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Rimosso dal programma</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Impostazioni modificate</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Proxy globale modificato</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Ambienti modificati</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Trovato da una ricerca</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Nuovi indirizzi accettati</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Annotato da cosa si riconoscono le telecamere</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Compilato con i dati delle telecamere</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Elenco importato</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Database creato</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Backup ripristinato</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Modificato da una versione più recente</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 e un altro</numerusform>
+            <numerusform>%1 e altri %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +577,41 @@
     <message>
         <source>Pages</source>
         <translation>Pagine</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>non indica alcun indirizzo di un&apos;immagine</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>l&apos;indirizzo della sua immagine contiene una password in chiaro</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>ciò che invia non è un&apos;immagine</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>rifiuta l&apos;immagine</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>chiede una password e nessuna è salvata</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>le sue immagini hanno un&apos;area di autenticazione diversa da quella del dispositivo</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>chiede la password in un modo sconosciuto</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>chiede la password in chiaro</translation>
     </message>
 </context>
 <context>

@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>シリアル番号</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>このチャンネルの画像を通知していません</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,68 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>%1からデバイスをインポートしました: 追加%2、変更%3、拒否された行%4</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>ダイアログなしの変更</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>プログラムによる追加</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>プログラムによる削除</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>設定の変更</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>グローバルプロキシの変更</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>環境の変更</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>スキャンによる検出</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>新しいアドレスの承認</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>カメラの識別情報の記録</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>カメラから得た情報の自動入力</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>一覧のインポート</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>データベースの作成</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>バックアップの復元</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>新しいバージョンによる変更</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1と他%n件</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +576,41 @@
     <message>
         <source>Pages</source>
         <translation>ページ</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>画像のアドレスを通知していません</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>画像のアドレスに平文パスワードが含まれています</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>送信されたデータは画像ではありません</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>画像の送信を拒否しています</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>パスワードを要求していますが、保存されていません</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>画像の認証領域 (realm) がデバイスと異なります</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>不明な方法でパスワードを要求しています</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>平文のパスワードを要求しています</translation>
     </message>
 </context>
 <context>

@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>serienummer</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>het noemt geen beelden van dit kanaal</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,69 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Apparaten geïmporteerd uit %1: %2 toegevoegd, %3 gewijzigd, %4 regels geweigerd.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Gewijzigd zonder dialoogvenster</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Toegevoegd door het programma</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Verwijderd door het programma</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Instellingen gewijzigd</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Globale proxy gewijzigd</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Omgevingen gewijzigd</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Gevonden door een scan</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Nieuwe adressen geaccepteerd</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Vastgelegd waaraan camera&apos;s te herkennen zijn</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Gegevens van camera&apos;s ingevuld</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Lijst geïmporteerd</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Database aangemaakt</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Reservekopie teruggezet</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Gewijzigd door een nieuwere versie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 en nog een</numerusform>
+            <numerusform>%1 en nog %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +577,41 @@
     <message>
         <source>Pages</source>
         <translation>Pagina&apos;s</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>het noemt geen adres van een beeld</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>het adres van het beeld bevat een onversleuteld wachtwoord</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>wat het stuurt is geen beeld</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>het weigert het beeld</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>het vraagt om een wachtwoord en er is er geen opgeslagen</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>de beelden hebben een ander authenticatiedomein dan het apparaat</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>het vraagt op een onbekende manier om het wachtwoord</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>het vraagt om een onversleuteld wachtwoord</translation>
     </message>
 </context>
 <context>

@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>numer seryjny</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>urządzenie nie podaje obrazów tego kanału</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,70 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Zaimportowano urządzenia z %1: dodano %2, zmieniono %3, odrzucono wierszy: %4.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Zmieniono bez okna dialogowego</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Dodane przez program</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Usunięte przez program</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Zmieniono ustawienia</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Zmieniono globalne proxy</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Zmieniono środowiska</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Znalezione przez skanowanie</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Przyjęto nowe adresy</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Zapisano cechy rozpoznawcze kamer</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Wpisano dane podane przez kamery</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Zaimportowano listę</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Utworzono bazę danych</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Przywrócono kopię zapasową</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Zmieniono w nowszej wersji programu</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 i jeszcze %n</numerusform>
+            <numerusform>%1 i jeszcze %n</numerusform>
+            <numerusform>%1 i jeszcze %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +578,41 @@
     <message>
         <source>Pages</source>
         <translation>Strony</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>urządzenie nie podaje adresu obrazu</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>adres obrazu zawiera jawne hasło</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>to, co wysyła urządzenie, nie jest obrazem</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>urządzenie odmawia przesłania obrazu</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>urządzenie wymaga hasła, a żadne nie jest zapisane</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>obrazy mają inny obszar uwierzytelniania niż urządzenie</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>urządzenie wymaga hasła w nieznany sposób</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>urządzenie wymaga hasła jawnym tekstem</translation>
     </message>
 </context>
 <context>

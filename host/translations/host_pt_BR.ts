@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>número de série</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>não indica imagens deste canal</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,69 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Dispositivos importados de %1: %2 adicionados, %3 alterados, %4 linhas recusadas.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Alterado sem caixa de diálogo</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Adicionado pelo programa</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Removido pelo programa</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Configurações alteradas</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Proxy global alterado</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Ambientes alterados</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Encontrado por uma busca</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Novos endereços aceitos</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Anotado como as câmeras são reconhecidas</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Preenchido o que as câmeras informaram</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Lista importada</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Banco de dados criado</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Backup restaurado</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Alterado por uma versão mais recente</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 e mais um</numerusform>
+            <numerusform>%1 e mais %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +577,41 @@
     <message>
         <source>Pages</source>
         <translation>Páginas</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>não indica o endereço de nenhuma imagem</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>o endereço da imagem contém uma senha sem criptografia</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>o que ele envia não é uma imagem</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>recusa a imagem</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>pede uma senha e nenhuma está armazenada</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>suas imagens têm outro domínio de autenticação que não o do dispositivo</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>pede a senha de uma forma desconhecida</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>pede a senha sem criptografia</translation>
     </message>
 </context>
 <context>

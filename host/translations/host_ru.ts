@@ -283,6 +283,10 @@
         <source>serial number</source>
         <translation>серийный номер</translation>
     </message>
+    <message>
+        <source>it tells of no pictures of this channel</source>
+        <translation>не сообщает об изображениях этого канала</translation>
+    </message>
 </context>
 <context>
     <name>DeviceChecks</name>
@@ -360,6 +364,70 @@
     <message>
         <source>Imported devices from %1: %2 added, %3 changed, %4 lines refused.</source>
         <translation>Импортированы устройства из %1: добавлено %2, изменено %3, отклонено строк: %4.</translation>
+    </message>
+    <message>
+        <source>Changed without a dialog</source>
+        <translation>Изменено без диалога</translation>
+    </message>
+    <message>
+        <source>Added by the program</source>
+        <translation>Добавлено программой</translation>
+    </message>
+    <message>
+        <source>Removed by the program</source>
+        <translation>Удалено программой</translation>
+    </message>
+    <message>
+        <source>Changed settings</source>
+        <translation>Изменены настройки</translation>
+    </message>
+    <message>
+        <source>Changed the global proxy</source>
+        <translation>Изменён общий прокси</translation>
+    </message>
+    <message>
+        <source>Changed environments</source>
+        <translation>Изменены среды</translation>
+    </message>
+    <message>
+        <source>Found by a scan</source>
+        <translation>Найдено поиском</translation>
+    </message>
+    <message>
+        <source>Accepted new addresses</source>
+        <translation>Приняты новые адреса</translation>
+    </message>
+    <message>
+        <source>Noted what cameras are known by</source>
+        <translation>Записаны признаки камер</translation>
+    </message>
+    <message>
+        <source>Filled in what cameras said</source>
+        <translation>Внесены данные, полученные от камер</translation>
+    </message>
+    <message>
+        <source>Imported a list</source>
+        <translation>Импортирован список</translation>
+    </message>
+    <message>
+        <source>Made the database</source>
+        <translation>Создана база данных</translation>
+    </message>
+    <message>
+        <source>Restored a backup</source>
+        <translation>Восстановлена резервная копия</translation>
+    </message>
+    <message>
+        <source>Changed by a newer version</source>
+        <translation>Изменено более новой версией</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 и ещё %n</numerusform>
+            <numerusform>%1 и ещё %n</numerusform>
+            <numerusform>%1 и ещё %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -510,6 +578,41 @@
     <message>
         <source>Pages</source>
         <translation>Страницы</translation>
+    </message>
+</context>
+<context>
+    <name>PictureFetch</name>
+    <message>
+        <source>it tells no address of a picture</source>
+        <translation>не сообщает адрес изображения</translation>
+    </message>
+    <message>
+        <source>the address of its picture holds a password in the clear</source>
+        <translation>адрес изображения содержит открытый пароль</translation>
+    </message>
+    <message>
+        <source>what it sends is no picture</source>
+        <translation>то, что оно отправляет, не является изображением</translation>
+    </message>
+    <message>
+        <source>it refuses the picture</source>
+        <translation>отказывает в изображении</translation>
+    </message>
+    <message>
+        <source>it asks for a password, and none is stored</source>
+        <translation>требует пароль, а он не сохранён</translation>
+    </message>
+    <message>
+        <source>its pictures have another realm than the device</source>
+        <translation>у изображений другая область авторизации, чем у устройства</translation>
+    </message>
+    <message>
+        <source>it asks for the password in an unknown way</source>
+        <translation>требует пароль неизвестным способом</translation>
+    </message>
+    <message>
+        <source>it asks for the password in the clear</source>
+        <translation>требует пароль в открытом виде</translation>
     </message>
 </context>
 <context>
