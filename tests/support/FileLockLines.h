@@ -1,6 +1,7 @@
 #ifndef TESTS_SUPPORT_FILELOCKLINES_H
 #define TESTS_SUPPORT_FILELOCKLINES_H
 
+#include <QDir>
 #include <QFile>
 #include <QStringList>
 
@@ -8,7 +9,10 @@
 
 namespace testsupport {
 
-inline QStringList lockLinesOnce(const QString& database)
+/// The locks that this process has on a database and on what SQLite keeps beside it: kind of access, file and
+/// bytes, in order. As the system tells them of each descriptor, without opening the files: its list of all
+/// locks comes in pieces, and lacks lines where other processes lock and unlock meanwhile.
+inline QStringList lockLines(const QString& database)
 {
     QStringList inodes;
     for (const char* end : {"", "-wal", "-shm"}) {
@@ -16,35 +20,23 @@ inline QStringList lockLinesOnce(const QString& database)
         if (::stat(QFile::encodeName(database + QLatin1String(end)).constData(), &info) == 0)
             inodes.append(QString::number(info.st_ino));
     }
-    QFile locks(QLatin1String("/proc/locks"));
-    if (!locks.open(QIODevice::ReadOnly))
-        qFatal("the locks cannot be read");
     QStringList found;
-    const QStringList lines = QString::fromLatin1(locks.readAll()).split(QLatin1Char('\n'));
-    for (const QString& line : lines) {
-        // 1: POSIX  ADVISORY  READ 4711 00:2f:123456 1073741826 1073742335
-        const QStringList words = line.simplified().split(QLatin1Char(' '));
-        if (words.size() >= 8 && inodes.contains(words.at(5).section(QLatin1Char(':'), -1)))
-            found.append(words.at(3) + QLatin1Char(' ') +
-                         QStringList(words.mid(5, 3)).join(QLatin1Char(' ')));
+    const QFileInfoList descriptors = QDir(QLatin1String("/proc/self/fdinfo")).entryInfoList(QDir::Files);
+    for (const QFileInfo& descriptor : descriptors) {
+        QFile info(descriptor.filePath());
+        if (!info.open(QIODevice::ReadOnly))
+            continue; // the one by which the folder was read
+        const QStringList lines = QString::fromLatin1(info.readAll()).split(QLatin1Char('\n'));
+        for (const QString& line : lines) {
+            // lock: 1: OFDLCK ADVISORY READ -1 00:2f:123456 1073741826 1073742335
+            const QStringList words = line.simplified().split(QLatin1Char(' '));
+            if (words.value(0) == QLatin1String("lock:") &&
+                inodes.contains(words.value(6).section(QLatin1Char(':'), -1)))
+                found.append(words.mid(4).join(QLatin1Char(' ')));
+        }
     }
     found.sort();
     return found;
-}
-
-/// The locks that any process has on a database and on what SQLite keeps beside it: kind of access, file and
-/// bytes, in order. From the system, without opening the files.
-inline QStringList lockLines(const QString& database)
-{
-    // The system gives its list in pieces, between which other processes lock and unlock: lines may be
-    // missing.
-    QStringList before;
-    QStringList lines = lockLinesOnce(database);
-    for (int times = 0; times < 10 && lines != before; ++times) {
-        before = lines;
-        lines = lockLinesOnce(database);
-    }
-    return lines;
 }
 
 } // namespace testsupport
