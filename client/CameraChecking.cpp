@@ -206,69 +206,69 @@ CameraCheck::States CameraChecking::selectedIn(DeviceReport::State wanted) const
     return found;
 }
 
-/// Whether the user agrees; Return does not.
-bool CameraChecking::confirm(const char* name, const QString& title, const QString& text,
-                             const QString& button, const CameraCheck::States& cameras)
+/// What was seen when the user was asked becomes the known device, not what may answer there now.
+void CameraChecking::acceptDevices()
 {
-    PlainMessageBox box(QMessageBox::Warning, title,
-                        text + QStringLiteral("\n\n") + listOfNames(names(cameras)), QMessageBox::Cancel,
-                        &m_window);
-    box.setObjectName(QLatin1String(name));
-    const QPushButton* go = box.addButton(button, QMessageBox::DestructiveRole);
+    decide(
+        {DeviceReport::OtherDevice,
+         QT_TR_NOOP("None of the selected cameras was found to be another device: Network > Check Cameras "
+                    "looks for that."),
+         "acceptDevicesBox", QT_TR_NOOP("Accept Other Devices"),
+         QT_TR_N_NOOP("%n device(s) answered that are not the ones known so far. Accept them only if you "
+                      "know why, as after an exchange or a new certificate: from the next check on they are "
+                      "sent what is stored as user name and password."),
+         QT_TR_NOOP("&Accept"),
+         [](Node& node, const CameraState& other) { KnownDevice::replace(node, other.seen); },
+         NodeLogEntry::DeviceAccepted, QT_TR_N_NOOP("%n device(s) accepted.")});
+}
+
+void CameraChecking::allowClearPasswords()
+{
+    decide(
+        {DeviceReport::ClearPassword,
+         QT_TR_NOOP("None of the selected cameras was found to want a clear password: Network > Check "
+                    "Cameras looks for that."),
+         "clearPasswordsBox", QT_TR_NOOP("Allow Clear Passwords"),
+         QT_TR_N_NOOP("%n device(s) take the password only in the clear. Without SSL, whoever listens on "
+                      "the way can read it, and use it for all cameras that have the same. Allow it only "
+                      "where the network is your own. It holds as long as the camera keeps its address and "
+                      "port."),
+         QT_TR_NOOP("&Allow"),
+         [](Node& node, const CameraState&) {
+             if (auto* device = dynamic_cast<IPDeviceNode*>(&node))
+                 ClearPassword::allow(*device);
+         },
+         NodeLogEntry::ClearPasswordAllowed,
+         QT_TR_N_NOOP("%n device(s) may be sent their passwords in the clear.")});
+}
+
+void CameraChecking::decide(const Decision& decision)
+{
+    const CameraCheck::States cameras = selectedIn(decision.state);
+    if (cameras.isEmpty()) {
+        m_window.say(tr(decision.none));
+        return;
+    }
+    if (confirm(decision, cameras))
+        change(decision, cameras);
+}
+
+/// Whether the user agrees; Return does not.
+bool CameraChecking::confirm(const Decision& decision, const CameraCheck::States& cameras)
+{
+    PlainMessageBox box(QMessageBox::Warning, tr(decision.title),
+                        tr(decision.question, nullptr, int(cameras.size())) + QStringLiteral("\n\n") +
+                            listOfNames(names(cameras)),
+                        QMessageBox::Cancel, &m_window);
+    box.setObjectName(QLatin1String(decision.box));
+    const QPushButton* go = box.addButton(tr(decision.button), QMessageBox::DestructiveRole);
     box.setDefaultButton(QMessageBox::Cancel);
     box.setEscapeButton(QMessageBox::Cancel);
     box.exec();
     return box.clickedButton() == static_cast<const QAbstractButton*>(go);
 }
 
-/// What was seen when the user was asked becomes the known device, not what may answer there now.
-void CameraChecking::acceptDevices()
-{
-    const CameraCheck::States others = selectedIn(DeviceReport::OtherDevice);
-    if (others.isEmpty()) {
-        m_window.say(tr("None of the selected cameras was found to be another device: Network > Check "
-                        "Cameras looks for that."));
-        return;
-    }
-    const QString text =
-        tr("%n device(s) answered that are not the ones known so far. Accept them only if you know why, as "
-           "after an exchange or a new certificate: from the next check on they are sent what is stored as "
-           "user name and password.",
-           nullptr, int(others.size()));
-    if (!confirm("acceptDevicesBox", tr("Accept Other Devices"), text, tr("&Accept"), others))
-        return;
-    change(others,
-           {[](Node& node, const CameraState& other) { KnownDevice::replace(node, other.seen); },
-            [this](const QString& name) { m_window.database().auditLog().log(NodeAcceptLogEntry(name)); },
-            QT_TR_N_NOOP("%n device(s) accepted.")});
-}
-
-void CameraChecking::allowClearPasswords()
-{
-    const CameraCheck::States cameras = selectedIn(DeviceReport::ClearPassword);
-    if (cameras.isEmpty()) {
-        m_window.say(tr("None of the selected cameras was found to want a clear password: Network > Check "
-                        "Cameras looks for that."));
-        return;
-    }
-    const QString text =
-        tr("%n device(s) take the password only in the clear. Without SSL, whoever listens on the way can "
-           "read it, and use it for all cameras that have the same. Allow it only where the network is your "
-           "own. It holds as long as the camera keeps its address and port.",
-           nullptr, int(cameras.size()));
-    if (!confirm("clearPasswordsBox", tr("Allow Clear Passwords"), text, tr("&Allow"), cameras))
-        return;
-    change(cameras, {[](Node& node, const CameraState&) {
-                         if (auto* device = dynamic_cast<IPDeviceNode*>(&node))
-                             ClearPassword::allow(*device);
-                     },
-                     [this](const QString& name) {
-                         m_window.database().auditLog().log(NodeClearPasswordLogEntry(name));
-                     },
-                     QT_TR_N_NOOP("%n device(s) may be sent their passwords in the clear.")});
-}
-
-void CameraChecking::change(const CameraCheck::States& cameras, const Change& change)
+void CameraChecking::change(const Decision& decision, const CameraCheck::States& cameras)
 {
     HostNodeDB& db = m_window.database();
     const ChangeScope scope(db, Cause::now(Purpose::Check));
@@ -278,14 +278,14 @@ void CameraChecking::change(const CameraCheck::States& cameras, const Change& ch
         Node* node = db.beginUpdateNode(camera.key(), -1);
         if (!node)
             continue; // removed meanwhile
-        change.make(*node, camera.value());
+        decision.make(*node, camera.value());
         db.endUpdateNode(node);
-        change.log(db.summary(camera.key()).name);
+        db.auditLog().log(NodeLogEntry(decision.entry, db.summary(camera.key()).name));
         changed.append(camera.key());
         states.insert(camera.key(), CameraState());
     }
     m_model.setStates(states);
-    offer({tr(change.done, nullptr, int(changed.size())), tr("&Check Them"),
+    offer({tr(decision.done, nullptr, int(changed.size())), tr("&Check Them"),
            [this, changed] { start(changed, false); }});
 }
 

@@ -3,6 +3,7 @@
 
 #include "CameraCheck.h"
 #include "CameraPictures.h"
+#include "NodeLogEntries.h"
 #include "exchange/CameraSurvey.h"
 #include "ko/TrContext.h"
 
@@ -61,18 +62,25 @@ private:
     void offer(const Offer& offer);
     void takeOffer();
     void finish();
-    /// What is done with each of some nodes, in one change set, and said when it is done.
-    struct Change
+
+    /// What only the user can decide of the selected cameras that a check found so. All texts are for tr().
+    struct Decision
     {
-        std::function<void(Node& node, const CameraState& state)> make;
-        std::function<void(const QString& name)> log;
+        DeviceReport::State state;
+        const char* none; ///< of the selected cameras was found so
+        const char* box;
+        const char* title;
+        const char* question; ///< with the number of devices
+        const char* button;
+        void (*make)(Node& node, const CameraState& state);
+        NodeLogEntry::Kind entry;
         const char* done; ///< with the number of devices
     };
 
+    void decide(const Decision& decision);
     CameraCheck::States selectedIn(DeviceReport::State state) const;
-    bool confirm(const char* name, const QString& title, const QString& text, const QString& button,
-                 const CameraCheck::States& cameras);
-    void change(const CameraCheck::States& cameras, const Change& change);
+    bool confirm(const Decision& decision, const CameraCheck::States& cameras);
+    void change(const Decision& decision, const CameraCheck::States& cameras);
     QStringList names(const CameraCheck::States& others) const;
     QString outcome() const;
     void showReport(bool isWanted);

@@ -58,7 +58,7 @@ void runAddDialog(MainWindow& window, AddNodeDialog& dialog)
     const kom::smart<const Node> node = window.database().node(dialog.nodeId());
     if (node.null())
         return;
-    window.database().auditLog().log(NodeAddLogEntry(node->name()));
+    window.database().auditLog().log(NodeLogEntry(NodeLogEntry::Added, node->name()));
     window.applyChanges();
     window.list().selectNode(dialog.nodeId());
 }
@@ -140,7 +140,7 @@ void remove(MainWindow& window)
         if (db.summary(ids.at(i)).id.isEmpty())
             continue; // removed by somebody else while we asked
         db.removeNode(ids.at(i));
-        db.auditLog().log(NodeRemoveLogEntry(names.at(i)));
+        db.auditLog().log(NodeLogEntry(NodeLogEntry::Removed, names.at(i)));
     }
 }
 

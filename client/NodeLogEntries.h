@@ -9,53 +9,23 @@ namespace ko {
 class NodeLogEntry : public LogEntry
 {
 public:
-    LogCategory category() const override { return LogCategoryDevices; }
+    enum Kind {
+        Added,                ///< "NAdd"
+        Removed,              ///< "NRem"
+        DeviceAccepted,       ///< "NAcc": another device than before
+        ClearPasswordAllowed, ///< "NClr"
+    };
 
-protected:
-    explicit NodeLogEntry(const QString& name);
+    NodeLogEntry(Kind kind, const QString& name);
+
+    LogCategory category() const override { return LogCategoryDevices; }
+    FourChars typeCode() const override;
+    QString description() const override;
+    QString title() const override;
 
 private:
+    const Kind m_kind;
     TLogValue<QString> m_name;
-};
-
-class NodeAddLogEntry : public NodeLogEntry
-{
-public:
-    explicit NodeAddLogEntry(const QString& name);
-
-    FourChars typeCode() const override;
-    QString description() const override;
-    QString title() const override;
-};
-
-class NodeRemoveLogEntry : public NodeLogEntry
-{
-public:
-    explicit NodeRemoveLogEntry(const QString& name);
-
-    FourChars typeCode() const override;
-    QString description() const override;
-    QString title() const override;
-};
-
-class NodeAcceptLogEntry : public NodeLogEntry
-{
-public:
-    explicit NodeAcceptLogEntry(const QString& name);
-
-    FourChars typeCode() const override;
-    QString description() const override;
-    QString title() const override;
-};
-
-class NodeClearPasswordLogEntry : public NodeLogEntry
-{
-public:
-    explicit NodeClearPasswordLogEntry(const QString& name);
-
-    FourChars typeCode() const override;
-    QString description() const override;
-    QString title() const override;
 };
 
 /// Lets stored entries be read back. To be called before the audit log is shown; again does no harm.

@@ -211,7 +211,7 @@ void tst_Keyboard::initTestCase()
     Scanners::of(*db).intake().take({moved});
     KO_TRY_COMPARE(int(Scanners::of(*db).intake().addressChanges().size()), 1);
     for (int i = 0; i < 5; ++i)
-        db->auditLog().log(NodeAddLogEntry(QString("Entry %1").arg(i)));
+        db->auditLog().log(NodeLogEntry(NodeLogEntry::Added, QString("Entry %1").arg(i)));
 }
 
 std::unique_ptr<EditNodeDialog> tst_Keyboard::editor(const QString& id, bool readOnly) const

@@ -336,7 +336,7 @@ void tst_Languages::contextsOfTables()
 void tst_Languages::contextsOfLogEntries()
 {
     const OneContext language("LogEntry");
-    QCOMPARE(NodeAddLogEntry("1").title(), QString("t:Added device"));
+    QCOMPARE(NodeLogEntry(NodeLogEntry::Added, "1").title(), QString("t:Added device"));
     QCOMPARE(ImportLogEntry("1", 2, 3, 4).title(), QString("t:Imported devices"));
     QCOMPARE(ImportLogEntry("1", 2, 3, 4).text(),
              QString("t:Imported devices from 1: 2 added, 3 changed, 4 lines refused."));
