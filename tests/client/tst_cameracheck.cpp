@@ -7,11 +7,10 @@
 #include "devices/KnownDevice.h"
 #include "support/Answers.h"
 #include "support/DialogCheck.h"
-#include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/Patience.h"
 #include "support/ProcessResources.h"
-#include "support/SimulatedSite.h"
+#include "support/SiteCameras.h"
 #include "support/TestMain.h"
 
 #include <QAction>
@@ -152,7 +151,11 @@ private slots:
     void lineHasRoomBesideBusyScanners();
 
 private:
-    QStringList addCameras(const SimulatedSite& site, int count);
+    QStringList addCameras(const SimulatedSite& site, int count)
+    {
+        return testsupport::addCameras(*m_host, site, count);
+    }
+    QString refusedQuestion(const char* name);
     QString addHeld(const HeldDevice& device);
     void open();
     void check(const QStringList& ids = QStringList());
@@ -182,22 +185,15 @@ void tst_CameraCheck::cleanup()
     m_host.reset();
 }
 
-QStringList tst_CameraCheck::addCameras(const SimulatedSite& site, int count)
+QString tst_CameraCheck::refusedQuestion(const char* name)
 {
-    QStringList ids;
-    for (int camera = 1; camera <= count; ++camera) {
-        const DeviceTarget target = site.target(camera);
-        const kom::smart<NodeHint> hint = NodeTypes::driver(IPDeviceType)->createNodeHint(IPDeviceType);
-        auto& device = dynamic_cast<NodeHintIPDevice&>(*hint);
-        device.setName(QString("Camera %1").arg(camera));
-        device.address = target.address;
-        device.port = target.port;
-        device.user = target.user;
-        device.password = target.password;
-        ids.append(m_host->db()->add(device));
-    }
-    m_host->db()->flush();
-    return ids;
+    QString text;
+    const ModalAnswer answer([&text](QDialog* dialog) {
+        text = qobject_cast<QMessageBox*>(dialog)->text();
+        QTest::keyClick(dialog, Qt::Key_Return); // means Cancel
+    });
+    action(name)->trigger();
+    return text;
 }
 
 QString tst_CameraCheck::addHeld(const HeldDevice& device)
@@ -401,15 +397,7 @@ void tst_CameraCheck::otherDeviceIsAccepted()
     QVERIFY(m_window->statusBar()->currentMessage().contains("another device"));
 
     m_list->selectNodes(ids);
-    QString text;
-    {
-        const ModalAnswer answer([&text](QDialog* dialog) {
-            text = qobject_cast<QMessageBox*>(dialog)->text();
-            QTest::keyClick(dialog, Qt::Key_Return); // means Cancel
-        });
-        action("actionAcceptDevices")->trigger();
-        QVERIFY(answer.fired());
-    }
+    const QString text = refusedQuestion("actionAcceptDevices");
     QVERIFY2(text.contains("Camera 1") && !text.contains("Camera 2"), qPrintable(text));
     QCOMPARE(identity(ids.at(0)).serial, first);
     {
@@ -441,15 +429,7 @@ void tst_CameraCheck::clearPasswordIsAllowed()
     QVERIFY(m_window->statusBar()->currentMessage().contains("clear password"));
 
     m_list->selectNodes(ids.mid(0, 2));
-    QString text;
-    {
-        const ModalAnswer answer([&text](QDialog* dialog) {
-            text = qobject_cast<QMessageBox*>(dialog)->text();
-            QTest::keyClick(dialog, Qt::Key_Return); // means Cancel
-        });
-        action("actionAllowClearPasswords")->trigger();
-        QVERIFY(answer.fired());
-    }
+    const QString text = refusedQuestion("actionAllowClearPasswords");
     QVERIFY2(text.contains("Camera 1") && !text.contains("Camera 2"), qPrintable(text));
     check();
     QCOMPARE(state(ids.at(0)), QString("Wants a clear password"));

@@ -4,10 +4,9 @@
 #include "PictureTip.h"
 #include "PictureView.h"
 #include "devices/KnownDevice.h"
-#include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/Patience.h"
-#include "support/SimulatedSite.h"
+#include "support/SiteCameras.h"
 #include "support/TestMain.h"
 
 #include <QAction>
@@ -69,7 +68,6 @@ private slots:
 private:
     QString add(const QString& address, int port, const QString& password);
     QString addKnown(int port);
-    QStringList addSite(const SimulatedSite& site, int count);
     void open();
     void check();
     QPoint placeOf(const QString& id) const;
@@ -115,14 +113,6 @@ QString tst_CameraPictures::addKnown(int port)
     return id;
 }
 
-QStringList tst_CameraPictures::addSite(const SimulatedSite& site, int count)
-{
-    QStringList ids;
-    for (int camera = 1; camera <= count; ++camera)
-        ids.append(add(site.target(camera).address, site.port, site.target(camera).password));
-    return ids;
-}
-
 void tst_CameraPictures::open()
 {
     m_window = std::make_unique<MainWindow>(*m_host->db());
@@ -163,7 +153,7 @@ void tst_CameraPictures::shownInTipAndProperties()
 {
     const SimulatedSite site({"--cameras", "2", "--onvif", "digest,picture-page"});
     QVERIFY(site.isUp);
-    const QStringList ids = addSite(site, 2);
+    const QStringList ids = testsupport::addCameras(*m_host, site, 2);
     open();
     check();
     m_host->db()->flush();
@@ -278,7 +268,7 @@ void tst_CameraPictures::refusedPasswordIsNotTriedAgain()
 {
     const SimulatedSite site({"--cameras", "1", "--onvif", "locks"});
     QVERIFY(site.isUp);
-    const QString id = addSite(site, 1).constFirst();
+    const QString id = testsupport::addCameras(*m_host, site, 1).constFirst();
     open();
     check();
     const auto give = [&](const QString& password) {
@@ -301,7 +291,7 @@ void tst_CameraPictures::droppedWhenTheCameraChanges()
 {
     const SimulatedSite site({"--cameras", "2", "--onvif", "digest"});
     QVERIFY(site.isUp);
-    const QStringList ids = addSite(site, 2);
+    const QStringList ids = testsupport::addCameras(*m_host, site, 2);
     open();
     check();
     for (const QString& id : ids) {
@@ -329,7 +319,7 @@ void tst_CameraPictures::memoryIsBounded()
     const int count = 20; // of 900 kB each
     const SimulatedSite site({"--cameras", QString::number(count), "--onvif", "open"});
     QVERIFY(site.isUp);
-    const QStringList ids = addSite(site, count);
+    const QStringList ids = testsupport::addCameras(*m_host, site, count);
     open();
     check();
     for (const QString& id : ids) {
