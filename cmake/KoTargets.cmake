@@ -69,7 +69,8 @@ function(ko_translations name)
     endforeach()
     set(list ${folder}/${name}_translations.qrc)
     file(CONFIGURE OUTPUT ${list} CONTENT "<RCC><qresource prefix=\"/translations\">${entries}</qresource></RCC>\n")
-    set(source ${folder}/${name}_translations.cpp)
+    # Named as the toolkit names such files: clazy leaves them out.
+    set(source ${folder}/qrc_${name}_translations.cpp)
     add_custom_command(OUTPUT ${source} DEPENDS ${list} ${compiled}
         COMMAND Qt${KO_QT}::rcc --name ${name}_translations ${list} -o ${source})
     set_source_files_properties(${source} ${list} PROPERTIES SKIP_AUTOGEN ON)
