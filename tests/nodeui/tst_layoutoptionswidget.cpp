@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSet>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 using namespace ko;
@@ -374,14 +375,14 @@ void tst_LayoutOptionsWidget::eachSelfFollowsTheLanguage()
     m_page->init(QString("cam"));
     m_page->fillAudioPathIdComboBox();
     m_page->fillAudioPathIdComboBox();
-    QSet<int> shownAnew;
-    connect(m_audio->model(), &QAbstractItemModel::dataChanged, this,
-            [&shownAnew](const QModelIndex& first, const QModelIndex& last) {
-                for (int row = first.row(); row <= last.row(); ++row)
-                    shownAnew.insert(row);
-            });
+    const QSignalSpy changes(m_audio->model(), SIGNAL(dataChanged(QModelIndex, QModelIndex)));
     QEvent change(QEvent::LanguageChange);
     QCoreApplication::sendEvent(m_page.get(), &change);
+    QSet<int> shownAnew;
+    for (const QVariantList& rows : changes) {
+        for (int row = rows.at(0).toModelIndex().row(); row <= rows.at(1).toModelIndex().row(); ++row)
+            shownAnew.insert(row);
+    }
     for (int row = 0; row < m_audio->count(); ++row)
         QVERIFY(m_audio->itemText(row) != "Self" || shownAnew.contains(row));
     QCOMPARE(m_audio->findText("Self", Qt::MatchExactly), 0);
