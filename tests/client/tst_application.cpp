@@ -337,7 +337,7 @@ void tst_Application::importOnAFullDisk_data()
 {
     QTest::addColumn<int>("kilobytes");
     QTest::addColumn<bool>("storesSome");
-    QTest::newRow("nothing fits") << 40 << false;
+    QTest::newRow("nothing fits") << 33 << false; // the index of the journal has 32
     QTest::newRow("something fits") << 1000 << true;
 }
 
@@ -358,7 +358,7 @@ void tst_Application::importOnAFullDisk()
     const Call result = call({"--db", m_database, "--import", list}, kilobytes);
     QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
     const int stored = devices() - 1;
-    QCOMPARE(stored > 0, storesSome);
+    QVERIFY2((stored > 0) == storesSome, qPrintable(result.said + result.complained));
     QVERIFY(stored < count);
     QVERIFY2(result.said.startsWith(QString("%1 added, 0 updated, 0 unchanged").arg(stored)),
              qPrintable(result.said));
