@@ -182,9 +182,11 @@ QStringList lettersTwice(const QWidget* window)
         else if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
             for (int i = 0; i < tabs->count(); ++i)
                 add(tabs->tabText(i));
-        else if (const auto* menus = qobject_cast<const QMenuBar*>(widget))
-            for (const QAction* action : menus->actions())
+        else if (const auto* menus = qobject_cast<const QMenuBar*>(widget)) {
+            const QList<QAction*> actions = menus->actions();
+            for (const QAction* action : actions)
                 add(action->text());
+        }
     }
     return twice;
 }
@@ -195,7 +197,8 @@ QStringList lettersTwiceInMenus(const QWidget* window)
     const QList<QMenu*> menus = window->findChildren<QMenu*>();
     for (const QMenu* menu : menus) {
         QStringList letters;
-        for (const QAction* action : menu->actions()) {
+        const QList<QAction*> actions = menu->actions();
+        for (const QAction* action : actions) {
             const QString letter = QKeySequence::mnemonic(action->text()).toString();
             if (!letter.isEmpty() && letters.contains(letter))
                 twice.append(menu->title() + " > " + action->text());
@@ -403,9 +406,11 @@ void tst_Languages::windows()
     const auto straight = qScopeGuard([] { QApplication::setLayoutDirection(Qt::LeftToRight); });
     QStringList problems;
     windows.visit([&](const QString& name, QWidget* window) {
-        for (const QString& cut : cutOff(window))
+        const QStringList cutTexts = cutOff(window);
+        for (const QString& cut : cutTexts)
             problems.append(name + ": " + cut + " is cut off");
-        for (const QString& text : lettersTwice(window) + lettersTwiceInMenus(window))
+        const QStringList letters = lettersTwice(window) + lettersTwiceInMenus(window);
+        for (const QString& text : letters)
             problems.append(name + ": the letter of \"" + text + "\" is another's too, or no key");
     });
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
