@@ -51,6 +51,20 @@ elseif(KO_SANITIZE)
     target_link_options(ko_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# ko_precompile(TARGET [AS OTHER]): compiles most of the toolkit's headers once for the target, or takes what OTHER
+# has. For builds that are made from nothing again and again; in the others each file must include what it uses.
+function(ko_precompile target)
+    cmake_parse_arguments(ARG "" "AS" "" ${ARGN})
+    if(KO_PRECOMPILE AND ARG_AS)
+        target_precompile_headers(${target} REUSE_FROM ${ARG_AS})
+    elseif(KO_PRECOMPILE)
+        target_precompile_headers(${target} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/Precompiled.h)
+    endif()
+    if(KO_PRECOMPILE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_compile_options(${target} PRIVATE -fpch-preprocess) # or ccache does not see them
+    endif()
+endfunction()
+
 # ko_translations(NAME): compiles translations/NAME_*.ts of this folder into the resources of the target, as
 # :/translations/NAME_*.qm.
 function(ko_translations name)
@@ -101,6 +115,7 @@ function(ko_library name)
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/konodeui>)
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE} $<BUILD_INTERFACE:ko_flags>)
+    ko_precompile(${name})
     install(TARGETS ${name} EXPORT KoNodeUITargets)
     install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/konodeui
             FILES_MATCHING PATTERN "*.h" PATTERN "resources" EXCLUDE)
