@@ -6,7 +6,6 @@
 #include "NameList.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
-#include "NodeLogEntries.h"
 #include "PictureTip.h"
 #include "PlainMessageBox.h"
 #include "SearchText.h"

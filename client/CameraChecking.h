@@ -3,7 +3,7 @@
 
 #include "CameraCheck.h"
 #include "CameraPictures.h"
-#include "NodeLogEntries.h"
+#include "audit/NodeLogEntries.h"
 #include "exchange/CameraSurvey.h"
 #include "ko/TrContext.h"
 

@@ -9,7 +9,6 @@
 #include "NodeCommands.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
-#include "NodeLogEntries.h"
 #include "PropertyColumns.h"
 #include "ScannerStatus.h"
 #include "StoreNotice.h"
@@ -83,7 +82,6 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
-    registerNodeLogEntries();
     new WheelGuard(this);
     new FocusMark(this);
     new Mnemonics(this);

@@ -6,7 +6,7 @@
 #include "LayoutAdapter.h"
 #include "MainWindow.h"
 #include "NodeListView.h"
-#include "NodeLogEntries.h"
+#include "audit/NodeLogEntries.h"
 #include "PictureView.h"
 #include "RemoveNodesBox.h"
 #include "TypeChange.h"

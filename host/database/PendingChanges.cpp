@@ -1,5 +1,7 @@
 #include "database/PendingChanges.h"
 
+#include "database/PurposeOf.h"
+
 #include <algorithm>
 
 namespace ko {
@@ -182,32 +184,11 @@ QVector<ChangeSet> PendingChanges::sets() const
         std::for_each(set.nodes.begin(), set.nodes.end(), simplify);
         set.nodes.erase(std::remove_if(set.nodes.begin(), set.nodes.end(), isNothing), set.nodes.end());
         if (!making.hasPurpose)
-            set.cause.purpose = purposeOf(set);
+            set.cause.purpose = PurposeOf::changeSet(set);
         if (!set.isEmpty())
             result.append(set);
     }
     return result;
-}
-
-Purpose PendingChanges::purposeOf(const ChangeSet& set)
-{
-    const auto all = [](const auto& list, const auto& predicate) {
-        return !list.isEmpty() && std::all_of(list.begin(), list.end(), predicate);
-    };
-    if (all(set.nodes, [](const NodeChange& change) { return change.isAdded(); }))
-        return Purpose::Add;
-    if (all(set.nodes, [](const NodeChange& change) { return change.isRemoved(); }))
-        return Purpose::Remove;
-    if (!set.nodes.isEmpty() || !set.relations.isEmpty())
-        return Purpose::Edit;
-    if (set.environments)
-        return Purpose::Environments;
-    const auto isOfProxy = [](const SettingChange& change) {
-        return change.key.startsWith(QLatin1String("proxy."));
-    };
-    if (all(set.settings, isOfProxy))
-        return Purpose::Proxy;
-    return set.settings.isEmpty() ? Purpose::Edit : Purpose::Settings;
 }
 
 bool PendingChanges::adds(const NodeID& id) const

@@ -86,7 +86,6 @@ private:
     Making& current();
     NodeChange* changeOf(const NodeID& id);
     void append(const NodeChange& change);
-    static Purpose purposeOf(const ChangeSet& set);
 
     std::vector<Making> m_making;
     QVector<Cause> m_causes;

@@ -20,11 +20,15 @@ const struct
     Purpose purpose;
     const char* word;
 } words[] = {
-    {Purpose::Edit, "edit"},         {Purpose::Add, "add"},         {Purpose::Remove, "remove"},
-    {Purpose::Settings, "settings"}, {Purpose::Proxy, "proxy"},     {Purpose::Environments, "environments"},
-    {Purpose::Scan, "scan"},         {Purpose::Address, "address"}, {Purpose::Import, "import"},
-    {Purpose::Start, "start"},       {Purpose::Restore, "restore"}, {Purpose::Check, "check"},
-    {Purpose::FillIn, "fill-in"},    {Purpose::Unknown, ""},
+    {Purpose::Edit, "edit"},         {Purpose::Add, "add"},
+    {Purpose::Remove, "remove"},     {Purpose::Recording, "recording"},
+    {Purpose::Settings, "settings"}, {Purpose::Credentials, "credentials"},
+    {Purpose::Proxy, "proxy"},       {Purpose::Environments, "environments"},
+    {Purpose::Scan, "scan"},         {Purpose::Address, "address"},
+    {Purpose::Import, "import"},     {Purpose::Start, "start"},
+    {Purpose::Restore, "restore"},   {Purpose::Check, "check"},
+    {Purpose::FillIn, "fill-in"},    {Purpose::Undo, "undo"},
+    {Purpose::Unknown, ""},
 };
 
 } // namespace
@@ -57,6 +61,37 @@ Cause Cause::now(Purpose purpose, const QString& subject)
     cause.purpose = purpose;
     cause.subject = subject;
     return cause;
+}
+
+namespace {
+
+const QLatin1String redoOf("undo "); // before the word of a purpose; stored
+
+} // namespace
+
+/// Of several only what they have in common: the subject says what the title says.
+Cause Cause::undoing(const QVector<Cause>& others)
+{
+    const auto subjectOf = [](const Cause& other) {
+        if (other.purpose != Purpose::Undo)
+            return Purposes::word(other.purpose);
+        return other.isRedo() ? other.subject.mid(redoOf.size()) : redoOf + other.subject;
+    };
+    QString subject = others.isEmpty() ? QString() : subjectOf(others.first());
+    if (std::any_of(others.begin(), others.end(),
+                    [&](const Cause& other) { return subjectOf(other) != subject; }))
+        subject = Purposes::word(Purpose::Edit);
+    return now(Purpose::Undo, subject);
+}
+
+Purpose Cause::undone() const
+{
+    return Purposes::fromWord(isRedo() ? subject.mid(redoOf.size()) : subject);
+}
+
+bool Cause::isRedo() const
+{
+    return purpose == Purpose::Undo && subject.startsWith(redoOf);
 }
 
 QString Cause::currentUser()

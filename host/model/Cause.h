@@ -4,12 +4,15 @@
 #include "HostExport.h"
 
 #include <QString>
+#include <QVector>
 
 namespace ko {
 
 /// What somebody did that changed the database. The words are stored.
 enum class Purpose {
     Edit,
+    Recording,   ///< where recordings are played from, and nothing else
+    Credentials, ///< user names and passwords, and nothing else
     Add,
     Remove,
     Settings, ///< of the program: default paths, bandwidth, the active environment
@@ -22,6 +25,7 @@ enum class Purpose {
     Import,
     Start,   ///< what a new database begins with
     Restore, ///< a backup took the place of everything
+    Undo,    ///< something was put back to what it was
     Unknown  ///< of a newer version of this program
 };
 
@@ -33,10 +37,18 @@ struct KO_HOST_EXPORT Cause
     QString station;
     qint64 time = 0; ///< milliseconds since 1970, UTC
     Purpose purpose = Purpose::Edit;
-    QString subject; ///< of an import the name of its file; else empty
+    QString subject; ///< of an import the name of its file, of Undo that of undoing(); else empty
 
     /// Something that the user of this process begins to do now.
     static Cause now(Purpose purpose, const QString& subject = QString());
+
+    /// Beginning now to put back what \a others did.
+    static Cause undoing(const QVector<Cause>& others);
+
+    /// Of Undo: the purpose of what was put back, or that was put back before and now is again.
+    Purpose undone() const;
+    /// Of Undo: it is what had been put back that is put back.
+    bool isRedo() const;
 
     /// The user of the operating system, not of the environment, which anyone can set for himself.
     static QString currentUser();

@@ -138,12 +138,12 @@ void tst_ConfirmedChanges::everyWayIsOneChangeSet_data()
                     return button->click();
             }
         }});
-    row("credentials of two", gates, "actionCredentials", Purpose::Edit, {[](QDialog* dialog) {
+    row("credentials of two", gates, "actionCredentials", Purpose::Credentials, {[](QDialog* dialog) {
             enter(dialog, "userNameLineEdit", "admin");
             enter(dialog, "passWordLineEdit", "p@ss");
             dialog->accept();
         }});
-    row("recordings of two", gates, "actionRecording", Purpose::Edit, {[](QDialog* dialog) {
+    row("recordings of two", gates, "actionRecording", Purpose::Recording, {[](QDialog* dialog) {
             check(dialog, "specificFileServerPathRadioButton");
             enter(dialog, "pathLineEdit", "//server/share");
             confirm(dialog);
@@ -153,12 +153,12 @@ void tst_ConfirmedChanges::everyWayIsOneChangeSet_data()
         enter(dialog, "fileServerPathLineEdit", "//server/gate");
         confirm(dialog);
     };
-    row("recordings of one", gate, "actionRecording", Purpose::Edit, {onTheServer});
+    row("recordings of one", gate, "actionRecording", Purpose::Recording, {onTheServer});
     const Answers::Action changeStorage = [](QDialog* dialog) {
         check(dialog, "changePushButton");
         cancel(dialog); // what the other dialog confirmed stays
     };
-    row("Change... on a page", gate, "actionEdit", Purpose::Edit, {changeStorage, onTheServer});
+    row("Change... on a page", gate, "actionEdit", Purpose::Recording, {changeStorage, onTheServer});
     const Answers::Action preview = [](QDialog* dialog) {
         check(dialog, "recordingTransponderCheckBox");
         check(dialog, "recordingTransponderPushButton");
@@ -169,8 +169,8 @@ void tst_ConfirmedChanges::everyWayIsOneChangeSet_data()
         enter(dialog, "connectionDataAddressLineEdit", "10.0.0.80");
         confirm(dialog);
     };
-    row("remote preview", gate, "actionRecording", Purpose::Edit, {preview, previewSettings});
-    row("remote preview from a page", gate, "actionEdit", Purpose::Edit,
+    row("remote preview", gate, "actionRecording", Purpose::Recording, {preview, previewSettings});
+    row("remote preview from a page", gate, "actionEdit", Purpose::Recording,
         {changeStorage, preview, previewSettings});
     row("the global proxy", none, "actionProxy", Purpose::Proxy, {[](QDialog* dialog) {
             enter(dialog, "proxyLineEdit", "proxy.example");

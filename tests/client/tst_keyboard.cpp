@@ -9,9 +9,9 @@
 #include "ImportReportDialog.h"
 #include "LayoutAdapter.h"
 #include "MainWindow.h"
-#include "NodeLogEntries.h"
 #include "PreferencesDialog.h"
 #include "audit/AuditLog.h"
+#include "audit/NodeLogEntries.h"
 #include "dialogs/AddNodeDialog.h"
 #include "dialogs/EditNodeDialog.h"
 #include "dialogs/EnvironmentDialog.h"
@@ -190,7 +190,6 @@ void tst_Keyboard::initTestCase()
 {
     QApplication::setCursorFlashTime(0); // pictures are compared
     new FocusMark(this);                 // as the client's window has it
-    registerNodeLogEntries();
     m_host = std::make_unique<testsupport::HostFixture>();
     HostNodeDB* db = m_host->db();
     db->environments().setList({{"{h}", "Home"}, {"{o}", "Office"}});

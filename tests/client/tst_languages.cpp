@@ -4,7 +4,7 @@
 #include "support/TestMain.h"
 
 #include "Languages.h"
-#include "NodeLogEntries.h"
+#include "audit/NodeLogEntries.h"
 #include "discovery/AddressChangeLogEntry.h"
 #include "exchange/ImportLogEntry.h"
 

@@ -3,7 +3,6 @@
 #include "support/Patience.h"
 #include "support/TestMain.h"
 
-#include "NodeLogEntries.h"
 #include "audit/AuditLog.h"
 #include "dialogs/NodeOverviewDialog.h"
 

@@ -140,7 +140,7 @@ void TestChangeSets::everyWayIsOneChangeSet_data()
         setText(db, m_folderNode, "Path", QLatin1String("/other"));
         setText(db, m_camera, "Model", QLatin1String("newer"));
     });
-    row("remote preview", Purpose::Edit, [this](HostNodeDB& db) {
+    row("remote preview", Purpose::Recording, [this](HostNodeDB& db) {
         Node* node = db.beginUpdateNode(m_camera, -1);
         node->setBoolProperty(QLatin1String("UseRecordingTransponder"), true);
         db.endUpdateNode(node);
@@ -153,7 +153,7 @@ void TestChangeSets::everyWayIsOneChangeSet_data()
         db.removeNode(m_folderNode);
         db.removeNode(m_camera);
     });
-    row("a relation", Purpose::Edit,
+    row("a relation", Purpose::Recording,
         [this](HostNodeDB& db) { db.removeNodeRelation(m_camera, m_folderNode, RecordingFolderRelation); });
     row("settings", Purpose::Settings, [](HostNodeDB& db) {
         db.setBandwidth(3);

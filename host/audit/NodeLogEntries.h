@@ -1,12 +1,14 @@
 #ifndef KO_NODELOGENTRIES_H
 #define KO_NODELOGENTRIES_H
 
+#include "HostExport.h"
 #include "ko/LogEntry.h"
 
 namespace ko {
 
-/// What the client does to nodes and the library does not log: one entry with the node's name.
-class NodeLogEntry : public LogEntry
+/// What is done to nodes and the library does not log: one entry with the node's name. Stored entries can be
+/// read back while this library is loaded.
+class KO_HOST_EXPORT NodeLogEntry : public LogEntry
 {
 public:
     enum Kind {
@@ -27,9 +29,6 @@ private:
     const Kind m_kind;
     TLogValue<QString> m_name;
 };
-
-/// Lets stored entries be read back. To be called before the audit log is shown; again does no harm.
-void registerNodeLogEntries();
 
 } // namespace ko
 

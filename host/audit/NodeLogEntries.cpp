@@ -1,4 +1,4 @@
-#include "NodeLogEntries.h"
+#include "audit/NodeLogEntries.h"
 
 #include "ko/LogEntryFactory.h"
 
@@ -31,6 +31,15 @@ const struct
      QT_TRANSLATE_NOOP("LogEntry", "Allowed to send the password of %1 in the clear.")},
 };
 
+bool registerEntries()
+{
+    for (const auto& kind : kinds)
+        logEntryFactory().registerCreator(kind.code, kind.create, QLatin1String(kind.title));
+    return true;
+}
+
+const bool registered = registerEntries();
+
 } // namespace
 
 NodeLogEntry::NodeLogEntry(Kind kind, const QString& name)
@@ -53,12 +62,6 @@ QString NodeLogEntry::description() const
 QString NodeLogEntry::title() const
 {
     return LogEntry::tr(kinds[m_kind].title);
-}
-
-void registerNodeLogEntries()
-{
-    for (const auto& kind : kinds)
-        logEntryFactory().registerCreator(kind.code, kind.create, QLatin1String(kind.title));
 }
 
 } // namespace ko
