@@ -113,18 +113,22 @@ StoreOutcome ChangeQueue::runAlone(const std::function<void()>& work, StoreError
 bool ChangeQueue::storeAfter(const std::function<void()>& work, StoreError* error)
 {
     Notices notices;
+    QVector<StoredSet> sets;
     *error = StoreError();
     try {
         waitForCheck();
         const NodeStore::Commit commit = m_store.commit(
             m_memory.revision, wanted(), [&](const Delta& delta) { return merge(delta, work, &notices); });
         m_memory.stored(commit, &notices);
+        sets = commit.sets;
         m_retry.stop();
         m_lineTimer.stop();
     } catch (const StoreFailure& failure) {
         *error = failure.error;
     }
     emit brought(notices);
+    if (!sets.isEmpty())
+        emit stored(sets);
     if (m_failing && !*error) {
         m_failing = false;
         emit recovered();

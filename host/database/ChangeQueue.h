@@ -68,6 +68,8 @@ public:
 
 signals:
     void brought(const ko::Notices& notices);
+    /// This process stored them, or more of them.
+    void stored(const QVector<ko::StoredSet>& sets);
     void failed(const ko::StoreError& error);
     void recovered();
     void damaged(const ko::StoreError& error);

@@ -244,6 +244,11 @@ LogStore& HostNodeDB::logStore()
     return d->logs;
 }
 
+StoredHistory& HostNodeDB::history()
+{
+    return d->history;
+}
+
 QVector<ChangeSet> HostNodeDB::changeSets(qint64 after, int count)
 {
     d->queue.flush();

@@ -17,6 +17,7 @@ class AuditLog;
 class LogStore;
 class NodeStore;
 class Scanning;
+class StoredHistory;
 
 /// The node database of this host, on a SQLite file.
 ///
@@ -115,6 +116,9 @@ public:
 
     /// Where a ProgramLog for this database keeps its lines.
     LogStore& logStore();
+
+    /// What was done to the database.
+    StoredHistory& history();
 
     // ChangeGrouping
     void enter(const Cause& cause) override;

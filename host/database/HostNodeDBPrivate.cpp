@@ -14,6 +14,7 @@ HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> op
     , queue(*store, memory)
     , settings(memory, [this] { queue.schedule(); })
     , logs(*store, memory, queue)
+    , history(*store, memory, queue)
     , audit(logs)
     , nodes(memory, queue, settings, [this](const Notices& notices) { announce(notices); })
 {

@@ -5,6 +5,7 @@
 #include "database/HostNodeDB.h"
 #include "database/NodeEditing.h"
 #include "database/Scanning.h"
+#include "database/StoredHistory.h"
 #include "database/StoredLogs.h"
 
 #include <QTimer>
@@ -30,6 +31,7 @@ public:
     ChangeQueue queue;
     HostSettings settings;
     StoredLogs logs;
+    StoredHistory history;
     AuditLog audit;
     NodeEditing nodes;
     std::unique_ptr<Scanning> scanning; ///< goes first

@@ -155,6 +155,11 @@ bool NodeEditing::apply(const ChangeSet& set)
 {
     return m_queue.reading([&] {
         const Notices notices = m_memory.apply(set);
+        for (const NodeChange& change : set.nodes) {
+            const NodeRecord* record = m_memory.cache.find(change.id);
+            if (record && record->contents)
+                written(change.id, record->summary.type()); // others may have its extension meanwhile
+        }
         m_queue.schedule();
         m_announce(notices);
         return true;

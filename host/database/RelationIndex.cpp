@@ -44,6 +44,26 @@ QVector<Relation> RelationIndex::relationsTo(const NodeID& destination) const
     return result;
 }
 
+bool RelationIndex::contains(const Relation& relation) const
+{
+    const auto found = m_out.constFind(relation.source);
+    return found != m_out.constEnd() && found->contains(Link{relation.destination, relation.type});
+}
+
+QVector<Relation> RelationIndex::relationsFrom(const NodeID& source) const
+{
+    QVector<Relation> result;
+    const Links links = m_out.value(source);
+    for (const Link& link : links)
+        result.append({source, link.other, link.type});
+    return result;
+}
+
+QVector<Relation> RelationIndex::relationsOf(const NodeID& id) const
+{
+    return relationsFrom(id) + relationsTo(id);
+}
+
 QStringList RelationIndex::replaceFrom(const NodeID& source, const QVector<Relation>& relations)
 {
     const Links before = m_out.value(source);

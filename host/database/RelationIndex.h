@@ -27,6 +27,10 @@ public:
 
     QStringList destinations(const NodeID& source, ENodeRelationType type) const;
     bool isDestination(const NodeID& id, ENodeRelationType type) const;
+    bool contains(const Relation& relation) const;
+    QVector<Relation> relationsFrom(const NodeID& source) const;
+    /// At either end.
+    QVector<Relation> relationsOf(const NodeID& id) const;
     QStringList sources() const { return m_out.keys(); }
 
 private:

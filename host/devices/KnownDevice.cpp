@@ -72,6 +72,14 @@ void replace(Node& node, const DeviceIdentity& seen)
     }
 }
 
+QStringList keys()
+{
+    QStringList keys;
+    for (const Mark& mark : marks)
+        keys.append(mark.key);
+    return keys;
+}
+
 } // namespace KnownDevice
 
 } // namespace ko

@@ -24,6 +24,9 @@ KO_HOST_EXPORT void remember(Node& node, const DeviceIdentity& seen);
 /// Another device is the node's from now on: what \a seen does not tell is forgotten.
 KO_HOST_EXPORT void replace(Node& node, const DeviceIdentity& seen);
 
+/// The properties in which it is remembered.
+KO_HOST_EXPORT QStringList keys();
+
 } // namespace KnownDevice
 
 } // namespace ko

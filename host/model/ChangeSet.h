@@ -62,6 +62,13 @@ struct EnvironmentsChange
     Environments::List after;
 };
 
+/// What a change set is known by once it is stored.
+struct StoredSet
+{
+    qint64 number;
+    Cause cause;
+};
+
 /// What was confirmed at once, as a value: whoever applies it and then its inverse() has what was before.
 ///
 /// Passwords are sealed in it.

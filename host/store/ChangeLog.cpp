@@ -46,8 +46,9 @@ void take(ChangeSet* set, ChangeLog::Kind kind, const QString& id, const QString
     } else if (kind == ChangeLog::SettingKind) {
         set->settings.append({id, settingOf(before), settingOf(after)});
     } else if (kind == ChangeLog::EnvironmentsKind) {
-        set->environments =
-            EnvironmentsChange{ChangeCoding::environments(before), ChangeCoding::environments(after)};
+        if (!set->environments) // else stored in parts
+            set->environments = EnvironmentsChange{ChangeCoding::environments(before), {}};
+        set->environments->after = ChangeCoding::environments(after);
     }
 }
 

@@ -31,7 +31,9 @@ void ChangeWriter::write(const ChangeSet& set)
         change(setting);
     if (set.environments)
         change(*set.environments);
-    if (m_number == 0 && !set.audit.isEmpty())
+    if (m_number != 0)
+        m_sets.append({m_number, set.cause});
+    else if (!set.audit.isEmpty())
         m_number = m_log.find(set.cause); // it may have changed something before
     for (const AuditRow& row : set.audit)
         m_log.addAudit(m_number, row);

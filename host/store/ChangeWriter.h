@@ -27,6 +27,9 @@ public:
     /// Nodes to be changed that the store does not have: a program removed them without a word.
     const QVector<NodeID>& missingNodes() const { return m_missing; }
 
+    /// The sets that changed something, as they are numbered now.
+    const QVector<StoredSet>& sets() const { return m_sets; }
+
     /// Where relations begin that were put between others.
     const QSet<NodeID>& reordered() const { return m_reordered; }
 
@@ -52,6 +55,7 @@ private:
     QHash<NodeID, qint64> m_places;
     QVector<NodeID> m_missing;
     QSet<NodeID> m_reordered;
+    QVector<StoredSet> m_sets;
 };
 
 } // namespace ko

@@ -3,6 +3,7 @@
 #include "secrets/Vault.h"
 #include "store/ChangeWriter.h"
 #include "store/DeltaReader.h"
+#include "store/HistoryReader.h"
 #include "store/StoredSecrets.h"
 
 namespace ko {
@@ -138,7 +139,7 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
         d->tables.addProgramLine(line);
     if (!batch.programLines.isEmpty())
         d->tables.trimProgramLines();
-    Commit result = {d->log.revision(), writer.places(), writer.missingNodes(), {}};
+    Commit result = {d->log.revision(), writer.places(), writer.missingNodes(), {}, writer.sets()};
     for (const NodeID& source : writer.reordered())
         result.reordered.insert(source, d->tables.relationsFrom(source));
     transaction.commit();
@@ -149,6 +150,17 @@ QVector<ChangeSet> NodeStore::changeSets(qint64 after, int count)
 {
     const Transaction transaction(*d->connection, Transaction::Read);
     return d->log.sets(after, count);
+}
+
+std::optional<ChangeSetRow> NodeStore::changeSetRow(qint64 number)
+{
+    return HistoryReader(*d->connection).row(number);
+}
+
+HistoryPage NodeStore::history(const HistoryFilter& filter, qint64 before, int count)
+{
+    const Transaction transaction(*d->connection, Transaction::Read);
+    return HistoryReader(*d->connection).page(filter, before, count);
 }
 
 QVector<ChangeSetRow> NodeStore::silentChangeSets(qint64 before, int count)

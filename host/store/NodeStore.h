@@ -2,6 +2,7 @@
 #define KO_NODESTORE_H
 
 #include "model/Delta.h"
+#include "model/HistoryFilter.h"
 #include "model/StoreError.h"
 
 #include <functional>
@@ -87,6 +88,7 @@ public:
         QVector<NodeID> missingNodes; ///< to be changed, but not there: taken as removed
         /// By source: in their order, where some got their earlier places back.
         QHash<NodeID, QVector<Relation>> reordered;
+        QVector<StoredSet> sets; ///< that changed something
     };
 
     /// Keeps other programs from writing, calls \a merge with what they changed since \a revision, and stores
@@ -97,6 +99,10 @@ public:
 
     /// At most \a count change sets after number \a after, in order.
     QVector<ChangeSet> changeSets(qint64 after, int count);
+    /// As a list shows it; none if there is no such change set.
+    std::optional<ChangeSetRow> changeSetRow(qint64 number);
+    /// Those among the \a count newest before number \a before that \a filter wants.
+    HistoryPage history(const HistoryFilter& filter, qint64 before, int count);
     /// Those before number \a before without an entry in the audit log, at most \a count, newest first.
     QVector<ChangeSetRow> silentChangeSets(qint64 before, int count);
     QVector<AuditRow> audit(const LogRange& range);

@@ -67,6 +67,10 @@ const QVector<QVector<const char*>>& steps()
             // Each device that gets a factory extension asks whether another one has it.
             "CREATE INDEX properties_extension ON properties (value) WHERE key = 'FactoryIP'",
         },
+        {
+            // The history of one node.
+            "CREATE INDEX changes_id ON changes (id, change_set)",
+        },
     };
     return steps;
 }

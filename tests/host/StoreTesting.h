@@ -94,6 +94,16 @@ public:
         return query.next() ? query.value(0) : QVariant();
     }
 
+    template <class Visit>
+    void forEach(const char* sql, const Visit& visit) const
+    {
+        QSqlQuery query(QSqlDatabase::database(m_name));
+        if (!query.exec(QLatin1String(sql)))
+            qFatal("%s: %s", sql, qPrintable(query.lastError().text()));
+        while (query.next())
+            visit(query);
+    }
+
 private:
     Q_DISABLE_COPY(PlainSql)
     const QString m_name;

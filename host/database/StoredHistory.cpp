@@ -1,0 +1,51 @@
+#include "database/StoredHistory.h"
+
+#include "database/ChangeQueue.h"
+
+namespace ko {
+
+StoredHistory::StoredHistory(NodeStore& store, NodeMemory& memory, ChangeQueue& queue)
+    : m_store(store)
+    , m_memory(memory)
+    , m_queue(queue)
+{
+    connect(&queue, &ChangeQueue::stored, this, &StoredHistory::stored);
+}
+
+std::optional<ChangeSet> StoredHistory::changeSet(qint64 number)
+{
+    m_queue.flush();
+    const QVector<ChangeSet> sets = m_queue.reading([&] { return m_store.changeSets(number - 1, 1); });
+    return sets.isEmpty() || sets.first().number != number ? std::nullopt : std::make_optional(sets.first());
+}
+
+std::optional<ChangeSetRow> StoredHistory::row(qint64 number)
+{
+    m_queue.flush();
+    return m_queue.reading([&] { return m_store.changeSetRow(number); });
+}
+
+PresentState StoredHistory::present(const PresentState::Wanted& wanted)
+{
+    PresentState state;
+    m_queue.reading([&] {
+        for (const NodeID& id : wanted.values) {
+            NodeRecord* record = m_memory.cache.find(id);
+            if (record && m_memory.read(*record))
+                state.nodes.insert(id, record->data());
+        }
+    });
+    for (const NodeID& id : wanted.ends) {
+        if (m_memory.cache.find(id))
+            state.ends.insert(id);
+    }
+    for (const NodeID& id : wanted.sources)
+        state.relations += m_memory.relations.relationsFrom(id);
+    for (const NodeID& id : wanted.related)
+        state.relations += m_memory.relations.relationsOf(id);
+    state.settings = m_memory.settings;
+    state.environments = m_memory.environments;
+    return state;
+}
+
+} // namespace ko

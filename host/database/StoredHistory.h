@@ -1,0 +1,48 @@
+#ifndef KO_STOREDHISTORY_H
+#define KO_STOREDHISTORY_H
+
+#include "HostExport.h"
+#include "model/PresentState.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+namespace ko {
+
+class ChangeQueue;
+class NodeMemory;
+class NodeStore;
+
+/// What was done to the database, as it is stored, and what there is now.
+///
+/// Reading stores first what is not stored yet. What cannot be read looks as if it were not there; see
+/// HostNodeDB::storeDamaged().
+class KO_HOST_EXPORT StoredHistory : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All outlive it.
+    StoredHistory(NodeStore& store, NodeMemory& memory, ChangeQueue& queue);
+
+    /// None if there is no such change set.
+    std::optional<ChangeSet> changeSet(qint64 number);
+    std::optional<ChangeSetRow> row(qint64 number);
+
+    PresentState present(const PresentState::Wanted& wanted);
+
+signals:
+    /// This process stored these, or more of them, in this order.
+    void stored(const QVector<ko::StoredSet>& sets);
+
+private:
+    NodeStore& m_store;
+    NodeMemory& m_memory;
+    ChangeQueue& m_queue;
+};
+
+} // namespace ko
+
+#endif

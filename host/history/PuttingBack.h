@@ -1,0 +1,34 @@
+#ifndef KO_PUTTINGBACK_H
+#define KO_PUTTINGBACK_H
+
+#include "history/PutBack.h"
+#include "model/StoreError.h"
+
+namespace ko {
+
+class HostNodeDB;
+
+/// Putting back in a database.
+namespace PuttingBack {
+
+/// What can be put back as it is now.
+KO_HOST_EXPORT PutBack preview(HostNodeDB& db, const QVector<Alteration>& alterations);
+
+struct Outcome
+{
+    StoreOutcome stored = StoreOutcome::Stored;
+    StoreError error; ///< why it is not stored, or was not tried
+    QVector<PutBackLine> done;
+    /// Of what was chosen: what somebody else changed since it was shown, which stays as it is.
+    QVector<PutBackLine> refused;
+};
+
+/// Puts back what was chosen and is still as it was shown, as one change set of \a cause, with the entries in
+/// the audit log that editing, adding or removing the nodes would make.
+KO_HOST_EXPORT Outcome apply(HostNodeDB& db, const PutBack& shown, const Cause& cause);
+
+} // namespace PuttingBack
+
+} // namespace ko
+
+#endif

@@ -1,0 +1,36 @@
+#ifndef KO_HISTORYFILTER_H
+#define KO_HISTORYFILTER_H
+
+#include "model/LogRows.h"
+
+#include <QStringList>
+
+#include <limits>
+#include <optional>
+
+namespace ko {
+
+/// Which change sets are looked for: those that fulfil all of it.
+struct HistoryFilter
+{
+    QStringList nodes; ///< one of which was changed, or a relation that begins there; none: any
+    QString text;      ///< in what was changed, in the user, the station or the subject; ASCII in any case
+    QVector<Purpose> titled; ///< whose titles hold the text
+    qint64 from = 0;         ///< milliseconds since 1970, UTC; this and the next included
+    qint64 to = std::numeric_limits<qint64>::max();
+    QString user;
+    std::optional<Purpose> purpose;
+    QString property; ///< the key of one that was changed, or of a setting
+};
+
+/// Some change sets of the history, newest first.
+struct HistoryPage
+{
+    QVector<ChangeSetRow> rows;
+    qint64 before = 0;    ///< to go on: the number of the oldest that was looked at
+    bool isAtEnd = false; ///< no older one is there
+};
+
+} // namespace ko
+
+#endif

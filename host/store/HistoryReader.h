@@ -1,0 +1,26 @@
+#ifndef KO_HISTORYREADER_H
+#define KO_HISTORYREADER_H
+
+#include "model/HistoryFilter.h"
+#include "store/SqliteStore.h"
+
+namespace ko {
+
+/// Change sets as a list shows them. Throws StoreFailure; opens no transactions.
+class HistoryReader
+{
+public:
+    explicit HistoryReader(SqliteStore& store);
+
+    std::optional<ChangeSetRow> row(qint64 number);
+
+    /// Those among the \a count newest before number \a before that \a filter wants.
+    HistoryPage page(const HistoryFilter& filter, qint64 before, int count);
+
+private:
+    SqliteStore& m_store;
+};
+
+} // namespace ko
+
+#endif
