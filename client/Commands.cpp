@@ -7,6 +7,7 @@
 #include "MnemonicText.h"
 #include "NodeCommands.h"
 #include "NodeListView.h"
+#include "UndoCommands.h"
 #include "WindowCommands.h"
 
 #include <QAction>
@@ -21,7 +22,12 @@ namespace ko {
 
 namespace {
 
-enum Needs { Nothing, OneNode, SomeNodes };
+enum Needs {
+    Nothing,
+    OneNode,
+    SomeNodes,
+    Itself ///< enabled by who does it
+};
 
 enum Place {
     InMenu = 0,    ///< only there
@@ -36,7 +42,7 @@ struct Commands::Command
 {
     const char* menu;
     const char* name; ///< object name of the action
-    const char* text;
+    const char* text; ///< empty: named by who does it
     const char* tip;
     const char* keys; ///< parted by "; "
     const char* icon; ///< of the desktop's theme
@@ -64,6 +70,13 @@ const Commands::Command Commands::all[] = {
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionQuit", QT_TRANSLATE_NOOP("MainWindow", "&Quit"),
      QT_TRANSLATE_NOOP("MainWindow", "Closes the program"), "Ctrl+Q", "application-exit", Nothing, AfterLine,
      [](MainWindow& window) { window.close(); }},
+
+    {QT_TRANSLATE_NOOP("MainWindow", "&Edit"), "actionUndo", "",
+     QT_TRANSLATE_NOOP("MainWindow", "Shows what was changed last, and puts it back"), "Ctrl+Z", "edit-undo",
+     Itself, InMenu, [](MainWindow& window) { window.undoing().run(UndoStack::Undo); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Edit"), "actionRedo", "",
+     QT_TRANSLATE_NOOP("MainWindow", "Does again what was undone last"), "Ctrl+Shift+Z", "edit-redo", Itself,
+     InMenu, [](MainWindow& window) { window.undoing().run(UndoStack::Redo); }},
 
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionAdd", QT_TRANSLATE_NOOP("MainWindow", "&Add..."),
      QT_TRANSLATE_NOOP("MainWindow", "Adds a node"), "Ctrl+N", "list-add", Nothing, InList | InBar,
@@ -186,12 +199,14 @@ void Commands::retranslate()
     for (const Menu& menu : std::as_const(m_menus))
         menu.menu->setTitle(MainWindow::tr(menu.title));
     for (int i = 0; i < m_actions.size(); ++i) {
+        if (*all[i].tip)
+            m_actions.at(i)->setStatusTip(MainWindow::tr(all[i].tip));
+        if (!*all[i].text)
+            continue; // named by who does it
         const QString text = MainWindow::tr(all[i].text);
         m_actions.at(i)->setText(text);
         // The toolkit would leave the brackets of "編集(&E)..." on the tool button.
         m_actions.at(i)->setIconText(MnemonicText::without(text).remove(QLatin1String("...")));
-        if (*all[i].tip)
-            m_actions.at(i)->setStatusTip(MainWindow::tr(all[i].tip));
     }
 }
 
@@ -226,6 +241,8 @@ void Commands::setSelected(int nodes)
 {
     for (int i = 0; i < m_actions.size(); ++i) {
         const Needs needs = all[i].needs;
+        if (needs == Itself)
+            continue;
         m_actions.at(i)->setEnabled(needs == Nothing || (needs == OneNode ? nodes == 1 : nodes > 0));
     }
 }

@@ -13,6 +13,7 @@
 #include "ScannerStatus.h"
 #include "StoreNotice.h"
 #include "SurveyCommands.h"
+#include "UndoCommands.h"
 #include "WheelGuard.h"
 #include "WindowSize.h"
 #include "database/HostNodeDB.h"
@@ -79,6 +80,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_checking(new CameraChecking(*this, *m_model))
     , m_environment(new EnvironmentNotice(db, statusBar()))
     , m_store(new StoreNotice(db, this))
+    , m_undoing(new UndoCommands(*this, m_commands->action("actionUndo"), m_commands->action("actionRedo")))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
@@ -123,6 +125,7 @@ void MainWindow::retranslate()
     m_typesLabel->setText(tr(" T&ype: "));
     m_toolBar->setWindowTitle(tr("Nodes"));
     m_commands->retranslate();
+    m_undoing->retranslate();
     m_model->retranslate();
     m_model->setSearch(m_search->text()); // whose words name columns
     m_view->retranslate();

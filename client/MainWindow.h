@@ -25,6 +25,7 @@ class NodeListView;
 class PropertyColumns;
 class StoreNotice;
 class SurveyCommands;
+class UndoCommands;
 
 /// The client's window: the list of all nodes and what can be done with them.
 class MainWindow : public QMainWindow
@@ -40,6 +41,7 @@ public:
     HostNodeDB& database() const { return m_db; }
     NodeListView& list() const { return *m_view; }
     CameraChecking& checking() const { return *m_checking; }
+    UndoCommands& undoing() const { return *m_undoing; }
 
     /// Shows the nodes of all types that a search finds.
     void find(const QString& search);
@@ -91,6 +93,7 @@ private:
     CameraChecking* const m_checking;
     EnvironmentNotice* const m_environment;
     StoreNotice* const m_store;
+    UndoCommands* const m_undoing;
     QSet<QString> m_changed; ///< taken into the list together at the end of the turn
     QSet<QString> m_removed;
 };

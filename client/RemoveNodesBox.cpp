@@ -21,8 +21,8 @@ bool confirmRemoval(const QStringList& names, QWidget* parent)
 {
     const QString question =
         names.size() == 1
-            ? Texts::tr("Remove this node? It cannot be brought back.")
-            : Texts::tr("Remove these %n nodes? They cannot be brought back.", nullptr, int(names.size()));
+            ? Texts::tr("Remove this node? Edit > Undo brings it back.")
+            : Texts::tr("Remove these %n nodes? Edit > Undo brings them back.", nullptr, int(names.size()));
     PlainMessageBox box(QMessageBox::Warning, Texts::tr("Remove Nodes"),
                         question + QStringLiteral("\n\n") + listOfNames(names), QMessageBox::Cancel, parent);
     box.setObjectName(QStringLiteral("removeNodesBox"));

@@ -1,0 +1,77 @@
+#include "UndoCommands.h"
+
+#include "MainWindow.h"
+#include "PutBackDialog.h"
+#include "ko/OutsideText.h"
+
+#include <QAction>
+#include <QTimer>
+
+namespace ko {
+
+namespace {
+
+const int longest = 60; ///< signs of a title in a menu
+
+/// For a menu, where "&" would be a letter for the keyboard.
+QString inMenu(const QString& title)
+{
+    QString text = OutsideText::visible(title);
+    if (text.size() > longest)
+        text = text.left(longest) + QChar(0x2026);
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+UndoCommands::UndoCommands(MainWindow& window, QAction* undo, QAction* redo)
+    : QObject(&window)
+    , m_window(window)
+    , m_stack(window.database())
+    , m_undo(undo)
+    , m_redo(redo)
+{
+    connect(&m_stack, &UndoStack::changed, this, [this] {
+        if (!m_isLate)
+            QTimer::singleShot(0, this, &UndoCommands::update);
+        m_isLate = true;
+    });
+    retranslate();
+}
+
+void UndoCommands::update()
+{
+    m_isLate = false;
+    retranslate();
+}
+
+void UndoCommands::retranslate()
+{
+    m_undo->setEnabled(!m_stack.isEmpty(UndoStack::Undo));
+    m_redo->setEnabled(!m_stack.isEmpty(UndoStack::Redo));
+    m_undo->setText(m_undo->isEnabled() ? tr("&Undo \"%1\"").arg(inMenu(m_stack.title(UndoStack::Undo)))
+                                        : tr("&Undo"));
+    m_redo->setText(m_redo->isEnabled() ? tr("&Redo \"%1\"").arg(inMenu(m_stack.title(UndoStack::Redo)))
+                                        : tr("&Redo"));
+}
+
+void UndoCommands::run(UndoStack::Direction direction)
+{
+    if (m_stack.isEmpty(direction))
+        return;
+    const QString title = m_stack.title(direction);
+    HostNodeDB& db = m_window.database();
+    PutBackDialog dialog(
+        title, m_stack.preview(direction), PutBackDialog::words(db),
+        [this, direction](const PutBack& shown) { return m_stack.apply(direction, shown); }, &m_window);
+    const bool isDone = dialog.exec() == QDialog::Accepted;
+    if (isDone) {
+        m_window.applyChanges();
+        m_window.say((direction == UndoStack::Undo ? tr("Undone: %1") : tr("Redone: %1"))
+                         .arg(OutsideText::visible(title)));
+    } else if (!dialog.isPossible()) {
+        m_stack.drop(direction); // else it would be in the way of what was done before
+    }
+}
+
+} // namespace ko
