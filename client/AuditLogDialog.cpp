@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QTableView>
@@ -37,15 +38,7 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
     m_found->setSourceModel(m_model);
     m_found->setFilterKeyColumn(-1);
     m_found->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_view->setObjectName(QStringLiteral("entriesTableView"));
-    m_view->setModel(m_found);
-    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_view->setAlternatingRowColors(true);
-    m_view->setWordWrap(false);
-    m_view->setTabKeyNavigation(false); // Tab leaves the view
-    m_view->verticalHeader()->hide();
-    m_view->horizontalHeader()->setStretchLastSection(true);
+    createView();
     m_model->fetchMore(QModelIndex());
     m_view->resizeColumnsToContents();
 
@@ -64,6 +57,7 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
 
     QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    createHistory(*buttons);
     QVBoxLayout* layout = new QVBoxLayout(this);
     QHBoxLayout* searchRow = new QHBoxLayout;
     QLabel* searchLabel = new QLabel(this);
@@ -80,13 +74,57 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
         searchField->setAccessibleName(tr("Search"));
         searchLabel->setText(tr("&Find:"));
         copyAction->setText(tr("Copy"));
+        m_history->setText(tr("Show in &History..."));
     });
     resizeWithinScreen(*this, QSettings().value(QLatin1String(sizeKey), QSize(960, 520)).toSize());
+}
+
+void AuditLogDialog::createView()
+{
+    m_view->setObjectName(QStringLiteral("entriesTableView"));
+    m_view->setModel(m_found);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_view->setAlternatingRowColors(true);
+    m_view->setWordWrap(false);
+    m_view->setTabKeyNavigation(false); // Tab leaves the view
+    m_view->verticalHeader()->hide();
+    m_view->horizontalHeader()->setStretchLastSection(true);
+}
+
+void AuditLogDialog::createHistory(QDialogButtonBox& buttons)
+{
+    m_history = buttons.addButton(QString(), QDialogButtonBox::ActionRole);
+    m_history->setObjectName(QStringLiteral("historyButton"));
+    m_history->setAutoDefault(false);
+    connect(m_history, &QPushButton::clicked, this, [this] { m_showHistory(selectedChangeSet()); });
+    connect(m_view, &QTableView::doubleClicked, m_history, &QPushButton::click);
+    connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &AuditLogDialog::enableHistory);
+    enableHistory();
 }
 
 AuditLogDialog::~AuditLogDialog()
 {
     QSettings().setValue(QLatin1String(sizeKey), size());
+}
+
+void AuditLogDialog::setHistory(const std::function<void(qint64)>& show)
+{
+    m_showHistory = show;
+    enableHistory();
+}
+
+/// 0: of none, or of several.
+qint64 AuditLogDialog::selectedChangeSet() const
+{
+    const QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    return rows.size() == 1 ? m_model->changeSetAt(m_found->mapToSource(rows.first()).row()) : 0;
+}
+
+void AuditLogDialog::enableHistory()
+{
+    m_history->setEnabled(m_showHistory && selectedChangeSet() != 0);
 }
 
 void AuditLogDialog::search(const QString& text)

@@ -5,7 +5,11 @@
 
 #include <QDialog>
 
+#include <functional>
+
+class QDialogButtonBox;
 class QLineEdit;
+class QPushButton;
 class QSortFilterProxyModel;
 class QTableView;
 
@@ -24,13 +28,22 @@ public:
     explicit AuditLogDialog(AuditLog& log, QWidget* parent = nullptr);
     ~AuditLogDialog() override;
 
+    /// What shows the change set of an entry; without it the button for that is disabled.
+    void setHistory(const std::function<void(qint64 changeSet)>& show);
+
 private:
+    void createView();
+    void createHistory(QDialogButtonBox& buttons);
+    qint64 selectedChangeSet() const;
+    void enableHistory();
     void search(const QString& text);
     void copy() const;
 
     AuditLogModel* const m_model;
     QSortFilterProxyModel* const m_found;
     QTableView* const m_view;
+    QPushButton* m_history = nullptr;
+    std::function<void(qint64)> m_showHistory;
 };
 
 } // namespace ko

@@ -114,7 +114,8 @@ AuditLogModel::Row AuditLogModel::nextRow()
         record.host.isEmpty() ? record.user : QStringLiteral("%1 (%2)").arg(record.user, record.host);
     // A line break would hide what follows it here, and make a second entry of it where it is copied to.
     return {{time, OutsideText::visible(user), OutsideText::visible(record.entry->title()),
-             OutsideText::visible(record.entry->text())}};
+             OutsideText::visible(record.entry->text())},
+            record.changeSet};
 }
 
 } // namespace ko

@@ -28,6 +28,9 @@ public:
     /// The log outlives the model; entries logged later are not shown.
     explicit AuditLogModel(AuditLog& log, QObject* parent = nullptr);
 
+    /// With which an entry was written; 0: none.
+    qint64 changeSetAt(int row) const { return m_rows.at(row).changeSet; }
+
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -39,6 +42,7 @@ private:
     struct Row
     {
         std::array<QString, ColumnCount> cells;
+        qint64 changeSet;
     };
 
     /// One of the two, read up to some place.

@@ -10,6 +10,7 @@
 #include "PlainMessageBox.h"
 #include "SearchText.h"
 #include "audit/AuditLog.h"
+#include "audit/NodeLogEntries.h"
 #include "database/HostNodeDB.h"
 #include "devices/ClearPassword.h"
 #include "devices/KnownDevice.h"

@@ -2,6 +2,7 @@
 
 #include "AddressChangesDialog.h"
 #include "AuditLogDialog.h"
+#include "HistoryDialog.h"
 #include "MainWindow.h"
 #include "NodeListView.h"
 #include "PreferencesDialog.h"
@@ -23,6 +24,20 @@
 namespace ko {
 
 namespace WindowCommands {
+
+namespace {
+
+void runHistory(MainWindow& window, const HistoryDialog::Scope& scope, QWidget* parent)
+{
+    HistoryDialog dialog(window.database(), scope, parent);
+    dialog.exec();
+    if (dialog.done().isEmpty())
+        return;
+    window.applyChanges();
+    window.say(dialog.done());
+}
+
+} // namespace
 
 void editPreferences(MainWindow& window)
 {
@@ -59,7 +74,19 @@ void showAddressChanges(MainWindow& window)
 
 void showAuditLog(MainWindow& window)
 {
-    AuditLogDialog(window.database().auditLog(), &window).exec();
+    AuditLogDialog dialog(window.database().auditLog(), &window);
+    dialog.setHistory([&](qint64 changeSet) { runHistory(window, {{}, changeSet}, &dialog); });
+    dialog.exec();
+}
+
+void showHistory(MainWindow& window)
+{
+    runHistory(window, {}, &window);
+}
+
+void showHistoryOfSelected(MainWindow& window)
+{
+    runHistory(window, {window.list().selectedIds(), 0}, &window);
 }
 
 void showDatabase(MainWindow& window)

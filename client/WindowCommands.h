@@ -14,6 +14,8 @@ void editEnvironments(MainWindow& window);
 void findDevices(MainWindow& window);
 void showAddressChanges(MainWindow& window);
 void showAuditLog(MainWindow& window);
+void showHistory(MainWindow& window);
+void showHistoryOfSelected(MainWindow& window);
 void showDatabase(MainWindow& window);
 void about(MainWindow& window);
 

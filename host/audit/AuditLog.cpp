@@ -71,7 +71,7 @@ std::vector<AuditRecord> AuditLog::entries(qint64 from, qint64 count, bool newes
     records.reserve(std::size_t(rows.size()));
     for (const AuditRow& row : rows)
         records.push_back({row.seq, QDateTime::fromMSecsSinceEpoch(row.time, Qt::UTC), row.user, row.host,
-                           FourChars(row.code), rebuilt(row)});
+                           FourChars(row.code), rebuilt(row), row.changeSet});
     return records;
 }
 
@@ -83,7 +83,7 @@ std::vector<AuditRecord> AuditLog::silentChanges(qint64 before, int count) const
         auto entry = std::make_unique<ChangeSetLogEntry>(row);
         const FourChars code = entry->typeCode();
         records.push_back({row.number, QDateTime::fromMSecsSinceEpoch(row.cause.time, Qt::UTC),
-                           row.cause.user, row.cause.station, code, std::move(entry)});
+                           row.cause.user, row.cause.station, code, std::move(entry), row.number});
     }
     return records;
 }

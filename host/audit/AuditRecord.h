@@ -18,6 +18,7 @@ struct AuditRecord
     QString host;
     FourChars code;
     std::unique_ptr<LogEntry> entry; ///< never null; a GenericLogEntry where the code is unknown
+    qint64 changeSet = 0;            ///< that it tells of; 0: none
 };
 
 } // namespace ko

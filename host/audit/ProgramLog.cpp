@@ -44,7 +44,8 @@ std::vector<AuditRecord> ProgramLog::entries(qint64 from, qint64 count, bool new
     records.reserve(std::size_t(rows.size()));
     for (const ProgramRow& row : rows)
         records.push_back({row.seq, QDateTime::fromMSecsSinceEpoch(row.time, Qt::UTC), QString(), QString(),
-                           ProgramLogEntry::code(), std::make_unique<ProgramLogEntry>(row.level, row.line)});
+                           ProgramLogEntry::code(), std::make_unique<ProgramLogEntry>(row.level, row.line),
+                           0});
     return records;
 }
 

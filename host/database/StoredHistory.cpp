@@ -25,6 +25,22 @@ std::optional<ChangeSetRow> StoredHistory::row(qint64 number)
     return m_queue.reading([&] { return m_store.changeSetRow(number); });
 }
 
+HistoryPage StoredHistory::page(const HistoryFilter& filter, qint64 before, int count)
+{
+    HistoryPage unread;
+    unread.isAtEnd = true;
+    return m_queue.reading([&] { return std::make_optional(m_store.history(filter, before, count)); })
+        .value_or(unread);
+}
+
+ChangeSetPart StoredHistory::changes(qint64 number, qint64 after, int count)
+{
+    ChangeSetPart unread;
+    unread.isAtEnd = true;
+    return m_queue.reading([&] { return std::make_optional(m_store.changes(number, after, count)); })
+        .value_or(unread);
+}
+
 PresentState StoredHistory::present(const PresentState::Wanted& wanted)
 {
     PresentState state;

@@ -2,6 +2,7 @@
 #define KO_STOREDHISTORY_H
 
 #include "HostExport.h"
+#include "model/HistoryFilter.h"
 #include "model/PresentState.h"
 
 #include <QObject>
@@ -17,8 +18,8 @@ class NodeStore;
 
 /// What was done to the database, as it is stored, and what there is now.
 ///
-/// Reading stores first what is not stored yet. What cannot be read looks as if it were not there; see
-/// HostNodeDB::storeDamaged().
+/// Reading one change set stores first what is not stored yet. What cannot be read looks as if it were not
+/// there; see HostNodeDB::storeDamaged().
 class KO_HOST_EXPORT StoredHistory : public QObject
 {
     Q_OBJECT
@@ -30,6 +31,13 @@ public:
     /// None if there is no such change set.
     std::optional<ChangeSet> changeSet(qint64 number);
     std::optional<ChangeSetRow> row(qint64 number);
+
+    /// Those among the \a count newest before number \a before that \a filter wants. Does not store what is
+    /// not stored yet, since it is called again and again.
+    HistoryPage page(const HistoryFilter& filter, qint64 before, int count);
+
+    /// At most \a count changes after those with which the last part of a change set ended.
+    ChangeSetPart changes(qint64 number, qint64 after, int count);
 
     PresentState present(const PresentState::Wanted& wanted);
 

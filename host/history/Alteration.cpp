@@ -94,6 +94,24 @@ QVector<Alteration> of(const ChangeSet& set)
     return list;
 }
 
+QVector<Alteration> selected(const QVector<Alteration>& all, const QSet<QString>& things)
+{
+    QSet<NodeID> whole;
+    for (const Alteration& alteration : all) {
+        if (alteration.kind == Alteration::Node && things.contains(alteration.thing()))
+            whole.insert(alteration.node);
+    }
+    QVector<Alteration> selected;
+    for (const Alteration& alteration : all) {
+        const Relation& relation = alteration.relation;
+        const bool follows = alteration.kind == Alteration::RelationTo &&
+                             (whole.contains(relation.source) || whole.contains(relation.destination));
+        if (follows || things.contains(alteration.thing()))
+            selected.append(alteration);
+    }
+    return selected;
+}
+
 PresentState::Wanted wanted(const QVector<Alteration>& alterations)
 {
     PresentState::Wanted wanted;

@@ -6,7 +6,7 @@
 namespace ko {
 
 /// One thing that a change set changed: what a user sees in one line, and puts back.
-struct Alteration
+struct KO_HOST_EXPORT Alteration
 {
     enum Kind {
         Node, ///< came or went, with all its properties and relations
@@ -43,6 +43,9 @@ namespace Alterations {
 
 /// In the order in which the change set has them; a node may be there twice if it was stored in parts.
 KO_HOST_EXPORT QVector<Alteration> of(const ChangeSet& set);
+
+/// Those of \a all that are among \a things, with the relations of the nodes that came or went among them.
+KO_HOST_EXPORT QVector<Alteration> selected(const QVector<Alteration>& all, const QSet<QString>& things);
 
 /// What must be known of the present to put them back.
 KO_HOST_EXPORT PresentState::Wanted wanted(const QVector<Alteration>& alterations);

@@ -232,6 +232,19 @@ QString HistoryWords::title(const QString& key)
     return found == std::end(titles) ? NodeFacts::title(key) : caption(found->context, found->text);
 }
 
+QStringList HistoryWords::titledKeys()
+{
+    QStringList keys;
+    QSet<QString> known;
+    for (const Title& entry : titles) {
+        const QString text = title(entry.key);
+        if (!known.contains(text))
+            keys.append(entry.key);
+        known.insert(text);
+    }
+    return keys;
+}
+
 QString HistoryWords::text(const Alteration& of, const QVariant& value) const
 {
     switch (of.kind) {

@@ -36,6 +36,9 @@ public:
     /// The title of a property or a setting.
     static QString title(const QString& key);
 
+    /// The keys of the properties and settings that have one, each title once.
+    static QStringList titledKeys();
+
 private:
     QString nameOf(const NodeID& id) const;
     QString text(const Alteration& of, const QVariant& value) const;

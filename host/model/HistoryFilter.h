@@ -1,7 +1,7 @@
 #ifndef KO_HISTORYFILTER_H
 #define KO_HISTORYFILTER_H
 
-#include "model/LogRows.h"
+#include "model/ChangeSet.h"
 
 #include <QStringList>
 
@@ -18,7 +18,7 @@ struct HistoryFilter
     QVector<Purpose> titled; ///< whose titles hold the text
     qint64 from = 0;         ///< milliseconds since 1970, UTC; this and the next included
     qint64 to = std::numeric_limits<qint64>::max();
-    QString user;
+    QString user; ///< or a part of the name
     std::optional<Purpose> purpose;
     QString property; ///< the key of one that was changed, or of a setting
 };
@@ -29,6 +29,14 @@ struct HistoryPage
     QVector<ChangeSetRow> rows;
     qint64 before = 0;    ///< to go on: the number of the oldest that was looked at
     bool isAtEnd = false; ///< no older one is there
+};
+
+/// Some of what a change set changed, in its order.
+struct ChangeSetPart
+{
+    ChangeSet set;        ///< without audit entries
+    qint64 after = 0;     ///< to go on
+    bool isAtEnd = false; ///< nothing comes after it
 };
 
 } // namespace ko

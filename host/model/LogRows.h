@@ -13,7 +13,8 @@ struct AuditRow
     QString user;
     QString host;
     quint32 code = 0;
-    QString data; ///< JSON object: key to value
+    QString data;         ///< JSON object: key to value
+    qint64 changeSet = 0; ///< with which it was written; 0: none
 };
 
 /// A change set that belongs to no entry of the audit log, as far as a log shows it.

@@ -15,8 +15,8 @@ QString notNull(const QString& text)
 
 AuditRow auditRow(const SqliteStore::Rows& rows)
 {
-    return {rows.number(0), rows.number(1),          rows.text(2),
-            rows.text(3),   quint32(rows.number(4)), rows.text(5)};
+    return {rows.number(0),          rows.number(1), rows.text(2),  rows.text(3),
+            quint32(rows.number(4)), rows.text(5),   rows.number(6)};
 }
 
 /// The columns id, time, user, host, purpose and subject, after the first one.
@@ -142,9 +142,28 @@ void ChangeLog::readChanges(ChangeSet* set)
     }
 }
 
+ChangeSetPart ChangeLog::part(qint64 number, qint64 after, int count)
+{
+    ChangeSetPart part;
+    part.set.number = number;
+    part.after = after;
+    int read = 0;
+    SqliteStore::Rows rows = m_store.run("SELECT kind, id, before, after, seq FROM changes"
+                                         " WHERE change_set = ? AND seq > ? ORDER BY seq LIMIT ?",
+                                         {number, after, count});
+    for (; rows.next(); ++read) {
+        const QString kind = rows.text(0);
+        if (!kind.isEmpty())
+            take(&part.set, Kind(kind.at(0).toLatin1()), rows.text(1), rows.text(2), rows.text(3));
+        part.after = rows.number(4);
+    }
+    part.isAtEnd = read < count;
+    return part;
+}
+
 void ChangeLog::readAudit(ChangeSet* set)
 {
-    SqliteStore::Rows rows = m_store.run("SELECT seq, time, user, host, code, data FROM audit"
+    SqliteStore::Rows rows = m_store.run("SELECT seq, time, user, host, code, data, change_set FROM audit"
                                          " WHERE change_set = ? ORDER BY seq",
                                          {set->number});
     while (rows.next())
@@ -181,13 +200,13 @@ QVector<AuditRow> ChangeLog::audit(const LogRange& range)
 {
     QVector<AuditRow> result;
     const QVariantList limits = {range.count, range.skip};
-    SqliteStore::Rows rows = range.newestFirst
-                                 ? m_store.run("SELECT seq, time, user, host, code, data FROM audit"
-                                               " ORDER BY seq DESC LIMIT ? OFFSET ?",
-                                               limits)
-                                 : m_store.run("SELECT seq, time, user, host, code, data FROM audit"
-                                               " ORDER BY seq LIMIT ? OFFSET ?",
-                                               limits);
+    SqliteStore::Rows rows =
+        range.newestFirst ? m_store.run("SELECT seq, time, user, host, code, data, change_set FROM audit"
+                                        " ORDER BY seq DESC LIMIT ? OFFSET ?",
+                                        limits)
+                          : m_store.run("SELECT seq, time, user, host, code, data, change_set FROM audit"
+                                        " ORDER BY seq LIMIT ? OFFSET ?",
+                                        limits);
     while (rows.next())
         result.append(auditRow(rows));
     return result;

@@ -1,7 +1,7 @@
 #ifndef KO_CHANGELOG_H
 #define KO_CHANGELOG_H
 
-#include "model/ChangeSet.h"
+#include "model/HistoryFilter.h"
 #include "store/SqliteStore.h"
 
 namespace ko {
@@ -49,6 +49,8 @@ public:
     /// At most \a count change sets after number \a after, in order.
     QVector<ChangeSet> sets(qint64 after, int count);
 
+    /// At most \a count changes of a change set after the one with number \a after.
+    ChangeSetPart part(qint64 number, qint64 after, int count);
     /// See NodeStore::silentChangeSets().
     QVector<ChangeSetRow> silentSets(qint64 before, int count);
 

@@ -28,7 +28,8 @@ namespace {
     "(SELECT * FROM change_sets WHERE seq IN (SELECT DISTINCT change_set FROM changes"                       \
     " WHERE id IN (SELECT value FROM json_each(?)) AND change_set < ? ORDER BY change_set DESC LIMIT ?))"
 #define KO_WANTED                                                                                            \
-    " s WHERE s.time BETWEEN ? AND ? AND (? = '' OR s.user = ?) AND (? = '' OR s.purpose = ?)"               \
+    " s WHERE s.time BETWEEN ? AND ? AND (? = '' OR s.user LIKE ? ESCAPE '\\') AND (? = '' OR s.purpose = "  \
+    "?)"                                                                                                     \
     " AND (? = '' OR EXISTS (SELECT 1 FROM changes WHERE change_set = s.seq"                                 \
     " AND (instr(before, ?) OR instr(after, ?) OR kind = 'S' AND id = ?)))"                                  \
     " AND (? = '' OR s.user LIKE ? ESCAPE '\\' OR s.host LIKE ? ESCAPE '\\' OR s.subject LIKE ? ESCAPE '\\'" \
@@ -83,8 +84,10 @@ QVariantList wanted(const HistoryFilter& filter)
     const QString text = notNull(filter.text);
     const QString plain = pattern(text);
     const QString coded = pattern(inJson(text));
-    return {filter.from, filter.to, user,  user,  purpose, purpose, key,  key, key, notNull(filter.property),
-            text,        plain,     plain, plain, titled,  coded,   coded};
+    return {filter.from, filter.to, user,  pattern(user), purpose,
+            purpose,     key,       key,   key,           notNull(filter.property),
+            text,        plain,     plain, plain,         titled,
+            coded,       coded};
 }
 
 } // namespace

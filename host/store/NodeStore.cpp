@@ -163,6 +163,11 @@ HistoryPage NodeStore::history(const HistoryFilter& filter, qint64 before, int c
     return HistoryReader(*d->connection).page(filter, before, count);
 }
 
+ChangeSetPart NodeStore::changes(qint64 number, qint64 after, int count)
+{
+    return d->log.part(number, after, count);
+}
+
 QVector<ChangeSetRow> NodeStore::silentChangeSets(qint64 before, int count)
 {
     return d->log.silentSets(before, count);

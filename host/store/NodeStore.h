@@ -103,6 +103,8 @@ public:
     std::optional<ChangeSetRow> changeSetRow(qint64 number);
     /// Those among the \a count newest before number \a before that \a filter wants.
     HistoryPage history(const HistoryFilter& filter, qint64 before, int count);
+    /// At most \a count changes of a change set after those with which the last part ended.
+    ChangeSetPart changes(qint64 number, qint64 after, int count);
     /// Those before number \a before without an entry in the audit log, at most \a count, newest first.
     QVector<ChangeSetRow> silentChangeSets(qint64 before, int count);
     QVector<AuditRow> audit(const LogRange& range);

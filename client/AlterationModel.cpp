@@ -1,0 +1,97 @@
+#include "AlterationModel.h"
+
+#include "database/StoredHistory.h"
+#include "ko/OutsideText.h"
+
+namespace ko {
+
+namespace {
+
+constexpr int Page = 200; // changes
+
+} // namespace
+
+AlterationModel::AlterationModel(StoredHistory& history, const HistoryWords& words, QObject* parent)
+    : QAbstractTableModel(parent)
+    , m_history(history)
+    , m_words(words)
+{
+}
+
+void AlterationModel::setChangeSets(const QVector<qint64>& numbers)
+{
+    beginResetModel();
+    m_numbers = numbers;
+    m_after = 0;
+    m_rows.clear();
+    endResetModel();
+    fetchMore(QModelIndex());
+}
+
+int AlterationModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+int AlterationModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : int(ColumnCount);
+}
+
+QString AlterationModel::text(const HistoryWords& words, const Alteration& alteration, int column)
+{
+    switch (column) {
+    case NodeColumn:
+        return words.owner(alteration);
+    case WhatColumn:
+        return words.what(alteration);
+    case BeforeColumn:
+        return words.before(alteration, alteration.before);
+    default:
+        return words.after(alteration, alteration.after);
+    }
+}
+
+QVariant AlterationModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
+        return QVariant();
+    const QString cell = OutsideText::visible(text(m_words, m_rows.at(index.row()), index.column()));
+    return role == Qt::DisplayRole ? cell : QString(QLatin1String("<p>") + cell.toHtmlEscaped());
+}
+
+QVariant AlterationModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    static const char* const titles[] = {
+        QT_TRANSLATE_NOOP("AlterationModel", "Node"), QT_TRANSLATE_NOOP("AlterationModel", "What"),
+        QT_TRANSLATE_NOOP("AlterationModel", "Before"), QT_TRANSLATE_NOOP("AlterationModel", "After")};
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
+        return QVariant();
+    return tr(titles[section]);
+}
+
+bool AlterationModel::canFetchMore(const QModelIndex& parent) const
+{
+    return !parent.isValid() && !m_numbers.isEmpty();
+}
+
+void AlterationModel::fetchMore(const QModelIndex& parent)
+{
+    QVector<Alteration> rows;
+    while (canFetchMore(parent) && rows.size() < Page) {
+        const ChangeSetPart part = m_history.changes(m_numbers.first(), m_after, Page);
+        rows += Alterations::of(part.set);
+        m_after = part.isAtEnd ? 0 : part.after;
+        if (part.isAtEnd)
+            m_numbers.removeFirst();
+    }
+    for (const Alteration& alteration : std::as_const(rows))
+        m_words.learn(alteration);
+    if (rows.isEmpty())
+        return;
+    beginInsertRows(QModelIndex(), rowCount(), rowCount() + int(rows.size()) - 1);
+    m_rows += rows;
+    endInsertRows();
+}
+
+} // namespace ko
