@@ -10,6 +10,7 @@
 #include "MainWindow.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
+#include "PutBackDialog.h"
 #include "dialogs/GenericNodeViewer.h"
 #include "dialogs/NodeDBViewer.h"
 #include "dialogs/RecordingFolderAssignmentDialog.h"
@@ -49,6 +50,7 @@ public:
         show(&window, QStringLiteral("main"), look);
         window.findChild<ko::NodeListView*>()->selectNodes({m_camera});
         visitDialogs(window, look);
+        visitPutBacks(window, look);
         trigger(window, "actionOverview", [&](QDialog* overview) {
             const ModalAnswer answer([&](QDialog* dialog) {
                 look(QStringLiteral("filter"), dialog);
@@ -95,8 +97,26 @@ private:
         for (const char* action :
              {"actionAdd", "actionRemove", "actionProperties", "actionCredentials", "actionRecording",
               "actionPreferences", "actionProxy", "actionEnvironments", "actionOverview",
-              "actionAddressChanges", "actionAuditLog", "actionFillIn", "actionAbout"})
+              "actionAddressChanges", "actionAuditLog", "actionHistory", "actionNodeHistory", "actionFillIn",
+              "actionAbout"})
             trigger(window, action, [&](QDialog* dialog) { look(QString::fromLatin1(action), dialog); });
+    }
+
+    /// One that can be put back, and one of which nothing can.
+    void visitPutBacks(ko::MainWindow& window, const Look& look)
+    {
+        const char* const models[] = {"4", "5"};
+        for (const char* model : models) {
+            m_host.change(m_camera, [model](ko::Node* node) {
+                node->setStringProperty(ko::PropertyKeys::Model, QString::fromLatin1(model));
+            });
+            settle();
+        }
+        trigger(window, "actionUndo", [&](QDialog* dialog) { look(QStringLiteral("undo"), dialog); });
+        const auto nothing = [](const ko::PutBack&) { return ko::PuttingBack::Outcome(); };
+        ko::PutBackDialog none(QStringLiteral("6"), ko::PutBack(), ko::PutBackDialog::words(*m_host.db()),
+                               nothing, &window);
+        show(&none, QStringLiteral("nothing to put back"), look);
     }
 
     void visitEditors(ko::MainWindow& window, const Look& look)
