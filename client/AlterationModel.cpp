@@ -60,14 +60,18 @@ QVariant AlterationModel::data(const QModelIndex& index, int role) const
     return role == Qt::DisplayRole ? cell : QString(QLatin1String("<p>") + cell.toHtmlEscaped());
 }
 
-QVariant AlterationModel::headerData(int section, Qt::Orientation orientation, int role) const
+QString AlterationModel::title(int column)
 {
     static const char* const titles[] = {
         QT_TRANSLATE_NOOP("AlterationModel", "Node"), QT_TRANSLATE_NOOP("AlterationModel", "What"),
         QT_TRANSLATE_NOOP("AlterationModel", "Before"), QT_TRANSLATE_NOOP("AlterationModel", "After")};
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
-        return QVariant();
-    return tr(titles[section]);
+    return tr(titles[column]);
+}
+
+QVariant AlterationModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const bool isTitle = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return isTitle && section >= 0 && section < ColumnCount ? QVariant(title(section)) : QVariant();
 }
 
 bool AlterationModel::canFetchMore(const QModelIndex& parent) const

@@ -26,6 +26,8 @@ public:
 
     const Alteration& alteration(int row) const { return m_rows.at(row); }
 
+    static QString title(int column);
+
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;

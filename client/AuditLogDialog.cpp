@@ -74,7 +74,7 @@ AuditLogDialog::AuditLogDialog(AuditLog& log, QWidget* parent)
         searchField->setAccessibleName(tr("Search"));
         searchLabel->setText(tr("&Find:"));
         copyAction->setText(tr("Copy"));
-        m_history->setText(tr("Show in &History..."));
+        m_history->setText(tr("Show in History..."));
     });
     resizeWithinScreen(*this, QSettings().value(QLatin1String(sizeKey), QSize(960, 520)).toSize());
 }

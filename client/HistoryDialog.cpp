@@ -135,7 +135,7 @@ void HistoryDialog::createButtons()
 QString HistoryDialog::scopeText() const
 {
     if (m_scope.changeSet != 0)
-        return tr("Only what was done up to the &entry of the audit log");
+        return tr("Only what was done up to the entry of the audit log");
     if (m_scope.nodes.size() == 1)
         return tr("Only of \"%1\"", "node")
             .arg(OutsideText::visible(m_db.summary(m_scope.nodes.first()).name)
@@ -148,13 +148,13 @@ void HistoryDialog::retranslate()
     setWindowTitle(tr("History"));
     m_filter->retranslate();
     m_onlyScope->setText(scopeText());
-    m_setsLabel->setText(tr("&What was done:"));
-    m_changesLabel->setText(tr("What it c&hanged:"));
+    m_setsLabel->setText(tr("What was done:"));
+    m_changesLabel->setText(tr("What it changed:"));
     m_setsView->setAccessibleName(tr("What was done"));
     m_changesView->setAccessibleName(tr("What it changed"));
-    m_putBack->setText(tr("&Put Back..."));
-    m_putBackLines->setText(tr("Put Back Selected &Changes..."));
-    m_export->setText(tr("E&xport..."));
+    m_putBack->setText(tr("Put Back..."));
+    m_putBackLines->setText(tr("Put Back Selected Changes..."));
+    m_export->setText(tr("Export..."));
     showState();
 }
 
@@ -241,15 +241,17 @@ void HistoryDialog::putBack(const QVector<Alteration>& alterations, const QVecto
     QVector<Cause> causes;
     for (const ChangeSetRow& set : sets)
         causes.append(set.cause);
-    const QString title = sets.size() == 1 ? ChangeSetTitle::of(sets.first())
-                                           : tr("%n selected change(s)", nullptr, int(sets.size()));
+    const auto title = [&sets] {
+        return sets.size() == 1 ? ChangeSetTitle::of(sets.first())
+                                : tr("%n selected change(s)", nullptr, int(sets.size()));
+    };
     const Cause cause = Cause::undoing(causes);
     PutBackDialog dialog(
         title, PuttingBack::preview(m_db, alterations), PutBackDialog::words(m_db),
         [this, &cause](const PutBack& shown) { return PuttingBack::apply(m_db, shown, cause); }, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    m_done = tr("Put back: %1").arg(OutsideText::visible(title));
+    m_done = tr("Put back: %1").arg(OutsideText::visible(title()));
     showFound(); // with what was done just now
 }
 

@@ -48,8 +48,12 @@ void HistoryExport::run(const HistoryFilter& filter, qint64 newest, QWidget* par
 
 bool HistoryExport::writeAll(const HistoryFilter& filter, qint64 newest, CsvWriter& writer, QWidget* parent)
 {
-    if (!writer.writeRecord({tr("Time"), tr("User"), tr("Station"), tr("What was done"), tr("Node"),
-                             tr("What"), tr("Before"), tr("After")}))
+    QStringList titles;
+    for (int column = 0; column < HistoryModel::NodesColumn; ++column)
+        titles.append(HistoryModel::title(column));
+    for (int column = 0; column < AlterationModel::ColumnCount; ++column)
+        titles.append(AlterationModel::title(column));
+    if (!writer.writeRecord(titles))
         return false;
     SurveyProgress progress(tr("Exporting the history..."), parent);
     const auto goOn = progress.callback();

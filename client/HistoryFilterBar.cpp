@@ -89,12 +89,12 @@ void HistoryFilterBar::createLayout()
 
 void HistoryFilterBar::retranslate()
 {
-    m_textLabel->setText(tr("&Find:"));
-    m_userLabel->setText(tr("&User:"));
-    m_kindLabel->setText(tr("&Kind:"));
-    m_propertyLabel->setText(tr("Proper&ty:"));
-    m_isFrom->setText(tr("F&rom:"));
-    m_isTo->setText(tr("T&o:"));
+    m_textLabel->setText(tr("Find:"));
+    m_userLabel->setText(tr("User:"));
+    m_kindLabel->setText(tr("Kind:"));
+    m_propertyLabel->setText(tr("Property:"));
+    m_isFrom->setText(tr("From:"));
+    m_isTo->setText(tr("To:"));
     m_from->setAccessibleName(tr("From"));
     m_to->setAccessibleName(tr("To"));
     m_text->setPlaceholderText(tr("Nodes, values, what was done"));

@@ -101,15 +101,19 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const
     }
 }
 
-QVariant HistoryModel::headerData(int section, Qt::Orientation orientation, int role) const
+QString HistoryModel::title(int column)
 {
     static const char* const titles[] = {
         QT_TRANSLATE_NOOP("HistoryModel", "Time"), QT_TRANSLATE_NOOP("HistoryModel", "User"),
         QT_TRANSLATE_NOOP("HistoryModel", "Station"), QT_TRANSLATE_NOOP("HistoryModel", "What was done"),
         QT_TRANSLATE_NOOP("HistoryModel", "Nodes")};
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
-        return QVariant();
-    return tr(titles[section]);
+    return tr(titles[column]);
+}
+
+QVariant HistoryModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const bool isTitle = orientation == Qt::Horizontal && role == Qt::DisplayRole;
+    return isTitle && section >= 0 && section < ColumnCount ? QVariant(title(section)) : QVariant();
 }
 
 bool HistoryModel::canFetchMore(const QModelIndex& parent) const

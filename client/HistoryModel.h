@@ -32,6 +32,8 @@ public:
     /// Whether older ones are being looked for.
     bool isLooking() const { return m_timer.isActive(); }
 
+    static QString title(int column);
+
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -18,7 +18,7 @@
 
 namespace ko {
 
-PutBackDialog::PutBackDialog(const QString& title, const PutBack& putBack, const HistoryWords& words,
+PutBackDialog::PutBackDialog(const Title& title, const PutBack& putBack, const HistoryWords& words,
                              const Apply& apply, QWidget* parent)
     : QDialog(parent, dialogFlags(true))
     , m_title(title)
@@ -75,11 +75,11 @@ void PutBackDialog::createTable()
 void PutBackDialog::retranslate()
 {
     setWindowTitle(tr("Put Back"));
-    const QString title = OutsideText::visible(m_title);
+    const QString title = OutsideText::visible(m_title());
     m_hint->setText(isPossible()
                         ? tr("%1: this is what would change. OK puts back what is ticked.").arg(title)
                         : tr("%1: nothing of it can be put back any more.").arg(title));
-    m_all->setText(tr("&All that can be put back"));
+    m_all->setText(tr("All that can be put back"));
     m_table->setAccessibleName(tr("What would change"));
     m_table->resizeColumnsToContents();
 }
@@ -115,10 +115,9 @@ void PutBackDialog::tell(const QVector<PutBackLine>& refused)
     for (const PutBackLine& line : refused)
         lines.append(OutsideText::visible(m_words.owner(line.what)) + QLatin1String(": ") +
                      m_words.what(line.what));
-    PlainMessageBox::ask(
-        QMessageBox::Warning, this, tr("Put Back"),
-        tr("Somebody else changed this meanwhile, and it stays as it is now:", nullptr, int(lines.size())) +
-            QStringLiteral("\n\n") + listOfNames(lines));
+    PlainMessageBox::ask(QMessageBox::Warning, this, tr("Put Back"),
+                         tr("Somebody else changed this meanwhile, and it stays as it is now:") +
+                             QStringLiteral("\n\n") + listOfNames(lines));
 }
 
 HistoryWords PutBackDialog::words(HostNodeDB& db)

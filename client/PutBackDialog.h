@@ -24,8 +24,11 @@ class PutBackDialog : public QDialog
 public:
     typedef std::function<PuttingBack::Outcome(const PutBack&)> Apply;
 
+    /// What it is called, in the language that the program has now.
+    typedef std::function<QString()> Title;
+
     /// What is called \a title is put back by \a apply.
-    PutBackDialog(const QString& title, const PutBack& putBack, const HistoryWords& words, const Apply& apply,
+    PutBackDialog(const Title& title, const PutBack& putBack, const HistoryWords& words, const Apply& apply,
                   QWidget* parent);
 
     /// Whether any line could be put back when it was shown.
@@ -42,7 +45,7 @@ private:
     void showTicked();
     void tell(const QVector<PutBackLine>& refused);
 
-    const QString m_title;
+    const Title m_title;
     const HistoryWords m_words;
     const Apply m_apply;
     PutBackModel m_model;

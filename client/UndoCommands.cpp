@@ -61,9 +61,10 @@ void UndoCommands::run(UndoStack::Direction direction)
         return;
     const QString title = m_stack.title(direction);
     HostNodeDB& db = m_window.database();
-    PutBackDialog dialog(
-        title, m_stack.preview(direction), PutBackDialog::words(db),
-        [this, direction](const PutBack& shown) { return m_stack.apply(direction, shown); }, &m_window);
+    PutBackDialog dialog([this, direction] { return m_stack.title(direction); }, m_stack.preview(direction),
+                         PutBackDialog::words(db),
+                         [this, direction](const PutBack& shown) { return m_stack.apply(direction, shown); },
+                         &m_window);
     const bool isDone = dialog.exec() == QDialog::Accepted;
     if (isDone) {
         m_window.applyChanges();

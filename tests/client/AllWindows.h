@@ -114,8 +114,8 @@ private:
         }
         trigger(window, "actionUndo", [&](QDialog* dialog) { look(QStringLiteral("undo"), dialog); });
         const auto nothing = [](const ko::PutBack&) { return ko::PuttingBack::Outcome(); };
-        ko::PutBackDialog none(QStringLiteral("6"), ko::PutBack(), ko::PutBackDialog::words(*m_host.db()),
-                               nothing, &window);
+        ko::PutBackDialog none([] { return QStringLiteral("6"); }, ko::PutBack(),
+                               ko::PutBackDialog::words(*m_host.db()), nothing, &window);
         show(&none, QStringLiteral("nothing to put back"), look);
     }
 
