@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Uzel</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Předtím</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Potom</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Bez --import, --export, --backup a --restore otevře okno a přijímá i volby g
     <message>
         <source>Copy</source>
         <translation>Kopírovat</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>Zobrazit v historii...</translation>
     </message>
 </context>
 <context>
@@ -711,6 +734,175 @@ Bez --import, --export, --backup a --restore otevře okno a přijímá i volby g
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Jen „%1“</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Jen %n vybraný uzel</numerusform>
+            <numerusform>Jen %n vybrané uzly</numerusform>
+            <numerusform>Jen %n vybraných uzlů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historie</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Co bylo provedeno</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Co to změnilo</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Hledá se dál...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nic nebylo nalezeno.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>Je toho víc: posuňte se dolů.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>To je vše.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>%n vybraná změna</numerusform>
+            <numerusform>%n vybrané změny</numerusform>
+            <numerusform>%n vybraných změn</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Vráceno: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Jen co bylo provedeno do záznamu v protokolu změn</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>Co bylo provedeno:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>Co to změnilo:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Vrátit...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Vrátit vybrané změny...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportovat...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Exportovat historii</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Seznamy (*.csv);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>Historie nebyla zapsána: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>Historie se exportuje...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>Od</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Uzly, hodnoty, co bylo provedeno</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Všechny druhy</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Všechny vlastnosti</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Hledat:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Uživatel:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Druh:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Vlastnost:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Od:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Do:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Uživatel</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Stanice</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Co bylo provedeno</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Uzly</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -809,41 +1001,6 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>1 large + 7</source>
         <translation>1 velká + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Přidáno zařízení</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Odebráno zařízení</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Přijato jiné zařízení</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Přidáno zařízení s názvem %1.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Odebráno zařízení s názvem %1.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Jako %1 přijato jiné zařízení než dříve.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Povoleno otevřené heslo</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>Povoleno odesílat heslo %1 v otevřené podobě.</translation>
     </message>
 </context>
 <context>
@@ -1172,6 +1329,34 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>Kamerám, které je jinak nepřijmou, se heslo odesílá čitelné pro všechny</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Úp&amp;ravy</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Ukáže poslední změnu a vrátí ji</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Provede znovu, co bylo naposledy vráceno</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;Historie...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>Co kdo provedl; vrátí to</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>Historie &amp;vybraných...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>Co bylo provedeno s vybranými uzly</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1316,19 +1501,57 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>Odebrat tento uzel? Nelze jej vrátit.</translation>
+        <source>Put Back</source>
+        <translation>Vrátit</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>Odebrat %n uzel? Nelze jej vrátit.</numerusform>
-            <numerusform>Odebrat tyto %n uzly? Nelze je vrátit.</numerusform>
-            <numerusform>Odebrat těchto %n uzlů? Nelze je vrátit.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: toto se změní. OK vrátí, co je zaškrtnuto.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: už nic nelze vrátit.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Co se změní</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Někdo jiný to mezitím změnil; zůstává to tak:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Vše, co lze vrátit</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Uzel</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nyní</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Bude</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Proč ne</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Odebrat uzly</translation>
@@ -1336,6 +1559,18 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Odebrat</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>Odebrat tento uzel? Úpravy &gt; Zpět jej vrátí.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>Odebrat %n uzel? Úpravy &gt; Zpět jej vrátí.</numerusform>
+            <numerusform>Odebrat tyto %n uzly? Úpravy &gt; Zpět je vrátí.</numerusform>
+            <numerusform>Odebrat těchto %n uzlů? Úpravy &gt; Zpět je vrátí.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1440,6 +1675,33 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Cancel</source>
         <translation>Zrušit</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>&amp;Zpět „%1“</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Zpět</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>Z&amp;novu „%1“</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Z&amp;novu</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Vráceno: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Provedeno znovu: %1</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Ohne --import, --export, --backup und --restore wird ein Fenster geöffnet; dann
     <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>Im Verlauf zeigen...</translation>
     </message>
 </context>
 <context>
@@ -697,6 +720,173 @@ Ohne --import, --export, --backup und --restore wird ein Fenster geöffnet; dann
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Nur von „%1“</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Nur vom ausgewählten Knoten</numerusform>
+            <numerusform>Nur von den %n ausgewählten Knoten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Was getan wurde</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Was es änderte</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Es wird weiter gesucht...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>Es gibt mehr: blättern Sie nach unten.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>Das ist alles.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>eine ausgewählte Änderung</numerusform>
+            <numerusform>%n ausgewählte Änderungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Zurückgenommen: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Nur, was bis zum Eintrag des Änderungsprotokolls getan wurde</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>Was getan wurde:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>Was es änderte:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Zurücknehmen...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Ausgewählte Änderungen zurücknehmen...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportieren...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Verlauf exportieren</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Listen (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>Der Verlauf wurde nicht geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>Der Verlauf wird exportiert...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Knoten, Werte, was getan wurde</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Alle Arten</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Alle Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Suchen:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Benutzer:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Art:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Eigenschaft:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Von:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Bis:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Was getan wurde</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knoten</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -795,41 +985,6 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>1 large + 7</source>
         <translation>1 groß + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Gerät hinzugefügt</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Gerät entfernt</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Anderes Gerät akzeptiert</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Gerät mit dem Namen %1 hinzugefügt.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Gerät mit dem Namen %1 entfernt.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Anderes Gerät als bisher als %1 akzeptiert.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Klartextpasswort erlaubt</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>Es wurde erlaubt, das Passwort von %1 im Klartext zu senden.</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1310,34 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>Kameras, die es nicht anders annehmen, wird das Passwort für alle lesbar gesendet</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Zeigt, was zuletzt geändert wurde, und nimmt es zurück</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Wiederholt, was zuletzt rückgängig gemacht wurde</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;Verlauf...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>Was von wem getan wurde; nimmt es zurück</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>Verlauf der &amp;Auswahl...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>Was mit den ausgewählten Knoten getan wurde</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1298,18 +1481,57 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>Diesen Knoten entfernen? Er kann nicht wiederhergestellt werden.</translation>
+        <source>Put Back</source>
+        <translation>Zurücknehmen</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>Diesen Knoten entfernen? Er kann nicht wiederhergestellt werden.</numerusform>
-            <numerusform>Diese %n Knoten entfernen? Sie können nicht wiederhergestellt werden.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: das würde sich ändern. OK nimmt zurück, was angehakt ist.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: davon kann nichts mehr zurückgenommen werden.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Was sich ändern würde</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Jemand anders hat dies inzwischen geändert; es bleibt, wie es jetzt ist:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Alles, was zurückgenommen werden kann</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Wird zu</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Warum nicht</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Knoten entfernen</translation>
@@ -1317,6 +1539,17 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>Diesen Knoten entfernen? Bearbeiten &gt; Rückgängig bringt ihn zurück.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>Diesen Knoten entfernen? Bearbeiten &gt; Rückgängig bringt ihn zurück.</numerusform>
+            <numerusform>Diese %n Knoten entfernen? Bearbeiten &gt; Rückgängig bringt sie zurück.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1653,33 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>&amp;Rückgängig: „%1“</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>&amp;Wiederholen: „%1“</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Rückgängig gemacht: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederholt: %1</translation>
     </message>
 </context>
 </TS>

@@ -115,6 +115,23 @@
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Only of the %n selected node</numerusform>
+            <numerusform>Only of the %n selected nodes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>%n selected change</numerusform>
+            <numerusform>%n selected changes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message numerus="yes">
         <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>
@@ -151,10 +168,10 @@
 <context>
     <name>RemoveNodesBox</name>
     <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
         <translation>
-            <numerusform>Remove this node? It cannot be brought back.</numerusform>
-            <numerusform>Remove these %n nodes? They cannot be brought back.</numerusform>
+            <numerusform>Remove this node? Edit &gt; Undo brings it back.</numerusform>
+            <numerusform>Remove these %n nodes? Edit &gt; Undo brings them back.</numerusform>
         </translation>
     </message>
 </context>

@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Nodo</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Después</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Sin --import, --export, --backup ni --restore abre una ventana y acepta también
     <message>
         <source>Copy</source>
         <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>Mostrar en el historial...</translation>
     </message>
 </context>
 <context>
@@ -697,6 +720,173 @@ Sin --import, --export, --backup ni --restore abre una ventana y acepta también
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Solo de «%1»</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Solo del nodo seleccionado</numerusform>
+            <numerusform>Solo de los %n nodos seleccionados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Lo que se hizo</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Lo que cambió</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Buscando más...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>No se encontró nada.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>Hay más: desplácese hacia abajo.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>Esto es todo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>un cambio seleccionado</numerusform>
+            <numerusform>%n cambios seleccionados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Revertido: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Solo lo hecho hasta la entrada del registro de auditoría</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>Lo que se hizo:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>Lo que cambió:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Revertir...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Revertir los cambios seleccionados...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportar...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Exportar el historial</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Listas (*.csv);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>El historial no se ha escrito: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>Exportando el historial...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Nodos, valores, lo que se hizo</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Todos los tipos</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Todas las propiedades</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Buscar:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Usuario:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Tipo:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Propiedad:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Desde:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Hasta:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Puesto</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Lo que se hizo</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nodos</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -795,41 +985,6 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>1 large + 7</source>
         <translation>1 grande + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Dispositivo añadido</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Dispositivo eliminado</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Otro dispositivo aceptado</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Dispositivo con el nombre %1 añadido.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Dispositivo con el nombre %1 eliminado.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Aceptado como %1 otro dispositivo que antes.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Contraseña sin cifrar permitida</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>Se ha permitido enviar sin cifrar la contraseña de %1.</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1310,34 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>A las cámaras que no la admiten de otro modo se les envía la contraseña legible para todos</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Muestra lo último que se cambió y lo revierte</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Rehace lo último que se deshizo</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;Historial...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>Qué se hizo y quién; lo revierte</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>Historial de la &amp;selección...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>Lo que se hizo con los nodos seleccionados</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1298,18 +1481,57 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>¿Eliminar este nodo? No se podrá recuperar.</translation>
+        <source>Put Back</source>
+        <translation>Revertir</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>¿Eliminar este nodo? No se podrá recuperar.</numerusform>
-            <numerusform>¿Eliminar estos %n nodos? No se podrán recuperar.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: esto es lo que cambiaría. Aceptar revierte lo que está marcado.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: ya no se puede revertir nada.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Lo que cambiaría</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Otra persona ha cambiado esto entretanto; se queda como está:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Todo lo que se puede revertir</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Nodo</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Será</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Por qué no</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Eliminar nodos</translation>
@@ -1317,6 +1539,17 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>¿Eliminar este nodo? Editar &gt; Deshacer lo recupera.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>¿Eliminar este nodo? Editar &gt; Deshacer lo recupera.</numerusform>
+            <numerusform>¿Eliminar estos %n nodos? Editar &gt; Deshacer los recupera.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1653,33 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>&amp;Deshacer «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>&amp;Rehacer «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Deshecho: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rehecho: %1</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Nœud</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Après</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Sans --import, --export, --backup ni --restore, ouvre une fenêtre et accepte au
     <message>
         <source>Copy</source>
         <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>Afficher dans l&apos;historique...</translation>
     </message>
 </context>
 <context>
@@ -697,6 +720,173 @@ Sans --import, --export, --backup ni --restore, ouvre une fenêtre et accepte au
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Seulement de « %1 »</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Seulement du nœud sélectionné</numerusform>
+            <numerusform>Seulement des %n nœuds sélectionnés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Ce qui a été fait</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Ce que cela a modifié</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Recherche en cours...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Rien n&apos;a été trouvé.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>Il y en a plus : faites défiler vers le bas.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>C&apos;est tout.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>une modification sélectionnée</numerusform>
+            <numerusform>%n modifications sélectionnées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Remis en l&apos;état : %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Seulement ce qui a été fait jusqu&apos;à l&apos;entrée du journal d&apos;audit</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>Ce qui a été fait :</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>Ce que cela a modifié :</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Remettre en l&apos;état...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Remettre en l&apos;état les modifications sélectionnées...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exporter...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Exporter l&apos;historique</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Listes (*.csv);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>L&apos;historique n&apos;a pas été écrit : %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>Exportation de l&apos;historique...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>Du</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Au</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Nœuds, valeurs, ce qui a été fait</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Tous les types</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Toutes les propriétés</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Rechercher :</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Utilisateur :</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Type :</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Propriété :</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Du :</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Au :</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Poste</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Ce qui a été fait</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nœuds</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -795,41 +985,6 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>1 large + 7</source>
         <translation>1 grande + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Appareil ajouté</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Appareil supprimé</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Autre appareil accepté</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Appareil nommé %1 ajouté.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Appareil nommé %1 supprimé.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Autre appareil qu&apos;avant accepté comme %1.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Mot de passe en clair autorisé</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>L&apos;envoi en clair du mot de passe de %1 a été autorisé.</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1310,34 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>Les caméras qui ne l&apos;acceptent pas autrement reçoivent le mot de passe lisible par tous</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Montre ce qui a été modifié en dernier et le remet en l&apos;état</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Rétablit ce qui a été annulé en dernier</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;Historique...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>Ce qui a été fait, par qui, et le remet en l&apos;état</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>Historique de la &amp;sélection...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>Ce qui a été fait aux nœuds sélectionnés</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1298,18 +1481,57 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>Supprimer ce nœud ? Il ne pourra pas être récupéré.</translation>
+        <source>Put Back</source>
+        <translation>Remettre en l&apos;état</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>Supprimer ce nœud ? Il ne pourra pas être récupéré.</numerusform>
-            <numerusform>Supprimer ces %n nœuds ? Ils ne pourront pas être récupérés.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1 : voici ce qui changerait. OK remet en l&apos;état ce qui est coché.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1 : plus rien ne peut être remis en l&apos;état.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Ce qui changerait</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Quelqu&apos;un d&apos;autre a modifié ceci entre-temps ; cela reste tel quel :</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Tout ce qui peut être remis en l&apos;état</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Nœud</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Actuel</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Deviendra</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Pourquoi non</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Supprimer des nœuds</translation>
@@ -1317,6 +1539,17 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>Supprimer ce nœud ? Édition &gt; Annuler le fait revenir.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>Supprimer ce nœud ? Édition &gt; Annuler le fait revenir.</numerusform>
+            <numerusform>Supprimer ces %n nœuds ? Édition &gt; Annuler les fait revenir.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1653,33 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>&amp;Annuler « %1 »</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>&amp;Rétablir « %1 »</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Annulé : %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rétabli : %1</translation>
     </message>
 </context>
 </TS>

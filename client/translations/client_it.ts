@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Nodo</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Cosa</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Prima</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Dopo</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Senza --import, --export, --backup e --restore apre una finestra e accetta anche
     <message>
         <source>Copy</source>
         <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>Mostra nella cronologia...</translation>
     </message>
 </context>
 <context>
@@ -697,6 +720,173 @@ Senza --import, --export, --backup e --restore apre una finestra e accetta anche
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Solo di &quot;%1&quot;</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Solo del nodo selezionato</numerusform>
+            <numerusform>Solo dei %n nodi selezionati</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Che cosa è stato fatto</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Che cosa ha modificato</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Ricerca in corso...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Non è stato trovato nulla.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>C&apos;è dell&apos;altro: scorrere verso il basso.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>Questo è tutto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>una modifica selezionata</numerusform>
+            <numerusform>%n modifiche selezionate</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Ripristinato: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Solo ciò che è stato fatto fino alla voce del registro di controllo</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>Che cosa è stato fatto:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>Che cosa ha modificato:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Ripristina...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Ripristina le modifiche selezionate...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Esporta...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Esporta cronologia</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Elenchi (*.csv);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>La cronologia non è stata scritta: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>Esportazione della cronologia...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>Dal</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Al</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Nodi, valori, che cosa è stato fatto</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Tutti i tipi</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Tutte le proprietà</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Trova:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Utente:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Tipo:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Proprietà:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Dal:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Al:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utente</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Postazione</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Che cosa è stato fatto</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nodi</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -795,41 +985,6 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>1 large + 7</source>
         <translation>1 grande + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Dispositivo aggiunto</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Dispositivo rimosso</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Altro dispositivo accettato</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Dispositivo con nome %1 aggiunto.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Dispositivo con nome %1 rimosso.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Accettato come %1 un dispositivo diverso da prima.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Password in chiaro consentita</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>Consentito l&apos;invio in chiaro della password di %1.</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1310,34 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>Alle telecamere che non la accettano altrimenti la password è inviata leggibile da tutti</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Mostra l&apos;ultima modifica e la annulla</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Ripete l&apos;ultima cosa annullata</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;Cronologia...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>Che cosa è stato fatto, da chi, e lo ripristina</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>Cronologia dei &amp;selezionati...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>Che cosa è stato fatto ai nodi selezionati</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1298,18 +1481,57 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>Rimuovere questo nodo? Non potrà essere recuperato.</translation>
+        <source>Put Back</source>
+        <translation>Ripristina</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>Rimuovere questo nodo? Non potrà essere recuperato.</numerusform>
-            <numerusform>Rimuovere questi %n nodi? Non potranno essere recuperati.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: questo è ciò che cambierebbe. OK ripristina ciò che è selezionato.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: non si può più ripristinare nulla.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Che cosa cambierebbe</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Qualcun altro ha modificato questo nel frattempo; resta com&apos;è:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Tutto ciò che si può ripristinare</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Nodo</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Cosa</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Diventerà</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Perché no</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Rimuovi nodi</translation>
@@ -1317,6 +1539,17 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>Rimuovere questo nodo? Modifica &gt; Annulla lo riporta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>Rimuovere questo nodo? Modifica &gt; Annulla lo riporta.</numerusform>
+            <numerusform>Rimuovere questi %n nodi? Modifica &gt; Annulla li riporta.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1653,33 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>A&amp;nnulla &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>A&amp;nnulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>&amp;Ripeti &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Annullato: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Ripetuto: %1</translation>
     </message>
 </context>
 </TS>

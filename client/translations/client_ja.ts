@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>ノード</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>変更前</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>変更後</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Without --import, --export, --backup and --restore it opens a window, and takes 
     <message>
         <source>Copy</source>
         <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>履歴に表示...</translation>
     </message>
 </context>
 <context>
@@ -683,6 +706,171 @@ Without --import, --export, --backup and --restore it opens a window, and takes 
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>「%1」のみ</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>選択した%n個のノードのみ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>行われた操作</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>変更された内容</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>検索中...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>続きがあります: 下にスクロールしてください。</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>以上です。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>選択した%n件の変更</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>元に戻しました: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>監査ログの項目までの変更のみ</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>行われた操作:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>変更された内容:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>元に戻す...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>選択した変更を元に戻す...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>エクスポート...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>履歴のエクスポート</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>一覧 (*.csv);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>履歴を書き込めませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>履歴をエクスポートしています...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>ノード、値、操作</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>すべての種類</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>すべてのプロパティ</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>検索:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>ユーザー:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>種類:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>プロパティ:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>開始:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>終了:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>端末</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>行われた操作</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>ノード</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -781,41 +969,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>1 large + 7</source>
         <translation>大1 + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>デバイスの追加</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>デバイスの削除</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>別のデバイスの承認</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>デバイス「%1」を追加しました。</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>デバイス「%1」を削除しました。</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>以前と別のデバイスを%1として承認しました。</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>平文パスワードの許可</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>%1のパスワードを平文で送信することを許可しました。</translation>
     </message>
 </context>
 <context>
@@ -1138,6 +1291,34 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>ほかの方法では受け付けないカメラに、誰でも読める形でパスワードを送信します</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>最後の変更を表示し、元に戻します</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>最後に元に戻した操作をやり直します</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>履歴(&amp;H)...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>誰が何を行ったかを表示し、元に戻します</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>選択項目の履歴(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>選択したノードに行われた操作</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1280,17 +1461,57 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>このノードを削除しますか? 元に戻すことはできません。</translation>
+        <source>Put Back</source>
+        <translation>元に戻す</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>これら%n個のノードを削除しますか? 元に戻すことはできません。</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: 次のように変わります。OKを押すとチェックした項目を元に戻します。</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: 元に戻せるものはもうありません。</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>変更内容</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>次の項目はほかの人が変更したため、現在のままにします:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>元に戻せるものすべて</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>ノード</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>変更後</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>できない理由</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>ノードの削除</translation>
@@ -1298,6 +1519,16 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>&amp;Remove</source>
         <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>このノードを削除しますか? [編集] &gt; [元に戻す]で元に戻せます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>これら%n個のノードを削除しますか? [編集] &gt; [元に戻す]で元に戻せます。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1400,6 +1631,33 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>元に戻す(&amp;U):「%1」</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>やり直し(&amp;R):「%1」</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>元に戻しました: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>やり直し: %1</translation>
     </message>
 </context>
 </TS>

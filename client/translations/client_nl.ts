@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Knooppunt</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Wat</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Voorheen</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Daarna</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Zonder --import, --export, --backup en --restore wordt een venster geopend en ge
     <message>
         <source>Copy</source>
         <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>In geschiedenis tonen...</translation>
     </message>
 </context>
 <context>
@@ -697,6 +720,173 @@ Zonder --import, --export, --backup en --restore wordt een venster geopend en ge
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Alleen van &quot;%1&quot;</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Alleen van het geselecteerde knooppunt</numerusform>
+            <numerusform>Alleen van de %n geselecteerde knooppunten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Geschiedenis</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Wat er is gedaan</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Wat dat heeft gewijzigd</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Er wordt verder gezocht...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Niets gevonden.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>Er is meer: schuif omlaag.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>Dit is alles.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>een geselecteerde wijziging</numerusform>
+            <numerusform>%n geselecteerde wijzigingen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Teruggedraaid: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Alleen wat tot en met het item van het auditlogboek is gedaan</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>Wat er is gedaan:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>Wat dat heeft gewijzigd:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Terugdraaien...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Geselecteerde wijzigingen terugdraaien...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exporteren...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Geschiedenis exporteren</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Lijsten (*.csv);;Alle bestanden (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>De geschiedenis is niet geschreven: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>De geschiedenis wordt geëxporteerd...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>Van</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Tot</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Knooppunten, waarden, wat er is gedaan</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Alle soorten</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Alle eigenschappen</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Zoeken:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Gebruiker:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Soort:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Eigenschap:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Van:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Tot:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Gebruiker</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Werkstation</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Wat er is gedaan</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Knooppunten</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -795,41 +985,6 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>1 large + 7</source>
         <translation>1 groot + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Apparaat toegevoegd</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Apparaat verwijderd</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Ander apparaat geaccepteerd</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Apparaat met naam %1 toegevoegd.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Apparaat met naam %1 verwijderd.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Ander apparaat dan voorheen geaccepteerd als %1.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Onversleuteld wachtwoord toegestaan</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>Toegestaan om het wachtwoord van %1 onversleuteld te sturen.</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1310,34 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>Camera&apos;s die het niet anders accepteren krijgen het wachtwoord voor iedereen leesbaar toegestuurd</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Be&amp;werken</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Toont wat het laatst is gewijzigd en draait het terug</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Doet opnieuw wat het laatst ongedaan is gemaakt</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;Geschiedenis...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>Wat er door wie is gedaan, en draait het terug</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>Geschiedenis van &amp;selectie...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>Wat er met de geselecteerde knooppunten is gedaan</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1298,18 +1481,57 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>Dit knooppunt verwijderen? Het kan niet worden teruggehaald.</translation>
+        <source>Put Back</source>
+        <translation>Terugdraaien</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>Dit knooppunt verwijderen? Het kan niet worden teruggehaald.</numerusform>
-            <numerusform>Deze %n knooppunten verwijderen? Ze kunnen niet worden teruggehaald.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: dit zou er wijzigen. OK draait terug wat is aangevinkt.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: hiervan kan niets meer worden teruggedraaid.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Wat er zou wijzigen</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Iemand anders heeft dit intussen gewijzigd; het blijft zoals het is:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Alles wat kan worden teruggedraaid</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Knooppunt</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Wat</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nu</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Wordt</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Waarom niet</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Knooppunten verwijderen</translation>
@@ -1317,6 +1539,17 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Verwijderen</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>Dit knooppunt verwijderen? Bewerken &gt; Ongedaan maken haalt het terug.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>Dit knooppunt verwijderen? Bewerken &gt; Ongedaan maken haalt het terug.</numerusform>
+            <numerusform>Deze %n knooppunten verwijderen? Bewerken &gt; Ongedaan maken haalt ze terug.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1653,33 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Cancel</source>
         <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>&amp;Ongedaan maken: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>O&amp;pnieuw: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>O&amp;pnieuw</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Ongedaan gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Opnieuw gedaan: %1</translation>
     </message>
 </context>
 </TS>

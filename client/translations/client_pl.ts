@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Węzeł</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Przedtem</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Potem</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Bez --import, --export, --backup i --restore otwiera okno i przyjmuje też opcje
     <message>
         <source>Copy</source>
         <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>Pokaż w historii...</translation>
     </message>
 </context>
 <context>
@@ -711,6 +734,175 @@ Bez --import, --export, --backup i --restore otwiera okno i przyjmuje też opcje
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Tylko „%1”</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Tylko %n zaznaczony węzeł</numerusform>
+            <numerusform>Tylko %n zaznaczone węzły</numerusform>
+            <numerusform>Tylko %n zaznaczonych węzłów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Co zrobiono</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Co to zmieniło</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Trwa wyszukiwanie...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nic nie znaleziono.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>Jest tego więcej: przewiń w dół.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>To wszystko.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>%n zaznaczona zmiana</numerusform>
+            <numerusform>%n zaznaczone zmiany</numerusform>
+            <numerusform>%n zaznaczonych zmian</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Tylko to, co zrobiono do wpisu w dzienniku audytu</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>Co zrobiono:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>Co to zmieniło:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Cofnij...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Cofnij zaznaczone zmiany...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Eksportuj...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Eksport historii</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Listy (*.csv);;Wszystkie pliki (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>Historia nie została zapisana: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>Eksportowanie historii...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>Od</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Węzły, wartości, co zrobiono</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Wszystkie rodzaje</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Wszystkie właściwości</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Szukaj:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Użytkownik:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Rodzaj:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Właściwość:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>Od:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Do:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Użytkownik</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Stanowisko</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Co zrobiono</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Węzły</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -809,41 +1001,6 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>1 large + 7</source>
         <translation>1 duży + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Dodano urządzenie</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Usunięto urządzenie</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Przyjęto inne urządzenie</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Dodano urządzenie o nazwie %1.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Usunięto urządzenie o nazwie %1.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Jako %1 przyjęto inne urządzenie niż poprzednio.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Zezwolono na jawne hasło</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>Zezwolono na wysyłanie hasła %1 jawnym tekstem.</translation>
     </message>
 </context>
 <context>
@@ -1172,6 +1329,34 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>Kamerom, które nie przyjmują go inaczej, hasło jest wysyłane w postaci czytelnej dla wszystkich</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edycja</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Pokazuje ostatnią zmianę i ją cofa</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Ponawia to, co ostatnio cofnięto</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;Historia...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>Co i kto zrobił; cofa to</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>Historia &amp;zaznaczonych...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>Co zrobiono z zaznaczonymi węzłami</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1316,19 +1501,57 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>Usunąć ten węzeł? Nie będzie można go przywrócić.</translation>
+        <source>Put Back</source>
+        <translation>Cofnij</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>Usunąć %n węzeł? Nie będzie można go przywrócić.</numerusform>
-            <numerusform>Usunąć te %n węzły? Nie będzie można ich przywrócić.</numerusform>
-            <numerusform>Usunąć te %n węzłów? Nie będzie można ich przywrócić.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: to się zmieni. OK cofa to, co zaznaczono.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: niczego nie można już cofnąć.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Co się zmieni</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Ktoś inny zmienił to w międzyczasie; pozostaje bez zmian:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Wszystko, co można cofnąć</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Węzeł</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Teraz</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Będzie</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Dlaczego nie</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Usuń węzły</translation>
@@ -1336,6 +1559,18 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Usuń</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>Usunąć ten węzeł? Edycja &gt; Cofnij go przywróci.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>Usunąć %n węzeł? Edycja &gt; Cofnij go przywróci.</numerusform>
+            <numerusform>Usunąć te %n węzły? Edycja &gt; Cofnij je przywróci.</numerusform>
+            <numerusform>Usunąć te %n węzłów? Edycja &gt; Cofnij je przywróci.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1440,6 +1675,33 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Cancel</source>
         <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>&amp;Cofnij „%1”</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Cofnij</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>&amp;Ponów „%1”</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ponów</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Ponowiono: %1</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Nó</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>O quê</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Depois</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Sem --import, --export, --backup e --restore, abre uma janela e aceita também a
     <message>
         <source>Copy</source>
         <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>Mostrar no histórico...</translation>
     </message>
 </context>
 <context>
@@ -697,6 +720,173 @@ Sem --import, --export, --backup e --restore, abre uma janela e aceita também a
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Somente de &quot;%1&quot;</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Somente do nó selecionado</numerusform>
+            <numerusform>Somente dos %n nós selecionados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>O que foi feito</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>O que isso alterou</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Procurando mais...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nada foi encontrado.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>Há mais: role para baixo.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>Isto é tudo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>uma alteração selecionada</numerusform>
+            <numerusform>%n alterações selecionadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Revertido: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Somente o que foi feito até a entrada do registro de auditoria</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>O que foi feito:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>O que isso alterou:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Reverter...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Reverter as alterações selecionadas...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportar...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Exportar histórico</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Listas (*.csv);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>O histórico não foi gravado: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>Exportando o histórico...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Até</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Nós, valores, o que foi feito</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Todos os tipos</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Todas as propriedades</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Procurar:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Usuário:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Tipo:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Propriedade:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>De:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>Até:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuário</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Estação</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>O que foi feito</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Nós</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -795,41 +985,6 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>1 large + 7</source>
         <translation>1 grande + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Dispositivo adicionado</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Dispositivo removido</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Outro dispositivo aceito</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Dispositivo com o nome %1 adicionado.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Dispositivo com o nome %1 removido.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Outro dispositivo que não o anterior aceito como %1.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Senha sem criptografia permitida</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>Permitido enviar a senha de %1 sem criptografia.</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1310,34 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>As câmeras que não a aceitam de outro modo recebem a senha legível por todos</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Mostra o que foi alterado por último e o reverte</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Refaz o que foi desfeito por último</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;Histórico...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>O que foi feito, por quem, e o reverte</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>Histórico dos &amp;selecionados...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>O que foi feito com os nós selecionados</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1298,18 +1481,57 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>Remover este nó? Ele não poderá ser recuperado.</translation>
+        <source>Put Back</source>
+        <translation>Reverter</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>Remover este nó? Ele não poderá ser recuperado.</numerusform>
-            <numerusform>Remover estes %n nós? Eles não poderão ser recuperados.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: isto é o que mudaria. OK reverte o que está marcado.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: nada mais pode ser revertido.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>O que mudaria</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Outra pessoa alterou isto nesse meio-tempo; fica como está:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Tudo o que pode ser revertido</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Nó</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>O quê</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Agora</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Será</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Por que não</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Remover nós</translation>
@@ -1317,6 +1539,17 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Remover</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>Remover este nó? Editar &gt; Desfazer o traz de volta.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>Remover este nó? Editar &gt; Desfazer o traz de volta.</numerusform>
+            <numerusform>Remover estes %n nós? Editar &gt; Desfazer os traz de volta.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1420,6 +1653,33 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>&amp;Desfazer &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>&amp;Refazer &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Desfeito: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Refeito: %1</translation>
     </message>
 </context>
 </TS>

@@ -45,6 +45,25 @@
     </message>
 </context>
 <context>
+    <name>AlterationModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Узел</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>До</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>После</translation>
+    </message>
+</context>
+<context>
     <name>Application</name>
     <message>
         <source>Node Database</source>
@@ -142,6 +161,10 @@ Without --import, --export, --backup and --restore it opens a window, and takes 
     <message>
         <source>Copy</source>
         <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Show in History...</source>
+        <translation>Показать в истории...</translation>
     </message>
 </context>
 <context>
@@ -711,6 +734,175 @@ Without --import, --export, --backup and --restore it opens a window, and takes 
     </message>
 </context>
 <context>
+    <name>HistoryDialog</name>
+    <message>
+        <source>Only of &quot;%1&quot;</source>
+        <comment>node</comment>
+        <translation>Только «%1»</translation>
+    </message>
+    <message numerus="yes">
+        <source>Only of the %n selected node(s)</source>
+        <translation>
+            <numerusform>Только %n выбранный узел</numerusform>
+            <numerusform>Только %n выбранных узла</numerusform>
+            <numerusform>Только %n выбранных узлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Что сделано</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Что изменено</translation>
+    </message>
+    <message>
+        <source>Looking for more...</source>
+        <translation>Идёт поиск...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Ничего не найдено.</translation>
+    </message>
+    <message>
+        <source>There is more: scroll down to see it.</source>
+        <translation>Есть ещё: прокрутите вниз.</translation>
+    </message>
+    <message>
+        <source>This is all.</source>
+        <translation>Это всё.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected change(s)</source>
+        <translation>
+            <numerusform>%n выбранное изменение</numerusform>
+            <numerusform>%n выбранных изменения</numerusform>
+            <numerusform>%n выбранных изменений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Возвращено: %1</translation>
+    </message>
+    <message>
+        <source>Only what was done up to the entry of the audit log</source>
+        <translation>Только сделанное до записи журнала аудита</translation>
+    </message>
+    <message>
+        <source>What was done:</source>
+        <translation>Что сделано:</translation>
+    </message>
+    <message>
+        <source>What it changed:</source>
+        <translation>Что изменено:</translation>
+    </message>
+    <message>
+        <source>Put Back...</source>
+        <translation>Вернуть...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected Changes...</source>
+        <translation>Вернуть выбранные изменения...</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Экспорт...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryExport</name>
+    <message>
+        <source>Export History</source>
+        <translation>Экспорт истории</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv);;All files (*)</source>
+        <translation>Списки (*.csv);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>The history was not written: %1</source>
+        <translation>История не записана: %1</translation>
+    </message>
+    <message>
+        <source>Exporting the history...</source>
+        <translation>Экспорт истории...</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryFilterBar</name>
+    <message>
+        <source>From</source>
+        <translation>С</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>По</translation>
+    </message>
+    <message>
+        <source>Nodes, values, what was done</source>
+        <translation>Узлы, значения, что сделано</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Все виды</translation>
+    </message>
+    <message>
+        <source>All properties</source>
+        <translation>Все свойства</translation>
+    </message>
+    <message>
+        <source>Find:</source>
+        <translation>Найти:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Пользователь:</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Вид:</translation>
+    </message>
+    <message>
+        <source>Property:</source>
+        <translation>Свойство:</translation>
+    </message>
+    <message>
+        <source>From:</source>
+        <translation>С:</translation>
+    </message>
+    <message>
+        <source>To:</source>
+        <translation>По:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryModel</name>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Пользователь</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Станция</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Что сделано</translation>
+    </message>
+    <message>
+        <source>Nodes</source>
+        <translation>Узлы</translation>
+    </message>
+</context>
+<context>
     <name>ImportReportDialog</name>
     <message>
         <source>Line %1: %2</source>
@@ -809,41 +1001,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>1 large + 7</source>
         <translation>1 большое + 7</translation>
-    </message>
-</context>
-<context>
-    <name>LogEntry</name>
-    <message>
-        <source>Added device</source>
-        <translation>Добавлено устройство</translation>
-    </message>
-    <message>
-        <source>Removed device</source>
-        <translation>Удалено устройство</translation>
-    </message>
-    <message>
-        <source>Accepted another device</source>
-        <translation>Принято другое устройство</translation>
-    </message>
-    <message>
-        <source>Added device with name %1.</source>
-        <translation>Добавлено устройство с именем %1.</translation>
-    </message>
-    <message>
-        <source>Removed device with name %1.</source>
-        <translation>Удалено устройство с именем %1.</translation>
-    </message>
-    <message>
-        <source>Accepted another device than before as %1.</source>
-        <translation>Принято другое устройство, чем прежде, как %1.</translation>
-    </message>
-    <message>
-        <source>Allowed a clear password</source>
-        <translation>Разрешён открытый пароль</translation>
-    </message>
-    <message>
-        <source>Allowed to send the password of %1 in the clear.</source>
-        <translation>Разрешено отправлять пароль %1 в открытом виде.</translation>
     </message>
 </context>
 <context>
@@ -1172,6 +1329,34 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Cameras that take it in no other way are sent the password for all to read</source>
         <translation>Камерам, которые не принимают его иначе, пароль отправляется в виде, доступном всем</translation>
     </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>Shows what was changed last, and puts it back</source>
+        <translation>Показывает последнее изменение и отменяет его</translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation>Повторяет последнее отменённое</translation>
+    </message>
+    <message>
+        <source>&amp;History...</source>
+        <translation>&amp;История...</translation>
+    </message>
+    <message>
+        <source>What was done, by whom, and puts it back</source>
+        <translation>Что и кем сделано; отменяет это</translation>
+    </message>
+    <message>
+        <source>History of &amp;Selected...</source>
+        <translation>История &amp;выбранных...</translation>
+    </message>
+    <message>
+        <source>What was done to the selected nodes</source>
+        <translation>Что сделано с выбранными узлами</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1316,19 +1501,57 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
-    <name>RemoveNodesBox</name>
+    <name>PutBackDialog</name>
     <message>
-        <source>Remove this node? It cannot be brought back.</source>
-        <translation>Удалить этот узел? Вернуть его будет нельзя.</translation>
+        <source>Put Back</source>
+        <translation>Вернуть</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove these %n nodes? They cannot be brought back.</source>
-        <translation>
-            <numerusform>Удалить %n узел? Вернуть его будет нельзя.</numerusform>
-            <numerusform>Удалить эти %n узла? Вернуть их будет нельзя.</numerusform>
-            <numerusform>Удалить эти %n узлов? Вернуть их будет нельзя.</numerusform>
-        </translation>
+    <message>
+        <source>%1: this is what would change. OK puts back what is ticked.</source>
+        <translation>%1: вот что изменится. OK возвращает отмеченное.</translation>
     </message>
+    <message>
+        <source>%1: nothing of it can be put back any more.</source>
+        <translation>%1: вернуть уже ничего нельзя.</translation>
+    </message>
+    <message>
+        <source>What would change</source>
+        <translation>Что изменится</translation>
+    </message>
+    <message>
+        <source>Somebody else changed this meanwhile, and it stays as it is now:</source>
+        <translation>Кто-то другой тем временем изменил это; оно остаётся как есть:</translation>
+    </message>
+    <message>
+        <source>All that can be put back</source>
+        <translation>Всё, что можно вернуть</translation>
+    </message>
+</context>
+<context>
+    <name>PutBackModel</name>
+    <message>
+        <source>Node</source>
+        <translation>Узел</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Сейчас</translation>
+    </message>
+    <message>
+        <source>Will become</source>
+        <translation>Станет</translation>
+    </message>
+    <message>
+        <source>Why not</source>
+        <translation>Почему нет</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
         <translation>Удаление узлов</translation>
@@ -1336,6 +1559,18 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>Remove this node? Edit &gt; Undo brings it back.</source>
+        <translation>Удалить этот узел? Его вернёт Правка &gt; Отменить.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
+        <translation>
+            <numerusform>Удалить %n узел? Его вернёт Правка &gt; Отменить.</numerusform>
+            <numerusform>Удалить эти %n узла? Их вернёт Правка &gt; Отменить.</numerusform>
+            <numerusform>Удалить эти %n узлов? Их вернёт Правка &gt; Отменить.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1440,6 +1675,33 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Cancel</source>
         <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>UndoCommands</name>
+    <message>
+        <source>&amp;Undo &quot;%1&quot;</source>
+        <translation>&amp;Отменить «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo &quot;%1&quot;</source>
+        <translation>&amp;Повторить «%1»</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>Undone: %1</source>
+        <translation>Отменено: %1</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Повторено: %1</translation>
     </message>
 </context>
 </TS>

@@ -207,6 +207,197 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Vlastnosti</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Vlastnosti: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Vlastnosti %n uzlu</numerusform>
+            <numerusform>Vlastnosti %n uzlů</numerusform>
+            <numerusform>Vlastnosti %n uzlů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Složky záznamů</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Složka záznamů: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Složky záznamů %n kamery</numerusform>
+            <numerusform>Složky záznamů %n kamer</numerusform>
+            <numerusform>Složky záznamů %n kamer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Uživatelé a hesla</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Uživatel a heslo: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Uživatel a heslo %n uzlu</numerusform>
+            <numerusform>Uživatel a heslo %n uzlů</numerusform>
+            <numerusform>Uživatel a heslo %n uzlů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Přidání uzlů</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Přidání: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Přidání %n uzlu</numerusform>
+            <numerusform>Přidání %n uzlů</numerusform>
+            <numerusform>Přidání %n uzlů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Odebrání uzlů</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Odebrání: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Odebrání %n uzlu</numerusform>
+            <numerusform>Odebrání %n uzlů</numerusform>
+            <numerusform>Odebrání %n uzlů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Importy</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Import: %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>Údaje od kamer</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>Údaje od: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>Údaje od %n kamery</numerusform>
+            <numerusform>Údaje od %n kamer</numerusform>
+            <numerusform>Údaje od %n kamer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Nové adresy</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Nová adresa: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Nové adresy %n zařízení</numerusform>
+            <numerusform>Nové adresy %n zařízení</numerusform>
+            <numerusform>Nové adresy %n zařízení</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Hledání</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Hledání našlo: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Hledání našlo %n zařízení</numerusform>
+            <numerusform>Hledání našlo %n zařízení</numerusform>
+            <numerusform>Hledání našlo %n zařízení</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Rozpoznávací znaky kamer</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Rozpoznávací znaky: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Rozpoznávací znaky %n kamery</numerusform>
+            <numerusform>Rozpoznávací znaky %n kamer</numerusform>
+            <numerusform>Rozpoznávací znaky %n kamer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Globální proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Prostředí</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Nová databáze</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Obnovená záloha</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Vráceno</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Změna novější verze</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Provedeno znovu: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Vráceno: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +520,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Uživatel a heslo zadány</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Adresa proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Port proxy</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Uživatel proxy</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Heslo proxy</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Uložit heslo proxy</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Otočná hlavice</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Použít vzdálený náhled</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Uložit heslo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Zvuk</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Režim náhledu</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Výchozí údaje připojení</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Výchozí snímková frekvence</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Výchozí kvalita JPEG</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Výchozí rozlišení</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Výchozí nastavení zvuku</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Výchozí cesta souborového serveru</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Výchozí server vzdáleného náhledu</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Aktivní prostředí</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Použít proxy</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Výjimky proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Prostředí</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Globální proxy</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Uzel</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Vše</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Známé zařízení</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(není)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(skryto)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>změněno</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>Už to tak je.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>Mezitím se to změnilo.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>Uzel byl odebrán.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>Nyní to používají jiné.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,13 +755,49 @@
         <source>Changed by a newer version</source>
         <translation>Změněno novější verzí</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 a ještě %n</numerusform>
-            <numerusform>%1 a ještě %n</numerusform>
-            <numerusform>%1 a ještě %n</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Změněny složky záznamů</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Změněni uživatelé a hesla</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Vráceno</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Přidáno zařízení</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Odebráno zařízení</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Povoleno otevřené heslo</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Přijato jiné zařízení</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Přidáno zařízení s názvem %1.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Odebráno zařízení s názvem %1.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Jako %1 přijato jiné zařízení než dříve.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Povoleno odesílat heslo %1 v otevřené podobě.</translation>
     </message>
 </context>
 <context>

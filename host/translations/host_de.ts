@@ -207,6 +207,188 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Eigenschaften von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Eigenschaften eines Knotens</numerusform>
+            <numerusform>Eigenschaften von %n Knoten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Aufzeichnungsordner</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Aufzeichnungsordner von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Aufzeichnungsordner einer Kamera</numerusform>
+            <numerusform>Aufzeichnungsordner von %n Kameras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Benutzer und Passwörter</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Benutzer und Passwort von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Benutzer und Passwort eines Knotens</numerusform>
+            <numerusform>Benutzer und Passwort von %n Knoten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Hinzufügen von Knoten</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Hinzufügen von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Hinzufügen eines Knotens</numerusform>
+            <numerusform>Hinzufügen von %n Knoten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Entfernen von Knoten</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Entfernen von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Entfernen eines Knotens</numerusform>
+            <numerusform>Entfernen von %n Knoten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Importe</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Import von %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>Angaben von Kameras</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>Angaben von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>Angaben einer Kamera</numerusform>
+            <numerusform>Angaben von %n Kameras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Neue Adressen</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Neue Adresse von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Neue Adresse eines Geräts</numerusform>
+            <numerusform>Neue Adressen von %n Geräten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Eine Suche fand %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Eine Suche fand ein Gerät</numerusform>
+            <numerusform>Eine Suche fand %n Geräte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Erkennungsmerkmale von Kameras</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Erkennungsmerkmale von %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Erkennungsmerkmale einer Kamera</numerusform>
+            <numerusform>Erkennungsmerkmale von %n Kameras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Globaler Proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Umgebungen</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Neue Datenbank</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Wiederhergestellte Sicherung</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Zurückgenommen</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Änderung einer neueren Version</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Wiederholt: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Zurückgenommen: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +511,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Benutzer und Passwort eingegeben</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Proxyadresse</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Proxyport</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Proxybenutzer</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Proxypasswort</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Proxypasswort speichern</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Schwenk-Neige-Kopf</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Fernvorschau verwenden</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Passwort speichern</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Vorschaumodus</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Standard-Verbindungsdaten</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Standard-Bildrate</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Standard-JPEG-Qualität</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Standardauflösung</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Standard-Audioeinstellung</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Standardpfad des Dateiservers</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Standard-Fernvorschau-Server</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Aktive Umgebung</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Proxy verwenden</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Proxyausnahmen</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Umgebungen</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Globaler Proxy</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Bekanntes Gerät</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(nicht vorhanden)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(verborgen)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>Es ist schon so.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>Es wurde seitdem geändert.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>Der Knoten wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>Andere benutzen es jetzt.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,12 +746,49 @@
         <source>Changed by a newer version</source>
         <translation>Von einer neueren Version geändert</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 und ein weiterer</numerusform>
-            <numerusform>%1 und %n weitere</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Aufzeichnungsordner geändert</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Benutzer und Passwörter geändert</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Zurückgenommen</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Gerät hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Gerät entfernt</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Klartextpasswort erlaubt</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Anderes Gerät akzeptiert</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Gerät mit dem Namen %1 hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Gerät mit dem Namen %1 entfernt.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Anderes Gerät als bisher als %1 akzeptiert.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Es wurde erlaubt, das Passwort von %1 im Klartext zu senden.</translation>
     </message>
 </context>
 <context>

@@ -207,6 +207,188 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Propiedades</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Propiedades de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Propiedades de un nodo</numerusform>
+            <numerusform>Propiedades de %n nodos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Carpetas de grabación</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Carpeta de grabación de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Carpeta de grabación de una cámara</numerusform>
+            <numerusform>Carpetas de grabación de %n cámaras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Usuarios y contraseñas</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Usuario y contraseña de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Usuario y contraseña de un nodo</numerusform>
+            <numerusform>Usuario y contraseña de %n nodos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Adición de nodos</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Adición de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Adición de un nodo</numerusform>
+            <numerusform>Adición de %n nodos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Eliminación de nodos</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Eliminación de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Eliminación de un nodo</numerusform>
+            <numerusform>Eliminación de %n nodos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Importaciones</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Importación de %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>Lo que dijeron las cámaras</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>Lo que dijo %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>Lo que dijo una cámara</numerusform>
+            <numerusform>Lo que dijeron %n cámaras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Direcciones nuevas</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Dirección nueva de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Dirección nueva de un dispositivo</numerusform>
+            <numerusform>Direcciones nuevas de %n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Búsquedas</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Una búsqueda encontró %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Una búsqueda encontró un dispositivo</numerusform>
+            <numerusform>Una búsqueda encontró %n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Cómo se reconocen las cámaras</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Cómo se reconoce %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Cómo se reconoce una cámara</numerusform>
+            <numerusform>Cómo se reconocen %n cámaras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Proxy global</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Entornos</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Base de datos nueva</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Copia de seguridad restaurada</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Revertido</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Cambio de una versión más reciente</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rehecho: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Revertido: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +511,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Usuario y contraseña introducidos</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Dirección del proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Puerto del proxy</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Usuario del proxy</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Contraseña del proxy</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Guardar la contraseña del proxy</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Cabezal de giro/inclinación</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Usar vista previa remota</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Cámara</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Guardar la contraseña</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Modo de vista previa</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Datos de conexión predeterminados</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Frecuencia de imagen predeterminada</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Calidad JPEG predeterminada</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Resolución predeterminada</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Ajuste de audio predeterminado</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Ruta predeterminada del servidor de archivos</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Servidor de vista previa remota predeterminado</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Entorno activo</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Usar el proxy</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Excepciones de proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Entornos</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Proxy global</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Nodo</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Dispositivo conocido</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(no existe)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(oculta)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>cambiada</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>Ya está así.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>Se cambió desde entonces.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>El nodo se eliminó.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>Otros lo usan ahora.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,12 +746,49 @@
         <source>Changed by a newer version</source>
         <translation>Cambiado por una versión más reciente</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 y otro más</numerusform>
-            <numerusform>%1 y %n más</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Carpetas de grabación cambiadas</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Usuarios y contraseñas cambiados</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Revertido</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Dispositivo añadido</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Dispositivo eliminado</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Contraseña sin cifrar permitida</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Otro dispositivo aceptado</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Dispositivo con el nombre %1 añadido.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Dispositivo con el nombre %1 eliminado.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Aceptado como %1 otro dispositivo que antes.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Se ha permitido enviar sin cifrar la contraseña de %1.</translation>
     </message>
 </context>
 <context>

@@ -207,6 +207,188 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Propriétés de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Propriétés d&apos;un nœud</numerusform>
+            <numerusform>Propriétés de %n nœuds</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Dossiers d&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Dossier d&apos;enregistrement de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Dossier d&apos;enregistrement d&apos;une caméra</numerusform>
+            <numerusform>Dossiers d&apos;enregistrement de %n caméras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Utilisateurs et mots de passe</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Utilisateur et mot de passe de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Utilisateur et mot de passe d&apos;un nœud</numerusform>
+            <numerusform>Utilisateur et mot de passe de %n nœuds</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Ajouts de nœuds</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Ajout de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Ajout d&apos;un nœud</numerusform>
+            <numerusform>Ajout de %n nœuds</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Suppressions de nœuds</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Suppression de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Suppression d&apos;un nœud</numerusform>
+            <numerusform>Suppression de %n nœuds</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Importations</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Importation de %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>Indications des caméras</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>Indications de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>Indications d&apos;une caméra</numerusform>
+            <numerusform>Indications de %n caméras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Nouvelles adresses</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Nouvelle adresse de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Nouvelle adresse d&apos;un appareil</numerusform>
+            <numerusform>Nouvelles adresses de %n appareils</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Recherches</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Une recherche a trouvé %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Une recherche a trouvé un appareil</numerusform>
+            <numerusform>Une recherche a trouvé %n appareils</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Signes distinctifs des caméras</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Signes distinctifs de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Signes distinctifs d&apos;une caméra</numerusform>
+            <numerusform>Signes distinctifs de %n caméras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Proxy global</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Environnements</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Nouvelle base de données</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Sauvegarde restaurée</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Remis en l&apos;état</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Modification d&apos;une version plus récente</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Rétabli : %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Remis en l&apos;état : %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +511,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Utilisateur et mot de passe saisis</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Adresse du proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Port du proxy</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Utilisateur du proxy</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Mot de passe du proxy</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Enregistrer le mot de passe du proxy</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Tête panoramique/inclinable</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Utiliser l&apos;aperçu à distance</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Caméra</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Enregistrer le mot de passe</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Mode d&apos;aperçu</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Données de connexion par défaut</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Fréquence d&apos;images par défaut</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Qualité JPEG par défaut</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Résolution par défaut</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Paramètre audio par défaut</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Chemin du serveur de fichiers par défaut</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Serveur d&apos;aperçu à distance par défaut</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Environnement actif</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Utiliser le proxy</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Exceptions de proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Environnements</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Proxy global</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Nœud</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Appareil connu</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(absent)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(masqué)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modifié</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>C&apos;est déjà le cas.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>Modifié depuis.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>Le nœud a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>D&apos;autres l&apos;utilisent maintenant.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,12 +746,49 @@
         <source>Changed by a newer version</source>
         <translation>Modifié par une version plus récente</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 et un autre</numerusform>
-            <numerusform>%1 et %n autres</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Dossiers d&apos;enregistrement modifiés</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Utilisateurs et mots de passe modifiés</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Remis en l&apos;état</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Appareil ajouté</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Appareil supprimé</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Mot de passe en clair autorisé</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Autre appareil accepté</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Appareil nommé %1 ajouté.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Appareil nommé %1 supprimé.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Autre appareil qu&apos;avant accepté comme %1.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>L&apos;envoi en clair du mot de passe de %1 a été autorisé.</translation>
     </message>
 </context>
 <context>

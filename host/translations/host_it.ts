@@ -207,6 +207,188 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Proprietà</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Proprietà di %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Proprietà di un nodo</numerusform>
+            <numerusform>Proprietà di %n nodi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Cartelle di registrazione</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Cartella di registrazione di %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Cartella di registrazione di una telecamera</numerusform>
+            <numerusform>Cartelle di registrazione di %n telecamere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Utenti e password</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Utente e password di %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Utente e password di un nodo</numerusform>
+            <numerusform>Utente e password di %n nodi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Aggiunta di nodi</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Aggiunta di %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Aggiunta di un nodo</numerusform>
+            <numerusform>Aggiunta di %n nodi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Rimozione di nodi</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Rimozione di %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Rimozione di un nodo</numerusform>
+            <numerusform>Rimozione di %n nodi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Importazioni</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Importazione di %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>Dati delle telecamere</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>Dati di %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>Dati di una telecamera</numerusform>
+            <numerusform>Dati di %n telecamere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Nuovi indirizzi</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Nuovo indirizzo di %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Nuovo indirizzo di un dispositivo</numerusform>
+            <numerusform>Nuovi indirizzi di %n dispositivi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Ricerche</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Una ricerca ha trovato %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Una ricerca ha trovato un dispositivo</numerusform>
+            <numerusform>Una ricerca ha trovato %n dispositivi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Da cosa si riconoscono le telecamere</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Da cosa si riconosce %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Da cosa si riconosce una telecamera</numerusform>
+            <numerusform>Da cosa si riconoscono %n telecamere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Proxy globale</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Ambienti</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Nuovo database</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Backup ripristinato</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Ripristinato</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Modifica di una versione più recente</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Ripetuto: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Ripristinato: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +511,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Utente e password inseriti</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Indirizzo del proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Porta del proxy</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Utente del proxy</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Password del proxy</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Salva la password del proxy</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Testa pan/tilt</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Usa l&apos;anteprima remota</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Telecamera</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Salva la password</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Modalità di anteprima</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Dati di connessione predefiniti</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Frequenza fotogrammi predefinita</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Qualità JPEG predefinita</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Risoluzione predefinita</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Impostazione audio predefinita</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Percorso predefinito del file server</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Server di anteprima remota predefinito</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Ambiente attivo</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Usa il proxy</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Eccezioni del proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Ambienti</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Proxy globale</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Nodo</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Dispositivo noto</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(assente)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(nascosta)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modificata</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>È già così.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>È stato modificato nel frattempo.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>Il nodo è stato rimosso.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>Ora lo usano altri.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,12 +746,49 @@
         <source>Changed by a newer version</source>
         <translation>Modificato da una versione più recente</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 e un altro</numerusform>
-            <numerusform>%1 e altri %n</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Cartelle di registrazione modificate</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Utenti e password modificati</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Ripristinato</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Dispositivo aggiunto</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Dispositivo rimosso</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Password in chiaro consentita</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Altro dispositivo accettato</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Dispositivo con nome %1 aggiunto.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Dispositivo con nome %1 rimosso.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Accettato come %1 un dispositivo diverso da prima.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Consentito l&apos;invio in chiaro della password di %1.</translation>
     </message>
 </context>
 <context>

@@ -207,6 +207,179 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>%1のプロパティ</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>%n個のノードのプロパティ</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>録画フォルダー</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>%1の録画フォルダー</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>%n台のカメラの録画フォルダー</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>ユーザーとパスワード</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>%1のユーザーとパスワード</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>%n個のノードのユーザーとパスワード</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>ノードの追加</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>%1の追加</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>%n個のノードの追加</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>ノードの削除</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>%1の削除</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>%n個のノードの削除</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>%1のインポート</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>カメラから得た情報</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>%1から得た情報</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>%n台のカメラから得た情報</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>新しいアドレス</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>%1の新しいアドレス</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>%n台のデバイスの新しいアドレス</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>スキャン</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>スキャンで%1を検出</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>スキャンで%n台のデバイスを検出</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>カメラの識別情報</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>%1の識別情報</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>%n台のカメラの識別情報</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>グローバルプロキシ</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>環境</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>新しいデータベース</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>復元したバックアップ</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>元に戻した変更</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>新しいバージョンによる変更</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>やり直し: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>元に戻しました: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +502,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>ユーザーとパスワードの入力</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>プロキシのアドレス</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>プロキシのポート</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>プロキシのユーザー</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>プロキシのパスワード</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>プロキシのパスワードを保存</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>パン/チルトヘッド</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>リモートプレビューを使用</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>パスワードを保存</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>プレビューモード</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>既定の接続データ</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>既定のフレームレート</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>既定のJPEG画質</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>既定の解像度</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>既定の音声設定</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>既定のファイルサーバーパス</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>既定のリモートプレビューサーバー</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>有効な環境</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>プロキシを使用</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>プロキシの例外</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>環境</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>グローバルプロキシ</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>ノード</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>既知のデバイス</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(なし)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(非表示)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>変更あり</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>すでにその状態です。</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>その後変更されています。</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>ノードは削除されています。</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>現在ほかで使用されています。</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,11 +737,49 @@
         <source>Changed by a newer version</source>
         <translation>新しいバージョンによる変更</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1と他%n件</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>録画フォルダーの変更</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>ユーザーとパスワードの変更</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>元に戻した変更</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>デバイスの追加</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>デバイスの削除</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>平文パスワードの許可</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>別のデバイスの承認</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>デバイス「%1」を追加しました。</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>デバイス「%1」を削除しました。</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>以前と別のデバイスを%1として承認しました。</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>%1のパスワードを平文で送信することを許可しました。</translation>
     </message>
 </context>
 <context>

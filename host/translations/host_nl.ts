@@ -207,6 +207,188 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschappen</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Eigenschappen van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Eigenschappen van een knooppunt</numerusform>
+            <numerusform>Eigenschappen van %n knooppunten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Opnamemappen</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Opnamemap van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Opnamemap van een camera</numerusform>
+            <numerusform>Opnamemappen van %n camera&apos;s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Gebruikers en wachtwoorden</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Gebruiker en wachtwoord van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Gebruiker en wachtwoord van een knooppunt</numerusform>
+            <numerusform>Gebruiker en wachtwoord van %n knooppunten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Toevoegen van knooppunten</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Toevoegen van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Toevoegen van een knooppunt</numerusform>
+            <numerusform>Toevoegen van %n knooppunten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Verwijderen van knooppunten</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Verwijderen van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Verwijderen van een knooppunt</numerusform>
+            <numerusform>Verwijderen van %n knooppunten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Geïmporteerde lijsten</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Import van %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>Gegevens van camera&apos;s</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>Gegevens van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>Gegevens van een camera</numerusform>
+            <numerusform>Gegevens van %n camera&apos;s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Nieuwe adressen</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Nieuw adres van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Nieuw adres van een apparaat</numerusform>
+            <numerusform>Nieuwe adressen van %n apparaten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Scans</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Een scan vond %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Een scan vond een apparaat</numerusform>
+            <numerusform>Een scan vond %n apparaten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Kenmerken van camera&apos;s</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Kenmerken van %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Kenmerken van een camera</numerusform>
+            <numerusform>Kenmerken van %n camera&apos;s</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Globale proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Omgevingen</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Nieuwe database</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Teruggezette reservekopie</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Teruggedraaid</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Wijziging van een nieuwere versie</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Opnieuw gedaan: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Teruggedraaid: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +511,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Gebruiker en wachtwoord ingevoerd</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Proxyadres</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Proxypoort</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Proxygebruiker</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Proxywachtwoord</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Proxywachtwoord opslaan</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Pan-/tiltkop</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Extern voorbeeld gebruiken</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Wachtwoord opslaan</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Voorbeeldmodus</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Standaard verbindingsgegevens</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Standaard beeldsnelheid</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Standaard JPEG-kwaliteit</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Standaard resolutie</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Standaard audio-instelling</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Standaardpad op de bestandsserver</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Standaardserver voor extern voorbeeld</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Actieve omgeving</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Proxy gebruiken</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Proxy-uitzonderingen</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Omgevingen</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Globale proxy</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Knooppunt</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Bekend apparaat</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(afwezig)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(verborgen)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>gewijzigd</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>Dat is al zo.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>Het is sindsdien gewijzigd.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>Het knooppunt is verwijderd.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>Anderen gebruiken het nu.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,12 +746,49 @@
         <source>Changed by a newer version</source>
         <translation>Gewijzigd door een nieuwere versie</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 en nog een</numerusform>
-            <numerusform>%1 en nog %n</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Opnamemappen gewijzigd</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Gebruikers en wachtwoorden gewijzigd</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Teruggedraaid</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Apparaat toegevoegd</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Apparaat verwijderd</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Onversleuteld wachtwoord toegestaan</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Ander apparaat geaccepteerd</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Apparaat met naam %1 toegevoegd.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Apparaat met naam %1 verwijderd.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Ander apparaat dan voorheen geaccepteerd als %1.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Toegestaan om het wachtwoord van %1 onversleuteld te sturen.</translation>
     </message>
 </context>
 <context>

@@ -207,6 +207,197 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Właściwości</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Właściwości: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Właściwości %n węzła</numerusform>
+            <numerusform>Właściwości %n węzłów</numerusform>
+            <numerusform>Właściwości %n węzłów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Foldery nagrań</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Folder nagrań: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Foldery nagrań %n kamery</numerusform>
+            <numerusform>Foldery nagrań %n kamer</numerusform>
+            <numerusform>Foldery nagrań %n kamer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Użytkownicy i hasła</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Użytkownik i hasło: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Użytkownik i hasło %n węzła</numerusform>
+            <numerusform>Użytkownik i hasło %n węzłów</numerusform>
+            <numerusform>Użytkownik i hasło %n węzłów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Dodawanie węzłów</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Dodanie: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Dodanie %n węzła</numerusform>
+            <numerusform>Dodanie %n węzłów</numerusform>
+            <numerusform>Dodanie %n węzłów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Usuwanie węzłów</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Usunięcie: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Usunięcie %n węzła</numerusform>
+            <numerusform>Usunięcie %n węzłów</numerusform>
+            <numerusform>Usunięcie %n węzłów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Importy</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Import: %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>Dane podane przez kamery</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>Dane podane przez: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>Dane podane przez %n kamerę</numerusform>
+            <numerusform>Dane podane przez %n kamery</numerusform>
+            <numerusform>Dane podane przez %n kamer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Nowe adresy</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Nowy adres: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Nowe adresy %n urządzenia</numerusform>
+            <numerusform>Nowe adresy %n urządzeń</numerusform>
+            <numerusform>Nowe adresy %n urządzeń</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Skanowania</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Skanowanie znalazło: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Skanowanie znalazło %n urządzenie</numerusform>
+            <numerusform>Skanowanie znalazło %n urządzenia</numerusform>
+            <numerusform>Skanowanie znalazło %n urządzeń</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Cechy rozpoznawcze kamer</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Cechy rozpoznawcze: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Cechy rozpoznawcze %n kamery</numerusform>
+            <numerusform>Cechy rozpoznawcze %n kamer</numerusform>
+            <numerusform>Cechy rozpoznawcze %n kamer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Globalne proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Środowiska</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Nowa baza danych</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Przywrócona kopia zapasowa</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Cofnięto</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Zmiana w nowszej wersji</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Ponowiono: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Cofnięto: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +520,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Podano użytkownika i hasło</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Adres proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Port proxy</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Użytkownik proxy</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Hasło proxy</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Zapisz hasło proxy</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Głowica obrotowa</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Używaj zdalnego podglądu</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Zapisz hasło</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Dźwięk</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Tryb podglądu</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Domyślne dane połączenia</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Domyślna liczba klatek</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Domyślna jakość JPEG</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Domyślna rozdzielczość</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Domyślne ustawienie dźwięku</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Domyślna ścieżka serwera plików</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Domyślny serwer zdalnego podglądu</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Aktywne środowisko</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Używaj proxy</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Wyjątki proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Środowiska</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Globalne proxy</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ustawienia</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Węzeł</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Wszystkie</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Znane urządzenie</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(nie ma)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(ukryte)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>zmienione</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>Już tak jest.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>Zmieniono to później.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>Węzeł usunięto.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>Teraz używają tego inne.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,13 +755,49 @@
         <source>Changed by a newer version</source>
         <translation>Zmieniono w nowszej wersji programu</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 i jeszcze %n</numerusform>
-            <numerusform>%1 i jeszcze %n</numerusform>
-            <numerusform>%1 i jeszcze %n</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Zmieniono foldery nagrań</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Zmieniono użytkowników i hasła</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Cofnięto</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Dodano urządzenie</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Usunięto urządzenie</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Zezwolono na jawne hasło</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Przyjęto inne urządzenie</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Dodano urządzenie o nazwie %1.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Usunięto urządzenie o nazwie %1.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Jako %1 przyjęto inne urządzenie niż poprzednio.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Zezwolono na wysyłanie hasła %1 jawnym tekstem.</translation>
     </message>
 </context>
 <context>

@@ -207,6 +207,188 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Propriedades</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Propriedades de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Propriedades de um nó</numerusform>
+            <numerusform>Propriedades de %n nós</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Pastas de gravação</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Pasta de gravação de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Pasta de gravação de uma câmera</numerusform>
+            <numerusform>Pastas de gravação de %n câmeras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Usuários e senhas</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Usuário e senha de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Usuário e senha de um nó</numerusform>
+            <numerusform>Usuário e senha de %n nós</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Adição de nós</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Adição de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Adição de um nó</numerusform>
+            <numerusform>Adição de %n nós</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Remoção de nós</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Remoção de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Remoção de um nó</numerusform>
+            <numerusform>Remoção de %n nós</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Importações</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Importação de %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>O que as câmeras informaram</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>O que %1 informou</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>O que uma câmera informou</numerusform>
+            <numerusform>O que %n câmeras informaram</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Novos endereços</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Novo endereço de %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Novo endereço de um dispositivo</numerusform>
+            <numerusform>Novos endereços de %n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Buscas</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Uma busca encontrou %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Uma busca encontrou um dispositivo</numerusform>
+            <numerusform>Uma busca encontrou %n dispositivos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Como as câmeras são reconhecidas</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Como %1 é reconhecida</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Como uma câmera é reconhecida</numerusform>
+            <numerusform>Como %n câmeras são reconhecidas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Proxy global</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Ambientes</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Novo banco de dados</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Backup restaurado</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Revertido</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Alteração de uma versão mais recente</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Refeito: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Revertido: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +511,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Usuário e senha informados</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Endereço do proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Porta do proxy</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Usuário do proxy</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Senha do proxy</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Salvar a senha do proxy</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Cabeça pan/tilt</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Usar pré-visualização remota</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Câmera</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Salvar a senha</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Áudio</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Modo de pré-visualização</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Dados de conexão padrão</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Taxa de quadros padrão</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Qualidade JPEG padrão</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Resolução padrão</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Configuração de áudio padrão</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Caminho padrão do servidor de arquivos</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Servidor de pré-visualização remota padrão</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Ambiente ativo</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Usar o proxy</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Exceções do proxy</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Ambientes</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Proxy global</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Nó</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Dispositivo conhecido</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(ausente)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(oculta)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>alterada</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>Já está assim.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>Foi alterado desde então.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>O nó foi removido.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>Outros o usam agora.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,12 +746,49 @@
         <source>Changed by a newer version</source>
         <translation>Alterado por uma versão mais recente</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 e mais um</numerusform>
-            <numerusform>%1 e mais %n</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Pastas de gravação alteradas</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Usuários e senhas alterados</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Revertido</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Dispositivo adicionado</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Dispositivo removido</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Senha sem criptografia permitida</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Outro dispositivo aceito</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Dispositivo com o nome %1 adicionado.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Dispositivo com o nome %1 removido.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Outro dispositivo que não o anterior aceito como %1.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Permitido enviar a senha de %1 sem criptografia.</translation>
     </message>
 </context>
 <context>

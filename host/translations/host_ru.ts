@@ -207,6 +207,197 @@
     </message>
 </context>
 <context>
+    <name>ChangeSetTitle</name>
+    <message>
+        <source>Properties</source>
+        <translation>Свойства</translation>
+    </message>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Свойства: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Properties of %n node(s)</source>
+        <translation>
+            <numerusform>Свойства %n узла</numerusform>
+            <numerusform>Свойства %n узлов</numerusform>
+            <numerusform>Свойства %n узлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Recording folders</source>
+        <translation>Папки записей</translation>
+    </message>
+    <message>
+        <source>Recording folder of %1</source>
+        <translation>Папка записей: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Recording folders of %n camera(s)</source>
+        <translation>
+            <numerusform>Папки записей %n камеры</numerusform>
+            <numerusform>Папки записей %n камер</numerusform>
+            <numerusform>Папки записей %n камер</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Users and passwords</source>
+        <translation>Пользователи и пароли</translation>
+    </message>
+    <message>
+        <source>User and password of %1</source>
+        <translation>Пользователь и пароль: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>User and password of %n node(s)</source>
+        <translation>
+            <numerusform>Пользователь и пароль %n узла</numerusform>
+            <numerusform>Пользователь и пароль %n узлов</numerusform>
+            <numerusform>Пользователь и пароль %n узлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Adding nodes</source>
+        <translation>Добавление узлов</translation>
+    </message>
+    <message>
+        <source>Adding %1</source>
+        <translation>Добавление: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Adding %n node(s)</source>
+        <translation>
+            <numerusform>Добавление %n узла</numerusform>
+            <numerusform>Добавление %n узлов</numerusform>
+            <numerusform>Добавление %n узлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Removing nodes</source>
+        <translation>Удаление узлов</translation>
+    </message>
+    <message>
+        <source>Removing %1</source>
+        <translation>Удаление: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removing %n node(s)</source>
+        <translation>
+            <numerusform>Удаление %n узла</numerusform>
+            <numerusform>Удаление %n узлов</numerusform>
+            <numerusform>Удаление %n узлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imports</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Import of %1</source>
+        <translation>Импорт: %1</translation>
+    </message>
+    <message>
+        <source>What cameras said</source>
+        <translation>Данные от камер</translation>
+    </message>
+    <message>
+        <source>What %1 said</source>
+        <translation>Данные от: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) said</source>
+        <translation>
+            <numerusform>Данные от %n камеры</numerusform>
+            <numerusform>Данные от %n камер</numerusform>
+            <numerusform>Данные от %n камер</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New addresses</source>
+        <translation>Новые адреса</translation>
+    </message>
+    <message>
+        <source>New address of %1</source>
+        <translation>Новый адрес: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>New addresses of %n device(s)</source>
+        <translation>
+            <numerusform>Новые адреса %n устройства</numerusform>
+            <numerusform>Новые адреса %n устройств</numerusform>
+            <numerusform>Новые адреса %n устройств</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Scans</source>
+        <translation>Поиски</translation>
+    </message>
+    <message>
+        <source>A scan found %1</source>
+        <translation>Поиск нашёл: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>A scan found %n device(s)</source>
+        <translation>
+            <numerusform>Поиск нашёл %n устройство</numerusform>
+            <numerusform>Поиск нашёл %n устройства</numerusform>
+            <numerusform>Поиск нашёл %n устройств</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What cameras are known by</source>
+        <translation>Признаки камер</translation>
+    </message>
+    <message>
+        <source>What %1 is known by</source>
+        <translation>Признаки: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>What %n camera(s) are known by</source>
+        <translation>
+            <numerusform>Признаки %n камеры</numerusform>
+            <numerusform>Признаки %n камер</numerusform>
+            <numerusform>Признаки %n камер</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Общий прокси</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Среды</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Новая база данных</translation>
+    </message>
+    <message>
+        <source>Restored backup</source>
+        <translation>Восстановленная резервная копия</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Возвращено</translation>
+    </message>
+    <message>
+        <source>Change of a newer version</source>
+        <translation>Изменение более новой версии</translation>
+    </message>
+    <message>
+        <source>Redone: %1</source>
+        <translation>Повторено: %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Возвращено: %1</translation>
+    </message>
+</context>
+<context>
     <name>CsvReader</name>
     <message>
         <source>The quoted cell that begins in the record of line %1 is never closed.</source>
@@ -329,6 +520,149 @@
     </message>
 </context>
 <context>
+    <name>HistoryWords</name>
+    <message>
+        <source>User and password entered</source>
+        <translation>Пользователь и пароль введены</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Адрес прокси</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Порт прокси</translation>
+    </message>
+    <message>
+        <source>Proxy user</source>
+        <translation>Пользователь прокси</translation>
+    </message>
+    <message>
+        <source>Proxy password</source>
+        <translation>Пароль прокси</translation>
+    </message>
+    <message>
+        <source>Save proxy password</source>
+        <translation>Сохранять пароль прокси</translation>
+    </message>
+    <message>
+        <source>Pan/tilt head</source>
+        <translation>Поворотная головка</translation>
+    </message>
+    <message>
+        <source>Use remote preview</source>
+        <translation>Использовать удалённый просмотр</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Камера</translation>
+    </message>
+    <message>
+        <source>Save password</source>
+        <translation>Сохранять пароль</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Звук</translation>
+    </message>
+    <message>
+        <source>Preview mode</source>
+        <translation>Режим просмотра</translation>
+    </message>
+    <message>
+        <source>Default connection data</source>
+        <translation>Данные подключения по умолчанию</translation>
+    </message>
+    <message>
+        <source>Default frame rate</source>
+        <translation>Частота кадров по умолчанию</translation>
+    </message>
+    <message>
+        <source>Default JPEG quality</source>
+        <translation>Качество JPEG по умолчанию</translation>
+    </message>
+    <message>
+        <source>Default resolution</source>
+        <translation>Разрешение по умолчанию</translation>
+    </message>
+    <message>
+        <source>Default audio setting</source>
+        <translation>Настройка звука по умолчанию</translation>
+    </message>
+    <message>
+        <source>Default file server path</source>
+        <translation>Путь файлового сервера по умолчанию</translation>
+    </message>
+    <message>
+        <source>Default remote preview server</source>
+        <translation>Сервер удалённого просмотра по умолчанию</translation>
+    </message>
+    <message>
+        <source>Active environment</source>
+        <translation>Активная среда</translation>
+    </message>
+    <message>
+        <source>Use proxy</source>
+        <translation>Использовать прокси</translation>
+    </message>
+    <message>
+        <source>Proxy exceptions</source>
+        <translation>Исключения прокси</translation>
+    </message>
+    <message>
+        <source>Environments</source>
+        <translation>Среды</translation>
+    </message>
+    <message>
+        <source>Global proxy</source>
+        <translation>Общий прокси</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Узел</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>Known device</source>
+        <translation>Известное устройство</translation>
+    </message>
+    <message>
+        <source>(not there)</source>
+        <translation>(отсутствует)</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(скрыт)</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>изменён</translation>
+    </message>
+    <message>
+        <source>It is so already.</source>
+        <translation>Уже так.</translation>
+    </message>
+    <message>
+        <source>It was changed since.</source>
+        <translation>С тех пор изменено.</translation>
+    </message>
+    <message>
+        <source>The node was removed.</source>
+        <translation>Узел удалён.</translation>
+    </message>
+    <message>
+        <source>Others use it now.</source>
+        <translation>Теперь его используют другие.</translation>
+    </message>
+</context>
+<context>
     <name>HostNodeDB</name>
     <message>
         <source>Default</source>
@@ -421,13 +755,49 @@
         <source>Changed by a newer version</source>
         <translation>Изменено более новой версией</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 and %n other(s)</source>
-        <translation>
-            <numerusform>%1 и ещё %n</numerusform>
-            <numerusform>%1 и ещё %n</numerusform>
-            <numerusform>%1 и ещё %n</numerusform>
-        </translation>
+    <message>
+        <source>Changed recordings</source>
+        <translation>Изменены папки записей</translation>
+    </message>
+    <message>
+        <source>Changed users and passwords</source>
+        <translation>Изменены пользователи и пароли</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Возвращено</translation>
+    </message>
+    <message>
+        <source>Added device</source>
+        <translation>Добавлено устройство</translation>
+    </message>
+    <message>
+        <source>Removed device</source>
+        <translation>Удалено устройство</translation>
+    </message>
+    <message>
+        <source>Allowed a clear password</source>
+        <translation>Разрешён открытый пароль</translation>
+    </message>
+    <message>
+        <source>Accepted another device</source>
+        <translation>Принято другое устройство</translation>
+    </message>
+    <message>
+        <source>Added device with name %1.</source>
+        <translation>Добавлено устройство с именем %1.</translation>
+    </message>
+    <message>
+        <source>Removed device with name %1.</source>
+        <translation>Удалено устройство с именем %1.</translation>
+    </message>
+    <message>
+        <source>Accepted another device than before as %1.</source>
+        <translation>Принято другое устройство, чем прежде, как %1.</translation>
+    </message>
+    <message>
+        <source>Allowed to send the password of %1 in the clear.</source>
+        <translation>Разрешено отправлять пароль %1 в открытом виде.</translation>
     </message>
 </context>
 <context>
