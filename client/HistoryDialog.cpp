@@ -210,7 +210,9 @@ void HistoryDialog::putBackSets()
     QVector<Alteration> alterations;
     for (const ChangeSetRow& row : sets) {
         const std::optional<ChangeSet> set = m_db.history().changeSet(row.number);
-        alterations += set ? Alterations::of(*set) : QVector<Alteration>();
+        if (!set)
+            return; // what cannot be read is said by itself
+        alterations += Alterations::of(*set);
     }
     putBack(alterations, sets);
 }
@@ -230,8 +232,9 @@ void HistoryDialog::putBackLines()
     QVector<Alteration> alterations;
     for (const ChangeSetRow& row : std::as_const(sets)) {
         const std::optional<ChangeSet> set = m_db.history().changeSet(row.number);
-        if (set)
-            alterations += Alterations::selected(Alterations::of(*set), things.value(row.number));
+        if (!set)
+            return;
+        alterations += Alterations::selected(Alterations::of(*set), things.value(row.number));
     }
     putBack(alterations, sets);
 }
@@ -246,8 +249,11 @@ void HistoryDialog::putBack(const QVector<Alteration>& alterations, const QVecto
                                 : tr("%n selected change(s)", nullptr, int(sets.size()));
     };
     const Cause cause = Cause::undoing(causes);
+    const std::optional<PutBack> now = PuttingBack::preview(m_db, alterations);
+    if (!now)
+        return;
     PutBackDialog dialog(
-        title, PuttingBack::preview(m_db, alterations), PutBackDialog::words(m_db),
+        title, *now, PutBackDialog::words(m_db),
         [this, &cause](const PutBack& shown) { return PuttingBack::apply(m_db, shown, cause); }, this);
     if (dialog.exec() != QDialog::Accepted)
         return;

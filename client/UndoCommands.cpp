@@ -61,10 +61,12 @@ void UndoCommands::run(UndoStack::Direction direction)
         return;
     const QString title = m_stack.title(direction);
     HostNodeDB& db = m_window.database();
-    PutBackDialog dialog([this, direction] { return m_stack.title(direction); }, m_stack.preview(direction),
-                         PutBackDialog::words(db),
-                         [this, direction](const PutBack& shown) { return m_stack.apply(direction, shown); },
-                         &m_window);
+    const std::optional<PutBack> shown = m_stack.preview(direction);
+    if (!shown)
+        return; // what cannot be read is said by itself
+    PutBackDialog dialog(
+        [this, direction] { return m_stack.title(direction); }, *shown, PutBackDialog::words(db),
+        [this, direction](const PutBack& putBack) { return m_stack.apply(direction, putBack); }, &m_window);
     const bool isDone = dialog.exec() == QDialog::Accepted;
     if (isDone) {
         m_window.applyChanges();

@@ -125,7 +125,7 @@ public:
     void leave() override;
 
     /// Does all that \a set says, as far as it can still be done: a node that is gone is not changed, one
-    /// that is there is not added. False when something could not be read; what was done until then stays.
+    /// that is there is not added. False when something could not be read; nothing is done then.
     bool apply(const ChangeSet& set);
 
     /// At most \a count of what was changed after change set number \a after, oldest first.

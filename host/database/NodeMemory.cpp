@@ -331,6 +331,10 @@ void NodeMemory::setEnvironments(const Environments::List& list)
 Notices NodeMemory::apply(const ChangeSet& set)
 {
     Notices notices;
+    for (const NodeChange& change : set.nodes) {
+        if (NodeRecord* record = cache.find(change.id))
+            read(*record); // what fails fails before anything is done
+    }
     for (const NodeChange& change : set.nodes)
         apply(change, &notices);
     for (const RelationChange& change : set.relations) {

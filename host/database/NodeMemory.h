@@ -90,7 +90,7 @@ public:
     void setEnvironments(const Environments::List& list);
 
     /// Does all that \a set says, as far as it still can be done: a node that is gone is not changed, one
-    /// that is there not added. Throws StoreFailure.
+    /// that is there not added. Throws StoreFailure, with nothing done.
     Notices apply(const ChangeSet& set);
 
 private:

@@ -41,16 +41,19 @@ ChangeSetPart StoredHistory::changes(qint64 number, qint64 after, int count)
         .value_or(unread);
 }
 
-PresentState StoredHistory::present(const PresentState::Wanted& wanted)
+std::optional<PresentState> StoredHistory::present(const PresentState::Wanted& wanted)
 {
     PresentState state;
-    m_queue.reading([&] {
+    const bool isRead = m_queue.reading([&] {
         for (const NodeID& id : wanted.values) {
             NodeRecord* record = m_memory.cache.find(id);
             if (record && m_memory.read(*record))
                 state.nodes.insert(id, record->data());
         }
+        return true;
     });
+    if (!isRead)
+        return std::nullopt;
     for (const NodeID& id : wanted.ends) {
         if (m_memory.cache.find(id))
             state.ends.insert(id);

@@ -39,7 +39,8 @@ public:
     /// At most \a count changes after those with which the last part of a change set ended.
     ChangeSetPart changes(qint64 number, qint64 after, int count);
 
-    PresentState present(const PresentState::Wanted& wanted);
+    /// None if it cannot be read.
+    std::optional<PresentState> present(const PresentState::Wanted& wanted);
 
 signals:
     /// This process stored these, or more of them, in this order.

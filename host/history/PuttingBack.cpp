@@ -44,6 +44,12 @@ void logChanges(HostNodeDB& db, const ChangeSet& set)
     }
 }
 
+std::optional<PutBack> current(HostNodeDB& db, const QVector<Alteration>& alterations)
+{
+    const std::optional<PresentState> present = db.history().present(Alterations::wanted(alterations));
+    return present ? std::make_optional(PutBack(alterations, *present, KnownDevice::keys())) : std::nullopt;
+}
+
 /// Ticks in \a now what is chosen in \a shown and the same in both; the rest of what is chosen is refused.
 QVector<PutBackLine> compare(const PutBack& shown, PutBack* now)
 {
@@ -71,34 +77,41 @@ QVector<PutBackLine> compare(const PutBack& shown, PutBack* now)
     return refused;
 }
 
-PresentState presentFor(HostNodeDB& db, const QVector<Alteration>& alterations)
+/// What is as it was shown; false if that cannot be told.
+bool putBack(HostNodeDB& db, const PutBack& shown, const Cause& cause, Outcome* outcome)
 {
-    return db.history().present(Alterations::wanted(alterations));
+    std::optional<PutBack> now = current(db, shown.alterations());
+    if (!now)
+        return false;
+    outcome->refused = compare(shown, &*now);
+    const ChangeSet set = now->changeSet();
+    const ChangeScope scope(db, cause);
+    if (!db.apply(set))
+        return false;
+    if (set.hasChanges())
+        logChanges(db, set);
+    outcome->done = now->chosen();
+    return true;
 }
 
 } // namespace
 
-PutBack preview(HostNodeDB& db, const QVector<Alteration>& alterations)
+std::optional<PutBack> preview(HostNodeDB& db, const QVector<Alteration>& alterations)
 {
     db.syncForeignChanges();
-    return PutBack(alterations, presentFor(db, alterations), KnownDevice::keys());
+    return current(db, alterations);
 }
 
 Outcome apply(HostNodeDB& db, const PutBack& shown, const Cause& cause)
 {
     Outcome outcome;
     db.flush(); // what waits is none of this
-    outcome.stored = db.runAlone(
-        [&] {
-            PutBack now(shown.alterations(), presentFor(db, shown.alterations()), KnownDevice::keys());
-            outcome.refused = compare(shown, &now);
-            outcome.done = now.chosen();
-            const ChangeSet set = now.changeSet();
-            const ChangeScope scope(db, cause);
-            if (set.hasChanges() && db.apply(set))
-                logChanges(db, set);
-        },
-        &outcome.error);
+    bool isRead = true;
+    outcome.stored = db.runAlone([&] { isRead = putBack(db, shown, cause, &outcome); }, &outcome.error);
+    if (!isRead) {
+        outcome.stored = StoreOutcome::NotRun;
+        outcome.error = StoreError::make(StoreError::Other, db.fileName(), QLatin1String("not read"));
+    }
     return outcome;
 }
 

@@ -11,13 +11,13 @@ class HostNodeDB;
 /// Putting back in a database.
 namespace PuttingBack {
 
-/// What can be put back as it is now.
-KO_HOST_EXPORT PutBack preview(HostNodeDB& db, const QVector<Alteration>& alterations);
+/// What can be put back as it is now; none if that cannot be read.
+KO_HOST_EXPORT std::optional<PutBack> preview(HostNodeDB& db, const QVector<Alteration>& alterations);
 
 struct Outcome
 {
     StoreOutcome stored = StoreOutcome::Stored;
-    StoreError error; ///< why it is not stored, or was not tried
+    StoreError error; ///< why it is not stored, or nothing was done
     QVector<PutBackLine> done;
     /// Of what was chosen: what somebody else changed since it was shown, which stays as it is.
     QVector<PutBackLine> refused;

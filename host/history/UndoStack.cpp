@@ -63,10 +63,10 @@ QString UndoStack::title(Direction direction) const
     return row ? ChangeSetTitle::of(*row) : QString();
 }
 
-PutBack UndoStack::preview(Direction direction) const
+std::optional<PutBack> UndoStack::preview(Direction direction) const
 {
     const std::optional<ChangeSet> set = m_db.history().changeSet(steps(direction).last().last);
-    return PuttingBack::preview(m_db, set ? Alterations::of(*set) : QVector<Alteration>());
+    return set ? PuttingBack::preview(m_db, Alterations::of(*set)) : std::nullopt;
 }
 
 PuttingBack::Outcome UndoStack::apply(Direction direction, const PutBack& shown)

@@ -27,8 +27,8 @@ public:
     /// What the next one was called when it was done; empty if there is none.
     QString title(Direction direction) const;
 
-    /// What the next one would put back. There must be one.
-    PutBack preview(Direction direction) const;
+    /// What the next one would put back; none if it cannot be read. There must be one.
+    std::optional<PutBack> preview(Direction direction) const;
 
     /// Does it. If anything was done, the step can be taken in the other direction next.
     PuttingBack::Outcome apply(Direction direction, const PutBack& shown);

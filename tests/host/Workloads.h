@@ -6,6 +6,7 @@
 #include "audit/ProgramLogEntry.h"
 #include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "exchange/CameraSurvey.h"
+#include "history/PuttingBack.h"
 #include "store/SqliteStore.h"
 #include "support/ModalAnswer.h"
 
@@ -14,6 +15,7 @@
 #include <QRadioButton>
 
 #include <algorithm>
+#include <limits>
 
 namespace testsupport {
 
@@ -213,6 +215,58 @@ private:
     static QString extension(int i) { return QString::fromLatin1("10_0_0_%1").arg(i); }
 };
 
+/// Each step puts back what the last change set did to twenty cameras: step i leaves i change sets that put
+/// back, and the cameras as they were before the first of them when i is odd.
+class PutBacks : public Workload
+{
+public:
+    void prepare(ko::HostNodeDB& db) override
+    {
+        for (int i = 1; i <= Cameras; ++i)
+            addCamera(db, QString::number(i), QString::fromLatin1("%1.example.org").arg(i));
+        QTest::qWait(1); // another change set
+        const QStringList ids = db.nodeIdList(ko::IPDeviceType);
+        for (const QString& id : ids)
+            setText(db, id, "Model", model(0));
+    }
+
+    bool step(ko::HostNodeDB& db, int) override
+    {
+        const QVector<ko::ChangeSet> sets = db.changeSets(0, std::numeric_limits<int>::max());
+        if (sets.isEmpty())
+            return false;
+        const auto shown = ko::PuttingBack::preview(db, ko::Alterations::of(sets.last()));
+        if (!shown)
+            return false; // the database says it
+        const auto outcome = ko::PuttingBack::apply(db, *shown, ko::Cause::undoing({sets.last().cause}));
+        complaint = outcome.error.message;
+        return outcome.stored == ko::StoreOutcome::Stored && outcome.done.size() == Cameras;
+    }
+
+    Stored stored(ko::HostNodeDB& db) override
+    {
+        int number = 0;
+        const QVector<ko::ChangeSet> sets = db.changeSets(0, std::numeric_limits<int>::max());
+        for (const ko::ChangeSet& set : sets) {
+            if (set.cause.purpose != ko::Purpose::Undo)
+                continue;
+            ++number;
+            if (set.nodes.size() != Cameras || set.audit.size() != Cameras)
+                return none();
+        }
+        const QStringList ids = db.nodeIdList(ko::IPDeviceType);
+        const bool isWhole = std::all_of(ids.begin(), ids.end(), [&](const QString& id) {
+            return text(db, id, "Model") == model(number);
+        });
+        return isWhole && ids.size() == Cameras ? Stored{number, number} : none();
+    }
+
+private:
+    enum { Cameras = 20 };
+
+    static QString model(int step) { return QLatin1String(step % 2 == 0 ? "new" : ""); }
+};
+
 /// By the name that tests give it; null for another.
 inline std::unique_ptr<Workload> makeWorkload(const QString& name)
 {
@@ -220,6 +274,8 @@ inline std::unique_ptr<Workload> makeWorkload(const QString& name)
         return std::make_unique<Edits>();
     if (name == QLatin1String("imports"))
         return std::make_unique<Imports>();
+    if (name == QLatin1String("put-backs"))
+        return std::make_unique<PutBacks>();
     return name == QLatin1String("mass assignments") ? std::make_unique<MassAssignments>()
                                                      : std::unique_ptr<Workload>();
 }

@@ -90,6 +90,7 @@ void TestDurability::confirmedStepsSurviveKills_data()
     QTest::newRow("edits") << soakOr(80, 16);
     QTest::newRow("imports") << soakOr(70, 8);
     QTest::newRow("mass assignments") << soakOr(70, 8);
+    QTest::newRow("put-backs") << soakOr(70, 8);
 }
 
 void TestDurability::confirmedStepsSurviveKills()

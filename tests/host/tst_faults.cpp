@@ -74,7 +74,8 @@ void tst_Faults::addFaults(const QStringList& workloads)
 
 void tst_Faults::work_data()
 {
-    addFaults({QLatin1String("edits"), QLatin1String("imports"), QLatin1String("mass assignments")});
+    addFaults({QLatin1String("edits"), QLatin1String("imports"), QLatin1String("mass assignments"),
+               QLatin1String("put-backs")});
 }
 
 void tst_Faults::work()

@@ -124,7 +124,7 @@ PutBack TestHistory::preview(const QVector<ChangeSet>& sets)
     QVector<Alteration> alterations;
     for (const ChangeSet& set : sets)
         alterations += Alterations::of(set);
-    return PuttingBack::preview(*m_db, alterations);
+    return *PuttingBack::preview(*m_db, alterations);
 }
 
 PuttingBack::Outcome TestHistory::putBack(const QVector<ChangeSet>& sets)
@@ -340,12 +340,12 @@ void TestHistory::partsOfWhatWasRemoved()
         if (isRelation || alteration.node == m_folderNode)
             ofFolder.append(alteration);
     }
-    const PutBack camera = PuttingBack::preview(*m_db, ofCamera);
+    const PutBack camera = *PuttingBack::preview(*m_db, ofCamera);
     QCOMPARE(camera.lines.size(), 2);
     QCOMPARE(camera.lines.last().state, PutBackLine::Removed); // the folder of the relation
     PuttingBack::apply(*m_db, camera, Cause::undoing({}));
     QVERIFY(m_db->relatedNodes(m_camera, RecordingFolderRelation).isEmpty());
-    PuttingBack::apply(*m_db, PuttingBack::preview(*m_db, ofFolder), Cause::undoing({}));
+    PuttingBack::apply(*m_db, *PuttingBack::preview(*m_db, ofFolder), Cause::undoing({}));
     QCOMPARE(stateOf(m_file), before);
 }
 
@@ -420,7 +420,7 @@ void TestHistory::otherProcessCanPutBack()
     setText(*m_db, m_camera, "Model", "one");
     const QVector<ChangeSet> sets = newSets();
     const std::unique_ptr<HostNodeDB> other = openDatabase(m_file);
-    const PutBack shown = PuttingBack::preview(*other, Alterations::of(sets.first()));
+    const PutBack shown = *PuttingBack::preview(*other, Alterations::of(sets.first()));
     QCOMPARE(PuttingBack::apply(*other, shown, Cause::undoing({sets.first().cause})).refused.size(), 0);
     QCOMPARE(stateOf(m_file), before);
     m_db->syncForeignChanges();
