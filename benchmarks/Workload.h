@@ -41,6 +41,7 @@ QVector<Workload> listWorkloads();
 QVector<Workload> dialogWorkloads();
 QVector<Workload> scanWorkloads();
 QVector<Workload> startWorkloads();
+QVector<Workload> historyWorkloads();
 
 } // namespace bench
 

@@ -108,6 +108,8 @@ void HistoryDialog::createTables()
     prepare(m_changesView, "changesTableView", &m_changes);
     for (QTableView* table : {m_setsView, m_changesView})
         table->horizontalHeader()->setResizeContentsPrecision(50); // of however many rows
+    m_setsView->horizontalHeader()->setStretchLastSection(false);
+    m_setsView->horizontalHeader()->setSectionResizeMode(HistoryModel::TitleColumn, QHeaderView::Stretch);
     connect(m_setsView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &HistoryDialog::showSelected);
     connect(m_changesView->selectionModel(), &QItemSelectionModel::selectionChanged, this,

@@ -70,6 +70,7 @@ void PutBackDialog::createTable()
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setResizeContentsPrecision(50); // of however many rows
+    m_table->setColumnHidden(PutBackModel::ReasonColumn, m_model.possible() == m_model.rowCount());
 }
 
 void PutBackDialog::retranslate()
