@@ -36,7 +36,7 @@ public:
     ~HistoryDialog() override;
 
     /// What was put back last, for a status bar; empty if nothing was.
-    QString done() const { return m_done; }
+    QString whatWasPutBack() const { return m_done; }
 
 private:
     void createTables();

@@ -31,10 +31,10 @@ void runHistory(MainWindow& window, const HistoryDialog::Scope& scope, QWidget* 
 {
     HistoryDialog dialog(window.database(), scope, parent);
     dialog.exec();
-    if (dialog.done().isEmpty())
+    if (dialog.whatWasPutBack().isEmpty())
         return;
     window.applyChanges();
-    window.say(dialog.done());
+    window.say(dialog.whatWasPutBack());
 }
 
 } // namespace
