@@ -10,6 +10,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+Q_DECLARE_METATYPE(testsupport::Answers::Action)
+Q_DECLARE_METATYPE(QVector<testsupport::Answers::Action>)
+Q_DECLARE_METATYPE(ko::Purpose)
+
 namespace testsupport {
 
 /// All ways in which a user changes something in the windows: what is selected, the action, and how the
@@ -161,8 +165,5 @@ protected:
 };
 
 } // namespace testsupport
-
-Q_DECLARE_METATYPE(testsupport::ConfirmedWays::Actions)
-Q_DECLARE_METATYPE(ko::Purpose)
 
 #endif

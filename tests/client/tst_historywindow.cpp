@@ -261,7 +261,7 @@ void tst_HistoryWindow::fromTheAuditLog()
                                opened = titles(dialog);
                                QCOMPARE(sets(dialog)->currentIndex().row(), 0);
                                child<QCheckBox>(dialog, "scopeCheckBox")->click();
-                               QCOMPARE(titles(dialog).first(), QString("Settings"));
+                               QCOMPARE(titles(dialog).value(0), QString("Settings"));
                            }});
     trigger("actionAuditLog");
     QCOMPARE(answers.opened(), QStringList({"AuditLogDialog", "HistoryDialog"}));

@@ -171,7 +171,8 @@ void TestHistory::removedCameraComesBackWhole()
     QCOMPARE(back.size(), 1);
     QCOMPARE(back.first().cause.purpose, Purpose::Undo);
     QCOMPARE(onlyState(preview({removal.first()})), PutBackLine::State(-1));
-    for (const PutBackLine& line : preview(removal).lines)
+    const QVector<PutBackLine> lines = preview(removal).lines;
+    for (const PutBackLine& line : lines)
         QCOMPARE(line.state, PutBackLine::AsBefore);
 }
 
@@ -315,12 +316,12 @@ void TestHistory::addedNodeThatWasCheckedGoes()
 {
     const QString camera = addCamera(*m_db, "New", "10.0.0.9");
     const QVector<ChangeSet> sets = newSets();
-    setText(*m_db, camera, qPrintable(KnownDevice::keys().first()), "4711");
+    setText(*m_db, camera, qPrintable(KnownDevice::keys().constFirst()), "4711");
     newSets();
     QCOMPARE(putBack(sets).done.size(), 1);
     QVERIFY(m_db->node(camera).null());
     putBack(newSets());
-    QCOMPARE(text(*m_db, camera, qPrintable(KnownDevice::keys().first())), QString("4711"));
+    QCOMPARE(text(*m_db, camera, qPrintable(KnownDevice::keys().constFirst())), QString("4711"));
 }
 
 /// Each of them with what it needs; the other one follows when the first is there.
