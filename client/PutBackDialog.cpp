@@ -16,6 +16,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace ko {
 
 PutBackDialog::PutBackDialog(const Title& title, const PutBack& putBack, const HistoryWords& words,
@@ -123,7 +125,12 @@ void PutBackDialog::tell(const QVector<PutBackLine>& refused)
 
 HistoryWords PutBackDialog::words(HostNodeDB& db)
 {
-    return HistoryWords([&db](const NodeID& id) { return db.summary(id).name; });
+    return HistoryWords([&db](const QString& id) {
+        const Environments::List environments = db.environments().getList();
+        const auto found = std::find_if(environments.begin(), environments.end(),
+                                        [&id](const auto& environment) { return environment.first == id; });
+        return found == environments.end() ? db.summary(id).name : found->second;
+    });
 }
 
 } // namespace ko

@@ -154,6 +154,13 @@ bool isSecret(const Alteration& of)
            (of.kind == Alteration::Setting && of.key == QLatin1String(Secrets::GlobalProxyPassword));
 }
 
+/// Whether the value tells what is meant by its identifier.
+bool isIdentifier(const QString& key)
+{
+    return key == PropertyKeys::CameraID || key == PropertyKeys::AudioPathID ||
+           key == QLatin1String("environment.active");
+}
+
 /// The settings are texts; these mean a number, or a list.
 QString settingText(const QString& key, const QString& text)
 {
@@ -265,10 +272,13 @@ QString HistoryWords::text(const Alteration& of, const QVariant& value) const
             names.append(environment.second);
         return names.join(QLatin1String(", "));
     }
-    case Alteration::Setting:
-        return settingText(of.key, value.toString());
-    default:
-        return propertyText(of.key, value);
+    default: {
+        const QString name = isIdentifier(of.key) ? nameOf(value.toString()) : QString();
+        if (!name.isEmpty())
+            return name;
+        return of.kind == Alteration::Setting ? settingText(of.key, value.toString())
+                                              : propertyText(of.key, value);
+    }
     }
 }
 

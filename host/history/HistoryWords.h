@@ -12,8 +12,8 @@ namespace ko {
 class KO_HOST_EXPORT HistoryWords
 {
 public:
-    /// The name of a node that is there, else an empty text.
-    typedef std::function<QString(const NodeID& id)> NameOf;
+    /// The name of a node or an environment that is there, else an empty text.
+    typedef std::function<QString(const QString& id)> NameOf;
 
     explicit HistoryWords(NameOf nameOf);
 

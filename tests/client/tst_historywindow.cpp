@@ -7,6 +7,7 @@
 #include "HistoryModel.h"
 #include "audit/AuditLog.h"
 #include "audit/NodeLogEntries.h"
+#include "ko/Environments.h"
 #include "ko/PropertyKeys.h"
 
 #include <QAbstractItemModelTester>
@@ -93,6 +94,7 @@ private slots:
     void putBackOfSingleLines();
     void putBackOfLinesWithFollowers();
     void putBackIsUndone();
+    void identifiersAreNames();
     void csv();
     void manyAreReadAsTheyAreShown();
     void keyboard();
@@ -353,6 +355,27 @@ void tst_HistoryWindow::putBackIsUndone()
     const Answers answers({confirm});
     undo->trigger();
     QVERIFY(idOf("Archive").isEmpty());
+}
+
+void tst_HistoryWindow::identifiersAreNames()
+{
+    HostNodeDB& db = *m_host->db();
+    db.environments().setList(db.environments().getList() << qMakePair(QString("{1}"), QString("Office")));
+    endTurn();
+    db.setActiveEnvironment("{1}");
+    endTurn();
+    m_host->change(idOf("Overview"),
+                   [this](Node* node) { node->setStringProperty(PropertyKeys::AudioPathID, idOf("Yard")); });
+    endTurn();
+    open("actionHistory", [](QDialog* dialog) {
+        QCOMPARE(cells(changes(dialog)->model(), 0), QStringList({"Overview", "Audio path", "", "Yard"}));
+        sets(dialog)->selectRow(1);
+        QCOMPARE(cells(changes(dialog)->model(), 0),
+                 QStringList({"Settings", "Active environment", "Default", "Office"}));
+        sets(dialog)->selectRow(2);
+        QCOMPARE(cells(changes(dialog)->model(), 0),
+                 QStringList({"Environments", "All", "Default", "Default, Office"}));
+    });
 }
 
 void tst_HistoryWindow::csv()
