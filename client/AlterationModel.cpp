@@ -21,10 +21,11 @@ AlterationModel::AlterationModel(StoredHistory& history, const HistoryWords& wor
 void AlterationModel::setChangeSets(const QVector<qint64>& numbers)
 {
     beginResetModel();
-    m_numbers = numbers;
+    m_numbers.clear(); // a view asks for more while it is told
     m_after = 0;
     m_rows.clear();
     endResetModel();
+    m_numbers = numbers;
     fetchMore(QModelIndex());
 }
 
