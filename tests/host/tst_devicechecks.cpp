@@ -586,7 +586,12 @@ void DeviceChecksTest::cancelIsAtOnce()
     QElapsedTimer clock;
     clock.start();
     checks.reset();
-    QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
+#ifdef KO_SANITIZE // frees hundreds of connections slowly, in a thread that stands back for others
+    const int atMost = 10000;
+#else
+    const int atMost = 1000;
+#endif
+    QVERIFY2(clock.elapsed() < atMost, qPrintable(QString::number(clock.elapsed())));
     KO_TRY_VERIFY(ProcessResources().threads <= before.threads);
     KO_TRY_VERIFY(ProcessResources().descriptors <= before.descriptors);
 }
