@@ -273,7 +273,7 @@ QString HistoryWords::text(const Alteration& of, const QVariant& value) const
         return names.join(QLatin1String(", "));
     }
     default: {
-        const QString name = isIdentifier(of.key) ? nameOf(value.toString()) : QString();
+        QString name = isIdentifier(of.key) ? nameOf(value.toString()) : QString();
         if (!name.isEmpty())
             return name;
         return of.kind == Alteration::Setting ? settingText(of.key, value.toString())

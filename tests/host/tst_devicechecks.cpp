@@ -564,6 +564,12 @@ void DeviceChecksTest::cancelIsAtOnce()
     QVector<DeviceTarget> targets;
     for (int i = 1; i <= 300; ++i)
         targets.append(site.target(i));
+    {
+        DeviceChecks first; // after which the toolkit keeps some threads
+        QSignalSpy done(&first, &DeviceChecks::finished);
+        first.start(targets.mid(0, 1));
+        QVERIFY(done.wait(testsupport::Patience));
+    }
     auto checks = std::make_unique<DeviceChecks>();
     QSignalSpy some(checks.get(), &DeviceChecks::checked);
     QSignalSpy finished(checks.get(), &DeviceChecks::finished);
@@ -587,7 +593,7 @@ void DeviceChecksTest::cancelIsAtOnce()
     clock.start();
     checks.reset();
 #ifdef KO_SANITIZE // frees hundreds of connections slowly, in a thread that stands back for others
-    const int atMost = 10000;
+    const int atMost = 20000;
 #else
     const int atMost = 1000;
 #endif

@@ -42,7 +42,9 @@ QString joined(const std::set<QString>& names)
 
 PutBackLine::State onlyState(const PutBack& putBack)
 {
-    return putBack.lines.size() == 1 ? putBack.lines.first().state : PutBackLine::State(-1);
+    if (putBack.lines.size() != 1)
+        qFatal("%d lines instead of one", int(putBack.lines.size()));
+    return putBack.lines.first().state;
 }
 
 } // namespace
@@ -170,8 +172,8 @@ void TestHistory::removedCameraComesBackWhole()
     const QVector<ChangeSet> back = newSets();
     QCOMPARE(back.size(), 1);
     QCOMPARE(back.first().cause.purpose, Purpose::Undo);
-    QCOMPARE(onlyState(preview({removal.first()})), PutBackLine::State(-1));
     const QVector<PutBackLine> lines = preview(removal).lines;
+    QVERIFY(!lines.isEmpty());
     for (const PutBackLine& line : lines)
         QCOMPARE(line.state, PutBackLine::AsBefore);
 }
