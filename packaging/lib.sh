@@ -79,6 +79,7 @@ ko_build()
         ko_die "cmake is $version ($(command -v cmake)); it takes 3.25 or newer, as in Debian 12"
     if command -v ccache >/dev/null; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+        export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros} # or nothing with KO_PRECOMPILE is kept
     fi
     ko_say "building $* in build/$preset"
     (cd "$ko_root" && cmake --preset "$preset" --log-level=WARNING &&
