@@ -40,9 +40,10 @@ QUrl urlOf(const DeviceTarget& target)
 
 } // namespace
 
-DeviceCheck::DeviceCheck(const DeviceTarget& target, QObject* parent)
+DeviceCheck::DeviceCheck(const DeviceTarget& target, SharedManagers& managers, QObject* parent)
     : QObject(parent)
     , m_target(target)
+    , m_managers(managers)
 {
     m_report.id = target.id;
     m_limit.setSingleShot(true);
@@ -55,7 +56,8 @@ DeviceCheck::~DeviceCheck() = default;
 void DeviceCheck::start()
 {
     const QUrl url = urlOf(m_target);
-    m_connection = std::make_unique<DeviceConnection>(url, m_target.proxy, m_target.known.certificate);
+    m_connection = std::make_unique<DeviceConnection>(url, m_managers.managerFor(url, m_target.proxy),
+                                                      m_target.known.certificate);
     m_limit.start(MostTime);
     if (!url.isValid() || url.host().isEmpty())
         QTimer::singleShot(0, this, [this] { end(DeviceReport::NoAnswer, tr("the address is no address")); });

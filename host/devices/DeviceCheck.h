@@ -5,6 +5,7 @@
 #include "devices/DeviceReport.h"
 #include "devices/HttpDigest.h"
 #include "devices/PictureFetch.h"
+#include "devices/SharedManagers.h"
 #include "devices/SoapRequest.h"
 #include "ko/TrContext.h"
 
@@ -34,7 +35,8 @@ public:
         MostProfilesAsked = 16 ///< for their addresses
     };
 
-    explicit DeviceCheck(const DeviceTarget& target, QObject* parent = nullptr);
+    /// \a managers outlives it.
+    DeviceCheck(const DeviceTarget& target, SharedManagers& managers, QObject* parent = nullptr);
     ~DeviceCheck() override;
 
     /// Once. Asynchronous, in the thread that the check lives in.
@@ -77,6 +79,7 @@ private:
     void end(DeviceReport::State state, const QString& reason = QString());
 
     const DeviceTarget m_target;
+    SharedManagers& m_managers;
     DeviceReport m_report;
     std::unique_ptr<DeviceConnection> m_connection;
     HttpDigest m_digest;

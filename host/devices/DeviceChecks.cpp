@@ -61,6 +61,7 @@ private:
 
     DeviceChecks& m_checks;
     const int m_run;
+    SharedManagers m_managers;
     QHash<QString, Place> m_places;
     std::deque<QString> m_waiting;
     int m_running = 0;
@@ -121,7 +122,7 @@ void DeviceChecks::Worker::startNext(const QString& place)
         }
     }
     ++m_running;
-    auto* check = new DeviceCheck(first, this);
+    auto* check = new DeviceCheck(first, m_managers, this);
     connect(check, &DeviceCheck::finished, this,
             [this, place, check, alike] { finish(place, check, alike); });
     check->start();

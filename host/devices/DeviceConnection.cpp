@@ -3,6 +3,7 @@
 #include "devices/PictureReader.h"
 
 #include <QCryptographicHash>
+#include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QSslCertificate>
@@ -57,12 +58,12 @@ QString textOf(HttpAnswer::Error error)
 
 } // namespace
 
-DeviceConnection::DeviceConnection(const QUrl& device, const QNetworkProxy& proxy,
+DeviceConnection::DeviceConnection(const QUrl& device, const std::shared_ptr<QNetworkAccessManager>& manager,
                                    const QByteArray& certificate)
     : m_device(device)
     , m_wanted(certificate)
+    , m_manager(manager)
 {
-    m_manager.setProxy(proxy);
     m_deadline.setSingleShot(true);
     connect(&m_deadline, &QTimer::timeout, this, &DeviceConnection::giveUp);
 }
@@ -71,6 +72,7 @@ DeviceConnection::~DeviceConnection()
 {
     if (m_reply)
         disconnect(m_reply, nullptr, this, nullptr);
+    delete m_reply;
 }
 
 void DeviceConnection::post(const QString& path, const QByteArray& message, const QByteArray& authorization,
@@ -81,7 +83,7 @@ void DeviceConnection::post(const QString& path, const QByteArray& message, cons
     QNetworkRequest request = requestFor(url, authorization);
     request.setHeader(QNetworkRequest::ContentTypeHeader,
                       QByteArrayLiteral("application/soap+xml; charset=utf-8"));
-    begin(m_manager.post(request, message), LongestBody, deadline, take);
+    begin(m_manager->post(request, message), LongestBody, deadline, take);
 }
 
 void DeviceConnection::get(const QUrl& place, const QByteArray& authorization, int deadline, const Take& take)
@@ -89,7 +91,7 @@ void DeviceConnection::get(const QUrl& place, const QByteArray& authorization, i
     QUrl url = m_device;
     url.setPath(place.path(QUrl::FullyEncoded), QUrl::TolerantMode); // encoded as it was
     url.setQuery(place.query(QUrl::FullyEncoded));
-    begin(m_manager.get(requestFor(url, authorization)), PictureReader::LongestPicture, deadline, take);
+    begin(m_manager->get(requestFor(url, authorization)), PictureReader::LongestPicture, deadline, take);
 }
 
 QByteArray DeviceConnection::requestTarget(const QUrl& place)
@@ -106,6 +108,9 @@ void DeviceConnection::begin(QNetworkReply* reply, int longest, int deadline, co
     m_longest = longest;
     m_reply = reply;
     m_reply->setReadBufferSize(ReadBuffer);
+    // A reply that has something to send starts later, and forgets what it was told before.
+    QMetaObject::invokeMethod(
+        reply, [reply] { reply->setReadBufferSize(ReadBuffer); }, Qt::QueuedConnection);
     connect(m_reply, &QNetworkReply::encrypted, this, &DeviceConnection::checkCertificate);
     connect(m_reply, &QNetworkReply::readyRead, this, &DeviceConnection::checkLength);
     connect(m_reply, &QNetworkReply::finished, this, &DeviceConnection::takeAnswer);

@@ -5,14 +5,14 @@
 #include "ko/TrContext.h"
 
 #include <QByteArray>
-#include <QNetworkAccessManager>
-#include <QNetworkProxy>
 #include <QObject>
 #include <QTimer>
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 
+class QNetworkAccessManager;
 class QNetworkReply;
 
 namespace ko {
@@ -53,8 +53,9 @@ public:
     typedef std::function<void(const HttpAnswer& answer)> Take;
 
     /// \a device has a scheme, http or https, host and port. \a certificate as in DeviceIdentity, empty when
-    /// none is remembered.
-    DeviceConnection(const QUrl& device, const QNetworkProxy& proxy, const QByteArray& certificate);
+    /// none is remembered. \a manager has no connection to the device yet; see SharedManagers.
+    DeviceConnection(const QUrl& device, const std::shared_ptr<QNetworkAccessManager>& manager,
+                     const QByteArray& certificate);
 
     /// What is under way is given up, and not told.
     ~DeviceConnection() override;
@@ -92,10 +93,10 @@ private:
     HttpAnswer::Error m_failure = HttpAnswer::None;
     Take m_take;
     QTimer m_deadline;
-    QNetworkReply* m_reply = nullptr; ///< belongs to the manager
+    QNetworkReply* m_reply = nullptr; ///< ours
     QByteArray m_body;
     int m_longest = LongestBody;
-    QNetworkAccessManager m_manager;
+    const std::shared_ptr<QNetworkAccessManager> m_manager;
 };
 
 } // namespace ko

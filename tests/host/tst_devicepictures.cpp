@@ -18,7 +18,8 @@ namespace {
 DeviceReport ask(DeviceTarget target)
 {
     target.wantsPicture = true;
-    DeviceCheck check(target);
+    SharedManagers managers;
+    DeviceCheck check(target, managers);
     QSignalSpy finished(&check, &DeviceCheck::finished);
     check.start();
     const bool isOver = QTest::qWaitFor([&] { return !finished.isEmpty(); }, testsupport::Patience);
@@ -89,7 +90,9 @@ Fetched fetch(const WebServer& server, const QString& uri, const QString& realm 
     target.password = QStringLiteral("kosim-secret");
     QUrl place(QStringLiteral("http://127.0.0.1"));
     place.setPort(server.serverPort());
-    DeviceConnection connection(place, QNetworkProxy(QNetworkProxy::NoProxy), QByteArray());
+    SharedManagers managers;
+    DeviceConnection connection(place, managers.managerFor(place, QNetworkProxy(QNetworkProxy::NoProxy)),
+                                QByteArray());
     Fetched fetched;
     PictureFetch fetch(connection, target, realm, [&](const QImage& picture, const QString& problem) {
         fetched = {picture, problem, true};

@@ -2,8 +2,10 @@
 #define TESTS_SUPPORT_PROCESSRESOURCES_H
 
 #include <QDir>
+#include <QFile>
 
 #include <malloc.h>
+#include <unistd.h>
 
 namespace testsupport {
 
@@ -12,6 +14,14 @@ inline qint64 heapInUse()
 {
     const struct mallinfo2 info = mallinfo2();
     return qint64(info.uordblks + info.hblkhd);
+}
+
+/// Bytes of memory that are in use now, whoever allocated them.
+inline qint64 residentMemory()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    file.open(QIODevice::ReadOnly);
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
 /// How many threads and file descriptors this process has.
