@@ -8,6 +8,7 @@
 #include "support/Answers.h"
 #include "support/DialogCheck.h"
 #include "support/ModalAnswer.h"
+#include "support/OwnTimer.h"
 #include "support/Patience.h"
 #include "support/ProcessResources.h"
 #include "support/SiteCameras.h"
@@ -525,8 +526,7 @@ void tst_CameraCheck::cancelled()
     KO_TRY_COMPARE(state(ids.at(0)), QString("Answers"));
     action("actionCheck")->trigger(); // a second one waits for nobody
     QVERIFY(m_window->statusBar()->currentMessage().contains("already"));
-    QElapsedTimer clock;
-    clock.start();
+    const testsupport::OwnTimer clock;
     press("checkCancelButton");
     QVERIFY(clock.elapsed() < 200);
     QVERIFY2(line().contains("cancelled"), qPrintable(line()));
@@ -565,8 +565,7 @@ void tst_CameraCheck::closingCancels()
     open();
     action("actionCheck")->trigger();
     QTest::qWait(200);
-    QElapsedTimer clock;
-    clock.start();
+    const testsupport::OwnTimer clock;
     m_window->close();
     QVERIFY(!panel()->isVisible() || line().contains("cancelled"));
     m_window.reset();

@@ -1,3 +1,4 @@
+#include "support/OwnTimer.h"
 #include "support/TestMain.h"
 
 #include "NodeListModel.h"
@@ -604,8 +605,7 @@ void tst_NodeListModel::statesCostLittle()
     QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
     CameraState answers;
     answers.state = DeviceReport::Answers;
-    QElapsedTimer clock;
-    clock.start();
+    const testsupport::OwnTimer clock;
     for (int first = 0; first < count; first += 100) {
         QHash<QString, CameraState> states;
         for (int i = first; i < first + 100; ++i)

@@ -5,6 +5,7 @@
 #include "discovery/NeighbourTable.h"
 #include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
+#include "support/OwnTimer.h"
 #include "support/Patience.h"
 #include "support/ProcessResources.h"
 
@@ -467,8 +468,7 @@ void ArpScannerTest::stopsAtOnce()
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554")}, 24));
     m_scanner->start(0xFFFFFFFF, -1);
     KO_TRY_COMPARE(int(m_found.size()), 1);
-    QElapsedTimer clock;
-    clock.start();
+    const testsupport::OwnTimer clock;
     m_scanner->stop();
     QVERIFY2(clock.elapsed() < 200, qPrintable(QString::number(clock.elapsed())));
     QCOMPARE(int(m_scanner->state().phase), int(ScannerState::Cancelled));

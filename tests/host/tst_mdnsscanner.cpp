@@ -2,6 +2,7 @@
 #include "discovery/MdnsTxt.h"
 #include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
+#include "support/OwnTimer.h"
 #include "support/Patience.h"
 #include "support/ProcessResources.h"
 #include "support/TestMain.h"
@@ -285,13 +286,12 @@ void MdnsScannerTest::daemonThatHangsHoldsNobodyUp()
     QVERIFY(publish(publisher, QStringLiteral("Gate"), 8554));
     const ProcessResources before;
     const StoppedProcess stopped(m_daemon);
-    qint64 longest = 0;
+    double longest = 0;
     auto scanner = std::make_unique<MdnsScanner>();
     for (int i = 0; i < 20; ++i) {
         scanner->start(0xFFFFFFFF, -1);
         QTest::qWait(i == 0 ? 500 : 20);
-        QElapsedTimer clock;
-        clock.start();
+        const testsupport::OwnTimer clock;
         scanner->stop();
         if (i % 5 == 4)
             scanner = std::make_unique<MdnsScanner>();

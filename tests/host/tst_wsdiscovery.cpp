@@ -4,6 +4,7 @@
 #include "network/SoapWalk.h"
 #include "support/LogLines.h"
 #include "support/NetworkNamespaces.h"
+#include "support/OwnTimer.h"
 #include "support/Patience.h"
 #include "support/ProcessResources.h"
 #include "support/TestMain.h"
@@ -285,8 +286,7 @@ void WsDiscoveryTest::worstMessageIsReadAtOnce_data()
 void WsDiscoveryTest::worstMessageIsReadAtOnce()
 {
     QFETCH(QByteArray, message);
-    QElapsedTimer clock;
-    clock.start();
+    const testsupport::OwnTimer clock;
     SoapWalk::read(message, [](const QString&, const QString&) {});
     QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
 }
@@ -423,8 +423,7 @@ void WsDiscoveryTest::onAndOffLeavesNothing()
     for (int i = 0; i < 100; ++i) {
         scanner.start(0xFFFFFFFF, -1);
         QTest::qWait(i % 10);
-        QElapsedTimer clock;
-        clock.start();
+        const testsupport::OwnTimer clock;
         scanner.stop();
         QVERIFY(clock.elapsed() < 500);
     }
