@@ -51,6 +51,11 @@ kom::smart<const Node> HostNodeDB::node(const QString& id) const
     return d->nodes.node(id);
 }
 
+void HostNodeDB::readAhead(const QStringList& ids) const
+{
+    d->queue.reading([&] { d->memory.readAhead(ids); });
+}
+
 bool HostNodeDB::getBrief(const QString& id, NodeBrief* brief) const
 {
     return d->memory.getBrief(id, brief);

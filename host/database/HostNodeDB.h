@@ -57,6 +57,7 @@ public:
 
     // NodeDB
     kom::smart<const Node> node(const QString& id) const override;
+    void readAhead(const QStringList& ids) const override;
     bool getBrief(const QString& id, NodeBrief* brief) const override;
     Node* beginUpdateNode(const QString& id, int limit) override;
     void endUpdateNode(Node* node) override;

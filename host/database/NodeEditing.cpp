@@ -154,7 +154,11 @@ void NodeEditing::change(const RelationChange& change)
 bool NodeEditing::apply(const ChangeSet& set)
 {
     return m_queue.reading([&] {
-        const Notices notices = m_memory.apply(set);
+        QStringList ids;
+        for (const NodeChange& change : set.nodes)
+            ids.append(change.id);
+        m_memory.readAhead(ids); // what fails fails before anything is done
+        const Notices notices = applyAll(set);
         for (const NodeChange& change : set.nodes) {
             const NodeRecord* record = m_memory.cache.find(change.id);
             if (record && record->contents)
@@ -164,6 +168,60 @@ bool NodeEditing::apply(const ChangeSet& set)
         m_announce(notices);
         return true;
     });
+}
+
+Notices NodeEditing::applyAll(const ChangeSet& set)
+{
+    Notices notices;
+    for (const NodeChange& change : set.nodes)
+        apply(change, &notices);
+    for (const RelationChange& change : set.relations) {
+        const Relation& relation = change.relation;
+        if (!m_memory.cache.find(relation.source) || !m_memory.cache.find(relation.destination) ||
+            !m_memory.change(change))
+            continue;
+        notices.updated(relation.source);
+        notices.updated(relation.destination);
+    }
+    for (const SettingChange& change : set.settings)
+        notices.settings = m_memory.setSetting(change.key, change.after) || notices.settings;
+    if (set.environments) {
+        m_memory.setEnvironments(set.environments->after);
+        notices.settings = true;
+    }
+    return notices;
+}
+
+void NodeEditing::apply(const NodeChange& change, Notices* notices)
+{
+    NodeRecord* record = m_memory.cache.find(change.id);
+    if (change.isAdded() == (record != nullptr) || (record && !m_memory.read(*record)))
+        return;
+    NodeData data;
+    if (record) {
+        data = record->data();
+    } else {
+        data.id = change.id;
+        data.type = change.type;
+    }
+    if (change.isRemoved()) {
+        m_memory.remove(*record);
+        notices->removed(change.id);
+        return;
+    }
+    if (!change.before || change.before->name != change.after->name)
+        data.name = change.after->name;
+    for (const std::optional<NodeValues>* side : {&change.before, &change.after}) {
+        const PropertyList properties = *side ? (*side)->properties : PropertyList();
+        for (const PropertyList::Entry& entry : properties)
+            data.properties.set(entry.name, change.after->properties.value(entry.name));
+    }
+    if (!record) {
+        m_memory.add(data, change.place);
+        notices->inserted(change.id);
+    } else if (m_memory.update(*record, data)) {
+        notices->updated(change.id);
+    }
 }
 
 } // namespace ko

@@ -31,10 +31,14 @@ public:
     /// With the remote preview that it alone uses.
     void remove(const NodeID& id);
     void change(const RelationChange& change);
+    /// Does all that \a set says, as far as it still can be done: a node that is gone is not changed, one
+    /// that is there not added. False, with nothing done, if something cannot be read.
     bool apply(const ChangeSet& set);
 
 private:
     NodeRecord* read(const NodeID& id);
+    Notices applyAll(const ChangeSet& set);
+    void apply(const NodeChange& change, Notices* notices);
     void makeRemotePreview(const NodeID& camera);
     void written(const NodeID& id, ENodeType type);
 

@@ -20,14 +20,6 @@ NodeChange changeOf(const NodeData& data)
 
 } // namespace
 
-void Notices::add(Kind kind, const NodeID& id)
-{
-    if (kind == Updated && m_known.contains(id))
-        return;
-    m_known.insert(id);
-    m_nodes.append({kind, id});
-}
-
 NodeMemory::NodeMemory(NodeStore& store)
     : m_store(store)
 {
@@ -62,6 +54,22 @@ bool NodeMemory::read(NodeRecord& record)
     data.properties = *properties;
     setData(record, data);
     return true;
+}
+
+void NodeMemory::readAhead(const QStringList& ids)
+{
+    const auto isMissing = [this](const NodeID& id) {
+        const NodeRecord* record = cache.find(id);
+        return record && !record->contents;
+    };
+    QStringList missing;
+    std::copy_if(ids.begin(), ids.end(), std::back_inserter(missing), isMissing);
+    m_store.properties(missing, [this](const NodeID& id, const PropertyList& properties) {
+        NodeRecord* record = cache.find(id);
+        NodeData data = record->data();
+        data.properties = properties;
+        setData(*record, data);
+    });
 }
 
 QString NodeMemory::nodeWithLookupKey(const QString& key)
@@ -326,63 +334,6 @@ void NodeMemory::setEnvironments(const Environments::List& list)
 {
     pending.environmentsChanged({environments, list});
     environments = list;
-}
-
-Notices NodeMemory::apply(const ChangeSet& set)
-{
-    Notices notices;
-    for (const NodeChange& change : set.nodes) {
-        if (NodeRecord* record = cache.find(change.id))
-            read(*record); // what fails fails before anything is done
-    }
-    for (const NodeChange& change : set.nodes)
-        apply(change, &notices);
-    for (const RelationChange& change : set.relations) {
-        const Relation& relation = change.relation;
-        if (!cache.find(relation.source) || !cache.find(relation.destination) || !this->change(change))
-            continue;
-        notices.updated(relation.source);
-        notices.updated(relation.destination);
-    }
-    for (const SettingChange& change : set.settings)
-        notices.settings = setSetting(change.key, change.after) || notices.settings;
-    if (set.environments) {
-        setEnvironments(set.environments->after);
-        notices.settings = true;
-    }
-    return notices;
-}
-
-void NodeMemory::apply(const NodeChange& change, Notices* notices)
-{
-    NodeRecord* record = cache.find(change.id);
-    if (change.isAdded() == (record != nullptr) || (record && !read(*record)))
-        return;
-    NodeData data;
-    if (record) {
-        data = record->data();
-    } else {
-        data.id = change.id;
-        data.type = change.type;
-    }
-    if (change.isRemoved()) {
-        remove(*record);
-        notices->removed(change.id);
-        return;
-    }
-    if (!change.before || change.before->name != change.after->name)
-        data.name = change.after->name;
-    for (const std::optional<NodeValues>* side : {&change.before, &change.after}) {
-        const PropertyList properties = *side ? (*side)->properties : PropertyList();
-        for (const PropertyList::Entry& entry : properties)
-            data.properties.set(entry.name, change.after->properties.value(entry.name));
-    }
-    if (!record) {
-        add(data, change.place);
-        notices->inserted(change.id);
-    } else if (update(*record, data)) {
-        notices->updated(change.id);
-    }
 }
 
 /// The properties of \a record were read: those of \a data, which has everything else from there.

@@ -2,36 +2,14 @@
 #define KO_NODEMEMORY_H
 
 #include "database/NodeCache.h"
+#include "database/Notices.h"
 #include "database/PendingChanges.h"
 #include "database/RelationIndex.h"
 #include "ko/NodeDB.h"
 #include "model/Delta.h"
 #include "store/NodeStore.h"
 
-#include <QSet>
-
 namespace ko {
-
-/// What is to be announced, in its order.
-class Notices
-{
-public:
-    enum Kind { Inserted, Updated, Removed };
-    typedef QVector<QPair<Kind, NodeID>> Nodes;
-
-    void inserted(const NodeID& id) { add(Inserted, id); }
-    void updated(const NodeID& id) { add(Updated, id); }
-    void removed(const NodeID& id) { add(Removed, id); }
-
-    const Nodes& nodes() const { return m_nodes; }
-    bool settings = false;
-
-private:
-    void add(Kind kind, const NodeID& id);
-
-    Nodes m_nodes;
-    QSet<NodeID> m_known;
-};
 
 /// The database as this process sees it: what was read from the store, with what waits to be written
 /// already done. Changing it notes what is to be written.
@@ -57,6 +35,9 @@ public:
     /// Reads the properties of \a record, unless they are here. False if the store has lost the node. Throws
     /// StoreFailure.
     bool read(NodeRecord& record);
+
+    /// The same for all of these together, if they are there.
+    void readAhead(const QStringList& ids);
 
     /// The oldest node with this look-up key; empty if there is none. Throws StoreFailure.
     QString nodeWithLookupKey(const QString& key);
@@ -89,13 +70,8 @@ public:
     bool setSetting(const QString& key, const std::optional<QString>& value);
     void setEnvironments(const Environments::List& list);
 
-    /// Does all that \a set says, as far as it still can be done: a node that is gone is not changed, one
-    /// that is there not added. Throws StoreFailure, with nothing done.
-    Notices apply(const ChangeSet& set);
-
 private:
     void readLookupKeys();
-    void apply(const NodeChange& change, Notices* notices);
     void setData(NodeRecord& record, const NodeData& data);
     void takeNode(const NodeRow& row, bool always, Notices* notices);
     bool takeRow(NodeRecord& record, const NodeRow& row);

@@ -107,6 +107,12 @@ std::optional<PropertyList> NodeStore::properties(const NodeID& id)
     return d->tables.properties(id);
 }
 
+void NodeStore::properties(const QStringList& ids,
+                           const std::function<void(const NodeID&, const PropertyList&)>& visit)
+{
+    d->tables.forEachProperties(ids, visit);
+}
+
 void NodeStore::column(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit)
 {
     d->tables.forEachValue(key, visit);

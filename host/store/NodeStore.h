@@ -61,6 +61,10 @@ public:
     /// None if the node is gone.
     std::optional<PropertyList> properties(const NodeID& id);
 
+    /// Of many nodes together; one that is gone is not visited.
+    void properties(const QStringList& ids,
+                    const std::function<void(const NodeID&, const PropertyList&)>& visit);
+
     /// One property of all nodes that have it, by one statement.
     void column(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit);
 

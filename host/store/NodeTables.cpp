@@ -3,8 +3,12 @@
 #include "ko/LogQt.h"
 #include "store/PropertyCoding.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 #include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace ko {
 
@@ -17,6 +21,14 @@ bool isIdentifier(std::string_view utf8)
     if (std::all_of(utf8.begin(), utf8.end(), isPlain))
         return !utf8.empty();
     return QString::fromUtf8(utf8.data(), int(utf8.size())).toStdString() == utf8;
+}
+
+/// Of many nodes that are read together.
+const int idsOfAStatement = 500;
+
+QString jsonArray(const QStringList& texts)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
 }
 
 /// A null string would be bound as NULL, which no column takes.
@@ -109,6 +121,29 @@ std::optional<PropertyList> NodeTables::properties(const NodeID& id)
     if (properties.count() == 0 && number(id) == 0)
         return std::nullopt;
     return properties;
+}
+
+void NodeTables::forEachProperties(const QStringList& ids,
+                                   const std::function<void(const NodeID&, const PropertyList&)>& visit)
+{
+    for (int first = 0; first < ids.size(); first += idsOfAStatement) {
+        SqliteStore::Rows rows =
+            m_store.run("SELECT n.id, p.key, p.type, p.value FROM json_each(?) j CROSS JOIN nodes n"
+                        " ON n.id = j.value LEFT JOIN properties p ON p.node = n.n ORDER BY j.key",
+                        {jsonArray(ids.mid(first, idsOfAStatement))});
+        NodeID id;
+        PropertyList properties;
+        while (rows.next()) {
+            const NodeID next = rows.text(0);
+            if (next != id && !id.isNull())
+                visit(id, std::exchange(properties, PropertyList()));
+            id = next;
+            if (!rows.value(1).isNull())
+                properties.set(rows.text(1), PropertyCoding::decode(int(rows.number(2)), rows.value(3)));
+        }
+        if (!id.isNull())
+            visit(id, properties);
+    }
 }
 
 void NodeTables::forEachValue(const QString& key,

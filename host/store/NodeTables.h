@@ -35,6 +35,10 @@ public:
     /// None if the node is gone.
     std::optional<PropertyList> properties(const NodeID& id);
 
+    /// Of all these nodes that are there, by one statement for each few hundred.
+    void forEachProperties(const QStringList& ids,
+                           const std::function<void(const NodeID&, const PropertyList&)>& visit);
+
     /// One property of all nodes that have it.
     void forEachValue(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit);
 

@@ -21,6 +21,8 @@ NodeDB* NodeDB::getDB()
     return instances().isEmpty() ? nullptr : instances().last();
 }
 
+void NodeDB::readAhead(const QStringList&) const {}
+
 bool NodeDB::getBrief(const QString& id, NodeBrief* brief) const
 {
     const kom::smart<const Node> found = node(id);

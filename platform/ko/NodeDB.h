@@ -49,7 +49,11 @@ public:
     /// The node as it is now, or a null handle. What was handed out never changes.
     virtual kom::smart<const Node> node(const QString& id) const = 0;
 
-    /// The same in brief, which a host may give without reading the node. False, with \a brief as it was,
+    /// Says that all of these nodes will be asked for: a host that keeps nodes on a disk may read them
+    /// together, which takes far less time than one after the other. Does nothing if not overridden.
+    virtual void readAhead(const QStringList& ids) const;
+
+    /// A node in brief, which a host may give without reading the node. False, with \a brief as it was,
     /// when there is no such node.
     virtual bool getBrief(const QString& id, NodeBrief* brief) const;
 

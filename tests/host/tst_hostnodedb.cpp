@@ -28,6 +28,7 @@ private slots:
     void newNodeIsAnnouncedBeforeTheCallReturns();
     void idsAreListedByTypeOldestFirst();
     void nodesAreThereAfterReopening();
+    void nodesAreReadTogether();
     void manyNodesComeAndGo();
     void valuesKeepTypeAndValue_data();
     void valuesKeepTypeAndValue();
@@ -154,6 +155,23 @@ void TestHostNodeDB::nodesAreThereAfterReopening()
     QCOMPARE(m_db->node(unnamed)->name(), QString());
     QCOMPARE(m_db->summary(id).name, name);
     QCOMPARE(m_db->summary(id).location, QLatin1String("10.0.0.1"));
+}
+
+void TestHostNodeDB::nodesAreReadTogether()
+{
+    QStringList ids;
+    for (int i = 0; i < 1100; ++i) // some statements
+        ids.append(addCamera(*m_db, QString::number(i), QString::fromLatin1("10.0.%1.1").arg(i)));
+    setText(*m_db, ids.at(7), "Model", QString::fromUtf8("\"Größe\"\n"));
+    reopen();
+    setText(*m_db, ids.at(8), "Model", QLatin1String("not stored yet"));
+    m_db->readAhead(ids + QStringList({QLatin1String("gone"), QString(), ids.at(7)}));
+    PlainSql sql(m_file);
+    sql.run(QLatin1String("DELETE FROM properties")); // where the nodes are not read from any more
+    for (int i = 0; i < ids.size(); ++i)
+        QCOMPARE(text(*m_db, ids.at(i), "Address"), QString::fromLatin1("10.0.%1.1").arg(i));
+    QCOMPARE(text(*m_db, ids.at(7), "Model"), QString::fromUtf8("\"Größe\"\n"));
+    QCOMPARE(text(*m_db, ids.at(8), "Model"), QLatin1String("not stored yet"));
 }
 
 void TestHostNodeDB::manyNodesComeAndGo()

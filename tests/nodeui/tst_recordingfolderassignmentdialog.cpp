@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScopeGuard>
+#include <QSignalSpy>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTextDocument>
@@ -176,6 +177,9 @@ private slots:
     void renamedWhileSorted();
     void namesAndPathsAreText();
     void manyFoldersOpenFast();
+    void manyChangesAreSortedOnce();
+    void changesOfOneFolder();
+    void descendingRowsGo();
     void expandAndCollapse_data();
     void expandAndCollapse();
     void otherChoiceCollapses();
@@ -619,6 +623,78 @@ void tst_RecordingFolderAssignmentDialog::manyFoldersOpenFast()
     qInfo("%d folders: %s", count, qPrintable(times));
     // Sorting at each row costs fifty times a plain table. The benchmark has the bound for release builds.
     QVERIFY2(ours < 8 * plain, qPrintable(times));
+}
+
+void tst_RecordingFolderAssignmentDialog::manyChangesAreSortedOnce()
+{
+    const int count = 3000;
+    for (int i = 0; i < count; ++i)
+        addFolder(QString("f%1").arg(i), QString("//srv/%1").arg(i));
+    const Dialog dialog("cam", nullptr);
+    const QTableWidget* table = Parts(&dialog).table;
+    const QSignalSpy sorted(table->model(), SIGNAL(layoutChanged()));
+    for (int i = 0; i < 1000; ++i) {
+        Node* folder = m_db->beginUpdateNode(QString("f%1").arg(i), -1);
+        folder->setStringProperty("Name", QString("renamed %1").arg(i * 7919 % 1000, 4, 10, QChar('0')));
+        m_db->endUpdateNode(folder);
+    }
+    for (int i = 1000; i < 1500; ++i)
+        m_db->removeNode(QString("f%1").arg(i));
+    for (int i = 0; i < 500; ++i) {
+        addFolder(QString("new%1").arg(i), "//new");
+        emit m_db->nodeInserted(QString("new%1").arg(i));
+    }
+    QTRY_COMPARE(table->item(table->currentRow(), 2)->text(), QString("new499"));
+    QCOMPARE(table->rowCount(), count + 2);
+    QVERIFY2(sorted.count() <= 3, qPrintable(QString::number(sorted.count())));
+    QString before;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QString id = table->item(row, 2)->text();
+        const kom::smart<const Node> node = m_db->node(id);
+        QVERIFY2(!node.null(), qPrintable(id));
+        QCOMPARE(table->item(row, 0)->text(), node->name());
+        QVERIFY2(before <= node->name(), qPrintable(node->name()));
+        before = node->name();
+    }
+}
+
+void tst_RecordingFolderAssignmentDialog::changesOfOneFolder()
+{
+    for (int i = 0; i < 3000; ++i)
+        addFolder(QString("f%1").arg(i), "//srv");
+    const Dialog dialog("cam", nullptr);
+    const QTableWidget* table = Parts(&dialog).table;
+    emit m_db->nodeUpdated("f0"); // the others wait from here on
+    emit m_db->nodeRemoved("f1");
+    emit m_db->nodeInserted("f1");
+    emit m_db->nodeInserted("f2");
+    addFolder("came and went", "//srv");
+    emit m_db->nodeInserted("came and went");
+    emit m_db->nodeUpdated("came and went");
+    emit m_db->nodeRemoved("came and went");
+    emit m_db->nodeRemoved("f3");
+    emit m_db->nodeUpdated("f3");
+    QTRY_COMPARE(rowOf(table, "f3"), -1);
+    QCOMPARE(table->rowCount(), 3001);
+    QVERIFY(rowOf(table, "f1") >= 0);
+    QCOMPARE(rowOf(table, "came and went"), -1);
+}
+
+/// Together, also where they are sorted to the top.
+void tst_RecordingFolderAssignmentDialog::descendingRowsGo()
+{
+    const int count = 3000;
+    for (int i = 0; i < count; ++i)
+        addFolder(QString("f%1").arg(i), "//srv");
+    const Dialog dialog("cam", nullptr);
+    QTableWidget* table = Parts(&dialog).table;
+    table->sortByColumn(0, Qt::DescendingOrder);
+    table->setCurrentCell(rowOf(table, "own"), 0);
+    for (int i = 0; i < count; ++i)
+        m_db->removeNode(QString("f%1").arg(i));
+    QTRY_COMPARE(rows(table), QStringList({"free", "own"}));
+    QCOMPARE(table->item(table->currentRow(), 2)->text(), QString("own"));
+    QCOMPARE(table->item(0, 2)->text(), QString("own"));
 }
 
 void tst_RecordingFolderAssignmentDialog::expandAndCollapse_data()

@@ -1,0 +1,68 @@
+#include "ko/OncePerFrame.h"
+
+#include <QMetaObject>
+#include <QTimerEvent>
+
+namespace ko {
+
+namespace {
+
+const int frame = 16;      // ms
+const int atOnceIn = 2000; // microseconds of one turn of the event loop
+
+} // namespace
+
+OncePerFrame::OncePerFrame(QObject* parent)
+    : QObject(parent)
+{
+}
+
+bool OncePerFrame::isNow(int microseconds)
+{
+    if (!m_isTurnWatched) {
+        m_isTurnWatched = true;
+        QMetaObject::invokeMethod(this, "endTurn", Qt::QueuedConnection);
+    }
+    if (m_isDue)
+        return false;
+    const bool isRested = !m_sinceWork.isValid() || m_sinceWork.elapsed() >= frame;
+    const bool isFirst = m_spent == 0 && isRested;
+    m_spent += microseconds;
+    m_isDue = !isFirst && m_spent > atOnceIn;
+    return !m_isDue;
+}
+
+void OncePerFrame::endTurn()
+{
+    m_isTurnWatched = false;
+    if (!m_isDue) {
+        if (m_spent > atOnceIn)
+            m_sinceWork.start();
+        m_spent = 0;
+        return;
+    }
+    const qint64 rest = m_sinceWork.isValid() ? frame - m_sinceWork.elapsed() : 0;
+    if (rest <= 0)
+        run();
+    else if (!m_wait.isActive())
+        m_wait.start(int(rest), this);
+}
+
+void OncePerFrame::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() == m_wait.timerId())
+        run();
+    else
+        QObject::timerEvent(event);
+}
+
+void OncePerFrame::run()
+{
+    m_wait.stop();
+    m_isDue = false;
+    m_spent = 0;
+    m_sinceWork.start();
+    emit due();
+}
+
+} // namespace ko
