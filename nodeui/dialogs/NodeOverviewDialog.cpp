@@ -7,10 +7,9 @@
 #include "ko/NodeViewModel.h"
 #include "ko/connect.h"
 #include "utils/Retranslation.h"
+#include "utils/SortOnceProxy.h"
 
 #include "ui_NodeOverviewDialog.h"
-
-#include <QSortFilterProxyModel>
 
 namespace ko {
 
@@ -21,7 +20,7 @@ NodeOverviewDialog::NodeOverviewDialog(QWidget* parent)
 {
     ko::connect(NodeDB::getDB(), SIGNAL(nodeInserted(ko::NodeID)), m_view.get(), SLOT(addNode(ko::NodeID)));
     m_model.reset(new NodeViewModel(m_view, nullptr));
-    m_proxy.reset(new QSortFilterProxyModel);
+    m_proxy.reset(new SortOnceProxy);
     m_proxy->setSourceModel(m_model.data());
     m_ui->setupUi(this);
     onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });

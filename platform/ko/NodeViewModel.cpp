@@ -8,10 +8,22 @@
 
 namespace ko {
 
+namespace {
+
+/// Microseconds that a sorted proxy and its view take for another row.
+int timeOfARow(int rows)
+{
+    return 2 + rows / 500;
+}
+
+} // namespace
+
 NodeViewModel::NodeViewModel(kom::smart<NodeView> view, QObject* parent)
     : QAbstractItemModel(parent)
     , m_view(view)
+    , m_rootRows(view->root().count())
 {
+    ko::connect(&m_frame, SIGNAL(due()), this, SLOT(tellWaiting()));
     const NodeView* source = m_view.get();
     ko::connect(source, SIGNAL(entriesAboutToBeInserted(uint, int, int)), this,
                 SLOT(entriesAboutToBeInserted(uint, int, int)));
@@ -48,12 +60,9 @@ const SubViewEntry* NodeViewModel::list(const QModelIndex& parent) const
 
 QModelIndex NodeViewModel::index(int row, int column, const QModelIndex& parent) const
 {
-    const SubViewEntry* entries = list(parent);
-    if (!entries || column < 0 || column >= columnCount(parent))
+    if (column < 0 || column >= columnCount(parent) || row < 0 || row >= NodeViewModel::rowCount(parent))
         return QModelIndex();
-    if (row < 0 || row >= entries->count())
-        return QModelIndex();
-    return createIndex(row, column, entries->internalIdAt(row));
+    return createIndex(row, column, list(parent)->internalIdAt(row));
 }
 
 QModelIndex NodeViewModel::parent(const QModelIndex& child) const
@@ -65,6 +74,8 @@ QModelIndex NodeViewModel::parent(const QModelIndex& child) const
 
 int NodeViewModel::rowCount(const QModelIndex& parent) const
 {
+    if (!parent.isValid())
+        return m_rootRows;
     const SubViewEntry* entries = list(parent);
     return entries ? entries->count() : 0;
 }
@@ -174,22 +185,58 @@ QMimeData* NodeViewModel::mimeData(const QModelIndexList& indexes) const
 
 void NodeViewModel::entriesAboutToBeInserted(unsigned listId, int first, int last)
 {
-    beginInsertRows(indexOfList(listId), first, last);
+    m_told = Nothing;
+    if (listId == m_view->root().internalId()) {
+        if (first == m_rootRows && m_frame.isNow(timeOfARow(m_rootRows)))
+            m_told = InRoot;
+    } else if (isShown(*m_view->findEntry(listId))) {
+        m_told = InList;
+    }
+    if (m_told != Nothing)
+        beginInsertRows(indexOfList(listId), first, last);
 }
 
 void NodeViewModel::entriesInserted()
 {
+    if (m_told == InRoot)
+        m_rootRows = m_view->root().count();
+    if (m_told != Nothing)
+        endInsertRows();
+}
+
+void NodeViewModel::tellWaiting()
+{
+    tellChanges();
+    tellAppended();
+}
+
+void NodeViewModel::tellAppended()
+{
+    const int count = m_view->root().count();
+    if (count == m_rootRows)
+        return;
+    beginInsertRows(QModelIndex(), m_rootRows, count - 1);
+    m_rootRows = count;
     endInsertRows();
 }
 
 void NodeViewModel::entryAboutToBeRemoved(unsigned listId, int row)
 {
-    beginRemoveRows(indexOfList(listId), row, row);
+    m_told = Nothing;
+    if (listId == m_view->root().internalId())
+        m_told = row < m_rootRows ? InRoot : Nothing;
+    else if (isShown(*m_view->findEntry(listId)))
+        m_told = InList;
+    if (m_told != Nothing)
+        beginRemoveRows(indexOfList(listId), row, row);
 }
 
 void NodeViewModel::entryRemoved()
 {
-    endRemoveRows();
+    if (m_told == InRoot)
+        --m_rootRows;
+    if (m_told != Nothing)
+        endRemoveRows();
 }
 
 void NodeViewModel::aboutToBeCleared()
@@ -199,6 +246,7 @@ void NodeViewModel::aboutToBeCleared()
 
 void NodeViewModel::cleared()
 {
+    m_rootRows = 0;
     endResetModel();
 }
 
@@ -207,21 +255,62 @@ void NodeViewModel::nodeChanged(ko::NodeID id)
     const QList<kom::smart<NodeEntry>> entries = m_view->entriesOf(id);
     for (const kom::smart<NodeEntry>& changed : entries) {
         changed->m_shown.reset();
-        const QModelIndex first = indexOf(*changed, 0);
-        emit dataChanged(first, indexOf(*changed, columnCount(first) - 1));
+        const QModelIndex index = indexOf(*changed, 0);
+        if (!index.isValid())
+            continue; // it is read when it is told
+        if (m_frame.isNow(timeOfARow(m_rootRows)))
+            tellChanged(index.row(), index.row(), index.parent());
+        else
+            m_changed.append(changed->internalId());
     }
 }
 
+void NodeViewModel::tellChanged(int firstRow, int lastRow, const QModelIndex& parent)
+{
+    emit dataChanged(index(firstRow, 0, parent), index(lastRow, columnCount(parent) - 1, parent));
+}
+
+/// In the view's own list as one range, which may hold rows that did not change.
+void NodeViewModel::tellChanges()
+{
+    int first = m_rootRows;
+    int last = -1;
+    QList<unsigned> changed;
+    changed.swap(m_changed);
+    for (const unsigned internalId : std::as_const(changed)) {
+        const NodeViewEntry* entry = m_view->findEntry(internalId);
+        const QModelIndex index = entry ? indexOf(*entry, 0) : QModelIndex();
+        if (index.parent().isValid()) {
+            tellChanged(index.row(), index.row(), index.parent());
+        } else if (index.isValid()) {
+            first = qMin(first, index.row());
+            last = qMax(last, index.row());
+        }
+    }
+    if (last >= 0)
+        tellChanged(first, last, QModelIndex());
+}
+
+/// Invalid if it is not shown yet.
 QModelIndex NodeViewModel::indexOf(const NodeViewEntry& entry, int column) const
 {
-    const SubViewEntry* parent = m_view->parentOf(entry);
-    return parent ? createIndex(parent->rowOf(entry), column, entry.internalId()) : QModelIndex();
+    if (!isShown(entry))
+        return QModelIndex();
+    return createIndex(m_view->parentOf(entry)->rowOf(entry), column, entry.internalId());
 }
 
 QModelIndex NodeViewModel::indexOfList(unsigned listId) const
 {
-    const kom::smart<NodeViewEntry> entry = m_view->entryFromInternalId(listId);
-    return entry.null() ? QModelIndex() : indexOf(*entry, 0);
+    const NodeViewEntry* entry = m_view->findEntry(listId);
+    return entry ? indexOf(*entry, 0) : QModelIndex();
+}
+
+bool NodeViewModel::isShown(const NodeViewEntry& entry) const
+{
+    const SubViewEntry* parent = m_view->parentOf(entry);
+    if (parent == &m_view->root())
+        return parent->rowOf(entry) < m_rootRows;
+    return parent && isShown(*parent);
 }
 
 } // namespace ko

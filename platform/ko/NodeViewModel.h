@@ -2,6 +2,7 @@
 #define KO_NODEVIEWMODEL_H
 
 #include "ko/NodeView.h"
+#include "ko/OncePerFrame.h"
 #include "ko/TrContext.h"
 
 #include <QAbstractItemModel>
@@ -13,6 +14,10 @@ namespace ko {
 /// Columns: name (with the node's icon), type, address. Cells are read from the database when they are
 /// first shown and again when it says that a node changed; a node that is gone shows empty cells. Rows may
 /// be dragged; the mime data carries the node identifiers.
+///
+/// What is appended to the view or changes is told at once as long as it is little. More waits until the
+/// event loop is back and is told as one range: proxies and views take rows one by one in a time that grows
+/// with the square.
 class KO_PLATFORM_EXPORT NodeViewModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -53,14 +58,25 @@ private slots:
     void aboutToBeCleared();
     void cleared();
     void nodeChanged(ko::NodeID id);
+    void tellWaiting();
 
 private:
     const NodeViewEntry* shownAt(const QModelIndex& index) const;
     const SubViewEntry* list(const QModelIndex& parent) const;
     QModelIndex indexOf(const NodeViewEntry& entry, int column) const;
     QModelIndex indexOfList(unsigned listId) const;
+    bool isShown(const NodeViewEntry& entry) const;
+    void tellChanged(int firstRow, int lastRow, const QModelIndex& parent);
+    void tellChanges();
+    void tellAppended();
 
     const kom::smart<NodeView> m_view;
+    enum Told { Nothing, InRoot, InList };
+
+    int m_rootRows;            ///< of the view's own list, whose other entries wait
+    Told m_told = Nothing;     ///< of the change under way
+    QList<unsigned> m_changed; ///< entries whose change waits
+    OncePerFrame m_frame;
 };
 
 } // namespace ko

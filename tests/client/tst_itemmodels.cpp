@@ -64,6 +64,7 @@ private slots:
     void cleanup() { m_host.reset(); }
 
     void overviewWhileDevicesArrive();
+    void overviewOfManyAtOnce();
     void browserWhileNodesChange();
     void auditLogPageByPage();
 
@@ -94,6 +95,34 @@ void tst_ItemModels::overviewWhileDevicesArrive()
     QCOMPARE(tested.proxy->rowCount(), 0);
     m_host->add(IPDeviceType, QStringLiteral("Gate"), QStringLiteral("10.0.0.1"));
     QCOMPARE(tested.proxy->rowCount(), 1);
+}
+
+/// The selection and the current row stay with their nodes, and all is sorted once.
+void tst_ItemModels::overviewOfManyAtOnce()
+{
+    NodeOverviewDialog dialog;
+    auto* view = child<QTreeView>(&dialog, "nodesTreeView");
+    view->sortByColumn(0, Qt::AscendingOrder);
+    for (int i = 0; i < 50; ++i)
+        m_host->add(IPDeviceType, QStringLiteral("Yard %1").arg(i, 2, 10, QChar('0')));
+    QCoreApplication::processEvents();
+    view->setCurrentIndex(view->model()->index(7, 0));
+    const QSignalSpy sorted(view->model(), &QAbstractItemModel::layoutChanged);
+    const QSignalSpy inserted(view->model(), &QAbstractItemModel::rowsInserted);
+    QStringList ids;
+    for (int i = 0; i < 3000; ++i)
+        ids.append(
+            m_host->add(IPDeviceType, QStringLiteral("Gate %1").arg(i * 7919 % 3000, 4, 10, QChar('0'))));
+    const BothTested tested(*view); // which look at all rows at each signal
+    QTRY_COMPARE(tested.proxy->rowCount(), 3050);
+    QVERIFY2(inserted.count() <= 1000, qPrintable(QString::number(inserted.count())));
+    QCOMPARE(sorted.count(), 1);
+    QCOMPARE(view->currentIndex().data().toString(), QStringLiteral("Yard 07"));
+    QCOMPARE(view->selectionModel()->selectedRows().value(0).data().toString(), QStringLiteral("Yard 07"));
+    QVERIFY(tested.proxy->dynamicSortFilter());
+    for (int i = 1; i < 3050; ++i)
+        QVERIFY(tested.proxy->index(i - 1, 0).data().toString() <=
+                tested.proxy->index(i, 0).data().toString());
 }
 
 void tst_ItemModels::browserWhileNodesChange()

@@ -108,6 +108,20 @@ struct Shown
     QModelIndex cell(int row, int column) const { return model.index(row, column); }
 };
 
+/// The same, of which the tester, which looks at all rows at each signal, watches only what comes later.
+struct Watched
+{
+    kom::smart<NodeView> view = kom::makeSmart<NodeView>("View");
+    NodeViewModel model{view, nullptr};
+    std::unique_ptr<QAbstractItemModelTester> tester;
+
+    void watch()
+    {
+        tester = std::make_unique<QAbstractItemModelTester>(
+            &model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    }
+};
+
 QString numbered(int n)
 {
     return QString("node%1").arg(n);
@@ -148,6 +162,9 @@ private slots:
     void internalIdsAreNeverUsedAgain();
     void handlesOutliveTheView();
     void signalsBracketEachChange();
+    void manyNodesComeAsOneRange();
+    void waitingNodesGoAgain();
+    void manyChangesAreToldOnce();
     void followsTheDatabase();
     void randomChanges_data();
     void randomChanges();
@@ -366,6 +383,83 @@ void tst_NodeView::signalsBracketEachChange()
     shown.view->removeAll();
     QCOMPARE(reset.count(), 1);
     QCOMPARE(shown.model.rowCount(), 0);
+}
+
+void tst_NodeView::manyNodesComeAsOneRange()
+{
+    const int count = 5000;
+    Watched shown;
+    const QSignalSpy inserted(&shown.model, SIGNAL(rowsInserted(QModelIndex, int, int)));
+    for (int n = 0; n < count; ++n)
+        shown.view->addNode(numbered(n));
+    QCOMPARE(shown.view->root().count(), count); // the view itself has them
+    const int atOnce = int(inserted.count());
+    QVERIFY2(atOnce > 0 && atOnce <= 1000, qPrintable(QString::number(atOnce)));
+    QCOMPARE(shown.model.rowCount(), atOnce);
+    shown.watch();
+    QTRY_COMPARE(shown.model.rowCount(), count);
+    QCOMPARE(inserted.count(), atOnce + 1);
+    QCOMPARE(inserted.last().at(1).toInt(), atOnce);
+    QCOMPARE(inserted.last().at(2).toInt(), count - 1);
+    QCOMPARE(nodeId(shown.model, shown.model.index(count - 1, 0)), numbered(count - 1));
+    QTest::qWait(50);
+    shown.view->addNode("later");
+    QCOMPARE(shown.model.rowCount(), count + 1);
+}
+
+/// Rows that wait come and go unseen, lists among them.
+void tst_NodeView::waitingNodesGoAgain()
+{
+    Watched shown;
+    const kom::smart<SubViewEntry> list = shown.view->addSubView("List");
+    for (int n = 0; n < 3000; ++n)
+        shown.view->addNode(numbered(n));
+    const int atOnce = shown.model.rowCount();
+    QVERIFY(atOnce < 3000);
+    shown.watch();
+    const kom::smart<SubViewEntry> waiting = shown.view->addSubView("Waiting");
+    shown.view->addNodeTo(*waiting, "a");
+    shown.view->addNodeTo(*waiting, "b");
+    shown.view->addNodeTo(*list, "a");
+    shown.view->removeNode("a", true);
+    shown.view->removeNode(numbered(2999), false);
+    QCOMPARE(shown.model.rowCount(), atOnce);
+    shown.view->removeNode(numbered(0), false);
+    QCOMPARE(shown.model.rowCount(), atOnce - 1);
+    QTRY_COMPARE(shown.model.rowCount(), 3000);
+    QCOMPARE(shown.view->root().count(), 3000);
+    const QModelIndex last = shown.model.index(2999, 0);
+    QCOMPARE(shown.model.rowCount(last), 1);
+    QCOMPARE(nodeId(shown.model, shown.model.index(0, 0, last)), QString("b"));
+    for (int n = 3000; n < 4000; ++n)
+        shown.view->addNode(numbered(n));
+    QVERIFY(shown.model.rowCount() < 4000);
+    shown.view->removeAll();
+    QCOMPARE(shown.model.rowCount(), 0);
+    shown.view->addNode("first");
+    QTRY_COMPARE(lines(shown.model), QStringList("first"));
+}
+
+void tst_NodeView::manyChangesAreToldOnce()
+{
+    const int count = 5000;
+    const kom::smart<NodeView> view = kom::makeSmart<NodeView>("View");
+    const NodeViewModel model(view, nullptr); // a tester looks at all rows whenever one changes
+    QStringList ids;
+    for (int n = 0; n < count; ++n)
+        ids.append(numbered(n));
+    view->fill(ids);
+    QSignalSpy changed(&model, SIGNAL(dataChanged(QModelIndex, QModelIndex)));
+    for (int n = 10; n < count - 10; ++n)
+        emit m_db->nodeUpdated(numbered(n));
+    view->removeNode(numbered(count - 11), false);
+    const int atOnce = int(changed.count());
+    QVERIFY2(atOnce > 0 && atOnce <= 1000, qPrintable(QString::number(atOnce)));
+    QTRY_COMPARE(changed.count(), atOnce + 1);
+    QCOMPARE(changed.last().at(0).toModelIndex().row(), 10 + atOnce);
+    QCOMPARE(changed.last().at(1).toModelIndex().row(), count - 12);
+    QTest::qWait(50);
+    QCOMPARE(changed.count(), atOnce + 1);
 }
 
 void tst_NodeView::followsTheDatabase()
