@@ -33,7 +33,6 @@
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QStatusBar>
-#include <QTimer>
 #include <QToolBar>
 
 #include <algorithm>
@@ -95,6 +94,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     statusBar()->addPermanentWidget(new ScannerStatus(m_db, this));
     statusBar()->addPermanentWidget(m_counts);
 
+    connect(&m_frame, &OncePerFrame::due, this, &MainWindow::applyChanges);
     connect(&m_db, &NodeDB::nodeInserted, this, &MainWindow::nodeChanged);
     connect(&m_db, &NodeDB::nodeUpdated, this, &MainWindow::nodeChanged);
     connect(&m_db, &NodeDB::nodeRemoved, this, &MainWindow::nodeRemoved);
@@ -221,16 +221,14 @@ void MainWindow::createToolBar()
 
 void MainWindow::nodeChanged(const NodeID& id)
 {
-    if (m_changed.isEmpty() && m_removed.isEmpty())
-        QTimer::singleShot(0, this, &MainWindow::applyChanges);
+    m_frame.later();
     m_removed.remove(id);
     m_changed.insert(id);
 }
 
 void MainWindow::nodeRemoved(const NodeID& id)
 {
-    if (m_changed.isEmpty() && m_removed.isEmpty())
-        QTimer::singleShot(0, this, &MainWindow::applyChanges);
+    m_frame.later();
     m_changed.remove(id);
     m_removed.insert(id);
 }

@@ -1,6 +1,7 @@
 #ifndef KO_MAINWINDOW_H
 #define KO_MAINWINDOW_H
 
+#include "ko/OncePerFrame.h"
 #include "ko/TrContext.h"
 #include "model/NodeData.h"
 
@@ -52,7 +53,7 @@ public:
     /// Runs a dialog in which the environment can be switched.
     void exec(QDialog& dialog);
 
-    /// Takes into the list at once what would come at the end of the turn.
+    /// Takes into the list at once what would come with the next frame.
     void applyChanges();
 
     void importCameras();
@@ -94,8 +95,9 @@ private:
     EnvironmentNotice* const m_environment;
     StoreNotice* const m_store;
     UndoCommands* const m_undoing;
-    QSet<QString> m_changed; ///< taken into the list together at the end of the turn
+    QSet<QString> m_changed; ///< taken into the list together
     QSet<QString> m_removed;
+    OncePerFrame m_frame;
 };
 
 } // namespace ko

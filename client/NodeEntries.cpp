@@ -133,6 +133,16 @@ int NodeEntries::place(const Slots& rows, Slot slot) const
     return int(std::lower_bound(rows.begin(), rows.end(), slot, inOrder) - rows.begin());
 }
 
+int NodeEntries::placeOfMoved(const Slots& rows, int row) const
+{
+    const auto inOrder = [this](Slot a, Slot b) { return less(a, b); };
+    const auto at = rows.begin() + row;
+    const auto before = std::lower_bound(rows.begin(), at, *at, inOrder);
+    if (before != at)
+        return int(before - rows.begin());
+    return int(std::lower_bound(at + 1, rows.end(), *at, inOrder) - rows.begin()) - 1;
+}
+
 void NodeEntries::putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted) const
 {
     const auto inOrder = [this](Slot a, Slot b) { return less(a, b); };

@@ -49,6 +49,9 @@ public:
     /// Where a node stands in sorted rows, or would stand.
     int place(const Slots& rows, Slot slot) const;
 
+    /// Where the node of a \a row is to stand that is the only one that may be out of order.
+    int placeOfMoved(const Slots& rows, int row) const;
+
     /// Takes what was \a touched out of \a rows and puts \a sorted into them.
     void putInPlace(Slots& rows, const std::vector<bool>& touched, const Slots& sorted) const;
 

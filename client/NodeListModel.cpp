@@ -147,9 +147,7 @@ void NodeListModel::updateOne(Slot slot, const NodeSummary& node)
     m_sorted.insert(m_entries.place(m_sorted, slot), slot);
     const bool shows = passes(slot);
     if (row >= 0 && shows) {
-        Slots others = m_shown;
-        others.remove(row);
-        moveRow(row, m_entries.place(others, slot));
+        moveRow(row, m_entries.placeOfMoved(m_shown, row));
     } else if (row >= 0) {
         hideRow(row);
     } else if (shows) {

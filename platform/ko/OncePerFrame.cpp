@@ -19,10 +19,7 @@ OncePerFrame::OncePerFrame(QObject* parent)
 
 bool OncePerFrame::isNow(int microseconds)
 {
-    if (!m_isTurnWatched) {
-        m_isTurnWatched = true;
-        QMetaObject::invokeMethod(this, "endTurn", Qt::QueuedConnection);
-    }
+    watchTurn();
     if (m_isDue)
         return false;
     const bool isRested = !m_sinceWork.isValid() || m_sinceWork.elapsed() >= frame;
@@ -30,6 +27,20 @@ bool OncePerFrame::isNow(int microseconds)
     m_spent += microseconds;
     m_isDue = !isFirst && m_spent > atOnceIn;
     return !m_isDue;
+}
+
+void OncePerFrame::later()
+{
+    watchTurn();
+    m_isDue = true;
+}
+
+void OncePerFrame::watchTurn()
+{
+    if (m_isTurnWatched)
+        return;
+    m_isTurnWatched = true;
+    QMetaObject::invokeMethod(this, "endTurn", Qt::QueuedConnection);
 }
 
 void OncePerFrame::endTurn()

@@ -25,6 +25,9 @@ public:
     /// then nothing else is to be done at once either, so that the order stays.
     bool isNow(int microseconds);
 
+    /// due() will be emitted, whatever the work takes.
+    void later();
+
 signals:
     void due();
 
@@ -35,6 +38,7 @@ private slots:
     void endTurn();
 
 private:
+    void watchTurn();
     void run();
 
     QBasicTimer m_wait;

@@ -431,9 +431,11 @@ void tst_NodeView::waitingNodesGoAgain()
     const QModelIndex last = shown.model.index(2999, 0);
     QCOMPARE(shown.model.rowCount(last), 1);
     QCOMPARE(nodeId(shown.model, shown.model.index(0, 0, last)), QString("b"));
+    shown.tester.reset();
     for (int n = 3000; n < 4000; ++n)
         shown.view->addNode(numbered(n));
     QVERIFY(shown.model.rowCount() < 4000);
+    shown.watch();
     shown.view->removeAll();
     QCOMPARE(shown.model.rowCount(), 0);
     shown.view->addNode("first");
