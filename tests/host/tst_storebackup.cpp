@@ -8,8 +8,13 @@
 #include "store/StoreFile.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QTimer>
+
+#include <chrono>
+#include <future>
 
 #include <sys/stat.h>
 
@@ -26,6 +31,7 @@ private slots:
     void backupHoldsWhatIsThere();
     void backupIsItsOwnersAlone();
     void backupWhileAnotherProcessWrites();
+    void backupWhileThisProcessWrites();
     void failedBackupLeavesTheOldOne_data();
     void failedBackupLeavesTheOldOne();
     void restoreWhileOpen();
@@ -138,6 +144,38 @@ void tst_StoreBackup::backupWhileAnotherProcessWrites()
     writer.kill();
     QVERIFY(writer.waitForFinished());
     QCOMPARE(StoreBackup::backups(m_file).size(), 5);
+}
+
+void tst_StoreBackup::backupWhileThisProcessWrites()
+{
+    makeDatabase(2);
+    PlainSql(m_file).run(
+        QLatin1String("WITH RECURSIVE numbers (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM"
+                      " numbers WHERE i < 60) INSERT INTO properties (node, key, type, value)"
+                      " SELECT 1, 'long' || i, 0, printf('%.*c', 1000000, 'x') FROM numbers"));
+    const std::unique_ptr<HostNodeDB> db = openDatabase(m_file);
+    const QString id = db->nodeIdList(IPDeviceType).value(1);
+    const QString target = m_folder->filePath(QLatin1String("copy.kodb"));
+    int writes = 0;
+    QTimer writer;
+    connect(&writer, &QTimer::timeout, this, [&] {
+        setText(*db, id, "Name", QString::number(++writes));
+        QVERIFY(db->flush());
+    });
+    writer.start(20);
+    QTRY_VERIFY(writes > 0);
+    QElapsedTimer clock;
+    clock.start();
+    std::future<bool> backup =
+        std::async(std::launch::async, [&] { return StoreBackup::write(m_file, target, &m_error); });
+    const auto hasEnded = [&backup] {
+        return backup.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(hasEnded(), 20000);
+    qInfo("%d writes, %lld ms", writes, clock.elapsed());
+    writer.stop();
+    QVERIFY2(backup.get(), qPrintable(m_error.detail));
+    QVERIFY(StoreBackup::verify(target, &m_error));
 }
 
 void tst_StoreBackup::failedBackupLeavesTheOldOne_data()
