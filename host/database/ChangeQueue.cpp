@@ -5,6 +5,7 @@
 
 #include <QScopedValueRollback>
 
+#include <limits>
 #include <utility>
 
 namespace ko {
@@ -14,6 +15,7 @@ namespace {
 constexpr int PollInterval = 200;   // ms; how soon changes of other processes are seen
 constexpr int RetryInterval = 5000; // ms; between tries to store what could not be stored
 constexpr int LineDelay = 1000;     // ms; until a line of the program log is stored
+constexpr int ChangesAtOnce = 250;  // of other processes, in one turn of the event loop
 
 } // namespace
 
@@ -21,7 +23,7 @@ ChangeQueue::ChangeQueue(NodeStore& store, NodeMemory& memory)
     : m_store(store)
     , m_memory(memory)
 {
-    connect(&m_poll, &QTimer::timeout, this, &ChangeQueue::sync);
+    connect(&m_poll, &QTimer::timeout, this, &ChangeQueue::syncSome);
     for (QTimer* timer : {&m_retry, &m_lineTimer}) {
         timer->setSingleShot(true);
         connect(timer, &QTimer::timeout, this, &ChangeQueue::flush);
@@ -191,13 +193,26 @@ void ChangeQueue::discard()
 
 void ChangeQueue::sync()
 {
+    take(std::numeric_limits<int>::max());
+}
+
+/// The rest in the next turns, so that the user can go on meanwhile.
+void ChangeQueue::syncSome()
+{
+    m_poll.start(take(ChangesAtOnce) ? 0 : PollInterval);
+}
+
+/// Returns whether there is more.
+bool ChangeQueue::take(int changes)
+{
     if (m_isAlone)
-        return;
-    reading([this] {
+        return false;
+    return reading([this, changes] {
         // What this process stored itself lies before the revision.
-        const std::optional<Delta> delta = m_store.news(m_memory.revision, wanted());
+        const std::optional<Delta> delta = m_store.news(m_memory.revision, wanted(), changes);
         if (delta)
             emit brought(m_memory.take(*delta));
+        return delta && delta->isMore;
     });
 }
 

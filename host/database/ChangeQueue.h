@@ -45,7 +45,7 @@ public:
     /// Goes back to what is stored.
     void discard();
 
-    /// Takes in what others stored since the last look.
+    /// Takes in all that others stored since the last look.
     void sync();
 
     /// What \a read gives, or an empty result after the failure was made known.
@@ -76,6 +76,8 @@ signals:
     void checked(const ko::StoreError& error);
 
 private:
+    void syncSome();
+    bool take(int changes);
     void waitForCheck();
     bool storeAfter(const std::function<void()>& work, StoreError* error);
     NodeStore::Batch merge(const Delta& delta, const std::function<void()>& work, Notices* notices);

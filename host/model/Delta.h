@@ -25,6 +25,7 @@ struct Delta
 {
     qint64 revision = 0;
     bool everything = false; ///< every node is here, but no look-up key
+    bool isMore = false;     ///< something came after that revision already
     QVector<NodeRow> nodes;
     QHash<NodeID, QVector<Relation>> relations; ///< by source: all that start there now
     bool hasSettings = false;

@@ -40,6 +40,8 @@ struct Known
 {
     std::mutex mutex;
     std::map<QString, std::shared_ptr<Answer>> answers;
+    QStringList mountPoints;
+    Clock::time_point mountTime; ///< when they were read
     std::function<bool(const QString&)> look = hasMarker;
 };
 
@@ -72,6 +74,18 @@ QString unescaped(const QByteArray& field)
     return QFile::decodeName(text);
 }
 
+/// As they were a moment ago: a change to all cameras asks for each.
+QStringList currentMountPoints()
+{
+    const std::lock_guard<std::mutex> lock(known().mutex);
+    if (Clock::now() - known().mountTime < std::chrono::milliseconds(MountsGoodFor))
+        return known().mountPoints;
+    QFile mounts(QLatin1String("/proc/self/mountinfo"));
+    known().mountPoints = mounts.open(QIODevice::ReadOnly) ? mountPoints(mounts.readAll()) : QStringList();
+    known().mountTime = Clock::now();
+    return known().mountPoints;
+}
+
 kom::smart<CKoFFSVolume> volumeAt(const std::wstring& path)
 {
     return isVolume(QString::fromStdWString(path)) ? kom::makeSmart<CKoFFSVolume>(path)
@@ -90,6 +104,7 @@ void setLook(std::function<bool(const QString&)> how)
     const std::lock_guard<std::mutex> lock(known().mutex);
     known().look = how ? std::move(how) : hasMarker;
     known().answers.clear();
+    known().mountTime = Clock::time_point();
 }
 
 QStringList mountPoints(const QByteArray& mountInfo)
@@ -120,10 +135,8 @@ QString rootOf(const QString& path, const QStringList& mountPoints)
 
 bool isVolume(const QString& path)
 {
-    QFile mounts(QLatin1String("/proc/self/mountinfo"));
-    if (!mounts.open(QIODevice::ReadOnly))
-        return false;
-    const QString root = rootOf(path, mountPoints(mounts.readAll()));
+    const QStringList mounts = currentMountPoints();
+    const QString root = mounts.isEmpty() ? QString() : rootOf(path, mounts);
     if (root.isEmpty())
         return false;
     std::shared_ptr<Answer> answer;

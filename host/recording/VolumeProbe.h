@@ -28,6 +28,7 @@ KO_HOST_EXPORT bool isVolume(const QString& path);
 
 constexpr int Patience = 200;           ///< milliseconds
 constexpr int GoodFor = 5000;           ///< milliseconds
+constexpr int MountsGoodFor = 100;      ///< milliseconds
 constexpr char Marker[] = ".koffs";     ///< name of the file
 constexpr char Signature[] = "KoFFS 1"; ///< how the file begins
 

@@ -65,25 +65,30 @@ qint64 ChangeLog::revision()
     return qBound<qint64>(0, last, std::numeric_limits<qint64>::max() - 1); // another program's may be any
 }
 
-std::optional<QVector<ChangeLog::Row>> ChangeLog::since(qint64 revision)
+std::optional<ChangeLog::Rows> ChangeLog::since(qint64 revision, int count)
 {
-    QVector<Row> result;
     const qint64 last = this->revision();
+    Rows result = {{}, last, false};
     if (last == revision)
         return result;
     // A log that was cut off lacks its oldest rows.
     if (last - revision > MaxRead ||
         !m_store.value("SELECT 1 FROM changes WHERE seq = ?", {revision + 1}).isValid())
         return std::nullopt;
-    SqliteStore::Rows rows =
-        m_store.run("SELECT kind, id FROM changes WHERE seq > ? ORDER BY seq", {revision});
-    while (rows.next()) {
+    SqliteStore::Rows rows = m_store.run(
+        "SELECT kind, id, seq FROM changes WHERE seq > ? ORDER BY seq LIMIT ?", {revision, count});
+    int read = 0;
+    for (; rows.next(); ++read) {
         const QString kind = rows.text(0);
         if (kind == QLatin1Char(EverythingKind))
             return std::nullopt;
         if (!kind.isEmpty())
-            result.append({Kind(kind.at(0).toLatin1()), rows.text(1)});
+            result.rows.append({Kind(kind.at(0).toLatin1()), rows.text(1)});
+        result.revision = rows.number(2);
     }
+    result.isMore = read == count && result.revision < last;
+    if (!result.isMore)
+        result.revision = last;
     return result;
 }
 

@@ -35,8 +35,16 @@ public:
     /// The number of the last change.
     qint64 revision();
 
-    /// The changes after \a revision; none if these are too many or not all there.
-    std::optional<QVector<Row>> since(qint64 revision);
+    struct Rows
+    {
+        QVector<Row> rows;
+        qint64 revision; ///< of the last one
+        bool isMore;
+    };
+
+    /// The first changes after \a revision, at most \a count; none if all together are too many, or not all
+    /// there.
+    std::optional<Rows> since(qint64 revision, int count);
 
     /// The number of a change set; 0 if there is none.
     qint64 find(const Cause& cause);

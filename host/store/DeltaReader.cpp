@@ -1,6 +1,6 @@
 #include "store/DeltaReader.h"
 
-#include <QSet>
+#include <QHash>
 
 namespace ko {
 
@@ -11,26 +11,28 @@ DeltaReader::DeltaReader(NodeTables& tables, ChangeLog& log, const Wanted& wante
 {
 }
 
-Delta DeltaReader::since(qint64 revision)
+Delta DeltaReader::since(qint64 revision, int count)
 {
-    const std::optional<QVector<ChangeLog::Row>> changes = m_log.since(revision);
+    const std::optional<ChangeLog::Rows> changes = m_log.since(revision, count);
     if (!changes)
         return everything();
     Delta delta;
-    delta.revision = m_log.revision();
-    QSet<NodeID> nodes;
-    for (const ChangeLog::Row& change : *changes) {
-        if (change.kind == ChangeLog::NodeKind) {
-            if (!nodes.contains(change.id))
-                delta.nodes.append(m_tables.node(change.id));
-            nodes.insert(change.id);
-        } else if (change.kind == ChangeLog::RelationKind) {
-            if (!delta.relations.contains(change.id))
-                delta.relations.insert(change.id, m_tables.relationsFrom(change.id));
-        } else {
+    delta.revision = changes->revision;
+    delta.isMore = changes->isMore;
+    QStringList nodes;
+    QStringList sources;
+    for (const ChangeLog::Row& change : changes->rows) {
+        if (change.kind == ChangeLog::NodeKind)
+            nodes.append(change.id);
+        else if (change.kind == ChangeLog::RelationKind)
+            sources.append(change.id);
+        else
             delta.hasSettings = true;
-        }
     }
+    nodes.removeDuplicates();
+    sources.removeDuplicates();
+    delta.nodes = m_tables.nodes(nodes);
+    delta.relations = m_tables.relationsFrom(sources);
     readProperties(&delta);
     if (delta.hasSettings)
         readSettings(&delta);
@@ -59,10 +61,17 @@ Delta DeltaReader::everything()
 
 void DeltaReader::readProperties(Delta* delta)
 {
+    QStringList ids;
+    QHash<NodeID, NodeRow*> rows;
     for (NodeRow& row : delta->nodes) {
-        if (row.place && m_wanted(row.id))
-            row.properties = m_tables.properties(row.id);
+        if (!row.place || !m_wanted(row.id))
+            continue;
+        ids.append(row.id);
+        rows.insert(row.id, &row);
     }
+    m_tables.forEachProperties(ids, [&rows](const NodeID& id, const PropertyList& properties) {
+        rows.value(id)->properties = properties;
+    });
 }
 
 void DeltaReader::readSettings(Delta* delta)

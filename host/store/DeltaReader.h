@@ -17,8 +17,8 @@ public:
 
     DeltaReader(NodeTables& tables, ChangeLog& log, const Wanted& wanted);
 
-    /// Everything, if \a revision lies too far back.
-    Delta since(qint64 revision);
+    /// Of at most \a count changes. Everything, if \a revision lies too far back.
+    Delta since(qint64 revision, int count = ChangeLog::MaxRead);
     Delta everything();
 
 private:

@@ -85,14 +85,15 @@ NodeStore::Contents NodeStore::load(const std::function<void(qint64, const Packe
     return contents;
 }
 
-std::optional<Delta> NodeStore::news(qint64 revision, const Wanted& wanted)
+std::optional<Delta> NodeStore::news(qint64 revision, const Wanted& wanted, int count)
 {
     const qint64 version = d->connection->dataVersion();
     if (version == d->dataVersion)
         return std::nullopt;
     const Transaction transaction(*d->connection, Transaction::Read);
-    Delta delta = DeltaReader(d->tables, d->log, wanted).since(revision);
-    d->dataVersion = version;
+    Delta delta = DeltaReader(d->tables, d->log, wanted).since(revision, count);
+    if (!delta.isMore)
+        d->dataVersion = version;
     return delta;
 }
 

@@ -54,8 +54,9 @@ public:
     /// Tells of which nodes the properties are wanted, too.
     typedef std::function<bool(const NodeID&)> Wanted;
 
-    /// What others changed since \a revision; none if nobody has committed anything since the last call.
-    std::optional<Delta> news(qint64 revision, const Wanted& wanted);
+    /// What others changed since \a revision, at most so many changes; none if nobody has committed anything
+    /// since the last call that left nothing.
+    std::optional<Delta> news(qint64 revision, const Wanted& wanted, int count);
     Delta everything(const Wanted& wanted);
 
     /// None if the node is gone.

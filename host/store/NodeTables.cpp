@@ -45,6 +45,15 @@ QVector<Relation> relationRows(SqliteStore::Rows rows)
     return result;
 }
 
+/// Of the columns id, n, type, name, location, recording, lookup.
+void take(const SqliteStore::Rows& rows, NodeRow* row)
+{
+    row->place = rows.number(1);
+    row->summary = PackedSummary(
+        NodeSummary{row->id, ENodeType(rows.number(2)), rows.text(3), rows.text(4), int(rows.number(5))});
+    row->lookupKey = rows.text(6);
+}
+
 QStringList identifiers(SqliteStore::Rows rows)
 {
     QStringList ids;
@@ -81,19 +90,32 @@ NodeRow NodeTables::node(const NodeID& id)
     NodeRow row;
     row.id = id;
     SqliteStore::Rows rows = m_store.run(
-        "SELECT n, type, name, location, recording, lookup FROM nodes WHERE id = ?", {notNull(id)});
-    if (!rows.next())
-        return row;
-    NodeSummary summary;
-    summary.id = id;
-    summary.type = ENodeType(rows.number(1));
-    summary.name = rows.text(2);
-    summary.location = rows.text(3);
-    summary.recordingUsage = int(rows.number(4));
-    row.place = rows.number(0);
-    row.summary = PackedSummary(summary);
-    row.lookupKey = rows.text(5);
+        "SELECT id, n, type, name, location, recording, lookup FROM nodes WHERE id = ?", {notNull(id)});
+    if (rows.next())
+        take(rows, &row);
     return row;
+}
+
+QVector<NodeRow> NodeTables::nodes(const QStringList& ids)
+{
+    QVector<NodeRow> result;
+    result.reserve(ids.size());
+    QHash<NodeID, int> numbers;
+    for (const NodeID& id : ids) {
+        numbers.insert(id, int(result.size()));
+        NodeRow row;
+        row.id = id;
+        result.append(row);
+    }
+    for (int first = 0; first < ids.size(); first += idsOfAStatement) {
+        SqliteStore::Rows rows =
+            m_store.run("SELECT n.id, n.n, n.type, n.name, n.location, n.recording, n.lookup"
+                        " FROM json_each(?) j CROSS JOIN nodes n ON n.id = j.value",
+                        {jsonArray(ids.mid(first, idsOfAStatement))});
+        while (rows.next())
+            take(rows, &result[numbers.value(rows.text(0))]);
+    }
+    return result;
 }
 
 void NodeTables::forEachLookupKey(const std::function<void(const NodeID&, const QString&)>& visit)
@@ -228,6 +250,23 @@ QVector<Relation> NodeTables::relationsFrom(const NodeID& source)
     return relationRows(m_store.run("SELECT a.id, b.id, r.type FROM nodes a JOIN relations r ON r.source = "
                                     "a.n JOIN nodes b ON b.n = r.destination WHERE a.id = ? ORDER BY r.seq",
                                     {notNull(source)}));
+}
+
+QHash<NodeID, QVector<Relation>> NodeTables::relationsFrom(const QStringList& sources)
+{
+    QHash<NodeID, QVector<Relation>> result;
+    for (int first = 0; first < sources.size(); first += idsOfAStatement) {
+        const QStringList some = sources.mid(first, idsOfAStatement);
+        for (const NodeID& source : some)
+            result.insert(source, {});
+        const QVector<Relation> relations = relationRows(m_store.run(
+            "SELECT a.id, b.id, r.type FROM json_each(?) j CROSS JOIN nodes a ON a.id = j.value CROSS JOIN"
+            " relations r ON r.source = a.n CROSS JOIN nodes b ON b.n = r.destination ORDER BY r.seq",
+            {jsonArray(some)}));
+        for (const Relation& relation : relations)
+            result[relation.source].append(relation);
+    }
+    return result;
 }
 
 QVector<RelationChange> NodeTables::relationsOf(qint64 n)

@@ -24,6 +24,8 @@ public:
     void forEachNode(const std::function<void(qint64 n, const PackedSummary&)>& visit);
     /// Without properties.
     NodeRow node(const NodeID& id);
+    /// The same of many, in this order.
+    QVector<NodeRow> nodes(const QStringList& ids);
 
     /// Identifier and key of all nodes that have a key.
     void forEachLookupKey(const std::function<void(const NodeID&, const QString&)>& visit);
@@ -57,6 +59,8 @@ public:
 
     QVector<Relation> relations();
     QVector<Relation> relationsFrom(const NodeID& source);
+    /// The same by source, of all of these.
+    QHash<NodeID, QVector<Relation>> relationsFrom(const QStringList& sources);
     /// At either end of which the node is, with their places.
     QVector<RelationChange> relationsOf(qint64 n);
     /// Returns its place; 0 if it is there already, or one of its nodes is not. For \a place see

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QSocketNotifier>
+#include <QTimer>
 #include <QUuid>
 
 #include <cstdio>
@@ -72,10 +73,23 @@ private:
             changeSettings(a);
         else if (command == QLatin1String("hammer"))
             hammer(a, b, words.value(3).toInt());
+        else if (command == QLatin1String("touch"))
+            touchAll(a);
         else if (command == QLatin1String("flood"))
             for (int i = 0; i < a.toInt(); ++i)
                 addCamera(*m_db, QString::number(i), QString::fromLatin1("flood-%1").arg(i));
         return QString();
+    }
+
+    /// Every camera gets this model, and the first five the last one for a relation.
+    void touchAll(const QString& model)
+    {
+        m_db->syncForeignChanges();
+        const QStringList ids = m_db->nodeIdList(IPDeviceType);
+        for (const QString& id : ids)
+            setText(*m_db, id, "Model", model);
+        for (int i = 0; i < 5; ++i)
+            m_db->addNodeRelation(ids.at(i), ids.last(), RecordingFolderRelation);
     }
 
     void changeSettings(const QString& text)
@@ -122,6 +136,7 @@ private slots:
     void unstoredChangesSurviveForeignOnes();
     void unstoredChangesOfARemovedNodeAreDropped();
     void beginLooksFirst();
+    void manyChangesComeInPieces();
     void lookupFollows();
     void longAbsenceIsCaughtUp();
     void ownChangesAreNotAnnouncedAgain();
@@ -372,6 +387,43 @@ void TestTwoProcesses::beginLooksFirst()
     m_db->endUpdateNode(copy);
     ask(QLatin1String("remove ") + m_camera);
     QVERIFY(!m_db->beginUpdateNode(m_camera, -1));
+}
+
+/// So that the window goes on meanwhile. Who needs all of them at once gets them.
+void TestTwoProcesses::manyChangesComeInPieces()
+{
+    const int count = 2000;
+    for (int i = 0; i < count; ++i)
+        addCamera(*m_db, QString::number(i), QString::fromLatin1("many-%1").arg(i));
+    m_db->flush();
+    const QStringList ids = m_db->nodeIdList(IPDeviceType);
+    for (const QString& id : ids)
+        m_db->node(id); // is in memory with its properties
+    int inTurn = 0;
+    int most = 0;
+    int all = 0;
+    QTimer turns;
+    connect(&turns, &QTimer::timeout, this, [&inTurn] { inTurn = 0; });
+    turns.start(0);
+    connect(m_db.get(), &NodeDB::nodeUpdated, this, [&] {
+        ++all;
+        most = qMax(most, ++inTurn);
+    });
+    for (const char* model : {"A", "B"}) {
+        all = 0;
+        ask(QLatin1String("touch ") + QLatin1String(model));
+        QTRY_VERIFY(all > 0);
+        if (qstrcmp(model, "B") == 0)
+            m_db->syncForeignChanges();
+        QTRY_COMPARE(text(*m_db, ids.last(), "Model"), QLatin1String(model));
+        QTRY_VERIFY(all >= count);
+        for (const QString& id : ids)
+            QCOMPARE(text(*m_db, id, "Model"), QLatin1String(model));
+        if (qstrcmp(model, "A") == 0)
+            QVERIFY2(most <= 600, qPrintable(QString::number(most)));
+    }
+    QTRY_COMPARE(m_db->relatedNodes(ids.at(4), RecordingFolderRelation), QStringList(ids.last()));
+    QVERIFY(m_db->relatedNodes(ids.at(5), RecordingFolderRelation).isEmpty());
 }
 
 void TestTwoProcesses::lookupFollows()
