@@ -1,4 +1,5 @@
 #include "Site.h"
+#include "Stops.h"
 #include "Stopwatch.h"
 #include "Workload.h"
 
@@ -6,10 +7,7 @@
 #include "discovery/DeviceIntake.h"
 #include "discovery/Scanners.h"
 
-#include <QTimer>
 #include <QTreeView>
-
-#include <algorithm>
 
 namespace bench {
 
@@ -45,25 +43,15 @@ public:
         NodeOverviewDialog overview;
         overview.findChild<QTreeView*>()->sortByColumn(0, Qt::AscendingOrder);
         paint(overview);
-        QVector<double> stops;
-        QElapsedTimer sinceTurn;
-        QTimer everyTurn;
-        QObject::connect(&everyTurn, &QTimer::timeout, [&stops, &sinceTurn] {
-            const double stop = double(sinceTurn.nsecsElapsed()) / 1e6;
-            if (stop > 0.1)
-                stops.append(stop);
-            sinceTurn.start();
-        });
         Scanners::of(*db).intake().beginScan();
-        sinceTurn.start();
-        everyTurn.start(0);
+        Stops watch;
         Scanners::of(*db).intake().take(m_devices);
         while (!Scanners::of(*db).intake().isIdle() || db->hasUnstoredChanges())
             QCoreApplication::processEvents();
         const int count = int(db->summaries().size());
         if (count != m_devices.size())
             qFatal("%d of %d devices became nodes", count, int(m_devices.size()));
-        std::sort(stops.begin(), stops.end());
+        const QVector<double> stops = watch.sorted();
         return m_what == What::Longest ? stops.constLast() : stops.at(int(stops.size()) * 99 / 100);
     }
 

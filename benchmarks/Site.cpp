@@ -81,6 +81,20 @@ void PlainModel::append(const NodeSummary& node)
     endInsertRows();
 }
 
+void PlainModel::append(const QVector<NodeSummary>& nodes)
+{
+    beginInsertRows(QModelIndex(), rowCount(), rowCount() + int(nodes.size()) - 1);
+    m_nodes += nodes;
+    endInsertRows();
+}
+
+void PlainModel::rename(int count, const QString& name)
+{
+    for (int row = 0; row < count; ++row)
+        m_nodes[row].name = name + QString::number(row);
+    emit dataChanged(index(0, 0), index(count - 1, columnCount() - 1));
+}
+
 int PlainModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : int(m_nodes.size());

@@ -39,6 +39,10 @@ public:
     explicit PlainModel(const QVector<ko::NodeSummary>& nodes = QVector<ko::NodeSummary>());
 
     void append(const ko::NodeSummary& node);
+    /// The same for many, as one range.
+    void append(const QVector<ko::NodeSummary>& nodes);
+    /// Gives so many of the first rows these names, as one range.
+    void rename(int count, const QString& name);
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;

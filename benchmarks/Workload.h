@@ -38,6 +38,7 @@ const QVector<int> allSizes = {1000, 10000, 100000};
 /// The workloads of one subject, in the order of the table.
 QVector<Workload> storeWorkloads();
 QVector<Workload> listWorkloads();
+QVector<Workload> changeWorkloads();
 QVector<Workload> dialogWorkloads();
 QVector<Workload> scanWorkloads();
 QVector<Workload> startWorkloads();
