@@ -25,6 +25,8 @@ void SortOnceProxy::setSourceModel(QAbstractItemModel* model)
         sourceModel()->disconnect(this);
     ko::connect(model, SIGNAL(rowsAboutToBeInserted(QModelIndex, int, int)), this,
                 SLOT(aboutToInsert(QModelIndex, int, int)));
+    ko::connect(model, SIGNAL(rowsInserted(QModelIndex, int, int)), this,
+                SLOT(readInserted(QModelIndex, int, int)));
     ko::connect(model, SIGNAL(dataChanged(QModelIndex, QModelIndex)), this,
                 SLOT(aboutToChange(QModelIndex, QModelIndex)));
     QSortFilterProxyModel::setSourceModel(model);
@@ -32,30 +34,67 @@ void SortOnceProxy::setSourceModel(QAbstractItemModel* model)
     ko::connect(model, SIGNAL(dataChanged(QModelIndex, QModelIndex)), this, SLOT(done()));
 }
 
+bool SortOnceProxy::isMany(const QModelIndex& parent, int rows) const
+{
+    return !parent.isValid() && rows >= manyRows && sortColumn() >= 0 && dynamicSortFilter();
+}
+
+void SortOnceProxy::suspend()
+{
+    m_isSuspended = true;
+    setDynamicSortFilter(false);
+}
+
 void SortOnceProxy::aboutToInsert(const QModelIndex& parent, int first, int last)
 {
-    if (rowCount(mapFromSource(parent)) > 0) // else only the new ones are sorted
-        wait(last - first + 1);
+    if (rowCount() > 0 && isMany(parent, last - first + 1)) // else only the new ones are sorted
+        suspend();
+}
+
+void SortOnceProxy::readInserted(const QModelIndex& parent, int first, int last)
+{
+    if (m_isSuspended || isMany(parent, last - first + 1))
+        readCells();
 }
 
 void SortOnceProxy::aboutToChange(const QModelIndex& first, const QModelIndex& last)
 {
-    wait(last.row() - first.row() + 1);
+    if (!isMany(first.parent(), last.row() - first.row() + 1))
+        return;
+    suspend();
+    readCells();
 }
 
-void SortOnceProxy::wait(int rows)
+void SortOnceProxy::readCells()
 {
-    m_isWaiting = rows >= manyRows && sortColumn() >= 0 && dynamicSortFilter();
-    if (m_isWaiting)
-        setDynamicSortFilter(false);
+    const int count = sourceModel()->rowCount();
+    m_cells.reserve(count);
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = sourceModel()->index(row, sortColumn());
+        const QVariant value = index.data(sortRole());
+        const Cell cell = {quintptr(index.internalId()), !value.isValid(), value.toString()};
+        m_cells.append(cell);
+    }
 }
 
 void SortOnceProxy::done()
 {
-    if (!m_isWaiting)
-        return;
-    m_isWaiting = false;
-    setDynamicSortFilter(true);
+    if (m_isSuspended) {
+        m_isSuspended = false;
+        setDynamicSortFilter(true);
+    }
+    m_cells.clear();
+}
+
+bool SortOnceProxy::lessThan(const QModelIndex& left, const QModelIndex& right) const
+{
+    if (left.row() >= m_cells.size() || m_cells.at(left.row()).row != quintptr(left.internalId()))
+        return QSortFilterProxyModel::lessThan(left, right);
+    const Cell& first = m_cells.at(left.row());
+    const Cell& second = m_cells.at(right.row());
+    if (first.isEmpty || second.isEmpty)
+        return !first.isEmpty; // what shows nothing comes last
+    return first.text.compare(second.text, sortCaseSensitivity()) < 0;
 }
 
 } // namespace ko

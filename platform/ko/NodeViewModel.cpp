@@ -13,7 +13,7 @@ namespace {
 /// Microseconds that a sorted proxy and its view take for another row.
 int timeOfARow(int rows)
 {
-    return 2 + rows / 500;
+    return 5 + rows / 500;
 }
 
 } // namespace

@@ -8,7 +8,7 @@ namespace ko {
 namespace {
 
 const int frame = 16;      // ms
-const int atOnceIn = 2000; // microseconds of one turn of the event loop
+const int atOnceIn = 2500; // microseconds of one turn of the event loop
 
 } // namespace
 
