@@ -3,6 +3,7 @@
 #include "database/WrittenDevices.h"
 #include "ko/LogQt.h"
 
+#include <QElapsedTimer>
 #include <QScopedValueRollback>
 
 #include <limits>
@@ -15,7 +16,8 @@ namespace {
 constexpr int PollInterval = 200;   // ms; how soon changes of other processes are seen
 constexpr int RetryInterval = 5000; // ms; between tries to store what could not be stored
 constexpr int LineDelay = 1000;     // ms; until a line of the program log is stored
-constexpr int ChangesAtOnce = 250;  // of other processes, in one turn of the event loop
+constexpr int ChangesAtOnce = 250;  // of other processes, read together
+constexpr int TurnTime = 8;         // ms; for them in one turn of the event loop
 
 } // namespace
 
@@ -199,7 +201,12 @@ void ChangeQueue::sync()
 /// The rest in the next turns, so that the user can go on meanwhile.
 void ChangeQueue::syncSome()
 {
-    m_poll.start(take(ChangesAtOnce) ? 0 : PollInterval);
+    QElapsedTimer clock;
+    clock.start();
+    bool isMore = true;
+    while (isMore && !clock.hasExpired(TurnTime))
+        isMore = take(ChangesAtOnce);
+    m_poll.start(isMore ? 0 : PollInterval);
 }
 
 /// Returns whether there is more.

@@ -31,8 +31,9 @@ class StoredHistory;
 /// by discardUnstoredChanges().
 ///
 /// Other processes may use the same file. What they change arrives as the same three signals, within
-/// half a second; beginUpdateNode() looks for it first. Only properties that really differ are stored,
-/// so two processes that change different properties of one node both keep their work.
+/// half a second, very much of it in several turns of the event loop; beginUpdateNode() looks for it first.
+/// Only properties that really differ are stored, so two processes that change different properties of one
+/// node both keep their work.
 class KO_HOST_EXPORT HostNodeDB : public NodeDB, public ChangeGrouping
 {
     Q_OBJECT

@@ -7,7 +7,7 @@ namespace ko {
 
 namespace {
 
-const int frame = 16;      // ms
+const qint64 frame = 16;   // ms
 const int atOnceIn = 2500; // microseconds of one turn of the event loop
 
 } // namespace
@@ -22,7 +22,7 @@ bool OncePerFrame::isNow(int microseconds)
     watchTurn();
     if (m_isDue)
         return false;
-    const bool isRested = !m_sinceWork.isValid() || m_sinceWork.elapsed() >= frame;
+    const bool isRested = !m_sinceWork.isValid() || m_sinceWork.elapsed() >= m_rest;
     const bool isFirst = m_spent == 0 && isRested;
     m_spent += microseconds;
     m_isDue = !isFirst && m_spent > atOnceIn;
@@ -48,11 +48,11 @@ void OncePerFrame::endTurn()
     m_isTurnWatched = false;
     if (!m_isDue) {
         if (m_spent > atOnceIn)
-            m_sinceWork.start();
+            startRest(frame);
         m_spent = 0;
         return;
     }
-    const qint64 rest = m_sinceWork.isValid() ? frame - m_sinceWork.elapsed() : 0;
+    const qint64 rest = m_sinceWork.isValid() ? m_rest - m_sinceWork.elapsed() : 0;
     if (rest <= 0)
         run();
     else if (!m_wait.isActive())
@@ -72,8 +72,16 @@ void OncePerFrame::run()
     m_wait.stop();
     m_isDue = false;
     m_spent = 0;
-    m_sinceWork.start();
+    QElapsedTimer clock;
+    clock.start();
     emit due();
+    startRest(qMax(frame, 3 * clock.elapsed()));
+}
+
+void OncePerFrame::startRest(qint64 milliseconds)
+{
+    m_rest = milliseconds;
+    m_sinceWork.start();
 }
 
 } // namespace ko

@@ -13,7 +13,8 @@ namespace ko {
 /// or together with that of the changes that come next.
 ///
 /// What takes little time is done at once. The rest waits for due(), which comes before the event loop waits
-/// again and before anything is painted, but not more often than a screen shows another picture.
+/// again and before anything is painted, but not more often than a screen shows another picture; if it takes
+/// long, after a rest of three times as long, so that what goes on for seconds is not mostly shown.
 class KO_PLATFORM_EXPORT OncePerFrame : public QObject
 {
     Q_OBJECT
@@ -40,9 +41,11 @@ private slots:
 private:
     void watchTurn();
     void run();
+    void startRest(qint64 milliseconds);
 
     QBasicTimer m_wait;
     QElapsedTimer m_sinceWork; ///< that took long, or was late
+    qint64 m_rest = 0;         ///< milliseconds after which there may be more
     qint64 m_spent = 0;        ///< microseconds of this turn
     bool m_isTurnWatched = false;
     bool m_isDue = false;

@@ -16,6 +16,7 @@ private slots:
     void muchWaitsForTheTurn();
     void firstOfAFrameIsDoneAtOnce();
     void notMoreOftenThanAFrame_data();
+    void notMostOfTheTime();
     void notMoreOftenThanAFrame();
 };
 
@@ -57,6 +58,23 @@ void tst_OncePerFrame::firstOfAFrameIsDoneAtOnce()
     QTest::qWait(50);
     QVERIFY(frame.isNow(1000000));
     QCOMPARE(due.count(), 1);
+}
+
+void tst_OncePerFrame::notMostOfTheTime()
+{
+    OncePerFrame frame;
+    int times = 0;
+    QObject::connect(&frame, &OncePerFrame::due, &frame, [&times] {
+        ++times;
+        QTest::qSleep(30);
+    });
+    QElapsedTimer clock;
+    clock.start();
+    while (!clock.hasExpired(500)) {
+        frame.later();
+        QCoreApplication::processEvents();
+    }
+    QVERIFY2(times >= 2 && times <= int(clock.elapsed()) / 120 + 1, qPrintable(QString::number(times)));
 }
 
 void tst_OncePerFrame::notMoreOftenThanAFrame_data()
