@@ -39,6 +39,7 @@ const QVector<int> allSizes = {1000, 10000, 100000};
 QVector<Workload> storeWorkloads();
 QVector<Workload> listWorkloads();
 QVector<Workload> changeWorkloads();
+QVector<Workload> backupWorkloads();
 QVector<Workload> dialogWorkloads();
 QVector<Workload> scanWorkloads();
 QVector<Workload> startWorkloads();

@@ -239,8 +239,8 @@ int main(int argc, char** argv)
     options.check = parser.isSet(check);
 
     Report report(options);
-    const QVector<Workload> all = storeWorkloads() + listWorkloads() + changeWorkloads() + dialogWorkloads() +
-                                  scanWorkloads() + startWorkloads() + historyWorkloads();
+    const QVector<Workload> all = storeWorkloads() + listWorkloads() + changeWorkloads() + backupWorkloads() +
+                                  dialogWorkloads() + scanWorkloads() + startWorkloads() + historyWorkloads();
     for (const Workload& workload : all) {
         if (workload.name.contains(options.filter, Qt::CaseInsensitive))
             report.run(workload);
