@@ -1,4 +1,5 @@
 #include "ConfirmedWays.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "PutBackModel.h"
