@@ -13,6 +13,8 @@ namespace {
 
 constexpr char Prefix[] = "sealed1:";
 constexpr int NonceSize = crypto_aead_xchacha20poly1305_ietf_NPUBBYTES;
+constexpr int KeyNameSize = crypto_generichash_BYTES_MIN;
+constexpr int SignatureSize = crypto_generichash_BYTES;
 constexpr int TagSize = crypto_aead_xchacha20poly1305_ietf_ABYTES;
 static_assert(Sealer::KeySize == crypto_aead_xchacha20poly1305_ietf_KEYBYTES);
 
@@ -46,6 +48,26 @@ QString fromBytes(const QByteArray& array)
     QString text(int(array.size()) / 2, Qt::Uninitialized);
     qFromLittleEndian<quint16>(array.constData(), text.size(), text.data());
     return text;
+}
+
+/// BLAKE2b.
+QByteArray keyedHash(const unsigned char* key, const QByteArray& message, int size)
+{
+    QByteArray result(size, Qt::Uninitialized);
+    crypto_generichash(bytes(result), size_t(size), bytes(message), quint64(message.size()), key,
+                       Sealer::KeySize);
+    return result;
+}
+
+/// A name of the key, and what only the key makes of \a message. What signs is not the key that seals.
+QByteArray signature(const unsigned char* key, const QByteArray& message)
+{
+    QByteArray signing = keyedHash(key, QByteArrayLiteral("konodeui signature"), Sealer::KeySize);
+    const QByteArray result =
+        keyedHash(bytes(std::as_const(signing)), QByteArrayLiteral("name"), KeyNameSize) +
+        keyedHash(bytes(std::as_const(signing)), "message" + message, SignatureSize);
+    sodium_memzero(signing.data(), size_t(signing.size()));
+    return result;
 }
 
 /// What the tag covers besides the text. No id and no name of a property holds a zero.
@@ -121,6 +143,23 @@ std::optional<QString> Sealer::open(const QString& sealed, const QString& owner,
     QString text = fromBytes(clear);
     sodium_memzero(clear.data(), std::size_t(clear.size()));
     return text;
+}
+
+QByteArray Sealer::sign(const QByteArray& message) const
+{
+    return canSeal() ? signature(m_keys.front().get(), message) : QByteArray();
+}
+
+Sealer::Signature Sealer::check(const QByteArray& message, const QByteArray& told) const
+{
+    for (const Key& key : m_keys) {
+        const QByteArray good = signature(key.get(), message);
+        if (told.size() != good.size() || told.left(KeyNameSize) != good.left(KeyNameSize))
+            continue;
+        return sodium_memcmp(good.constData(), told.constData(), size_t(good.size())) == 0 ? Signature::Good
+                                                                                           : Signature::Bad;
+    }
+    return Signature::OtherKey;
 }
 
 bool Sealer::isSealed(const QString& text)

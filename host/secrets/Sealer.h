@@ -35,6 +35,17 @@ public:
     /// Nothing if \a sealed was changed, belongs elsewhere, or was sealed with none of the keys.
     std::optional<QString> open(const QString& sealed, const QString& owner, const QString& property) const;
 
+    /// What only who has the key can make of \a message; empty without a key.
+    QByteArray sign(const QByteArray& message) const;
+
+    enum class Signature {
+        Good,
+        Bad,
+        OtherKey ///< made with none of these keys, or no signature at all
+    };
+
+    Signature check(const QByteArray& message, const QByteArray& signature) const;
+
     /// Whether \a text has the form of a sealed one.
     static bool isSealed(const QString& text);
 

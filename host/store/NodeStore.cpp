@@ -4,6 +4,10 @@
 #include "store/ChangeWriter.h"
 #include "store/DeltaReader.h"
 #include "store/HistoryReader.h"
+#include "store/LogChain.h"
+#include "store/LogVerifier.h"
+#include "store/SqliteFile.h"
+#include "store/StoreFile.h"
 #include "store/StoredSecrets.h"
 
 namespace ko {
@@ -138,6 +142,9 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
                                     const std::function<Batch(const Delta&)>& merge)
 {
     Transaction transaction(*d->connection, Transaction::Write);
+    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
+    LogChain chain(d->connection->handle(), d->connection->fileName(), key->sealer);
+    chain.begin();
     const Batch batch = merge(DeltaReader(d->tables, d->log, wanted).since(revision));
     ChangeWriter writer(d->tables, d->log, *d->vault);
     for (const ChangeSet& set : batch.sets)
@@ -146,6 +153,7 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
         d->tables.addProgramLine(line);
     if (!batch.programLines.isEmpty())
         d->tables.trimProgramLines();
+    chain.end();
     Commit result = {d->log.revision(), writer.places(), writer.missingNodes(), {}, writer.sets()};
     for (const NodeID& source : writer.reordered())
         result.reordered.insert(source, d->tables.relationsFrom(source));
@@ -178,6 +186,25 @@ ChangeSetPart NodeStore::changes(qint64 number, qint64 after, int count)
 QVector<ChangeSetRow> NodeStore::silentChangeSets(qint64 before, int count)
 {
     return d->log.silentSets(before, count);
+}
+
+std::optional<LogReport> NodeStore::verifyLogs(const QString& file, const LogEnd& known,
+                                               const std::function<bool(qint64)>& goOn, StoreError* error)
+{
+    try {
+        *error = StoreError();
+        SqliteFile reader(file, SqliteFile::ReadOnly);
+        StoreFile::checkHeader(file, StoreSchema::latest());
+        reader.requireTables();
+        if (reader.text("PRAGMA user_version").toInt() < StoreSchema::FirstChained)
+            return LogReport();
+        const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
+        reader.execute("BEGIN"); // one unchanging view
+        return LogVerifier(reader.handle(), file, key->sealer, goOn).run(known);
+    } catch (const StoreFailure& failure) {
+        *error = failure.error;
+        return std::nullopt;
+    }
 }
 
 QVector<AuditRow> NodeStore::audit(const LogRange& range)

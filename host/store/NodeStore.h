@@ -3,6 +3,7 @@
 
 #include "model/Delta.h"
 #include "model/HistoryFilter.h"
+#include "model/LogFinding.h"
 #include "model/StoreError.h"
 
 #include <functional>
@@ -114,6 +115,11 @@ public:
     QVector<ChangeSetRow> silentChangeSets(qint64 before, int count);
     QVector<AuditRow> audit(const LogRange& range);
     qint64 auditCount();
+    /// Looks for what was altered in the logs of \a file, which may be in use; from any thread. \a known is
+    /// where they ended when they were seen before. \a goOn is called with the number of entries so far, and
+    /// ends it when it returns false: then, and with \a error when the file cannot be read, none.
+    static std::optional<LogReport> verifyLogs(const QString& file, const LogEnd& known,
+                                               const std::function<bool(qint64)>& goOn, StoreError* error);
     QVector<ProgramRow> programLines(const LogRange& range);
     qint64 programLineCount();
 

@@ -198,6 +198,8 @@ qint64 save(const QString& copy, const QString& saved, qint64* nodes)
         execute(to.get(), saved,
                 QByteArray("UPDATE ") + table +
                     " SET change_set = NULL WHERE change_set NOT IN (SELECT seq FROM change_sets)");
+    // It would be over rows that are not there.
+    execute(to.get(), saved, "DELETE FROM chain");
     // The rows may be of a version that sealed no passwords.
     execute(to.get(), saved, "INSERT OR REPLACE INTO settings VALUES ('secrets.toSeal', '1')");
     execute(to.get(), saved, "COMMIT");

@@ -39,9 +39,9 @@ QString textOf(sqlite3_stmt* row, int column)
 
 } // namespace
 
-const char* const SqliteFile::Tables[9] = {"nodes",    "properties",   "relations",
-                                           "settings", "environments", "change_sets",
-                                           "audit",    "changes",      "program_log"};
+const char* const SqliteFile::Tables[10] = {"nodes",        "properties",  "relations", "settings",
+                                            "environments", "change_sets", "audit",     "changes",
+                                            "program_log",  "chain"};
 
 SqliteFile::SqliteFile(const QString& file, Mode mode)
     : m_file(file)
@@ -83,7 +83,7 @@ void SqliteFile::setCheckpointOnClose(sqlite3* handle, bool on)
     sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, on ? 0 : 1, nullptr);
 }
 
-void SqliteFile::requireSound()
+void SqliteFile::requireTables()
 {
     const int version = text("PRAGMA user_version").toInt();
     int result = SQLITE_OK;
@@ -91,6 +91,11 @@ void SqliteFile::requireSound()
     check(result);
     if (!difference.isEmpty())
         throw StoreFailure{StoreError::make(StoreError::OtherTables, m_file, difference)};
+}
+
+void SqliteFile::requireSound()
+{
+    requireTables();
     const QString damage = text("PRAGMA integrity_check(1)");
     if (damage != QLatin1String("ok"))
         throw StoreFailure{StoreError::make(StoreError::Damaged, m_file, damage)};

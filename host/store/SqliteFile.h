@@ -25,7 +25,7 @@ public:
     static void harden(sqlite3* handle);
 
     /// What a copy row by row takes over: parents before children, so that references hold.
-    static const char* const Tables[9];
+    static const char* const Tables[10];
 
     /// Whether closing may bring the log into the file: not as long as the file may be a damaged one.
     static void setCheckpointOnClose(sqlite3* handle, bool on);
@@ -33,8 +33,13 @@ public:
     void execute(const QByteArray& sql);
 
     /// Throws unless the tables are those of the version that the file says it has, and nothing else is
-    /// there, all pages are sound and all references lead somewhere.
+    /// there.
+    void requireTables();
+
+    /// The same, and unless all pages are sound and all references lead somewhere.
     void requireSound();
+
+    sqlite3* handle() const { return m_handle; }
 
     /// First column of the first row.
     QString text(const char* sql);

@@ -2,6 +2,7 @@
 
 #include "secrets/Keyring.h"
 #include "store/DraftFile.h"
+#include "store/LogChain.h"
 #include "store/SqliteFile.h"
 #include "store/StoreBackup.h"
 #include "store/StoreFile.h"
@@ -230,10 +231,13 @@ void SqliteStore::migrate(int from, const Opening& opening)
         if (!copy.isEmpty())
             QFile::remove(copy);
     };
+    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
     try {
         Transaction transaction(*this, Transaction::Write);
         if (userVersion() == from) {
             applySteps(from, opening.version);
+            if (opening.version >= StoreSchema::FirstChained) // what there is may take seconds
+                LogChain(handle(), m_file, key->sealer).begin();
             transaction.commit();
             return;
         }

@@ -94,6 +94,8 @@ public:
     /// Changes whenever another connection, of this or another process, has committed.
     qint64 dataVersion();
 
+    sqlite3* handle() const;
+
 private:
     enum Mode { ReadOnly, ReadWrite };
 
@@ -107,7 +109,6 @@ private:
     void prepare(const Opening& opening);
     void create(int version);
     void migrate(int from, const Opening& opening);
-    sqlite3* handle() const;
     QString backUp(int version);
     int userVersion();
     void applySteps(int from, int to);

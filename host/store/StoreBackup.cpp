@@ -1,7 +1,9 @@
 #include "store/StoreBackup.h"
 
 #include "model/Cause.h"
+#include "secrets/Keyring.h"
 #include "store/DraftFile.h"
+#include "store/LogChain.h"
 #include "store/SqliteFile.h"
 #include "store/SqliteStore.h"
 #include "store/StoreFile.h"
@@ -165,6 +167,7 @@ void noteRestore(SqliteFile& file)
 /// one that it knows.
 void replaceRows(const QString& database, const QString& restored, bool keep)
 {
+    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
     SqliteFile file(database, SqliteFile::ReadWrite);
     file.attach(restored, "restored");
     file.execute("BEGIN IMMEDIATE");
@@ -179,7 +182,10 @@ void replaceRows(const QString& database, const QString& restored, bool keep)
                  " WHERE name NOT IN (SELECT name FROM main.sqlite_sequence)");
     file.execute("UPDATE main.sqlite_sequence SET seq = max(seq, coalesce((SELECT other.seq FROM"
                  " restored.sqlite_sequence AS other WHERE other.name = sqlite_sequence.name), 0))");
+    LogChain chain(file.handle(), database, key->sealer);
+    chain.begin();
     noteRestore(file);
+    chain.end();
     file.execute("COMMIT");
 }
 

@@ -71,6 +71,13 @@ const QVector<QVector<const char*>>& steps()
             // The history of one node.
             "CREATE INDEX changes_id ON changes (id, change_set)",
         },
+        {
+            // Over the logs; see LogChain.
+            ("CREATE TABLE chain (seq INTEGER PRIMARY KEY AUTOINCREMENT, kind TEXT NOT NULL,"
+             " set_end INTEGER NOT NULL, change_end INTEGER NOT NULL, audit_end INTEGER NOT NULL,"
+             " sets INTEGER NOT NULL, changes INTEGER NOT NULL, audits INTEGER NOT NULL,"
+             " checks BLOB NOT NULL, hash BLOB NOT NULL, seal BLOB NOT NULL)"),
+        },
     };
     return steps;
 }

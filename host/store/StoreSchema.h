@@ -21,6 +21,9 @@ constexpr quint32 ApplicationId = 0x4b6f4442;
 /// Before this version passwords stood in the clear.
 constexpr int FirstSealed = 3;
 
+/// From this version on there is a chain over the logs.
+constexpr int FirstChained = 7;
+
 KO_HOST_EXPORT int latest();
 
 /// The statements that lead from \a version to the next.

@@ -1,0 +1,88 @@
+#include "store/LogChain.h"
+
+namespace ko {
+
+LogChain::LogChain(sqlite3* handle, const QString& file, const Sealer& sealer)
+    : m_handle(handle)
+    , m_file(file)
+    , m_sealer(sealer)
+{
+}
+
+LogLink LogChain::last() const
+{
+    const QByteArray sql =
+        QByteArray("SELECT") + LogLink::Columns + "FROM main.chain ORDER BY seq DESC LIMIT 1";
+    SqliteRows rows(m_handle, m_file, sql.constData());
+    return rows.next() ? LogLink::from(rows) : LogLink();
+}
+
+void LogChain::begin()
+{
+    if (last().number != 0) {
+        add(LogLink::Foreign);
+        return;
+    }
+    LogLink first;
+    first.kind = LogLink::Beginning;
+    first.checks.resize(16);
+    randombytes_buf(first.checks.data(), size_t(first.checks.size()));
+    insert(first, first.hash, QByteArray());
+    add(LogLink::Older);
+}
+
+void LogChain::end()
+{
+    add(LogLink::Commit);
+}
+
+void LogChain::add(char kind)
+{
+    while (addOne(kind, last())) {
+    }
+}
+
+/// Returns whether there may be more rows than those of this link.
+bool LogChain::addOne(char kind, const LogLink& before)
+{
+    LogLink link;
+    link.kind = kind;
+    link.ends = before.ends;
+    QByteArray hashes;
+    int count = 0;
+    for (int table = 0; table < LogRows::Tables; ++table) {
+        LogRows rows(m_handle, m_file, table, before.ends[size_t(table)]);
+        for (; !rows.isAtEnd() && count < MostRows; rows.next(), ++count) {
+            link.ends[size_t(table)] = rows.number();
+            ++link.counts[size_t(table)];
+            link.checks += rows.hash().left(LogLink::CheckSize);
+            hashes += rows.hash();
+        }
+    }
+    if (count > 0)
+        insert(link, before.hash, hashes);
+    return count == MostRows;
+}
+
+void LogChain::insert(LogLink link, const QByteArray& before, const QByteArray& rowHashes)
+{
+    {
+        SqliteRows next(m_handle, m_file,
+                        "SELECT coalesce(max(seq), 0) + 1 FROM main.sqlite_sequence WHERE name = 'chain'");
+        next.next();
+        link.number = next.number(0);
+    }
+    link.hash = link.beginHash(before).add(rowHashes).result();
+    link.seal = m_sealer.sign(link.hash);
+    SqliteRows row(m_handle, m_file,
+                   "INSERT INTO main.chain (seq, set_end, change_end, audit_end, sets, changes, audits, kind,"
+                   " checks, hash, seal) VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, char(?8), ?9, ?10, ?11)",
+                   {link.number, link.ends[0], link.ends[1], link.ends[2], link.counts[0], link.counts[1],
+                    link.counts[2], link.kind});
+    row.bind(9, link.checks);
+    row.bind(10, link.hash);
+    row.bind(11, link.seal);
+    row.next();
+}
+
+} // namespace ko
