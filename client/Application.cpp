@@ -16,6 +16,8 @@
 #include "exchange/FileName.h"
 #include "ko/Terminal.h"
 #include "store/BackupKeeper.h"
+#include "store/LogCheckpoint.h"
+#include "store/NodeStore.h"
 #include "store/StoreBackup.h"
 #include "store/StoreFile.h"
 
@@ -185,7 +187,7 @@ int Application::run()
 bool Application::needsWindow() const
 {
     const auto isSet = [this](const char* task) { return m_options->isSet(task); };
-    const auto tasks = {"import", "export", "backup", "restore"};
+    const auto tasks = {"import", "export", "backup", "restore", "verify-log"};
     return std::none_of(tasks.begin(), tasks.end(), isSet);
 }
 
@@ -195,8 +197,9 @@ int Application::runTask()
         m_database = defaultDatabase();
     const bool imports = m_options->isSet("import");
     const bool exports = m_options->isSet("export");
+    const bool verifies = m_options->isSet("verify-log");
     const int copied = copyDatabase();
-    if (copied != Good || !(needsWindow() || imports || exports))
+    if (copied != Good || !(needsWindow() || imports || exports || verifies))
         return copied;
     KeychainNotice notice(needsWindow() ? KeychainNotice::Way::Window : KeychainNotice::Way::Line);
     if (!notice.prepare())
@@ -209,12 +212,15 @@ int Application::runTask()
         if (!refused.error.isEmpty())
             return report(refused);
     }
+    const int verified = verifies ? verifyLog() : Good;
+    if (verified > SomeLinesBad || !(imports || exports))
+        return verified;
     const std::unique_ptr<HostNodeDB> db = open(false);
     if (!db)
         return NoDatabase;
     const ProgramLog log(db->logStore());
     const int imported = imports ? importCameras() : Good;
-    return imported == Failed || !exports ? imported : qMax(imported, exportCameras());
+    return qMax(verified, imported == Failed || !exports ? imported : qMax(imported, exportCameras()));
 }
 
 /// Null after the user was told why. The user of a window may choose another file.
@@ -291,6 +297,31 @@ int Application::exportCameras() const
     if (result.skipped > 0)
         say(stderr, QCoreApplication::translate("Application", "%1 without name and address left out")
                         .arg(result.skipped));
+    return Good;
+}
+
+/// What is good is kept in mind, by which it shows later that the end was cut off.
+int Application::verifyLog() const
+{
+    StoreError error;
+    const std::optional<LogReport> report = NodeStore::verifyLogs(
+        m_database, LogCheckpoint::read(m_database), [](qint64) { return true; }, &error);
+    if (!report) {
+        say(stderr, error.message);
+        return NoDatabase;
+    }
+    for (const LogFinding& finding : report->findings)
+        say(stderr, finding.text());
+    say(stdout, QCoreApplication::translate("Application", "%1 entries looked at, %2 older than the chain, "
+                                                           "%3 links without a seal")
+                    .arg(report->entries)
+                    .arg(report->older)
+                    .arg(report->unsealed));
+    if (!report->findings.isEmpty())
+        return SomeLinesBad;
+    if (!report->end.log.isEmpty() && !LogCheckpoint::write(m_database, report->end))
+        say(stderr, QCoreApplication::translate("Application", "%1 cannot be written.")
+                        .arg(QDir::toNativeSeparators(LogCheckpoint::fileFor(m_database))));
     return Good;
 }
 

@@ -35,6 +35,7 @@ private:
     int report(const CameraSurvey::ImportResult& result) const;
     int exportCameras() const;
     int copyDatabase() const;
+    int verifyLog() const;
 
     int& m_argc;
     char** const m_argv;

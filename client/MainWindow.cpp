@@ -5,6 +5,7 @@
 #include "EmptyState.h"
 #include "EnvironmentNotice.h"
 #include "FocusMark.h"
+#include "LogNotice.h"
 #include "Mnemonics.h"
 #include "NodeCommands.h"
 #include "NodeListModel.h"
@@ -91,6 +92,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     createSearch();
     createTypes();
     createToolBar();
+    statusBar()->addPermanentWidget(new LogNotice(m_db, this));
     statusBar()->addPermanentWidget(new ScannerStatus(m_db, this));
     statusBar()->addPermanentWidget(m_counts);
 

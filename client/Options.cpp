@@ -33,6 +33,11 @@ const Option options[] = {
                        "Gives the database, which may be in use, the content of a backup and ends. "
                        "The present content is kept as a backup."),
      "FILE"},
+    {"verify-log",
+     QT_TRANSLATE_NOOP("Application",
+                       "Looks whether anybody has altered the logs of the database, names what, "
+                       "and ends."),
+     ""},
 };
 
 const Option toolkitOptions[] = {
@@ -79,8 +84,8 @@ Options::Options()
     m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     m_parser.setApplicationDescription(
         Texts::tr("Shows, adds, edits and removes the nodes of a video-surveillance system.\n"
-                  "Without --import, --export, --backup and --restore it opens a window, and takes the "
-                  "toolkit's options (-platform, -style and others) too."));
+                  "Without --import, --export, --backup, --restore and --verify-log it opens a window, and "
+                  "takes the toolkit's options (-platform, -style and others) too."));
     m_parser.addHelpOption();
     m_parser.addVersionOption();
     for (const Option& option : options)

@@ -126,18 +126,30 @@
         <translation>Dá databázi, která se může používat, obsah zálohy a skončí. Současný obsah se uchová jako záloha.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Zobrazuje, přidává, upravuje a odebírá uzly kamerového systému.
-Bez --import, --export, --backup a --restore otevře okno a přijímá i volby grafické knihovny (-platform, -style a další).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Neočekávaný argument: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>Hodnota za --%1 je prázdná.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>Prohlédnuté záznamy: %1, starší než řetěz: %2, články bez pečeti: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 nelze zapsat.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Zjistí, zda někdo změnil protokoly databáze, uvede co a skončí.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Zobrazuje, přidává, upravuje a odebírá uzly kamerového systému.
+Bez --import, --export, --backup, --restore a --verify-log otevře okno a přijímá i volby grafické knihovny (-platform, -style a další).</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1013,25 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>1 large + 7</source>
         <translation>1 velká + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>Protokol byl změněn</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>A ještě %n; koclient --verify-log ji uvede.</numerusform>
+            <numerusform>A ještě %n; koclient --verify-log je uvede.</numerusform>
+            <numerusform>A ještě %n; koclient --verify-log je uvede.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Někdo změnil protokol databáze uzlů jiným programem:</translation>
     </message>
 </context>
 <context>

@@ -126,18 +126,30 @@
         <translation>Gibt der Datenbank, die in Gebrauch sein darf, den Inhalt einer Sicherung und endet. Der bisherige Inhalt bleibt als Sicherung erhalten.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Zeigt, ergänzt, bearbeitet und entfernt die Knoten eines Videoüberwachungssystems.
-Ohne --import, --export, --backup und --restore wird ein Fenster geöffnet; dann gelten auch die Optionen des Toolkits (-platform, -style und andere).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Unerwartetes Argument: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>Der Wert nach --%1 ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>%1 Einträge angesehen, %2 älter als die Kette, %3 Glieder ohne Siegel</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Sieht nach, ob jemand die Protokolle der Datenbank verändert hat, nennt, was, und endet.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Zeigt, ergänzt, bearbeitet und entfernt die Knoten eines Videoüberwachungssystems.
+Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster geöffnet; dann gelten auch die Optionen des Toolkits (-platform, -style und andere).</translation>
     </message>
 </context>
 <context>
@@ -985,6 +997,24 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>1 large + 7</source>
         <translation>1 groß + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>Das Protokoll wurde verändert</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>Und %n weitere; koclient --verify-log nennt ihn.</numerusform>
+            <numerusform>Und %n weitere; koclient --verify-log nennt sie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Jemand hat das Protokoll der Knotendatenbank mit einem anderen Programm verändert:</translation>
     </message>
 </context>
 <context>

@@ -132,6 +132,16 @@
     </message>
 </context>
 <context>
+    <name>LogNotice</name>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>And %n more; koclient --verify-log names it.</numerusform>
+            <numerusform>And %n more; koclient --verify-log names them.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message numerus="yes">
         <source>%n device(s) seen at a new address: Network &gt; Seen at a New Address</source>

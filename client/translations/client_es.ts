@@ -126,18 +126,30 @@
         <translation>Da a la base de datos, que puede estar en uso, el contenido de una copia de seguridad y termina. El contenido actual se conserva como copia de seguridad.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Muestra, añade, edita y elimina los nodos de un sistema de videovigilancia.
-Sin --import, --export, --backup ni --restore abre una ventana y acepta también las opciones de la biblioteca gráfica (-platform, -style y otras).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Argumento inesperado: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>El valor después de --%1 está vacío.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>%1 entradas examinadas, %2 anteriores a la cadena, %3 eslabones sin sello</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>No se puede escribir %1.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Comprueba si alguien ha alterado los registros de la base de datos, indica qué y termina.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Muestra, añade, edita y elimina los nodos de un sistema de videovigilancia.
+Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y acepta también las opciones de la biblioteca gráfica (-platform, -style y otras).</translation>
     </message>
 </context>
 <context>
@@ -985,6 +997,24 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>1 large + 7</source>
         <translation>1 grande + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>El registro fue alterado</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>Y %n más; koclient --verify-log lo indica.</numerusform>
+            <numerusform>Y %n más; koclient --verify-log los indica.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Alguien ha alterado el registro de la base de datos de nodos con otro programa:</translation>
     </message>
 </context>
 <context>

@@ -126,18 +126,30 @@
         <translation>Donne à la base de données, qui peut être en cours d&apos;utilisation, le contenu d&apos;une sauvegarde et se termine. Le contenu actuel est conservé comme sauvegarde.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Affiche, ajoute, modifie et supprime les nœuds d&apos;un système de vidéosurveillance.
-Sans --import, --export, --backup ni --restore, ouvre une fenêtre et accepte aussi les options de la boîte à outils (-platform, -style et autres).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Argument inattendu : %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>La valeur après --%1 est vide.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>%1 entrées examinées, %2 antérieures à la chaîne, %3 maillons sans sceau</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Vérifie si quelqu&apos;un a modifié les journaux de la base de données, le signale et se termine.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Affiche, ajoute, modifie et supprime les nœuds d&apos;un système de vidéosurveillance.
+Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre et accepte aussi les options de la boîte à outils (-platform, -style et autres).</translation>
     </message>
 </context>
 <context>
@@ -985,6 +997,24 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>1 large + 7</source>
         <translation>1 grande + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>Le journal a été modifié</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>Et %n autre ; koclient --verify-log l&apos;indique.</numerusform>
+            <numerusform>Et %n autres ; koclient --verify-log les indique.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Quelqu&apos;un a modifié le journal de la base de données des nœuds avec un autre programme :</translation>
     </message>
 </context>
 <context>

@@ -126,18 +126,30 @@
         <translation>Dà al database, che può essere in uso, il contenuto di un backup e termina. Il contenuto attuale viene conservato come backup.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Mostra, aggiunge, modifica e rimuove i nodi di un sistema di videosorveglianza.
-Senza --import, --export, --backup e --restore apre una finestra e accetta anche le opzioni del toolkit (-platform, -style e altre).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Argomento imprevisto: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>Il valore dopo --%1 è vuoto.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>%1 voci esaminate, %2 precedenti alla catena, %3 anelli senza sigillo</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>Impossibile scrivere %1.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Controlla se qualcuno ha modificato i registri del database, indica che cosa e termina.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Mostra, aggiunge, modifica e rimuove i nodi di un sistema di videosorveglianza.
+Senza --import, --export, --backup, --restore e --verify-log apre una finestra e accetta anche le opzioni del toolkit (-platform, -style e altre).</translation>
     </message>
 </context>
 <context>
@@ -985,6 +997,24 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>1 large + 7</source>
         <translation>1 grande + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>Il registro è stato modificato</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>E un&apos;altra (%n); koclient --verify-log la indica.</numerusform>
+            <numerusform>E altre %n; koclient --verify-log le indica.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Qualcuno ha modificato il registro del database dei nodi con un altro programma:</translation>
     </message>
 </context>
 <context>

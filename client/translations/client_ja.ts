@@ -126,18 +126,30 @@
         <translation>データベース (使用中でも可) をバックアップの内容に置き換えて終了します。現在の内容はバックアップとして残ります。</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>ビデオ監視システムのノードを表示、追加、編集、削除します。
---import、--export、--backup、--restoreを指定しない場合はウィンドウを開き、ツールキットのオプション (-platform、-styleなど) も使用できます。</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>予期しない引数: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>--%1の後の値が空です。</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>確認した項目: %1、チェーンより古いもの: %2、封印のないリンク: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 に書き込めません。</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>データベースのログが書き換えられていないかを調べ、結果を表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>ビデオ監視システムのノードを表示、追加、編集、削除します。
+--import、--export、--backup、--restore、--verify-logを指定しない場合はウィンドウを開き、ツールキットのオプション (-platform、-styleなど) も使用できます。</translation>
     </message>
 </context>
 <context>
@@ -969,6 +981,23 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>1 large + 7</source>
         <translation>大1 + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>ログが書き換えられています</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>ほか %n 件。koclient --verify-log で確認できます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>別のプログラムによってノードデータベースのログが書き換えられました:</translation>
     </message>
 </context>
 <context>

@@ -126,18 +126,30 @@
         <translation>Geeft de database, die in gebruik mag zijn, de inhoud van een reservekopie en stopt. De huidige inhoud wordt als reservekopie bewaard.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Toont, voegt toe, bewerkt en verwijdert de knooppunten van een videobewakingssysteem.
-Zonder --import, --export, --backup en --restore wordt een venster geopend en gelden ook de opties van de toolkit (-platform, -style en andere).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Onverwacht argument: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>De waarde na --%1 is leeg.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>%1 items bekeken, %2 ouder dan de keten, %3 schakels zonder zegel</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>%1 kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Kijkt of iemand de logboeken van de database heeft gewijzigd, noemt wat en stopt.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Toont, voegt toe, bewerkt en verwijdert de knooppunten van een videobewakingssysteem.
+Zonder --import, --export, --backup, --restore en --verify-log wordt een venster geopend en gelden ook de opties van de toolkit (-platform, -style en andere).</translation>
     </message>
 </context>
 <context>
@@ -985,6 +997,24 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>1 large + 7</source>
         <translation>1 groot + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>Het logboek is gewijzigd</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>En nog %n; koclient --verify-log noemt die.</numerusform>
+            <numerusform>En nog %n; koclient --verify-log noemt ze.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Iemand heeft het logboek van de knooppuntdatabase met een ander programma gewijzigd:</translation>
     </message>
 </context>
 <context>

@@ -126,18 +126,30 @@
         <translation>Nadaje bazie danych, która może być w użyciu, zawartość kopii zapasowej i kończy pracę. Obecna zawartość jest zachowywana jako kopia zapasowa.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Pokazuje, dodaje, edytuje i usuwa węzły systemu monitoringu wizyjnego.
-Bez --import, --export, --backup i --restore otwiera okno i przyjmuje też opcje biblioteki graficznej (-platform, -style i inne).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Nieoczekiwany argument: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>Wartość po --%1 jest pusta.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>Sprawdzone wpisy: %1, starsze niż łańcuch: %2, ogniwa bez pieczęci: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>Nie można zapisać %1.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Sprawdza, czy ktoś zmienił dzienniki bazy danych, wskazuje co i kończy pracę.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Pokazuje, dodaje, edytuje i usuwa węzły systemu monitoringu wizyjnego.
+Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjmuje też opcje biblioteki graficznej (-platform, -style i inne).</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1013,25 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>1 large + 7</source>
         <translation>1 duży + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>Dziennik został zmieniony</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>I jeszcze %n; koclient --verify-log ją wskaże.</numerusform>
+            <numerusform>I jeszcze %n; koclient --verify-log je wskaże.</numerusform>
+            <numerusform>I jeszcze %n; koclient --verify-log je wskaże.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Ktoś zmienił dziennik bazy danych węzłów innym programem:</translation>
     </message>
 </context>
 <context>

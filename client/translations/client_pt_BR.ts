@@ -126,18 +126,30 @@
         <translation>Dá ao banco de dados, que pode estar em uso, o conteúdo de um backup e termina. O conteúdo atual é mantido como backup.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Mostra, adiciona, edita e remove os nós de um sistema de videomonitoramento.
-Sem --import, --export, --backup e --restore, abre uma janela e aceita também as opções do toolkit (-platform, -style e outras).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Argumento inesperado: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>O valor após --%1 está vazio.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>%1 entradas examinadas, %2 anteriores à cadeia, %3 elos sem selo</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>Não é possível gravar %1.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Verifica se alguém alterou os registros do banco de dados, diz o quê e termina.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Mostra, adiciona, edita e remove os nós de um sistema de videomonitoramento.
+Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e aceita também as opções do toolkit (-platform, -style e outras).</translation>
     </message>
 </context>
 <context>
@@ -985,6 +997,24 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>1 large + 7</source>
         <translation>1 grande + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>O registro foi alterado</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>E mais %n; koclient --verify-log a indica.</numerusform>
+            <numerusform>E mais %n; koclient --verify-log as indica.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Alguém alterou o registro do banco de dados de nós com outro programa:</translation>
     </message>
 </context>
 <context>

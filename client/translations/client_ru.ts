@@ -126,18 +126,30 @@
         <translation>Помещает в базу данных, которая может использоваться, содержимое резервной копии и завершает работу. Текущее содержимое сохраняется как резервная копия.</translation>
     </message>
     <message>
-        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup and --restore it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
-        <translation>Показывает, добавляет, изменяет и удаляет узлы системы видеонаблюдения.
-Без --import, --export, --backup и --restore открывает окно и принимает также параметры графической библиотеки (-platform, -style и другие).</translation>
-    </message>
-    <message>
         <source>Unexpected argument: %1</source>
         <translation>Непредвиденный аргумент: %1</translation>
     </message>
     <message>
         <source>The value after --%1 is empty.</source>
         <translation>Значение после --%1 пусто.</translation>
+    </message>
+    <message>
+        <source>%1 entries looked at, %2 older than the chain, %3 links without a seal</source>
+        <translation>Просмотрено записей: %1, старше цепочки: %2, звеньев без печати: %3</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written.</source>
+        <translation>Не удаётся записать %1.</translation>
+    </message>
+    <message>
+        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <translation>Проверяет, не изменил ли кто-нибудь журналы базы данных, называет что и завершает работу.</translation>
+    </message>
+    <message>
+        <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
+Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+        <translation>Показывает, добавляет, изменяет и удаляет узлы системы видеонаблюдения.
+Без --import, --export, --backup, --restore и --verify-log открывает окно и принимает также параметры графической библиотеки (-platform, -style и другие).</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1013,25 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>1 large + 7</source>
         <translation>1 большое + 7</translation>
+    </message>
+</context>
+<context>
+    <name>LogNotice</name>
+    <message>
+        <source>The log was altered</source>
+        <translation>Журнал изменён</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more; koclient --verify-log names them.</source>
+        <translation>
+            <numerusform>И ещё %n; их назовёт koclient --verify-log.</numerusform>
+            <numerusform>И ещё %n; их назовёт koclient --verify-log.</numerusform>
+            <numerusform>И ещё %n; их назовёт koclient --verify-log.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Somebody has altered the log of the node database with another program:</source>
+        <translation>Кто-то изменил журнал базы данных узлов другой программой:</translation>
     </message>
 </context>
 <context>

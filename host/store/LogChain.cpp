@@ -9,12 +9,19 @@ LogChain::LogChain(sqlite3* handle, const QString& file, const Sealer& sealer)
 {
 }
 
-LogLink LogChain::last() const
+/// The first one in the \a order.
+LogLink LogChain::link(const char* order) const
 {
     const QByteArray sql =
-        QByteArray("SELECT") + LogLink::Columns + "FROM main.chain ORDER BY seq DESC LIMIT 1";
+        QByteArray("SELECT") + LogLink::Columns + "FROM main.chain ORDER BY seq " + order + " LIMIT 1";
     SqliteRows rows(m_handle, m_file, sql.constData());
     return rows.next() ? LogLink::from(rows) : LogLink();
+}
+
+LogEnd LogChain::where() const
+{
+    const LogLink end = last();
+    return end.number == 0 ? LogEnd() : LogEnd{link("ASC").hash, end.number, end.hash};
 }
 
 void LogChain::begin()

@@ -22,6 +22,9 @@ public:
     /// \a sealer lives as long as this. Without a key, links are not sealed.
     LogChain(sqlite3* handle, const QString& file, const Sealer& sealer);
 
+    /// The link that is the last one now.
+    LogEnd where() const;
+
     /// Before anything is logged. Rows over which there is no link are older than the chain, or were put in
     /// by others: they get links that say so.
     void begin();
@@ -30,7 +33,8 @@ public:
     void end();
 
 private:
-    LogLink last() const;
+    LogLink link(const char* order) const;
+    LogLink last() const { return link("DESC"); }
     void add(char kind);
     bool addOne(char kind, const LogLink& before);
     void insert(LogLink link, const QByteArray& before, const QByteArray& rowHashes);

@@ -109,7 +109,8 @@ std::optional<LogReport> LogVerifier::run(const LogEnd& known)
     if (!known.log.isEmpty() && m_report.end.log != known.log)
         add(LogFinding::OtherLog, 0, 0);
     else if (!known.log.isEmpty() && !m_isKnownSeen)
-        add(LogFinding::CutOff, LogFinding::Audit, std::max<qint64>(0, last.ends[LogFinding::Audit]));
+        add(LogFinding::CutOff, LogFinding::ChangeSets,
+            std::max<qint64>(0, last.ends[LogFinding::ChangeSets]));
     return m_report;
 }
 
@@ -209,7 +210,7 @@ void LogVerifier::addAtLink(LogFinding::Kind kind, const LogLink& link)
     if (m_firstEntry != 0)
         add(kind, m_firstTable, m_firstEntry);
     else
-        add(kind, LogFinding::Audit, std::max<qint64>(0, link.ends[LogFinding::Audit]));
+        add(kind, LogFinding::ChangeSets, std::max<qint64>(0, link.ends[LogFinding::ChangeSets]));
 }
 
 void LogVerifier::countRow()

@@ -207,6 +207,16 @@ std::optional<LogReport> NodeStore::verifyLogs(const QString& file, const LogEnd
     }
 }
 
+LogEnd NodeStore::endOfLogs(const QString& file)
+{
+    try {
+        const SqliteFile reader(file, SqliteFile::ReadOnly);
+        return LogChain(reader.handle(), file, Sealer()).where();
+    } catch (const StoreFailure&) {
+        return LogEnd();
+    }
+}
+
 QVector<AuditRow> NodeStore::audit(const LogRange& range)
 {
     return d->log.audit(range);

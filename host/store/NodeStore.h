@@ -120,6 +120,8 @@ public:
     /// ends it when it returns false: then, and with \a error when the file cannot be read, none.
     static std::optional<LogReport> verifyLogs(const QString& file, const LogEnd& known,
                                                const std::function<bool(qint64)>& goOn, StoreError* error);
+    /// Of \a file, which may be in use; from any thread. Empty if it cannot be read.
+    static LogEnd endOfLogs(const QString& file);
     QVector<ProgramRow> programLines(const LogRange& range);
     qint64 programLineCount();
 

@@ -4,6 +4,7 @@
 #include "secrets/Keyring.h"
 #include "store/DraftFile.h"
 #include "store/LogChain.h"
+#include "store/LogCheckpoint.h"
 #include "store/SqliteFile.h"
 #include "store/SqliteStore.h"
 #include "store/StoreFile.h"
@@ -224,7 +225,12 @@ bool verify(const QString& file, StoreError* error)
 
 bool restore(const QString& backup, const QString& database, StoreError* error)
 {
-    return succeeds([&] { restoreOrThrow(backup, StoreFile::resolved(database)); }, error);
+    return succeeds(
+        [&] {
+            restoreOrThrow(backup, StoreFile::resolved(database));
+            LogCheckpoint::forget(database);
+        },
+        error);
 }
 
 bool startAnew(const QString& database, StoreError* error)
@@ -233,6 +239,7 @@ bool startAnew(const QString& database, StoreError* error)
         [&] {
             StoreFile::moveAside(StoreFile::resolved(database));
             bringUpToDate(database);
+            LogCheckpoint::forget(database);
         },
         error);
 }

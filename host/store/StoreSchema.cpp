@@ -13,6 +13,17 @@ namespace StoreSchema {
 
 namespace {
 
+const char changeSetTable[] =
+    "CREATE TABLE change_sets (seq INTEGER PRIMARY KEY AUTOINCREMENT, id TEXT NOT NULL UNIQUE,"
+    " time INTEGER NOT NULL, user TEXT NOT NULL, host TEXT NOT NULL, purpose TEXT NOT NULL,"
+    " subject TEXT NOT NULL)";
+
+const char chainTable[] =
+    "CREATE TABLE chain (seq INTEGER PRIMARY KEY AUTOINCREMENT, kind TEXT NOT NULL,"
+    " set_end INTEGER NOT NULL, change_end INTEGER NOT NULL, audit_end INTEGER NOT NULL,"
+    " sets INTEGER NOT NULL, changes INTEGER NOT NULL, audits INTEGER NOT NULL,"
+    " checks BLOB NOT NULL, hash BLOB NOT NULL, seal BLOB NOT NULL)";
+
 // Numbers of nodes are never given twice: they say which node is older, and another process may still
 // hold the number of a node that is gone.
 // The columns location, recording and lookup repeat what follows from the properties, so that a list can
@@ -51,9 +62,7 @@ const QVector<QVector<const char*>>& steps()
         },
         {
             // From here on the changes that processes tell each other of are the history, too.
-            ("CREATE TABLE change_sets (seq INTEGER PRIMARY KEY AUTOINCREMENT, id TEXT NOT NULL UNIQUE,"
-             " time INTEGER NOT NULL, user TEXT NOT NULL, host TEXT NOT NULL, purpose TEXT NOT NULL,"
-             " subject TEXT NOT NULL)"),
+            changeSetTable,
             "ALTER TABLE changes ADD COLUMN change_set INTEGER REFERENCES change_sets (seq)",
             "ALTER TABLE changes ADD COLUMN before TEXT",
             "ALTER TABLE changes ADD COLUMN after TEXT",
@@ -73,10 +82,7 @@ const QVector<QVector<const char*>>& steps()
         },
         {
             // Over the logs; see LogChain.
-            ("CREATE TABLE chain (seq INTEGER PRIMARY KEY AUTOINCREMENT, kind TEXT NOT NULL,"
-             " set_end INTEGER NOT NULL, change_end INTEGER NOT NULL, audit_end INTEGER NOT NULL,"
-             " sets INTEGER NOT NULL, changes INTEGER NOT NULL, audits INTEGER NOT NULL,"
-             " checks BLOB NOT NULL, hash BLOB NOT NULL, seal BLOB NOT NULL)"),
+            chainTable,
         },
     };
     return steps;

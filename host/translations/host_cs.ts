@@ -801,6 +801,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>Sada změn %1 byla změněna.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>Řádek %1 sad změn byl změněn.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>Záznam %1 protokolu změn byl změněn.</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>Sada změn %1 chybí.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>Řádek %1 sad změn chybí.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>Záznam %1 protokolu změn chybí.</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>Sada změn %1 byla vložena jiným programem.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>Řádek %1 sad změn byl vložen jiným programem.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>Záznam %1 protokolu změn byl vložen jiným programem.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>Od sady změn %1 byl protokol přepsán.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>Od řádku %1 sad změn byl protokol přepsán.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>Od záznamu %1 protokolu změn byl protokol přepsán.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>Od sady změn %1 je protokol zapečetěn jiným klíčem.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>Od řádku %1 sad změn je protokol zapečetěn jiným klíčem.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>Od záznamu %1 protokolu změn je protokol zapečetěn jiným klíčem.</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>To, co následovalo po sadě změn %1, bylo odříznuto.</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>To, co následovalo po řádku %1 sad změn, bylo odříznuto.</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>To, co následovalo po záznamu %1 protokolu změn, bylo odříznuto.</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>Není to protokol, který tu byl dříve.</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

@@ -792,6 +792,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>Änderungssatz %1 wurde verändert.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>Zeile %1 der Änderungssätze wurde verändert.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>Eintrag %1 des Änderungsprotokolls wurde verändert.</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>Änderungssatz %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>Zeile %1 der Änderungssätze fehlt.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>Eintrag %1 des Änderungsprotokolls fehlt.</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>Änderungssatz %1 wurde von einem anderen Programm eingefügt.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>Zeile %1 der Änderungssätze wurde von einem anderen Programm eingefügt.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>Eintrag %1 des Änderungsprotokolls wurde von einem anderen Programm eingefügt.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>Ab Änderungssatz %1 wurde das Protokoll neu geschrieben.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>Ab Zeile %1 der Änderungssätze wurde das Protokoll neu geschrieben.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>Ab Eintrag %1 des Änderungsprotokolls wurde das Protokoll neu geschrieben.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>Ab Änderungssatz %1 ist das Protokoll mit einem anderen Schlüssel versiegelt.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>Ab Zeile %1 der Änderungssätze ist das Protokoll mit einem anderen Schlüssel versiegelt.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>Ab Eintrag %1 des Änderungsprotokolls ist das Protokoll mit einem anderen Schlüssel versiegelt.</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>Was nach Änderungssatz %1 kam, wurde abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>Was nach Zeile %1 der Änderungssätze kam, wurde abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>Was nach Eintrag %1 des Änderungsprotokolls kam, wurde abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>Es ist nicht das Protokoll, das hier vorher gesehen wurde.</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

@@ -792,6 +792,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>El conjunto de cambios %1 fue alterado.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>La línea %1 de los conjuntos de cambios fue alterada.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>La entrada %1 del registro de auditoría fue alterada.</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>Falta el conjunto de cambios %1.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>Falta la línea %1 de los conjuntos de cambios.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>Falta la entrada %1 del registro de auditoría.</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>El conjunto de cambios %1 fue añadido por otro programa.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>La línea %1 de los conjuntos de cambios fue añadida por otro programa.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>La entrada %1 del registro de auditoría fue añadida por otro programa.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>A partir del conjunto de cambios %1, el registro se reescribió.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>A partir de la línea %1 de los conjuntos de cambios, el registro se reescribió.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>A partir de la entrada %1 del registro de auditoría, el registro se reescribió.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>A partir del conjunto de cambios %1, el registro está sellado con otra clave.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>A partir de la línea %1 de los conjuntos de cambios, el registro está sellado con otra clave.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>A partir de la entrada %1 del registro de auditoría, el registro está sellado con otra clave.</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>Lo que seguía al conjunto de cambios %1 fue cortado.</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>Lo que seguía a la línea %1 de los conjuntos de cambios fue cortado.</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>Lo que seguía a la entrada %1 del registro de auditoría fue cortado.</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>No es el registro que se vio aquí antes.</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

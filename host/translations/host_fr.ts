@@ -792,6 +792,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>L&apos;ensemble de modifications %1 a été modifié.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>La ligne %1 des ensembles de modifications a été modifiée.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>L&apos;entrée %1 du journal d&apos;audit a été modifiée.</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>L&apos;ensemble de modifications %1 manque.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>La ligne %1 des ensembles de modifications manque.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>L&apos;entrée %1 du journal d&apos;audit manque.</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>L&apos;ensemble de modifications %1 a été ajouté par un autre programme.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>La ligne %1 des ensembles de modifications a été ajoutée par un autre programme.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>L&apos;entrée %1 du journal d&apos;audit a été ajoutée par un autre programme.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>À partir de l&apos;ensemble de modifications %1, le journal a été réécrit.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>À partir de la ligne %1 des ensembles de modifications, le journal a été réécrit.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>À partir de l&apos;entrée %1 du journal d&apos;audit, le journal a été réécrit.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>À partir de l&apos;ensemble de modifications %1, le journal est scellé avec une autre clé.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>À partir de la ligne %1 des ensembles de modifications, le journal est scellé avec une autre clé.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>À partir de l&apos;entrée %1 du journal d&apos;audit, le journal est scellé avec une autre clé.</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>Ce qui suivait l&apos;ensemble de modifications %1 a été coupé.</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>Ce qui suivait la ligne %1 des ensembles de modifications a été coupé.</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>Ce qui suivait l&apos;entrée %1 du journal d&apos;audit a été coupé.</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>Ce n&apos;est pas le journal qui a été vu ici auparavant.</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

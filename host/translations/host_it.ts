@@ -792,6 +792,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>L&apos;insieme di modifiche %1 è stato modificato.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>La riga %1 degli insiemi di modifiche è stata modificata.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>La voce %1 del registro di controllo è stata modificata.</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>Manca l&apos;insieme di modifiche %1.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>Manca la riga %1 degli insiemi di modifiche.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>Manca la voce %1 del registro di controllo.</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>L&apos;insieme di modifiche %1 è stato inserito da un altro programma.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>La riga %1 degli insiemi di modifiche è stata inserita da un altro programma.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>La voce %1 del registro di controllo è stata inserita da un altro programma.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>A partire dall&apos;insieme di modifiche %1 il registro è stato riscritto.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>A partire dalla riga %1 degli insiemi di modifiche il registro è stato riscritto.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>A partire dalla voce %1 del registro di controllo il registro è stato riscritto.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>A partire dall&apos;insieme di modifiche %1 il registro è sigillato con un&apos;altra chiave.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>A partire dalla riga %1 degli insiemi di modifiche il registro è sigillato con un&apos;altra chiave.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>A partire dalla voce %1 del registro di controllo il registro è sigillato con un&apos;altra chiave.</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>Ciò che seguiva l&apos;insieme di modifiche %1 è stato tagliato.</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>Ciò che seguiva la riga %1 degli insiemi di modifiche è stato tagliato.</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>Ciò che seguiva la voce %1 del registro di controllo è stato tagliato.</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>Non è il registro visto qui in precedenza.</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

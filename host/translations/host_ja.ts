@@ -783,6 +783,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>変更セット %1が書き換えられています。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>変更セットの行 %1が書き換えられています。</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>監査ログの項目 %1が書き換えられています。</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>変更セット %1がありません。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>変更セットの行 %1がありません。</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>監査ログの項目 %1がありません。</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>変更セット %1は別のプログラムによって挿入されました。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>変更セットの行 %1は別のプログラムによって挿入されました。</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>監査ログの項目 %1は別のプログラムによって挿入されました。</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>変更セット %1以降、ログが書き直されています。</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>変更セットの行 %1以降、ログが書き直されています。</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>監査ログの項目 %1以降、ログが書き直されています。</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>変更セット %1以降、ログは別の鍵で封印されています。</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>変更セットの行 %1以降、ログは別の鍵で封印されています。</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>監査ログの項目 %1以降、ログは別の鍵で封印されています。</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>変更セット %1より後が切り取られています。</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>変更セットの行 %1より後が切り取られています。</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>監査ログの項目 %1より後が切り取られています。</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>以前ここにあったログではありません。</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

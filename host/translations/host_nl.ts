@@ -792,6 +792,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>Wijzigingsset %1 is gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>Regel %1 van de wijzigingssets is gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>Item %1 van het auditlogboek is gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>Wijzigingsset %1 ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>Regel %1 van de wijzigingssets ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>Item %1 van het auditlogboek ontbreekt.</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>Wijzigingsset %1 is door een ander programma ingevoegd.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>Regel %1 van de wijzigingssets is door een ander programma ingevoegd.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>Item %1 van het auditlogboek is door een ander programma ingevoegd.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>Vanaf wijzigingsset %1 is het logboek herschreven.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>Vanaf regel %1 van de wijzigingssets is het logboek herschreven.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>Vanaf item %1 van het auditlogboek is het logboek herschreven.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>Vanaf wijzigingsset %1 is het logboek met een andere sleutel verzegeld.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>Vanaf regel %1 van de wijzigingssets is het logboek met een andere sleutel verzegeld.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>Vanaf item %1 van het auditlogboek is het logboek met een andere sleutel verzegeld.</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>Wat na wijzigingsset %1 kwam, is afgeknipt.</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>Wat na regel %1 van de wijzigingssets kwam, is afgeknipt.</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>Wat na item %1 van het auditlogboek kwam, is afgeknipt.</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>Het is niet het logboek dat hier eerder is gezien.</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

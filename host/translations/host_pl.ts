@@ -801,6 +801,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>Zestaw zmian %1 został zmieniony.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>Wiersz %1 zestawów zmian został zmieniony.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>Wpis %1 dziennika zmian został zmieniony.</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>Brakuje zestawu zmian %1.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>Brakuje wiersza %1 zestawów zmian.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>Brakuje wpisu %1 dziennika zmian.</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>Zestaw zmian %1 został wstawiony przez inny program.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>Wiersz %1 zestawów zmian został wstawiony przez inny program.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>Wpis %1 dziennika zmian został wstawiony przez inny program.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>Od zestawu zmian %1 dziennik został napisany na nowo.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>Od wiersza %1 zestawów zmian dziennik został napisany na nowo.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>Od wpisu %1 dziennika zmian dziennik został napisany na nowo.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>Od zestawu zmian %1 dziennik jest zapieczętowany innym kluczem.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>Od wiersza %1 zestawów zmian dziennik jest zapieczętowany innym kluczem.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>Od wpisu %1 dziennika zmian dziennik jest zapieczętowany innym kluczem.</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>To, co następowało po zestawie zmian %1, zostało odcięte.</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>To, co następowało po wierszu %1 zestawów zmian, zostało odcięte.</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>To, co następowało po wpisie %1 dziennika zmian, zostało odcięte.</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>To nie jest dziennik, który widziano tu wcześniej.</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

@@ -792,6 +792,85 @@
     </message>
 </context>
 <context>
+    <name>LogFinding</name>
+    <message>
+        <source>Change set %1 was altered.</source>
+        <translation>O conjunto de alterações %1 foi alterado.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was altered.</source>
+        <translation>A linha %1 dos conjuntos de alterações foi alterada.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was altered.</source>
+        <translation>A entrada %1 do registro de auditoria foi alterada.</translation>
+    </message>
+    <message>
+        <source>Change set %1 is missing.</source>
+        <translation>Falta o conjunto de alterações %1.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets is missing.</source>
+        <translation>Falta a linha %1 dos conjuntos de alterações.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log is missing.</source>
+        <translation>Falta a entrada %1 do registro de auditoria.</translation>
+    </message>
+    <message>
+        <source>Change set %1 was put in by another program.</source>
+        <translation>O conjunto de alterações %1 foi inserido por outro programa.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the change sets was put in by another program.</source>
+        <translation>A linha %1 dos conjuntos de alterações foi inserida por outro programa.</translation>
+    </message>
+    <message>
+        <source>Entry %1 of the audit log was put in by another program.</source>
+        <translation>A entrada %1 do registro de auditoria foi inserida por outro programa.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log was rewritten.</source>
+        <translation>A partir do conjunto de alterações %1, o registro foi reescrito.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log was rewritten.</source>
+        <translation>A partir da linha %1 dos conjuntos de alterações, o registro foi reescrito.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log was rewritten.</source>
+        <translation>A partir da entrada %1 do registro de auditoria, o registro foi reescrito.</translation>
+    </message>
+    <message>
+        <source>From change set %1 on the log is sealed with another key.</source>
+        <translation>A partir do conjunto de alterações %1, o registro está selado com outra chave.</translation>
+    </message>
+    <message>
+        <source>From line %1 of the change sets on the log is sealed with another key.</source>
+        <translation>A partir da linha %1 dos conjuntos de alterações, o registro está selado com outra chave.</translation>
+    </message>
+    <message>
+        <source>From entry %1 of the audit log on the log is sealed with another key.</source>
+        <translation>A partir da entrada %1 do registro de auditoria, o registro está selado com outra chave.</translation>
+    </message>
+    <message>
+        <source>What came after change set %1 was cut off.</source>
+        <translation>O que vinha depois do conjunto de alterações %1 foi cortado.</translation>
+    </message>
+    <message>
+        <source>What came after line %1 of the change sets was cut off.</source>
+        <translation>O que vinha depois da linha %1 dos conjuntos de alterações foi cortado.</translation>
+    </message>
+    <message>
+        <source>What came after entry %1 of the audit log was cut off.</source>
+        <translation>O que vinha depois da entrada %1 do registro de auditoria foi cortado.</translation>
+    </message>
+    <message>
+        <source>It is not the log that was seen here before.</source>
+        <translation>Não é o registro visto aqui antes.</translation>
+    </message>
+</context>
+<context>
     <name>MacGuard</name>
     <message>
         <source>A MAC address has twelve hexadecimal digits, such as 00:00:5E:12:34:AB.</source>

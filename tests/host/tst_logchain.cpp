@@ -23,7 +23,6 @@ QString kept(const QString& file, const QString& copy)
     return QFile::copy(file, copy) ? copy : QString();
 }
 
-/// The findings of one kind, as texts.
 QStringList texts(const LogReport& report)
 {
     QStringList result;
@@ -33,8 +32,6 @@ QStringList texts(const LogReport& report)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(ko::LogFinding::Kind)
 
 /// Whoever alters what was logged is found out.
 class tst_LogChain : public QObject

@@ -33,6 +33,7 @@ void prepareApplication()
     static QTemporaryDir home;
     qputenv("XDG_DATA_HOME", home.filePath(QLatin1String("data")).toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", home.filePath(QLatin1String("config")).toLocal8Bit());
+    qputenv("XDG_STATE_HOME", home.filePath(QLatin1String("state")).toLocal8Bit());
     qputenv("XDG_CACHE_HOME", home.filePath(QLatin1String("cache")).toLocal8Bit());
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent"); // the user's keychain is none of ours
     QApplication::setStyle(QLatin1String("fusion"));
