@@ -85,11 +85,12 @@ void LogNotice::retranslate()
 void LogNotice::showFindings()
 {
     QStringList lines;
-    for (const LogFinding& finding : m_findings.mid(0, MostListed))
-        lines.append(finding.text());
-    if (m_findings.size() > MostListed)
-        lines.append(tr("And %n more; koclient --verify-log names them.", nullptr,
-                        int(m_findings.size()) - MostListed));
+    const int listed = qMin(MostListed, int(m_findings.size()));
+    for (int i = 0; i < listed; ++i)
+        lines.append(m_findings.at(i).text());
+    if (m_findings.size() > listed)
+        lines.append(
+            tr("And %n more; koclient --verify-log names them.", nullptr, int(m_findings.size()) - listed));
     PlainMessageBox::ask(QMessageBox::Warning, window(), tr("The log was altered"),
                          tr("Somebody has altered the log of the node database with another program:") +
                              QStringLiteral("\n\n") + lines.join(QLatin1Char('\n')));

@@ -15,6 +15,7 @@ const int atOnceIn = 2500; // microseconds of one turn of the event loop
 OncePerFrame::OncePerFrame(QObject* parent)
     : QObject(parent)
 {
+    m_sinceWork.invalidate(); // which that of Qt 4.8 is not from the start
 }
 
 bool OncePerFrame::isNow(int microseconds)

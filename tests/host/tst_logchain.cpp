@@ -398,7 +398,6 @@ void tst_LogChain::rewrittenWithoutTheKey()
 
 void tst_LogChain::otherLog()
 {
-    const QString file = m_file;
     m_file = m_folder->filePath(QLatin1String("other.kodb"));
     write(30);
     QCOMPARE(texts(report()), QStringList());
