@@ -1,5 +1,6 @@
 #include "Workloads.h"
 #include "ko/Environments.h"
+#include "store/NodeStore.h"
 #include "store/StoreBackup.h"
 #include "support/Soak.h"
 #include "support/TestMain.h"
@@ -104,6 +105,7 @@ void TestDurability::confirmedStepsSurviveKills()
     int confirmed = 0;
     int unconfirmed = 0;
     int cut = 0;
+    LogEnd known;
     for (int life = 0; life < lives; ++life) {
         QProcess worker;
         start(worker, name, file);
@@ -120,6 +122,12 @@ void TestDurability::confirmedStepsSurviveKills()
         for (const QByteArray& line : lines)
             confirmed = qMax(confirmed, line.toInt());
         QVERIFY(isSound(file));
+        StoreError error;
+        const std::optional<LogReport> log = NodeStore::verifyLogs(
+            file, known, [](qint64) { return true; }, &error);
+        QVERIFY2(log, qPrintable(error.detail));
+        QVERIFY2(log->findings.isEmpty(), qPrintable(log->findings.value(0).text()));
+        known = log->end;
         const std::unique_ptr<HostNodeDB> db = openDatabase(file);
         QVERIFY(db);
         const Stored stored = workload->stored(*db);

@@ -1,4 +1,5 @@
 #include "HistoryModel.h"
+#include "support/Soak.h"
 #include "support/TestMain.h"
 
 #include "audit/AuditLog.h"
@@ -511,9 +512,9 @@ void TestHistory::randomChange(HostNodeDB& db, std::mt19937& random)
 void TestHistory::anyMomentComesBack()
 {
     std::mt19937 random(4711);
-    const std::unique_ptr<HostNodeDB> other = openDatabase(m_file);
+    std::unique_ptr<HostNodeDB> other = openDatabase(m_file);
     std::map<qint64, QString> states; // by the last change set
-    for (int i = 0; i < 100; ++i) {
+    for (int i = 0; i < soakOr(1000, 100); ++i) {
         states[m_last] = HistoryModel::of(m_file).text();
         HostNodeDB& db = i % 3 == 0 ? *other : *m_db;
         db.syncForeignChanges();
@@ -523,9 +524,12 @@ void TestHistory::anyMomentComesBack()
         QVERIFY(db.flush());
         newSets();
     }
-    for (int i = 0; i < 20; ++i) {
+    other.reset();
+    m_db.reset();
+    m_db = openDatabase(m_file); // a start later
+    for (int i = 0; i < soakOr(50, 20); ++i) {
         const auto state = std::next(states.begin(), int(random() % states.size()));
-        const PutBack shown = preview(m_db->changeSets(state->first, 1000));
+        const PutBack shown = preview(m_db->changeSets(state->first, 100000));
         for (const PutBackLine& line : shown.lines)
             QCOMPARE(line.state, PutBackLine::Possible);
         PuttingBack::apply(*m_db, shown, Cause::undoing({}));
