@@ -12,9 +12,9 @@ LogChain::LogChain(sqlite3* handle, const QString& file, const Sealer& sealer)
 /// The first one in the \a order.
 LogLink LogChain::link(const char* order) const
 {
-    const QByteArray sql =
-        QByteArray("SELECT") + LogLink::Columns + "FROM main.chain ORDER BY seq " + order + " LIMIT 1";
-    SqliteRows rows(m_handle, m_file, sql.constData());
+    const QByteArray sql = QByteArray("SELECT") + LogLink::Columns +
+                           "FROM main.chain WHERE seq < ?1 ORDER BY seq " + order + " LIMIT 1";
+    SqliteRows rows(m_handle, m_file, sql.constData(), {LogLink::MaxNumber});
     return rows.next() ? LogLink::from(rows) : LogLink();
 }
 
@@ -71,21 +71,30 @@ bool LogChain::addOne(char kind, const LogLink& before)
     return count == MostRows;
 }
 
+/// Not one that was given already, whatever others made of the numbers: what cannot be numbered could not be
+/// stored.
+qint64 LogChain::nextNumber() const
+{
+    SqliteRows rows(m_handle, m_file,
+                    "SELECT max(coalesce((SELECT max(seq) FROM main.chain WHERE seq < ?1), 0),"
+                    " coalesce((SELECT max(seq) FROM main.sqlite_sequence WHERE name = 'chain'"
+                    " AND typeof(seq) = 'integer' AND seq < ?1), 0)) + 1",
+                    {LogLink::MaxNumber});
+    rows.next();
+    return rows.number(0);
+}
+
 void LogChain::insert(LogLink link, const QByteArray& before, const QByteArray& rowHashes)
 {
-    {
-        SqliteRows next(m_handle, m_file,
-                        "SELECT coalesce(max(seq), 0) + 1 FROM main.sqlite_sequence WHERE name = 'chain'");
-        next.next();
-        link.number = next.number(0);
-    }
+    link.number = nextNumber();
     link.hash = link.beginHash(before).add(rowHashes).result();
     link.seal = m_sealer.sign(link.hash);
-    SqliteRows row(m_handle, m_file,
-                   "INSERT INTO main.chain (seq, set_end, change_end, audit_end, sets, changes, audits, kind,"
-                   " checks, hash, seal) VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, char(?8), ?9, ?10, ?11)",
-                   {link.number, link.ends[0], link.ends[1], link.ends[2], link.counts[0], link.counts[1],
-                    link.counts[2], link.kind});
+    SqliteRows row(
+        m_handle, m_file,
+        "INSERT OR REPLACE INTO main.chain (seq, set_end, change_end, audit_end, sets, changes, audits, kind,"
+        " checks, hash, seal) VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, char(?8), ?9, ?10, ?11)",
+        {link.number, link.ends[0], link.ends[1], link.ends[2], link.counts[0], link.counts[1],
+         link.counts[2], link.kind});
     row.bind(9, link.checks);
     row.bind(10, link.hash);
     row.bind(11, link.seal);

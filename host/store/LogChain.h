@@ -37,6 +37,7 @@ private:
     LogLink last() const { return link("DESC"); }
     void add(char kind);
     bool addOne(char kind, const LogLink& before);
+    qint64 nextNumber() const;
     void insert(LogLink link, const QByteArray& before, const QByteArray& rowHashes);
 
     sqlite3* const m_handle;

@@ -61,7 +61,8 @@ struct LogLink
         Foreign = 'F' ///< what somebody put in who makes no links
     };
 
-    static constexpr int CheckSize = 4; ///< bytes of a row's hash, by which it is named
+    static constexpr int CheckSize = 4;                  ///< bytes of a row's hash, by which it is named
+    static constexpr qint64 MaxNumber = qint64(1) << 53; ///< what has a larger one is none of ours
     static constexpr qint64 BeforeAll = std::numeric_limits<qint64>::min();
 
     qint64 number = 0; ///< 0: there is none

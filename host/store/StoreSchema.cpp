@@ -131,6 +131,9 @@ QString firstWords(const QString& object)
 
 QString difference(sqlite3* handle, int version, Extent extent, int* error)
 {
+    *error = SQLITE_OK;
+    if (version < 0 || version > latest()) // the file may say anything
+        return QString::fromLatin1("version %1").arg(version);
     QStringList found = objects(handle, error);
     if (*error != SQLITE_OK)
         return QString();

@@ -88,7 +88,10 @@ void SortOnceProxy::done()
 
 bool SortOnceProxy::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
-    if (left.row() >= m_cells.size() || m_cells.at(left.row()).row != quintptr(left.internalId()))
+    const auto isRead = [this](const QModelIndex& index) {
+        return index.row() < m_cells.size() && m_cells.at(index.row()).row == quintptr(index.internalId());
+    };
+    if (!isRead(left) || !isRead(right))
         return QSortFilterProxyModel::lessThan(left, right);
     const Cell& first = m_cells.at(left.row());
     const Cell& second = m_cells.at(right.row());

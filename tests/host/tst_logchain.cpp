@@ -6,6 +6,7 @@
 #include "secrets/Keyring.h"
 #include "store/NodeStore.h"
 #include "store/StoreBackup.h"
+#include "store/StoreSchema.h"
 
 #include <functional>
 #include <random>
@@ -56,6 +57,9 @@ private slots:
     void rewrittenWithoutTheKey();
     void otherLog();
     void isEndedAtOnce();
+    void versionThatIsNone();
+    void storingGoesOn_data();
+    void storingGoesOn();
 
 private:
     LogReport report(const LogEnd& known = LogEnd()) const;
@@ -418,6 +422,54 @@ void tst_LogChain::isEndedAtOnce()
     QCOMPARE(calls, 1);
     QVERIFY(!NodeStore::verifyLogs(m_folder->filePath(QLatin1String("none")), LogEnd(), goOn, &error));
     QVERIFY(error);
+}
+
+/// In the journal, where the header of the file does not show it.
+void tst_LogChain::versionThatIsNone()
+{
+    const std::unique_ptr<HostNodeDB> db = openDatabase(m_file);
+    for (const int version : {77, -1}) {
+        PlainSql(m_file).run(QString::fromLatin1("PRAGMA user_version = %1").arg(version));
+        StoreError error;
+        QVERIFY(!NodeStore::verifyLogs(
+            m_file, LogEnd(), [](qint64) { return true; }, &error));
+        QCOMPARE(int(error.kind), int(StoreError::OtherTables));
+        QVERIFY(!StoreBackup::verify(m_file, &error));
+        QCOMPARE(int(error.kind), int(StoreError::OtherTables));
+    }
+    PlainSql(m_file).run(QString::fromLatin1("PRAGMA user_version = %1").arg(StoreSchema::latest()));
+}
+
+void tst_LogChain::storingGoesOn_data()
+{
+    QTest::addColumn<QString>("sql");
+    for (const char* sql :
+         {"UPDATE sqlite_sequence SET seq = 0", "DELETE FROM sqlite_sequence",
+          "UPDATE sqlite_sequence SET seq = 'x'",
+          "UPDATE sqlite_sequence SET seq = 9223372036854775807 WHERE name = 'chain'",
+          "UPDATE chain SET seq = 9223372036854775807 WHERE seq = 5",
+          "UPDATE chain SET seq = 9007199254740991 WHERE seq = 5", "UPDATE chain SET seq = -seq",
+          "UPDATE chain SET hash = 'x', checks = '', seal = 5, kind = '', sets = -9, changes = 1e300",
+          "UPDATE chain SET set_end = 'x', change_end = 9223372036854775807, audit_end = x'00'"})
+        QTest::newRow(sql) << QString::fromLatin1(sql);
+}
+
+/// Whatever became of the chain, what is confirmed is stored.
+void tst_LogChain::storingGoesOn()
+{
+    QFETCH(QString, sql);
+    PlainSql(m_file).run(sql);
+    const auto nodes = [this] {
+        return PlainSql(m_file).run(QLatin1String("SELECT count(*) FROM nodes")).toInt();
+    };
+    const int before = nodes();
+    write(3);
+    QCOMPARE(nodes(), before + 2); // of three, one goes again
+    write(3);
+    QCOMPARE(nodes(), before + 4);
+    StoreError error;
+    QVERIFY(NodeStore::verifyLogs(
+        m_file, m_end, [](qint64) { return true; }, &error));
 }
 
 KO_TEST_MAIN(tst_LogChain)
