@@ -91,32 +91,73 @@ function(ko_translations name)
     set(KO_TRANSLATIONS ${source} PARENT_SCOPE)
 endfunction()
 
-# ko_library(NAME SOURCES... [LINK PUBLIC-LIBRARIES...] [PRIVATE PRIVATE-LIBRARIES...])
-# A room of the house: libko<name>, target KoNodeUI::<name>, its own folder as include root.
+# ko_public_headers(OUT HEADERS...): those that declare something exported, and what these include.
+function(ko_public_headers out)
+    set(public ${ARGN})
+    foreach(header ${ARGN})
+        file(STRINGS ${header} exports REGEX "KO_[A-Z]+_EXPORT")
+        if(NOT exports)
+            list(REMOVE_ITEM public ${header})
+        endif()
+    endforeach()
+    set(reached ${public})
+    while(reached)
+        list(POP_FRONT reached header)
+        file(STRINGS ${header} lines REGEX "^#include \"")
+        foreach(line ${lines})
+            string(REGEX REPLACE "^#include \"(.*)\"" "${CMAKE_CURRENT_SOURCE_DIR}/\\1" included ${line})
+            if(included IN_LIST ARGN AND NOT included IN_LIST public)
+                list(APPEND public ${included})
+                list(APPEND reached ${included})
+            endif()
+        endforeach()
+    endwhile()
+    set(${out} ${public} PARENT_SCOPE)
+endfunction()
+
+# ko_pkgconfig(NAME LIBRARIES...): ko<name>.pc, which finds its folders from its own.
+function(ko_pkgconfig name)
+    set(requires ${ARGN})
+    list(TRANSFORM requires REPLACE "^Qt[56]?::" "Qt${KO_QT}")
+    list(TRANSFORM requires REPLACE "^([a-z]+)$" "ko\\1")
+    list(JOIN requires " " requires)
+    file(RELATIVE_PATH up /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+    string(REGEX REPLACE "/$" "" up ${up})
+    configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/library.pc.in ko${name}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ko${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()
+
+# ko_library(NAME [CONTRACT] SOURCES... [LINK PUBLIC-LIBRARIES...] [PRIVATE PRIVATE-LIBRARIES...])
+# A room of the house: libko<name>, target KoNodeUI::<name>, its own folder as include root. What is exported is
+# installed, of the CONTRACT every header.
 function(ko_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRIVATE" ${ARGN})
+    cmake_parse_arguments(ARG "CONTRACT" "" "SOURCES;LINK;PRIVATE" ${ARGN})
     # Not AUTOUIC: Ninja does not know what it writes, so a changed form is compiled only by the second build.
     set(forms ${ARG_SOURCES})
     list(FILTER forms INCLUDE REGEX "\\.ui$")
     set(form_headers)
     qt_wrap_ui(form_headers ${forms})
+    set(headers ${ARG_SOURCES})
+    list(FILTER headers INCLUDE REGEX "\\.h$")
+    if(NOT ARG_CONTRACT)
+        ko_public_headers(headers ${headers})
+    endif()
     add_library(${name} SHARED ${ARG_SOURCES} ${form_headers})
     add_library(KoNodeUI::${name} ALIAS ${name})
     string(TOUPPER ${name} upper)
     set_target_properties(${name} PROPERTIES
         OUTPUT_NAME ko${name}
         VERSION ${PROJECT_VERSION}
-        SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
+        SOVERSION ${PROJECT_VERSION_MAJOR}
         AUTOGEN_BUILD_DIR ${CMAKE_CURRENT_BINARY_DIR}/moc # NAME_autogen may hold headers of forms from older builds
         INSTALL_RPATH "$ORIGIN")
     target_compile_definitions(${name} PRIVATE KO_BUILD_${upper})
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}) # of the forms
-    target_include_directories(${name} PUBLIC
-        $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
-        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/konodeui>)
+    target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
+    target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES ${headers})
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE} $<BUILD_INTERFACE:ko_flags>)
     ko_precompile(${name})
-    install(TARGETS ${name} EXPORT KoNodeUITargets)
-    install(DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/konodeui
-            FILES_MATCHING PATTERN "*.h" PATTERN "resources" EXCLUDE)
+    install(TARGETS ${name} EXPORT KoNodeUITargets
+            FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/konodeui)
+    ko_pkgconfig(${name} ${ARG_LINK})
 endfunction()
