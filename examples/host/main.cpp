@@ -1,10 +1,9 @@
-// A client with a node database of its own, in memory: one gate, opened in the library's edit dialog.
-// With --self-check it types a name, presses OK, and ends with 0 if the database has the name.
+// A program with a node database of its own, in memory: one dome camera is added and opened for editing.
+// With --self-check it types names, presses OK, and ends with 0 if the database has them.
 
-#include "GateDriver.h"
 #include "MemoryNodeDB.h"
+#include "dialogs/AddNodeDialog.h"
 #include "dialogs/EditNodeDialog.h"
-#include "ko/PropertyKeys.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -16,20 +15,13 @@
 
 namespace {
 
-QString addGate(ko::NodeDB* database)
+/// Types a name and presses OK as soon as the dialog is open.
+void answerWith(const QString& name, QDialog* dialog)
 {
-    const kom::smart<ko::NodeHint> hint =
-        database->nodeDriver(example::GateType)->createNodeHint(example::GateType);
-    hint->setName(QLatin1String("North gate"));
-    hint->setStringProperty(ko::PropertyKeys::InfoFile, QString());
-    database->newNodeHint(*hint);
-    return database->lookupHint(*hint);
-}
-
-void rename(QDialog* dialog, const QString& name)
-{
-    dialog->findChild<QLineEdit*>(QLatin1String("nameLineEdit"))->setText(name);
-    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    QTimer::singleShot(0, dialog, [dialog, name] {
+        dialog->findChild<QLineEdit*>("nameLineEdit")->setText(name);
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
 }
 
 } // namespace
@@ -37,17 +29,23 @@ void rename(QDialog* dialog, const QString& name)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    const bool check = application.arguments().contains(QLatin1String("--self-check"));
-    const QString newName = QLatin1String("South gate");
+    const bool check = application.arguments().contains("--self-check");
 
     example::MemoryNodeDB database;
-    const QString id = addGate(&database);
-    ko::EditNodeDialog dialog(id, nullptr, false, 0, nullptr);
+    ko::AddNodeDialog add(&database, nullptr, nullptr, true, 0);
     if (check)
-        QTimer::singleShot(0, &dialog, [&dialog, newName] { rename(&dialog, newName); });
-    dialog.exec();
+        answerWith("North dome", &add);
+    add.exec();
+    if (add.nodeId().isEmpty())
+        return 1;
 
-    const QString name = database.node(id)->name();
-    std::printf("The gate is called \"%s\".\n", qPrintable(name));
-    return check && name != newName ? 1 : 0;
+    const QString before = database.node(add.nodeId())->name();
+    ko::EditNodeDialog edit(add.nodeId(), nullptr, false, 0, nullptr);
+    if (check)
+        answerWith("South dome", &edit);
+    edit.exec();
+
+    const QString after = database.node(add.nodeId())->name();
+    std::printf("\"%s\" is now called \"%s\".\n", qPrintable(before), qPrintable(after));
+    return !check || (before == "North dome" && after == "South dome") ? 0 : 1;
 }
