@@ -111,6 +111,7 @@ Application::Application(int& argc, char** argv)
     QCoreApplication::setOrganizationName(QStringLiteral("Ko Node UI"));
     QCoreApplication::setApplicationName(QStringLiteral("koclient"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KO_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.konodeui.koclient"));
 }
 
 bool Application::parse()

@@ -1,0 +1,19 @@
+# Completion of koclient's options in bash.
+
+_koclient()
+{
+    local cur prev words cword
+    _init_completion || return
+    case $prev in
+    --db | --import | --export | --backup | --restore)
+        _filedir
+        return
+        ;;
+    --lang)
+        COMPREPLY=($(compgen -W "cs de en es fr it ja nl pl pt_BR ru" -- "$cur"))
+        return
+        ;;
+    esac
+    COMPREPLY=($(compgen -W "--db --lang --import --export --without-passwords --backup --restore
+        --verify-log --help --help-all --version" -- "$cur"))
+} && complete -F _koclient koclient
