@@ -76,10 +76,12 @@ void typeNames(Trial& trial)
 void chosenTypes(Trial& trial)
 {
     QList<ENodeType> wanted;
-    for (const auto& offered : trial.db().readableNodeTypeNames(nullptr, true))
+    const NodeDB::TypeNames all = trial.db().readableNodeTypeNames(nullptr, true);
+    for (const auto& offered : all)
         wanted.prepend(offered.first);
     QList<ENodeType> given;
-    for (const auto& named : trial.db().readableNodeTypeNames(&wanted, false))
+    const NodeDB::TypeNames chosen = trial.db().readableNodeTypeNames(&wanted, false);
+    for (const auto& named : chosen)
         given.append(named.first);
     trial.expect(given == wanted,
                  QLatin1String("the types are others than were asked for, or in another order"));

@@ -14,10 +14,12 @@ Trial::Trial(const Host& host)
 {
     if (!m_db)
         throw std::runtime_error("Host::open made no database");
-    QObject::connect(m_db.get(), &NodeDB::nodeInserted,
+    QObject::connect(m_db.get(), &NodeDB::nodeInserted, m_db.get(),
                      [this](const ko::NodeID& id) { hear("inserted", id); });
-    QObject::connect(m_db.get(), &NodeDB::nodeUpdated, [this](const ko::NodeID& id) { hear("updated", id); });
-    QObject::connect(m_db.get(), &NodeDB::nodeRemoved, [this](const ko::NodeID& id) { hear("removed", id); });
+    QObject::connect(m_db.get(), &NodeDB::nodeUpdated, m_db.get(),
+                     [this](const ko::NodeID& id) { hear("updated", id); });
+    QObject::connect(m_db.get(), &NodeDB::nodeRemoved, m_db.get(),
+                     [this](const ko::NodeID& id) { hear("removed", id); });
 }
 
 bool Trial::expect(bool kept, const QString& otherwise)
@@ -30,8 +32,7 @@ bool Trial::expect(bool kept, const QString& otherwise)
 kom::smart<NodeHint> Trial::hint(const QString& name)
 {
     const kom::smart<INodeDriverComponent> driver = m_db->nodeDriver(m_host.type);
-    const kom::smart<NodeHint> hint =
-        driver.null() ? kom::smart<NodeHint>() : driver->createNodeHint(m_host.type);
+    kom::smart<NodeHint> hint = driver.null() ? kom::smart<NodeHint>() : driver->createNodeHint(m_host.type);
     if (!expect(!hint.null(), QLatin1String("the driver of the type makes no hint")))
         return hint;
     hint->setName(name);

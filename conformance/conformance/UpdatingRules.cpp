@@ -158,7 +158,8 @@ void readOnlyEditor(Trial& trial)
     const std::unique_ptr<InspectorWidget> editor(node->createInspectorWidget(true, 0));
     if (!trial.expect(editor != nullptr, QLatin1String("the node has no read-only editor")))
         return;
-    for (const QLineEdit* field : editor->findChildren<QLineEdit*>()) {
+    const QList<QLineEdit*> fields = editor->findChildren<QLineEdit*>();
+    for (const QLineEdit* field : fields) {
         // The library's page of pan/tilt heads leaves its field of numbers open.
         const bool isNumber = qobject_cast<const QAbstractSpinBox*>(field->parent());
         trial.expect(isNumber || field->isReadOnly() || !field->isEnabled(),

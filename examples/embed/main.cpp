@@ -40,9 +40,9 @@ public:
         connect(m_list, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
             ko::EditNodeDialog(item->data(Qt::UserRole).toString(), this, false, 0, nullptr).exec();
         });
-        for (const auto signal :
-             {&ko::NodeDB::nodeInserted, &ko::NodeDB::nodeUpdated, &ko::NodeDB::nodeRemoved})
-            connect(database, signal, this, &Window::fill);
+        connect(database, &ko::NodeDB::nodeInserted, this, &Window::fill);
+        connect(database, &ko::NodeDB::nodeUpdated, this, &Window::fill);
+        connect(database, &ko::NodeDB::nodeRemoved, this, &Window::fill);
         fill();
     }
 
@@ -60,7 +60,8 @@ private:
     void fill()
     {
         m_list->clear();
-        for (const QString& id : m_database->nodeIdList(ko::IPDeviceType)) {
+        const QStringList ids = m_database->nodeIdList(ko::IPDeviceType);
+        for (const QString& id : ids) {
             auto* item = new QListWidgetItem(m_database->node(id)->name(), m_list);
             item->setData(Qt::UserRole, id);
         }
@@ -72,7 +73,7 @@ private:
 
 int selfCheck(Window* window)
 {
-    QTimer::singleShot(0, [] {
+    QTimer::singleShot(0, window, [] {
         QWidget* dialog = QApplication::activeModalWidget();
         dialog->findChild<QLineEdit*>("nameLineEdit")->setText("North gate");
         dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();

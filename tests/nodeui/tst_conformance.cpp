@@ -84,7 +84,7 @@ public:
             node->setStringProperty(QLatin1String("KitText"), QString());
         if (breaks("updating.announced"))
             silently([&] {
-                emitUnblocked(&NodeDB::nodeUpdated, id);
+                aloud([&] { emit nodeUpdated(id); });
                 SmallNodeDB::endUpdateNode(node);
             });
         else
@@ -105,13 +105,13 @@ public:
         if (breaks("adding.ids"))
             silently([&] {
                 SmallNodeDB::newNodeHint(hint);
-                emitUnblocked(&NodeDB::nodeInserted, QLatin1String("new1"));
+                aloud([&] { emit nodeInserted(QLatin1String("new1")); });
             });
         else
             SmallNodeDB::newNodeHint(hint);
         m_inserting = false;
         if (breaks("adding.announced"))
-            emit nodeInserted(nodeIdList(AllNodeTypes).last());
+            emit nodeInserted(nodeIdList(AllNodeTypes).constLast());
     }
 
     QString lookupHint(const NodeHint& hint) const override
@@ -124,7 +124,7 @@ public:
         const bool wasThere = !node(id).null();
         if (breaks("removing.announced"))
             silently([&] {
-                emitUnblocked(&NodeDB::nodeRemoved, id);
+                aloud([&] { emit nodeRemoved(id); });
                 SmallNodeDB::removeNode(id);
             });
         else
@@ -132,7 +132,7 @@ public:
         if (!wasThere && (breaks("reading.unknown") || breaks("removing.again")))
             emit nodeRemoved(id);
         if (breaks("removing.relations")) {
-            for (const auto& ends : m_ends)
+            for (const auto& ends : std::as_const(m_ends))
                 SmallNodeDB::addNodeRelation(ends.first, ends.second, RecordingFolderRelation);
         }
     }
@@ -223,10 +223,11 @@ private:
         blockSignals(false);
     }
 
-    void emitUnblocked(void (NodeDB::*announced)(NodeID), const QString& id)
+    template <class Work>
+    void aloud(const Work& work)
     {
         blockSignals(false);
-        (this->*announced)(id);
+        work();
         blockSignals(true);
     }
 
@@ -324,7 +325,8 @@ void tst_Conformance::allAreDocumented()
             documented.append(line.section(QLatin1Char('`'), 1, 1));
     }
     QStringList rules;
-    for (const conformance::Rule& rule : conformance::rules())
+    const QVector<conformance::Rule> all = conformance::rules();
+    for (const conformance::Rule& rule : all)
         rules.append(QLatin1String(rule.name));
     documented.sort();
     rules.sort();
