@@ -36,6 +36,6 @@ ko_in_root()
         mount --rbind /dev "$1/dev"
         mount -t sysfs sysfs "$1/sys"
         exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root TERM=dumb ${http_proxy:+"http_proxy=$http_proxy"} \
-            ${https_proxy:+"https_proxy=$https_proxy"} chroot "$1" bash -euc "cd /src && $2" </dev/null
+            ${https_proxy:+"https_proxy=$https_proxy"} chroot "$1" bash -euc "cd /src; $2" </dev/null
     ' - "$ko_place/root" "$1"
 }
