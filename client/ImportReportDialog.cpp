@@ -7,17 +7,27 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace ko {
 
 namespace {
 
+QStringList linesOf(const QVector<CameraSurvey::BadLine>& lines)
+{
+    QStringList texts;
+    for (const CameraSurvey::BadLine& line : lines)
+        texts.append(ImportReportDialog::tr("Line %1: %2").arg(QString::number(line.line), line.reason));
+    return texts;
+}
+
 QString details(const CameraSurvey::ImportResult& result)
 {
-    QStringList lines;
-    for (const CameraSurvey::BadLine& line : result.badLines)
-        lines.append(ImportReportDialog::tr("Line %1: %2").arg(QString::number(line.line), line.reason));
+    QStringList lines = linesOf(result.badLines);
+    if (!result.doubtfulLines.isEmpty() && !lines.isEmpty())
+        lines.append(QString());
+    lines += linesOf(result.doubtfulLines);
     if (!result.ignoredColumns.isEmpty())
         lines.append(ImportReportDialog::tr("Columns that are not used: %1")
                          .arg(OutsideText::visible(result.ignoredColumns.join(
@@ -39,16 +49,33 @@ QString summary(const CameraSurvey::ImportResult& result)
     return lines.join(QLatin1String("\n\n"));
 }
 
+QString forecast(const CameraSurvey::ImportResult& result)
+{
+    const QLocale locale;
+    QStringList lines(ImportReportDialog::tr(
+                          "Importing this list would add %1 devices, change %2 and leave %3 as they are.")
+                          .arg(locale.toString(result.added), locale.toString(result.updated),
+                               locale.toString(result.unchanged)));
+    if (!result.badLines.isEmpty())
+        lines.append(ImportReportDialog::tr("%n line(s) with errors would be left out.", nullptr,
+                                            int(result.badLines.size())));
+    if (!result.doubtfulLines.isEmpty())
+        lines.append(ImportReportDialog::tr("%n line(s) may be meant otherwise.", nullptr,
+                                            int(result.doubtfulLines.size())));
+    return lines.join(QLatin1String("\n\n"));
+}
+
 } // namespace
 
-ImportReportDialog::ImportReportDialog(const CameraSurvey::ImportResult& result, QWidget* parent)
+ImportReportDialog::ImportReportDialog(const CameraSurvey::ImportResult& result, QWidget* parent,
+                                       Moment moment)
     : QDialog(parent, dialogFlags(true))
 {
-    setObjectName(QStringLiteral("ImportReportDialog"));
+    setObjectName(QLatin1String(moment == Before ? "ImportForecastDialog" : "ImportReportDialog"));
     setWindowTitle(tr("Import Cameras"));
     QVBoxLayout* layout = new QVBoxLayout(this);
 
-    QLabel* summaryLabel = new QLabel(summary(result), this);
+    QLabel* summaryLabel = new QLabel(moment == Before ? forecast(result) : summary(result), this);
     summaryLabel->setObjectName(QStringLiteral("summaryLabel"));
     summaryLabel->setTextFormat(Qt::PlainText);
     summaryLabel->setWordWrap(true);
@@ -66,9 +93,23 @@ ImportReportDialog::ImportReportDialog(const CameraSurvey::ImportResult& result,
         layout->addStretch();
     }
 
-    QDialogButtonBox* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    layout->addWidget(createButtons(moment));
+}
+
+/// Enter changes nothing: what is asked about may overwrite something.
+QDialogButtonBox* ImportReportDialog::createButtons(Moment moment)
+{
+    auto* buttons =
+        new QDialogButtonBox(moment == Before ? QDialogButtonBox::Cancel : QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    layout->addWidget(buttons);
+    if (moment == Before) {
+        QPushButton* import = buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
+        import->setObjectName(QStringLiteral("importButton"));
+        import->setAutoDefault(false);
+        connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+        buttons->button(QDialogButtonBox::Cancel)->setDefault(true);
+    }
+    return buttons;
 }
 
 } // namespace ko

@@ -54,6 +54,11 @@ void SurveyCommands::importCameras()
     if (file.isEmpty())
         return;
     CameraSurvey::ImportResult result;
+    const auto check = [&](const CameraSurvey::Progress& progress) {
+        result = CameraSurvey::check(file, progress);
+    };
+    if (!run(tr("Reading the list..."), check) || !agreesToImport(result))
+        return;
     const auto work = [&](const CameraSurvey::Progress& progress) {
         result = CameraSurvey::importCameras(file, progress);
     };
@@ -61,6 +66,18 @@ void SurveyCommands::importCameras()
         return;
     ImportReportDialog report(result, m_window);
     report.exec();
+}
+
+/// Asks only when something is to be asked: a list without errors is what the user chose. What cannot be
+/// imported at all is said by the import.
+bool SurveyCommands::agreesToImport(const CameraSurvey::ImportResult& foreseen)
+{
+    if (foreseen.cancelled)
+        return false;
+    if (!foreseen.error.isEmpty() || (foreseen.badLines.isEmpty() && foreseen.doubtfulLines.isEmpty()))
+        return true;
+    ImportReportDialog dialog(foreseen, m_window, ImportReportDialog::Before);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 void SurveyCommands::exportCameras(const QStringList& only, const CameraSurvey::MoreColumns& more)

@@ -34,6 +34,7 @@ public:
     bool closeWindowAfterwards();
 
 private:
+    bool agreesToImport(const CameraSurvey::ImportResult& foreseen);
     bool run(const QString& text, const std::function<void(const CameraSurvey::Progress&)>& work);
 
     QMainWindow* const m_window;

@@ -99,9 +99,9 @@ bool writeDevices(QIODevice* file, const QStringList& ids, Passwords passwords, 
 
 } // namespace
 
-ImportResult check(const QString& fileName)
+ImportResult check(const QString& fileName, const Progress& progress)
 {
-    return SurveyImport(fileName, Progress()).check();
+    return SurveyImport(fileName, progress).check();
 }
 
 ImportResult importCameras(const QString& fileName, const Progress& progress)

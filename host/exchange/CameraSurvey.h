@@ -33,7 +33,8 @@ struct ImportResult
     int added = 0; ///< and stored, as those that were updated
     int updated = 0;
     int unchanged = 0;
-    QVector<BadLine> badLines; ///< these lines changed nothing; without an error all others were taken
+    QVector<BadLine> badLines;      ///< these lines changed nothing; without an error all others were taken
+    QVector<BadLine> doubtfulLines; ///< of check() alone: taken, but the user should know
     QStringList ignoredColumns;
     bool cancelled = false;
 
@@ -63,9 +64,10 @@ struct MoreColumns
     std::function<QStringList(const QString& id)> cells; ///< one for each title
 };
 
-/// Reads the list as importCameras() does before its first change, without a database: what it refuses as a
-/// whole is in the result.
-KO_HOST_EXPORT ImportResult check(const QString& fileName);
+/// Reads the list as importCameras() does before its first change: what it refuses as a whole is in the
+/// result, and, if there is a database, which lines are bad or doubtful, and how many devices would be added,
+/// updated and left as they are.
+KO_HOST_EXPORT ImportResult check(const QString& fileName, const Progress& progress = Progress());
 
 /// Adds and changes devices as the file says. All changes of a line are stored together. When storing fails
 /// the import stops, and what could not be stored is taken back. Changes go into the audit log: "NRen" and

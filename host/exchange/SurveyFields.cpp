@@ -1,5 +1,6 @@
 #include "exchange/SurveyFields.h"
 
+#include "drivers/AddressText.h"
 #include "drivers/NodeTypes.h"
 #include "exchange/SurveyText.h"
 #include "interfaces/ISupportsChannels.h"
@@ -61,9 +62,19 @@ QString name(const QString& cell, QString* reason)
     return lines.trimmed().isEmpty() ? QString() : lines;
 }
 
+/// What is more than a host has columns of its own: here it would be taken for a part of the name.
 QString address(const QString& cell, QString* reason)
 {
-    return OutsideText::fit(lineOfText(cell.trimmed(), reason)).trimmed();
+    const QString text = OutsideText::fit(lineOfText(cell.trimmed(), reason)).trimmed();
+    const AddressText address = AddressText::parse(text);
+    if (!reason->isEmpty())
+        return text;
+    if (!address.problem.isEmpty())
+        *reason = SurveyText::tr("it is no host name and no IP address");
+    else if (address.port >= 0 ||
+             (text != address.host && text != QLatin1Char('[') + address.host + QLatin1Char(']')))
+        *reason = SurveyText::tr("it holds more than a host; port, SSL and user have columns of their own");
+    return address.host;
 }
 
 QString number(const QString& cell, int from, int to, const char* rule, QString* reason)

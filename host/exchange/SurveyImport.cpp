@@ -5,11 +5,10 @@
 #include "exchange/FileName.h"
 #include "exchange/ImportLogEntry.h"
 #include "exchange/RecordingPath.h"
+#include "exchange/SurveyTarget.h"
 #include "exchange/SurveyText.h"
 #include "inspector/NodeChangeLogEntry.h"
 #include "inspector/NodeRenameLogEntry.h"
-#include "interfaces/INodeDriverComponent.h"
-#include "interfaces/ISupportsChannels.h"
 #include "ko/ActionLog.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
@@ -28,27 +27,6 @@
 namespace ko {
 
 namespace {
-
-ENodeType typeOf(const SurveyRow& row)
-{
-    if (row.has(SurveyColumn::Type))
-        return ENodeType(row.value(SurveyColumn::Type).toInt());
-    return row.has(SurveyColumn::Channel) ? ChannelDeviceType : IPDeviceType;
-}
-
-/// A hint filled from the row, or null if there is no driver for such a device.
-kom::smart<NodeHintIPDevice> describe(const SurveyRow& row)
-{
-    const auto driver = NodeDB::getDB()->nodeDriver(typeOf(row));
-    if (driver.null())
-        return kom::smart<NodeHintIPDevice>();
-    auto hint = driver->createNodeHint(typeOf(row)).cast<NodeHintIPDevice>();
-    if (!hint.null())
-        row.describe(*hint);
-    if (!hint.null() && hint->useSSL && !row.has(SurveyColumn::Port))
-        hint->port = HttpsPort;
-    return hint;
-}
 
 /// Creates the node of a hint and answers its id, an empty one on failure.
 QString create(NodeHint& hint)
@@ -138,7 +116,7 @@ SurveyImport::SurveyImport(const QString& fileName, const CameraSurvey::Progress
 
 CameraSurvey::ImportResult SurveyImport::check()
 {
-    isSound();
+    isSound(NodeDB::getDB() ? Pass::Foresee : Pass::Check);
     return m_result;
 }
 
@@ -146,7 +124,7 @@ CameraSurvey::ImportResult SurveyImport::run()
 {
     if (!NodeDB::getDB()) {
         m_result.error = SurveyText::tr("There is no database.");
-    } else if (isSound()) {
+    } else if (isSound(Pass::Check)) {
         followOthers();
         readFile(Pass::Apply);
     }
@@ -156,9 +134,9 @@ CameraSurvey::ImportResult SurveyImport::run()
     return m_result; // an entry of the log that waits is stored with the next changes
 }
 
-bool SurveyImport::isSound()
+bool SurveyImport::isSound(Pass pass)
 {
-    return open() && readFile(Pass::Check) && canStorePasswords();
+    return open() && readFile(pass) && canStorePasswords();
 }
 
 /// Other programs and other windows add devices between two parts of the list.
@@ -259,10 +237,11 @@ bool SurveyImport::readFile(Pass pass)
         return false;
 
     const qint64 doneBefore = pass == Pass::Apply ? m_file.size() : 0;
+    const qint64 total = (pass == Pass::Foresee ? 1 : 2) * m_file.size();
     bool more = true;
     const auto read = [&] { more = readSome(reader, header, pass); };
-    while (more && m_progress.ask(doneBefore + reader.bytesRead(), 2 * m_file.size())) {
-        if (pass == Pass::Check)
+    while (more && m_progress.ask(doneBefore + reader.bytesRead(), total)) {
+        if (pass != Pass::Apply)
             read();
         else if (!store(read))
             return false;
@@ -282,12 +261,8 @@ bool SurveyImport::readSome(CsvReader& reader, const SurveyHeader& header, Pass 
         }
         QString reason = reader.recordError();
         const SurveyRow row = reason.isEmpty() ? SurveyRow::read(header, cells, &reason) : SurveyRow();
-        if (reason.isEmpty() && pass == Pass::Check && row.has(SurveyColumn::Password))
-            m_passwords.add(QString::number(reader.line()));
-        if (reason.isEmpty() && !row.isEmpty() && pass == Pass::Apply) {
-            const QScopedValueRollback<bool> importing(m_isImporting, true);
-            import(row, &reason);
-        }
+        if (reason.isEmpty() && !row.isEmpty())
+            take(reader.line(), row, pass, &reason);
         if (!reason.isEmpty())
             m_result.badLines.append({reader.line(), reason});
         if (m_result.badLines.size() >= CameraSurvey::MaximumBadLines) {
@@ -297,6 +272,16 @@ bool SurveyImport::readSome(CsvReader& reader, const SurveyHeader& header, Pass 
         }
     } while (!m_progress.isDue());
     return true;
+}
+
+void SurveyImport::take(qint64 line, const SurveyRow& row, Pass pass, QString* reason)
+{
+    if (pass != Pass::Apply && row.has(SurveyColumn::Password))
+        m_passwords.add(QString::number(line));
+    if (pass == Pass::Check)
+        return;
+    const QScopedValueRollback<bool> importing(m_isImporting, true);
+    import(line, row, pass, reason);
 }
 
 /// Before the first change: a device that was added without its password would be there the next time.
@@ -326,9 +311,10 @@ bool SurveyImport::readHeader(CsvReader& reader, SurveyHeader* header)
     return m_result.error.isEmpty();
 }
 
-void SurveyImport::import(const SurveyRow& row, QString* reason)
+/// Or counts what would be done.
+void SurveyImport::import(qint64 line, const SurveyRow& row, Pass pass, QString* reason)
 {
-    const kom::smart<NodeHintIPDevice> hint = describe(row);
+    const kom::smart<NodeHintIPDevice> hint = SurveyTarget::describe(row);
     if (hint.null()) {
         *reason = SurveyText::tr("devices of this type cannot be added here");
         return;
@@ -338,9 +324,13 @@ void SurveyImport::import(const SurveyRow& row, QString* reason)
         return;
     }
     const QString id = m_finder.find(row, *hint, reason);
+    if (reason->isEmpty() && !id.isEmpty())
+        *reason = SurveyTarget::refusal(id, row);
     if (!reason->isEmpty())
         return;
-    if (id.isEmpty())
+    if (pass == Pass::Foresee)
+        m_forecast.take(line, row, *hint, id, &m_result);
+    else if (id.isEmpty())
         add(row, *hint, reason);
     else
         update(id, row, reason);
@@ -362,14 +352,6 @@ void SurveyImport::add(const SurveyRow& row, NodeHint& hint, QString* reason)
 void SurveyImport::update(const QString& id, const SurveyRow& row, QString* reason)
 {
     const auto node = deviceNode(id);
-    if (node.null()) {
-        *reason = SurveyText::tr("what is at this address is no device");
-        return;
-    }
-    if (row.has(SurveyColumn::Channel) && !dynamic_cast<const ISupportsChannels*>(node.get())) {
-        *reason = SurveyText::tr("the device at this address has no channels");
-        return;
-    }
     const QString path = row.value(SurveyColumn::RecordingPath);
     const bool otherPath = !path.isEmpty() && path != RecordingPath::of(id);
     if (!otherPath && !row.differs(*node)) {

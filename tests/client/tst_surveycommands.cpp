@@ -1,3 +1,4 @@
+#include "support/Answers.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
@@ -9,7 +10,9 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QWindow>
 
@@ -28,6 +31,9 @@ private slots:
 
     void importBlocksTheWindowAtOnce();
     void cancelledImportIsReported();
+    void cancelledBeforeTheImport();
+    void asksAboutBadLines();
+    void doubtsAreNoEntersMatter();
     void closedDuringImport();
     void closedDuringExport();
     void selectionIsExported();
@@ -35,6 +41,9 @@ private slots:
 
 private:
     static constexpr int Lines = 3000;
+
+    void write(const QByteArray& list) const;
+    std::function<void(QDialog*)> chooseFile() const;
 
     QString during(const char* action, const QString& file,
                    const std::function<void(QProgressDialog*)>& look);
@@ -48,13 +57,12 @@ private:
 
 void tst_SurveyCommands::init()
 {
-    QFile list(m_list = m_folder.filePath(QStringLiteral("in.csv")));
-    QVERIFY(list.open(QIODevice::WriteOnly));
-    list.write("name,address\n");
+    m_list = m_folder.filePath(QStringLiteral("in.csv"));
+    QByteArray lines = "name,address\n";
     for (int i = 0; i < Lines; ++i)
-        list.write(QByteArray("Camera ") + QByteArray::number(i) + ",10.0." + QByteArray::number(i / 250) +
-                   '.' + QByteArray::number(i % 250 + 1) + '\n');
-    list.close();
+        lines += QByteArray("Camera ") + QByteArray::number(i) + ",10.0." + QByteArray::number(i / 250) +
+                 '.' + QByteArray::number(i % 250 + 1) + '\n';
+    write(lines);
     m_host = std::make_unique<testsupport::HostFixture>();
     m_window = std::make_unique<MainWindow>(*m_host->db());
     m_window->show();
@@ -65,6 +73,21 @@ void tst_SurveyCommands::cleanup()
 {
     m_window.reset();
     m_host.reset();
+}
+
+void tst_SurveyCommands::write(const QByteArray& list) const
+{
+    QFile file(m_list);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(list), qint64(list.size()));
+}
+
+std::function<void(QDialog*)> tst_SurveyCommands::chooseFile() const
+{
+    return [this](QDialog* dialog) {
+        child<QLineEdit>(dialog, "fileNameEdit")->setText(m_list);
+        dialog->accept();
+    };
 }
 
 /// Triggers the action, chooses the file, and calls \a look in the first turn of the event loop after that.
@@ -115,11 +138,52 @@ void tst_SurveyCommands::importBlocksTheWindowAtOnce()
 
 void tst_SurveyCommands::cancelledImportIsReported()
 {
-    const QString shown =
-        during("actionImport", m_list, [](QProgressDialog* progress) { progress->cancel(); });
-    QCOMPARE(shown, QStringLiteral("ImportReportDialog"));
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [&] {
+        auto* progress = m_window->findChild<QProgressDialog*>(QStringLiteral("surveyProgress"));
+        if (progress && cameras() > 0)
+            progress->cancel();
+    });
+    watch.start(0);
+    QCOMPARE(during("actionImport", m_list, [](QProgressDialog*) {}), QStringLiteral("ImportReportDialog"));
     QVERIFY(cameras() < Lines);
     QVERIFY(m_window->isVisible());
+}
+
+void tst_SurveyCommands::cancelledBeforeTheImport()
+{
+    QCOMPARE(during("actionImport", m_list, [](QProgressDialog* progress) { progress->cancel(); }),
+             QString());
+    QCOMPARE(cameras(), 0);
+}
+
+void tst_SurveyCommands::asksAboutBadLines()
+{
+    write("name,address\nGate,10.0.0.1\nYard,http://10.0.0.2/\n,10.0.0.3\n");
+    QString text;
+    const testsupport::Answers answers(
+        {chooseFile(),
+         [&](QDialog* dialog) {
+             text = child<QPlainTextEdit>(dialog, "detailsTextEdit")->toPlainText();
+             child<QPushButton>(dialog, "importButton")->click();
+         },
+         [](QDialog* report) { report->reject(); }});
+    child<QAction>(m_window.get(), "actionImport")->trigger();
+    QCOMPARE(answers.opened().mid(1), QStringList({"ImportForecastDialog", "ImportReportDialog"}));
+    QCOMPARE(text, QString("Line 3: bad address: it holds more than a host; port, SSL and user have columns "
+                           "of their own\n\nLine 4: the new device would have no name"));
+    QCOMPARE(cameras(), 2);
+}
+
+/// Two lines about one device: the second would overwrite what the first says.
+void tst_SurveyCommands::doubtsAreNoEntersMatter()
+{
+    write("name,address\nGate,10.0.0.1\nYard,10.0.0.1\n");
+    const testsupport::Answers answers(
+        {chooseFile(), [](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Return); }});
+    child<QAction>(m_window.get(), "actionImport")->trigger();
+    QCOMPARE(answers.opened().mid(1), QStringList({"ImportForecastDialog"}));
+    QCOMPARE(cameras(), 0);
 }
 
 /// A window is closed without its user at the end of a session.

@@ -167,6 +167,8 @@ private slots:
     void badLinesAreNamed_data();
     void badLinesAreNamed();
     void nothingOfACellIsRepeated();
+    void forecast();
+    void forecastOfDoubts();
     void goodLinesAroundBadOnesAreTaken();
     void quotesAndLineBreaksInCells();
     void linesOfDelimitersAreNothing();
@@ -446,6 +448,17 @@ void tst_CameraSurvey::badLinesAreNamed_data()
         << QByteArray("x,10.0.0.9,,,,,,M\xc2\x9b,,") << "bad model: it holds control characters";
     QTest::newRow("line break in an address")
         << QByteArray("x,\"10.0.\n0.9\",,,,,,,,") << "bad address: it holds a line break";
+    const QString host = "bad address: it is no host name and no IP address";
+    const QString more =
+        "bad address: it holds more than a host; port, SSL and user have columns of their own";
+    QTest::newRow("blank in an address") << QByteArray("x,10.0.0. 9,,,,,,,,") << host;
+    QTest::newRow("five numbers") << QByteArray("x,10.0.0.0.9,,,,,,,,") << host;
+    QTest::newRow("number too large") << QByteArray("x,10.0.0.256,,,,,,,,") << host;
+    QTest::newRow("sign in a host") << QByteArray("x,gate!,,,,,,,,") << host;
+    QTest::newRow("URL") << QByteArray("x,http://10.0.0.9/,,,,,,,,") << more;
+    QTest::newRow("URL with a user") << QByteArray("x,rtsp://root:pw@10.0.0.9/live,,,,,,,,") << more;
+    QTest::newRow("address with a port") << QByteArray("x,10.0.0.9:8080,,,,,,,,") << more;
+    QTest::newRow("IPv6 address with a port") << QByteArray("x,[fe80::1]:8080,,,,,,,,") << more;
     QTest::newRow("line break in a password")
         << QByteArray("x,10.0.0.9,,,,\"a\nb\",,,,") << "bad password: it holds a line break";
     QTest::newRow("long name") << QByteArray(1025, 'n') + ",10.0.0.9,,,,,,,,"
@@ -1057,6 +1070,38 @@ void tst_CameraSurvey::exampleSurvey()
     host.reopen();
     QCOMPARE(host.db()->nodeIdList(IPDeviceType).size(), 32);
     QCOMPARE(counts(importCameras(survey)), QString("0 added, 0 updated, 40 unchanged, 0 bad"));
+}
+
+/// Says line by line what the import then does, and does nothing.
+void tst_CameraSurvey::forecast()
+{
+    import("name,address,channel\nGate,10.0.0.1,\nYard,10.0.0.2,\nRecorder,10.0.0.3,1\n");
+    db->calls.clear();
+    const QByteArray list = "name,address,channel,recording path\nGate,10.0.0.1,,\nYard 2,10.0.0.2,,\n"
+                            "Hall,10.0.0.4,,\nGate,10.0.0.1,2,\nBad,10.0.0.400,,\nOther,10.0.0.1,,//srv/a\n";
+    const ImportResult foreseen = check(write(list));
+    QCOMPARE(db->changes(), QStringList());
+    QCOMPARE(counts(foreseen), QString("2 added, 2 updated, 1 unchanged, 1 bad"));
+    const ImportResult done = import(list);
+    QCOMPARE(counts(done), counts(foreseen));
+    QCOMPARE(badLines(done), badLines(foreseen));
+}
+
+void tst_CameraSurvey::forecastOfDoubts()
+{
+    import("name,address\nGate,10.0.0.1\n");
+    const QString list = write("name,address,port\n,10.0.0.1,\n,10.0.0.2,\nA,10.0.0.3,8080\nB,10.0.0.3,8081\n"
+                               "C,10.0.0.3,8080\nLone,,\nLone,,\n");
+    const ImportResult foreseen = check(list);
+    QCOMPARE(counts(foreseen), QString("4 added, 2 updated, 1 unchanged, 0 bad"));
+    QStringList doubts;
+    for (const BadLine& line : foreseen.doubtfulLines)
+        doubts.append(QString("%1: %2").arg(line.line).arg(line.reason));
+    QCOMPARE(doubts.join("\n"), QString("3: the new device would have no name\n"
+                                        "6: it is about the same device as line 4, and would change what "
+                                        "that says\n"
+                                        "8: it is about the same device as line 7, and would change what "
+                                        "that says"));
 }
 
 /// Devices with everything that a database may hold, also what no survey would.
