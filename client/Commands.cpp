@@ -7,6 +7,7 @@
 #include "MnemonicText.h"
 #include "NodeCommands.h"
 #include "NodeListView.h"
+#include "NodeRemoval.h"
 #include "UndoCommands.h"
 #include "WindowCommands.h"
 
@@ -94,7 +95,7 @@ const Commands::Command Commands::all[] = {
      InList | InBar, &NodeCommands::edit},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionRemove", QT_TRANSLATE_NOOP("MainWindow", "&Remove..."),
      QT_TRANSLATE_NOOP("MainWindow", "Removes the selected nodes"), "Del", "list-remove", SomeNodes,
-     InList | InBar, &NodeCommands::remove},
+     InList | InBar, &NodeRemoval::run},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionProperties",
      QT_TRANSLATE_NOOP("MainWindow", "&Properties"),
      QT_TRANSLATE_NOOP("MainWindow", "Shows the selected node without changing it"), "Alt+Return",

@@ -15,6 +15,7 @@
 #include "StoreNotice.h"
 #include "SurveyCommands.h"
 #include "UndoCommands.h"
+#include "UndoNotice.h"
 #include "WheelGuard.h"
 #include "WindowSize.h"
 #include "database/HostNodeDB.h"
@@ -81,6 +82,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_environment(new EnvironmentNotice(db, statusBar()))
     , m_store(new StoreNotice(db, this))
     , m_undoing(new UndoCommands(*this, m_commands->action("actionUndo"), m_commands->action("actionRedo")))
+    , m_undoNotice(new UndoNotice(m_commands->action("actionUndo"), statusBar()))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
@@ -262,9 +264,10 @@ void MainWindow::updateStatus()
 {
     const int selected = m_view->selectedCount();
     const QLocale locale;
-    m_counts->setText(tr("%1 nodes, %2 shown, %3 selected")
-                          .arg(locale.toString(m_model->nodeCount()), locale.toString(m_model->rowCount()),
-                               locale.toString(selected)));
+    m_counts->setText(tr("%1 devices, %2 other nodes; %3 shown, %4 selected")
+                          .arg(locale.toString(m_model->deviceCount()),
+                               locale.toString(m_model->nodeCount() - m_model->deviceCount()),
+                               locale.toString(m_model->rowCount()), locale.toString(selected)));
     m_empty->setCounts(m_model->nodeCount(), m_model->rowCount());
 }
 
@@ -279,6 +282,11 @@ void MainWindow::find(const QString& search)
 void MainWindow::say(const QString& text)
 {
     statusBar()->showMessage(text, 10000);
+}
+
+void MainWindow::sayDone(const QString& text)
+{
+    m_undoNotice->offer(text);
 }
 
 void MainWindow::exec(QDialog& dialog)

@@ -27,6 +27,7 @@ class PropertyColumns;
 class StoreNotice;
 class SurveyCommands;
 class UndoCommands;
+class UndoNotice;
 
 /// The client's window: the list of all nodes and what can be done with them.
 class MainWindow : public QMainWindow
@@ -49,6 +50,9 @@ public:
 
     /// Shows a text in the status bar for a while.
     void say(const QString& text);
+
+    /// Says what was done with the database, with a button beside it that undoes it.
+    void sayDone(const QString& text);
 
     /// Runs a dialog in which the environment can be switched.
     void exec(QDialog& dialog);
@@ -95,6 +99,7 @@ private:
     EnvironmentNotice* const m_environment;
     StoreNotice* const m_store;
     UndoCommands* const m_undoing;
+    UndoNotice* const m_undoNotice;
     QSet<QString> m_changed; ///< taken into the list together
     QSet<QString> m_removed;
     OncePerFrame m_frame;

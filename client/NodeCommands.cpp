@@ -7,7 +7,6 @@
 #include "MainWindow.h"
 #include "NodeListView.h"
 #include "PictureView.h"
-#include "RemoveNodesBox.h"
 #include "TypeChange.h"
 #include "audit/AuditLog.h"
 #include "audit/NodeLogEntries.h"
@@ -17,6 +16,7 @@
 #include "drivers/NodeTypes.h"
 #include "inspector/InspectorWidget.h"
 #include "ko/IPDeviceNode.h"
+#include "utils/WindowTitle.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -82,6 +82,12 @@ void open(MainWindow& window, const QString& id, bool readOnly)
 {
     const LayoutAdapter layouts;
     EditNodeDialog dialog(id, &window, readOnly, EditFlags, &layouts);
+    QObject::connect(&window.database(), &NodeDB::nodeUpdated, &dialog, [&](const NodeID& updated) {
+        const kom::smart<const Node> node = NodeDB::getDB()->node(id);
+        if (updated == id && !node.null())
+            dialog.setWindowTitle(
+                EditNodeDialog::tr("Properties of %1").arg(inWindowTitle(calledInTitles(*node))));
+    });
     if (readOnly)
         PictureView::addTo(dialog, window.checking().pictures(), id);
     window.exec(dialog);
@@ -126,24 +132,6 @@ void showProperties(MainWindow& window)
     openSelected(window, true);
 }
 
-void remove(MainWindow& window)
-{
-    HostNodeDB& db = window.database();
-    const QStringList ids = window.list().selectedIds();
-    QStringList names;
-    names.reserve(int(ids.size()));
-    for (const QString& id : ids)
-        names.append(db.summary(id).name);
-    if (ids.isEmpty() || !confirmRemoval(names, &window))
-        return;
-    for (int i = 0; i < ids.size(); ++i) {
-        if (db.summary(ids.at(i)).id.isEmpty())
-            continue; // removed by somebody else while we asked
-        db.removeNode(ids.at(i));
-        db.auditLog().log(NodeLogEntry(NodeLogEntry::Removed, names.at(i)));
-    }
-}
-
 void editCredentials(MainWindow& window)
 {
     const QStringList devices = selectedDevices(window);
@@ -157,8 +145,10 @@ void editCredentials(MainWindow& window)
 void editRecording(MainWindow& window)
 {
     const QStringList devices = selectedDevices(window);
-    if (!devices.isEmpty())
-        window.say(DeviceSettings::editRecording(window.database(), devices, &window));
+    const QString done =
+        devices.isEmpty() ? QString() : DeviceSettings::editRecording(window.database(), devices, &window);
+    if (!done.isEmpty())
+        window.sayDone(done);
 }
 
 void openWebPage(MainWindow& window)

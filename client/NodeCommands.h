@@ -21,7 +21,6 @@ void edit(MainWindow& window);
 
 /// Offers to add a node that is like the selected one, in all that is asked when a node is added.
 void duplicate(MainWindow& window);
-void remove(MainWindow& window);
 void showProperties(MainWindow& window);
 void editCredentials(MainWindow& window);
 void editRecording(MainWindow& window);

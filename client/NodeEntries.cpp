@@ -1,6 +1,7 @@
 #include "NodeEntries.h"
 
 #include "SearchText.h"
+#include "drivers/NodeTypes.h"
 
 #include <algorithm>
 
@@ -10,6 +11,17 @@ namespace {
 
 const int nameColumn = 0;
 const size_t preparedAtOnce = 1000;
+
+bool isDevice(const NodeSummary& node)
+{
+    return !node.id.isEmpty() && NodeTypes::isDevice(node.type);
+}
+
+/// The folders of a hundred cameras would stand before the first camera: their names begin with a slash.
+QString nameKeyOf(const NodeSummary& node)
+{
+    return QChar(isDevice(node) ? 1 : 2) + SearchText::sortKey(node.name);
+}
 
 } // namespace
 
@@ -24,6 +36,7 @@ void NodeEntries::clear()
     m_entries.clear();
     m_free.clear();
     m_slotOf.clear();
+    m_devices = 0;
 }
 
 void NodeEntries::reserve(int nodes)
@@ -42,8 +55,9 @@ NodeEntries::Slot NodeEntries::put(const NodeSummary& node)
         m_slotOf.insert(node.id, slot);
     }
     Entry& entry = m_entries[size_t(slot)];
+    m_devices += int(isDevice(node)) - int(isDevice(entry.node));
     entry.node = node;
-    entry.nameKey = SearchText::sortKey(node.name);
+    entry.nameKey = nameKeyOf(node);
     entry.columnKey = columnKey(entry);
     entry.lines = QString();
     m_prepared = std::min(m_prepared, size_t(slot));
@@ -52,6 +66,7 @@ NodeEntries::Slot NodeEntries::put(const NodeSummary& node)
 
 void NodeEntries::remove(Slot slot)
 {
+    m_devices -= int(isDevice(node(slot)));
     m_slotOf.remove(node(slot).id);
     m_entries[size_t(slot)] = Entry();
     m_free.append(slot);

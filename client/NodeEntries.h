@@ -25,6 +25,7 @@ public:
     void clear();
     void reserve(int nodes);
     int count() const { return int(m_slotOf.size()); }
+    int deviceCount() const { return m_devices; }
     int slotCount() const { return int(m_entries.size()); } ///< all slots are below it
 
     /// Adds a node, or puts it in the place of the one with its identifier. A mark stays.
@@ -37,8 +38,8 @@ public:
     bool isMarked(Slot slot) const { return m_entries[size_t(slot)].marked; }
     void setMarked(Slot slot, bool marked) { m_entries[size_t(slot)].marked = marked; }
 
-    /// Order by a column, what is alike there by name: a total order, so that a node is found where it
-    /// stands.
+    /// Order by a column, what is alike there by name, and names of devices before all others: a total order,
+    /// so that a node is found where it stands.
     void setOrder(int column, Qt::SortOrder order);
     int sortColumn() const { return m_column; }
     Qt::SortOrder sortOrder() const { return m_order; }
@@ -92,6 +93,7 @@ private:
     std::vector<Entry> m_entries;
     Slots m_free;
     QHash<QString, Slot> m_slotOf;
+    int m_devices = 0;
     int m_column = 0;
     Qt::SortOrder m_order = Qt::AscendingOrder;
     mutable size_t m_prepared = 0; ///< all before it

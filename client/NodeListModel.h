@@ -66,6 +66,7 @@ public:
     void setTypeFilter(ENodeType type);
 
     int nodeCount() const { return m_entries.count(); }
+    int deviceCount() const { return m_entries.deviceCount(); }
     QString idAt(int row) const { return node(row).id; }
     const NodeSummary& node(int row) const { return m_entries.node(m_shown.at(row)); }
 

@@ -296,7 +296,7 @@ void tst_ClientDialogs::removalIsNotTheDefault()
 {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         ModalAnswer answer([key](QDialog* box) { QTest::keyClick(box, key); });
-        QVERIFY(!confirmRemoval({QStringLiteral("Gate")}, nullptr));
+        QCOMPARE(askToRemove({QStringLiteral("Gate")}, {}, nullptr), Removal::None);
         QVERIFY(answer.fired());
     }
 }
@@ -304,7 +304,7 @@ void tst_ClientDialogs::removalIsNotTheDefault()
 void tst_ClientDialogs::removalIsConfirmed()
 {
     ModalAnswer answer(ModalAnswer::press(QStringLiteral("Remove")));
-    QVERIFY(confirmRemoval({QStringLiteral("Gate"), QStringLiteral("Yard")}, nullptr));
+    QCOMPARE(askToRemove({QStringLiteral("Gate"), QStringLiteral("Yard")}, {}, nullptr), Removal::Nodes);
     QVERIFY(answer.fired());
 }
 
@@ -317,7 +317,7 @@ void tst_ClientDialogs::removalNamesAreText()
             shown = message->text();
         box->reject();
     });
-    QVERIFY(!confirmRemoval({QStringLiteral("<img src=x>&amp; %1 %n")}, nullptr));
+    QCOMPARE(askToRemove({QStringLiteral("<img src=x>&amp; %1 %n")}, {}, nullptr), Removal::None);
     QVERIFY2(shown.contains(QLatin1String("<img src=x>&amp; %1 %n")), qPrintable(shown));
 }
 
