@@ -6,6 +6,7 @@
 #include "MainWindow.h"
 #include "NodeListView.h"
 #include "PreferencesDialog.h"
+#include "ScanFindings.h"
 #include "database/HostNodeDB.h"
 #include "dialogs/EnvironmentDialog.h"
 #include "dialogs/NetworkProxyDialog.h"
@@ -57,11 +58,17 @@ void editEnvironments(MainWindow& window)
 
 void findDevices(MainWindow& window)
 {
+    ScanFindings findings(window.database());
     NodeOverviewDialog dialog(&window);
     QObject::connect(dialog.findChild<QTreeView*>(QStringLiteral("nodesTreeView")), &QTreeView::doubleClicked,
                      dialog.findChild<QAction*>(QStringLiteral("actionEdit")), &QAction::trigger);
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
+        const QString done = findings.ask(&window);
+        window.applyChanges();
+        if (!done.isEmpty())
+            window.sayDone(done);
         return;
+    }
     window.applyChanges();
     window.list().selectNodes(dialog.selected()); // for what is to be done with them next
     window.list().setFocus();

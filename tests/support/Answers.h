@@ -20,22 +20,23 @@ public:
     explicit Answers(const QVector<Action>& actions)
         : m_actions(actions)
     {
-        next();
+        next(nullptr);
     }
 
     QStringList opened() const { return m_opened; }
 
 private:
-    void next()
+    void next(QDialog* open)
     {
         if (m_opened.size() >= m_actions.size())
             return;
-        m_answers.push_back(std::make_unique<ModalAnswer>([this](QDialog* dialog) {
+        const auto answer = [this](QDialog* dialog) {
             m_opened.append(dialog->objectName());
             const Action action = m_actions.at(m_opened.size() - 1);
-            next();
+            next(dialog);
             action(dialog);
-        }));
+        };
+        m_answers.push_back(std::make_unique<ModalAnswer>(answer, open));
     }
 
     const QVector<Action> m_actions;

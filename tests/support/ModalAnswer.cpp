@@ -10,8 +10,9 @@
 
 namespace testsupport {
 
-ModalAnswer::ModalAnswer(std::function<void(QDialog*)> action)
+ModalAnswer::ModalAnswer(std::function<void(QDialog*)> action, QDialog* open)
     : m_action(std::move(action))
+    , m_open(open)
 {
     m_timer.setInterval(5);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(look()));
@@ -21,7 +22,8 @@ ModalAnswer::ModalAnswer(std::function<void(QDialog*)> action)
 void ModalAnswer::look()
 {
     QDialog* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog || !dialog->isVisible() || m_fired || qobject_cast<QProgressDialog*>(dialog))
+    if (!dialog || dialog == m_open || !dialog->isVisible() || m_fired ||
+        qobject_cast<QProgressDialog*>(dialog))
         return; // progress is no question
     m_timer.stop();
     m_fired = true;

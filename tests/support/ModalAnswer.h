@@ -2,6 +2,7 @@
 #define TESTS_SUPPORT_MODALANSWER_H
 
 #include <QDialog>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
@@ -17,7 +18,8 @@ class ModalAnswer : public QObject
     Q_OBJECT
 
 public:
-    explicit ModalAnswer(std::function<void(QDialog*)> action);
+    /// \a open is not the next one: it is open already.
+    explicit ModalAnswer(std::function<void(QDialog*)> action, QDialog* open = nullptr);
 
     bool fired() const { return m_fired; }
 
@@ -29,6 +31,7 @@ private slots:
 
 private:
     const std::function<void(QDialog*)> m_action;
+    const QPointer<QDialog> m_open;
     QTimer m_timer;
     bool m_fired = false;
 };
