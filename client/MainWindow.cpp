@@ -16,6 +16,7 @@
 #include "SurveyCommands.h"
 #include "UndoCommands.h"
 #include "UndoNotice.h"
+#include "UnsavedEdits.h"
 #include "WheelGuard.h"
 #include "WindowSize.h"
 #include "database/HostNodeDB.h"
@@ -87,6 +88,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     setObjectName(QStringLiteral("MainWindow"));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
     new WheelGuard(this);
+    new UnsavedEdits(this);
     new FocusMark(this);
     new Mnemonics(this);
     createList();

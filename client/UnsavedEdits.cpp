@@ -1,0 +1,147 @@
+#include "UnsavedEdits.h"
+
+#include "PlainMessageBox.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QMetaProperty>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QToolButton>
+
+namespace ko {
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(UnsavedEdits)
+};
+
+/// Its choice is made at once, see EnvironmentNotice.
+const QLatin1String environments("environmentComboBox");
+
+const QDialogButtonBox* buttonsOf(const QDialog& dialog)
+{
+    const QList<QDialogButtonBox*> boxes = dialog.findChildren<QDialogButtonBox*>();
+    for (const QDialogButtonBox* box : boxes) {
+        if (box->window() == &dialog && box->button(QDialogButtonBox::Cancel))
+            return box;
+    }
+    return nullptr;
+}
+
+bool isField(const QWidget& widget, const QDialog& dialog)
+{
+    return widget.window() == &dialog && !widget.objectName().isEmpty() &&
+           widget.objectName() != environments && widget.metaObject()->userProperty().isValid() &&
+           !qobject_cast<const QPushButton*>(&widget) && !qobject_cast<const QToolButton*>(&widget);
+}
+
+QVariant itemsOf(const QListWidget& list)
+{
+    QStringList items;
+    for (int row = 0; row < list.count(); ++row)
+        items.append(list.item(row)->text());
+    return items;
+}
+
+/// Not the text of a choice, which follows the language.
+QVariant valueOf(const QWidget& field)
+{
+    if (const auto* list = qobject_cast<const QListWidget*>(&field))
+        return itemsOf(*list);
+    const auto* choice = qobject_cast<const QComboBox*>(&field);
+    return choice && !choice->isEditable() ? QVariant(choice->currentIndex())
+                                           : field.metaObject()->userProperty().read(&field);
+}
+
+bool agreesToDiscard(QDialog& dialog)
+{
+    PlainMessageBox box(QMessageBox::Question, dialog.windowTitle(),
+                        Texts::tr("What you have entered is not stored yet."), QMessageBox::NoButton,
+                        &dialog);
+    box.setObjectName(QStringLiteral("unsavedEditsBox"));
+    const QPushButton* discard = box.addButton(Texts::tr("&Discard"), QMessageBox::DestructiveRole);
+    QPushButton* back = box.addButton(Texts::tr("&Go On Editing"), QMessageBox::RejectRole);
+    box.setDefaultButton(back);
+    box.setEscapeButton(back);
+    box.exec();
+    return box.clickedButton() == static_cast<const QAbstractButton*>(discard);
+}
+
+bool wouldClose(const QEvent& event)
+{
+    return event.type() == QEvent::Close ||
+           (event.type() == QEvent::KeyPress &&
+            static_cast<const QKeyEvent&>(event).matches(QKeySequence::Cancel));
+}
+
+} // namespace
+
+UnsavedEdits::UnsavedEdits(QObject* parent)
+    : QObject(parent)
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+/// Fields of one name have the places of their pages in it.
+UnsavedEdits::Values UnsavedEdits::valuesOf(const QDialog& dialog)
+{
+    Values values;
+    const QList<QWidget*> widgets = dialog.findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        if (isField(*widget, dialog))
+            values.insert(widget->parentWidget()->objectName() + QLatin1Char('/') + widget->objectName(),
+                          valueOf(*widget));
+    }
+    return values;
+}
+
+void UnsavedEdits::begin(QDialog& dialog)
+{
+    const QDialogButtonBox* buttons = buttonsOf(dialog);
+    if (!buttons || m_stored.contains(&dialog) || qobject_cast<QFileDialog*>(&dialog))
+        return;
+    const QObject* key = &dialog;
+    m_stored.insert(key, valuesOf(dialog));
+    connect(&dialog, &QObject::destroyed, this, [this, key] { m_stored.remove(key); });
+    if (const QPushButton* apply = buttons->button(QDialogButtonBox::Apply)) {
+        connect(apply, &QPushButton::clicked, this,
+                [this, &dialog] { m_stored.insert(&dialog, valuesOf(dialog)); });
+    }
+}
+
+bool UnsavedEdits::isTouched(const QDialog& dialog) const
+{
+    const Values stored = m_stored.value(&dialog);
+    const Values now = valuesOf(dialog);
+    for (auto field = now.cbegin(); field != now.cend(); ++field) {
+        if (field.value() != stored.value(field.key(), field.value()))
+            return true;
+    }
+    return false;
+}
+
+bool UnsavedEdits::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Show && !wouldClose(*event))
+        return QObject::eventFilter(watched, event);
+    auto* dialog = qobject_cast<QDialog*>(watched);
+    if (dialog && event->type() == QEvent::Show)
+        begin(*dialog);
+    if (!dialog || event->type() == QEvent::Show || m_isAsking || !dialog->isVisible() ||
+        !m_stored.contains(dialog) || !isTouched(*dialog))
+        return QObject::eventFilter(watched, event);
+    const QScopedValueRollback<bool> asking(m_isAsking, true);
+    if (agreesToDiscard(*dialog))
+        return QObject::eventFilter(watched, event);
+    event->ignore(); // a window that is to be closed asks so whether it may
+    return true;
+}
+
+} // namespace ko

@@ -1,0 +1,179 @@
+#include "client/WindowFixture.h"
+#include "support/Answers.h"
+#include "support/TestMain.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
+
+using namespace ko;
+using testsupport::Answers;
+using testsupport::child;
+using testsupport::ModalAnswer;
+
+namespace {
+
+const QLatin1String question("unsavedEditsBox");
+
+void press(QDialog* dialog, QDialogButtonBox::StandardButton button)
+{
+    dialog->findChild<QDialogButtonBox*>()->button(button)->click();
+}
+
+void rename(QDialog* dialog, const QString& name)
+{
+    auto* field = child<QLineEdit>(dialog, "nameLineEdit");
+    field->selectAll();
+    QTest::keyClicks(field, name);
+}
+
+} // namespace
+
+/// Keys that close a dialog do not take with them what was entered there.
+class tst_UnsavedEdits : public QObject, protected testsupport::WindowFixture
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { closeWindow(); }
+
+    void escapeAsks();
+    void closeButtonAsks();
+    void nothingEnteredAsksNothing_data();
+    void nothingEnteredAsksNothing();
+    void cancelMeansIt();
+    void appliedIsStored();
+    void otherTypeKeepsAsking();
+
+private:
+    QString name() const { return m_host->db()->summary(m_camera).name; }
+
+    QString m_camera;
+};
+
+void tst_UnsavedEdits::init()
+{
+    openWindow();
+    m_camera = m_host->db()->nodeIdList(IPDeviceType).constFirst();
+    select({"Gate north"});
+}
+
+void tst_UnsavedEdits::escapeAsks()
+{
+    QString kept;
+    const Answers answers({[&](QDialog* editor) {
+                               rename(editor, "West");
+                               QTest::keyClick(child<QLineEdit>(editor, "nameLineEdit"), Qt::Key_Escape);
+                               kept = child<QLineEdit>(editor, "nameLineEdit")->text();
+                               QVERIFY(editor->isVisible());
+                               QTest::keyClick(editor, Qt::Key_Escape);
+                               QVERIFY(!editor->isVisible());
+                           },
+                           [](QDialog* box) { QTest::keyClick(box, Qt::Key_Return); }, // goes on
+                           ModalAnswer::press("Discard")});
+    trigger("actionEdit");
+    QCOMPARE(answers.opened().mid(1), QStringList({question, question}));
+    QCOMPARE(kept, QString("West"));
+    QCOMPARE(name(), QString("Gate north"));
+}
+
+void tst_UnsavedEdits::closeButtonAsks()
+{
+    const Answers answers({[](QDialog* editor) {
+                               child<QTabWidget>(editor, "tabWidget")->setCurrentIndex(0);
+                               child<QSpinBox>(editor, "portSpinBox")->setValue(8080);
+                               editor->close();
+                               QVERIFY(editor->isVisible());
+                               press(editor, QDialogButtonBox::Ok);
+                           },
+                           ModalAnswer::press("Go On Editing")});
+    trigger("actionEdit");
+    QCOMPARE(answers.opened().mid(1), QStringList(question));
+    QCOMPARE(deviceNode(m_camera)->port(), 8080);
+}
+
+void tst_UnsavedEdits::nothingEnteredAsksNothing_data()
+{
+    QTest::addColumn<QByteArray>("action");
+    for (const char* action :
+         {"actionAdd", "actionEdit", "actionProperties", "actionDuplicate", "actionCredentials",
+          "actionRecording", "actionPreferences", "actionProxy", "actionEnvironments", "actionOverview",
+          "actionFillIn", "actionHistory", "actionAuditLog"})
+        QTest::newRow(action) << QByteArray(action);
+}
+
+void tst_UnsavedEdits::nothingEnteredAsksNothing()
+{
+    QFETCH(QByteArray, action);
+    QString asked;
+    const ModalAnswer answer([&asked](QDialog* dialog) {
+        if (auto* tabs = dialog->findChild<QTabWidget*>()) {
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                tabs->setCurrentIndex(tab);
+        }
+        for (int turn = 0; turn < 5; ++turn)
+            QCoreApplication::processEvents();
+        const ModalAnswer box(
+            [&asked](QDialog* question) {
+                asked = question->objectName();
+                question->reject();
+            },
+            dialog);
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible() || !asked.isEmpty());
+    });
+    trigger(action);
+    QVERIFY(answer.fired());
+    QCOMPARE(asked, QString());
+}
+
+void tst_UnsavedEdits::cancelMeansIt()
+{
+    const Answers answers({[](QDialog* editor) {
+                               rename(editor, "West");
+                               press(editor, QDialogButtonBox::Cancel);
+                           },
+                           [](QDialog* box) { box->reject(); }});
+    trigger("actionEdit");
+    QCOMPARE(answers.opened().size(), 1);
+    QCOMPARE(name(), QString("Gate north"));
+}
+
+void tst_UnsavedEdits::appliedIsStored()
+{
+    QString title;
+    const Answers answers({[&](QDialog* editor) {
+                               rename(editor, "West");
+                               press(editor, QDialogButtonBox::Apply);
+                               title = editor->windowTitle();
+                               QTest::keyClick(editor, Qt::Key_Escape);
+                               QVERIFY(!editor->isVisible());
+                           },
+                           [](QDialog* box) { box->reject(); }});
+    trigger("actionEdit");
+    QCOMPARE(answers.opened().size(), 1);
+    QCOMPARE(name(), QString("West"));
+    QCOMPARE(title, QString("Properties of West"));
+}
+
+void tst_UnsavedEdits::otherTypeKeepsAsking()
+{
+    const Answers answers({[](QDialog* dialog) {
+                               rename(dialog, "New");
+                               auto* types = child<QComboBox>(dialog, "nodeTypeComboBox");
+                               types->setFocus();
+                               QTest::keyClick(types, Qt::Key_Down);
+                               QTest::keyClick(dialog, Qt::Key_Escape);
+                               QVERIFY(!dialog->isVisible());
+                           },
+                           ModalAnswer::press("Discard")});
+    trigger("actionAdd");
+    QCOMPARE(answers.opened().mid(1), QStringList(question));
+}
+
+KO_TEST_MAIN(tst_UnsavedEdits)
+#include "tst_unsavededits.moc"
