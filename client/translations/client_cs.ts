@@ -634,6 +634,13 @@ Bez --import, --export, --backup, --restore a --verify-log otevře okno a přij�
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Vlastnosti: %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -945,6 +952,30 @@ Bez --import, --export, --backup, --restore a --verify-log otevře okno a přij�
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>Import tohoto seznamu přidá zařízení: %1, změní: %2 a ponechá beze změny: %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n řádek s chybami bude vynechán.</numerusform>
+            <numerusform>%n řádky s chybami budou vynechány.</numerusform>
+            <numerusform>%n řádků s chybami bude vynecháno.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n řádek je možná míněn jinak.</numerusform>
+            <numerusform>%n řádky jsou možná míněny jinak.</numerusform>
+            <numerusform>%n řádků je možná míněno jinak.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importovat</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1032,6 +1063,13 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Někdo změnil protokol databáze uzlů jiným programem:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
     </message>
 </context>
 <context>
@@ -1309,10 +1347,6 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>Uzly</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>Uzlů: %1, zobrazeno: %2, vybráno: %3</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>Není vybrána žádná kamera. Nejprve jednu nebo více vyberte v seznamu.</translation>
     </message>
@@ -1388,6 +1422,10 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>What was done to the selected nodes</source>
         <translation>Co bylo provedeno s vybranými uzly</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Zařízení: %1, jiné uzly: %2; zobrazeno: %3, vybráno: %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1460,6 +1498,25 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Nodes</source>
         <translation>Uzly</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Odebrat uzly</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Odebírání uzlů...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>Odebrán %n uzel.</numerusform>
+            <numerusform>Odebrány %n uzly.</numerusform>
+            <numerusform>Odebráno %n uzlů.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1603,6 +1660,57 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
             <numerusform>Odebrat těchto %n uzlů? Úpravy &gt; Zpět je vrátí.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>Nikdo jiný nepoužívá %n složku záznamů:</numerusform>
+            <numerusform>Nikdo jiný nepoužívá %n složky záznamů:</numerusform>
+            <numerusform>Nikdo jiný nepoužívá %n složek záznamů:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Odebrat i &amp;složky záznamů</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Najít zařízení</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>Hledání našlo %n nové zařízení a přidalo je do databáze:</numerusform>
+            <numerusform>Hledání našlo %n nová zařízení a přidalo je do databáze:</numerusform>
+            <numerusform>Hledání našlo %n nových zařízení a přidalo je do databáze:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Ponechat</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>Zase &amp;odebrat</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>Nalezeno a přidáno %n zařízení.</numerusform>
+            <numerusform>Nalezena a přidána %n zařízení.</numerusform>
+            <numerusform>Nalezeno a přidáno %n zařízení.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>Zase odebráno %n zařízení.</numerusform>
+            <numerusform>Zase odebrána %n zařízení.</numerusform>
+            <numerusform>Zase odebráno %n zařízení.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1700,6 +1808,10 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
             <numerusform>Zapsáno %n kamer.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Čtení seznamu...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1733,6 +1845,28 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Redone: %1</source>
         <translation>Provedeno znovu: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Zpět...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>Zadané údaje ještě nejsou uloženy.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>Za&amp;hodit</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Pokračovat v úpravách</translation>
     </message>
 </context>
 </TS>

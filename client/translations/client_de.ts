@@ -623,6 +623,13 @@ Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster g
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Eigenschaften von %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -929,6 +936,28 @@ Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster g
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>Der Import dieser Liste würde %1 Geräte hinzufügen, %2 ändern und %3 so lassen, wie sie sind.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n Zeile mit Fehlern würde ausgelassen.</numerusform>
+            <numerusform>%n Zeilen mit Fehlern würden ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n Zeile ist vielleicht anders gemeint.</numerusform>
+            <numerusform>%n Zeilen sind vielleicht anders gemeint.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1015,6 +1044,13 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Jemand hat das Protokoll der Knotendatenbank mit einem anderen Programm verändert:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1291,10 +1327,6 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Knoten</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>%1 Knoten, %2 angezeigt, %3 ausgewählt</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>Keine Kamera ausgewählt. Wählen Sie zuerst eine oder mehrere in der Liste aus.</translation>
     </message>
@@ -1368,6 +1400,10 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>What was done to the selected nodes</source>
         <translation>Was mit den ausgewählten Knoten getan wurde</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Geräte: %1, andere Knoten: %2; angezeigt: %3, ausgewählt: %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1439,6 +1475,24 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Nodes</source>
         <translation>Knoten</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Knoten entfernen</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Knoten werden entfernt...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>%n Knoten entfernt.</numerusform>
+            <numerusform>%n Knoten entfernt.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1581,6 +1635,53 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
             <numerusform>Diese %n Knoten entfernen? Bearbeiten &gt; Rückgängig bringt sie zurück.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>%n Aufzeichnungsordner benutzt sonst niemand:</numerusform>
+            <numerusform>%n Aufzeichnungsordner benutzt sonst niemand:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Auch die Aufzeichnungs&amp;ordner entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Geräte suchen</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>Die Suche hat %n neues Gerät gefunden und zur Datenbank hinzugefügt:</numerusform>
+            <numerusform>Die Suche hat %n neue Geräte gefunden und zur Datenbank hinzugefügt:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>Wieder &amp;herausnehmen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>%n Gerät gefunden und hinzugefügt.</numerusform>
+            <numerusform>%n Geräte gefunden und hinzugefügt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>%n Gerät wieder herausgenommen.</numerusform>
+            <numerusform>%n Geräte wieder herausgenommen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1677,6 +1778,10 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
             <numerusform>%n Kameras geschrieben.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Die Liste wird gelesen...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1710,6 +1815,28 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Redone: %1</source>
         <translation>Wiederholt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Rückgängig...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>Was Sie eingegeben haben, ist noch nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>Weiter &amp;bearbeiten</translation>
     </message>
 </context>
 </TS>

@@ -132,6 +132,23 @@
     </message>
 </context>
 <context>
+    <name>ImportReportDialog</name>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n line with errors would be left out.</numerusform>
+            <numerusform>%n lines with errors would be left out.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n line may be meant otherwise.</numerusform>
+            <numerusform>%n lines may be meant otherwise.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>LogNotice</name>
     <message numerus="yes">
         <source>And %n more; koclient --verify-log names them.</source>
@@ -176,12 +193,53 @@
     </message>
 </context>
 <context>
+    <name>NodeRemoval</name>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>%n node removed.</numerusform>
+            <numerusform>%n nodes removed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message numerus="yes">
         <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>
         <translation>
             <numerusform>Remove this node? Edit &gt; Undo brings it back.</numerusform>
             <numerusform>Remove these %n nodes? Edit &gt; Undo brings them back.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>Nobody else uses %n recording folder:</numerusform>
+            <numerusform>Nobody else uses %n recording folders:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>The scan has found %n new device and added it to the database:</numerusform>
+            <numerusform>The scan has found %n new devices and added them to the database:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>%n device found and added.</numerusform>
+            <numerusform>%n devices found and added.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>%n device taken out again.</numerusform>
+            <numerusform>%n devices taken out again.</numerusform>
         </translation>
     </message>
 </context>

@@ -623,6 +623,13 @@ Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y a
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Propiedades de %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -929,6 +936,28 @@ Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y a
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>La importación de esta lista añadiría %1 dispositivos, cambiaría %2 y dejaría %3 como están.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>Se omitiría %n línea con errores.</numerusform>
+            <numerusform>Se omitirían %n líneas con errores.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n línea quizá quiera decir otra cosa.</numerusform>
+            <numerusform>%n líneas quizá quieran decir otra cosa.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1015,6 +1044,13 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Alguien ha alterado el registro de la base de datos de nodos con otro programa:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1291,10 +1327,6 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>Nodos</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>%1 nodos, %2 mostrados, %3 seleccionados</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>No hay ninguna cámara seleccionada. Seleccione antes una o varias en la lista.</translation>
     </message>
@@ -1368,6 +1400,10 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>What was done to the selected nodes</source>
         <translation>Lo que se hizo con los nodos seleccionados</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Dispositivos: %1, otros nodos: %2; mostrados: %3, seleccionados: %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1439,6 +1475,24 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Nodes</source>
         <translation>Nodos</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Eliminar nodos</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Eliminando nodos...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>%n nodo eliminado.</numerusform>
+            <numerusform>%n nodos eliminados.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1581,6 +1635,53 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
             <numerusform>¿Eliminar estos %n nodos? Editar &gt; Deshacer los recupera.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>Nadie más usa %n carpeta de grabación:</numerusform>
+            <numerusform>Nadie más usa %n carpetas de grabación:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Eliminar también las &amp;carpetas de grabación</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Buscar dispositivos</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>La búsqueda ha encontrado %n dispositivo nuevo y lo ha añadido a la base de datos:</numerusform>
+            <numerusform>La búsqueda ha encontrado %n dispositivos nuevos y los ha añadido a la base de datos:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Conservar</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>&amp;Quitar de nuevo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>%n dispositivo encontrado y añadido.</numerusform>
+            <numerusform>%n dispositivos encontrados y añadidos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>%n dispositivo quitado de nuevo.</numerusform>
+            <numerusform>%n dispositivos quitados de nuevo.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1677,6 +1778,10 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
             <numerusform>%n cámaras escritas.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Leyendo la lista...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1710,6 +1815,28 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Redone: %1</source>
         <translation>Rehecho: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Deshacer...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>Lo que ha introducido aún no está guardado.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Seguir editando</translation>
     </message>
 </context>
 </TS>

@@ -623,6 +623,13 @@ Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Propriétés de %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -929,6 +936,28 @@ Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>L&apos;importation de cette liste ajouterait %1 appareils, en modifierait %2 et en laisserait %3 tels quels.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n ligne avec des erreurs serait ignorée.</numerusform>
+            <numerusform>%n lignes avec des erreurs seraient ignorées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n ligne a peut-être un autre sens.</numerusform>
+            <numerusform>%n lignes ont peut-être un autre sens.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importer</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1015,6 +1044,13 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Quelqu&apos;un a modifié le journal de la base de données des nœuds avec un autre programme :</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -1291,10 +1327,6 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>Nœuds</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>%1 nœuds, %2 affichés, %3 sélectionnés</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>Aucune caméra n&apos;est sélectionnée. Sélectionnez-en d&apos;abord une ou plusieurs dans la liste.</translation>
     </message>
@@ -1368,6 +1400,10 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>What was done to the selected nodes</source>
         <translation>Ce qui a été fait aux nœuds sélectionnés</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Appareils : %1, autres nœuds : %2 ; affichés : %3, sélectionnés : %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1439,6 +1475,24 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Nodes</source>
         <translation>Nœuds</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Supprimer des nœuds</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Suppression des nœuds...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>%n nœud supprimé.</numerusform>
+            <numerusform>%n nœuds supprimés.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1581,6 +1635,53 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
             <numerusform>Supprimer ces %n nœuds ? Édition &gt; Annuler les fait revenir.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>%n dossier d&apos;enregistrement n&apos;est utilisé par aucun autre :</numerusform>
+            <numerusform>%n dossiers d&apos;enregistrement ne sont utilisés par aucun autre :</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Supprimer aussi les &amp;dossiers d&apos;enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Rechercher des appareils</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>La recherche a trouvé %n nouvel appareil et l&apos;a ajouté à la base de données :</numerusform>
+            <numerusform>La recherche a trouvé %n nouveaux appareils et les a ajoutés à la base de données :</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Garder</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>%n appareil trouvé et ajouté.</numerusform>
+            <numerusform>%n appareils trouvés et ajoutés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>%n appareil retiré.</numerusform>
+            <numerusform>%n appareils retirés.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1677,6 +1778,10 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
             <numerusform>%n caméras écrites.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Lecture de la liste...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1710,6 +1815,28 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Redone: %1</source>
         <translation>Rétabli : %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Annuler...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>Ce que vous avez saisi n&apos;est pas encore enregistré.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Abandonner</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Continuer la modification</translation>
     </message>
 </context>
 </TS>

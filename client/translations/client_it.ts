@@ -623,6 +623,13 @@ Senza --import, --export, --backup, --restore e --verify-log apre una finestra e
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Proprietà di %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -929,6 +936,28 @@ Senza --import, --export, --backup, --restore e --verify-log apre una finestra e
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>L&apos;importazione di questo elenco aggiungerebbe %1 dispositivi, ne modificherebbe %2 e ne lascerebbe %3 come sono.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n riga con errori verrebbe tralasciata.</numerusform>
+            <numerusform>%n righe con errori verrebbero tralasciate.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n riga forse intende altro.</numerusform>
+            <numerusform>%n righe forse intendono altro.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importa</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1015,6 +1044,13 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Qualcuno ha modificato il registro del database dei nodi con un altro programma:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -1291,10 +1327,6 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Nodi</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>%1 nodi, %2 mostrati, %3 selezionati</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>Nessuna telecamera selezionata. Selezionarne prima una o più nell&apos;elenco.</translation>
     </message>
@@ -1368,6 +1400,10 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>What was done to the selected nodes</source>
         <translation>Che cosa è stato fatto ai nodi selezionati</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Dispositivi: %1, altri nodi: %2; mostrati: %3, selezionati: %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1439,6 +1475,24 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Nodes</source>
         <translation>Nodi</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Rimuovi nodi</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Rimozione dei nodi...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>%n nodo rimosso.</numerusform>
+            <numerusform>%n nodi rimossi.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1581,6 +1635,53 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
             <numerusform>Rimuovere questi %n nodi? Modifica &gt; Annulla li riporta.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>Nessun altro usa %n cartella di registrazione:</numerusform>
+            <numerusform>Nessun altro usa %n cartelle di registrazione:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Rimuovi anche le &amp;cartelle di registrazione</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Cerca dispositivi</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>La ricerca ha trovato %n nuovo dispositivo e lo ha aggiunto al database:</numerusform>
+            <numerusform>La ricerca ha trovato %n nuovi dispositivi e li ha aggiunti al database:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Mantieni</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>&amp;Togli di nuovo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>%n dispositivo trovato e aggiunto.</numerusform>
+            <numerusform>%n dispositivi trovati e aggiunti.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>%n dispositivo tolto di nuovo.</numerusform>
+            <numerusform>%n dispositivi tolti di nuovo.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1677,6 +1778,10 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
             <numerusform>%n telecamere scritte.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Lettura dell&apos;elenco...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1710,6 +1815,28 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Redone: %1</source>
         <translation>Ripetuto: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Annulla...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>Ciò che è stato inserito non è ancora memorizzato.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Scarta</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Continua a modificare</translation>
     </message>
 </context>
 </TS>

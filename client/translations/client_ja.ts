@@ -612,6 +612,13 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>%1のプロパティ</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -913,6 +920,26 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
         <comment>between the parts of a list</comment>
         <translation>、</translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>このリストをインポートすると、%1台のデバイスを追加、%2台を変更し、%3台はそのままになります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>エラーのある%n行は除外されます。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n行は意図と異なる可能性があります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>インポート(&amp;I)</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -998,6 +1025,13 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>別のプログラムによってノードデータベースのログが書き換えられました:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -1273,10 +1307,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>ノード</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>ノード%1個、表示%2、選択%3</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>カメラが選択されていません。先に一覧から1つ以上選択してください。</translation>
     </message>
@@ -1348,6 +1378,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>What was done to the selected nodes</source>
         <translation>選択したノードに行われた操作</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>デバイス%1、その他のノード%2、表示%3、選択%4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1418,6 +1452,23 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Nodes</source>
         <translation>ノード</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>ノードの削除</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>ノードを削除しています...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>%nノードを削除しました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1559,6 +1610,49 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
             <numerusform>これら%n個のノードを削除しますか? [編集] &gt; [元に戻す]で元に戻せます。</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>他で使われていない%n個の録画フォルダー:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>録画フォルダーも削除(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>デバイスの検索</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>検索で%n台の新しいデバイスが見つかり、データベースに追加されました:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>残す(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>取り除く(&amp;T)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>%n台のデバイスが見つかり、追加されました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>%n台のデバイスを取り除きました。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1654,6 +1748,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
             <numerusform>%n台のカメラを書き込みました。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>リストを読み込んでいます...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1687,6 +1785,28 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Redone: %1</source>
         <translation>やり直し: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>元に戻す...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>入力した内容はまだ保存されていません。</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>破棄(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>編集を続ける(&amp;G)</translation>
     </message>
 </context>
 </TS>

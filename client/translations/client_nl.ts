@@ -623,6 +623,13 @@ Zonder --import, --export, --backup, --restore en --verify-log wordt een venster
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Eigenschappen van %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -929,6 +936,28 @@ Zonder --import, --export, --backup, --restore en --verify-log wordt een venster
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>Het importeren van deze lijst zou %1 apparaten toevoegen, %2 wijzigen en %3 laten zoals ze zijn.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n regel met fouten zou worden weggelaten.</numerusform>
+            <numerusform>%n regels met fouten zouden worden weggelaten.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n regel is misschien anders bedoeld.</numerusform>
+            <numerusform>%n regels zijn misschien anders bedoeld.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importeren</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1015,6 +1044,13 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Iemand heeft het logboek van de knooppuntdatabase met een ander programma gewijzigd:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
     </message>
 </context>
 <context>
@@ -1291,10 +1327,6 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>Knooppunten</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>%1 knooppunten, %2 getoond, %3 geselecteerd</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>Er is geen camera geselecteerd. Selecteer eerst een of meer in de lijst.</translation>
     </message>
@@ -1368,6 +1400,10 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>What was done to the selected nodes</source>
         <translation>Wat er met de geselecteerde knooppunten is gedaan</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Apparaten: %1, andere knooppunten: %2; getoond: %3, geselecteerd: %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1439,6 +1475,24 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Nodes</source>
         <translation>Knooppunten</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Knooppunten verwijderen</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Knooppunten worden verwijderd...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>%n knooppunt verwijderd.</numerusform>
+            <numerusform>%n knooppunten verwijderd.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1581,6 +1635,53 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
             <numerusform>Deze %n knooppunten verwijderen? Bewerken &gt; Ongedaan maken haalt ze terug.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>Niemand anders gebruikt %n opnamemap:</numerusform>
+            <numerusform>Niemand anders gebruikt %n opnamemappen:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Ook de opname&amp;mappen verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Apparaten zoeken</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>De scan heeft %n nieuw apparaat gevonden en aan de database toegevoegd:</numerusform>
+            <numerusform>De scan heeft %n nieuwe apparaten gevonden en aan de database toegevoegd:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Behouden</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>Er weer &amp;uithalen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>%n apparaat gevonden en toegevoegd.</numerusform>
+            <numerusform>%n apparaten gevonden en toegevoegd.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>%n apparaat er weer uitgehaald.</numerusform>
+            <numerusform>%n apparaten er weer uitgehaald.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1677,6 +1778,10 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
             <numerusform>%n camera&apos;s geschreven.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>De lijst wordt gelezen...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1710,6 +1815,28 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Redone: %1</source>
         <translation>Opnieuw gedaan: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Ongedaan maken...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>Wat u hebt ingevoerd, is nog niet opgeslagen.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>Ver&amp;werpen</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>Verder be&amp;werken</translation>
     </message>
 </context>
 </TS>

@@ -634,6 +634,13 @@ Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjm
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Właściwości: %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -945,6 +952,30 @@ Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjm
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>Import tej listy doda urządzenia: %1, zmieni: %2, a pozostawi bez zmian: %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n wiersz z błędami zostanie pominięty.</numerusform>
+            <numerusform>%n wiersze z błędami zostaną pominięte.</numerusform>
+            <numerusform>%n wierszy z błędami zostanie pominiętych.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n wiersz może mieć inne znaczenie.</numerusform>
+            <numerusform>%n wiersze mogą mieć inne znaczenie.</numerusform>
+            <numerusform>%n wierszy może mieć inne znaczenie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importuj</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1032,6 +1063,13 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Ktoś zmienił dziennik bazy danych węzłów innym programem:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
     </message>
 </context>
 <context>
@@ -1309,10 +1347,6 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>Węzły</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>Węzły: %1, pokazane: %2, zaznaczone: %3</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>Nie zaznaczono żadnej kamery. Najpierw zaznacz jedną lub kilka na liście.</translation>
     </message>
@@ -1388,6 +1422,10 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>What was done to the selected nodes</source>
         <translation>Co zrobiono z zaznaczonymi węzłami</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Urządzenia: %1, inne węzły: %2; pokazane: %3, zaznaczone: %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1460,6 +1498,25 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Nodes</source>
         <translation>Węzły</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Usuń węzły</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Usuwanie węzłów...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>Usunięto %n węzeł.</numerusform>
+            <numerusform>Usunięto %n węzły.</numerusform>
+            <numerusform>Usunięto %n węzłów.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1603,6 +1660,57 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
             <numerusform>Usunąć te %n węzłów? Edycja &gt; Cofnij je przywróci.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>Nikt inny nie używa %n folderu nagrań:</numerusform>
+            <numerusform>Nikt inny nie używa %n folderów nagrań:</numerusform>
+            <numerusform>Nikt inny nie używa %n folderów nagrań:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Usuń też &amp;foldery nagrań</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Znajdź urządzenia</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>Wyszukiwanie znalazło %n nowe urządzenie i dodało je do bazy danych:</numerusform>
+            <numerusform>Wyszukiwanie znalazło %n nowe urządzenia i dodało je do bazy danych:</numerusform>
+            <numerusform>Wyszukiwanie znalazło %n nowych urządzeń i dodało je do bazy danych:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Zachowaj</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>&amp;Usuń ponownie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>Znaleziono i dodano %n urządzenie.</numerusform>
+            <numerusform>Znaleziono i dodano %n urządzenia.</numerusform>
+            <numerusform>Znaleziono i dodano %n urządzeń.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>Ponownie usunięto %n urządzenie.</numerusform>
+            <numerusform>Ponownie usunięto %n urządzenia.</numerusform>
+            <numerusform>Ponownie usunięto %n urządzeń.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1700,6 +1808,10 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
             <numerusform>Zapisano %n kamer.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Odczyt listy...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1733,6 +1845,28 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Redone: %1</source>
         <translation>Ponowiono: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Cofnij...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>Wprowadzone dane nie zostały jeszcze zapisane.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Odrzuć</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Kontynuuj edycję</translation>
     </message>
 </context>
 </TS>

@@ -623,6 +623,13 @@ Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e ac
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Propriedades de %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -929,6 +936,28 @@ Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e ac
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>A importação desta lista adicionaria %1 dispositivos, mudaria %2 e deixaria %3 como estão.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n linha com erros seria omitida.</numerusform>
+            <numerusform>%n linhas com erros seriam omitidas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n linha talvez queira dizer outra coisa.</numerusform>
+            <numerusform>%n linhas talvez queiram dizer outra coisa.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importar</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1015,6 +1044,13 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Alguém alterou o registro do banco de dados de nós com outro programa:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -1291,10 +1327,6 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>Nós</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>%1 nós, %2 exibidos, %3 selecionados</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>Nenhuma câmera selecionada. Selecione primeiro uma ou mais na lista.</translation>
     </message>
@@ -1368,6 +1400,10 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>What was done to the selected nodes</source>
         <translation>O que foi feito com os nós selecionados</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Dispositivos: %1, outros nós: %2; mostrados: %3, selecionados: %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1439,6 +1475,24 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Nodes</source>
         <translation>Nós</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Remover nós</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Removendo nós...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>%n nó removido.</numerusform>
+            <numerusform>%n nós removidos.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1581,6 +1635,53 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
             <numerusform>Remover estes %n nós? Editar &gt; Desfazer os traz de volta.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>Ninguém mais usa %n pasta de gravação:</numerusform>
+            <numerusform>Ninguém mais usa %n pastas de gravação:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Remover também as &amp;pastas de gravação</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Localizar dispositivos</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>A busca encontrou %n dispositivo novo e o adicionou ao banco de dados:</numerusform>
+            <numerusform>A busca encontrou %n dispositivos novos e os adicionou ao banco de dados:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Manter</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>&amp;Retirar de novo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>%n dispositivo encontrado e adicionado.</numerusform>
+            <numerusform>%n dispositivos encontrados e adicionados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>%n dispositivo retirado de novo.</numerusform>
+            <numerusform>%n dispositivos retirados de novo.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1677,6 +1778,10 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
             <numerusform>%n câmeras gravadas.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Lendo a lista...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1710,6 +1815,28 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Redone: %1</source>
         <translation>Refeito: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Desfazer...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>O que foi inserido ainda não está salvo.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Descartar</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Continuar editando</translation>
     </message>
 </context>
 </TS>

@@ -634,6 +634,13 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
     </message>
 </context>
 <context>
+    <name>EditNodeDialog</name>
+    <message>
+        <source>Properties of %1</source>
+        <translation>Свойства: %1</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -945,6 +952,30 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
+        <translation>При импорте этого списка будет добавлено устройств: %1, изменено: %2, оставлено без изменений: %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) with errors would be left out.</source>
+        <translation>
+            <numerusform>%n строка с ошибками будет пропущена.</numerusform>
+            <numerusform>%n строки с ошибками будут пропущены.</numerusform>
+            <numerusform>%n строк с ошибками будет пропущено.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n line(s) may be meant otherwise.</source>
+        <translation>
+            <numerusform>%n строка, возможно, означает другое.</numerusform>
+            <numerusform>%n строки, возможно, означают другое.</numerusform>
+            <numerusform>%n строк, возможно, означают другое.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Импортировать</translation>
+    </message>
 </context>
 <context>
     <name>KeychainNotice</name>
@@ -1032,6 +1063,13 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Somebody has altered the log of the node database with another program:</source>
         <translation>Кто-то изменил журнал базы данных узлов другой программой:</translation>
+    </message>
+</context>
+<context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
@@ -1309,10 +1347,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>Узлы</translation>
     </message>
     <message>
-        <source>%1 nodes, %2 shown, %3 selected</source>
-        <translation>Узлов: %1, показано: %2, выбрано: %3</translation>
-    </message>
-    <message>
         <source>No camera is selected. Select one or more in the list first.</source>
         <translation>Камера не выбрана. Сначала выберите в списке одну или несколько.</translation>
     </message>
@@ -1388,6 +1422,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>What was done to the selected nodes</source>
         <translation>Что сделано с выбранными узлами</translation>
     </message>
+    <message>
+        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
+        <translation>Устройств: %1, других узлов: %2; показано: %3, выбрано: %4</translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -1460,6 +1498,25 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Nodes</source>
         <translation>Узлы</translation>
+    </message>
+</context>
+<context>
+    <name>NodeRemoval</name>
+    <message>
+        <source>Remove Nodes</source>
+        <translation>Удаление узлов</translation>
+    </message>
+    <message>
+        <source>Removing nodes...</source>
+        <translation>Удаление узлов...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) removed.</source>
+        <translation>
+            <numerusform>Удалён %n узел.</numerusform>
+            <numerusform>Удалено %n узла.</numerusform>
+            <numerusform>Удалено %n узлов.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1603,6 +1660,57 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
             <numerusform>Удалить эти %n узлов? Их вернёт Правка &gt; Отменить.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Nobody else uses %n recording folder(s):</source>
+        <translation>
+            <numerusform>Больше никем не используется %n папка записей:</numerusform>
+            <numerusform>Больше никем не используются %n папки записей:</numerusform>
+            <numerusform>Больше никем не используются %n папок записей:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove the recording &amp;folders too</source>
+        <translation>Удалить и &amp;папки записей</translation>
+    </message>
+</context>
+<context>
+    <name>ScanFindings</name>
+    <message>
+        <source>Find Devices</source>
+        <translation>Найти устройства</translation>
+    </message>
+    <message numerus="yes">
+        <source>The scan has found %n new device(s) and added them to the database:</source>
+        <translation>
+            <numerusform>Поиск нашёл %n новое устройство и добавил его в базу данных:</numerusform>
+            <numerusform>Поиск нашёл %n новых устройства и добавил их в базу данных:</numerusform>
+            <numerusform>Поиск нашёл %n новых устройств и добавил их в базу данных:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Keep Them</source>
+        <translation>&amp;Оставить</translation>
+    </message>
+    <message>
+        <source>&amp;Take Them Out Again</source>
+        <translation>&amp;Убрать</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) found and added.</source>
+        <translation>
+            <numerusform>Найдено и добавлено %n устройство.</numerusform>
+            <numerusform>Найдено и добавлено %n устройства.</numerusform>
+            <numerusform>Найдено и добавлено %n устройств.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s) taken out again.</source>
+        <translation>
+            <numerusform>Убрано %n устройство.</numerusform>
+            <numerusform>Убрано %n устройства.</numerusform>
+            <numerusform>Убрано %n устройств.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ScannerStatus</name>
@@ -1700,6 +1808,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
             <numerusform>Записано %n камер.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Reading the list...</source>
+        <translation>Чтение списка...</translation>
+    </message>
 </context>
 <context>
     <name>SurveyProgress</name>
@@ -1733,6 +1845,28 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Redone: %1</source>
         <translation>Повторено: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNotice</name>
+    <message>
+        <source>Undo...</source>
+        <translation>Отменить...</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedEdits</name>
+    <message>
+        <source>What you have entered is not stored yet.</source>
+        <translation>Введённое ещё не сохранено.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Не сохранять</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Продолжить правку</translation>
     </message>
 </context>
 </TS>

@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>není to název hostitele ani IP adresa</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>obsahuje víc než hostitele; port, SSL a uživatel mají vlastní sloupce</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>týká se téhož zařízení jako řádek %1 a změnil by, co ten uvádí</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>nové zařízení by nemělo název</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

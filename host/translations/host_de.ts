@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>kein Hostname und keine IP-Adresse</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>sie enthält mehr als einen Host; Port, SSL und Benutzer haben eigene Spalten</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>sie betrifft dasselbe Gerät wie Zeile %1 und würde ändern, was diese angibt</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>das neue Gerät hätte keinen Namen</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>no es un nombre de host ni una dirección IP</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>contiene más que un host; puerto, SSL y usuario tienen columnas propias</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>se refiere al mismo dispositivo que la línea %1 y cambiaría lo que esta indica</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>el nuevo dispositivo no tendría nombre</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

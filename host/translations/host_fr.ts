@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>ce n&apos;est ni un nom d&apos;hôte ni une adresse IP</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>elle contient plus qu&apos;un hôte ; port, SSL et utilisateur ont leurs propres colonnes</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>elle concerne le même appareil que la ligne %1 et changerait ce que celle-ci indique</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>le nouvel appareil n&apos;aurait pas de nom</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

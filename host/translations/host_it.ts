@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>non è né un nome host né un indirizzo IP</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>contiene più di un host; porta, SSL e utente hanno colonne proprie</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>riguarda lo stesso dispositivo della riga %1 e cambierebbe ciò che questa indica</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>il nuovo dispositivo non avrebbe un nome</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

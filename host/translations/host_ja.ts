@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>、</translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>ホスト名でもIPアドレスでもありません</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>ホスト以外も含まれています。ポート、SSL、ユーザーには専用の列があります</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>%1行目と同じデバイスについての行で、その内容を変更します</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>新しいデバイスに名前が付きません</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>het is geen hostnaam en geen IP-adres</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>het bevat meer dan een host; poort, SSL en gebruiker hebben eigen kolommen</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>ze gaat over hetzelfde apparaat als regel %1 en zou wijzigen wat die aangeeft</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>het nieuwe apparaat zou geen naam hebben</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

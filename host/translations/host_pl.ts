@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>to nie jest nazwa hosta ani adres IP</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>zawiera więcej niż hosta; port, SSL i użytkownik mają własne kolumny</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>dotyczy tego samego urządzenia co wiersz %1 i zmieniłby to, co ten podaje</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>nowe urządzenie nie miałoby nazwy</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>não é um nome de host nem um endereço IP</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>contém mais do que um host; porta, SSL e usuário têm colunas próprias</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>refere-se ao mesmo dispositivo que a linha %1 e mudaria o que esta indica</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>o novo dispositivo não teria nome</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>

@@ -205,6 +205,22 @@
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
+    <message>
+        <source>it is no host name and no IP address</source>
+        <translation>это не имя узла сети и не IP-адрес</translation>
+    </message>
+    <message>
+        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <translation>содержит не только узел; для порта, SSL и пользователя есть свои столбцы</translation>
+    </message>
+    <message>
+        <source>it is about the same device as line %1, and would change what that says</source>
+        <translation>относится к тому же устройству, что и строка %1, и изменит указанное в ней</translation>
+    </message>
+    <message>
+        <source>the new device would have no name</source>
+        <translation>у нового устройства не будет имени</translation>
+    </message>
 </context>
 <context>
     <name>ChangeSetTitle</name>
