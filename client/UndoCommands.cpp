@@ -2,6 +2,7 @@
 
 #include "MainWindow.h"
 #include "PutBackDialog.h"
+#include "database/HostNodeDB.h"
 #include "ko/OutsideText.h"
 
 #include <QAction>
@@ -57,13 +58,12 @@ void UndoCommands::retranslate()
 
 void UndoCommands::run(UndoStack::Direction direction)
 {
-    if (m_stack.isEmpty(direction))
-        return;
-    const QString title = m_stack.title(direction);
     HostNodeDB& db = m_window.database();
+    db.flush(); // what waits is undone first, and nothing is redone after it
+    const QString title = m_stack.title(direction);
     const std::optional<PutBack> shown = m_stack.preview(direction);
     if (!shown)
-        return; // what cannot be read is said by itself
+        return; // there is none any more, or it cannot be read, which is said by itself
     PutBackDialog dialog(
         [this, direction] { return m_stack.title(direction); }, *shown, PutBackDialog::words(db),
         [this, direction](const PutBack& putBack) { return m_stack.apply(direction, putBack); }, &m_window);

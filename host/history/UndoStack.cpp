@@ -65,12 +65,17 @@ QString UndoStack::title(Direction direction) const
 
 std::optional<PutBack> UndoStack::preview(Direction direction) const
 {
+    m_db.flush(); // what waits to be stored is the last step, and the end of what was undone
+    if (isEmpty(direction))
+        return std::nullopt;
     const std::optional<ChangeSet> set = m_db.history().changeSet(steps(direction).last().last);
     return set ? PuttingBack::preview(m_db, Alterations::of(*set)) : std::nullopt;
 }
 
 PuttingBack::Outcome UndoStack::apply(Direction direction, const PutBack& shown)
 {
+    if (isEmpty(direction))
+        return PuttingBack::Outcome();
     const Step step = steps(direction).takeLast();
     const std::optional<ChangeSetRow> row = m_db.history().row(step.last);
     const Cause cause = Cause::undoing(row ? QVector<Cause>{row->cause} : QVector<Cause>());

@@ -27,7 +27,8 @@ public:
     /// What the next one was called when it was done; empty if there is none.
     QString title(Direction direction) const;
 
-    /// What the next one would put back; none if it cannot be read. There must be one.
+    /// What the next one would put back, once what waits is stored; none if there is none any more, or it
+    /// cannot be read.
     std::optional<PutBack> preview(Direction direction) const;
 
     /// Does it. If anything was done, the step can be taken in the other direction next.

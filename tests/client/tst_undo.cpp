@@ -54,9 +54,14 @@ private slots:
     void passwordsAreHidden();
     void keyboard();
     void manyLines();
+    void whatWaitsCounts();
 
 private:
     QString state() const { return testsupport::stateOf(m_host->fileName()); }
+    void setModelNow(const QString& name, const QString& model)
+    {
+        testsupport::setText(*m_host->db(), idOf(name), "Model", model);
+    }
     QAction* action(const char* name) const { return child<QAction>(m_window.get(), name); }
     QString said() const { return m_window->statusBar()->currentMessage(); }
     QString idOf(const QString& name) const;
@@ -93,7 +98,7 @@ QString tst_Undo::idOf(const QString& name) const
 
 void tst_Undo::setModel(const QString& name, const QString& model)
 {
-    testsupport::setText(*m_host->db(), idOf(name), "Model", model);
+    setModelNow(name, model);
     settle();
 }
 
@@ -393,6 +398,25 @@ void tst_Undo::manyLines()
         confirm(dialog);
     });
     QCOMPARE(int(db.nodeIdList(IPDeviceType).size()), 2);
+}
+
+/// A key that is hit before the turn of the change has ended.
+void tst_Undo::whatWaitsCounts()
+{
+    setModel("Gate north", "one");
+    run("actionUndo", confirm);
+    QVERIFY(action("actionRedo")->isEnabled());
+    setModelNow("Gate north", "two");
+    trigger("actionRedo"); // opens nothing: there is nothing to redo any more
+    settle();
+    QVERIFY(!action("actionRedo")->isEnabled());
+
+    setModelNow("Gate north", "three");
+    const Answers answers({confirm});
+    trigger("actionUndo"); // of that, not of what was before
+    QCOMPARE(answers.opened(), QStringList("PutBackDialog"));
+    settle();
+    QCOMPARE(testsupport::text(*m_host->db(), idOf("Gate north"), "Model"), QString("two"));
 }
 
 KO_TEST_MAIN(tst_Undo)
