@@ -152,6 +152,7 @@ function(ko_library name)
         AUTOGEN_BUILD_DIR ${CMAKE_CURRENT_BINARY_DIR}/moc # NAME_autogen may hold headers of forms from older builds
         INSTALL_RPATH "$ORIGIN")
     target_compile_definitions(${name} PRIVATE KO_BUILD_${upper})
+    target_compile_features(${name} PUBLIC cxx_std_17) # the headers; not every compiler's default
     target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}) # of the forms
     target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
     target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES ${headers})

@@ -152,7 +152,9 @@ void TestRunAlone::twoImportsOfOneList()
     list.write("name,address\n");
     for (int i = 0; i < Lines; ++i) // every second one is found by its name
         list.write("Camera " + QByteArray::number(i) +
-                   (i % 2 ? ",10.0.0." + QByteArray::number(i) : QByteArray(",")) + '\n');
+                   (i % 2 ? ",10.0." + QByteArray::number(i / 250) + '.' + QByteArray::number(i % 250)
+                          : QByteArray(",")) +
+                   '\n');
     list.close();
     std::vector<std::unique_ptr<QProcess>> programs;
     for (int i = 0; i < Programs; ++i) {
