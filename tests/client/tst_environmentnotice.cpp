@@ -91,6 +91,7 @@ void tst_EnvironmentNotice::typingInANewNodeGoesToItsName()
     run("actionAdd", [](QDialog* dialog) {
         QTest::keyClicks(QApplication::focusWidget(), "Office");
         QCOMPARE(child<QLineEdit>(dialog, "nameLineEdit")->text(), QString("Office"));
+        const ModalAnswer answer(ModalAnswer::press("Discard"));
         QTest::keyClick(dialog, Qt::Key_Escape);
     });
     QCOMPARE(m_host->db()->activeEnvironment(), QString("{h}"));
