@@ -74,9 +74,10 @@ bool agreesToDiscard(QDialog& dialog)
     return box.clickedButton() == static_cast<const QAbstractButton*>(discard);
 }
 
+/// By its user. Qt 6 also closes a dialog that was accepted, or cancelled by its button.
 bool wouldClose(const QEvent& event)
 {
-    return event.type() == QEvent::Close ||
+    return (event.type() == QEvent::Close && event.spontaneous()) ||
            (event.type() == QEvent::KeyPress &&
             static_cast<const QKeyEvent&>(event).matches(QKeySequence::Cancel));
 }

@@ -2,12 +2,14 @@
 #include "support/Answers.h"
 #include "support/TestMain.h"
 
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
+#include <QtTest/qtestspontaneevent.h>
 
 using namespace ko;
 using testsupport::Answers;
@@ -28,6 +30,14 @@ void rename(QDialog* dialog, const QString& name)
     auto* field = child<QLineEdit>(dialog, "nameLineEdit");
     field->selectAll();
     QTest::keyClicks(field, name);
+}
+
+/// By the button that the window manager draws.
+void closeAsUser(QWidget* window)
+{
+    QCloseEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(window, &event); // sendEvent() would say that it comes from the program
 }
 
 } // namespace
@@ -86,7 +96,7 @@ void tst_UnsavedEdits::closeButtonAsks()
     const Answers answers({[](QDialog* editor) {
                                child<QTabWidget>(editor, "tabWidget")->setCurrentIndex(0);
                                child<QSpinBox>(editor, "portSpinBox")->setValue(8080);
-                               editor->close();
+                               closeAsUser(editor);
                                QVERIFY(editor->isVisible());
                                press(editor, QDialogButtonBox::Ok);
                            },
