@@ -65,7 +65,7 @@ QString name(const QString& cell, QString* reason)
 /// What is more than a host has columns of its own: here it would be taken for a part of the name.
 QString address(const QString& cell, QString* reason)
 {
-    const QString text = OutsideText::fit(lineOfText(cell.trimmed(), reason)).trimmed();
+    QString text = OutsideText::fit(lineOfText(cell.trimmed(), reason)).trimmed();
     const AddressText address = AddressText::parse(text);
     if (!reason->isEmpty())
         return text;

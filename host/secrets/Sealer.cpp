@@ -63,9 +63,8 @@ QByteArray keyedHash(const unsigned char* key, const QByteArray& message, int si
 QByteArray signature(const unsigned char* key, const QByteArray& message)
 {
     QByteArray signing = keyedHash(key, QByteArrayLiteral("konodeui signature"), Sealer::KeySize);
-    const QByteArray result =
-        keyedHash(bytes(std::as_const(signing)), QByteArrayLiteral("name"), KeyNameSize) +
-        keyedHash(bytes(std::as_const(signing)), "message" + message, SignatureSize);
+    QByteArray result = keyedHash(bytes(std::as_const(signing)), QByteArrayLiteral("name"), KeyNameSize) +
+                        keyedHash(bytes(std::as_const(signing)), "message" + message, SignatureSize);
     sodium_memzero(signing.data(), size_t(signing.size()));
     return result;
 }
