@@ -83,8 +83,9 @@ void open(MainWindow& window, const QString& id, bool readOnly)
     const LayoutAdapter layouts;
     EditNodeDialog dialog(id, &window, readOnly, EditFlags, &layouts);
     QObject::connect(&window.database(), &NodeDB::nodeUpdated, &dialog, [&](const NodeID& updated) {
-        const kom::smart<const Node> node = NodeDB::getDB()->node(id);
-        if (updated == id && !node.null())
+        const kom::smart<const Node> node =
+            updated == id ? window.database().node(id) : kom::smart<const Node>();
+        if (!node.null())
             dialog.setWindowTitle(
                 EditNodeDialog::tr("Properties of %1").arg(inWindowTitle(calledInTitles(*node))));
     });
