@@ -20,13 +20,14 @@ LogLink LogChain::link(const char* order) const
 
 LogEnd LogChain::where() const
 {
-    const LogLink end = last();
+    const LogLink end = link("DESC");
     return end.number == 0 ? LogEnd() : LogEnd{link("ASC").hash, end.number, end.hash};
 }
 
 void LogChain::begin()
 {
-    if (last().number != 0) {
+    m_last = link("DESC");
+    if (m_last.number != 0) {
         add(LogLink::Foreign);
         return;
     }
@@ -34,7 +35,7 @@ void LogChain::begin()
     first.kind = LogLink::Beginning;
     first.checks.resize(16);
     randombytes_buf(first.checks.data(), size_t(first.checks.size()));
-    insert(first, first.hash, QByteArray());
+    insert(first, QByteArray());
     add(LogLink::Older);
 }
 
@@ -45,20 +46,20 @@ void LogChain::end()
 
 void LogChain::add(char kind)
 {
-    while (addOne(kind, last())) {
+    while (addOne(kind)) {
     }
 }
 
 /// Returns whether there may be more rows than those of this link.
-bool LogChain::addOne(char kind, const LogLink& before)
+bool LogChain::addOne(char kind)
 {
     LogLink link;
     link.kind = kind;
-    link.ends = before.ends;
+    link.ends = m_last.ends;
     QByteArray hashes;
     int count = 0;
     for (int table = 0; table < LogRows::Tables; ++table) {
-        LogRows rows(m_handle, m_file, table, before.ends[size_t(table)]);
+        LogRows rows(m_handle, m_file, table, m_last.ends[size_t(table)]);
         for (; !rows.isAtEnd() && count < MostRows; rows.next(), ++count) {
             link.ends[size_t(table)] = rows.number();
             ++link.counts[size_t(table)];
@@ -67,7 +68,7 @@ bool LogChain::addOne(char kind, const LogLink& before)
         }
     }
     if (count > 0)
-        insert(link, before.hash, hashes);
+        insert(link, hashes);
     return count == MostRows;
 }
 
@@ -84,10 +85,10 @@ qint64 LogChain::nextNumber() const
     return rows.number(0);
 }
 
-void LogChain::insert(LogLink link, const QByteArray& before, const QByteArray& rowHashes)
+void LogChain::insert(LogLink link, const QByteArray& rowHashes)
 {
     link.number = nextNumber();
-    link.hash = link.beginHash(before).add(rowHashes).result();
+    link.hash = link.beginHash(m_last.hash).add(rowHashes).result();
     link.seal = m_sealer.sign(link.hash);
     SqliteRows row(
         m_handle, m_file,
@@ -99,6 +100,7 @@ void LogChain::insert(LogLink link, const QByteArray& before, const QByteArray& 
     row.bind(10, link.hash);
     row.bind(11, link.seal);
     row.next();
+    m_last = link;
 }
 
 } // namespace ko

@@ -29,20 +29,20 @@ public:
     /// by others: they get links that say so.
     void begin();
 
-    /// After everything is logged.
+    /// After everything is logged; begin() comes before.
     void end();
 
 private:
     LogLink link(const char* order) const;
-    LogLink last() const { return link("DESC"); }
     void add(char kind);
-    bool addOne(char kind, const LogLink& before);
+    bool addOne(char kind);
     qint64 nextNumber() const;
-    void insert(LogLink link, const QByteArray& before, const QByteArray& rowHashes);
+    void insert(LogLink link, const QByteArray& rowHashes);
 
     sqlite3* const m_handle;
     const QString m_file;
     const Sealer& m_sealer;
+    LogLink m_last; ///< since begin(): nobody else writes
 };
 
 } // namespace ko
