@@ -88,12 +88,6 @@ private:
     int m_round = 0;
 };
 
-template <class Kind, class Option>
-std::function<std::unique_ptr<Contest>(int)> make(Option option)
-{
-    return [option](int size) { return std::make_unique<Kind>(size, option); };
-}
-
 } // namespace
 
 QVector<Workload> backupWorkloads()

@@ -349,12 +349,6 @@ private:
     qint64 m_read = 0;
 };
 
-template <class Kind, class Option>
-std::function<std::unique_ptr<Contest>(int)> make(Option option)
-{
-    return [option](int size) { return std::make_unique<Kind>(size, option); };
-}
-
 } // namespace
 
 QVector<Workload> changeWorkloads()

@@ -332,12 +332,6 @@ private:
     bool m_first = true;
 };
 
-template <class Kind>
-std::unique_ptr<Contest> make(int size)
-{
-    return std::make_unique<Kind>(size);
-}
-
 } // namespace
 
 QVector<Workload> dialogWorkloads()
@@ -347,17 +341,17 @@ QVector<Workload> dialogWorkloads()
          QStringLiteral("QTableWidget filled with sorting off"),
          2.0,
          {1000, 10000},
-         make<Assigning>},
+         make<Assigning>()},
         {QStringLiteral("user and password for all cameras, to disk"),
          QStringLiteral("raw SQLite, the same rows in one transaction"),
          3.0,
          {1000},
-         make<Authenticating>},
+         make<Authenticating>()},
         {QStringLiteral("recording folders for all cameras moved, to disk"),
          QStringLiteral("raw SQLite, the same rows in one transaction"),
          3.0,
          {1000},
-         make<MassAssigning>},
+         make<MassAssigning>()},
         {QStringLiteral("dialog of a camera, the first since the start, to its first picture"),
          QStringLiteral("the same pages without a database"), 1.5, allSizes,
          [](int size) { return std::make_unique<Editing>(size, Editing::When::First); }, false, 12,
@@ -370,8 +364,8 @@ QVector<Workload> dialogWorkloads()
          QStringLiteral("The camera is looked for in the list of all, to leave it out of its own audio "
                         "sources.")},
         {QStringLiteral("OK in that dialog, until the click returns and the disk has it"),
-         QStringLiteral("the same change without a window, to disk and log"), 1.5, allSizes, make<ClickingOk>,
-         false, 2.4,
+         QStringLiteral("the same change without a window, to disk and log"), 1.5, allSizes,
+         make<ClickingOk>(), false, 2.4,
          QStringLiteral("The pages write each of their fields, of which one differs; the other side writes "
                         "that one.")},
     };

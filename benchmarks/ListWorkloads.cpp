@@ -338,37 +338,31 @@ private:
     const QVector<NodeSummary> m_nodes;
 };
 
-template <class Kind>
-std::unique_ptr<Contest> make(int size)
-{
-    return std::make_unique<Kind>(size);
-}
-
 } // namespace
 
 QVector<Workload> listWorkloads()
 {
     return {
         {QStringLiteral("database viewer, to its first picture"),
-         QStringLiteral("QTableView and proxy over rows in a QVector"), 1.5, allSizes, make<Viewing>},
+         QStringLiteral("QTableView and proxy over rows in a QVector"), 1.5, allSizes, make<Viewing>()},
         {QStringLiteral("database viewer, to its first picture"),
-         QStringLiteral("QSqlTableModel, all rows, same view"), 0.58, allSizes, make<ViewingBySql>},
+         QStringLiteral("QSqlTableModel, all rows, same view"), 0.58, allSizes, make<ViewingBySql>()},
         {QStringLiteral("client's list: first picture"), QStringLiteral("the same view over the plain model"),
-         1.3, allSizes, make<FirstPaint>, false},
+         1.3, allSizes, make<FirstPaint>(), false},
         {QStringLiteral("client's list: two keys in the search field"),
          QStringLiteral("the proxy's own filter"),
          0.025,
          {100000},
-         make<Typing>},
+         make<Typing>()},
         {QStringLiteral("client's list: sort by name"), QStringLiteral("the proxy's own sort"), 0.6, allSizes,
-         make<Sorting>, true, 1.1,
+         make<Sorting>(), true, 1.1,
          QStringLiteral("With 1,000 rows both spend their time in the view, which is laid out and painted "
                         "again.")},
         {QStringLiteral("nodes arriving one by one in the open, sorted overview"),
          QStringLiteral("the same rows into the plain sorted model"),
          1.3,
          {1000, 10000},
-         make<Flood>,
+         make<Flood>(),
          true,
          2.0,
          QStringLiteral("By callgrind a node takes 1.24 times the instructions of a plain row (194 million "
@@ -378,7 +372,7 @@ QVector<Workload> listWorkloads()
          QStringLiteral("the plain sorted model and raw SQLite in one transaction"),
          2.0,
          {1000, 10000},
-         make<StoredFlood>},
+         make<StoredFlood>()},
     };
 }
 

@@ -228,21 +228,15 @@ private:
     const bool m_readAll;
 };
 
-template <class Kind>
-std::unique_ptr<Contest> make(int size)
-{
-    return std::make_unique<Kind>(size);
-}
-
 } // namespace
 
 QVector<Workload> storeWorkloads()
 {
     return {
         {QStringLiteral("open the database: ids, types and names ready"),
-         QStringLiteral("raw SQLite reading the same columns"), 1.7, allSizes, make<Opening>},
+         QStringLiteral("raw SQLite reading the same columns"), 1.7, allSizes, make<Opening>()},
         {QStringLiteral("OK in the dialog of a camera, to disk and log"),
-         QStringLiteral("raw SQLite, the same rows in one transaction"), 1.8, allSizes, make<Confirming>,
+         QStringLiteral("raw SQLite, the same rows in one transaction"), 1.8, allSizes, make<Confirming>(),
          false, 2.2,
          QStringLiteral(
              "Each commit reads what it has logged once more, for a link of the chain over the logs.")},
@@ -250,7 +244,7 @@ QVector<Workload> storeWorkloads()
          QStringLiteral("a plain parser and raw SQLite in one transaction"),
          2.3,
          {1000, 10000},
-         make<Importing>,
+         make<Importing>(),
          true,
          2.9,
          QStringLiteral(

@@ -33,6 +33,13 @@ struct Workload
     QString why{};   ///< and what stands in the way
 };
 
+/// Makes contests of this kind, which takes the size first.
+template <class Kind, class... Options>
+std::function<std::unique_ptr<Contest>(int)> make(Options... options)
+{
+    return [=](int size) { return std::make_unique<Kind>(size, options...); };
+}
+
 const QVector<int> allSizes = {1000, 10000, 100000};
 
 /// The workloads of one subject, in the order of the table.
