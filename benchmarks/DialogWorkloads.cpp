@@ -205,6 +205,16 @@ private:
     QVector<QStringList> m_rows;
 };
 
+const char setProperties[] =
+    "UPDATE node_properties SET properties = ? WHERE node = (SELECT n FROM nodes WHERE id = ?)";
+
+/// Those of a camera, one of which differs.
+QString propertiesWith(const QString& key, const QString& value)
+{
+    static const QString json = propertiesOfACamera();
+    return json.left(json.size() - 1) + QStringLiteral(",\"%1\":[0,\"%2\"]}").arg(key, value);
+}
+
 /// What both dialogs for many cameras have in common: a database of cameras, and one for the baseline.
 class ManyCameras : public Contest
 {
@@ -259,13 +269,12 @@ public:
     {
         const QString user = QStringLiteral("user %1").arg(++m_round);
         return milliseconds([&] {
-            RawSqlite::Statement set(m_raw, "INSERT OR REPLACE INTO properties (node, key, type, value)"
-                                            " VALUES ((SELECT n FROM nodes WHERE id = ?), ?, 0, ?)");
+            RawSqlite::Statement set(m_raw, setProperties);
             RawSqlite::Statement change(m_raw, "INSERT INTO changes (kind, id) VALUES ('N', ?)");
+            const QString properties = propertiesWith(QStringLiteral("User"), user);
             m_raw.run("BEGIN IMMEDIATE");
             for (const QString& id : std::as_const(m_ids)) {
-                for (const char* key : {"User", "Password", "CredentialsEntered"})
-                    set.bind(1, id).bind(2, QLatin1String(key)).bind(3, user).execute();
+                set.bind(1, properties).bind(2, id).execute();
                 change.bind(1, id).execute();
             }
             m_raw.run("COMMIT");
@@ -302,12 +311,12 @@ public:
             RawSqlite::Statement relate(m_raw, "INSERT INTO relations (source, destination, type) VALUES"
                                                " ((SELECT n FROM nodes WHERE id = ?),"
                                                " (SELECT n FROM nodes WHERE id = ?), 1)");
-            RawSqlite::Statement set(m_raw, "INSERT OR REPLACE INTO properties (node, key, type, value)"
-                                            " VALUES ((SELECT n FROM nodes WHERE id = ?), ?, 0, ?)");
+            RawSqlite::Statement set(m_raw, setProperties);
             RawSqlite::Statement usage(m_raw, "UPDATE nodes SET recording = 2 WHERE id = ?");
             RawSqlite::Statement location(m_raw, "UPDATE nodes SET location = ?, lookup = ? WHERE id = ?");
             RawSqlite::Statement change(m_raw, "INSERT INTO changes (kind, id) VALUES ('N', ?)");
             const QString path = QStringLiteral("/mnt/%1").arg(++m_round);
+            const QString camera = propertiesWith(QStringLiteral("RecordingStorageUsage"), path);
             m_raw.run("BEGIN IMMEDIATE");
             for (const QString& id : std::as_const(m_ids)) {
                 NodeSummary folder;
@@ -316,11 +325,11 @@ public:
                 if (first) {
                     inserter.insert(folder);
                     relate.bind(1, id).bind(2, folder.id).execute();
-                    set.bind(1, id).bind(2, QStringLiteral("RecordingStorageUsage")).bind(3, path).execute();
+                    set.bind(1, camera).bind(2, id).execute();
                     usage.bind(1, id).execute();
                     change.bind(1, id).execute();
                 }
-                set.bind(1, folder.id).bind(2, QStringLiteral("Path")).bind(3, path + id).execute();
+                set.bind(1, propertiesWith(QStringLiteral("Path"), path + id)).bind(2, folder.id).execute();
                 location.bind(1, path + id).bind(2, path + id).bind(3, folder.id).execute();
                 change.bind(1, folder.id).execute();
             }

@@ -10,26 +10,21 @@ namespace bench {
 
 using namespace ko;
 
-namespace {
-
-/// All that a new camera carries.
-QMap<QString, QVariant> propertiesOfACamera()
+QString propertiesOfACamera()
 {
-    const NodeData data = NodeTypes::dataOf(*NodeTypes::driver(IPDeviceType)->createNodeHint(IPDeviceType));
-    QMap<QString, QVariant> properties;
-    for (const auto& property : data.properties)
-        properties.insert(property.name, property.value);
-    return properties;
+    QString json;
+    PropertyCoding::appendJson(
+        &json, NodeTypes::dataOf(*NodeTypes::driver(IPDeviceType)->createNodeHint(IPDeviceType)).properties);
+    return json;
 }
-
-} // namespace
 
 RawInserter::RawInserter(RawSqlite& database)
     : m_database(database)
     , m_properties(propertiesOfACamera())
     , m_node(database, "INSERT INTO nodes (id, type, name, location, recording, lookup)"
                        " VALUES (?, 2, ?, ?, 0, ?)")
-    , m_property(database, "INSERT INTO properties (node, key, type, value) VALUES (?, ?, ?, ?)")
+    , m_property(database,
+                 "INSERT INTO node_properties (node, properties, mac, extension) VALUES (?, ?, '', '')")
     , m_change(database, "INSERT INTO changes (kind, id) VALUES ('N', ?)")
 {
 }
@@ -41,12 +36,7 @@ void RawInserter::insert(const NodeSummary& camera)
         .bind(3, camera.location)
         .bind(4, camera.location)
         .execute();
-    const qint64 node = m_database.lastRow();
-    for (auto property = m_properties.begin(); property != m_properties.end(); ++property) {
-        const PropertyCoding::Stored stored = PropertyCoding::encode(property.value());
-        m_property.bind(1, node).bind(2, property.key()).bind(3, qint64(stored.type));
-        m_property.bind(4, stored.value.toString()).execute();
-    }
+    m_property.bind(1, m_database.lastRow()).bind(2, m_properties).execute();
     m_change.bind(1, camera.id).execute();
 }
 

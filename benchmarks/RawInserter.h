@@ -6,6 +6,9 @@
 
 namespace bench {
 
+/// All that a new camera carries, as it is stored.
+QString propertiesOfACamera();
+
 /// Inserts cameras through the database library alone: the rows that the host writes for the same ones.
 class RawInserter
 {
@@ -16,7 +19,7 @@ public:
 
 private:
     RawSqlite& m_database;
-    const QMap<QString, QVariant> m_properties;
+    const QString m_properties;
     RawSqlite::Statement m_node;
     RawSqlite::Statement m_property;
     RawSqlite::Statement m_change;

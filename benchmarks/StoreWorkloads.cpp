@@ -114,7 +114,8 @@ private:
     QString m_last;
     int m_count = 0;
     RawSqlite::Statement m_update{m_raw, "UPDATE nodes SET name = ? WHERE id = ?"};
-    RawSqlite::Statement m_property{m_raw, "UPDATE properties SET value = ? WHERE key = 'Model' AND node ="
+    RawSqlite::Statement m_property{m_raw, "UPDATE node_properties SET properties = json_set(properties,"
+                                           " '$.Model', json_array(0, ?)) WHERE node ="
                                            " (SELECT n FROM nodes WHERE id = ?)"};
     RawSqlite::Statement m_audit{
         m_raw, "INSERT INTO audit (time, user, host, code, data) VALUES (0, 'user', 'host', 1, ?)"};
@@ -216,7 +217,9 @@ public:
         while (lists.next())
             bytes += 2.0 * double(lists.text(0).size() + lists.text(1).size() + lists.text(2).size());
         if (m_readAll) {
-            RawSqlite::Statement values(database, "SELECT key, value FROM properties");
+            RawSqlite::Statement values(database,
+                                        "SELECT key, json_extract(value, '$[1]') FROM node_properties,"
+                                        " json_each(properties)");
             while (values.next())
                 bytes += 2.0 * double(values.text(0).size() + values.text(1).size());
         }

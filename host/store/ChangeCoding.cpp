@@ -52,9 +52,9 @@ QString text(const std::optional<NodeValues>& values, const NodeChange& change)
     PropertyCoding::appendJson(&json, values->properties);
     if (!change.isUpdated()) {
         appendKey(&json, Type);
-        JsonText::appendNumber(&json, change.type);
+        JsonText::appendNumber(&json, qint64(change.type));
         appendKey(&json, Place);
-        JsonText::appendNumber(&json, double(change.place));
+        JsonText::appendNumber(&json, change.place);
     }
     json.append(QLatin1Char('}'));
     return json;

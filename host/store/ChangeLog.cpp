@@ -197,14 +197,14 @@ QVector<ChangeSetRow> ChangeLog::silentSets(qint64 before, int count)
 void ChangeLog::addAudit(qint64 changeSet, const AuditRow& row)
 {
     m_store.run("INSERT INTO audit (time, user, host, code, data, change_set) VALUES (?, ?, ?, ?, ?, ?)",
-                {row.time, notNull(row.user), notNull(row.host), row.code, notNull(row.data),
-                 changeSet ? QVariant(changeSet) : QVariant()});
+                {row.time, notNull(row.user), notNull(row.host), qint64(row.code), notNull(row.data),
+                 changeSet ? SqlValue(changeSet) : SqlValue()});
 }
 
 QVector<AuditRow> ChangeLog::audit(const LogRange& range)
 {
     QVector<AuditRow> result;
-    const QVariantList limits = {range.count, range.skip};
+    const std::initializer_list<SqlValue> limits = {range.count, range.skip};
     SqliteStore::Rows rows =
         range.newestFirst ? m_store.run("SELECT seq, time, user, host, code, data, change_set FROM audit"
                                         " ORDER BY seq DESC LIMIT ? OFFSET ?",

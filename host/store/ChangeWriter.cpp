@@ -43,25 +43,26 @@ void ChangeWriter::addNode(NodeChange change)
 {
     change.place = m_tables.insertNode(change.place, change.summary, change.lookupKey);
     seal(change.id, &change.after->properties);
-    for (const PropertyList::Entry& entry : std::as_const(change.after->properties))
-        m_tables.setProperty(change.place, entry.name, entry.value);
+    m_tables.setProperties(change.place, change.after->properties);
     m_places.insert(change.id, change.place);
     note(change);
 }
 
 void ChangeWriter::updateNode(NodeChange change)
 {
-    const qint64 n = m_tables.number(change.id);
-    if (n == 0) {
+    std::optional<StoredProperties> stored = m_tables.properties(change.id);
+    if (!stored) {
         m_missing.append(change.id);
         return;
     }
-    m_tables.updateNode(n, change.summary, change.lookupKey);
+    m_tables.updateNode(stored->n, change.summary, change.lookupKey);
     seal(change.id, &change.before->properties);
     seal(change.id, &change.after->properties);
     const auto changes = PropertyList::difference(change.before->properties, change.after->properties);
     for (const PropertyList::Entry& entry : changes)
-        m_tables.setProperty(n, entry.name, entry.value);
+        stored->list.set(entry.name, entry.value);
+    if (!changes.isEmpty())
+        m_tables.setProperties(stored->n, stored->list);
     note(change);
 }
 
@@ -75,7 +76,7 @@ void ChangeWriter::removeNode(const NodeChange& change)
     whole.id = change.id;
     whole.type = row.summary.type();
     whole.place = row.place;
-    whole.before = NodeValues{row.summary.name(), m_tables.properties(change.id).value_or(PropertyList())};
+    whole.before = NodeValues{row.summary.name(), m_tables.properties(change.id)->list};
     const QVector<RelationChange> relations = m_tables.relationsOf(row.place);
     for (const RelationChange& relation : relations)
         note(relation);

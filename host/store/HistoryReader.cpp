@@ -71,7 +71,7 @@ QString inJson(const QString& text)
     return json.mid(1, json.size() - 2);
 }
 
-QVariantList wanted(const HistoryFilter& filter)
+QVector<SqlValue> wanted(const HistoryFilter& filter)
 {
     const QString purpose = filter.purpose ? Purposes::word(*filter.purpose) : QString::fromLatin1("");
     const QString key = filter.property.isEmpty()
@@ -106,7 +106,7 @@ std::optional<ChangeSetRow> HistoryReader::row(qint64 number)
 HistoryPage HistoryReader::page(const HistoryFilter& filter, qint64 before, int count)
 {
     const bool isOfNodes = !filter.nodes.isEmpty();
-    QVariantList among = {before, count};
+    QVector<SqlValue> among = {before, count};
     if (isOfNodes)
         among.prepend(QString::fromUtf8(
             QJsonDocument(QJsonArray::fromStringList(filter.nodes)).toJson(QJsonDocument::Compact)));

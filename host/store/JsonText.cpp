@@ -33,6 +33,11 @@ void appendNumber(QString* json, double number)
                                        : QString::fromLatin1("null"));
 }
 
+void appendNumber(QString* json, qint64 number)
+{
+    json->append(QString::number(number));
+}
+
 } // namespace JsonText
 
 } // namespace ko

@@ -13,6 +13,7 @@ void appendText(QString* json, const QString& text);
 
 /// Anything that is not finite is no number in JSON, and becomes null.
 void appendNumber(QString* json, double number);
+void appendNumber(QString* json, qint64 number);
 
 } // namespace JsonText
 

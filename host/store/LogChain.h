@@ -20,10 +20,10 @@ public:
     enum Limits { MostRows = 10000 /* of a link */ };
 
     /// \a sealer lives as long as this. Without a key, links are not sealed.
-    LogChain(sqlite3* handle, const QString& file, const Sealer& sealer);
+    LogChain(SqliteFile& file, const Sealer& sealer);
 
     /// The link that is the last one now.
-    LogEnd where() const;
+    LogEnd where();
 
     /// Before anything is logged. Rows over which there is no link are older than the chain, or were put in
     /// by others: they get links that say so.
@@ -33,14 +33,13 @@ public:
     void end();
 
 private:
-    LogLink link(const char* order) const;
+    LogLink link(const char* sql);
     void add(char kind);
     bool addOne(char kind);
-    qint64 nextNumber() const;
+    qint64 nextNumber();
     void insert(LogLink link, const QByteArray& rowHashes);
 
-    sqlite3* const m_handle;
-    const QString m_file;
+    SqliteFile& m_file;
     const Sealer& m_sealer;
     LogLink m_last; ///< since begin(): nobody else writes
 };

@@ -51,8 +51,8 @@ QByteArray LogHash::result()
     return bytes;
 }
 
-LogRows::LogRows(sqlite3* handle, const QString& file, int table, qint64 after)
-    : m_rows(handle, file, tables[size_t(table)].rows, {after})
+LogRows::LogRows(SqliteFile& file, int table, qint64 after)
+    : m_rows(file.run(tables[size_t(table)].rows, {after}))
     , m_columns(tables[size_t(table)].columns)
 {
     next();
@@ -73,10 +73,7 @@ void LogRows::next()
     m_hash = hash.result();
 }
 
-const char LogLink::Columns[] =
-    " seq, kind, set_end, change_end, audit_end, sets, changes, audits, checks, hash, seal ";
-
-LogLink LogLink::from(const SqliteRows& rows)
+LogLink LogLink::from(const SqliteFile::Rows& rows)
 {
     const auto bytes = [&rows](int column) {
         const std::string_view value = rows.utf8(column);

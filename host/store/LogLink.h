@@ -2,7 +2,7 @@
 #define KO_LOGLINK_H
 
 #include "model/LogFinding.h"
-#include "store/SqliteRows.h"
+#include "store/SqliteFile.h"
 
 #include <QByteArray>
 
@@ -35,7 +35,7 @@ class LogRows
 public:
     static constexpr int Tables = 3; ///< as in LogFinding
 
-    LogRows(sqlite3* handle, const QString& file, int table, qint64 after);
+    LogRows(SqliteFile& file, int table, qint64 after);
 
     bool isAtEnd() const { return m_isAtEnd; }
     qint64 number() const { return m_number; }
@@ -43,12 +43,15 @@ public:
     void next();
 
 private:
-    SqliteRows m_rows;
+    SqliteFile::Rows m_rows;
     const int m_columns;
     bool m_isAtEnd = false;
     qint64 m_number = 0;
     QByteArray m_hash;
 };
+
+#define KO_LINK_COLUMNS                                                                                      \
+    " seq, kind, set_end, change_end, audit_end, sets, changes, audits, checks, hash, seal "
 
 /// A link of the chain over the logs; see LogChain.
 struct LogLink
@@ -73,9 +76,8 @@ struct LogLink
     QByteArray hash = QByteArray(LogHash::Size, '\0');
     QByteArray seal; ///< under the key; empty without one
 
-    /// The columns that follow SELECT and FROM.
-    static const char Columns[];
-    static LogLink from(const SqliteRows& rows);
+    /// Of the columns KO_LINK_COLUMNS.
+    static LogLink from(const SqliteFile::Rows& rows);
 
     /// The hash with the one of the link before; those of the rows are to be added.
     LogHash beginHash(const QByteArray& before) const;

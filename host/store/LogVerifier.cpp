@@ -78,9 +78,8 @@ private:
 
 } // namespace
 
-LogVerifier::LogVerifier(sqlite3* handle, const QString& file, const Sealer& sealer, const GoOn& goOn)
-    : m_handle(handle)
-    , m_file(file)
+LogVerifier::LogVerifier(SqliteFile& file, const Sealer& sealer, const GoOn& goOn)
+    : m_file(file)
     , m_sealer(sealer)
     , m_goOn(goOn)
 {
@@ -89,9 +88,8 @@ LogVerifier::LogVerifier(sqlite3* handle, const QString& file, const Sealer& sea
 std::optional<LogReport> LogVerifier::run(const LogEnd& known)
 {
     for (int table = 0; table < LogRows::Tables; ++table)
-        m_rows.emplace_back(m_handle, m_file, table, LogLink::BeforeAll);
-    const QByteArray sql = QByteArray("SELECT") + LogLink::Columns + "FROM main.chain ORDER BY seq";
-    SqliteRows links(m_handle, m_file, sql.constData());
+        m_rows.emplace_back(m_file, table, LogLink::BeforeAll);
+    SqliteFile::Rows links = m_file.run("SELECT" KO_LINK_COLUMNS "FROM main.chain ORDER BY seq");
     LogLink last;
     while (!m_isEnded && links.next()) {
         const LogLink link = LogLink::from(links);

@@ -17,7 +17,7 @@ public:
     /// Is told how many rows were looked at; false ends it.
     typedef std::function<bool(qint64)> GoOn;
 
-    LogVerifier(sqlite3* handle, const QString& file, const Sealer& sealer, const GoOn& goOn);
+    LogVerifier(SqliteFile& file, const Sealer& sealer, const GoOn& goOn);
 
     /// \a known is where the log ended when it was seen before. None if it was ended.
     std::optional<LogReport> run(const LogEnd& known);
@@ -32,8 +32,7 @@ private:
     void addAtLink(LogFinding::Kind kind, const LogLink& link);
     void countRow();
 
-    sqlite3* const m_handle;
-    const QString m_file;
+    SqliteFile& m_file;
     const Sealer& m_sealer;
     const GoOn m_goOn;
     bool m_isEnded = false;

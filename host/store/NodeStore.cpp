@@ -85,7 +85,7 @@ NodeStore::Contents NodeStore::load(const std::function<void(qint64, const Packe
         contents.settings = d->tables.settings();
         contents.environments = d->tables.environments();
     }
-    d->connection->execute(QLatin1String("PRAGMA shrink_memory")); // nobody reads all those pages again
+    d->connection->execute("PRAGMA shrink_memory"); // nobody reads all those pages again
     return contents;
 }
 
@@ -109,7 +109,8 @@ Delta NodeStore::everything(const Wanted& wanted)
 
 std::optional<PropertyList> NodeStore::properties(const NodeID& id)
 {
-    return d->tables.properties(id);
+    const std::optional<StoredProperties> stored = d->tables.properties(id);
+    return stored ? std::make_optional(stored->list) : std::nullopt;
 }
 
 void NodeStore::properties(const QStringList& ids,
@@ -143,7 +144,7 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
 {
     Transaction transaction(*d->connection, Transaction::Write);
     const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
-    LogChain chain(d->connection->handle(), d->connection->fileName(), key->sealer);
+    LogChain chain(*d->connection, key->sealer);
     chain.begin();
     const Batch batch = merge(DeltaReader(d->tables, d->log, wanted).since(revision));
     ChangeWriter writer(d->tables, d->log, *d->vault);
@@ -196,11 +197,11 @@ std::optional<LogReport> NodeStore::verifyLogs(const QString& file, const LogEnd
         SqliteFile reader(file, SqliteFile::ReadOnly);
         StoreFile::checkHeader(file, StoreSchema::latest());
         reader.requireTables();
-        if (reader.text("PRAGMA user_version").toInt() < StoreSchema::FirstChained)
+        if (reader.value("PRAGMA user_version").toInt() < StoreSchema::FirstChained)
             return LogReport();
         const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
         reader.execute("BEGIN"); // one unchanging view
-        return LogVerifier(reader.handle(), file, key->sealer, goOn).run(known);
+        return LogVerifier(reader, key->sealer, goOn).run(known);
     } catch (const StoreFailure& failure) {
         *error = failure.error;
         return std::nullopt;
@@ -210,8 +211,9 @@ std::optional<LogReport> NodeStore::verifyLogs(const QString& file, const LogEnd
 LogEnd NodeStore::endOfLogs(const QString& file)
 {
     try {
-        const SqliteFile reader(file, SqliteFile::ReadOnly);
-        return LogChain(reader.handle(), file, Sealer()).where();
+        SqliteFile reader(file, SqliteFile::ReadOnly);
+        const Sealer none;
+        return LogChain(reader, none).where();
     } catch (const StoreFailure&) {
         return LogEnd();
     }

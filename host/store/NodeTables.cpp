@@ -1,6 +1,7 @@
 #include "store/NodeTables.h"
 
 #include "ko/LogQt.h"
+#include "ko/PropertyKeys.h"
 #include "store/PropertyCoding.h"
 
 #include <QJsonArray>
@@ -54,6 +55,14 @@ void take(const SqliteStore::Rows& rows, NodeRow* row)
     row->lookupKey = rows.text(6);
 }
 
+PropertyList propertiesOf(const NodeID& id, std::string_view json)
+{
+    const std::optional<PropertyList> list = PropertyCoding::listFromText(json);
+    if (!list)
+        LogQt::line(LogQt::Error, QString::fromLatin1("The properties of node %1 cannot be read").arg(id));
+    return list.value_or(PropertyList());
+}
+
 QStringList identifiers(SqliteStore::Rows rows)
 {
     QStringList ids;
@@ -71,7 +80,8 @@ NodeTables::NodeTables(SqliteStore& store)
 
 void NodeTables::forEachNode(const std::function<void(qint64, const PackedSummary&)>& visit)
 {
-    SqliteRows rows = m_store.read("SELECT n, id, type, name, location, recording FROM nodes ORDER BY n");
+    SqliteStore::Rows rows =
+        m_store.run("SELECT n, id, type, name, location, recording FROM nodes ORDER BY n");
     while (rows.next()) {
         const std::string_view id = rows.utf8(1);
         if (isIdentifier(id))
@@ -125,24 +135,15 @@ void NodeTables::forEachLookupKey(const std::function<void(const NodeID&, const 
         visit(rows.text(0), rows.text(1));
 }
 
-qint64 NodeTables::number(const NodeID& id)
+std::optional<StoredProperties> NodeTables::properties(const NodeID& id)
 {
-    return m_store.value("SELECT n FROM nodes WHERE id = ?", {notNull(id)}).toLongLong();
-}
-
-std::optional<PropertyList> NodeTables::properties(const NodeID& id)
-{
-    PropertyList properties;
-    {
-        SqliteStore::Rows rows = m_store.run("SELECT key, type, value FROM properties"
-                                             " WHERE node = (SELECT n FROM nodes WHERE id = ?) ORDER BY key",
-                                             {notNull(id)});
-        while (rows.next())
-            properties.set(rows.text(0), PropertyCoding::decode(int(rows.number(1)), rows.value(2)));
-    }
-    if (properties.count() == 0 && number(id) == 0)
+    SqliteStore::Rows rows =
+        m_store.run("SELECT n.n, p.properties FROM nodes n LEFT JOIN node_properties p ON p.node = n.n"
+                    " WHERE n.id = ?",
+                    {notNull(id)});
+    if (!rows.next())
         return std::nullopt;
-    return properties;
+    return StoredProperties{rows.number(0), propertiesOf(id, rows.utf8(1))};
 }
 
 void NodeTables::forEachProperties(const QStringList& ids,
@@ -150,21 +151,13 @@ void NodeTables::forEachProperties(const QStringList& ids,
 {
     for (int first = 0; first < ids.size(); first += idsOfAStatement) {
         SqliteStore::Rows rows =
-            m_store.run("SELECT n.id, p.key, p.type, p.value FROM json_each(?) j CROSS JOIN nodes n"
-                        " ON n.id = j.value LEFT JOIN properties p ON p.node = n.n ORDER BY j.key",
+            m_store.run("SELECT n.id, p.properties FROM json_each(?) j CROSS JOIN nodes n ON n.id = j.value"
+                        " LEFT JOIN node_properties p ON p.node = n.n ORDER BY j.key",
                         {jsonArray(ids.mid(first, idsOfAStatement))});
-        NodeID id;
-        PropertyList properties;
         while (rows.next()) {
-            const NodeID next = rows.text(0);
-            if (next != id && !id.isNull())
-                visit(id, std::exchange(properties, PropertyList()));
-            id = next;
-            if (!rows.value(1).isNull())
-                properties.set(rows.text(1), PropertyCoding::decode(int(rows.number(2)), rows.value(3)));
+            const NodeID id = rows.text(0);
+            visit(id, propertiesOf(id, rows.utf8(1)));
         }
-        if (!id.isNull())
-            visit(id, properties);
     }
 }
 
@@ -172,45 +165,42 @@ void NodeTables::forEachValue(const QString& key,
                               const std::function<void(const NodeID&, const QVariant&)>& visit)
 {
     SqliteStore::Rows rows = m_store.run(
-        "SELECT n.id, p.type, p.value FROM nodes n JOIN properties p ON p.node = n.n AND p.key = ?", {key});
+        "SELECT n.id, CASE WHEN json_valid(p.properties) THEN json_extract(p.properties, ?) END AS pair"
+        " FROM nodes n JOIN node_properties p ON p.node = n.n WHERE pair IS NOT NULL",
+        {QString::fromLatin1("$.\"%1\"").arg(key)});
     while (rows.next())
-        visit(rows.text(0), PropertyCoding::decode(int(rows.number(1)), rows.value(2)));
+        visit(rows.text(0), PropertyCoding::valueFromText(rows.utf8(1)));
 }
 
 QStringList NodeTables::nodesWithMac(const QString& mac)
 {
-    return identifiers(m_store.run("SELECT n.id FROM properties p JOIN nodes n ON n.n = p.node"
-                                   " WHERE p.key = 'MACAddress' AND p.value = ?",
+    return identifiers(m_store.run("SELECT n.id FROM node_properties p JOIN nodes n ON n.n = p.node"
+                                   " WHERE p.mac = ? AND p.mac <> ''",
                                    {mac}));
 }
 
 QStringList NodeTables::nodesWithExtension(const QString& extension)
 {
-    return identifiers(m_store.run("SELECT n.id FROM properties p JOIN nodes n ON n.n = p.node"
-                                   " WHERE p.key = 'FactoryIP' AND p.value = ?",
+    return identifiers(m_store.run("SELECT n.id FROM node_properties p JOIN nodes n ON n.n = p.node"
+                                   " WHERE p.extension = ? AND p.extension <> ''",
                                    {extension}));
 }
 
 qint64 NodeTables::insertNode(qint64 place, const PackedSummary& packed, const QString& lookupKey)
 {
     const NodeSummary summary = packed.unpacked();
-    const QVariantList values = {summary.id,
-                                 int(summary.type),
-                                 notNull(summary.name),
-                                 notNull(summary.location),
-                                 summary.recordingUsage,
-                                 notNull(lookupKey)};
-    if (place > 0) {
-        const SqliteStore::Rows rows =
-            m_store.run("INSERT OR IGNORE INTO nodes (n, id, type, name, location, recording, lookup)"
-                        " VALUES (?, ?, ?, ?, ?, ?, ?)",
-                        QVariantList{place} + values);
-        if (rows.changed() > 0)
-            return place;
-    }
-    return m_store
-        .run("INSERT INTO nodes (id, type, name, location, recording, lookup) VALUES (?, ?, ?, ?, ?, ?)",
-             values)
+    const auto insert = [&](const char* sql, const SqlValue& number) {
+        return m_store.run(sql, {number, summary.id, int(summary.type), notNull(summary.name),
+                                 notNull(summary.location), summary.recordingUsage, notNull(lookupKey)});
+    };
+    if (place > 0 && insert("INSERT OR IGNORE INTO nodes (n, id, type, name, location, recording, lookup)"
+                            " VALUES (?, ?, ?, ?, ?, ?, ?)",
+                            place)
+                             .changed() > 0)
+        return place;
+    return insert("INSERT INTO nodes (n, id, type, name, location, recording, lookup)"
+                  " VALUES (?, ?, ?, ?, ?, ?, ?)",
+                  SqlValue())
         .insertedId();
 }
 
@@ -227,16 +217,18 @@ void NodeTables::removeNode(qint64 n)
     m_store.run("DELETE FROM nodes WHERE n = ?", {n});
 }
 
-void NodeTables::setProperty(qint64 n, const QString& name, const QVariant& value)
+void NodeTables::setProperties(qint64 n, const PropertyList& properties)
 {
-    if (!value.isValid()) {
-        m_store.run("DELETE FROM properties WHERE node = ? AND key = ?", {n, notNull(name)});
-        return;
-    }
-    const PropertyCoding::Stored stored = PropertyCoding::encode(value);
-    m_store.run("INSERT INTO properties (node, key, type, value) VALUES (?, ?, ?, ?)"
-                " ON CONFLICT (node, key) DO UPDATE SET type = excluded.type, value = excluded.value",
-                {n, notNull(name), stored.type, stored.value});
+    QString json;
+    PropertyCoding::appendJson(&json, properties);
+    const auto column = [&properties](QLatin1String key) {
+        const QVariant value = properties.value(key);
+        return notNull(value.userType() == QMetaType::QString ? value.toString() : QString());
+    };
+    m_store.run("INSERT INTO node_properties (node, properties, mac, extension) VALUES (?, ?, ?, ?)"
+                " ON CONFLICT (node) DO UPDATE SET properties = excluded.properties, mac = excluded.mac,"
+                " extension = excluded.extension",
+                {n, json, column(PropertyKeys::MacAddress), column(PropertyKeys::FactoryIP)});
 }
 
 QVector<Relation> NodeTables::relations()
@@ -288,7 +280,7 @@ qint64 NodeTables::addRelation(const Relation& relation, qint64 place)
     const SqliteStore::Rows rows =
         m_store.run("INSERT OR IGNORE INTO relations (seq, source, destination, type)"
                     " SELECT ?, a.n, b.n, ? FROM nodes a, nodes b WHERE a.id = ? AND b.id = ?",
-                    {place > 0 ? QVariant(place) : QVariant(), int(relation.type), notNull(relation.source),
+                    {place > 0 ? SqlValue(place) : SqlValue(), int(relation.type), notNull(relation.source),
                      notNull(relation.destination)});
     if (rows.changed() > 0)
         return rows.insertedId();
@@ -358,7 +350,7 @@ void NodeTables::addProgramLine(const ProgramRow& row)
 QVector<ProgramRow> NodeTables::programLines(const LogRange& range)
 {
     QVector<ProgramRow> result;
-    const QVariantList limits = {range.count, range.skip};
+    const std::initializer_list<SqlValue> limits = {range.count, range.skip};
     SqliteStore::Rows rows =
         range.newestFirst
             ? m_store.run("SELECT seq, time, level, line FROM program_log ORDER BY seq DESC LIMIT ? OFFSET ?",

@@ -8,6 +8,13 @@
 
 namespace ko {
 
+/// The properties of a node.
+struct StoredProperties
+{
+    qint64 n; ///< its number, good for the current transaction: later another node may have it
+    PropertyList list;
+};
+
 /// The tables of the store as structures. Everything throws StoreFailure; nothing opens transactions.
 class NodeTables
 {
@@ -30,18 +37,14 @@ public:
     /// Identifier and key of all nodes that have a key.
     void forEachLookupKey(const std::function<void(const NodeID&, const QString&)>& visit);
 
-    /// The number of a node, 0 if there is none. Good for the current transaction: to change a node by a
-    /// number that was read before may change another one.
-    qint64 number(const NodeID& id);
-
     /// None if the node is gone.
-    std::optional<PropertyList> properties(const NodeID& id);
+    std::optional<StoredProperties> properties(const NodeID& id);
 
     /// Of all these nodes that are there, by one statement for each few hundred.
     void forEachProperties(const QStringList& ids,
                            const std::function<void(const NodeID&, const PropertyList&)>& visit);
 
-    /// One property of all nodes that have it.
+    /// One property of all nodes that have it; \a key has no quotation mark.
     void forEachValue(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit);
 
     // By an index.
@@ -54,8 +57,8 @@ public:
     void updateNode(qint64 n, const PackedSummary& summary, const QString& lookupKey);
     /// With its properties and relations.
     void removeNode(qint64 n);
-    /// Adds or replaces; an invalid value removes.
-    void setProperty(qint64 n, const QString& name, const QVariant& value);
+    /// All of a node.
+    void setProperties(qint64 n, const PropertyList& properties);
 
     QVector<Relation> relations();
     QVector<Relation> relationsFrom(const NodeID& source);

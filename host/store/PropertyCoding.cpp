@@ -33,51 +33,18 @@ Type typeOf(const QVariant& value)
     }
 }
 
-QJsonObject setToJson(const kogen::PropertySet& set);
-kogen::PropertySet setFromJson(const QJsonObject& object);
-
-QJsonArray pairOf(const QVariant& value)
-{
-    if (typeOf(value) == Set)
-        return {Set, setToJson(value.value<kogen::PropertySet>())};
-    const Stored stored = encode(value);
-    return {stored.type, QJsonValue::fromVariant(stored.value)};
-}
-
-QVariant valueOf(const QJsonArray& pair)
-{
-    const int type = pair.at(0).toInt(-1);
-    return type == Set ? QVariant::fromValue(setFromJson(pair.at(1).toObject()))
-                       : decode(type, pair.at(1).toVariant());
-}
-
-QJsonObject setToJson(const kogen::PropertySet& set)
-{
-    QJsonObject object;
-    for (const auto& entry : set)
-        object.insert(entry.first, pairOf(entry.second->value()));
-    return object;
-}
-
-kogen::PropertySet setFromJson(const QJsonObject& object)
-{
-    kogen::PropertySet set;
-    for (auto it = object.begin(); it != object.end(); ++it)
-        set.insert(PropertyList::toProperty(it.key(), valueOf(it.value().toArray())));
-    return set;
-}
-
-/// SQLite has no "not a number", and JSON no infinity either; these go as text.
-QVariant floatToStored(float value)
+/// JSON has no "not a number" and no infinity; these go as text.
+void appendFloat(QString* json, float value)
 {
     if (std::isnan(value))
-        return QString::fromLatin1("nan");
-    if (std::isinf(value))
-        return QString::fromLatin1(value > 0 ? "inf" : "-inf");
-    return double(value);
+        JsonText::appendText(json, QLatin1String("nan"));
+    else if (std::isinf(value))
+        JsonText::appendText(json, QLatin1String(value > 0 ? "inf" : "-inf"));
+    else
+        JsonText::appendNumber(json, double(value));
 }
 
-QVariant floatFromStored(const QVariant& value)
+float floatOf(const QVariant& value)
 {
     if (value.userType() != QMetaType::QString)
         return value.toFloat();
@@ -90,27 +57,57 @@ QVariant floatFromStored(const QVariant& value)
     return 0.0F; // another program wrote it
 }
 
-} // namespace
+void appendPair(QString* json, const QVariant& value);
 
-Stored encode(const QVariant& value)
+/// An object of pairs. \a name and \a valueOf take what \a entries has.
+template <class Entries, class Name, class Value>
+void appendObject(QString* json, const Entries& entries, const Name& name, const Value& valueOf)
 {
-    const Type type = typeOf(value);
-    if (type == Float)
-        return {type, floatToStored(value.toFloat())};
-    if (type == Bool)
-        return {type, int(value.toBool())};
-    if (type == Set) {
-        const QJsonDocument json(setToJson(value.value<kogen::PropertySet>()));
-        return {type, QString::fromUtf8(json.toJson(QJsonDocument::Compact))};
+    json->append(QLatin1Char('{'));
+    bool isFirst = true;
+    for (const auto& entry : entries) {
+        if (!isFirst)
+            json->append(QLatin1Char(','));
+        isFirst = false;
+        JsonText::appendText(json, name(entry));
+        json->append(QLatin1Char(':'));
+        appendPair(json, valueOf(entry));
     }
-    // A null string would be bound as NULL.
-    if (type == String && value.toString().isNull())
-        return {type, QString::fromLatin1("")};
-    return {type, value};
+    json->append(QLatin1Char('}'));
 }
 
-QVariant decode(int type, const QVariant& value)
+void appendPair(QString* json, const QVariant& value)
 {
+    const Type type = typeOf(value);
+    json->append(QLatin1Char('[')).append(QLatin1Char(char('0' + type))).append(QLatin1Char(','));
+    switch (type) {
+    case String:
+        JsonText::appendText(json, value.toString());
+        break;
+    case Bool:
+    case Int:
+        JsonText::appendNumber(json, qint64(value.toInt()));
+        break;
+    case Float:
+        appendFloat(json, value.toFloat());
+        break;
+    case Set:
+        appendObject(
+            json, value.value<kogen::PropertySet>(), [](const auto& entry) { return entry.first; },
+            [](const auto& entry) { return entry.second->value(); });
+        break;
+    }
+    json->append(QLatin1Char(']'));
+}
+
+kogen::PropertySet setOf(const QJsonObject& object);
+
+QVariant valueOf(const QJsonArray& pair)
+{
+    const int type = pair.at(0).toInt(-1);
+    if (type == Set)
+        return QVariant::fromValue(setOf(pair.at(1).toObject()));
+    const QVariant value = pair.at(1).toVariant();
     switch (type) {
     case String:
         return value.toString();
@@ -119,36 +116,35 @@ QVariant decode(int type, const QVariant& value)
     case Int:
         return value.toInt();
     case Float:
-        return floatFromStored(value);
-    case Set:
-        return QVariant::fromValue(setFromJson(QJsonDocument::fromJson(value.toString().toUtf8()).object()));
+        return floatOf(value);
     default:
         return QVariant();
     }
 }
 
+kogen::PropertySet setOf(const QJsonObject& object)
+{
+    kogen::PropertySet set;
+    for (auto it = object.begin(); it != object.end(); ++it)
+        set.insert(PropertyList::toProperty(it.key(), valueOf(it.value().toArray())));
+    return set;
+}
+
+QJsonDocument documentOf(std::string_view utf8)
+{
+    const QByteArray text = QByteArray::fromRawData(utf8.data(), int(utf8.size()));
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    // One bad byte in a value is no reason to lose the others.
+    return document.isNull() ? QJsonDocument::fromJson(QString::fromUtf8(text).toUtf8()) : document;
+}
+
+} // namespace
+
 void appendJson(QString* json, const PropertyList& properties)
 {
-    json->append(QLatin1Char('{'));
-    bool isFirst = true;
-    for (const PropertyList::Entry& entry : properties) {
-        if (!isFirst)
-            json->append(QLatin1Char(','));
-        isFirst = false;
-        JsonText::appendText(json, entry.name);
-        json->append(QLatin1String(":["));
-        const Stored stored = encode(entry.value);
-        JsonText::appendNumber(json, stored.type);
-        json->append(QLatin1Char(','));
-        if (stored.type == Set)
-            json->append(stored.value.toString()); // is JSON already
-        else if (stored.value.userType() == QMetaType::QString)
-            JsonText::appendText(json, stored.value.toString());
-        else
-            JsonText::appendNumber(json, stored.value.toDouble());
-        json->append(QLatin1Char(']'));
-    }
-    json->append(QLatin1Char('}'));
+    appendObject(
+        json, properties, [](const PropertyList::Entry& entry) { return entry.name; },
+        [](const PropertyList::Entry& entry) { return entry.value; });
 }
 
 PropertyList listFromJson(const QJsonObject& object)
@@ -157,6 +153,17 @@ PropertyList listFromJson(const QJsonObject& object)
     for (auto it = object.begin(); it != object.end(); ++it)
         properties.set(it.key(), valueOf(it.value().toArray()));
     return properties;
+}
+
+std::optional<PropertyList> listFromText(std::string_view utf8)
+{
+    const QJsonDocument document = documentOf(utf8);
+    return document.isObject() ? std::make_optional(listFromJson(document.object())) : std::nullopt;
+}
+
+QVariant valueFromText(std::string_view utf8)
+{
+    return valueOf(documentOf(utf8).array());
 }
 
 } // namespace PropertyCoding

@@ -6,26 +6,22 @@
 
 #include <QJsonObject>
 
+#include <optional>
+#include <string_view>
+
 namespace ko {
 
-/// How the value of a property stands in the store: a number for its type and something SQLite keeps.
+/// How properties stand in the store: as a JSON object, name to [type, value], the type as a number.
 namespace PropertyCoding {
 
-struct Stored
-{
-    int type;
-    QVariant value;
-};
-
-/// \a value is one of the five types of a PropertyList.
-KO_HOST_EXPORT Stored encode(const QVariant& value);
-
-/// The value again, or an invalid one if nothing that encode() gave.
-KO_HOST_EXPORT QVariant decode(int type, const QVariant& value);
-
-/// Appends all properties as an object: name to [type, value].
-void appendJson(QString* json, const PropertyList& properties);
+KO_HOST_EXPORT void appendJson(QString* json, const PropertyList& properties);
 PropertyList listFromJson(const QJsonObject& object);
+
+/// The same from the text as it is stored, in UTF-8; none if another program has written what is no object.
+KO_HOST_EXPORT std::optional<PropertyList> listFromText(std::string_view utf8);
+
+/// One of the arrays.
+QVariant valueFromText(std::string_view utf8);
 
 } // namespace PropertyCoding
 

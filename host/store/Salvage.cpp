@@ -108,13 +108,19 @@ qint64 copyRows(sqlite3* from, sqlite3* to, const QByteArray& table, const char*
 }
 
 /// What lies after a bad page is reached from the other end.
+qint64 copyTable(sqlite3* from, sqlite3* to, const QByteArray& table, qint64 most)
+{
+    qint64 copied = 0;
+    for (const char* order : {"", backwards(table)})
+        copied += copyRows(from, to, table, order, most);
+    return copied;
+}
+
 qint64 copyTables(sqlite3* from, sqlite3* to, qint64 most)
 {
     qint64 copied = 0;
-    for (const char* table : SqliteFile::Tables) {
-        for (const char* order : {"", backwards(table)})
-            copied += copyRows(from, to, table, order, most);
-    }
+    for (const char* table : SqliteFile::Tables)
+        copied += copyTable(from, to, table, most);
     return copied;
 }
 
@@ -184,9 +190,16 @@ qint64 save(const QString& copy, const QString& saved, qint64* nodes)
         return 0;
     execute(to.get(), saved, "PRAGMA foreign_keys = OFF");
     execute(to.get(), saved, "BEGIN");
-    const qint64 copied = copyTables(from.get(), to.get(), QFileInfo(copy).size());
+    const qint64 most = QFileInfo(copy).size();
+    qint64 copied = copyTables(from.get(), to.get(), most);
+    // The file may be of a version that had a row for each property.
+    execute(to.get(), saved,
+            "CREATE TABLE properties (node, key, type, value, PRIMARY KEY (node, key)) WITHOUT ROWID");
+    copied += copyTable(from.get(), to.get(), "properties", most);
+    execute(to.get(), saved, StoreSchema::PropertyObjects);
+    execute(to.get(), saved, "DROP TABLE properties");
     // Without their nodes these mean nothing.
-    execute(to.get(), saved, "DELETE FROM properties WHERE node NOT IN (SELECT n FROM nodes)");
+    execute(to.get(), saved, "DELETE FROM node_properties WHERE node NOT IN (SELECT n FROM nodes)");
     execute(to.get(), saved,
             "DELETE FROM relations WHERE source NOT IN (SELECT n FROM nodes)"
             " OR destination NOT IN (SELECT n FROM nodes)");

@@ -1,10 +1,9 @@
 #include "store/SqliteFile.h"
 
-#include "store/SqliteStore.h"
+#include "store/StoreFile.h"
+#include "store/StoreSchema.h"
 
 #include <QFile>
-
-#include <memory>
 
 #include <sqlite3.h>
 
@@ -18,30 +17,33 @@ const int pause = 20; // milliseconds, while another process writes
 /// Bytes. The longest texts of nodes have some thousands of characters.
 const int longestValue = 16 * 1024 * 1024;
 
-struct Finalize
-{
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-typedef std::unique_ptr<sqlite3_stmt, Finalize> Statement;
-
-Statement prepare(sqlite3* handle, const QByteArray& sql)
-{
-    sqlite3_stmt* statement = nullptr;
-    sqlite3_prepare_v2(handle, sql.constData(), int(sql.size()), &statement, nullptr);
-    return Statement(statement);
-}
-
-QString textOf(sqlite3_stmt* row, int column)
-{
-    return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(row, column)),
-                             sqlite3_column_bytes(row, column));
-}
-
 } // namespace
 
-const char* const SqliteFile::Tables[10] = {"nodes",        "properties",  "relations", "settings",
-                                            "environments", "change_sets", "audit",     "changes",
-                                            "program_log",  "chain"};
+const char* const SqliteFile::Tables[10] = {
+    "nodes",       "node_properties", "relations", "settings",    "environments",
+    "change_sets", "audit",           "changes",   "program_log", "chain"};
+
+StoreError::Kind SqliteFile::kindOf(int code)
+{
+    // Extended codes carry more in their higher bytes.
+    switch (code & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return StoreError::Locked;
+    case SQLITE_READONLY:
+        return StoreError::ReadOnly;
+    case SQLITE_CORRUPT:
+        return StoreError::Damaged;
+    case SQLITE_FULL:
+        return StoreError::DiskFull;
+    case SQLITE_CANTOPEN:
+        return StoreError::CannotOpen;
+    case SQLITE_NOTADB:
+        return StoreError::NotADatabase;
+    default:
+        return StoreError::Other;
+    }
+}
 
 SqliteFile::SqliteFile(const QString& file, Mode mode)
     : m_file(file)
@@ -50,23 +52,68 @@ SqliteFile::SqliteFile(const QString& file, Mode mode)
     const int result = sqlite3_open_v2(QFile::encodeName(file).constData(), &m_handle, flags, nullptr);
     if (result != SQLITE_OK) {
         sqlite3_close(m_handle);
-        m_handle = nullptr;
-        throw StoreFailure{StoreError::make(SqliteStore::kindOf(result), file, QLatin1String("open"))};
+        throw StoreFailure{StoreError::make(kindOf(result), file, QLatin1String("open"))};
     }
-    sqlite3_busy_timeout(m_handle, SqliteStore::BusyTimeout);
+    sqlite3_busy_timeout(m_handle, BusyTimeout);
     harden(m_handle);
 }
 
 SqliteFile::~SqliteFile()
 {
+    m_statements.clear();
     sqlite3_close(m_handle);
+}
+
+void SqliteFile::Finalize::operator()(sqlite3_stmt* statement) const
+{
+    sqlite3_finalize(statement);
+}
+
+void SqliteFile::fail(sqlite3* handle, const QString& file)
+{
+    const int code = sqlite3_extended_errcode(handle);
+    StoreError::Kind kind = kindOf(code);
+    if (kind != StoreError::DiskFull && kind != StoreError::Locked && StoreFile::isDiskFull(file))
+        kind = StoreError::DiskFull; // a file that cannot grow shows as an I/O error, too
+    throw StoreFailure{StoreError::make(
+        kind, file, QString::fromLatin1("%1 (%2)").arg(QString::fromUtf8(sqlite3_errmsg(handle))).arg(code))};
 }
 
 void SqliteFile::check(int result) const
 {
     if (result != SQLITE_OK && result != SQLITE_ROW && result != SQLITE_DONE)
-        throw StoreFailure{StoreError::make(SqliteStore::kindOf(result), m_file,
-                                            QString::fromUtf8(sqlite3_errmsg(m_handle)))};
+        fail(m_handle, m_file);
+}
+
+SqliteFile::Rows SqliteFile::run(const char* sql, const SqlValue* values, int count)
+{
+    auto& statement = m_statements[sql];
+    if (!statement) {
+        sqlite3_stmt* prepared = nullptr;
+        check(sqlite3_prepare_v3(m_handle, sql, -1, SQLITE_PREPARE_PERSISTENT, &prepared, nullptr));
+        statement.reset(prepared);
+    }
+    for (int i = 0; i < count; ++i)
+        check(values[i].bind(statement.get(), i + 1));
+    return Rows(statement.get(), m_file);
+}
+
+SqliteFile::Rows SqliteFile::run(const char* sql, std::initializer_list<SqlValue> values)
+{
+    return run(sql, values.begin(), int(values.size()));
+}
+
+SqliteFile::Rows SqliteFile::run(const char* sql, const QVector<SqlValue>& values)
+{
+    return run(sql, values.constData(), int(values.size()));
+}
+
+QVariant SqliteFile::value(const char* sql, std::initializer_list<SqlValue> values)
+{
+    Rows rows = run(sql, values);
+    if (!rows.next())
+        return QVariant();
+    return rows.type(0) == 'i' ? QVariant(rows.number(0)) : QVariant(rows.text(0));
 }
 
 void SqliteFile::harden(sqlite3* handle)
@@ -85,7 +132,7 @@ void SqliteFile::setCheckpointOnClose(sqlite3* handle, bool on)
 
 void SqliteFile::requireTables()
 {
-    const int version = text("PRAGMA user_version").toInt();
+    const int version = value("PRAGMA user_version").toInt();
     int result = SQLITE_OK;
     const QString difference = StoreSchema::difference(m_handle, version, StoreSchema::Extent::Only, &result);
     check(result);
@@ -96,10 +143,10 @@ void SqliteFile::requireTables()
 void SqliteFile::requireSound()
 {
     requireTables();
-    const QString damage = text("PRAGMA integrity_check(1)");
+    const QString damage = value("PRAGMA integrity_check(1)").toString();
     if (damage != QLatin1String("ok"))
         throw StoreFailure{StoreError::make(StoreError::Damaged, m_file, damage)};
-    if (!text("PRAGMA foreign_key_check").isEmpty())
+    if (value("PRAGMA foreign_key_check").isValid())
         throw StoreFailure{StoreError::make(StoreError::Damaged, m_file, QLatin1String("broken references"))};
 }
 
@@ -108,27 +155,16 @@ void SqliteFile::execute(const QByteArray& sql)
     check(sqlite3_exec(m_handle, sql.constData(), nullptr, nullptr, nullptr));
 }
 
-QString SqliteFile::text(const char* sql)
-{
-    const Statement statement = prepare(m_handle, sql);
-    check(statement ? sqlite3_step(statement.get()) : sqlite3_errcode(m_handle));
-    return textOf(statement.get(), 0);
-}
-
 void SqliteFile::attach(const QString& file, const char* name)
 {
-    const Statement statement = prepare(m_handle, QByteArray("ATTACH DATABASE ? AS ") + name);
-    const QByteArray path = file.toUtf8();
-    check(statement ? SQLITE_OK : sqlite3_errcode(m_handle));
-    sqlite3_bind_text(statement.get(), 1, path.constData(), int(path.size()), SQLITE_TRANSIENT);
-    check(sqlite3_step(statement.get()));
+    run("ATTACH DATABASE ? AS ?", {file, QLatin1String(name)});
 }
 
 void SqliteFile::copyTo(SqliteFile& target)
 {
     // Without a transaction each commit of another program would make SQLite begin anew.
     execute("BEGIN");
-    text("PRAGMA user_version");
+    execute("PRAGMA user_version");
     int result = SQLITE_OK;
     const int finished = copyPages(target, &result);
     execute("COMMIT");
@@ -148,7 +184,7 @@ int SqliteFile::copyPages(SqliteFile& target, int* result)
         *result = sqlite3_backup_step(backup, pagesAtOnce);
         if (*result != SQLITE_BUSY && *result != SQLITE_LOCKED)
             continue;
-        if (waited > SqliteStore::BusyTimeout)
+        if (waited > BusyTimeout)
             break;
         waited += pause;
         sqlite3_sleep(pause);
@@ -160,16 +196,16 @@ void SqliteFile::replace(SqliteFile& target)
 {
     // Whoever uses a database with a log has a lock on it all the time; whoever comes now waits for this one.
     target.execute("PRAGMA locking_mode = EXCLUSIVE");
-    if (target.text("PRAGMA journal_mode = DELETE") != QLatin1String("delete"))
+    if (target.value("PRAGMA journal_mode = DELETE").toString() != QLatin1String("delete"))
         throw StoreFailure{StoreError::make(StoreError::Locked, target.m_file, QLatin1String("in use"))};
-    target.text(
+    target.execute(
         "PRAGMA journal_mode = TRUNCATE"); // a journal of nothing is all that a lock kept so long leaves
     target.execute("BEGIN EXCLUSIVE");
     target.execute("COMMIT");
     copyTo(target);
     target.execute("PRAGMA locking_mode = NORMAL");
-    target.text("PRAGMA user_version");          // the lock goes
-    target.text("PRAGMA journal_mode = DELETE"); // and so does the journal
+    target.execute("PRAGMA user_version");          // the lock goes
+    target.execute("PRAGMA journal_mode = DELETE"); // and so does the journal
 }
 
 } // namespace ko

@@ -1,9 +1,10 @@
 #ifndef KO_SQLITEROWS_H
 #define KO_SQLITEROWS_H
 
+#include "HostExport.h"
+
 #include <QString>
 
-#include <initializer_list>
 #include <string_view>
 
 struct sqlite3;
@@ -11,33 +12,78 @@ struct sqlite3_stmt;
 
 namespace ko {
 
-/// The rows of a long reading, taken from SQLite itself: QtSql makes a variant of every value. Throws
-/// StoreFailure.
-class SqliteRows
+/// What a parameter of a statement is given: a number, a text, or bytes. A null text is NULL.
+class SqlValue
 {
 public:
-    /// \a file stands in messages.
-    SqliteRows(sqlite3* handle, const QString& file, const char* sql,
-               std::initializer_list<qint64> numbers = {});
+    SqlValue() = default;
+    SqlValue(int number) // NOLINT(google-explicit-constructor): they stand in lists
+        : SqlValue(qint64(number))
+    {
+    }
+    SqlValue(qint64 number) // NOLINT(google-explicit-constructor)
+        : m_kind(Number)
+        , m_number(number)
+    {
+    }
+    SqlValue(const QString& text) // NOLINT(google-explicit-constructor)
+        : m_kind(text.isNull() ? Null : Text)
+        , m_bytes(text.toUtf8())
+    {
+    }
+    SqlValue(QLatin1String text) // NOLINT(google-explicit-constructor)
+        : SqlValue(QString(text))
+    {
+    }
+    SqlValue(const QByteArray& blob) // NOLINT(google-explicit-constructor)
+        : m_kind(Blob)
+        , m_bytes(blob)
+    {
+    }
+
+    /// Returns SQLite's code. The value is copied.
+    int bind(sqlite3_stmt* statement, int parameter) const;
+
+private:
+    enum Kind { Null, Number, Text, Blob };
+
+    Kind m_kind = Null;
+    qint64 m_number = 0;
+    QByteArray m_bytes;
+};
+
+/// The rows of a statement that was run; it is free to be run again after the last one, or when they go.
+/// Throws StoreFailure.
+class KO_HOST_EXPORT SqliteRows
+{
+public:
+    /// Takes the first step. \a statement belongs to somebody else; \a file stands in messages.
+    SqliteRows(sqlite3_stmt* statement, const QString& file);
+    SqliteRows(SqliteRows&& other) noexcept;
     ~SqliteRows();
 
-    /// Before the first row; the first number is 1.
-    void bind(int parameter, const QByteArray& blob);
-
     bool next();
+
+    /// A null text for NULL.
+    QString text(int column) const;
     /// Valid until the next row.
     std::string_view utf8(int column) const;
     qint64 number(int column) const;
     /// 'i', 'f', 't', 'b' or 'n', as the value is stored; to be asked before it is read.
     char type(int column) const;
 
+    /// Of a statement that changes rows, before another one does.
+    int changed() const;
+    qint64 insertedId() const;
+
 private:
     Q_DISABLE_COPY(SqliteRows)
-    void check(int result) const;
+    void step();
 
     sqlite3* const m_handle;
+    sqlite3_stmt* m_statement; ///< null after the last row
     const QString m_file;
-    sqlite3_stmt* m_statement = nullptr;
+    bool m_isFirst = true; ///< its step was taken
 };
 
 } // namespace ko

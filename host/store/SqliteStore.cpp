@@ -3,7 +3,6 @@
 #include "secrets/Keyring.h"
 #include "store/DraftFile.h"
 #include "store/LogChain.h"
-#include "store/SqliteFile.h"
 #include "store/StoreBackup.h"
 #include "store/StoreFile.h"
 #include "store/StoredSecrets.h"
@@ -11,72 +10,8 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
-#include <QSqlDriver>
-#include <QSqlError>
-
-#include <atomic>
 
 namespace ko {
-
-namespace {
-
-QString newConnectionName()
-{
-    static std::atomic<int> counter{0};
-    return QString::fromLatin1("ko-store-%1").arg(++counter);
-}
-
-} // namespace
-
-StoreError::Kind SqliteStore::kindOf(int code)
-{
-    // Extended codes carry more in their higher bytes.
-    switch (code & 0xff) {
-    case 5: // busy
-    case 6: // locked
-        return StoreError::Locked;
-    case 8:
-        return StoreError::ReadOnly;
-    case 11:
-        return StoreError::Damaged;
-    case 13:
-        return StoreError::DiskFull;
-    case 14:
-        return StoreError::CannotOpen;
-    case 26:
-        return StoreError::NotADatabase;
-    default:
-        return StoreError::Other;
-    }
-}
-
-SqliteStore::Rows::Rows(const SqliteStore& store, QSqlQuery& query)
-    : m_store(store)
-    , m_query(&query)
-{
-}
-
-SqliteStore::Rows::Rows(Rows&& other) noexcept
-    : m_store(other.m_store)
-    , m_query(other.m_query)
-{
-    other.m_query = nullptr;
-}
-
-SqliteStore::Rows::~Rows()
-{
-    if (m_query)
-        m_query->finish();
-}
-
-bool SqliteStore::Rows::next()
-{
-    if (m_query->next())
-        return true;
-    if (m_query->lastError().isValid())
-        m_store.fail(m_query->lastError());
-    return false;
-}
 
 std::unique_ptr<SqliteStore> SqliteStore::open(const QString& file, StoreError* error, Check check,
                                                int version)
@@ -119,31 +54,8 @@ std::unique_ptr<SqliteStore> SqliteStore::openOrThrow(const QString& file, const
 }
 
 SqliteStore::SqliteStore(const QString& file, Mode mode)
-    : m_file(file)
-    , m_connection(newConnectionName())
-    , m_database(QSqlDatabase::addDatabase(QLatin1String("QSQLITE"), m_connection))
+    : SqliteFile(file, mode)
 {
-    QString options = QString::fromLatin1("QSQLITE_BUSY_TIMEOUT=%1").arg(BusyTimeout);
-    if (mode == ReadOnly)
-        options += QLatin1String(";QSQLITE_OPEN_READONLY");
-    m_database.setConnectOptions(options);
-    m_database.setDatabaseName(file);
-    if (m_database.open()) {
-        SqliteFile::harden(handle());
-        return;
-    }
-    const QSqlError error = m_database.lastError();
-    m_database = QSqlDatabase();
-    QSqlDatabase::removeDatabase(m_connection);
-    fail(error);
-}
-
-SqliteStore::~SqliteStore()
-{
-    m_statements.clear();
-    m_database.close();
-    m_database = QSqlDatabase();
-    QSqlDatabase::removeDatabase(m_connection);
 }
 
 void SqliteStore::checkFile(const QString& file, const Opening& opening)
@@ -168,14 +80,14 @@ void SqliteStore::checkTables(int version)
     int result = 0;
     const QString difference = StoreSchema::difference(handle(), version, StoreSchema::Extent::Ours, &result);
     if (result != 0)
-        throw StoreFailure{StoreError::make(kindOf(result), m_file, QLatin1String("its tables"))};
+        throw StoreFailure{StoreError::make(kindOf(result), fileName(), QLatin1String("its tables"))};
     if (!difference.isEmpty())
-        throw StoreFailure{StoreError::make(StoreError::OtherTables, m_file, difference)};
+        throw StoreFailure{StoreError::make(StoreError::OtherTables, fileName(), difference)};
 }
 
 void SqliteStore::setSound()
 {
-    SqliteFile::setCheckpointOnClose(handle(), true);
+    setCheckpointOnClose(handle(), true);
 }
 
 StoreError SqliteStore::findDamage(const QString& file)
@@ -192,19 +104,19 @@ void SqliteStore::findDamage()
 {
     const QString result = value("PRAGMA quick_check(1)").toString();
     if (result != QLatin1String("ok"))
-        throw StoreFailure{StoreError::make(StoreError::Damaged, m_file, result)};
+        throw StoreFailure{StoreError::make(StoreError::Damaged, fileName(), result)};
 }
 
 void SqliteStore::prepare(const Opening& opening)
 {
     const int version = opening.version;
-    const bool hasLog = QFileInfo(m_file + QLatin1String("-wal")).size() > 0;
-    SqliteFile::setCheckpointOnClose(handle(), opening.check == Check::First || !hasLog);
-    execute(QLatin1String("PRAGMA foreign_keys = ON"));
+    const bool hasLog = QFileInfo(fileName() + QLatin1String("-wal")).size() > 0;
+    setCheckpointOnClose(handle(), opening.check == Check::First || !hasLog);
+    execute("PRAGMA foreign_keys = ON");
     if (userVersion() == 0)
         create(version);
-    execute(QLatin1String("PRAGMA journal_mode = WAL"));
-    execute(QLatin1String("PRAGMA synchronous = FULL"));
+    execute("PRAGMA journal_mode = WAL");
+    execute("PRAGMA synchronous = FULL");
     const int found = userVersion();
     if (found < version)
         migrate(found, opening);
@@ -219,7 +131,7 @@ void SqliteStore::create(int version)
     Transaction transaction(*this, Transaction::Exclusive);
     if (userVersion() != 0)
         return; // another process was faster
-    execute(QString::fromLatin1("PRAGMA application_id = %1").arg(StoreSchema::ApplicationId));
+    execute("PRAGMA application_id = " + QByteArray::number(StoreSchema::ApplicationId));
     applySteps(0, version);
     transaction.commit();
 }
@@ -237,7 +149,7 @@ void SqliteStore::migrate(int from, const Opening& opening)
         if (userVersion() == from) {
             applySteps(from, opening.version);
             if (opening.version >= StoreSchema::FirstChained) // what there is may take seconds
-                LogChain(handle(), m_file, key->sealer).begin();
+                LogChain(*this, key->sealer).begin();
             transaction.commit();
             return;
         }
@@ -252,7 +164,7 @@ void SqliteStore::migrate(int from, const Opening& opening)
 QString SqliteStore::backUp(int version)
 {
     const QString time = QDateTime::currentDateTimeUtc().toString(QLatin1String("yyyyMMdd'T'HHmmss'Z'"));
-    const QString name = QString::fromLatin1("%1.backup-v%2-%3").arg(m_file).arg(version).arg(time);
+    const QString name = QString::fromLatin1("%1.backup-v%2-%3").arg(fileName()).arg(version).arg(time);
     for (int i = 1;; ++i) {
         QString copy = i == 1 ? name : name + QString::fromLatin1("-%1").arg(i);
         DraftFile draft(copy);
@@ -276,68 +188,14 @@ void SqliteStore::applySteps(int from, int to)
     for (int version = from; version < to; ++version) {
         const QVector<const char*> statements = StoreSchema::stepFrom(version);
         for (const char* statement : statements)
-            execute(QLatin1String(statement));
+            execute(statement);
     }
-    execute(QString::fromLatin1("PRAGMA user_version = %1").arg(to));
-}
-
-SqliteStore::Rows SqliteStore::run(const char* sql, const QVariantList& values)
-{
-    auto found = m_statements.find(sql);
-    if (found == m_statements.end()) {
-        found = m_statements.try_emplace(sql, m_database).first;
-        found->second.setForwardOnly(true);
-        if (!found->second.prepare(QLatin1String(sql))) {
-            const QSqlError error = found->second.lastError();
-            m_statements.erase(found);
-            fail(error);
-        }
-    }
-    QSqlQuery& query = found->second;
-    for (int i = 0; i < values.size(); ++i)
-        query.bindValue(i, values.at(i));
-    if (!query.exec())
-        fail(query.lastError());
-    return Rows(*this, query);
-}
-
-sqlite3* SqliteStore::handle() const
-{
-    // The driver is linked with the same SQLite.
-    const QVariant handle = m_database.driver()->handle();
-    return *static_cast<sqlite3* const*>(handle.constData());
-}
-
-SqliteRows SqliteStore::read(const char* sql) const
-{
-    return SqliteRows(handle(), m_file, sql);
-}
-
-QVariant SqliteStore::value(const char* sql, const QVariantList& values)
-{
-    Rows rows = run(sql, values);
-    return rows.next() ? rows.value(0) : QVariant();
-}
-
-void SqliteStore::execute(const QString& sql)
-{
-    QSqlQuery query(m_database);
-    if (!query.exec(sql))
-        fail(query.lastError());
+    execute("PRAGMA user_version = " + QByteArray::number(to));
 }
 
 qint64 SqliteStore::dataVersion()
 {
     return value("PRAGMA data_version").toLongLong();
-}
-
-void SqliteStore::fail(const QSqlError& error) const
-{
-    StoreError::Kind kind = kindOf(error.nativeErrorCode().toInt());
-    if (kind != StoreError::DiskFull && kind != StoreError::Locked && StoreFile::isDiskFull(m_file))
-        kind = StoreError::DiskFull; // a file that cannot grow shows as an I/O error, too
-    throw StoreFailure{StoreError::make(
-        kind, m_file, QString::fromLatin1("%1 (%2)").arg(error.databaseText(), error.nativeErrorCode()))};
 }
 
 Transaction::Transaction(SqliteStore& store, Kind kind)

@@ -183,7 +183,7 @@ void replaceRows(const QString& database, const QString& restored, bool keep)
                  " WHERE name NOT IN (SELECT name FROM main.sqlite_sequence)");
     file.execute("UPDATE main.sqlite_sequence SET seq = max(seq, coalesce((SELECT other.seq FROM"
                  " restored.sqlite_sequence AS other WHERE other.name = sqlite_sequence.name), 0))");
-    LogChain chain(file.handle(), database, key->sealer);
+    LogChain chain(file, key->sealer);
     chain.begin();
     noteRestore(file);
     chain.end();

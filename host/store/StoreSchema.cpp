@@ -24,33 +24,42 @@ const char chainTable[] =
     " sets INTEGER NOT NULL, changes INTEGER NOT NULL, audits INTEGER NOT NULL,"
     " checks BLOB NOT NULL, hash BLOB NOT NULL, seal BLOB NOT NULL)";
 
+const char propertiesTable[] =
+    "CREATE TABLE node_properties (node INTEGER PRIMARY KEY REFERENCES nodes (n) ON DELETE CASCADE,"
+    " properties TEXT NOT NULL, mac TEXT NOT NULL, extension TEXT NOT NULL)";
+
 // Numbers of nodes are never given twice: they say which node is older, and another process may still
 // hold the number of a node that is gone.
 // The columns location, recording and lookup repeat what follows from the properties, so that a list can
 // be shown without reading them.
+QVector<const char*> firstTables()
+{
+    return {
+        "CREATE TABLE nodes (n INTEGER PRIMARY KEY AUTOINCREMENT, id TEXT NOT NULL UNIQUE,"
+        " type INTEGER NOT NULL, name TEXT NOT NULL, location TEXT NOT NULL,"
+        " recording INTEGER NOT NULL, lookup TEXT NOT NULL)",
+        "CREATE TABLE properties (node INTEGER NOT NULL REFERENCES nodes (n) ON DELETE CASCADE,"
+        " key TEXT NOT NULL, type INTEGER NOT NULL CHECK (type BETWEEN 0 AND 4), value,"
+        " PRIMARY KEY (node, key)) WITHOUT ROWID",
+        "CREATE TABLE relations (seq INTEGER PRIMARY KEY,"
+        " source INTEGER NOT NULL REFERENCES nodes (n) ON DELETE CASCADE,"
+        " destination INTEGER NOT NULL REFERENCES nodes (n) ON DELETE CASCADE,"
+        " type INTEGER NOT NULL, UNIQUE (source, destination, type))",
+        "CREATE TABLE settings (key TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID",
+        "CREATE TABLE environments (position INTEGER PRIMARY KEY, id TEXT NOT NULL, name TEXT NOT NULL)",
+        "CREATE TABLE audit (seq INTEGER PRIMARY KEY, time INTEGER NOT NULL, user TEXT NOT NULL,"
+        " host TEXT NOT NULL, code INTEGER NOT NULL, data TEXT NOT NULL)",
+        "CREATE TABLE program_log (seq INTEGER PRIMARY KEY, time INTEGER NOT NULL,"
+        " level INTEGER NOT NULL, line TEXT NOT NULL)",
+        "CREATE TABLE changes (seq INTEGER PRIMARY KEY AUTOINCREMENT, kind TEXT NOT NULL,"
+        " id TEXT NOT NULL)",
+    };
+}
+
 const QVector<QVector<const char*>>& steps()
 {
     static const QVector<QVector<const char*>> steps = {
-        {
-            "CREATE TABLE nodes (n INTEGER PRIMARY KEY AUTOINCREMENT, id TEXT NOT NULL UNIQUE,"
-            " type INTEGER NOT NULL, name TEXT NOT NULL, location TEXT NOT NULL,"
-            " recording INTEGER NOT NULL, lookup TEXT NOT NULL)",
-            "CREATE TABLE properties (node INTEGER NOT NULL REFERENCES nodes (n) ON DELETE CASCADE,"
-            " key TEXT NOT NULL, type INTEGER NOT NULL CHECK (type BETWEEN 0 AND 4), value,"
-            " PRIMARY KEY (node, key)) WITHOUT ROWID",
-            "CREATE TABLE relations (seq INTEGER PRIMARY KEY,"
-            " source INTEGER NOT NULL REFERENCES nodes (n) ON DELETE CASCADE,"
-            " destination INTEGER NOT NULL REFERENCES nodes (n) ON DELETE CASCADE,"
-            " type INTEGER NOT NULL, UNIQUE (source, destination, type))",
-            "CREATE TABLE settings (key TEXT PRIMARY KEY, value TEXT NOT NULL) WITHOUT ROWID",
-            "CREATE TABLE environments (position INTEGER PRIMARY KEY, id TEXT NOT NULL, name TEXT NOT NULL)",
-            "CREATE TABLE audit (seq INTEGER PRIMARY KEY, time INTEGER NOT NULL, user TEXT NOT NULL,"
-            " host TEXT NOT NULL, code INTEGER NOT NULL, data TEXT NOT NULL)",
-            "CREATE TABLE program_log (seq INTEGER PRIMARY KEY, time INTEGER NOT NULL,"
-            " level INTEGER NOT NULL, line TEXT NOT NULL)",
-            "CREATE TABLE changes (seq INTEGER PRIMARY KEY AUTOINCREMENT, kind TEXT NOT NULL,"
-            " id TEXT NOT NULL)",
-        },
+        firstTables(),
         {
             "CREATE INDEX nodes_lookup ON nodes (lookup) WHERE lookup <> ''",
             "CREATE INDEX relations_destination ON relations (destination)",
@@ -83,6 +92,15 @@ const QVector<QVector<const char*>>& steps()
         {
             // Over the logs; see LogChain.
             chainTable,
+        },
+        {
+            // One row a node, as it is always read. The columns mac and extension repeat what is asked for by
+            // an index.
+            propertiesTable,
+            PropertyObjects,
+            "DROP TABLE properties",
+            "CREATE INDEX properties_mac ON node_properties (mac) WHERE mac <> ''",
+            "CREATE INDEX properties_extension ON node_properties (extension) WHERE extension <> ''",
         },
     };
     return steps;
@@ -128,6 +146,17 @@ QString firstWords(const QString& object)
 }
 
 } // namespace
+
+// Another program may have put there what is no JSON.
+const char* const PropertyObjects =
+    "INSERT OR IGNORE INTO node_properties (node, properties, mac, extension) SELECT n,"
+    " (SELECT json_group_object(key, json(CASE WHEN json_valid(pair) THEN pair ELSE '[0,\"\"]' END)) FROM"
+    " (SELECT key, '[' || type || ',' || CASE WHEN typeof(value) = 'blob' THEN '\"\"' WHEN type = 4 THEN "
+    "value"
+    " ELSE json_quote(value) END || ']' AS pair FROM properties WHERE node = n ORDER BY key)),"
+    " coalesce((SELECT value FROM properties WHERE node = n AND key = 'MACAddress' AND type = 0), ''),"
+    " coalesce((SELECT value FROM properties WHERE node = n AND key = 'FactoryIP' AND type = 0), '')"
+    " FROM nodes";
 
 QString difference(sqlite3* handle, int version, Extent extent, int* error)
 {

@@ -24,6 +24,13 @@ constexpr int FirstSealed = 3;
 /// From this version on there is a chain over the logs.
 constexpr int FirstChained = 7;
 
+/// Before this version each property had a row of its own.
+constexpr int FirstPropertyObjects = 8;
+
+/// Takes the rows of the table properties, as it was before that version, into node_properties, for the nodes
+/// that have nothing there.
+extern const char* const PropertyObjects;
+
 KO_HOST_EXPORT int latest();
 
 /// The statements that lead from \a version to the next.

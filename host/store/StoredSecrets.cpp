@@ -3,6 +3,7 @@
 #include "ko/LogQt.h"
 #include "secrets/Keyring.h"
 #include "secrets/Secrets.h"
+#include "store/NodeTables.h"
 
 #include <QVector>
 
@@ -11,14 +12,6 @@ namespace ko {
 namespace StoredSecrets {
 
 namespace {
-
-struct Clear
-{
-    qint64 node;
-    QString id;
-    QString key;
-    QString text;
-};
 
 /// What is sealed, and looked at again: the text in the clear exists nowhere else after this.
 QString sealed(const SqliteStore& store, const QString& owner, const QString& key, const QString& text)
@@ -34,27 +27,60 @@ QString sealed(const SqliteStore& store, const QString& owner, const QString& ke
     return result;
 }
 
-QVector<Clear> clearPasswords(SqliteStore& store)
+bool isClear(const QString& text)
 {
-    QVector<Clear> found;
+    return !text.isEmpty() && !Sealer::isSealed(text);
+}
+
+/// In the tables of the versions before StoreSchema::FirstPropertyObjects.
+void sealRows(SqliteStore& store)
+{
+    struct Clear
+    {
+        qint64 node;
+        QString id;
+        QString text;
+    };
     for (const QString& key : Secrets::properties()) {
-        SqliteStore::Rows rows =
-            store.run("SELECT n.n, n.id, p.value FROM nodes n JOIN properties p"
-                      " ON p.node = n.n AND p.key = ? WHERE p.type = 0 AND p.value <> ''",
-                      {key});
+        QVector<Clear> found;
+        SqliteStore::Rows rows = store.run("SELECT n.n, n.id, p.value FROM nodes n JOIN properties p"
+                                           " ON p.node = n.n AND p.key = ? WHERE p.type = 0",
+                                           {key});
         while (rows.next()) {
-            if (!Sealer::isSealed(rows.text(2)))
-                found.append({rows.number(0), rows.text(1), key, rows.text(2)});
+            if (isClear(rows.text(2)))
+                found.append({rows.number(0), rows.text(1), rows.text(2)});
         }
+        for (const Clear& clear : std::as_const(found))
+            store.run("UPDATE properties SET value = ? WHERE node = ? AND key = ?",
+                      {sealed(store, clear.id, key, clear.text), clear.node, key});
     }
-    return found;
+}
+
+void sealNodes(SqliteStore& store)
+{
+    NodeTables tables(store);
+    QStringList ids;
+    tables.forEachNode([&ids](qint64, const PackedSummary& node) { ids.append(node.id()); });
+    for (const QString& id : std::as_const(ids)) {
+        StoredProperties stored = *tables.properties(id);
+        bool hasClear = false;
+        for (const QString& key : Secrets::properties()) {
+            const QVariant value = stored.list.value(key);
+            if (value.userType() != QMetaType::QString || !isClear(value.toString()))
+                continue;
+            stored.list.set(key, sealed(store, id, key, value.toString()));
+            hasClear = true;
+        }
+        if (hasClear)
+            tables.setProperties(stored.n, stored.list);
+    }
 }
 
 void sealProxy(SqliteStore& store)
 {
     const QString key = QLatin1String(Secrets::GlobalProxyPassword);
     const QString text = store.value("SELECT value FROM settings WHERE key = ?", {key}).toString();
-    if (!text.isEmpty() && !Sealer::isSealed(text))
+    if (isClear(text))
         store.run("UPDATE settings SET value = ? WHERE key = ?",
                   {sealed(store, QLatin1String(Secrets::Settings), key, text), key});
 }
@@ -72,13 +98,13 @@ void emptyLog(SqliteStore& store)
 void seal(SqliteStore& store)
 {
     Transaction transaction(store, Transaction::Write);
-    const QVector<Clear> passwords = clearPasswords(store);
-    for (const Clear& clear : passwords)
-        store.run("UPDATE properties SET value = ? WHERE node = ? AND key = ?",
-                  {sealed(store, clear.id, clear.key, clear.text), clear.node, clear.key});
+    if (store.value("PRAGMA user_version").toInt() < StoreSchema::FirstPropertyObjects)
+        sealRows(store);
+    else
+        sealNodes(store);
     sealProxy(store);
     transaction.commit();
-    store.execute(QLatin1String("VACUUM"));
+    store.execute("VACUUM");
     emptyLog(store);
 }
 

@@ -43,6 +43,9 @@ public:
         run("PRAGMA foreign_keys = " + QByteArray(oneIn(random, 2) ? "ON" : "OFF"));
         if (oneIn(random, 3))
             run("PRAGMA ignore_check_constraints = ON");
+        const QByteArrayList view = propertyView();
+        for (const QByteArray& statement : view)
+            run(statement);
     }
     ~Vandal() { sqlite3_close(m_handle); }
 
@@ -119,16 +122,36 @@ private:
     QByteArray statement()
     {
         static const char* const columns[][2] = {
-            {"nodes", "n"},           {"nodes", "id"},          {"nodes", "type"},
-            {"nodes", "name"},        {"nodes", "location"},    {"nodes", "recording"},
-            {"nodes", "lookup"},      {"properties", "node"},   {"properties", "key"},
-            {"properties", "type"},   {"properties", "value"},  {"relations", "source"},
-            {"relations", "type"},    {"relations", "seq"},     {"relations", "destination"},
-            {"settings", "key"},      {"settings", "value"},    {"environments", "position"},
-            {"environments", "id"},   {"environments", "name"}, {"audit", "seq"},
-            {"audit", "time"},        {"audit", "code"},        {"audit", "data"},
-            {"program_log", "level"}, {"program_log", "line"},  {"changes", "seq"},
-            {"changes", "kind"},      {"changes", "id"},        {"sqlite_sequence", "seq"},
+            {"nodes", "n"},
+            {"nodes", "id"},
+            {"nodes", "type"},
+            {"nodes", "name"},
+            {"nodes", "location"},
+            {"nodes", "recording"},
+            {"nodes", "lookup"},
+            {"node_properties", "node"},
+            {"node_properties", "properties"},
+            {"node_properties", "mac"},
+            {"node_properties", "extension"},
+            {"relations", "source"},
+            {"relations", "type"},
+            {"relations", "seq"},
+            {"relations", "destination"},
+            {"settings", "key"},
+            {"settings", "value"},
+            {"environments", "position"},
+            {"environments", "id"},
+            {"environments", "name"},
+            {"audit", "seq"},
+            {"audit", "time"},
+            {"audit", "code"},
+            {"audit", "data"},
+            {"program_log", "level"},
+            {"program_log", "line"},
+            {"changes", "seq"},
+            {"changes", "kind"},
+            {"changes", "id"},
+            {"sqlite_sequence", "seq"},
         };
         const auto& column = anyOf(m_random, columns);
         switch (below(m_random, 14)) {
@@ -139,7 +162,7 @@ private:
                    " WHERE rowid IN (SELECT rowid FROM " + column[0] + " ORDER BY random() LIMIT " + few() +
                    ')';
         case 3:
-            return "UPDATE OR REPLACE properties SET value = " + value() +
+            return "UPDATE properties SET value = " + value() +
                    " WHERE node IN (SELECT n FROM nodes ORDER BY random() LIMIT " + few() + ')';
         case 4:
             return "DELETE FROM nodes WHERE " + someNode();

@@ -238,8 +238,8 @@ private:
     void otherSchema()
     {
         static const char endless[] = "WITH RECURSIVE e(x) AS (SELECT 1 UNION ALL SELECT x + 1 FROM e)";
-        static const char* const tables[] = {"nodes",        "properties", "relations",   "settings",
-                                             "environments", "audit",      "program_log", "changes"};
+        static const char* const tables[] = {"nodes",        "node_properties", "relations",   "settings",
+                                             "environments", "audit",           "program_log", "changes"};
         const QByteArray table = anyOf(m_random, tables);
         switch (below(m_random, 9)) {
         case 0:
@@ -285,13 +285,17 @@ private:
             "UPDATE nodes SET n = 9223372036854775807 - n",
             "UPDATE nodes SET n = -n",
             "UPDATE nodes SET type = 9223372036854775807, name = x'00ff', recording = 'x', lookup = x'80'",
-            "UPDATE properties SET value = zeroblob(20000000) WHERE key = 'Name' OR rowid = 1",
-            "UPDATE properties SET value = x'ff'",
-            "UPDATE properties SET type = type + 1",
-            "UPDATE properties SET value = -9223372036854775808",
-            "PRAGMA foreign_keys = OFF; UPDATE properties SET node = node + 1000",
+            "UPDATE node_properties SET properties = zeroblob(20000000) WHERE rowid = 1",
+            "UPDATE node_properties SET properties = x'ff'",
+            "UPDATE node_properties SET properties = replace(properties, '[0,', '[1,')",
+            "UPDATE node_properties SET properties = replace(properties, ':[', ':[[[[')",
+            "UPDATE node_properties SET properties = "
+            "'{\"Name\":[0,-9223372036854775808],\"Port\":[2,1e999]}'",
+            "PRAGMA foreign_keys = OFF; UPDATE node_properties SET node = node + 1000",
             "PRAGMA foreign_keys = OFF; UPDATE relations SET source = source + 1000",
-            "PRAGMA ignore_check_constraints = ON; UPDATE properties SET type = 77",
+            "UPDATE node_properties SET properties = replace(properties, '[0,', '[77,'), mac = x'ff', "
+            "extension = -1",
+            "UPDATE node_properties SET properties = properties || properties",
             "UPDATE sqlite_sequence SET seq = 9223372036854775807",
             "UPDATE sqlite_sequence SET seq = 'x'",
             "DELETE FROM sqlite_sequence",

@@ -1,6 +1,7 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/Patience.h"
+#include "support/PropertyView.h"
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
@@ -34,6 +35,9 @@ public:
         database.setDatabaseName(file);
         if (!database.open())
             qFatal("%s cannot be opened", qPrintable(file));
+        const QByteArrayList view = testsupport::propertyView();
+        for (const QByteArray& statement : view)
+            run(statement.constData());
     }
     ~Other()
     {

@@ -7,6 +7,8 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeHintIPDevice.h"
 
+#include "support/PropertyView.h"
+
 #include <QCryptographicHash>
 #include <QFile>
 #include <QSignalSpy>
@@ -71,7 +73,8 @@ inline QByteArray digest(const QString& file)
     return QCryptographicHash::hash(reader.readAll(), QCryptographicHash::Sha256);
 }
 
-/// A look into the file, past the host; a connection of its own that closes with it.
+/// A look into the file, past the host; a connection of its own that closes with it. Properties are shown as
+/// the table properties.
 class PlainSql
 {
 public:
@@ -82,6 +85,11 @@ public:
         database.setDatabaseName(file);
         if (!database.open())
             qFatal("cannot open %s", qPrintable(file));
+        if (run(QLatin1String("SELECT 1 FROM sqlite_schema WHERE name = 'node_properties'")).isValid()) {
+            const QByteArrayList view = propertyView();
+            for (const QByteArray& statement : view)
+                run(QLatin1String(statement));
+        }
     }
     ~PlainSql() { QSqlDatabase::removeDatabase(m_name); }
 

@@ -77,7 +77,7 @@ void TestHollowBackups::neverRestored_data()
     QTest::newRow("one view more") << QByteArray("CREATE VIEW more AS SELECT * FROM nodes")
                                    << int(StoreError::OtherTables);
     QTest::newRow("property of no node")
-        << QByteArray("PRAGMA foreign_keys = OFF; UPDATE properties SET node = node + 99")
+        << QByteArray("PRAGMA foreign_keys = OFF; UPDATE node_properties SET node = node + 99")
         << int(StoreError::Damaged);
     QTest::newRow("relation of no node")
         << QByteArray("PRAGMA foreign_keys = OFF; UPDATE relations SET source = 99")
@@ -106,11 +106,11 @@ void TestHollowBackups::neverOpened_data()
     QTest::addColumn<QByteArray>("sql");
     QTest::addColumn<int>("kind");
     const int kind = StoreError::OtherTables;
-    QTest::newRow("no tables") << QByteArray(
-                                      "PRAGMA foreign_keys = OFF; DROP TABLE nodes; DROP TABLE properties;"
-                                      "DROP TABLE relations; DROP TABLE settings; DROP TABLE environments;"
-                                      "DROP TABLE audit; DROP TABLE program_log; DROP TABLE changes")
-                               << kind;
+    QTest::newRow("no tables")
+        << QByteArray("PRAGMA foreign_keys = OFF; DROP TABLE nodes; DROP TABLE node_properties;"
+                      "DROP TABLE relations; DROP TABLE settings; DROP TABLE environments;"
+                      "DROP TABLE audit; DROP TABLE program_log; DROP TABLE changes")
+        << kind;
     QTest::newRow("a table less") << QByteArray("DROP TABLE audit") << kind;
     QTest::newRow("an index less") << QByteArray("DROP INDEX nodes_lookup") << kind;
     QTest::newRow("an endless view")

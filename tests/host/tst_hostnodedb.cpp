@@ -764,7 +764,7 @@ void TestHostNodeDB::unreadableNodeIsNull()
     const QString id = addCamera(*m_db, QLatin1String("a"), QLatin1String("10.0.0.1"));
     reopen();
     PlainSql plain(m_file);
-    plain.run(QLatin1String("ALTER TABLE properties RENAME TO elsewhere"));
+    plain.run(QLatin1String("ALTER TABLE node_properties RENAME TO elsewhere"));
     QSignalSpy damaged(m_db.get(), SIGNAL(storeDamaged(ko::StoreError)));
     QVERIFY(m_db->node(id).null());
     QVERIFY(m_db->node(id).null());
@@ -772,7 +772,7 @@ void TestHostNodeDB::unreadableNodeIsNull()
     QCOMPARE(m_db->summary(id).name, QLatin1String("a"));
     KO_TRY_COMPARE(damaged.count(), 1);
     QVERIFY(!damaged.at(0).at(0).value<StoreError>().message.isEmpty());
-    plain.run(QLatin1String("ALTER TABLE elsewhere RENAME TO properties"));
+    plain.run(QLatin1String("ALTER TABLE elsewhere RENAME TO node_properties"));
     QCOMPARE(m_db->node(id)->name(), QLatin1String("a"));
 }
 

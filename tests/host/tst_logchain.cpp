@@ -5,6 +5,7 @@
 #include "inspector/NodeChangeLogEntry.h"
 #include "secrets/Keyring.h"
 #include "store/NodeStore.h"
+#include "store/SqliteStore.h"
 #include "store/StoreBackup.h"
 #include "store/StoreSchema.h"
 
@@ -185,14 +186,17 @@ void tst_LogChain::restoredBackupGoesOn()
 
 void tst_LogChain::olderLogIsTakenOver()
 {
+    const QString logs = std::exchange(m_file, m_folder->filePath(QLatin1String("older.kodb")));
+    StoreError error;
+    QVERIFY(SqliteStore::open(m_file, &error, SqliteStore::Check::First, StoreSchema::FirstChained - 1));
     {
         PlainSql sql(m_file);
-        sql.run(QLatin1String("DROP TABLE chain"));
-        sql.run(QLatin1String("DELETE FROM sqlite_sequence WHERE name = 'chain'"));
-        sql.run(QLatin1String("PRAGMA user_version = 6"));
+        sql.run(QString::fromLatin1("ATTACH DATABASE '%1' AS logs").arg(logs));
+        for (const char* table : {"change_sets", "changes", "audit"})
+            sql.run(QString::fromLatin1("INSERT INTO %1 SELECT * FROM logs.%1").arg(QLatin1String(table)));
     }
     QCOMPARE(report().entries, 0); // nothing to follow
-    QVERIFY(openDatabase(m_file));
+    QVERIFY(SqliteStore::open(m_file, &error));
     const LogReport migrated = report();
     QCOMPARE(texts(migrated), QStringList());
     QCOMPARE(migrated.older, migrated.entries);

@@ -1,5 +1,6 @@
 #include "devices/NodeTarget.h"
 
+#include "StoreTesting.h"
 #include "devices/ClearPassword.h"
 #include "devices/KnownDevice.h"
 #include "exchange/CameraSurvey.h"
@@ -7,9 +8,6 @@
 #include "ko/GlobalNetworkProxy.h"
 #include "support/HostFixture.h"
 #include "support/TestMain.h"
-
-#include <QSqlDatabase>
-#include <QSqlQuery>
 
 using namespace ko;
 
@@ -210,13 +208,8 @@ void tst_NodeTarget::passwordThatCannotBeOpened()
     change([](IPDeviceNode& node) { node.setUser("admin", "secret"); });
     QVERIFY(!NodeTarget::hasUnreadPassword(*device()));
     m_host->db()->flush();
-    {
-        QSqlDatabase file = QSqlDatabase::addDatabase("QSQLITE", "other");
-        file.setDatabaseName(m_host->fileName());
-        QVERIFY(file.open());
-        QVERIFY(QSqlQuery(file).exec("UPDATE properties SET value = 'foreign' WHERE key = 'Password'"));
-    }
-    QSqlDatabase::removeDatabase("other");
+    testsupport::PlainSql(m_host->fileName())
+        .run("UPDATE properties SET value = 'foreign' WHERE key = 'Password'");
     m_host->reopen();
     QVERIFY(NodeTarget::hasUnreadPassword(*device()));
 }

@@ -184,12 +184,12 @@ void TestPropertyList::propertiesHaveTheirType()
 
 void TestPropertyList::foreignCodingGivesNothing()
 {
-    QVERIFY(!PropertyCoding::decode(5, 1).isValid());
-    QVERIFY(!PropertyCoding::decode(-1, QLatin1String("x")).isValid());
-    for (const char* json : {"", "{", "[]", "null", "{\"a\":1}", "{\"a\":[9,1]}", "{\"a\":[]}"}) {
-        const QVariant set = PropertyCoding::decode(4, QLatin1String(json));
-        QCOMPARE(set.value<kogen::PropertySet>().count(), 0);
-    }
+    for (const char* json : {"", "{", "[]", "null", "7", "{\"a\":[0,\"x\"]"})
+        QVERIFY2(!PropertyCoding::listFromText(json), json);
+    for (const char* json : {"{}", "{\"a\":1}", "{\"a\":[9,1]}", "{\"a\":[]}", "{\"a\":[-1,\"x\"]}"})
+        QCOMPARE(PropertyCoding::listFromText(json)->count(), 0);
+    const auto set = PropertyCoding::listFromText("{\"s\":[4,{\"a\":1,\"b\":[9,1],\"c\":[]}]}");
+    QCOMPARE(set->value(QLatin1String("s")).value<kogen::PropertySet>().count(), 0);
 }
 
 KO_TEST_MAIN(TestPropertyList)

@@ -1,9 +1,12 @@
 #include "StoreTesting.h"
+#include "store/PropertyCoding.h"
 #include "store/SqliteStore.h"
 #include "support/TestMain.h"
 
 #include <QDateTime>
 #include <QDir>
+
+#include <limits>
 
 #include <sys/stat.h>
 
@@ -28,6 +31,7 @@ private slots:
     void openingTwiceKeepsWhatIsThere();
     void emptyFileBecomesADatabase();
     void oldVersionIsMigratedAndACopyKept();
+    void propertiesComeTogether();
     void failedMigrationLeavesTheOldVersion();
     void filesAreForTheirOwnerOnly();
 
@@ -114,7 +118,7 @@ void TestSqliteStore::transactionIsRolledBackUnlessCommitted()
 void TestSqliteStore::failedStatementIsToldWithoutItsValues()
 {
     const std::unique_ptr<SqliteStore> store = open();
-    const QVariantList values = {QLatin1String("key"), QLatin1String("s3cret")};
+    const QVector<SqlValue> values = {QLatin1String("key"), QLatin1String("s3cret")};
     store->run("INSERT INTO settings VALUES (?, ?)", values);
     const StoreError error = errorOf([&] { store->run("INSERT INTO settings VALUES (?, ?)", values); });
     QCOMPARE(error.kind, StoreError::Other);
@@ -122,7 +126,7 @@ void TestSqliteStore::failedStatementIsToldWithoutItsValues()
     QVERIFY(error.message.contains(QDir::toNativeSeparators(m_file)));
     QVERIFY(!(error.message + error.detail).contains(QLatin1String("s3cret")));
     QVERIFY(errorOf([&] { store->run("SELECT nonsense FROM nowhere"); }));
-    QVERIFY(errorOf([&] { store->execute(QLatin1String("nonsense")); }));
+    QVERIFY(errorOf([&] { store->execute("nonsense"); }));
     // The store goes on.
     QCOMPARE(store->value("SELECT count(*) FROM settings").toInt(), 1);
 }
@@ -156,12 +160,11 @@ void TestSqliteStore::otherConnectionsAreNoticed()
 void TestSqliteStore::foreignKeysHold()
 {
     const std::unique_ptr<SqliteStore> store = open();
-    QVERIFY(errorOf([&] { store->run("INSERT INTO properties VALUES (7, 'key', 0, 'x')"); }));
+    QVERIFY(errorOf([&] { store->run("INSERT INTO node_properties VALUES (7, '{}', '', '')"); }));
     store->run("INSERT INTO nodes VALUES (7, 'id', 2, '', '', -1, '')");
-    store->run("INSERT INTO properties VALUES (7, 'key', 0, 'x')");
-    QVERIFY(errorOf([&] { store->run("INSERT INTO properties VALUES (7, 'other', 9, 'x')"); }));
+    store->run("INSERT INTO node_properties VALUES (7, '{}', '', '')");
     store->run("DELETE FROM nodes");
-    QCOMPARE(store->value("SELECT count(*) FROM properties").toInt(), 0);
+    QCOMPARE(store->value("SELECT count(*) FROM node_properties").toInt(), 0);
 }
 
 void TestSqliteStore::secondWriterWaitsAndGivesUp()
@@ -222,6 +225,55 @@ void TestSqliteStore::oldVersionIsMigratedAndACopyKept()
     QCOMPARE(mode(m_file), 0600);
     QCOMPARE(open(1)->value("SELECT name FROM nodes").toString(), QLatin1String("old"));
     QCOMPARE(open(1)->value("PRAGMA user_version").toInt(), 1);
+}
+
+void TestSqliteStore::propertiesComeTogether()
+{
+    {
+        const std::unique_ptr<SqliteStore> old = open(StoreSchema::FirstPropertyObjects - 1);
+        old->run("INSERT INTO nodes VALUES (7, 'all', 2, '', '', -1, ''), (8, 'none', 2, '', '', -1, '')");
+        old->run("INSERT INTO properties VALUES (7, 'MACAddress', 0, '00:00:5E:00:53:01'),"
+                 " (7, 'FactoryIP', 0, '10_0_0_1'), (7, 'Port', 2, -2147483648), (7, 'UseSSL', 1, 1),"
+                 " (7, 'Speed', 3, CAST(? AS REAL)), (7, 'None', 3, 'nan'), (7, 'Endless', 3, '-inf'), (7, "
+                 "'Empty', 0, ''),"
+                 " (7, 'Set', 4, '{\"a\":[4,{\"b\":[2,5]}]}'),"
+                 // What only another program writes.
+                 " (7, 'bytes', 0, x'00ff'), (7, 'nothing', 0, NULL), (7, 'huge', 3, 9e999), (7, 'broken', "
+                 "4, '{'),"
+                 " (7, 'text', 0, CAST(x'61ff62' AS TEXT))",
+                 {QString::number(0.1F, 'g', 17)});
+        old->run("INSERT INTO properties VALUES (7, ?, 0, ?)",
+                 {QString::fromUtf8("Größe \"\\\n"), QString::fromUtf8("\"\\\u0001\n日本")});
+    }
+    const std::unique_ptr<SqliteStore> store = open();
+    QVERIFY(store);
+    const auto stored = [&store](const char* sql) {
+        return *PropertyCoding::listFromText(store->value(sql).toString().toStdString());
+    };
+    QCOMPARE(stored("SELECT properties FROM node_properties WHERE node = 8").count(), 0);
+    const PropertyList list = stored("SELECT properties FROM node_properties WHERE node = 7");
+    QCOMPARE(list.count(), 15);
+    const auto is = [&list](const char* key, const QVariant& value) {
+        return PropertyList::sameValue(list.value(QString::fromUtf8(key)), value);
+    };
+    QVERIFY(is("MACAddress", "00:00:5E:00:53:01"));
+    QVERIFY(is("Port", std::numeric_limits<int>::min()));
+    QVERIFY(is("UseSSL", true));
+    QVERIFY(is("Speed", 0.1F));
+    QVERIFY(is("None", std::numeric_limits<float>::quiet_NaN()));
+    QVERIFY(is("Endless", -std::numeric_limits<float>::infinity()));
+    QVERIFY(is("Empty", QString::fromLatin1("")));
+    const kogen::PropertySet set = list.value(QLatin1String("Set")).value<kogen::PropertySet>();
+    const kogen::PropertySet inner = set.begin()->second->value().value<kogen::PropertySet>();
+    QCOMPARE(inner.begin()->second->value(), QVariant(5));
+    QVERIFY(is("text", QString::fromUtf8("a\uFFFDb")));
+    QVERIFY(is("Größe \"\\\n", QString::fromUtf8("\"\\\u0001\n日本")));
+    for (const char* spoiled : {"bytes", "nothing", "huge", "broken"})
+        QVERIFY(list.contains(QLatin1String(spoiled)));
+    QCOMPARE(store->value("SELECT mac || ' ' || extension FROM node_properties WHERE node = 7").toString(),
+             QLatin1String("00:00:5E:00:53:01 10_0_0_1"));
+    QCOMPARE(store->value("SELECT mac || extension FROM node_properties WHERE node = 8").toString(),
+             QLatin1String(""));
 }
 
 void TestSqliteStore::failedMigrationLeavesTheOldVersion()
