@@ -6,7 +6,7 @@ namespace ko {
 
 namespace {
 
-const int mostLookedUp = 1000;
+const int mostLookedUp = 100;
 
 bool isThere(const QString& id)
 {

@@ -16,7 +16,7 @@ public:
     /// Empty. The node itself is called \a selfName.
     AudioSources(const QString& self, const QString& selfName, QObject* parent);
 
-    /// Adds the node itself and the nodes of \a ids that there are. In a long list those from the thousandth
+    /// Adds the node itself and the nodes of \a ids that there are. In a long list those from the hundredth
     /// on are believed to be there: asking for each would take longer than the rest of the page. \a hasSelf:
     /// whether the node itself is one of them.
     void append(QStringList ids, bool hasSelf);
