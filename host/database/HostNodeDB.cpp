@@ -254,12 +254,6 @@ StoredHistory& HostNodeDB::history()
     return d->history;
 }
 
-QVector<ChangeSet> HostNodeDB::changeSets(qint64 after, int count)
-{
-    d->queue.flush();
-    return d->queue.reading([&] { return d->store->changeSets(after, count); });
-}
-
 // Storing
 
 void HostNodeDB::enter(const Cause& cause)

@@ -130,9 +130,6 @@ public:
     /// that is there is not added. False when something could not be read; nothing is done then.
     bool apply(const ChangeSet& set);
 
-    /// At most \a count of what was changed after change set number \a after, oldest first.
-    QVector<ChangeSet> changeSets(qint64 after, int count);
-
     /// Stores all changes now. False when that failed; storeFailed() has been emitted then. Looks for the key
     /// of the passwords again when the last try failed without it, which may take until the user has opened
     /// the keychain.

@@ -12,10 +12,15 @@ StoredHistory::StoredHistory(NodeStore& store, NodeMemory& memory, ChangeQueue& 
     connect(&queue, &ChangeQueue::stored, this, &StoredHistory::stored);
 }
 
-std::optional<ChangeSet> StoredHistory::changeSet(qint64 number)
+QVector<ChangeSet> StoredHistory::changeSets(qint64 after, int count)
 {
     m_queue.flush();
-    const QVector<ChangeSet> sets = m_queue.reading([&] { return m_store.changeSets(number - 1, 1); });
+    return m_queue.reading([&] { return m_store.changeSets(after, count); });
+}
+
+std::optional<ChangeSet> StoredHistory::changeSet(qint64 number)
+{
+    const QVector<ChangeSet> sets = changeSets(number - 1, 1);
     return sets.isEmpty() || sets.first().number != number ? std::nullopt : std::make_optional(sets.first());
 }
 

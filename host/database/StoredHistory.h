@@ -18,7 +18,7 @@ class NodeStore;
 
 /// What was done to the database, as it is stored, and what there is now.
 ///
-/// Reading one change set stores first what is not stored yet. What cannot be read looks as if it were not
+/// Reading whole change sets stores first what is not stored yet. What cannot be read looks as if it were not
 /// there; see HostNodeDB::storeDamaged().
 class KO_HOST_EXPORT StoredHistory : public QObject
 {
@@ -27,6 +27,9 @@ class KO_HOST_EXPORT StoredHistory : public QObject
 public:
     /// All outlive it.
     StoredHistory(NodeStore& store, NodeMemory& memory, ChangeQueue& queue);
+
+    /// At most \a count of those after number \a after, oldest first.
+    QVector<ChangeSet> changeSets(qint64 after, int count);
 
     /// None if there is no such change set.
     std::optional<ChangeSet> changeSet(qint64 number);

@@ -4,6 +4,7 @@
 #include "NodeListView.h"
 #include "audit/AuditLog.h"
 #include "audit/AuditRecord.h"
+#include "database/StoredHistory.h"
 #include "devices/KnownDevice.h"
 #include "support/Answers.h"
 #include "support/DialogCheck.h"
@@ -234,7 +235,7 @@ QString tst_CameraCheck::state(const QString& id) const
 int tst_CameraCheck::changeSets(Purpose purpose)
 {
     QSet<QString> ids;
-    const QVector<ChangeSet> sets = m_host->db()->changeSets(0, 10000);
+    const QVector<ChangeSet> sets = m_host->db()->history().changeSets(0, 10000);
     for (const ChangeSet& set : sets) {
         if (set.cause.purpose == purpose)
             ids.insert(set.cause.id);
@@ -663,7 +664,7 @@ void tst_CameraCheck::passwordThatCannotBeReadIsNotTried()
     QVERIFY(site.isUp);
     const QStringList ids = addCameras(site, 2);
     // As if it were sealed for another node: the change of one, put into the other.
-    QVector<ChangeSet> sets = m_host->db()->changeSets(0, 1000);
+    QVector<ChangeSet> sets = m_host->db()->history().changeSets(0, 1000);
     QString sealed;
     for (const ChangeSet& set : std::as_const(sets)) {
         for (const NodeChange& change : set.nodes) {

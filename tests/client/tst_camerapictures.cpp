@@ -3,6 +3,7 @@
 #include "NodeListView.h"
 #include "PictureTip.h"
 #include "PictureView.h"
+#include "database/StoredHistory.h"
 #include "devices/KnownDevice.h"
 #include "support/ModalAnswer.h"
 #include "support/Patience.h"
@@ -157,7 +158,7 @@ void tst_CameraPictures::shownInTipAndProperties()
     open();
     check();
     m_host->db()->flush();
-    const int before = int(m_host->db()->changeSets(0, 1000).size());
+    const int before = int(m_host->db()->history().changeSets(0, 1000).size());
     rest(ids.at(0));
     QVERIFY2(QToolTip::text().contains("Fetching"), qPrintable(QToolTip::text()));
     KO_TRY_VERIFY(QToolTip::text().contains("data:image"));
@@ -180,7 +181,7 @@ void tst_CameraPictures::shownInTipAndProperties()
     }
     QCOMPARE(shown, QSize(320, 180));
     m_host->db()->flush();
-    QCOMPARE(int(m_host->db()->changeSets(0, 1000).size()), before); // nothing of it is stored
+    QCOMPARE(int(m_host->db()->history().changeSets(0, 1000).size()), before); // nothing of it is stored
 }
 
 /// Nobody knows yet whether it is the camera whose password this is.

@@ -1,4 +1,5 @@
 #include "ConfirmedWays.h"
+#include "database/StoredHistory.h"
 #include "support/TestMain.h"
 
 using namespace ko;
@@ -25,13 +26,13 @@ void tst_ConfirmedChanges::init()
 {
     openWindowForAll();
     QTest::qWait(1);
-    m_last = m_host->db()->changeSets(0, 1000).last().number;
+    m_last = m_host->db()->history().changeSets(0, 1000).last().number;
 }
 
 QVector<ChangeSet> tst_ConfirmedChanges::newSets()
 {
     QTest::qWait(1); // the turn ends
-    const QVector<ChangeSet> sets = m_host->db()->changeSets(m_last, 1000);
+    const QVector<ChangeSet> sets = m_host->db()->history().changeSets(m_last, 1000);
     if (!sets.isEmpty())
         m_last = sets.last().number;
     return sets;

@@ -1,3 +1,4 @@
+#include "database/StoredHistory.h"
 #include "support/Answers.h"
 #include "support/DialogCheck.h"
 #include "support/HostFixture.h"
@@ -104,8 +105,8 @@ private:
     {
         return m_host->db()->node(id)->stringProperty(key, QString());
     }
-    QVector<ChangeSet> newSets() { return m_host->db()->changeSets(m_last, 1000); }
-    void remember() { m_last = m_host->db()->changeSets(0, 1000).last().number; }
+    QVector<ChangeSet> newSets() { return m_host->db()->history().changeSets(m_last, 1000); }
+    void remember() { m_last = m_host->db()->history().changeSets(0, 1000).last().number; }
 
     std::unique_ptr<SimulatedSite> m_site;
     std::unique_ptr<testsupport::HostFixture> m_host;

@@ -1,4 +1,5 @@
 #include "WindowFixture.h"
+#include "database/StoredHistory.h"
 #include "host/StoreTesting.h"
 #include "support/Answers.h"
 #include "support/Patience.h"
@@ -272,7 +273,7 @@ void tst_HistoryWindow::fromTheAuditLog()
 
 void tst_HistoryWindow::putBackOfChangeSets()
 {
-    const QString archive = m_host->db()->changeSets(0, 1000).last().nodes.first().id;
+    const QString archive = m_host->db()->history().changeSets(0, 1000).last().nodes.first().id;
     const Answers answers({[](QDialog* dialog) {
                                sets(dialog)->setSelectionMode(QAbstractItemView::MultiSelection);
                                QCOMPARE(int(titles(dialog).size()), 5);

@@ -1,4 +1,5 @@
 #include "client/WindowFixture.h"
+#include "database/StoredHistory.h"
 #include "support/TestMain.h"
 
 #include "NodeRemoval.h"
@@ -88,13 +89,13 @@ void tst_NodeRemoval::foldersGoWithTheirCameras()
 {
     const QString folder = folderFor(m_north, "//server/north");
     folderFor(m_south, "//server/south");
-    const qint64 before = m_host->db()->changeSets(0, 1000).constLast().number;
+    const qint64 before = m_host->db()->history().changeSets(0, 1000).constLast().number;
     const QString asked = remove({"Gate north"});
     QVERIFY2(asked.contains("//server/north") && !asked.contains("//server/south"), qPrintable(asked));
     QVERIFY(m_host->db()->summary(folder).id.isEmpty());
     QVERIFY(names().contains("//server/south"));
     QVERIFY(names().contains("Archive")); // which nobody used before either
-    QCOMPARE(m_host->db()->changeSets(before, 1000).size(), 1);
+    QCOMPARE(m_host->db()->history().changeSets(before, 1000).size(), 1);
 }
 
 void tst_NodeRemoval::foldersCanStay()

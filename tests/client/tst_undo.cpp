@@ -1,4 +1,5 @@
 #include "ConfirmedWays.h"
+#include "database/StoredHistory.h"
 #include "support/Patience.h"
 #include "support/TestMain.h"
 
@@ -130,7 +131,7 @@ void tst_Undo::everyWay()
     QVERIFY2(said().startsWith("Redone: "), qPrintable(said()));
     run("actionUndo", confirm);
     QCOMPARE(state(), before);
-    const QVector<ChangeSet> sets = m_host->db()->changeSets(0, 1000);
+    const QVector<ChangeSet> sets = m_host->db()->history().changeSets(0, 1000);
     for (int i = 1; i <= 3; ++i) {
         const ChangeSet& set = sets.at(sets.size() - i);
         QCOMPARE(set.cause.purpose, Purpose::Undo);

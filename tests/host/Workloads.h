@@ -4,6 +4,7 @@
 #include "StoreTesting.h"
 #include "audit/AuditLog.h"
 #include "audit/ProgramLogEntry.h"
+#include "database/StoredHistory.h"
 #include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "exchange/CameraSurvey.h"
 #include "history/PuttingBack.h"
@@ -232,7 +233,7 @@ public:
 
     bool step(ko::HostNodeDB& db, int) override
     {
-        const QVector<ko::ChangeSet> sets = db.changeSets(0, std::numeric_limits<int>::max());
+        const QVector<ko::ChangeSet> sets = db.history().changeSets(0, std::numeric_limits<int>::max());
         if (sets.isEmpty())
             return false;
         const auto shown = ko::PuttingBack::preview(db, ko::Alterations::of(sets.last()));
@@ -246,7 +247,7 @@ public:
     Stored stored(ko::HostNodeDB& db) override
     {
         int number = 0;
-        const QVector<ko::ChangeSet> sets = db.changeSets(0, std::numeric_limits<int>::max());
+        const QVector<ko::ChangeSet> sets = db.history().changeSets(0, std::numeric_limits<int>::max());
         for (const ko::ChangeSet& set : sets) {
             if (set.cause.purpose != ko::Purpose::Undo)
                 continue;

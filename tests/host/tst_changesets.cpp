@@ -1,4 +1,5 @@
 #include "StoreTesting.h"
+#include "database/StoredHistory.h"
 #include "support/Patience.h"
 #include "support/TestMain.h"
 
@@ -74,7 +75,7 @@ void TestChangeSets::init()
     addCamera(*m_db, QLatin1String("Door"), QLatin1String("10.0.0.2"));
     QTest::qWait(1);
     QVERIFY(m_db->flush());
-    m_last = m_db->changeSets(0, 1000).last().number;
+    m_last = m_db->history().changeSets(0, 1000).last().number;
 }
 
 void TestChangeSets::cleanup()
@@ -86,7 +87,7 @@ void TestChangeSets::cleanup()
 QVector<ChangeSet> TestChangeSets::newSets()
 {
     QTest::qWait(1); // the turn ends
-    const QVector<ChangeSet> sets = m_db->changeSets(m_last, 1000);
+    const QVector<ChangeSet> sets = m_db->history().changeSets(m_last, 1000);
     if (!sets.isEmpty())
         m_last = sets.last().number;
     return sets;

@@ -1,4 +1,5 @@
 #include "audit/AuditLog.h"
+#include "database/StoredHistory.h"
 #include "discovery/DeviceIntake.h"
 #include "discovery/NearbyAddresses.h"
 #include "discovery/Scanner.h"
@@ -465,9 +466,9 @@ void DeviceIntakeTest::knownDeviceLearnsItsAddresses()
     QCOMPARE(node(0)->port(), 80);
     QVERIFY(node(0)->model().isEmpty() && node(0)->macAddress().isNull());
     QVERIFY(db().flush());
-    const qint64 number = db().changeSets(0, 1000).last().number;
+    const qint64 number = db().history().changeSets(0, 1000).last().number;
     feed(found);
-    QVERIFY(db().changeSets(number, 1000).isEmpty());
+    QVERIFY(db().history().changeSets(number, 1000).isEmpty());
 }
 
 void DeviceIntakeTest::knownDeviceGetsNoSecondNode_data()

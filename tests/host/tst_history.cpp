@@ -103,7 +103,7 @@ void TestHistory::init()
     addCamera(*m_db, "Door", "10.0.0.2");
     QTest::qWait(1);
     QVERIFY(m_db->flush());
-    m_last = m_db->changeSets(0, 1000).last().number;
+    m_last = m_db->history().changeSets(0, 1000).last().number;
     m_entries = m_db->auditLog().count();
 }
 
@@ -116,7 +116,7 @@ void TestHistory::cleanup()
 QVector<ChangeSet> TestHistory::newSets()
 {
     QTest::qWait(1); // the turn ends
-    const QVector<ChangeSet> sets = m_db->changeSets(m_last, 1000);
+    const QVector<ChangeSet> sets = m_db->history().changeSets(m_last, 1000);
     if (!sets.isEmpty())
         m_last = sets.last().number;
     return sets;
@@ -529,7 +529,7 @@ void TestHistory::anyMomentComesBack()
     m_db = openDatabase(m_file); // a start later
     for (int i = 0; i < soakOr(50, 20); ++i) {
         const auto state = std::next(states.begin(), int(random() % states.size()));
-        const PutBack shown = preview(m_db->changeSets(state->first, 100000));
+        const PutBack shown = preview(m_db->history().changeSets(state->first, 100000));
         for (const PutBackLine& line : shown.lines)
             QCOMPARE(line.state, PutBackLine::Possible);
         PuttingBack::apply(*m_db, shown, Cause::undoing({}));

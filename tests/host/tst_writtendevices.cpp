@@ -1,4 +1,5 @@
 #include "StoreTesting.h"
+#include "database/StoredHistory.h"
 #include "drivers/FactoryExtension.h"
 #include "exchange/CameraSurvey.h"
 #include "kogen/Property.h"
@@ -258,7 +259,7 @@ void TestWrittenDevices::oldNodesGetTheirsWithTheNextChange()
 
 void TestWrittenDevices::belongsToTheChangeSet()
 {
-    const qint64 before = m_db->changeSets(0, 1000).last().number;
+    const qint64 before = m_db->history().changeSets(0, 1000).last().number;
     StoreError error;
     QString id;
     const auto work = [&] {
@@ -266,7 +267,7 @@ void TestWrittenDevices::belongsToTheChangeSet()
         id = addDevice("10.0.0.1", mac);
     };
     QCOMPARE(m_db->runAlone(work, &error), HostNodeDB::Outcome::Stored);
-    const QVector<ChangeSet> sets = m_db->changeSets(before, 1000);
+    const QVector<ChangeSet> sets = m_db->history().changeSets(before, 1000);
     QCOMPARE(int(sets.size()), 1);
     QCOMPARE(sets.first().nodes.first().after->properties.value("FactoryIP").toString(),
              QString("00005E1234AB"));
@@ -279,11 +280,11 @@ void TestWrittenDevices::takenBackIsAsItWas()
     const QString id = addDevice("10.0.0.1", QString());
     QVERIFY(m_db->flush());
     QCoreApplication::processEvents(); // what comes now is another change set
-    const qint64 before = m_db->changeSets(0, 1000).last().number;
+    const qint64 before = m_db->history().changeSets(0, 1000).last().number;
     setText(*m_db, id, "MACAddress", mac);
     QVERIFY(m_db->flush());
     QCOMPARE(extension(id), QString("00005E1234AB"));
-    const QVector<ChangeSet> sets = m_db->changeSets(before, 1000);
+    const QVector<ChangeSet> sets = m_db->history().changeSets(before, 1000);
     QCOMPARE(int(sets.size()), 1);
     QVERIFY(m_db->apply(sets.first().inverse()) && m_db->flush());
     QCOMPARE(extension(id), QString("(no value)"));
