@@ -256,10 +256,7 @@ int Application::runWindow()
 
 int Application::importCameras() const
 {
-    return report(CameraSurvey::importCameras(m_options->value("import"), [](qint64, qint64) {
-        QCoreApplication::processEvents(); // the database stores what was done so far
-        return true;
-    }));
+    return report(CameraSurvey::importCameras(m_options->value("import")));
 }
 
 int Application::report(const CameraSurvey::ImportResult& result) const

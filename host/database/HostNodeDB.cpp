@@ -89,7 +89,7 @@ void HostNodeDB::column(const QString& key, const Visit& visit) const
 
 QString HostNodeDB::lookupHint(const NodeHint& hint) const
 {
-    const QString key = NodeTypes::lookupKey(NodeTypes::dataOf(hint));
+    const QString key = NodeTypes::lookupKey(NodeTypes::described(hint));
     return d->queue.reading([&] { return d->memory.nodeWithLookupKey(key); });
 }
 

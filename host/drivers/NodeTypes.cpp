@@ -160,14 +160,35 @@ void describeDevice(NodeData& data, const NodeHintIPDevice& hint)
 const QChar separator(0x1f);
 const QLatin1String deviceKey("device");
 
-/// What its type carries and nobody has set.
-void addCarried(NodeData& data)
+QHash<int, PropertyList>& carriedLists()
 {
-    const Properties carried = properties(data.type);
-    for (const NodeProperty& property : carried) {
-        if (!data.properties.contains(property.key))
-            data.properties.set(property.key, property.value);
+    static QHash<int, PropertyList> lists;
+    return lists;
+}
+
+/// What a node of the type has before anything is set.
+PropertyList carried(ENodeType type)
+{
+    auto found = carriedLists().find(type);
+    if (found == carriedLists().end()) {
+        found = carriedLists().insert(type, PropertyList());
+        const Properties declared = properties(type);
+        for (const NodeProperty& property : declared)
+            found->set(property.key, property.value);
     }
+    return *found;
+}
+
+void describe(NodeData& data, const NodeHint& hint)
+{
+    data.type = hint.type;
+    data.name = hint.name();
+    data.context = hint.context;
+    data.hasContext = hint.context != nullptr;
+    for (const auto& entry : hint.properties())
+        data.properties.set(entry.first, entry.second->value());
+    if (const auto* device = dynamic_cast<const NodeHintIPDevice*>(&hint))
+        describeDevice(data, *device);
 }
 
 constexpr int White = 245;
@@ -260,6 +281,7 @@ void declareForDevices(const NodeProperty& property)
 {
     urlCameraProperties().append(property); // made of the other list when it is first asked for
     cameraProperties().append(property);
+    carriedLists().clear();
 }
 
 kom::smart<INodeDriverComponent> driver(ENodeType type)
@@ -280,21 +302,15 @@ std::unique_ptr<Node> createNode(const NodeData& data, const std::shared_ptr<Vau
 NodeData described(const NodeHint& hint)
 {
     NodeData data;
-    data.type = hint.type;
-    data.name = hint.name();
-    data.context = hint.context;
-    data.hasContext = hint.context != nullptr;
-    for (const auto& entry : hint.properties())
-        data.properties.set(entry.first, entry.second->value());
-    if (const auto* device = dynamic_cast<const NodeHintIPDevice*>(&hint))
-        describeDevice(data, *device);
+    describe(data, hint);
     return data;
 }
 
 NodeData dataOf(const NodeHint& hint)
 {
-    NodeData data = described(hint);
-    addCarried(data);
+    NodeData data;
+    data.properties = carried(hint.type);
+    describe(data, hint);
     return data;
 }
 
@@ -303,7 +319,7 @@ NodeData remotePreviewOf(const NodeData& camera, const QString& address)
     NodeData data;
     data.type = RecordingTransponderType;
     data.name = QCoreApplication::translate("NodeTypes", "Remote preview of %1").arg(camera.name);
-    addCarried(data);
+    data.properties = carried(data.type);
     data.properties.set(PropertyKeys::RecordingTransponderIP, address);
     return data;
 }

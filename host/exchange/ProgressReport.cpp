@@ -4,6 +4,14 @@
 
 namespace ko {
 
+namespace {
+
+const int halfAFrame = 8; // milliseconds: storing what was read takes as long again
+const int linesWhenWatched = 100;
+const int linesElse = 500; // of which a commit takes a small part of the time
+
+} // namespace
+
 ProgressReport::ProgressReport(const CameraSurvey::Progress& progress)
     : m_progress(progress)
 {
@@ -11,7 +19,9 @@ ProgressReport::ProgressReport(const CameraSurvey::Progress& progress)
 
 bool ProgressReport::isDue()
 {
-    return !m_sinceLast.isValid() || ++m_lines >= 100 || m_sinceLast.elapsed() >= 20;
+    if (!m_sinceLast.isValid() || ++m_lines >= (m_progress ? linesWhenWatched : linesElse))
+        return true;
+    return m_progress && m_sinceLast.elapsed() >= halfAFrame;
 }
 
 bool ProgressReport::ask(qint64 done, qint64 total)

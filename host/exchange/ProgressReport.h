@@ -16,7 +16,7 @@ public:
     /// Whether to go on with the next line; once false, always false. Asks when isDue().
     bool goOn(qint64 done, qint64 total);
 
-    /// Whether it is time to ask again: after a hundred lines or 20 ms. Once for each line.
+    /// Whether it is time to ask again, and to let the event loop go on. Once for each line.
     bool isDue();
 
     /// Asks now.

@@ -40,16 +40,19 @@ QJsonObject objectOf(const QString& text)
 
 } // namespace
 
-QString text(const std::optional<NodeValues>& values, const NodeChange& change)
+QString text(const std::optional<NodeValues>& values, const NodeChange& change, const QString& properties)
 {
     if (!values)
         return QString();
     QString json;
-    json.reserve(64 * (1 + values->properties.count()));
+    json.reserve(64 * (1 + values->properties.count()) + int(properties.size()));
     appendKey(&json, Name);
     JsonText::appendText(&json, values->name);
     appendKey(&json, Properties);
-    PropertyCoding::appendJson(&json, values->properties);
+    if (properties.isEmpty())
+        PropertyCoding::appendJson(&json, values->properties);
+    else
+        json.append(properties);
     if (!change.isUpdated()) {
         appendKey(&json, Type);
         JsonText::appendNumber(&json, qint64(change.type));

@@ -10,8 +10,10 @@ namespace ko {
 /// not there has a null text.
 namespace ChangeCoding {
 
-/// Of a node, with its type and place if it is there on one side only.
-KO_HOST_EXPORT QString text(const std::optional<NodeValues>& values, const NodeChange& change);
+/// Of a node, with its type and place if it is there on one side only. \a properties are those of \a values
+/// as JSON, if they were made for something else already.
+KO_HOST_EXPORT QString text(const std::optional<NodeValues>& values, const NodeChange& change,
+                            const QString& properties = QString());
 
 /// Fills in what text() gave, with type and place where they stand there.
 KO_HOST_EXPORT std::optional<NodeValues> nodeValues(const QString& text, NodeChange* change);

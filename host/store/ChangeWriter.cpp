@@ -43,9 +43,9 @@ void ChangeWriter::addNode(NodeChange change)
 {
     change.place = m_tables.insertNode(change.place, change.summary, change.lookupKey);
     seal(change.id, &change.after->properties);
-    m_tables.setProperties(change.place, change.after->properties);
+    const QString stored = m_tables.setProperties(change.place, change.after->properties);
     m_places.insert(change.id, change.place);
-    note(change);
+    note(change, stored);
 }
 
 void ChangeWriter::updateNode(NodeChange change)
@@ -121,10 +121,11 @@ void ChangeWriter::change(const EnvironmentsChange& change)
               ChangeCoding::text(change.after));
 }
 
-void ChangeWriter::note(const NodeChange& change)
+/// \a after: the properties as JSON, where it is made already.
+void ChangeWriter::note(const NodeChange& change, const QString& after)
 {
     m_log.add(number(), {ChangeLog::NodeKind, change.id}, ChangeCoding::text(change.before, change),
-              ChangeCoding::text(change.after, change));
+              ChangeCoding::text(change.after, change, after));
 }
 
 void ChangeWriter::note(const RelationChange& change)

@@ -40,7 +40,7 @@ private:
     void change(const RelationChange& change);
     void change(const SettingChange& change);
     void change(const EnvironmentsChange& change);
-    void note(const NodeChange& change);
+    void note(const NodeChange& change, const QString& after = QString());
     void note(const RelationChange& change);
     qint64 number();
     QString sealed(const QString& owner, const QString& key, const QString& text);

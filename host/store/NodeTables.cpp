@@ -217,7 +217,7 @@ void NodeTables::removeNode(qint64 n)
     m_store.run("DELETE FROM nodes WHERE n = ?", {n});
 }
 
-void NodeTables::setProperties(qint64 n, const PropertyList& properties)
+QString NodeTables::setProperties(qint64 n, const PropertyList& properties)
 {
     QString json;
     PropertyCoding::appendJson(&json, properties);
@@ -229,6 +229,7 @@ void NodeTables::setProperties(qint64 n, const PropertyList& properties)
                 " ON CONFLICT (node) DO UPDATE SET properties = excluded.properties, mac = excluded.mac,"
                 " extension = excluded.extension",
                 {n, json, column(PropertyKeys::MacAddress), column(PropertyKeys::FactoryIP)});
+    return json;
 }
 
 QVector<Relation> NodeTables::relations()

@@ -57,8 +57,8 @@ public:
     void updateNode(qint64 n, const PackedSummary& summary, const QString& lookupKey);
     /// With its properties and relations.
     void removeNode(qint64 n);
-    /// All of a node.
-    void setProperties(qint64 n, const PropertyList& properties);
+    /// All of a node. Returns them as they are stored.
+    QString setProperties(qint64 n, const PropertyList& properties);
 
     QVector<Relation> relations();
     QVector<Relation> relationsFrom(const NodeID& source);

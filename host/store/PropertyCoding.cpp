@@ -142,9 +142,10 @@ QJsonDocument documentOf(std::string_view utf8)
 
 void appendJson(QString* json, const PropertyList& properties)
 {
+    json->reserve(json->size() + 48 * properties.count());
     appendObject(
-        json, properties, [](const PropertyList::Entry& entry) { return entry.name; },
-        [](const PropertyList::Entry& entry) { return entry.value; });
+        json, properties, [](const PropertyList::Entry& entry) -> const QString& { return entry.name; },
+        [](const PropertyList::Entry& entry) -> const QVariant& { return entry.value; });
 }
 
 PropertyList listFromJson(const QJsonObject& object)
