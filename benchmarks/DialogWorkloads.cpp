@@ -345,6 +345,9 @@ private:
 
 QVector<Workload> dialogWorkloads()
 {
+    const QString storedTwice =
+        QStringLiteral("Each node is read as the disk has it before it is changed, its password"
+                       " is sealed for it alone, and the history keeps what was before and after.");
     return {
         {QStringLiteral("recording folder assignment dialog, its folders in the table"),
          QStringLiteral("QTableWidget filled with sorting off"),
@@ -353,14 +356,20 @@ QVector<Workload> dialogWorkloads()
          make<Assigning>()},
         {QStringLiteral("user and password for all cameras, to disk"),
          QStringLiteral("raw SQLite, the same rows in one transaction"),
-         3.0,
+         2.0,
          {1000, 10000},
-         make<Authenticating>()},
+         make<Authenticating>(),
+         false,
+         7.5,
+         storedTwice},
         {QStringLiteral("recording folders for all cameras moved, to disk"),
          QStringLiteral("raw SQLite, the same rows in one transaction"),
-         3.0,
+         2.0,
          {1000, 10000},
-         make<MassAssigning>()},
+         make<MassAssigning>(),
+         false,
+         3.6,
+         storedTwice},
         {QStringLiteral("dialog of a camera, the first since the start, to its first picture"),
          QStringLiteral("the same pages without a database"), 1.5, allSizes,
          [](int size) { return std::make_unique<Editing>(size, Editing::When::First); }, false, 12,

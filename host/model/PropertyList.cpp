@@ -63,7 +63,9 @@ QVariant PropertyList::value(const QString& name) const
 
 void PropertyList::set(const QString& name, const QVariant& value)
 {
-    const int index = int(std::lower_bound(begin(), end(), name, before) - begin());
+    // Whoever reads a list sets its names in their order.
+    const bool isLast = m_entries.isEmpty() || m_entries.constLast().name < name;
+    const int index = isLast ? count() : int(std::lower_bound(begin(), end(), name, before) - begin());
     const bool found = index < count() && m_entries.at(index).name == name;
     if (!value.isValid()) {
         if (found)

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -130,6 +131,99 @@ kogen::PropertySet setOf(const QJsonObject& object)
     return set;
 }
 
+/// Reads what appendJson() writes of the commonest values, three times as fast as through a document. Gives
+/// up at anything else.
+class PlainReader
+{
+public:
+    explicit PlainReader(std::string_view utf8)
+        : m_rest(utf8)
+    {
+    }
+
+    std::optional<PropertyList> read()
+    {
+        PropertyList properties;
+        const auto set = [&properties](const QString& name, const QVariant& value) {
+            properties.set(name, value);
+        };
+        return readObject(set, true) && m_rest.empty() ? std::make_optional(properties) : std::nullopt;
+    }
+
+private:
+    /// \a set takes the entries; the sets among them only on the outside.
+    template <class Set>
+    bool readObject(const Set& set, bool isOutside)
+    {
+        if (!take("{"))
+            return false;
+        for (bool isFirst = true; !take("}"); isFirst = false) {
+            const std::optional<QString> name = (isFirst || take(",")) ? text() : std::nullopt;
+            const QVariant value = name ? pair(isOutside) : QVariant();
+            if (!value.isValid())
+                return false;
+            set(*name, value);
+        }
+        return true;
+    }
+
+    bool take(std::string_view expected)
+    {
+        if (m_rest.substr(0, expected.size()) != expected)
+            return false;
+        m_rest.remove_prefix(expected.size());
+        return true;
+    }
+
+    QVariant pair(bool mayBeSet)
+    {
+        QVariant value;
+        if (take(":[0,")) {
+            if (const std::optional<QString> found = text())
+                value = *found;
+        } else if (take(":[1,")) {
+            if (const std::optional<int> found = number())
+                value = *found != 0;
+        } else if (take(":[2,")) {
+            if (const std::optional<int> found = number())
+                value = *found;
+        } else if (mayBeSet && take(":[4,")) {
+            kogen::PropertySet set;
+            const auto insert = [&set](const QString& name, const QVariant& entry) {
+                set.insert(PropertyList::toProperty(name, entry));
+            };
+            if (readObject(insert, false))
+                value = QVariant::fromValue(set);
+        }
+        return take("]") ? value : QVariant();
+    }
+
+    /// Without escapes, and in UTF-8.
+    std::optional<QString> text()
+    {
+        if (!take("\""))
+            return std::nullopt;
+        const size_t length = m_rest.find_first_of("\"\\");
+        if (length == std::string_view::npos || m_rest[length] != '"')
+            return std::nullopt;
+        QString found = QString::fromUtf8(m_rest.data(), int(length));
+        m_rest.remove_prefix(length + 1);
+        return found.contains(QChar::ReplacementCharacter) ? std::nullopt : std::make_optional(found);
+    }
+
+    std::optional<int> number()
+    {
+        int number = 0;
+        const auto end = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), number);
+        if (end.ec != std::errc())
+            return std::nullopt;
+        m_rest.remove_prefix(size_t(end.ptr - m_rest.data()));
+        return number;
+    }
+
+    std::string_view m_rest;
+};
+
 QJsonDocument documentOf(std::string_view utf8)
 {
     const QByteArray text = QByteArray::fromRawData(utf8.data(), int(utf8.size()));
@@ -158,6 +252,8 @@ PropertyList listFromJson(const QJsonObject& object)
 
 std::optional<PropertyList> listFromText(std::string_view utf8)
 {
+    if (std::optional<PropertyList> plain = PlainReader(utf8).read())
+        return plain;
     const QJsonDocument document = documentOf(utf8);
     return document.isObject() ? std::make_optional(listFromJson(document.object())) : std::nullopt;
 }

@@ -22,6 +22,8 @@ private slots:
     void differenceTurnsOneIntoTheOther();
     void sameValueIsExact();
     void propertiesHaveTheirType();
+    void codedListIsReadAgain_data();
+    void codedListIsReadAgain();
     void foreignCodingGivesNothing();
 };
 
@@ -180,6 +182,42 @@ void TestPropertyList::propertiesHaveTheirType()
     }
     QVERIFY(PropertyList::toProperty(name, QVariant()).null());
     QVERIFY(PropertyList::toProperty(name, 1.0).null());
+}
+
+void TestPropertyList::codedListIsReadAgain_data()
+{
+    QTest::addColumn<QVariant>("value");
+    for (const char* text :
+         {"", "plain", "a \"quoted\" \\ path", "line\nend", "Größe 日本 \U0001F4F7", "\uFFFD", "]},{"})
+        QTest::newRow(text) << QVariant(QString::fromUtf8(text));
+    for (const int number : {0, -1, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
+        QTest::addRow("%d", number) << QVariant(number);
+    for (const bool flag : {false, true})
+        QTest::newRow(flag ? "true" : "false") << QVariant(flag);
+    for (const float number :
+         {0.1F, -1e30F, std::numeric_limits<float>::infinity(), std::numeric_limits<float>::quiet_NaN()})
+        QTest::addRow("%g", double(number)) << QVariant(number);
+    kogen::PropertySet set;
+    set.insert(PropertyList::toProperty(QLatin1String("inner"), QLatin1String("\"text\"")));
+    QTest::newRow("set") << QVariant::fromValue(set);
+}
+
+/// Most texts are read without a document, which a blank at the beginning prevents.
+void TestPropertyList::codedListIsReadAgain()
+{
+    QFETCH(QVariant, value);
+    PropertyList list = parsed(QLatin1String("a=1,z=2"));
+    list.set(QLatin1String("m"), value);
+    list.set(QString::fromUtf8("\"Größe\""), value);
+    for (int i = 0; i < 3; ++i) {
+        QString json;
+        PropertyCoding::appendJson(&json, list);
+        QVERIFY2(same(*PropertyCoding::listFromText(json.toStdString()), list), qPrintable(json));
+        QVERIFY2(same(*PropertyCoding::listFromText(' ' + json.toStdString()), list), qPrintable(json));
+        QVERIFY(!PropertyCoding::listFromText(json.toStdString() + 'x'));
+        QVERIFY(!PropertyCoding::listFromText(json.left(json.size() - 1).toStdString()));
+        list.set(i == 0 ? QString::fromUtf8("\"Größe\"") : QLatin1String("m"), QVariant());
+    }
 }
 
 void TestPropertyList::foreignCodingGivesNothing()
