@@ -101,6 +101,13 @@ void appendPair(QString* json, const QVariant& value)
     json->append(QLatin1Char(']'));
 }
 
+/// The toolkit's parser makes half of a surrogate pair of some bytes that are no text, which cannot be
+/// stored.
+QString wellFormed(const QString& text)
+{
+    return text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8());
+}
+
 kogen::PropertySet setOf(const QJsonObject& object);
 
 QVariant valueOf(const QJsonArray& pair)
@@ -111,7 +118,7 @@ QVariant valueOf(const QJsonArray& pair)
     const QVariant value = pair.at(1).toVariant();
     switch (type) {
     case String:
-        return value.toString();
+        return wellFormed(value.toString());
     case Bool:
         return value.toInt() != 0;
     case Int:
@@ -127,7 +134,7 @@ kogen::PropertySet setOf(const QJsonObject& object)
 {
     kogen::PropertySet set;
     for (auto it = object.begin(); it != object.end(); ++it)
-        set.insert(PropertyList::toProperty(it.key(), valueOf(it.value().toArray())));
+        set.insert(PropertyList::toProperty(wellFormed(it.key()), valueOf(it.value().toArray())));
     return set;
 }
 
@@ -246,7 +253,7 @@ PropertyList listFromJson(const QJsonObject& object)
 {
     PropertyList properties;
     for (auto it = object.begin(); it != object.end(); ++it)
-        properties.set(it.key(), valueOf(it.value().toArray()));
+        properties.set(wellFormed(it.key()), valueOf(it.value().toArray()));
     return properties;
 }
 
