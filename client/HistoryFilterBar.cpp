@@ -118,18 +118,20 @@ void HistoryFilterBar::fillKinds()
 void HistoryFilterBar::fillProperties()
 {
     const QSignalBlocker blocker(m_property);
-    const QVariant chosen = m_property->currentData();
-    const QStringList keys = HistoryWords::titledKeys();
-    QVector<QPair<QString, QString>> titles;
-    for (const QString& key : keys)
-        titles.append({HistoryWords::title(key), key});
+    const QString chosen = m_property->currentData().toStringList().value(0);
+    const QVector<QStringList> groups = HistoryWords::titledKeys();
+    QVector<QPair<QString, QStringList>> titles;
+    for (const QStringList& keys : groups)
+        titles.append({HistoryWords::title(keys.first()), keys});
     std::sort(titles.begin(), titles.end(),
               [](const auto& a, const auto& b) { return QString::localeAwareCompare(a.first, b.first) < 0; });
     m_property->clear();
     m_property->addItem(tr("All properties"));
-    for (const auto& title : std::as_const(titles))
+    for (const auto& title : std::as_const(titles)) {
         m_property->addItem(title.first, title.second);
-    m_property->setCurrentIndex(std::max(0, m_property->findData(chosen)));
+        if (title.second.contains(chosen)) // another language may share titles otherwise
+            m_property->setCurrentIndex(m_property->count() - 1);
+    }
 }
 
 HistoryFilter HistoryFilterBar::filter() const
@@ -137,7 +139,7 @@ HistoryFilter HistoryFilterBar::filter() const
     HistoryFilter filter;
     filter.text = m_text->text().trimmed();
     filter.user = m_user->text().trimmed();
-    filter.property = m_property->currentData().toString();
+    filter.properties = m_property->currentData().toStringList();
     if (m_kind->currentIndex() > 0)
         filter.purpose = Purpose(m_kind->currentData().toInt());
     if (m_isFrom->isChecked())

@@ -2,6 +2,7 @@
 
 #include "MainWindow.h"
 #include "PutBackDialog.h"
+#include "audit/ChangeSetTitle.h"
 #include "database/HostNodeDB.h"
 #include "ko/OutsideText.h"
 
@@ -60,20 +61,20 @@ void UndoCommands::run(UndoStack::Direction direction)
 {
     HostNodeDB& db = m_window.database();
     db.flush(); // what waits is undone first, and nothing is redone after it
-    const QString title = m_stack.title(direction);
+    const std::optional<ChangeSetRow> row = m_stack.next(direction);
     const std::optional<PutBack> shown = m_stack.preview(direction);
-    if (!shown)
+    if (!row || !shown)
         return; // there is none any more, or it cannot be read, which is said by itself
     PutBackDialog dialog(
-        [this, direction] { return m_stack.title(direction); }, *shown, PutBackDialog::words(db),
+        [&row] { return ChangeSetTitle::of(*row); }, *shown, PutBackDialog::words(db),
         [this, direction](const PutBack& putBack) { return m_stack.apply(direction, putBack); }, &m_window);
     const bool isDone = dialog.exec() == QDialog::Accepted;
     if (isDone) {
         m_window.applyChanges();
         m_window.say((direction == UndoStack::Undo ? tr("Undone: %1") : tr("Redone: %1"))
-                         .arg(OutsideText::visible(title)));
+                         .arg(OutsideText::visible(ChangeSetTitle::of(*row))));
     } else if (!dialog.isPossible()) {
-        m_stack.drop(direction); // else it would be in the way of what was done before
+        m_stack.dropIfLost(direction, *shown); // else it would be in the way of what was done before
     }
 }
 

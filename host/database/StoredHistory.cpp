@@ -46,6 +46,11 @@ ChangeSetPart StoredHistory::changes(qint64 number, qint64 after, int count)
         .value_or(unread);
 }
 
+std::optional<ChangeSet> StoredHistory::changesOf(qint64 number, const QString& id)
+{
+    return m_queue.reading([&] { return std::make_optional(m_store.changesOf(number, id)); });
+}
+
 std::optional<PresentState> StoredHistory::present(const PresentState::Wanted& wanted)
 {
     PresentState state;

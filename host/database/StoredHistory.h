@@ -42,6 +42,10 @@ public:
     /// At most \a count changes after those with which the last part of a change set ended.
     ChangeSetPart changes(qint64 number, qint64 after, int count);
 
+    /// All that a change set changed of one node, with the relations that begin there, or of one setting;
+    /// with an empty \a id of the environments. None if it cannot be read.
+    std::optional<ChangeSet> changesOf(qint64 number, const QString& id);
+
     /// None if it cannot be read.
     std::optional<PresentState> present(const PresentState::Wanted& wanted);
 

@@ -245,17 +245,22 @@ QString HistoryWords::title(const QString& key)
     return found == std::end(titles) ? NodeFacts::title(key) : caption(found->context, found->text);
 }
 
-QStringList HistoryWords::titledKeys()
+QVector<QStringList> HistoryWords::titledKeys()
 {
-    QStringList keys;
-    QSet<QString> known;
-    for (const Title& entry : titles) {
-        const QString text = title(entry.key);
-        if (!known.contains(text))
-            keys.append(entry.key);
-        known.insert(text);
+    QStringList keys = KnownDevice::keys();
+    for (const Title& entry : titles)
+        keys.append(entry.key);
+    QVector<QStringList> groups;
+    QHash<QString, int> at; // of a title
+    for (const QString& key : std::as_const(keys)) {
+        const QString text = title(key);
+        if (!at.contains(text)) {
+            at.insert(text, int(groups.size()));
+            groups.append(QStringList());
+        }
+        groups[at.value(text)].append(key);
     }
-    return keys;
+    return groups;
 }
 
 QString HistoryWords::text(const Alteration& of, const QVariant& value) const

@@ -36,8 +36,8 @@ public:
     /// The title of a property or a setting.
     static QString title(const QString& key);
 
-    /// The keys of the properties and settings that have one, each title once.
-    static QStringList titledKeys();
+    /// The keys of the properties and settings that have one, those of one title together.
+    static QVector<QStringList> titledKeys();
 
 private:
     QString nameOf(const NodeID& id) const;

@@ -24,18 +24,22 @@ public:
 
     bool isEmpty(Direction direction) const { return steps(direction).isEmpty(); }
 
-    /// What the next one was called when it was done; empty if there is none.
+    /// The next one, as it was done first; none if there is none.
+    std::optional<ChangeSetRow> next(Direction direction) const;
+
+    /// What that is called; empty if there is none.
     QString title(Direction direction) const;
 
     /// What the next one would put back, once what waits is stored; none if there is none any more, or it
     /// cannot be read.
     std::optional<PutBack> preview(Direction direction) const;
 
-    /// Does it. If anything was done, the step can be taken in the other direction next.
+    /// Does what preview() gave, even if more was done since. If anything was done, the step can be taken in
+    /// the other direction next.
     PuttingBack::Outcome apply(Direction direction, const PutBack& shown);
 
-    /// Gives the next one up: nothing of it can be put back any more.
-    void drop(Direction direction);
+    /// Gives up the step of which preview() gave \a shown, if nothing of it can be put back any more.
+    void dropIfLost(Direction direction, const PutBack& shown);
 
 signals:
     void changed();
@@ -55,6 +59,8 @@ private:
 
     const QVector<Step>& steps(Direction direction) const { return direction == Undo ? m_done : m_undone; }
     QVector<Step>& steps(Direction direction) { return direction == Undo ? m_done : m_undone; }
+    std::optional<Step> take(Direction direction, qint64 last);
+    void giveBack(const Taken& taken);
     void stored(const StoredSet& set);
 
     HostNodeDB& m_db;

@@ -20,7 +20,7 @@ struct HistoryFilter
     qint64 to = std::numeric_limits<qint64>::max();
     QString user; ///< or a part of the name
     std::optional<Purpose> purpose;
-    QString property; ///< the key of one that was changed, or of a setting
+    QStringList properties; ///< keys, one of which was changed, or of settings; none: any
 };
 
 /// Some change sets of the history, newest first.

@@ -52,6 +52,15 @@ void take(ChangeSet* set, ChangeLog::Kind kind, const QString& id, const QString
     }
 }
 
+void take(ChangeSet* set, SqliteStore::Rows& rows)
+{
+    while (rows.next()) {
+        const QString kind = rows.text(0);
+        if (!kind.isEmpty())
+            take(set, ChangeLog::Kind(kind.at(0).toLatin1()), rows.text(1), rows.text(2), rows.text(3));
+    }
+}
+
 } // namespace
 
 ChangeLog::ChangeLog(SqliteStore& store)
@@ -140,11 +149,7 @@ void ChangeLog::readChanges(ChangeSet* set)
 {
     SqliteStore::Rows rows = m_store.run(
         "SELECT kind, id, before, after FROM changes WHERE change_set = ? ORDER BY seq", {set->number});
-    while (rows.next()) {
-        const QString kind = rows.text(0);
-        if (!kind.isEmpty())
-            take(set, Kind(kind.at(0).toLatin1()), rows.text(1), rows.text(2), rows.text(3));
-    }
+    take(set, rows);
 }
 
 ChangeSetPart ChangeLog::part(qint64 number, qint64 after, int count)
@@ -164,6 +169,17 @@ ChangeSetPart ChangeLog::part(qint64 number, qint64 after, int count)
     }
     part.isAtEnd = read < count;
     return part;
+}
+
+ChangeSet ChangeLog::changesOf(qint64 number, const QString& id)
+{
+    ChangeSet set;
+    set.number = number;
+    SqliteStore::Rows rows = m_store.run("SELECT kind, id, before, after FROM changes"
+                                         " WHERE id = ? AND change_set = ? ORDER BY seq",
+                                         {notNull(id), number});
+    take(&set, rows);
+    return set;
 }
 
 void ChangeLog::readAudit(ChangeSet* set)

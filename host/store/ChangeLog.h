@@ -59,6 +59,8 @@ public:
 
     /// At most \a count changes of a change set after the one with number \a after.
     ChangeSetPart part(qint64 number, qint64 after, int count);
+    /// All changes of a change set that are about the same id, see Row.
+    ChangeSet changesOf(qint64 number, const QString& id);
     /// See NodeStore::silentChangeSets().
     QVector<ChangeSetRow> silentSets(qint64 before, int count);
 

@@ -30,8 +30,9 @@ namespace {
 #define KO_WANTED                                                                                            \
     " s WHERE s.time BETWEEN ? AND ? AND (? = '' OR s.user LIKE ? ESCAPE '\\') AND (? = '' OR s.purpose = "  \
     "?)"                                                                                                     \
-    " AND (? = '' OR EXISTS (SELECT 1 FROM changes WHERE change_set = s.seq"                                 \
-    " AND (instr(before, ?) OR instr(after, ?) OR kind = 'S' AND id = ?)))"                                  \
+    " AND (? = '[]' OR EXISTS (SELECT 1 FROM changes WHERE change_set = s.seq"                               \
+    " AND (kind = 'S' AND id IN (SELECT value FROM json_each(?))"                                            \
+    " OR EXISTS (SELECT 1 FROM json_each(?) WHERE instr(before, value) OR instr(after, value)))))"           \
     " AND (? = '' OR s.user LIKE ? ESCAPE '\\' OR s.host LIKE ? ESCAPE '\\' OR s.subject LIKE ? ESCAPE '\\'" \
     " OR instr(?, ' ' || s.purpose || ' ') OR EXISTS (SELECT 1 FROM changes WHERE change_set = s.seq"        \
     " AND (before LIKE ? ESCAPE '\\' OR after LIKE ? ESCAPE '\\')))"                                         \
@@ -71,12 +72,18 @@ QString inJson(const QString& text)
     return json.mid(1, json.size() - 2);
 }
 
+QString jsonList(const QStringList& texts)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
+}
+
 QVector<SqlValue> wanted(const HistoryFilter& filter)
 {
     const QString purpose = filter.purpose ? Purposes::word(*filter.purpose) : QString::fromLatin1("");
-    const QString key = filter.property.isEmpty()
-                            ? QString::fromLatin1("")
-                            : QString::fromLatin1("\"%1\":").arg(inJson(filter.property));
+    QStringList written;
+    for (const QString& key : filter.properties)
+        written.append(QString::fromLatin1("\"%1\":").arg(inJson(key)));
+    const QString keys = jsonList(filter.properties);
     QString titled = QString::fromLatin1(" ");
     for (const Purpose titledPurpose : filter.titled)
         titled += Purposes::word(titledPurpose) + QLatin1Char(' ');
@@ -84,10 +91,8 @@ QVector<SqlValue> wanted(const HistoryFilter& filter)
     const QString text = notNull(filter.text);
     const QString plain = pattern(text);
     const QString coded = pattern(inJson(text));
-    return {filter.from, filter.to, user,  pattern(user), purpose,
-            purpose,     key,       key,   key,           notNull(filter.property),
-            text,        plain,     plain, plain,         titled,
-            coded,       coded};
+    return {filter.from,       filter.to, user,  pattern(user), purpose, purpose, keys,  keys,
+            jsonList(written), text,      plain, plain,         plain,   titled,  coded, coded};
 }
 
 } // namespace
@@ -108,8 +113,7 @@ HistoryPage HistoryReader::page(const HistoryFilter& filter, qint64 before, int 
     const bool isOfNodes = !filter.nodes.isEmpty();
     QVector<SqlValue> among = {before, count};
     if (isOfNodes)
-        among.prepend(QString::fromUtf8(
-            QJsonDocument(QJsonArray::fromStringList(filter.nodes)).toJson(QJsonDocument::Compact)));
+        among.prepend(jsonList(filter.nodes));
     HistoryPage page;
     {
         SqliteStore::Rows ends =

@@ -184,6 +184,11 @@ ChangeSetPart NodeStore::changes(qint64 number, qint64 after, int count)
     return d->log.part(number, after, count);
 }
 
+ChangeSet NodeStore::changesOf(qint64 number, const QString& id)
+{
+    return d->log.changesOf(number, id);
+}
+
 QVector<ChangeSetRow> NodeStore::silentChangeSets(qint64 before, int count)
 {
     return d->log.silentSets(before, count);

@@ -111,6 +111,9 @@ public:
     HistoryPage history(const HistoryFilter& filter, qint64 before, int count);
     /// At most \a count changes of a change set after those with which the last part ended.
     ChangeSetPart changes(qint64 number, qint64 after, int count);
+    /// All that a change set changed of one node, with the relations that begin there, or of one setting;
+    /// with an empty \a id of the environments.
+    ChangeSet changesOf(qint64 number, const QString& id);
     /// Those before number \a before without an entry in the audit log, at most \a count, newest first.
     QVector<ChangeSetRow> silentChangeSets(qint64 before, int count);
     QVector<AuditRow> audit(const LogRange& range);

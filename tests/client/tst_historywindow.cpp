@@ -88,6 +88,7 @@ private slots:
     void newestFirstWithChanges();
     void filters_data();
     void filters();
+    void propertiesOfOneTitle();
     void timeFilter();
     void ofSelectedNodes();
     void fromTheAuditLog();
@@ -193,6 +194,8 @@ void tst_HistoryWindow::filters_data()
                                           << "Path" << QStringList({"Removing Archive", added});
     QTest::newRow("setting") << "propertyComboBox"
                              << "Use proxy" << QStringList();
+    QTest::newRow("title of a property and of a setting") << "propertyComboBox"
+                                                          << "Bandwidth" << QStringList("Settings");
 }
 
 void tst_HistoryWindow::filters()
@@ -209,6 +212,19 @@ void tst_HistoryWindow::filters()
         QCOMPARE(child<QPushButton>(dialog, "putBackButton")->isEnabled(), !found.isEmpty());
         const QString state = child<QLabel>(dialog, "stateLabel")->text();
         QCOMPARE(state, QString(found.isEmpty() ? "Nothing was found." : "This is all."));
+    });
+}
+
+void tst_HistoryWindow::propertiesOfOneTitle()
+{
+    testsupport::setText(*m_host->db(), idOf("Gate south"), "RecordingTransponderUser", "operator");
+    endTurn();
+    open("actionHistory", [](QDialog* dialog) {
+        choose(dialog, "propertyComboBox", "User name");
+        const QStringList found = titles(dialog);
+        QVERIFY2(found.contains("Properties of Gate south"), qPrintable(found.join('\n')));
+        QVERIFY2(found.contains("User and password of Yard"), qPrintable(found.join('\n')));
+        QVERIFY2(!found.contains("Properties of Gate north"), qPrintable(found.join('\n')));
     });
 }
 

@@ -29,7 +29,12 @@ QStringList rowOf(const QAbstractItemModel& model, int row)
     return cells;
 }
 
+/// A part of what is confirmed at once.
+typedef void (*Part)(HostNodeDB& db, const QString& camera, const QString& folder);
+
 } // namespace
+
+Q_DECLARE_METATYPE(Part)
 
 /// What the user did is undone and done again by him, with a look at it first.
 class tst_Undo : public QObject, private testsupport::ConfirmedWays
@@ -56,6 +61,10 @@ private slots:
     void keyboard();
     void manyLines();
     void whatWaitsCounts();
+    void whatLeavesNothingIsNoStep_data();
+    void whatLeavesNothingIsNoStep();
+    void possibleAgainWhileShown();
+    void anotherStepWhileShown();
 
 private:
     QString state() const { return testsupport::stateOf(m_host->fileName()); }
@@ -418,6 +427,104 @@ void tst_Undo::whatWaitsCounts()
     QCOMPARE(answers.opened(), QStringList("PutBackDialog"));
     settle();
     QCOMPARE(testsupport::text(*m_host->db(), idOf("Gate north"), "Model"), QString("two"));
+}
+
+/// The parts of one change set, the second of which takes away what the first one did.
+void tst_Undo::whatLeavesNothingIsNoStep_data()
+{
+    QTest::addColumn<Part>("first");
+    QTest::addColumn<Part>("second");
+    QTest::newRow("name") << Part([](HostNodeDB& db, const QString& camera, const QString&) {
+        testsupport::setText(db, camera, "Name", "Other");
+    }) << Part([](HostNodeDB& db, const QString& camera, const QString&) {
+        testsupport::setText(db, camera, "Name", "Gate north");
+    });
+    QTest::newRow("relation") << Part([](HostNodeDB& db, const QString& camera, const QString& folder) {
+        db.removeNodeRelation(camera, folder, RecordingFolderRelation);
+    }) << Part([](HostNodeDB& db, const QString& camera, const QString& folder) {
+        db.addNodeRelation(camera, folder, RecordingFolderRelation);
+    });
+    QTest::newRow("node") << Part([](HostNodeDB& db, const QString& camera, const QString&) {
+        const QString made = testsupport::addNode(db, RecordingFolderType, "Made", "/made");
+        db.addNodeRelation(camera, made, RecordingFolderRelation);
+    }) << Part([](HostNodeDB& db, const QString&, const QString&) {
+        const QStringList folders = db.nodeIdList(RecordingFolderType);
+        db.removeNode(*std::find_if(folders.begin(), folders.end(),
+                                    [&db](const QString& id) { return db.summary(id).name == "Made"; }));
+    });
+    QTest::newRow("setting") << Part([](HostNodeDB& db, const QString&, const QString&) {
+        db.setGlobalRecordingFolderPath("/elsewhere");
+    }) << Part([](HostNodeDB& db, const QString&, const QString&) {
+        db.setGlobalRecordingFolderPath("/here");
+    });
+}
+
+void tst_Undo::whatLeavesNothingIsNoStep()
+{
+    QFETCH(Part, first);
+    QFETCH(Part, second);
+    HostNodeDB& db = *m_host->db();
+    const QString camera = idOf("Gate north");
+    const QString folder = db.relatedNodes(camera, RecordingFolderRelation).value(0);
+    db.setGlobalRecordingFolderPath("/here");
+    settle();
+    const QString known = action("actionUndo")->text();
+    const QString before = state();
+    {
+        const ChangeScope scope(db, Cause::now(Purpose::Edit));
+        first(db, camera, folder);
+        settle();
+        QVERIFY(action("actionUndo")->text() != known);
+        QVERIFY(state() != before);
+        second(db, camera, folder);
+        settle();
+        QCOMPARE(action("actionUndo")->text(), known);
+        testsupport::setText(db, camera, "Model", "one");
+        settle();
+    }
+    QVERIFY(action("actionUndo")->text() != known);
+    run("actionUndo", confirm);
+    QCOMPARE(state(), before);
+    QCOMPARE(action("actionUndo")->text(), known);
+}
+
+void tst_Undo::possibleAgainWhileShown()
+{
+    setModel("Gate north", "one");
+    const std::unique_ptr<HostNodeDB> other = testsupport::openDatabase(m_host->fileName());
+    testsupport::setText(*other, idOf("Gate north"), "Model", "theirs");
+    QVERIFY(other->flush());
+    run("actionUndo", [&](QDialog* dialog) {
+        QVERIFY(child<QLabel>(dialog, "hintLabel")->text().contains("nothing of it"));
+        testsupport::setText(*other, idOf("Gate north"), "Model", "one");
+        QVERIFY(other->flush());
+        press(dialog, QDialogButtonBox::Close);
+    });
+    run("actionUndo", confirm);
+    QCOMPARE(testsupport::text(*m_host->db(), idOf("Gate north"), "Model"), QString());
+}
+
+/// What this process does meanwhile, a check with what it fills in for example, is another step.
+void tst_Undo::anotherStepWhileShown()
+{
+    setModel("Gate north", "one");
+    const std::unique_ptr<HostNodeDB> other = testsupport::openDatabase(m_host->fileName());
+    testsupport::setText(*other, idOf("Gate north"), "Model", "theirs");
+    QVERIFY(other->flush());
+    run("actionUndo", [this](QDialog* dialog) {
+        setModel("Gate south", "new");
+        press(dialog, QDialogButtonBox::Close);
+    });
+    QCOMPARE(action("actionUndo")->text(), QString("&Undo \"Properties of Gate south\""));
+    run("actionUndo", [this](QDialog* dialog) {
+        setModel("Yard", "newer");
+        confirm(dialog);
+    });
+    QCOMPARE(testsupport::text(*m_host->db(), idOf("Gate south"), "Model"), QString());
+    QCOMPARE(action("actionUndo")->text(), QString("&Undo \"Properties of Yard\""));
+    run("actionUndo", confirm);
+    QCOMPARE(testsupport::text(*m_host->db(), idOf("Yard"), "Model"), QString());
+    QVERIFY(!action("actionUndo")->isEnabled());
 }
 
 KO_TEST_MAIN(tst_Undo)
