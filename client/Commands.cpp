@@ -87,6 +87,10 @@ const Commands::Command Commands::all[] = {
      QT_TRANSLATE_NOOP("MainWindow", "What was done to the selected nodes"), "", "", SomeNodes, InList,
      &WindowCommands::showHistoryOfSelected},
 
+    {QT_TRANSLATE_NOOP("MainWindow", "&Edit"), "actionBackTo", QT_TRANSLATE_NOOP("MainWindow", "&Back to..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Shows all nodes as they were before, and puts them back"), "", "",
+     Nothing, InMenu, &WindowCommands::showMoment},
+
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionAdd", QT_TRANSLATE_NOOP("MainWindow", "&Add..."),
      QT_TRANSLATE_NOOP("MainWindow", "Adds a node"), "Ctrl+N", "list-add", Nothing, InList | InBar,
      &NodeCommands::add},

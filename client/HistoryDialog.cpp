@@ -128,6 +128,7 @@ void HistoryDialog::createButtons()
     };
     m_putBack = add("putBackButton", &HistoryDialog::putBackSets);
     m_putBackLines = add("putBackLinesButton", &HistoryDialog::putBackLines);
+    m_backToHere = add("backToButton", &HistoryDialog::goBack);
     m_export = add("exportButton", &HistoryDialog::exportFound);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -156,6 +157,7 @@ void HistoryDialog::retranslate()
     m_changesView->setAccessibleName(tr("What it changed"));
     m_putBack->setText(tr("Put Back..."));
     m_putBackLines->setText(tr("Put Back Selected Changes..."));
+    m_backToHere->setText(tr("Back to Here..."));
     m_export->setText(tr("Export..."));
     showState();
 }
@@ -199,6 +201,7 @@ void HistoryDialog::showState()
 {
     m_putBack->setEnabled(m_setsView->selectionModel()->hasSelection());
     m_putBackLines->setEnabled(m_changesView->selectionModel()->hasSelection());
+    m_backToHere->setEnabled(m_setsView->selectionModel()->selectedRows().size() == 1);
     m_export->setEnabled(m_sets.rowCount() > 0);
     m_state->setText(m_sets.isLooking()        ? tr("Looking for more...")
                      : m_sets.rowCount() == 0  ? tr("Nothing was found.")
@@ -261,6 +264,13 @@ void HistoryDialog::putBack(const QVector<Alteration>& alterations, const QVecto
         return;
     m_done = tr("Put back: %1").arg(OutsideText::visible(title()));
     showFound(); // with what was done just now
+}
+
+/// The other window can only be used when this one is closed.
+void HistoryDialog::goBack()
+{
+    m_backTo = selectedSets().first();
+    accept();
 }
 
 void HistoryDialog::exportFound()

@@ -35,6 +35,9 @@ public:
     HistoryDialog(HostNodeDB& db, const Scope& scope, QWidget* parent);
     ~HistoryDialog() override;
 
+    /// The change set at which the user wants to see the database as it was, if that closed the window.
+    std::optional<ChangeSetRow> backTo() const { return m_backTo; }
+
     /// What was put back last, for a status bar; empty if nothing was.
     QString whatWasPutBack() const { return m_done; }
 
@@ -51,6 +54,7 @@ private:
     void putBackLines();
     void putBack(const QVector<Alteration>& alterations, const QVector<ChangeSetRow>& sets);
     void exportFound();
+    void goBack();
 
     HostNodeDB& m_db;
     const Scope m_scope;
@@ -66,6 +70,8 @@ private:
     QPushButton* m_putBack = nullptr;
     QPushButton* m_putBackLines = nullptr;
     QPushButton* m_export = nullptr;
+    QPushButton* m_backToHere = nullptr;
+    std::optional<ChangeSetRow> m_backTo;
     QString m_done;
 };
 

@@ -2,8 +2,10 @@
 
 #include "AddressChangesDialog.h"
 #include "AuditLogDialog.h"
+#include "BackToDialog.h"
 #include "HistoryDialog.h"
 #include "MainWindow.h"
+#include "MomentWindow.h"
 #include "NodeListView.h"
 #include "PreferencesDialog.h"
 #include "ScanFindings.h"
@@ -28,14 +30,18 @@ namespace WindowCommands {
 
 namespace {
 
-void runHistory(MainWindow& window, const HistoryDialog::Scope& scope, QWidget* parent)
+/// Returns whether it ends with a moment that is shown in a window beside the main window.
+bool runHistory(MainWindow& window, const HistoryDialog::Scope& scope, QWidget* parent)
 {
     HistoryDialog dialog(window.database(), scope, parent);
     dialog.exec();
-    if (dialog.whatWasPutBack().isEmpty())
-        return;
-    window.applyChanges();
-    window.say(dialog.whatWasPutBack());
+    if (!dialog.whatWasPutBack().isEmpty()) {
+        window.applyChanges();
+        window.say(dialog.whatWasPutBack());
+    }
+    if (dialog.backTo())
+        (new MomentWindow(window, *dialog.backTo()))->show();
+    return dialog.backTo().has_value();
 }
 
 } // namespace
@@ -82,7 +88,10 @@ void showAddressChanges(MainWindow& window)
 void showAuditLog(MainWindow& window)
 {
     AuditLogDialog dialog(window.database().auditLog(), &window);
-    dialog.setHistory([&](qint64 changeSet) { runHistory(window, {{}, changeSet}, &dialog); });
+    dialog.setHistory([&](qint64 changeSet) {
+        if (runHistory(window, {{}, changeSet}, &dialog))
+            dialog.reject();
+    });
     dialog.exec();
 }
 
@@ -94,6 +103,13 @@ void showHistory(MainWindow& window)
 void showHistoryOfSelected(MainWindow& window)
 {
     runHistory(window, {window.list().selectedIds(), 0}, &window);
+}
+
+void showMoment(MainWindow& window)
+{
+    BackToDialog dialog(window.database(), &window);
+    if (dialog.exec() == QDialog::Accepted && dialog.moment())
+        (new MomentWindow(window, *dialog.moment()))->show();
 }
 
 void showDatabase(MainWindow& window)

@@ -16,6 +16,7 @@ void showAddressChanges(MainWindow& window);
 void showAuditLog(MainWindow& window);
 void showHistory(MainWindow& window);
 void showHistoryOfSelected(MainWindow& window);
+void showMoment(MainWindow& window);
 void showDatabase(MainWindow& window);
 void about(MainWindow& window);
 

@@ -199,6 +199,33 @@ Bez --import, --export, --backup, --restore a --verify-log otevře okno a přij�
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Zpět k</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Ukáže všechny uzly tak, jak byly, v samostatném okně. Nic se tím nezmění; co se tam ukazuje, lze vrátit.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>Ne později než:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Jak to bylo po tomto:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Co bylo provedeno</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zobrazit</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -831,6 +858,10 @@ Bez --import, --export, --backup, --restore a --verify-log otevře okno a přij�
         <source>Export...</source>
         <translation>Exportovat...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Zpět až sem...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1425,6 +1456,138 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Zařízení: %1, jiné uzly: %2; zobrazeno: %3, vybráno: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>Zpě&amp;t k...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Ukáže všechny uzly tak, jak byly dříve, a vrátí je</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Tehdy</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nyní</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Změněno</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Odebráno</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Přidáno</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Název</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresa</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>Od té doby</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Jak to bylo, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>Uzly tak, jak byly %1, po „%2“ (%3). Zde si je lze prohlédnout a vrátit, ale ne upravit.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hledat</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Jen co je teď jiné</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Uzly:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Vlastnosti:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Tehdejší uzly</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Vlastnosti tehdy a nyní</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>Kolik je přečteno z toho, co se od té doby provedlo</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Vrátit vše...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Vrátit vybrané...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Tehdy uzlů: %1, nyní jiných: %2, zobrazeno: %3</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Čte se, co se od té doby provedlo...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>Jiná jsou i nastavení nebo prostředí.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n změna od té doby neodpovídá tomu, co je nyní: co bylo před ní, není známo.</numerusform>
+            <numerusform>%n změny od té doby neodpovídají tomu, co je nyní: co bylo před nimi, není známo.</numerusform>
+            <numerusform>%n změn od té doby neodpovídá tomu, co je nyní: co bylo před nimi, není známo.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Zpět k %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Vráceno: %1</translation>
     </message>
 </context>
 <context>

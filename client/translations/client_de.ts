@@ -199,6 +199,33 @@ Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster g
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Zurück zu</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Zeigt alle Knoten, wie sie waren, in einem eigenen Fenster. Dadurch wird nichts geändert; was dort gezeigt wird, kann zurückgenommen werden.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>Nicht später als:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Wie es war, nachdem dies getan wurde:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Was getan wurde</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -815,6 +842,10 @@ Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster g
         <source>Export...</source>
         <translation>Exportieren...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Zurück bis hier...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1403,6 +1434,137 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Geräte: %1, andere Knoten: %2; angezeigt: %3, ausgewählt: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>&amp;Zurück zu...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Zeigt alle Knoten, wie sie früher waren, und nimmt Änderungen zurück</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Damals</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Entfernt</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>Seitdem</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Wie es war, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>Die Knoten, wie sie am %1 nach „%2“ von %3 waren. Sie können hier angesehen und zurückgenommen, aber nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Nur was jetzt anders ist</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Knoten:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Eigenschaften:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Knoten von damals</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Eigenschaften damals und jetzt</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>Was von dem seither Getanen gelesen ist</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Alles zurücknehmen...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Ausgewählte zurücknehmen...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Damals %1 Knoten, %2 jetzt anders; %3 angezeigt</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Liest, was seither getan wurde...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>Auch Einstellungen oder Umgebungen sind anders.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n Änderung seither passt nicht zu dem, was jetzt da ist: Was vor ihr war, ist nicht bekannt.</numerusform>
+            <numerusform>%n Änderungen seither passen nicht zu dem, was jetzt da ist: Was vor ihnen war, ist nicht bekannt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Zurück zu %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Zurückgenommen: %1</translation>
     </message>
 </context>
 <context>

@@ -183,6 +183,16 @@
     </message>
 </context>
 <context>
+    <name>MomentWindow</name>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n change since then does not fit what is there now: what was before it is not known.</numerusform>
+            <numerusform>%n changes since then do not fit what is there now: what was before them is not known.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>NameList</name>
     <message numerus="yes">
         <source>and %n more</source>

@@ -199,6 +199,33 @@ Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y a
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Volver a</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Muestra todos los nodos como eran, en una ventana aparte. Eso no cambia nada; lo que se muestra allí se puede revertir.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>No más tarde de:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Como era después de esto:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Lo que se hizo</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -815,6 +842,10 @@ Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y a
         <source>Export...</source>
         <translation>Exportar...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Volver hasta aquí...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1403,6 +1434,137 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Dispositivos: %1, otros nodos: %2; mostrados: %3, seleccionados: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>&amp;Volver a...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Muestra todos los nodos como eran antes y los revierte</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Entonces</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Cambiado</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Añadido</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>Desde entonces</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Como era, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>Los nodos como eran el %1, después de «%2» por %3. Se pueden mirar y revertir, pero no editar aquí.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Solo lo que ahora es distinto</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Nodos:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Propiedades:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Nodos de entonces</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Propiedades entonces y ahora</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>Lo que se ha leído de lo hecho desde entonces</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Revertir todo...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Revertir lo seleccionado...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Entonces %1 nodos, %2 distintos ahora; %3 mostrados</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Leyendo lo que se hizo desde entonces...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>También son distintos ajustes o entornos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n cambio desde entonces no concuerda con lo que hay ahora: no se sabe qué había antes.</numerusform>
+            <numerusform>%n cambios desde entonces no concuerdan con lo que hay ahora: no se sabe qué había antes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Volver a %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Revertido: %1</translation>
     </message>
 </context>
 <context>

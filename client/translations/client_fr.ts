@@ -199,6 +199,33 @@ Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Revenir à</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Montre tous les nœuds tels qu&apos;ils étaient, dans une fenêtre à part. Rien n&apos;est modifié par là ; ce qui y est montré peut être remis en l&apos;état.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>Pas plus tard que :</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Tel que c&apos;était après ceci :</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Ce qui a été fait</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -815,6 +842,10 @@ Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre
         <source>Export...</source>
         <translation>Exporter...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Revenir ici...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1403,6 +1434,137 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Appareils : %1, autres nœuds : %2 ; affichés : %3, sélectionnés : %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>Re&amp;venir à...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Montre tous les nœuds tels qu&apos;ils étaient avant et les remet en l&apos;état</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Alors</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Actuel</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Modifié</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Supprimé</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Ajouté</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>Depuis</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Tel que c&apos;était, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>Les nœuds tels qu&apos;ils étaient le %1, après « %2 » par %3. On peut les regarder et les remettre en l&apos;état, mais pas les modifier ici.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Seulement ce qui est différent maintenant</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Nœuds :</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Propriétés :</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Nœuds d&apos;alors</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Propriétés alors et maintenant</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>Part lue de ce qui a été fait depuis</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Tout remettre en l&apos;état...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Remettre en l&apos;état la sélection...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Alors %1 nœuds, %2 différents maintenant ; %3 affichés</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Lecture de ce qui a été fait depuis...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>Des réglages ou des environnements sont différents aussi.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n modification depuis ne correspond pas à ce qui existe maintenant : l&apos;état antérieur n&apos;est pas connu.</numerusform>
+            <numerusform>%n modifications depuis ne correspondent pas à ce qui existe maintenant : l&apos;état antérieur n&apos;est pas connu.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Retour à %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Remis en l&apos;état : %1</translation>
     </message>
 </context>
 <context>

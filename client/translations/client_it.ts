@@ -199,6 +199,33 @@ Senza --import, --export, --backup, --restore e --verify-log apre una finestra e
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Torna a</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Mostra tutti i nodi com&apos;erano, in una finestra a parte. Questo non modifica nulla; ciò che vi è mostrato può essere ripristinato.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>Non più tardi di:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Com&apos;era dopo questa operazione:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Che cosa è stato fatto</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostra</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -815,6 +842,10 @@ Senza --import, --export, --backup, --restore e --verify-log apre una finestra e
         <source>Export...</source>
         <translation>Esporta...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Torna fino a qui...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1403,6 +1434,137 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Dispositivi: %1, altri nodi: %2; mostrati: %3, selezionati: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>&amp;Torna a...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Mostra tutti i nodi com&apos;erano prima e li ripristina</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>Che cosa</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Allora</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ora</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Modificato</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Rimosso</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Aggiunto</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>Da allora</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Com&apos;era, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>I nodi com&apos;erano il %1, dopo &quot;%2&quot; di %3. Qui si possono guardare e ripristinare, ma non modificare.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Solo ciò che ora è diverso</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Nodi:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Proprietà:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Nodi di allora</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Proprietà allora e ora</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>Quanto è stato letto di ciò che è stato fatto da allora</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Ripristina tutto...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Ripristina la selezione...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Allora %1 nodi, %2 ora diversi; %3 mostrati</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Lettura di ciò che è stato fatto da allora...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>Anche impostazioni o ambienti sono diversi.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n modifica da allora non corrisponde a ciò che c&apos;è ora: non si sa che cosa c&apos;era prima.</numerusform>
+            <numerusform>%n modifiche da allora non corrispondono a ciò che c&apos;è ora: non si sa che cosa c&apos;era prima.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Torna a %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Ripristinato: %1</translation>
     </message>
 </context>
 <context>

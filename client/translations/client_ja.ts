@@ -199,6 +199,33 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>過去の状態</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>すべてのノードを当時の状態で別のウィンドウに表示します。これによって何も変更されません。表示された内容は元に戻すことができます。</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>この時刻まで:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>この操作の直後の状態:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>行われた操作</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>表示</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -799,6 +826,10 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
         <source>Export...</source>
         <translation>エクスポート...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>この時点の状態...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1381,6 +1412,136 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>デバイス%1、その他のノード%2、表示%3、選択%4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>過去の状態(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>すべてのノードを以前の状態で表示し、元に戻します</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>当時</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>その後</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>当時の状態、%1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>%1、%3 による「%2」の直後のノードです。ここでは表示と復元ができますが、編集はできません。</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>現在と異なるもののみ</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>ノード:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>プロパティ:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>当時のノード</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>当時と現在のプロパティ</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>その後の操作の読み込み状況</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>すべて元に戻す...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>選択項目を元に戻す...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>当時のノード %1、現在と異なるもの %2、表示 %3</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>その後の操作を読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>設定または環境も異なります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>その後の変更 %n 件が現在の内容と一致しません。それ以前の内容は不明です。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>%1 の状態へ</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>元に戻しました: %1</translation>
     </message>
 </context>
 <context>

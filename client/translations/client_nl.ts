@@ -199,6 +199,33 @@ Zonder --import, --export, --backup, --restore en --verify-log wordt een venster
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Terug naar</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Toont alle knooppunten zoals ze waren, in een eigen venster. Daardoor wordt niets gewijzigd; wat daar wordt getoond, kan worden teruggedraaid.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>Niet later dan:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Zoals het was nadat dit was gedaan:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Wat er is gedaan</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Tonen</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -815,6 +842,10 @@ Zonder --import, --export, --backup, --restore en --verify-log wordt een venster
         <source>Export...</source>
         <translation>Exporteren...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Terug tot hier...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1403,6 +1434,137 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Apparaten: %1, andere knooppunten: %2; getoond: %3, geselecteerd: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>&amp;Terug naar...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Toont alle knooppunten zoals ze eerder waren en draait ze terug</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>Wat</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Toen</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nu</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Gewijzigd</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Verwijderd</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Toegevoegd</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>Sindsdien</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Zoals het was, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>De knooppunten zoals ze waren op %1, na &quot;%2&quot; door %3. Ze kunnen hier worden bekeken en teruggedraaid, maar niet bewerkt.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Alleen wat nu anders is</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Knooppunten:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Eigenschappen:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Knooppunten van toen</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Eigenschappen toen en nu</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>Wat is gelezen van wat sindsdien is gedaan</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Alles terugdraaien...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Selectie terugdraaien...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Toen %1 knooppunten, %2 nu anders; %3 getoond</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Lezen wat sindsdien is gedaan...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>Ook instellingen of omgevingen zijn anders.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n wijziging sindsdien past niet bij wat er nu is: wat daarvoor was, is niet bekend.</numerusform>
+            <numerusform>%n wijzigingen sindsdien passen niet bij wat er nu is: wat daarvoor was, is niet bekend.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Terug naar %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Teruggedraaid: %1</translation>
     </message>
 </context>
 <context>

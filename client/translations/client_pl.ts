@@ -199,6 +199,33 @@ Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjm
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Powrót do</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Pokazuje wszystkie węzły takimi, jakie były, w osobnym oknie. Niczego to nie zmienia; do tego, co tam widać, można wrócić.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>Nie później niż:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Tak jak było po tym:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Co zrobiono</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Pokaż</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -831,6 +858,10 @@ Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjm
         <source>Export...</source>
         <translation>Eksportuj...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Powrót do tego miejsca...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1425,6 +1456,138 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Urządzenia: %1, inne węzły: %2; pokazane: %3, zaznaczone: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>Po&amp;wrót do...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Pokazuje wszystkie węzły takimi, jakie były wcześniej, i cofa zmiany</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Wtedy</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Teraz</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Zmieniono</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Usunięto</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Dodano</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adres</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>Od tamtej pory</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Jak było, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>Węzły takie, jakie były %1, po „%2” (%3). Można je tu obejrzeć i cofnąć, ale nie edytować.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Szukaj</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Tylko to, co teraz jest inne</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Węzły:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Właściwości:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Węzły z tamtej chwili</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Właściwości wtedy i teraz</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>Ile odczytano z tego, co zrobiono od tamtej pory</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Cofnij wszystko...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Cofnij zaznaczone...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Wtedy węzłów: %1, teraz innych: %2, pokazano: %3</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Odczytywanie tego, co zrobiono od tamtej pory...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>Inne są też ustawienia lub środowiska.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n zmiana od tamtej pory nie pasuje do tego, co jest teraz: nie wiadomo, co było przed nią.</numerusform>
+            <numerusform>%n zmiany od tamtej pory nie pasują do tego, co jest teraz: nie wiadomo, co było przed nimi.</numerusform>
+            <numerusform>%n zmian od tamtej pory nie pasuje do tego, co jest teraz: nie wiadomo, co było przed nimi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Powrót do %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Cofnięto: %1</translation>
     </message>
 </context>
 <context>

@@ -199,6 +199,33 @@ Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e ac
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Voltar para</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Mostra todos os nós como eram, em uma janela própria. Isso não altera nada; o que é mostrado ali pode ser revertido.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>Não depois de:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Como era depois disto:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>O que foi feito</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -815,6 +842,10 @@ Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e ac
         <source>Export...</source>
         <translation>Exportar...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Voltar até aqui...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1403,6 +1434,137 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Dispositivos: %1, outros nós: %2; mostrados: %3, selecionados: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>&amp;Voltar para...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Mostra todos os nós como eram antes e os reverte</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>O quê</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Na época</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Agora</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Alterado</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Removido</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Adicionado</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Endereço</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>Desde então</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Como era, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>Os nós como eram em %1, depois de &quot;%2&quot; por %3. Aqui eles podem ser vistos e revertidos, mas não editados.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Pesquisar</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Somente o que agora é diferente</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Nós:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Propriedades:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Nós da época</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Propriedades na época e agora</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>O que já foi lido do que se fez desde então</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Reverter tudo...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Reverter os selecionados...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Na época %1 nós, %2 agora diferentes; %3 mostrados</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Lendo o que foi feito desde então...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>Configurações ou ambientes também são diferentes.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n alteração desde então não corresponde ao que existe agora: não se sabe o que havia antes dela.</numerusform>
+            <numerusform>%n alterações desde então não correspondem ao que existe agora: não se sabe o que havia antes delas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Voltar para %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Revertido: %1</translation>
     </message>
 </context>
 <context>

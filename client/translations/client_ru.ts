@@ -199,6 +199,33 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
     </message>
 </context>
 <context>
+    <name>BackToDialog</name>
+    <message>
+        <source>Back to</source>
+        <translation>Назад к</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were, in a window of its own. Nothing is changed by that; what is shown there can be put back.</source>
+        <translation>Показывает все узлы такими, какими они были, в отдельном окне. Этим ничего не меняется; то, что там показано, можно вернуть.</translation>
+    </message>
+    <message>
+        <source>Not later than:</source>
+        <translation>Не позже:</translation>
+    </message>
+    <message>
+        <source>As it was after this was done:</source>
+        <translation>Как было после этого:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Что сделано</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Показать</translation>
+    </message>
+</context>
+<context>
     <name>CameraCheck</name>
     <message>
         <source>its password cannot be read</source>
@@ -831,6 +858,10 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
         <source>Export...</source>
         <translation>Экспорт...</translation>
     </message>
+    <message>
+        <source>Back to Here...</source>
+        <translation>Назад сюда...</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -1425,6 +1456,138 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
         <translation>Устройств: %1, других узлов: %2; показано: %3, выбрано: %4</translation>
+    </message>
+    <message>
+        <source>&amp;Back to...</source>
+        <translation>&amp;Назад к...</translation>
+    </message>
+    <message>
+        <source>Shows all nodes as they were before, and puts them back</source>
+        <translation>Показывает все узлы такими, какими они были раньше, и возвращает их</translation>
+    </message>
+</context>
+<context>
+    <name>MomentDetailsModel</name>
+    <message>
+        <source>What</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>Then</source>
+        <translation>Тогда</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Сейчас</translation>
+    </message>
+</context>
+<context>
+    <name>MomentModel</name>
+    <message>
+        <source>Changed</source>
+        <translation>Изменён</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Удалён</translation>
+    </message>
+    <message>
+        <source>Added</source>
+        <translation>Добавлен</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>Since Then</source>
+        <translation>С тех пор</translation>
+    </message>
+</context>
+<context>
+    <name>MomentWindow</name>
+    <message>
+        <source>As It Was, %1</source>
+        <comment>time</comment>
+        <translation>Как было, %1</translation>
+    </message>
+    <message>
+        <source>The nodes as they were on %1, after &quot;%2&quot; by %3. They can be looked at and put back, but not edited here.</source>
+        <comment>time, what was done, user</comment>
+        <translation>Узлы, какими они были %1, после «%2» (%3). Здесь их можно просмотреть и вернуть, но не изменить.</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Only what is different now</source>
+        <translation>Только то, что сейчас иначе</translation>
+    </message>
+    <message>
+        <source>Nodes:</source>
+        <translation>Узлы:</translation>
+    </message>
+    <message>
+        <source>Properties:</source>
+        <translation>Свойства:</translation>
+    </message>
+    <message>
+        <source>Nodes of then</source>
+        <translation>Узлы того времени</translation>
+    </message>
+    <message>
+        <source>Properties then and now</source>
+        <translation>Свойства тогда и сейчас</translation>
+    </message>
+    <message>
+        <source>What was done since that is read</source>
+        <translation>Сколько прочитано из сделанного с тех пор</translation>
+    </message>
+    <message>
+        <source>Put Back All...</source>
+        <translation>Вернуть всё...</translation>
+    </message>
+    <message>
+        <source>Put Back Selected...</source>
+        <translation>Вернуть выбранное...</translation>
+    </message>
+    <message>
+        <source>%1 nodes then, %2 different now; %3 shown</source>
+        <translation>Узлов тогда: %1, сейчас иначе: %2, показано: %3</translation>
+    </message>
+    <message>
+        <source>Reading what was done since...</source>
+        <translation>Чтение того, что сделано с тех пор...</translation>
+    </message>
+    <message>
+        <source>Settings or environments are different, too.</source>
+        <translation>Настройки или окружения тоже иные.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n change(s) since then do not fit what is there now: what was before them is not known.</source>
+        <translation>
+            <numerusform>%n изменение с тех пор не подходит к тому, что есть сейчас: что было до него, неизвестно.</numerusform>
+            <numerusform>%n изменения с тех пор не подходят к тому, что есть сейчас: что было до них, неизвестно.</numerusform>
+            <numerusform>%n изменений с тех пор не подходят к тому, что есть сейчас: что было до них, неизвестно.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Back to %1</source>
+        <comment>time</comment>
+        <translation>Назад к %1</translation>
+    </message>
+    <message>
+        <source>Put back: %1</source>
+        <translation>Возвращено: %1</translation>
     </message>
 </context>
 <context>

@@ -51,6 +51,12 @@ std::optional<ChangeSet> StoredHistory::changesOf(qint64 number, const QString& 
     return m_queue.reading([&] { return std::make_optional(m_store.changesOf(number, id)); });
 }
 
+LaterPart StoredHistory::later(qint64 changeSet, qint64 after, int count)
+{
+    return m_queue.reading([&] { return std::make_optional(m_store.later(changeSet, after, count)); })
+        .value_or(LaterPart{{}, after, 0});
+}
+
 std::optional<PresentState> StoredHistory::present(const PresentState::Wanted& wanted)
 {
     PresentState state;

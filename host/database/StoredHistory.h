@@ -46,6 +46,10 @@ public:
     /// with an empty \a id of the environments. None if it cannot be read.
     std::optional<ChangeSet> changesOf(qint64 number, const QString& id);
 
+    /// At most \a count changes of change sets after \a changeSet, after those with which the last part
+    /// ended.
+    LaterPart later(qint64 changeSet, qint64 after, int count);
+
     /// None if it cannot be read.
     std::optional<PresentState> present(const PresentState::Wanted& wanted);
 

@@ -61,4 +61,6 @@ KO_HOST_EXPORT bool isSame(const QVariant& a, const QVariant& b);
 
 } // namespace ko
 
+Q_DECLARE_TYPEINFO(ko::Alteration, Q_MOVABLE_TYPE);
+
 #endif

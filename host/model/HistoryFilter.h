@@ -39,6 +39,14 @@ struct ChangeSetPart
     bool isAtEnd = false; ///< nothing comes after it
 };
 
+/// Some of what was changed after a change set, in the order in which it was stored.
+struct LaterPart
+{
+    QVector<ChangeSet> sets; ///< with a part of their changes, and no audit entries
+    qint64 after = 0;        ///< to go on
+    qint64 remaining = 0;    ///< at most so many changes come after it
+};
+
 } // namespace ko
 
 #endif

@@ -2,6 +2,7 @@
 
 #include "store/ChangeCoding.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace ko {
@@ -180,6 +181,36 @@ ChangeSet ChangeLog::changesOf(qint64 number, const QString& id)
                                          {notNull(id), number});
     take(&set, rows);
     return set;
+}
+
+/// By their own numbers, since the changes of two change sets may be mixed.
+LaterPart ChangeLog::later(qint64 changeSet, qint64 after, int count)
+{
+    LaterPart part;
+    const qint64 first = m_store
+                             .value("SELECT seq FROM changes WHERE change_set > ? ORDER BY change_set, seq"
+                                    " LIMIT 1",
+                                    {changeSet})
+                             .toLongLong();
+    part.after = std::max(after, first - 1);
+    if (first == 0)
+        return part;
+    SqliteStore::Rows rows = m_store.run("SELECT kind, id, before, after, seq, change_set FROM changes"
+                                         " WHERE seq > ? AND +change_set > ? ORDER BY seq LIMIT ?",
+                                         {part.after, changeSet, count});
+    int read = 0;
+    for (; rows.next(); ++read) {
+        if (part.sets.isEmpty() || part.sets.last().number != rows.number(5)) {
+            part.sets.append(ChangeSet());
+            part.sets.last().number = rows.number(5);
+        }
+        const QString kind = rows.text(0);
+        if (!kind.isEmpty())
+            take(&part.sets.last(), Kind(kind.at(0).toLatin1()), rows.text(1), rows.text(2), rows.text(3));
+        part.after = rows.number(4);
+    }
+    part.remaining = read < count ? 0 : std::max<qint64>(0, revision() - part.after);
+    return part;
 }
 
 void ChangeLog::readAudit(ChangeSet* set)

@@ -61,6 +61,8 @@ public:
     ChangeSetPart part(qint64 number, qint64 after, int count);
     /// All changes of a change set that are about the same id, see Row.
     ChangeSet changesOf(qint64 number, const QString& id);
+    /// At most \a count changes of change sets after \a changeSet, after the one with number \a after.
+    LaterPart later(qint64 changeSet, qint64 after, int count);
     /// See NodeStore::silentChangeSets().
     QVector<ChangeSetRow> silentSets(qint64 before, int count);
 

@@ -189,6 +189,11 @@ ChangeSet NodeStore::changesOf(qint64 number, const QString& id)
     return d->log.changesOf(number, id);
 }
 
+LaterPart NodeStore::later(qint64 changeSet, qint64 after, int count)
+{
+    return d->log.later(changeSet, after, count);
+}
+
 QVector<ChangeSetRow> NodeStore::silentChangeSets(qint64 before, int count)
 {
     return d->log.silentSets(before, count);

@@ -114,6 +114,9 @@ public:
     /// All that a change set changed of one node, with the relations that begin there, or of one setting;
     /// with an empty \a id of the environments.
     ChangeSet changesOf(qint64 number, const QString& id);
+    /// At most \a count changes of change sets after \a changeSet, after those with which the last part
+    /// ended.
+    LaterPart later(qint64 changeSet, qint64 after, int count);
     /// Those before number \a before without an entry in the audit log, at most \a count, newest first.
     QVector<ChangeSetRow> silentChangeSets(qint64 before, int count);
     QVector<AuditRow> audit(const LogRange& range);

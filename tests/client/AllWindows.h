@@ -3,14 +3,17 @@
 
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 
 #include "AddressChangesDialog.h"
 #include "CheckReportDialog.h"
 #include "ImportReportDialog.h"
 #include "MainWindow.h"
+#include "MomentWindow.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
 #include "PutBackDialog.h"
+#include "database/StoredHistory.h"
 #include "dialogs/GenericNodeViewer.h"
 #include "dialogs/NodeDBViewer.h"
 #include "dialogs/RecordingFolderAssignmentDialog.h"
@@ -97,8 +100,8 @@ private:
         for (const char* action :
              {"actionAdd", "actionRemove", "actionProperties", "actionCredentials", "actionRecording",
               "actionPreferences", "actionProxy", "actionEnvironments", "actionOverview",
-              "actionAddressChanges", "actionAuditLog", "actionHistory", "actionNodeHistory", "actionFillIn",
-              "actionAbout"})
+              "actionAddressChanges", "actionAuditLog", "actionHistory", "actionNodeHistory", "actionBackTo",
+              "actionFillIn", "actionAbout"})
             trigger(window, action, [&](QDialog* dialog) { look(QString::fromLatin1(action), dialog); });
     }
 
@@ -117,6 +120,13 @@ private:
         ko::PutBackDialog none([] { return QStringLiteral("6"); }, ko::PutBack(),
                                ko::PutBackDialog::words(*m_host.db()), nothing, &window);
         show(&none, QStringLiteral("nothing to put back"), look);
+        auto* moment = new ko::MomentWindow(window, *m_host.db()->history().row(1));
+        const auto isRead = [moment] {
+            return child<QAbstractButton>(moment, "putBackAllButton")->isEnabled();
+        };
+        QVERIFY(QTest::qWaitFor(isRead, Patience));
+        show(moment, QStringLiteral("moment"), look);
+        delete moment;
     }
 
     void visitEditors(ko::MainWindow& window, const Look& look)

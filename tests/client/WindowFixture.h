@@ -11,6 +11,8 @@
 #include <QAction>
 #include <QTest>
 
+#include <algorithm>
+
 namespace testsupport {
 
 /// The main window over five nodes: two cameras "Gate north" and "Gate south", the URL camera "Yard", the
@@ -40,6 +42,14 @@ protected:
     }
 
     void trigger(const char* action) { child<QAction>(m_window.get(), action)->trigger(); }
+
+    QString idOf(const QString& name) const
+    {
+        const QVector<ko::NodeSummary> nodes = m_host->db()->summaries();
+        const auto found = std::find_if(nodes.begin(), nodes.end(),
+                                        [&name](const ko::NodeSummary& node) { return node.name == name; });
+        return found == nodes.end() ? QString() : found->id;
+    }
 
     void select(const QStringList& names)
     {

@@ -104,7 +104,6 @@ private slots:
 
 private:
     void open(const char* action, const Answers::Action& look);
-    QString idOf(const QString& name) const;
     void endTurn() { QTest::qWait(1); }
 };
 
@@ -123,14 +122,6 @@ void tst_HistoryWindow::init()
     m_host->db()->auditLog().log(NodeLogEntry(NodeLogEntry::Removed, "Archive"));
     endTurn();
     QVERIFY(m_host->db()->flush());
-}
-
-QString tst_HistoryWindow::idOf(const QString& name) const
-{
-    const QVector<NodeSummary> nodes = m_host->db()->summaries();
-    const auto found = std::find_if(nodes.begin(), nodes.end(),
-                                    [&name](const NodeSummary& node) { return node.name == name; });
-    return found == nodes.end() ? QString() : found->id;
 }
 
 void tst_HistoryWindow::open(const char* action, const Answers::Action& look)

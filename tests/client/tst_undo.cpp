@@ -74,7 +74,6 @@ private:
     }
     QAction* action(const char* name) const { return child<QAction>(m_window.get(), name); }
     QString said() const { return m_window->statusBar()->currentMessage(); }
-    QString idOf(const QString& name) const;
     void setModel(const QString& name, const QString& model);
     void run(const char* action, const Answers::Action& answer);
     /// The turn ends, what was changed in it is stored, and the menu follows.
@@ -96,14 +95,6 @@ void tst_Undo::init()
     m_window->show();
     m_view = m_window->findChild<NodeListView*>();
     QVERIFY(!action("actionUndo")->isEnabled());
-}
-
-QString tst_Undo::idOf(const QString& name) const
-{
-    const QVector<NodeSummary> nodes = m_host->db()->summaries();
-    const auto found = std::find_if(nodes.begin(), nodes.end(),
-                                    [&name](const NodeSummary& node) { return node.name == name; });
-    return found == nodes.end() ? QString() : found->id;
 }
 
 void tst_Undo::setModel(const QString& name, const QString& model)

@@ -6,10 +6,14 @@
 #include "audit/ChangeSetTitle.h"
 #include "database/StoredHistory.h"
 #include "devices/KnownDevice.h"
+#include "history/LaterChanges.h"
+#include "history/Moment.h"
 #include "history/PuttingBack.h"
 #include "ko/GlobalNetworkProxy.h"
 #include "ko/LogEntry.h"
 #include "ko/PropertyKeys.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <numeric>
@@ -48,6 +52,68 @@ PutBackLine::State onlyState(const PutBack& putBack)
     return putBack.lines.first().state;
 }
 
+QStringList without(QStringList all, const QStringList& others)
+{
+    for (const QString& other : others)
+        all.removeOne(other);
+    return all;
+}
+
+/// What a window of a moment shows: a line for each node, and for each of its properties and relations.
+QStringList contentOf(HostNodeDB& db)
+{
+    QStringList lines;
+    const QVector<NodeSummary> nodes = db.summaries();
+    for (const NodeSummary& node : nodes) {
+        lines.append(QStringList({node.id, QString::number(node.type), node.name, node.location,
+                                  QString::number(node.recordingUsage)})
+                         .join(' '));
+        const PresentState state = *db.history().present({{node.id}, {}, {node.id}, {}});
+        for (const PropertyList::Entry& entry : state.nodes.value(node.id).properties)
+            lines.append(node.id + '.' + entry.name + '=' + entry.value.toString());
+        for (const Relation& relation : state.relations)
+            lines.append(node.id + "->" + relation.destination + QString::number(relation.type));
+    }
+    lines.sort();
+    return lines;
+}
+
+/// The same for one moment, then or now.
+QStringList contentOf(HostNodeDB& db, qint64 changeSet, bool then)
+{
+    LaterChanges later(db.history(), changeSet);
+    while (later.readSome(7)) {
+    }
+    const PresentState present = *db.history().present(Alterations::wanted(later.all()));
+    const Moment moment(later.all(), present, db.summaries());
+    if (moment.unknown != 0)
+        qFatal("%d things are not known", moment.unknown);
+    QStringList lines;
+    for (const MomentNode& shown : moment.nodes) {
+        const NodeSummary& node = shown.node;
+        const QVector<Alteration> details =
+            Moment::detailsOf(node.id, later.all(), *db.history().present({{node.id}, {}, {node.id}, {}}));
+        bool isSame = true;
+        for (const Alteration& detail : details) {
+            isSame = isSame && Alterations::isSame(detail.before, detail.after);
+            const QVariant& value = then ? detail.before : detail.after;
+            if (detail.kind == Alteration::Property && value.isValid())
+                lines.append(node.id + '.' + detail.key + '=' + value.toString());
+            else if (detail.kind == Alteration::RelationTo && value.isValid())
+                lines.append(node.id + "->" + detail.relation.destination +
+                             QString::number(detail.relation.type));
+        }
+        if (isSame != (shown.difference == MomentNode::Same))
+            qFatal("%s is marked wrongly", qPrintable(node.name));
+        if (then && shown.difference != MomentNode::Added)
+            lines.append(QStringList({node.id, QString::number(node.type), node.name, node.location,
+                                      QString::number(node.recordingUsage)})
+                             .join(' '));
+    }
+    lines.sort();
+    return lines;
+}
+
 } // namespace
 
 /// What was changed can be put back, as far as nobody changed it since.
@@ -74,6 +140,7 @@ private slots:
     void otherProcessCanPutBack();
     void titles();
     void anyMomentComesBack();
+    void anyMomentCanBeSeen();
     void manyInRandomOrder();
 
 private:
@@ -535,6 +602,38 @@ void TestHistory::anyMomentComesBack()
         PuttingBack::apply(*m_db, shown, Cause::undoing({}));
         QCOMPARE(HistoryModel::of(m_file).text(), state->second);
     }
+}
+
+/// All nodes with all that they had then, and whether anything of it is otherwise now.
+void TestHistory::anyMomentCanBeSeen()
+{
+    std::mt19937 random(815);
+    std::unique_ptr<HostNodeDB> other = openDatabase(m_file);
+    std::map<qint64, QStringList> states; // by the last change set
+    for (int i = 0; i < 100; ++i) {
+        m_db->syncForeignChanges();
+        states[m_last] = contentOf(*m_db);
+        HostNodeDB& db = i % 3 == 0 ? *other : *m_db;
+        db.syncForeignChanges();
+        for (int changes = 1 + int(random() % 6); changes > 0; --changes)
+            randomChange(db, random);
+        QTest::qWait(1);
+        QVERIFY(db.flush());
+        newSets();
+    }
+    m_db->syncForeignChanges();
+    const QStringList now = contentOf(*m_db);
+    for (int i = 0; i < 10; ++i) {
+        const auto state = std::next(states.begin(), int(random() % states.size()));
+        const QStringList then = contentOf(*m_db, state->first, true);
+        QCOMPARE(without(then, state->second).join('\n'), QString());
+        QCOMPARE(without(state->second, then).join('\n'), QString());
+        const QStringList seen = contentOf(*m_db, state->first, false);
+        for (const QString& line : now) // but for the lines of the nodes themselves
+            QVERIFY2(seen.contains(line) || !line.contains(QRegularExpression("^[^ ]*(=|->)")),
+                     qPrintable(line));
+    }
+    QVERIFY(states.size() > 50);
 }
 
 void TestHistory::manyInRandomOrder()
