@@ -80,16 +80,23 @@ bool AlterationModel::canFetchMore(const QModelIndex& parent) const
     return !parent.isValid() && !m_numbers.isEmpty();
 }
 
+/// Some more of the first change set that is not read to its end.
+QVector<Alteration> AlterationModel::read()
+{
+    if (!m_node.isEmpty())
+        return Alterations::of(m_history.changesOf(m_numbers.takeFirst(), m_node).value_or(ChangeSet()));
+    const ChangeSetPart part = m_history.changes(m_numbers.first(), m_after, Page);
+    m_after = part.isAtEnd ? 0 : part.after;
+    if (part.isAtEnd)
+        m_numbers.removeFirst();
+    return Alterations::of(part.set);
+}
+
 void AlterationModel::fetchMore(const QModelIndex& parent)
 {
     QVector<Alteration> rows;
-    while (canFetchMore(parent) && rows.size() < Page) {
-        const ChangeSetPart part = m_history.changes(m_numbers.first(), m_after, Page);
-        rows += Alterations::of(part.set);
-        m_after = part.isAtEnd ? 0 : part.after;
-        if (part.isAtEnd)
-            m_numbers.removeFirst();
-    }
+    while (canFetchMore(parent) && rows.size() < Page)
+        rows += read();
     for (const Alteration& alteration : std::as_const(rows))
         m_words.learn(alteration);
     if (rows.isEmpty())

@@ -24,6 +24,9 @@ public:
 
     void setChangeSets(const QVector<qint64>& numbers);
 
+    /// From the next change sets on only what they changed of one node, with the relations that begin there.
+    void setNode(const NodeID& id) { m_node = id; }
+
     const Alteration& alteration(int row) const { return m_rows.at(row); }
 
     static QString title(int column);
@@ -39,8 +42,11 @@ public:
     static QString text(const HistoryWords& words, const Alteration& alteration, int column);
 
 private:
+    QVector<Alteration> read();
+
     StoredHistory& m_history;
     HistoryWords m_words;
+    NodeID m_node;             ///< empty: of all
     QVector<qint64> m_numbers; ///< that are not read to their end
     qint64 m_after = 0;        ///< in the first of these
     QVector<Alteration> m_rows;

@@ -5,6 +5,7 @@
 #include "FormFields.h"
 #include "LayoutAdapter.h"
 #include "MainWindow.h"
+#include "NodeHistoryPage.h"
 #include "NodeListView.h"
 #include "PictureView.h"
 #include "TypeChange.h"
@@ -89,6 +90,7 @@ void open(MainWindow& window, const QString& id, bool readOnly)
             dialog.setWindowTitle(
                 EditNodeDialog::tr("Properties of %1").arg(inWindowTitle(calledInTitles(*node))));
     });
+    NodeHistoryPage::addTo(dialog, window.database(), id);
     if (readOnly)
         PictureView::addTo(dialog, window.checking().pictures(), id);
     window.exec(dialog);

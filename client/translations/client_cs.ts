@@ -1606,6 +1606,29 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>Co se s ním provedlo:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>Co to změnilo:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Co bylo provedeno</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Co to změnilo</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historie</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

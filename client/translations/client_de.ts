@@ -1582,6 +1582,29 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>Was mit ihm getan wurde:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>Was das änderte:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Was getan wurde</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Was es änderte</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

@@ -1582,6 +1582,29 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>Lo que se le hizo:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>Lo que eso cambió:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Lo que se hizo</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Lo que cambió</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

@@ -1582,6 +1582,29 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>Ce qui lui a été fait :</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>Ce que cela a modifié :</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Ce qui a été fait</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Ce que cela a modifié</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

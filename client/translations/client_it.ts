@@ -1582,6 +1582,29 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>Che cosa gli è stato fatto:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>Che cosa ha modificato:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Che cosa è stato fatto</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Che cosa ha modificato</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Cronologia</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

@@ -1558,6 +1558,29 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>このノードに対する操作:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>その操作による変更:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>行われた操作</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>変更された内容</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

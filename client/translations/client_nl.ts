@@ -1582,6 +1582,29 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>Wat ermee is gedaan:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>Wat dat heeft gewijzigd:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Wat er is gedaan</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Wat dat heeft gewijzigd</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Geschiedenis</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

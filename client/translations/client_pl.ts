@@ -1606,6 +1606,29 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>Co z nim zrobiono:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>Co to zmieniło:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Co zrobiono</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Co to zmieniło</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historia</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

@@ -1582,6 +1582,29 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>O que foi feito com ele:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>O que isso alterou:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>O que foi feito</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>O que isso alterou</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

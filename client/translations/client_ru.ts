@@ -1606,6 +1606,29 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>NodeHistoryPage</name>
+    <message>
+        <source>What was done to it:</source>
+        <translation>Что с ним сделано:</translation>
+    </message>
+    <message>
+        <source>What that changed:</source>
+        <translation>Что это изменило:</translation>
+    </message>
+    <message>
+        <source>What was done</source>
+        <translation>Что сделано</translation>
+    </message>
+    <message>
+        <source>What it changed</source>
+        <translation>Что изменено</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>

@@ -23,6 +23,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTableView>
 
 using namespace ko;
@@ -91,6 +92,8 @@ private slots:
     void propertiesOfOneTitle();
     void timeFilter();
     void ofSelectedNodes();
+    void pageOfTheEditor();
+    void pageCostsNothingUnseen();
     void fromTheAuditLog();
     void putBackOfChangeSets();
     void putBackOfSingleLines();
@@ -249,6 +252,58 @@ void tst_HistoryWindow::ofSelectedNodes()
         QCOMPARE(titles(dialog),
                  QStringList({"User and password of Yard", "Properties of Gate north", "Adding 5 node(s)"}));
     });
+}
+
+void tst_HistoryWindow::pageOfTheEditor()
+{
+    {
+        const ChangeScope scope(*m_host->db(), Cause::now(Purpose::Edit));
+        for (const char* name : {"Yard", "Gate north", "Gate south"})
+            testsupport::setText(*m_host->db(), idOf(name), "Version", "7");
+    }
+    endTurn();
+    select({"Yard"});
+    const Answers answers({[&](QDialog* dialog) {
+        auto* tabs = child<QTabWidget>(dialog, "tabWidget");
+        QCOMPARE(tabs->tabText(0).remove(QLatin1Char('&')), QString("General"));
+        QCOMPARE(tabs->tabText(tabs->count() - 1).remove(QLatin1Char('&')), QString("History"));
+        const QSize size = dialog->size();
+        tabs->setCurrentIndex(tabs->count() - 1);
+        auto* done = child<QTableView>(dialog, "nodeSetsTableView");
+        const auto* changed = child<QTableView>(dialog, "nodeChangesTableView")->model();
+        const QAbstractItemModelTester tester(done->model());
+        QCOMPARE(done->model()->rowCount(), 3);
+        // Of what was done to three nodes only what this one had of it.
+        QCOMPARE(changed->rowCount(), 1);
+        QCOMPARE(cells(changed, 0), QStringList({"Yard", "Software version", "", "7"}));
+        done->selectRow(1);
+        QCOMPARE(cells(changed, 0), QStringList({"Yard", "Password", "", "changed"}));
+        QVERIFY(done->editTriggers() == QAbstractItemView::NoEditTriggers);
+        // It follows, whoever does something.
+        const std::unique_ptr<HostNodeDB> other = testsupport::openDatabase(m_host->fileName());
+        testsupport::setText(*other, idOf("Yard"), "Model", "theirs");
+        QVERIFY(other->flush());
+        m_host->db()->syncForeignChanges();
+        KO_TRY_COMPARE(cells(changed, 0), QStringList({"Yard", "Model", "", "theirs"}));
+        testsupport::setText(*m_host->db(), idOf("Yard"), "Model", "");
+        endTurn();
+        KO_TRY_COMPARE(cells(changed, 0), QStringList({"Yard", "Model", "theirs", ""}));
+        QCOMPARE(dialog->size(), size);
+        dialog->reject();
+    }});
+    trigger("actionEdit");
+    QCOMPARE(int(answers.opened().size()), 1);
+}
+
+void tst_HistoryWindow::pageCostsNothingUnseen()
+{
+    select({"Yard"});
+    const Answers answers({[](QDialog* dialog) {
+        QCOMPARE(child<QTableView>(dialog, "nodeSetsTableView")->model()->rowCount(), 0);
+        dialog->reject();
+    }});
+    trigger("actionProperties");
+    QCOMPARE(int(answers.opened().size()), 1);
 }
 
 void tst_HistoryWindow::fromTheAuditLog()

@@ -22,6 +22,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScopeGuard>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTabBar>
 #include <QTableView>
@@ -100,6 +101,7 @@ QVector<Text> textsOf(const QWidget* window)
     for (const QWidget* widget : widgets) {
         const bool isToolkits = (widget->objectName().startsWith("qt_") && !isQuestion(widget)) ||
                                 qobject_cast<const QMenu*>(widget) ||
+                                qobject_cast<const QScrollBar*>(widget) || // whose order depends on its use
                                 qobject_cast<const QTabBar*>(widget->parentWidget()); // to scroll tabs
         if (widget->window() == window && !isToolkits)
             addWidget(widget, &texts);

@@ -1,0 +1,124 @@
+#include "NodeHistoryPage.h"
+
+#include "PutBackDialog.h"
+#include "database/HostNodeDB.h"
+#include "database/StoredHistory.h"
+#include "utils/Retranslation.h"
+
+#include <QDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace ko {
+
+NodeHistoryPage::NodeHistoryPage(HostNodeDB& db, const NodeID& id, QWidget* parent)
+    : QWidget(parent)
+    , m_db(db)
+    , m_id(id)
+    , m_sets(db.history())
+    , m_changes(db.history(), PutBackDialog::words(db))
+    , m_setsLabel(new QLabel(this))
+    , m_setsView(table("nodeSetsTableView", &m_sets))
+    , m_changesLabel(new QLabel(this))
+    , m_changesView(table("nodeChangesTableView", &m_changes))
+{
+    setObjectName(QStringLiteral("history"));
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // the other pages say how large the window is
+    m_changes.setNode(id);
+    m_setsView->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_setsView->setColumnHidden(HistoryModel::NodesColumn, true);
+    m_setsView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_setsView->horizontalHeader()->setSectionResizeMode(HistoryModel::TitleColumn, QHeaderView::Stretch);
+    m_changesView->setColumnHidden(AlterationModel::NodeColumn, true);
+    m_changesView->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_setsLabel->setBuddy(m_setsView);
+    m_changesLabel->setBuddy(m_changesView);
+    QVBoxLayout* layout = new QVBoxLayout(this);
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{m_setsLabel, m_setsView, m_changesLabel, m_changesView})
+        layout->addWidget(part);
+    connect(m_setsView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &NodeHistoryPage::showSelected);
+    connect(&db.history(), &StoredHistory::stored, this, &NodeHistoryPage::look);
+    connect(&db, &NodeDB::nodeUpdated, this, [this](const NodeID& updated) {
+        if (updated == m_id)
+            look(); // what another program did has no signal of its own
+    });
+    setTranslated(this, [this] { retranslate(); });
+}
+
+QTableView* NodeHistoryPage::table(const char* name, QAbstractItemModel* model)
+{
+    QTableView* table = new QTableView(this);
+    table->setObjectName(QLatin1String(name));
+    table->setModel(model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setTabKeyNavigation(false); // Tab leaves the table
+    table->setWordWrap(false);
+    table->setAlternatingRowColors(true);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->verticalHeader()->minimumSectionSize());
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setResizeContentsPrecision(50); // of however many rows
+    return table;
+}
+
+void NodeHistoryPage::retranslate()
+{
+    m_setsLabel->setText(tr("What was done to it:"));
+    m_changesLabel->setText(tr("What that changed:"));
+    m_setsView->setAccessibleName(tr("What was done"));
+    m_changesView->setAccessibleName(tr("What it changed"));
+}
+
+void NodeHistoryPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_wasSeen) {
+        m_wasSeen = true;
+        m_db.flush(); // what is not stored has no number yet
+        look();
+    }
+}
+
+void NodeHistoryPage::look()
+{
+    if (!m_wasSeen)
+        return;
+    HistoryFilter filter;
+    filter.nodes = QStringList(m_id);
+    m_sets.setFilter(filter);
+    if (m_sets.rowCount() > 0)
+        m_setsView->selectRow(0);
+    showSelected();
+}
+
+void NodeHistoryPage::showSelected()
+{
+    const QModelIndexList selected = m_setsView->selectionModel()->selectedRows();
+    m_changes.setChangeSets(selected.isEmpty() ? QVector<qint64>()
+                                               : QVector<qint64>{m_sets.row(selected.first().row()).number});
+}
+
+void NodeHistoryPage::addTo(QDialog& dialog, HostNodeDB& db, const NodeID& id)
+{
+    auto* tabs = dialog.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+    if (!tabs)
+        return; // the node is gone
+    auto* page = new NodeHistoryPage(db, id, tabs);
+    tabs->addTab(page, QString());
+    setTranslated(page, [tabs, page] {
+        tabs->setTabText(tabs->indexOf(page), tr("History"));
+        // The others get their titles in this turn, too. With one more, all shall still be seen.
+        QTimer::singleShot(0, page,
+                           [tabs, page] { page->setMinimumWidth(tabs->tabBar()->sizeHint().width()); });
+    });
+}
+
+} // namespace ko
