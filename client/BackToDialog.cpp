@@ -1,5 +1,6 @@
 #include "BackToDialog.h"
 
+#include "PlainTable.h"
 #include "WindowSize.h"
 #include "database/HostNodeDB.h"
 #include "database/StoredHistory.h"
@@ -75,18 +76,8 @@ BackToDialog::BackToDialog(HostNodeDB& db, QWidget* parent)
 
 void BackToDialog::createTable()
 {
-    m_setsView->setObjectName(QStringLiteral("setsTableView"));
-    m_setsView->setModel(&m_sets);
-    m_setsView->setSelectionBehavior(QAbstractItemView::SelectRows);
+    preparePlainTable(m_setsView, "setsTableView", &m_sets);
     m_setsView->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_setsView->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_setsView->setTabKeyNavigation(false); // Tab leaves the table
-    m_setsView->setWordWrap(false);
-    m_setsView->setAlternatingRowColors(true);
-    m_setsView->verticalHeader()->hide();
-    m_setsView->verticalHeader()->setDefaultSectionSize(m_setsView->verticalHeader()->minimumSectionSize());
-    m_setsView->horizontalHeader()->setHighlightSections(false);
-    m_setsView->horizontalHeader()->setResizeContentsPrecision(50); // of however many rows
     m_setsView->horizontalHeader()->setSectionResizeMode(HistoryModel::TitleColumn, QHeaderView::Stretch);
     m_setsLabel->setBuddy(m_setsView);
     connect(m_setsView, &QTableView::doubleClicked, this, &QDialog::accept);

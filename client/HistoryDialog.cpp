@@ -2,6 +2,7 @@
 
 #include "HistoryExport.h"
 #include "HistoryFilterBar.h"
+#include "PlainTable.h"
 #include "PutBackDialog.h"
 #include "WindowSize.h"
 #include "audit/ChangeSetTitle.h"
@@ -38,21 +39,6 @@ QWidget* titled(QLabel* title, QTableView* table)
     layout->addWidget(title);
     layout->addWidget(table);
     return part;
-}
-
-void prepare(QTableView* table, const char* name, QAbstractItemModel* model)
-{
-    table->setObjectName(QLatin1String(name));
-    table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setTabKeyNavigation(false); // Tab leaves the table
-    table->setWordWrap(false);
-    table->setAlternatingRowColors(true);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->verticalHeader()->minimumSectionSize());
-    table->horizontalHeader()->setStretchLastSection(true);
-    table->horizontalHeader()->setHighlightSections(false);
 }
 
 } // namespace
@@ -104,11 +90,9 @@ HistoryDialog::~HistoryDialog()
 
 void HistoryDialog::createTables()
 {
-    prepare(m_setsView, "setsTableView", &m_sets);
-    prepare(m_changesView, "changesTableView", &m_changes);
-    for (QTableView* table : {m_setsView, m_changesView})
-        table->horizontalHeader()->setResizeContentsPrecision(50); // of however many rows
-    m_setsView->horizontalHeader()->setStretchLastSection(false);
+    preparePlainTable(m_setsView, "setsTableView", &m_sets);
+    preparePlainTable(m_changesView, "changesTableView", &m_changes);
+    m_changesView->horizontalHeader()->setStretchLastSection(true);
     m_setsView->horizontalHeader()->setSectionResizeMode(HistoryModel::TitleColumn, QHeaderView::Stretch);
     connect(m_setsView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &HistoryDialog::showSelected);

@@ -1,6 +1,7 @@
 #include "MomentWindow.h"
 
 #include "MainWindow.h"
+#include "PlainTable.h"
 #include "PutBackDialog.h"
 #include "WindowSize.h"
 #include "audit/ChangeSetTitle.h"
@@ -102,25 +103,10 @@ QLabel* MomentWindow::label(const char* name)
     return label;
 }
 
-void MomentWindow::prepare(QTableView* table, const char* name, QAbstractItemModel* model)
-{
-    table->setObjectName(QLatin1String(name));
-    table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setTabKeyNavigation(false); // Tab leaves the table
-    table->setWordWrap(false);
-    table->setAlternatingRowColors(true);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->verticalHeader()->minimumSectionSize());
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setResizeContentsPrecision(50); // of however many rows
-}
-
 void MomentWindow::createTables()
 {
-    prepare(m_nodesView, "nodesTableView", &m_nodes);
-    prepare(m_detailsView, "detailsTableView", &m_details);
+    preparePlainTable(m_nodesView, "nodesTableView", &m_nodes);
+    preparePlainTable(m_detailsView, "detailsTableView", &m_details);
     for (const int column : {MomentModel::TypeColumn, MomentModel::DifferenceColumn})
         m_nodesView->horizontalHeader()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     for (const int column : {MomentModel::NameColumn, MomentModel::AddressColumn})

@@ -34,7 +34,6 @@ public:
 
 private:
     QLabel* label(const char* name);
-    void prepare(QTableView* table, const char* name, QAbstractItemModel* model);
     void createTables();
     QWidget* createFilter();
     QWidget* createButtons();

@@ -1,5 +1,6 @@
 #include "NodeHistoryPage.h"
 
+#include "PlainTable.h"
 #include "PutBackDialog.h"
 #include "database/HostNodeDB.h"
 #include "database/StoredHistory.h"
@@ -23,13 +24,15 @@ NodeHistoryPage::NodeHistoryPage(HostNodeDB& db, const NodeID& id, QWidget* pare
     , m_sets(db.history())
     , m_changes(db.history(), PutBackDialog::words(db))
     , m_setsLabel(new QLabel(this))
-    , m_setsView(table("nodeSetsTableView", &m_sets))
+    , m_setsView(new QTableView(this))
     , m_changesLabel(new QLabel(this))
-    , m_changesView(table("nodeChangesTableView", &m_changes))
+    , m_changesView(new QTableView(this))
 {
     setObjectName(QStringLiteral("history"));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // the other pages say how large the window is
     m_changes.setNode(id);
+    preparePlainTable(m_setsView, "nodeSetsTableView", &m_sets);
+    preparePlainTable(m_changesView, "nodeChangesTableView", &m_changes);
     m_setsView->setSelectionMode(QAbstractItemView::SingleSelection);
     m_setsView->setColumnHidden(HistoryModel::NodesColumn, true);
     m_setsView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -50,23 +53,6 @@ NodeHistoryPage::NodeHistoryPage(HostNodeDB& db, const NodeID& id, QWidget* pare
             look(); // what another program did has no signal of its own
     });
     setTranslated(this, [this] { retranslate(); });
-}
-
-QTableView* NodeHistoryPage::table(const char* name, QAbstractItemModel* model)
-{
-    QTableView* table = new QTableView(this);
-    table->setObjectName(QLatin1String(name));
-    table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setTabKeyNavigation(false); // Tab leaves the table
-    table->setWordWrap(false);
-    table->setAlternatingRowColors(true);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->verticalHeader()->minimumSectionSize());
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setResizeContentsPrecision(50); // of however many rows
-    return table;
 }
 
 void NodeHistoryPage::retranslate()

@@ -32,7 +32,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    QTableView* table(const char* name, QAbstractItemModel* model);
     void retranslate();
     void look();
     void showSelected();

@@ -2,6 +2,7 @@
 
 #include "NameList.h"
 #include "PlainMessageBox.h"
+#include "PlainTable.h"
 #include "WindowSize.h"
 #include "database/HostNodeDB.h"
 #include "ko/OutsideText.h"
@@ -61,17 +62,8 @@ PutBackDialog::PutBackDialog(const Title& title, const PutBack& putBack, const H
 
 void PutBackDialog::createTable()
 {
-    m_table->setObjectName(QStringLiteral("linesTableView"));
-    m_table->setModel(&m_model);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setTabKeyNavigation(false); // Tab leaves the table
-    m_table->setWordWrap(false);
-    m_table->setAlternatingRowColors(true);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->verticalHeader()->minimumSectionSize());
+    preparePlainTable(m_table, "linesTableView", &m_model);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setResizeContentsPrecision(50); // of however many rows
     m_table->setColumnHidden(PutBackModel::ReasonColumn, m_model.possible() == m_model.rowCount());
 }
 
