@@ -60,7 +60,8 @@ void MomentModel::setRows(const MomentRows& rows)
 {
     beginResetModel();
     m_all = rows;
-    order();
+    if (m_column != NameColumn || m_order != Qt::AscendingOrder)
+        order(); // else they come so
     filter();
     endResetModel();
 }
