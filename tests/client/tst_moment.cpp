@@ -6,6 +6,7 @@
 #include "MomentModel.h"
 #include "MomentWindow.h"
 #include "PutBackModel.h"
+#include "database/StoredHistory.h"
 #include "model/ChangeScope.h"
 
 #include <QAbstractItemModelTester>
@@ -310,7 +311,7 @@ void tst_Moment::putBackAll()
     QCOMPARE(state(), m_before);
     KO_TRY_COMPARE(child<QLabel>(window(), "stateLabel")->text(),
                    QString("5 nodes then, 0 different now; 5 shown"));
-    const QVector<ChangeSet> sets = m_host->db()->changeSets(0, 1000);
+    const QVector<ChangeSet> sets = m_host->db()->history().changeSets(0, 1000);
     QCOMPARE(sets.last().cause.purpose, Purpose::Undo);
     QVERIFY(!sets.last().audit.isEmpty());
 }
