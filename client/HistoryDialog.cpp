@@ -253,7 +253,7 @@ void HistoryDialog::putBack(const QVector<Alteration>& alterations, const QVecto
 /// The other window can only be used when this one is closed.
 void HistoryDialog::goBack()
 {
-    m_backTo = selectedSets().first();
+    m_backTo = selectedSets().constFirst();
     accept();
 }
 
