@@ -5,6 +5,7 @@
 
 #include "LayoutAdapter.h"
 #include "NodeCommands.h"
+#include "NodeHistoryPage.h"
 #include "dialogs/EditNodeDialog.h"
 #include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/RecordingFolderAssignmentDialog.h"
@@ -60,6 +61,7 @@ public:
         return milliseconds([&] {
             dialog =
                 std::make_unique<EditNodeDialog>(m_id, nullptr, false, NodeCommands::EditFlags, &m_layouts);
+            NodeHistoryPage::addTo(*dialog, *m_db, m_id);
             paint(*dialog);
         });
     }

@@ -23,14 +23,18 @@ NodeHistoryPage::NodeHistoryPage(HostNodeDB& db, const NodeID& id, QWidget* pare
     , m_id(id)
     , m_sets(db.history())
     , m_changes(db.history(), PutBackDialog::words(db))
-    , m_setsLabel(new QLabel(this))
-    , m_setsView(new QTableView(this))
-    , m_changesLabel(new QLabel(this))
-    , m_changesView(new QTableView(this))
 {
     setObjectName(QStringLiteral("history"));
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // the other pages say how large the window is
     m_changes.setNode(id);
+}
+
+void NodeHistoryPage::create()
+{
+    m_setsLabel = new QLabel(this);
+    m_setsView = new QTableView(this);
+    m_changesLabel = new QLabel(this);
+    m_changesView = new QTableView(this);
     preparePlainTable(m_setsView, "nodeSetsTableView", &m_sets);
     preparePlainTable(m_changesView, "nodeChangesTableView", &m_changes);
     m_setsView->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -47,8 +51,8 @@ NodeHistoryPage::NodeHistoryPage(HostNodeDB& db, const NodeID& id, QWidget* pare
         layout->addWidget(part);
     connect(m_setsView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &NodeHistoryPage::showSelected);
-    connect(&db.history(), &StoredHistory::stored, this, &NodeHistoryPage::look);
-    connect(&db, &NodeDB::nodeUpdated, this, [this](const NodeID& updated) {
+    connect(&m_db.history(), &StoredHistory::stored, this, &NodeHistoryPage::look);
+    connect(&m_db, &NodeDB::nodeUpdated, this, [this](const NodeID& updated) {
         if (updated == m_id)
             look(); // what another program did has no signal of its own
     });
@@ -66,17 +70,15 @@ void NodeHistoryPage::retranslate()
 void NodeHistoryPage::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (!m_wasSeen) {
-        m_wasSeen = true;
-        m_db.flush(); // what is not stored has no number yet
-        look();
-    }
+    if (m_setsView)
+        return;
+    create();
+    m_db.flush(); // what is not stored has no number yet
+    look();
 }
 
 void NodeHistoryPage::look()
 {
-    if (!m_wasSeen)
-        return;
     HistoryFilter filter;
     filter.nodes = QStringList(m_id);
     m_sets.setFilter(filter);

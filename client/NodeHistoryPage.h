@@ -15,8 +15,8 @@ namespace ko {
 
 class HostNodeDB;
 
-/// What was done to one node, beside its properties. It is read when it is seen first, and follows what is
-/// done.
+/// What was done to one node, beside its properties. It is made and read when it is seen first, and follows
+/// what is done.
 class NodeHistoryPage : public QWidget
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void create();
     void retranslate();
     void look();
     void showSelected();
@@ -40,11 +41,10 @@ private:
     const NodeID m_id;
     HistoryModel m_sets;
     AlterationModel m_changes;
-    QLabel* const m_setsLabel;
-    QTableView* const m_setsView;
-    QLabel* const m_changesLabel;
-    QTableView* const m_changesView;
-    bool m_wasSeen = false;
+    QLabel* m_setsLabel = nullptr;
+    QTableView* m_setsView = nullptr; ///< null until the page is seen
+    QLabel* m_changesLabel = nullptr;
+    QTableView* m_changesView = nullptr;
 };
 
 } // namespace ko

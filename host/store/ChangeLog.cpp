@@ -201,8 +201,9 @@ LaterPart ChangeLog::later(qint64 changeSet, qint64 after, int count)
     int read = 0;
     for (; rows.next(); ++read) {
         if (part.sets.isEmpty() || part.sets.last().number != rows.number(5)) {
-            part.sets.append(ChangeSet());
-            part.sets.last().number = rows.number(5);
+            ChangeSet set;
+            set.number = rows.number(5);
+            part.sets.append(set);
         }
         const QString kind = rows.text(0);
         if (!kind.isEmpty())
