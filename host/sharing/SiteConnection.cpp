@@ -1,0 +1,317 @@
+#include "sharing/SiteConnection.h"
+
+#include "sharing/ParcelCoding.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <array>
+
+#include <libpq-fe.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace ko {
+
+namespace {
+
+const char channel[] = "ko";
+
+std::string plain(qint64 number)
+{
+    return std::to_string(number);
+}
+
+/// An array in the server's notation, of what needs no quotes.
+template <class Of>
+std::string arrayOf(const QVector<KnownParcel>& known, Of of)
+{
+    std::string text = "{";
+    for (const KnownParcel& parcel : known)
+        text += (text.size() > 1 ? "," : "") + of(parcel);
+    return text + "}";
+}
+
+/// By classes of the standard: those of which another try may end otherwise.
+bool mayPass(const std::string& code)
+{
+    for (const char* passing : {"08", "40", "53", "55", "57", "58"}) {
+        if (code.compare(0, 2, passing) == 0)
+            return true;
+    }
+    return code.empty();
+}
+
+QByteArray scriptOf(const char* name)
+{
+    QFile file(QLatin1String(":/sharing/") + QLatin1String(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+struct SiteConnection::Answer
+{
+    Result result;
+    SharingFailure failure;
+
+    QByteArray value(int row, int column) const
+    {
+        return QByteArray(PQgetvalue(result.get(), row, column), PQgetlength(result.get(), row, column));
+    }
+};
+
+SiteConnection::SiteConnection()
+    : m_wakeup(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+{
+}
+
+SiteConnection::~SiteConnection()
+{
+    close();
+    ::close(m_wakeup);
+}
+
+void SiteConnection::close()
+{
+    PQfinish(m_connection);
+    m_connection = nullptr;
+}
+
+void SiteConnection::wake()
+{
+    eventfd_write(m_wakeup, 1);
+}
+
+void SiteConnection::interrupt()
+{
+    m_isInterrupted = true;
+    wake();
+}
+
+SharingFailure SiteConnection::open(const QString& address, int timeout)
+{
+    close();
+    const QByteArray given = address.toUtf8();
+    // A computer that is gone says nothing: it is missed after half a minute. What the address says counts
+    // more.
+    const std::array<const char*, 8> keys = {
+        "keepalives_idle", "keepalives_interval",       "keepalives_count", "tcp_user_timeout",
+        "dbname",          "fallback_application_name", "client_encoding",  nullptr};
+    const std::array<const char*, 8> values = {"10",       "5",    "3",    "30000", given.constData(),
+                                               "koclient", "UTF8", nullptr};
+    m_connection = PQconnectStartParams(keys.data(), values.data(), 1);
+    const SharingFailure failure = finishConnecting(timeout);
+    if (failure)
+        return failure;
+    PQsetnonblocking(m_connection, 1);
+    PQsetNoticeProcessor(
+        m_connection, [](void*, const char*) {}, nullptr); // else to the standard error stream
+    return run("LISTEN ko").failure;
+}
+
+SharingFailure SiteConnection::finishConnecting(int timeout)
+{
+    QElapsedTimer clock;
+    clock.start();
+    PostgresPollingStatusType status = PGRES_POLLING_WRITING;
+    while (PQstatus(m_connection) != CONNECTION_BAD && status != PGRES_POLLING_OK) {
+        const short events = status == PGRES_POLLING_READING ? POLLIN : POLLOUT;
+        const int left = int(timeout - clock.elapsed());
+        if (left <= 0 || !waitForSocket(events, left))
+            return {SharingFailure::Away, QString::fromLatin1("the server does not answer")};
+        status = PQconnectPoll(m_connection);
+    }
+    return PQstatus(m_connection) == CONNECTION_OK ? SharingFailure() : lost();
+}
+
+SharingFailure SiteConnection::lost()
+{
+    return {SharingFailure::Away, QString::fromUtf8(PQerrorMessage(m_connection)).trimmed()};
+}
+
+SharingFailure SiteConnection::failureOf(const pg_result* result)
+{
+    const ExecStatusType status = PQresultStatus(result);
+    if (status == PGRES_COMMAND_OK || status == PGRES_TUPLES_OK)
+        return SharingFailure();
+    const char* code = PQresultErrorField(result, PG_DIAG_SQLSTATE);
+    const char* message = PQresultErrorField(result, PG_DIAG_MESSAGE_PRIMARY); // the details may hold values
+    return {mayPass(code ? code : "") ? SharingFailure::Away : SharingFailure::Refused,
+            QString::fromUtf8(message ? message : PQerrorMessage(m_connection)).trimmed()};
+}
+
+/// False when nothing came in that time, or it was interrupted.
+bool SiteConnection::waitForSocket(short events, int ms)
+{
+    QElapsedTimer clock;
+    clock.start();
+    for (;;) {
+        std::array<pollfd, 2> files = {{{PQsocket(m_connection), events, 0}, {m_wakeup, POLLIN, 0}}};
+        const int left = int(ms - clock.elapsed());
+        if (m_isInterrupted || left <= 0 || poll(files.data(), files.size(), left) < 0)
+            return false;
+        if (files[0].revents != 0)
+            return true;
+        if (files[1].revents != 0) { // who woke us finds us awake when this is done
+            eventfd_t count = 0;
+            eventfd_read(m_wakeup, &count);
+        }
+    }
+}
+
+/// What is to be written may not fit while the server is writing, too.
+bool SiteConnection::send(int deadlineMs)
+{
+    QElapsedTimer clock;
+    clock.start();
+    int left = PQflush(m_connection);
+    while (left == 1) {
+        const int ms = int(deadlineMs - clock.elapsed());
+        if (ms <= 0 || !waitForSocket(POLLIN | POLLOUT, ms) || PQconsumeInput(m_connection) == 0)
+            return false;
+        left = PQflush(m_connection);
+    }
+    return left == 0;
+}
+
+SiteConnection::Answer SiteConnection::run(const char* sql, const std::vector<std::string>& values)
+{
+    std::vector<const char*> texts;
+    texts.reserve(values.size());
+    for (const std::string& value : values)
+        texts.push_back(value.c_str());
+    Answer answer{Result(nullptr, &PQclear), {}};
+    // Without values it may be several statements, of which the first that fails is the last.
+    const int isSent = values.empty() ? PQsendQuery(m_connection, sql)
+                                      : PQsendQueryParams(m_connection, sql, int(texts.size()), nullptr,
+                                                          texts.data(), nullptr, nullptr, 0);
+    QElapsedTimer clock;
+    clock.start();
+    bool isAlive = isSent == 1 && send(QueryTimeout);
+    while (isAlive) {
+        while (isAlive && PQisBusy(m_connection) == 1) {
+            const int left = int(QueryTimeout - clock.elapsed());
+            isAlive = left > 0 && waitForSocket(POLLIN, left) && PQconsumeInput(m_connection) == 1;
+        }
+        Result result(isAlive ? PQgetResult(m_connection) : nullptr, &PQclear);
+        if (!result)
+            break;
+        if (!answer.failure)
+            answer.failure = failureOf(result.get());
+        answer.result = std::move(result);
+    }
+    if (!isAlive && !answer.failure) {
+        answer.failure = lost();
+        if (answer.failure.message.isEmpty())
+            answer.failure.message = QString::fromLatin1("the server does not answer");
+    }
+    return answer;
+}
+
+SharingFailure SiteConnection::execute(const QByteArray& script)
+{
+    return run(script.constData()).failure;
+}
+
+SharingFailure SiteConnection::prepareSite()
+{
+    // A program that comes at the same moment waits here, and then finds the tables.
+    const QByteArray lock = "SELECT pg_advisory_xact_lock(hashtext('ko site'))";
+    SharingFailure failure = execute("BEGIN; " + lock);
+    if (failure)
+        return failure;
+    const Answer found = run("SELECT to_regclass('ko.site') IS NOT NULL");
+    failure = found.failure;
+    if (!failure && found.value(0, 0) != "t") {
+        for (const char* script : {"1-tables.sql", "1-functions.sql"}) {
+            if (!failure)
+                failure = execute(scriptOf(script));
+        }
+    }
+    const SharingFailure ended = execute(failure ? "ROLLBACK" : "COMMIT");
+    return failure ? failure : ended;
+}
+
+SharingFailure SiteConnection::greet(SiteGreeting* greeting)
+{
+    const Answer answer = run("SELECT site, version, number, may_write FROM ko.greet()");
+    if (!answer.failure)
+        *greeting = {QString::fromLatin1(answer.value(0, 0)), answer.value(0, 1).toInt(),
+                     answer.value(0, 2).toLongLong(), answer.value(0, 3) == "t"};
+    return answer.failure;
+}
+
+SharingFailure SiteConnection::agree(const QVector<KnownParcel>& known, qint64* number)
+{
+    const Answer answer =
+        run("SELECT ko.agreed($1, $2)",
+            {arrayOf(known, [](const KnownParcel& parcel) { return plain(parcel.number); }),
+             arrayOf(known, [](const KnownParcel& parcel) { return parcel.id.toStdString(); })});
+    if (!answer.failure)
+        *number = answer.value(0, 0).toLongLong();
+    return answer.failure;
+}
+
+SharingFailure SiteConnection::submit(const QVector<SharedParcel>& parcels, qint64* number)
+{
+    const Answer answer = run("SELECT ko.submit($1)", {ParcelCoding::encode(parcels).toStdString()});
+    if (!answer.failure)
+        *number = answer.value(0, 0).toLongLong();
+    return answer.failure;
+}
+
+SharingFailure SiteConnection::fetch(qint64 position, int most, QVector<SharedParcel>* parcels)
+{
+    const Answer answer = run("SELECT parcel FROM ko.parcels_after($1, $2)", {plain(position), plain(most)});
+    if (answer.failure)
+        return answer.failure;
+    for (int row = 0; row < PQntuples(answer.result.get()); ++row) {
+        QString error;
+        const std::optional<SharedParcel> parcel = ParcelCoding::decode(answer.value(row, 0), &error);
+        if (!parcel)
+            return {SharingFailure::Refused, error};
+        parcels->append(*parcel);
+    }
+    return SharingFailure();
+}
+
+SharingFailure SiteConnection::state(QString* text)
+{
+    const Answer answer = run("SELECT ko.state()");
+    if (!answer.failure)
+        *text = QString::fromUtf8(answer.value(0, 0));
+    return answer.failure;
+}
+
+qint64 SiteConnection::takeNotices()
+{
+    qint64 highest = 0;
+    while (PGnotify* notice = PQnotifies(m_connection)) {
+        if (qstrcmp(notice->relname, channel) == 0)
+            highest = qMax(highest, QByteArray(notice->extra).toLongLong());
+        PQfreemem(notice);
+    }
+    return highest;
+}
+
+SharingFailure SiteConnection::wait(int ms, qint64* number)
+{
+    *number = takeNotices(); // that came with an answer
+    if (*number != 0 || m_isInterrupted)
+        return SharingFailure();
+    std::array<pollfd, 2> files = {{{PQsocket(m_connection), POLLIN, 0}, {m_wakeup, POLLIN, 0}}};
+    poll(files.data(), files.size(), ms);
+    if (files[1].revents != 0) {
+        eventfd_t count = 0;
+        eventfd_read(m_wakeup, &count);
+    }
+    if (files[0].revents != 0 &&
+        (PQconsumeInput(m_connection) == 0 || PQstatus(m_connection) == CONNECTION_BAD))
+        return lost();
+    *number = takeNotices();
+    return SharingFailure();
+}
+
+} // namespace ko
