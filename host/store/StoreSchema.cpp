@@ -124,8 +124,8 @@ QStringList objects(sqlite3* handle, int* error)
     return found;
 }
 
-/// What a new database of this version has.
-QStringList expectedObjects(int version, int* error)
+/// What a new database of this version has, and with it what a shared one has.
+QStringList expectedObjects(int version, bool isShared, int* error)
 {
     sqlite3* handle = nullptr;
     *error = sqlite3_open_v2(":memory:", &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_MEMORY, nullptr);
@@ -137,6 +137,8 @@ QStringList expectedObjects(int version, int* error)
                 *error = sqlite3_exec(handle, statement, nullptr, nullptr, nullptr);
         }
     }
+    for (int i = 0; isShared && i < sharingStatements().size() && *error == SQLITE_OK; ++i)
+        *error = sqlite3_exec(handle, sharingStatements().at(i), nullptr, nullptr, nullptr);
     return *error == SQLITE_OK ? objects(handle, error) : QStringList();
 }
 
@@ -166,7 +168,10 @@ QString difference(sqlite3* handle, int version, Extent extent, int* error)
     QStringList found = objects(handle, error);
     if (*error != SQLITE_OK)
         return QString();
-    const QStringList expected = expectedObjects(version, error);
+    const bool isShared = std::any_of(found.constBegin(), found.constEnd(), [](const QString& object) {
+        return object.startsWith(QLatin1String("table shared_site "));
+    });
+    const QStringList expected = expectedObjects(version, isShared, error);
     for (const QString& object : expected) {
         if (!found.removeOne(object))
             return QLatin1String("not as it should be: ") + firstWords(object);
@@ -177,6 +182,20 @@ QString difference(sqlite3* handle, int version, Extent extent, int* error)
     const auto foreign = std::find_if(found.constBegin(), found.constEnd(), isForeign);
     return foreign == found.constEnd() ? QString()
                                        : QLatin1String("should not be there: ") + firstWords(*foreign);
+}
+
+// The number of a line is negative while the site has lost it; its line is NULL when the site made it.
+const QVector<const char*>& sharingStatements()
+{
+    static const QVector<const char*> statements = {
+        "CREATE TABLE IF NOT EXISTS shared_site (one INTEGER PRIMARY KEY CHECK (one = 1), id TEXT NOT NULL,"
+        " position INTEGER NOT NULL)",
+        "CREATE TABLE IF NOT EXISTS shared_parcels (number INTEGER PRIMARY KEY, id TEXT NOT NULL)",
+        "CREATE TABLE IF NOT EXISTS shared_lines (seq INTEGER PRIMARY KEY, change_set INTEGER NOT NULL,"
+        " line INTEGER, number INTEGER NOT NULL, UNIQUE (change_set, line))",
+        "CREATE INDEX IF NOT EXISTS shared_lines_number ON shared_lines (number)",
+    };
+    return statements;
 }
 
 int latest()

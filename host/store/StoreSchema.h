@@ -36,6 +36,10 @@ KO_HOST_EXPORT int latest();
 /// The statements that lead from \a version to the next.
 QVector<const char*> stepFrom(int version);
 
+/// What makes the tables that a shared file has beside these; see SharedLog. A file that was never shared
+/// lacks them.
+const QVector<const char*>& sharingStatements();
+
 enum class Extent {
     Ours, ///< our tables and indexes are there as we make them, and there are no triggers
     Only, ///< and nothing else is there

@@ -1,0 +1,198 @@
+#include "sharing/SharingSession.h"
+
+#include <algorithm>
+
+namespace ko {
+
+namespace {
+
+const int shortestPause = 250; // ms; doubled with each failure
+const int longestPause = 30000;
+const int listenPause = 30000; // ms; a notice that got lost is made good by asking
+const int linesAtOnce = 500;
+const int knownAtOnce = 1000;
+
+} // namespace
+
+SharingSession::SharingSession(SharedLog& log, quint32 seed)
+    : m_log(log)
+    , m_random(seed)
+{
+}
+
+void SharingSession::want(Step step)
+{
+    const quint64 serial = m_request.serial + 1;
+    m_request = Request();
+    m_request.step = step;
+    m_request.serial = serial;
+}
+
+/// Does \a what, unless it is about a request that is none any more. A file that is busy is one more reason
+/// to wait.
+template <class Do>
+void SharingSession::act(quint64 serial, Do what)
+{
+    if (serial != m_request.serial || m_request.step == Step::End)
+        return;
+    try {
+        what();
+    } catch (const StoreFailure& failure) {
+        if (failure.error.kind == StoreError::Locked)
+            pause();
+        else
+            refuse(SharingState::FileFailed, failure.error.detail);
+    }
+}
+
+void SharingSession::refuse(SharingState::Reason reason, const QString& text)
+{
+    m_state = {SharingState::Refused, reason, text};
+    want(Step::End);
+}
+
+void SharingSession::pause()
+{
+    const int longest = std::min(longestPause, shortestPause << std::min(m_failures, 10));
+    ++m_failures;
+    m_random = m_random * 1664525U + 1013904223U;
+    m_state = {SharingState::Away, SharingState::NoReason, m_state.text};
+    want(Step::Pause);
+    m_request.pause = longest / 2 + int(m_random >> 8) % (longest / 2 + 1);
+}
+
+void SharingSession::greeted(quint64 serial, const SiteGreeting& greeting)
+{
+    act(serial, [&] {
+        if (greeting.version != Version)
+            return refuse(SharingState::OtherVersion);
+        const QString site = m_log.site();
+        if (!site.isEmpty() && site != greeting.site)
+            return refuse(SharingState::OtherSite);
+        if (m_log.isReplaced())
+            return refuse(SharingState::Replaced);
+        if (site.isEmpty())
+            m_log.setSite(greeting.site);
+        m_mayWrite = greeting.mayWrite;
+        m_last = greeting.number;
+        m_sent = SharedLog::Cursor();
+        m_mustFetch = true;
+        m_state = {SharingState::CatchingUp, SharingState::NoReason, QString()};
+        want(Step::Agree);
+        m_request.known = m_log.known(1);
+        if (m_request.known.isEmpty())
+            advance();
+    });
+}
+
+/// The site may be an older one than this desk knew: a backup, or a copy that took over and had not got all.
+void SharingSession::agreed(quint64 serial, qint64 number)
+{
+    act(serial, [&] {
+        const QVector<KnownParcel> asked = m_request.known;
+        if (number != 0 || asked.isEmpty()) {
+            if (number != m_log.position())
+                m_log.goBack(number);
+            return advance();
+        }
+        want(Step::Agree);
+        m_request.known = m_log.known(knownAtOnce, asked.constLast().number);
+        if (m_request.known.isEmpty()) { // the site has begun anew
+            m_log.goBack(0);
+            advance();
+        }
+    });
+}
+
+void SharingSession::submitted(quint64 serial, qint64 number)
+{
+    act(serial, [&] {
+        m_last = std::max(m_last, number);
+        m_mustFetch = true;
+        m_failures = 0;
+        advance();
+    });
+}
+
+void SharingSession::fetched(quint64 serial, const QVector<SharedParcel>& parcels)
+{
+    act(serial, [&] {
+        m_failures = 0;
+        const SharedLog::Receipt receipt = m_log.receive(parcels, m_sent);
+        if (receipt == SharedLog::Receipt::Gap)
+            return pause(); // the next connection finds out why
+        if (receipt == SharedLog::Receipt::Taken) {
+            m_mustFetch = parcels.size() >= MostParcels;
+            m_last = std::max(m_last, m_log.position());
+        }
+        advance();
+    });
+}
+
+bool SharingSession::submit()
+{
+    SharedLog::Cursor sent = m_sent;
+    const QVector<SharedParcel> parcels = m_log.waiting(&sent, linesAtOnce);
+    if (parcels.isEmpty())
+        return false;
+    if (!m_mayWrite) {
+        refuse(SharingState::MayNotWrite);
+        return true;
+    }
+    m_sent = sent; // if it gets lost, so does the connection, and the next begins anew
+    want(Step::Submit);
+    m_request.parcels = parcels;
+    m_state = {SharingState::CatchingUp, SharingState::NoReason, QString()};
+    return true;
+}
+
+void SharingSession::advance()
+{
+    if (submit())
+        return;
+    const qint64 position = m_log.position();
+    const bool isBehind = m_mustFetch || position < m_last;
+    want(isBehind ? Step::Fetch : Step::Listen);
+    m_request.position = position;
+    m_request.pause = isBehind ? 0 : listenPause;
+    m_state = {isBehind ? SharingState::CatchingUp : SharingState::UpToDate, SharingState::NoReason,
+               QString()};
+}
+
+void SharingSession::timeIsUp(quint64 serial)
+{
+    act(serial, [&] {
+        if (m_request.step == Step::Pause)
+            return want(Step::Connect);
+        m_mustFetch = true;
+        advance();
+    });
+}
+
+void SharingSession::failed(quint64 serial, const SharingFailure& failure)
+{
+    act(serial, [&] {
+        if (failure.kind == SharingFailure::Refused)
+            return refuse(SharingState::ServerSaid, failure.message);
+        m_state.text = failure.message;
+        pause();
+    });
+}
+
+void SharingSession::notified(qint64 number)
+{
+    m_last = std::max(m_last, number);
+    if (m_request.step == Step::Listen)
+        act(m_request.serial, [&] {
+            if (m_log.position() < m_last)
+                advance();
+        });
+}
+
+void SharingSession::storedHere()
+{
+    if (m_request.step == Step::Listen)
+        act(m_request.serial, [&] { submit(); });
+}
+
+} // namespace ko

@@ -1,0 +1,55 @@
+#ifndef KO_SHARINGWORKER_H
+#define KO_SHARINGWORKER_H
+
+#include "sharing/SharingSession.h"
+#include "sharing/SiteConnection.h"
+
+#include <QObject>
+
+#include <thread>
+
+namespace ko {
+
+/// Shares a file with a site, in a thread of its own and with its own connections to both, as long as it
+/// lives. To the programs that use the file it is one more of them.
+class KO_HOST_EXPORT SharingWorker : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \a file can be opened; for \a address see SiteConnection. \a describe is called in the thread.
+    SharingWorker(const QString& file, const QString& address, const SharedLog::Describe& describe);
+    /// Ends what is under way; what was not sent waits in the file.
+    ~SharingWorker() override;
+
+    /// Something was stored in the file: looks at once, which it does five times a second without that.
+    void wake();
+
+signals:
+    void stateChanged(const ko::SharingState& state);
+    /// What others did is in the file.
+    void received();
+
+private:
+    void run();
+    void perform(SharedLog& log, SharingSession& session);
+    void connectToSite(SharingSession& session, quint64 serial);
+    void agree(SharingSession& session, const SharingSession::Request& request);
+    void submit(SharingSession& session, const SharingSession::Request& request);
+    void fetch(SharingSession& session, const SharingSession::Request& request);
+    void listen(SharedLog& log, SharingSession& session);
+    void pause(SharingSession& session, const SharingSession::Request& request);
+    void show(const SharingState& state);
+
+    const QString m_file;
+    const QString m_address;
+    const SharedLog::Describe m_describe;
+    SiteConnection m_connection;
+    SharingState m_shown;
+    std::atomic<bool> m_stop{false};
+    std::thread m_thread; ///< goes first
+};
+
+} // namespace ko
+
+#endif

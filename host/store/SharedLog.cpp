@@ -1,0 +1,266 @@
+#include "store/SharedLog.h"
+
+#include "secrets/Keyring.h"
+#include "store/ChangeCoding.h"
+#include "store/LogChain.h"
+#include "store/SharedTables.h"
+
+#include <QSet>
+
+namespace ko {
+
+namespace {
+
+const int mostLinesOfAParcel = 200;
+
+/// What no two lines of a parcel may both be about.
+QString thingOf(const SharedLine& line)
+{
+    const QString thing = QLatin1Char(line.kind) + line.id;
+    if (line.kind != ChangeLog::RelationKind)
+        return thing;
+    const Relation relation = ChangeCoding::relationChange(line.id, line.before, line.after).relation;
+    return thing + QLatin1Char(' ') + relation.destination + QLatin1Char(' ') +
+           QString::number(relation.type);
+}
+
+SharedLine lineOf(const SqliteStore::Rows& rows)
+{
+    return {rows.number(2), rows.text(3).at(0).toLatin1(), rows.text(4), rows.text(5), rows.text(6), false};
+}
+
+Cause causeOf(const SqliteStore::Rows& rows)
+{
+    return {rows.text(7), rows.text(9), rows.text(10), rows.number(8), Purposes::fromWord(rows.text(11)),
+            rows.text(12)};
+}
+
+} // namespace
+
+class SharedLog::Private
+{
+public:
+    Private(std::unique_ptr<SqliteStore> opened, const Describe& describing)
+        : connection(std::move(opened))
+        , tables(*connection)
+        , log(*connection)
+        , describe(describing)
+    {
+    }
+
+    SqliteStore::Rows rowsAfter(const Cursor& cursor);
+    bool isWaiting(const Cursor& cursor);
+    void take(const SharedParcel& parcel, SharedTables* shared);
+    qint64 rowOf(qint64 changeSet, qint64 line);
+    void note(const ChangeLog::Row& row);
+    void setNumber(qint64 row, qint64 changeSet, qint64 line, qint64 number);
+
+    const std::unique_ptr<SqliteStore> connection;
+    NodeTables tables;
+    ChangeLog log;
+    const Describe describe;
+};
+
+SharedLog::SharedLog(std::unique_ptr<Private> opened)
+    : d(std::move(opened))
+{
+}
+
+SharedLog::~SharedLog() = default;
+
+std::unique_ptr<SharedLog> SharedLog::open(const QString& file, const Describe& describe, StoreError* error)
+{
+    std::unique_ptr<SqliteStore> connection = SqliteStore::open(file, error);
+    if (!connection)
+        return nullptr;
+    try {
+        Transaction transaction(*connection, Transaction::Write);
+        for (const char* statement : StoreSchema::sharingStatements())
+            connection->execute(QLatin1String(statement));
+        connection->execute(
+            QLatin1String("INSERT OR IGNORE INTO shared_site (one, id, position) VALUES (1, '', 0)"));
+        transaction.commit();
+    } catch (const StoreFailure& failure) {
+        *error = failure.error;
+        return nullptr;
+    }
+    return std::unique_ptr<SharedLog>(
+        new SharedLog(std::make_unique<Private>(std::move(connection), describe)));
+}
+
+QString SharedLog::site()
+{
+    return d->connection->value("SELECT id FROM shared_site").toString();
+}
+
+void SharedLog::setSite(const QString& site)
+{
+    d->connection->run("UPDATE shared_site SET id = ? WHERE id = ''", {site});
+}
+
+qint64 SharedLog::position()
+{
+    return d->connection->value("SELECT position FROM shared_site").toLongLong();
+}
+
+qint64 SharedLog::dataVersion()
+{
+    return d->connection->dataVersion();
+}
+
+bool SharedLog::isReplaced()
+{
+    return d->connection->value("SELECT 1 FROM changes WHERE kind = 'A' AND id = '' LIMIT 1").isValid();
+}
+
+/// First what the site lost, then what it never had.
+SqliteStore::Rows SharedLog::Private::rowsAfter(const Cursor& cursor)
+{
+    return connection->run(
+        "SELECT * FROM (SELECT -s.number AS former, c.seq AS seq, s.line, c.kind, c.id, c.before, c.after,"
+        " t.id, t.time, t.user, t.host, t.purpose, t.subject FROM shared_lines s JOIN changes c ON c.seq = "
+        "s.seq"
+        " JOIN change_sets t ON t.seq = c.change_set WHERE s.number < 0 AND s.line IS NOT NULL"
+        " AND (-s.number, c.seq) > (?, ?) ORDER BY -s.number, c.seq)"
+        " UNION ALL SELECT * FROM (SELECT 9223372036854775807 AS former, c.seq AS seq, c.seq, c.kind, c.id,"
+        " c.before, c.after, t.id, t.time, t.user, t.host, t.purpose, t.subject FROM changes c"
+        " JOIN change_sets t ON t.seq = c.change_set WHERE c.kind IN ('N', 'R', 'S', 'E')"
+        " AND c.seq > iif(? = 9223372036854775807, ?, 0)"
+        " AND NOT EXISTS (SELECT 1 FROM shared_lines s WHERE s.seq = c.seq) ORDER BY c.seq)",
+        {cursor.former, cursor.row, cursor.former, cursor.row});
+}
+
+bool SharedLog::Private::isWaiting(const Cursor& cursor)
+{
+    return rowsAfter(cursor).next();
+}
+
+QVector<SharedParcel> SharedLog::waiting(Cursor* cursor, int lines)
+{
+    QVector<SharedParcel> parcels;
+    QSet<QString> things;
+    SqliteStore::Rows rows = d->rowsAfter(*cursor);
+    while (lines-- > 0 && rows.next()) {
+        const SharedLine line = lineOf(rows);
+        const Cause cause = causeOf(rows);
+        const QString thing = thingOf(line);
+        const bool fits = !parcels.isEmpty() && parcels.constLast().cause.id == cause.id &&
+                          parcels.constLast().lines.size() < mostLinesOfAParcel && !things.contains(thing);
+        if (!fits) {
+            parcels.append({0, QString(), cause, {}});
+            things.clear();
+        }
+        things.insert(thing);
+        parcels.last().lines.append(line);
+        *cursor = {rows.number(0), rows.number(1)};
+    }
+    return parcels;
+}
+
+SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels, const Cursor& sent)
+{
+    Transaction transaction(*d->connection, Transaction::Write);
+    if (d->isWaiting(sent))
+        return Receipt::SomethingWaits;
+    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
+    LogChain chain(d->connection->handle(), d->connection->fileName(), key->sealer);
+    chain.begin();
+    SharedTables shared(*d->connection, d->tables, d->describe);
+    qint64 position = this->position();
+    for (const SharedParcel& parcel : parcels) {
+        if (parcel.number <= position)
+            continue;
+        if (parcel.number != position + 1)
+            return Receipt::Gap;
+        d->take(parcel, &shared);
+        position = parcel.number;
+    }
+    QSet<QString> noted;
+    for (const ChangeLog::Row& row : shared.touched()) {
+        const int known = int(noted.size());
+        noted.insert(QLatin1Char(row.kind) + row.id);
+        if (noted.size() > known)
+            d->note(row);
+    }
+    d->connection->run("UPDATE shared_site SET position = ?", {position});
+    chain.end();
+    transaction.commit();
+    return Receipt::Taken;
+}
+
+void SharedLog::Private::take(const SharedParcel& parcel, SharedTables* shared)
+{
+    qint64 changeSet = log.find(parcel.cause);
+    bool isNew = true; // else it is in the history of this desk as it was done here
+    for (const SharedLine& line : parcel.lines)
+        isNew = isNew && (line.line == 0 || changeSet == 0 || rowOf(changeSet, line.line) == 0);
+    for (const SharedLine& line : parcel.lines) {
+        const qint64 known = line.line != 0 && changeSet != 0 ? rowOf(changeSet, line.line) : 0;
+        if (known != 0)
+            setNumber(known, changeSet, line.line, parcel.number);
+        if (!line.isDone)
+            continue;
+        const bool isChanged = shared->apply(line);
+        const ChangeLog::Row row = {ChangeLog::Kind(line.kind), line.id};
+        if (known == 0 && (isNew || line.line != 0)) {
+            if (changeSet == 0)
+                changeSet = log.numberOf(parcel.cause);
+            log.add(changeSet, row, line.before, line.after);
+            setNumber(log.revision(), changeSet, line.line, parcel.number);
+        } else if (isChanged) {
+            note(row);
+        }
+    }
+    connection->run("INSERT INTO shared_parcels (number, id) VALUES (?, ?)", {parcel.number, parcel.id});
+}
+
+/// Where in the table of changes a line is; 0: it is not. What was done at this desk has its own number as
+/// line.
+qint64 SharedLog::Private::rowOf(qint64 changeSet, qint64 line)
+{
+    const QVariant received = connection->value(
+        "SELECT seq FROM shared_lines WHERE change_set = ? AND line = ?", {changeSet, line});
+    if (received.isValid())
+        return received.toLongLong();
+    return connection
+        ->value("SELECT seq FROM changes c WHERE seq = ? AND change_set = ?"
+                " AND NOT EXISTS (SELECT 1 FROM shared_lines s WHERE s.seq = c.seq)",
+                {line, changeSet})
+        .toLongLong();
+}
+
+void SharedLog::Private::setNumber(qint64 row, qint64 changeSet, qint64 line, qint64 number)
+{
+    connection->run("INSERT INTO shared_lines (seq, change_set, line, number) VALUES (?, ?, ?, ?)"
+                    " ON CONFLICT (seq) DO UPDATE SET number = excluded.number",
+                    {row, changeSet, line == 0 ? QVariant() : QVariant(line), number});
+}
+
+/// Tells the other programs on this file to look again; of no change set, because nobody did it here.
+void SharedLog::Private::note(const ChangeLog::Row& row)
+{
+    connection->run("INSERT INTO changes (kind, id) VALUES (?, ?)", {QString(QLatin1Char(row.kind)), row.id});
+}
+
+QVector<KnownParcel> SharedLog::known(int count, qint64 before)
+{
+    QVector<KnownParcel> result;
+    SqliteStore::Rows rows = d->connection->run(
+        "SELECT number, id FROM shared_parcels WHERE number < ? ORDER BY number DESC LIMIT ?",
+        {before, count});
+    while (rows.next())
+        result.append({rows.number(0), rows.text(1)});
+    return result;
+}
+
+void SharedLog::goBack(qint64 number)
+{
+    Transaction transaction(*d->connection, Transaction::Write);
+    d->connection->run("UPDATE shared_lines SET number = -number WHERE number > ? AND line IS NOT NULL",
+                       {number});
+    d->connection->run("DELETE FROM shared_parcels WHERE number > ?", {number});
+    d->connection->run("UPDATE shared_site SET position = ?", {number});
+    transaction.commit();
+}
+
+} // namespace ko

@@ -1,0 +1,77 @@
+#ifndef KO_SHAREDLOG_H
+#define KO_SHAREDLOG_H
+
+#include "model/NodeData.h"
+#include "model/SharedParcel.h"
+#include "model/StoreError.h"
+
+#include <functional>
+#include <limits>
+#include <memory>
+#include <optional>
+
+namespace ko {
+
+/// What a desk's file knows of the site with which it is shared: what is not there yet, and what of it is
+/// here. It is one more connection to the file, for one thread; everything but open() throws StoreFailure.
+///
+/// Its tables are made when a file is shared for the first time.
+class KO_HOST_EXPORT SharedLog
+{
+public:
+    /// What lists and look-ups need of a node.
+    typedef std::function<void(const NodeData& data, NodeSummary* summary, QString* lookupKey)> Describe;
+
+    /// \a file is a database that can be opened. Null and \a error when that cannot be done.
+    static std::unique_ptr<SharedLog> open(const QString& file, const Describe& describe, StoreError* error);
+    ~SharedLog();
+
+    /// The site with which the file is shared; empty as long as it is with none.
+    QString site();
+    /// Once: a file belongs to one site for good.
+    void setSite(const QString& site);
+
+    /// The number of the last parcel that is in the file.
+    qint64 position();
+
+    /// How far a desk has sent what waits; the first is before everything.
+    struct Cursor
+    {
+        qint64 former = 0; ///< number that it had before the site lost it
+        qint64 row = 0;
+    };
+
+    /// What waits after \a cursor, in the order in which it is to be sent, at most about \a lines lines;
+    /// moves \a cursor behind it. Lines of one parcel are done together, so a thing that was changed twice
+    /// begins another.
+    QVector<SharedParcel> waiting(Cursor* cursor, int lines);
+
+    /// A backup took the place of everything, which no parcel can tell.
+    bool isReplaced();
+
+    enum class Receipt { Taken, SomethingWaits, Gap };
+
+    /// Writes what the site did after position(), in its order; what is here already is left out. All that
+    /// waited when this is called lies before \a sent, or nothing is done: the site must know it first. Nor
+    /// is anything done when a parcel is missing between position() and the first of \a parcels.
+    Receipt receive(const QVector<SharedParcel>& parcels, const Cursor& sent);
+
+    /// The newest parcels with numbers below \a before, newest first.
+    QVector<KnownParcel> known(int count, qint64 before = std::numeric_limits<qint64>::max());
+
+    /// The site has none of the parcels after \a number any more: they wait again, in their old order,
+    /// whoever made them.
+    void goBack(qint64 number);
+
+    /// Another one whenever something else has written the file.
+    qint64 dataVersion();
+
+private:
+    class Private;
+    explicit SharedLog(std::unique_ptr<Private> opened);
+    const std::unique_ptr<Private> d;
+};
+
+} // namespace ko
+
+#endif

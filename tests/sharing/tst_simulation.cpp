@@ -1,0 +1,85 @@
+#include "Simulation.h"
+#include "support/Soak.h"
+#include "support/TestMain.h"
+
+#include <QElapsedTimer>
+
+using namespace testsupport;
+
+/// Sharing with a network, a clock and a site that are simulated: one number is one run, and makes it again.
+class TestSimulation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void seedsThatOnceFailed_data();
+    void seedsThatOnceFailed();
+    void manySeeds();
+
+private:
+    void run(unsigned seed);
+
+    std::map<std::string, int> m_counts;
+};
+
+namespace {
+
+const int stepsOfARun = 150;
+
+/// In memory where there is a file system for that: the runs are to be many.
+QString folderPattern()
+{
+    const QString memory = QStringLiteral("/dev/shm");
+    return QFileInfo(memory).isWritable() ? memory + QStringLiteral("/ko-XXXXXX") : QString();
+}
+
+} // namespace
+
+void TestSimulation::run(unsigned seed)
+{
+    const QString pattern = folderPattern();
+    const QTemporaryDir folder(pattern.isEmpty() ? QDir::tempPath() + QStringLiteral("/ko-XXXXXX") : pattern);
+    Simulation simulation(folder.path(), seed, 2 + int(seed % 3));
+    for (int i = 0; i < stepsOfARun && simulation.failure().isEmpty(); ++i)
+        simulation.step();
+    if (simulation.failure().isEmpty())
+        simulation.settle();
+    QVERIFY2(simulation.failure().isEmpty(),
+             qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(simulation.failure())));
+    for (const char* what : {"edit", "cut", "crash", "gone back", "compared"})
+        m_counts[what] += simulation.count(what);
+}
+
+void TestSimulation::seedsThatOnceFailed_data()
+{
+    QTest::addColumn<unsigned>("seed");
+    for (const unsigned seed : {1U, 2461367000U, 2461367195U})
+        QTest::newRow(qPrintable(QString::number(seed))) << seed;
+}
+
+void TestSimulation::seedsThatOnceFailed()
+{
+    QFETCH(const unsigned, seed);
+    run(seed);
+}
+
+/// As many as there is time for, from another number each day; KO_SIMULATION_SEED begins with that one.
+void TestSimulation::manySeeds()
+{
+    const qint64 time = soakOr(1200, 20) * 1000;
+    const unsigned first = qEnvironmentVariableIsSet("KO_SIMULATION_SEED")
+                               ? unsigned(qEnvironmentVariableIntValue("KO_SIMULATION_SEED"))
+                               : unsigned(QDate::currentDate().toJulianDay()) * 1000;
+    QElapsedTimer clock;
+    clock.start();
+    unsigned seed = first;
+    for (; clock.elapsed() < time && !QTest::currentTestFailed(); ++seed)
+        run(seed);
+    qInfo("%u runs of %d steps: %d edits, %d cuts, %d crashes, %d times a site gone back, %d states compared",
+          seed - first, stepsOfARun, m_counts["edit"], m_counts["cut"], m_counts["crash"],
+          m_counts["gone back"], m_counts["compared"]);
+    QVERIFY(m_counts["compared"] > 0 && m_counts["gone back"] > 0);
+}
+
+KO_TEST_MAIN(TestSimulation)
+#include "tst_simulation.moc"
