@@ -26,7 +26,8 @@ public:
     {
         for (ko::SharedParcel parcel : given) {
             QVector<ko::SharedLine> fresh;
-            for (const ko::SharedLine& line : parcel.lines) {
+            for (ko::SharedLine line : parcel.lines) {
+                line.isDone = false;
                 if (m_known.insert({parcel.cause.id, line.line}).second)
                     fresh.append(line);
             }
