@@ -102,7 +102,7 @@ SharingFailure SiteConnection::open(const QString& address, int timeout)
     const std::array<const char*, 8> values = {"10",       "5",    "3",    "30000", given.constData(),
                                                "koclient", "UTF8", nullptr};
     m_connection = PQconnectStartParams(keys.data(), values.data(), 1);
-    const SharingFailure failure = finishConnecting(timeout);
+    SharingFailure failure = finishConnecting(timeout);
     if (failure)
         return failure;
     PQsetnonblocking(m_connection, 1);
