@@ -16,7 +16,7 @@ const int mostLinesOfAParcel = 200;
 /// What no two lines of a parcel may both be about.
 QString thingOf(const SharedLine& line)
 {
-    const QString thing = QLatin1Char(line.kind) + line.id;
+    QString thing = QLatin1Char(line.kind) + line.id;
     if (line.kind != ChangeLog::RelationKind)
         return thing;
     const Relation relation = ChangeCoding::relationChange(line.id, line.before, line.after).relation;
