@@ -76,9 +76,8 @@ std::unique_ptr<SharedLog> SharedLog::open(const QString& file, const Describe& 
     try {
         Transaction transaction(*connection, Transaction::Write);
         for (const char* statement : StoreSchema::sharingStatements())
-            connection->execute(QLatin1String(statement));
-        connection->execute(
-            QLatin1String("INSERT OR IGNORE INTO shared_site (one, id, position) VALUES (1, '', 0)"));
+            connection->execute(statement);
+        connection->execute("INSERT OR IGNORE INTO shared_site (one, id, position) VALUES (1, '', 0)");
         transaction.commit();
     } catch (const StoreFailure& failure) {
         *error = failure.error;
@@ -163,7 +162,7 @@ SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels, cons
     if (d->isWaiting(sent))
         return Receipt::SomethingWaits;
     const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
-    LogChain chain(d->connection->handle(), d->connection->fileName(), key->sealer);
+    LogChain chain(*d->connection, key->sealer);
     chain.begin();
     SharedTables shared(*d->connection, d->tables, d->describe);
     qint64 position = this->position();
@@ -233,7 +232,7 @@ void SharedLog::Private::setNumber(qint64 row, qint64 changeSet, qint64 line, qi
 {
     connection->run("INSERT INTO shared_lines (seq, change_set, line, number) VALUES (?, ?, ?, ?)"
                     " ON CONFLICT (seq) DO UPDATE SET number = excluded.number",
-                    {row, changeSet, line == 0 ? QVariant() : QVariant(line), number});
+                    {row, changeSet, line == 0 ? SqlValue() : SqlValue(line), number});
 }
 
 /// Tells the other programs on this file to look again; of no change set, because nobody did it here.

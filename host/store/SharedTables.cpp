@@ -48,8 +48,7 @@ bool SharedTables::addNode(const NodeChange& change)
     QString lookupKey;
     m_describe(data, &summary, &lookupKey);
     const qint64 place = m_tables.insertNode(change.place, PackedSummary(summary), lookupKey);
-    for (const PropertyList::Entry& entry : change.after->properties)
-        m_tables.setProperty(place, entry.name, entry.value);
+    m_tables.setProperties(place, change.after->properties);
     return true;
 }
 
@@ -59,22 +58,26 @@ bool SharedTables::updateNode(const NodeChange& change)
     if (row.place == 0)
         return false; // removed here, which the site will hear or has heard
     const bool isRenamed = change.before->name != change.after->name;
-    PropertyList properties = m_tables.properties(change.id).value_or(PropertyList());
+    PropertyList properties = propertiesOf(change.id);
     const auto differences = PropertyList::difference(change.before->properties, change.after->properties);
     for (const PropertyList::Entry& entry : differences)
         properties.set(entry.name, entry.value);
     return write(row, isRenamed ? change.after->name : row.summary.name(), properties);
 }
 
+PropertyList SharedTables::propertiesOf(const NodeID& id)
+{
+    const std::optional<StoredProperties> stored = m_tables.properties(id);
+    return stored ? stored->list : PropertyList();
+}
+
 /// Name and properties of a node that is here.
 bool SharedTables::write(const NodeRow& row, const QString& name, const PropertyList& properties)
 {
-    const auto differences =
-        PropertyList::difference(m_tables.properties(row.id).value_or(PropertyList()), properties);
+    const auto differences = PropertyList::difference(propertiesOf(row.id), properties);
     if (differences.isEmpty() && row.summary.name() == name)
         return false;
-    for (const PropertyList::Entry& entry : differences)
-        m_tables.setProperty(row.place, entry.name, entry.value);
+    m_tables.setProperties(row.place, properties);
     NodeSummary summary;
     QString lookupKey;
     m_describe(NodeData{row.id, row.summary.type(), name, properties}, &summary, &lookupKey);
@@ -84,7 +87,7 @@ bool SharedTables::write(const NodeRow& row, const QString& name, const Property
 
 bool SharedTables::removeNode(const NodeID& id)
 {
-    const qint64 place = m_tables.number(id);
+    const qint64 place = m_tables.node(id).place;
     if (place == 0)
         return false;
     const QVector<RelationChange> relations = m_tables.relationsOf(place);
@@ -106,12 +109,11 @@ void SharedTables::vacate(qint64 place)
 void SharedTables::move(const NodeID& id, qint64 place)
 {
     const NodeRow row = m_tables.node(id);
-    const PropertyList properties = m_tables.properties(id).value_or(PropertyList());
+    const PropertyList properties = propertiesOf(id);
     const QVector<RelationChange> relations = m_tables.relationsOf(row.place);
     m_tables.removeNode(row.place);
     const qint64 number = m_tables.insertNode(place, row.summary, row.lookupKey);
-    for (const PropertyList::Entry& entry : properties)
-        m_tables.setProperty(number, entry.name, entry.value);
+    m_tables.setProperties(number, properties);
     for (const RelationChange& change : relations)
         m_tables.addRelation(change.relation, change.place);
     m_touched.append({ChangeLog::NodeKind, id});
@@ -130,8 +132,8 @@ qint64 SharedTables::placeOf(const Relation& relation)
 bool SharedTables::addRelation(const RelationChange& change)
 {
     const qint64 place = placeOf(change.relation);
-    if (place == change.place || m_tables.number(change.relation.source) == 0 ||
-        m_tables.number(change.relation.destination) == 0)
+    if (place == change.place || m_tables.node(change.relation.source).place == 0 ||
+        m_tables.node(change.relation.destination).place == 0)
         return false;
     if (place != 0)
         m_tables.removeRelation(change.relation);

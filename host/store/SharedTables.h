@@ -27,6 +27,7 @@ private:
     bool addRelation(const RelationChange& change);
     bool setSetting(const SharedLine& line);
     bool setEnvironments(const SharedLine& line);
+    PropertyList propertiesOf(const NodeID& id);
     bool write(const NodeRow& row, const QString& name, const PropertyList& properties);
     void move(const NodeID& id, qint64 place);
     void vacate(qint64 place);

@@ -145,7 +145,7 @@ double tst_Moment::longestStop(int row, int nodeCount)
 void tst_Moment::showDetailsOf(const QString& name)
 {
     for (int row = 0; row < nodes()->rowCount(); ++row) {
-        if (rowOf(nodes(), row).first() == name)
+        if (rowOf(nodes(), row).constFirst() == name)
             return table(window(), "nodesTableView")->selectRow(row);
     }
     QFAIL(qPrintable(name));
@@ -227,9 +227,9 @@ void tst_Moment::sorting()
 {
     open(3);
     table(window(), "nodesTableView")->sortByColumn(MomentModel::AddressColumn, Qt::DescendingOrder);
-    QCOMPARE(rowOf(nodes(), 0).first(), QString("Yard"));
+    QCOMPARE(rowOf(nodes(), 0).constFirst(), QString("Yard"));
     table(window(), "nodesTableView")->sortByColumn(MomentModel::DifferenceColumn, Qt::DescendingOrder);
-    QCOMPARE(rowOf(nodes(), 0).first(), QString("Archive"));
+    QCOMPARE(rowOf(nodes(), 0).constFirst(), QString("Archive"));
 }
 
 void tst_Moment::propertiesThenAndNow()

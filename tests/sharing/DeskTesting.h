@@ -3,6 +3,7 @@
 
 #include "../host/StoreTesting.h"
 
+#include "database/StoredHistory.h"
 #include "drivers/NodeTypes.h"
 #include "ko/Environments.h"
 #include "store/ChangeCoding.h"
@@ -114,7 +115,7 @@ inline void randomEdit(ko::HostNodeDB& db, std::mt19937& random)
         db.environments().setList(db.environments().getList()
                                   << qMakePair(QString::fromLatin1("{%1}").arg(random()), word));
     } else if (what == 12) { // undo of something
-        const QVector<ChangeSet> sets = db.changeSets(0, 1000);
+        const QVector<ChangeSet> sets = db.history().changeSets(0, 1000);
         if (!sets.isEmpty())
             db.apply(sets.at(below(int(sets.size()))).inverse());
     } else {

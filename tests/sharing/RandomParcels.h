@@ -129,7 +129,7 @@ private:
         return line;
     }
 
-    static QString notNull(const QString& text) { return text.isNull() ? QStringLiteral("") : text; }
+    static QString notNull(const QString& text) { return text.isNull() ? QString::fromLatin1("") : text; }
 
     std::mt19937 m_random;
 };

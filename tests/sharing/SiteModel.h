@@ -26,7 +26,7 @@ public:
     {
         for (ko::SharedParcel parcel : given) {
             QVector<ko::SharedLine> fresh;
-            for (ko::SharedLine line : parcel.lines) {
+            for (ko::SharedLine line : std::as_const(parcel.lines)) {
                 line.isDone = false;
                 if (m_known.insert({parcel.cause.id, line.line}).second)
                     fresh.append(line);

@@ -4,6 +4,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <memory>
+
 namespace testsupport {
 
 /// A PostgreSQL server of its own, of the newest version that is installed, in a temporary folder and on a
