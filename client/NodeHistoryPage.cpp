@@ -47,8 +47,10 @@ void NodeHistoryPage::create()
     m_changesLabel->setBuddy(m_changesView);
     QVBoxLayout* layout = new QVBoxLayout(this);
     for (QWidget* part :
-         std::initializer_list<QWidget*>{m_setsLabel, m_setsView, m_changesLabel, m_changesView})
+         std::initializer_list<QWidget*>{m_setsLabel, m_setsView, m_changesLabel, m_changesView}) {
         layout->addWidget(part);
+        part->show(); // in this turn, in which what is seen gets its mnemonics
+    }
     connect(m_setsView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &NodeHistoryPage::showSelected);
     connect(&m_db.history(), &StoredHistory::stored, this, &NodeHistoryPage::look);

@@ -6,6 +6,7 @@
 #include <QFile>
 
 #include <array>
+#include <cerrno>
 
 #include <libpq-fe.h>
 #include <poll.h>
@@ -150,8 +151,13 @@ bool SiteConnection::waitForSocket(short events, int ms)
     for (;;) {
         std::array<pollfd, 2> files = {{{PQsocket(m_connection), events, 0}, {m_wakeup, POLLIN, 0}}};
         const int left = int(ms - clock.elapsed());
-        if (m_isInterrupted || left <= 0 || poll(files.data(), files.size(), left) < 0)
+        if (m_isInterrupted || left <= 0)
             return false;
+        if (poll(files.data(), files.size(), left) < 0) {
+            if (errno == EINTR) // a child of the program has ended
+                continue;
+            return false;
+        }
         if (files[0].revents != 0)
             return true;
         if (files[1].revents != 0) { // who woke us finds us awake when this is done

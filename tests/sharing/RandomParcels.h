@@ -123,8 +123,9 @@ private:
         } else {
             line.kind = 'E';
             line.before = QStringLiteral("[]");
-            line.after = QString::fromUtf8(
-                QJsonDocument(QJsonArray{QJsonArray{word(), word()}}).toJson(QJsonDocument::Compact));
+            QJsonArray list;
+            list.append(QJsonArray{word(), word()}); // compilers differ in what an array in braces is
+            line.after = QString::fromUtf8(QJsonDocument(list).toJson(QJsonDocument::Compact));
         }
         return line;
     }
