@@ -34,6 +34,9 @@ public:
     /// Names are shared between all lists of the process.
     void set(const QString& name, const QVariant& value);
 
+    /// Takes no more memory than it needs.
+    void squeeze() { m_entries.squeeze(); }
+
     /// What turns \a from into \a to; a removed property stands with an invalid value.
     static QVector<Entry> difference(const PropertyList& from, const PropertyList& to);
 
