@@ -30,17 +30,6 @@ namespace {
 
 const char sizeKey[] = "history/size";
 
-QWidget* titled(QLabel* title, QTableView* table)
-{
-    QWidget* part = new QWidget;
-    QVBoxLayout* layout = new QVBoxLayout(part);
-    layout->setContentsMargins(0, 0, 0, 0);
-    title->setBuddy(table);
-    layout->addWidget(title);
-    layout->addWidget(table);
-    return part;
-}
-
 } // namespace
 
 HistoryDialog::HistoryDialog(HostNodeDB& db, const Scope& scope, QWidget* parent)

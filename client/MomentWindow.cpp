@@ -32,17 +32,6 @@ namespace {
 const char sizeKey[] = "moment/size";
 constexpr int Patience = 300; // ms, after which a window that does nothing looks broken
 
-QWidget* titled(QLabel* title, QTableView* table)
-{
-    QWidget* part = new QWidget;
-    QVBoxLayout* layout = new QVBoxLayout(part);
-    layout->setContentsMargins(0, 0, 0, 0);
-    title->setBuddy(table);
-    layout->addWidget(title);
-    layout->addWidget(table);
-    return part;
-}
-
 } // namespace
 
 MomentWindow::MomentWindow(MainWindow& window, const ChangeSetRow& moment)

@@ -1,7 +1,9 @@
 #include "PlainTable.h"
 
 #include <QHeaderView>
+#include <QLabel>
 #include <QTableView>
+#include <QVBoxLayout>
 
 namespace ko {
 
@@ -18,6 +20,17 @@ void preparePlainTable(QTableView* table, const char* objectName, QAbstractItemM
     table->verticalHeader()->setDefaultSectionSize(table->verticalHeader()->minimumSectionSize());
     table->horizontalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setResizeContentsPrecision(50);
+}
+
+QWidget* titled(QLabel* title, QTableView* table)
+{
+    QWidget* part = new QWidget;
+    QVBoxLayout* layout = new QVBoxLayout(part);
+    layout->setContentsMargins(0, 0, 0, 0);
+    title->setBuddy(table);
+    layout->addWidget(title);
+    layout->addWidget(table);
+    return part;
 }
 
 } // namespace ko
