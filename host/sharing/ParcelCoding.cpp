@@ -188,11 +188,6 @@ void checkEnvironments(const QJsonArray& list)
                 "environment");
 }
 
-QString compact(const QJsonDocument& document)
-{
-    return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
-}
-
 QString nonNull(const QString& text)
 {
     return text.isNull() ? QString::fromLatin1("") : text;
@@ -210,14 +205,14 @@ QString sideOf(const QJsonValue& value, char kind, bool isWhole)
     if (kind == environmentsKind) {
         require(value.isArray(), "environments");
         checkEnvironments(value.toArray());
-        return compact(QJsonDocument(value.toArray()));
+        return JsonText::compact(QJsonDocument(value.toArray()));
     }
     require(value.isObject(), "side");
     if (kind == nodeKind)
         checkNode(value.toObject(), isWhole);
     else
         checkRelation(value.toObject());
-    return compact(QJsonDocument(value.toObject()));
+    return JsonText::compact(QJsonDocument(value.toObject()));
 }
 
 SharedLine lineOf(const QJsonObject& object)

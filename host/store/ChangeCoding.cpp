@@ -19,12 +19,6 @@ constexpr char Place[] = "place";
 constexpr char Properties[] = "properties";
 constexpr char Destination[] = "to";
 
-template <class Json>
-QString compact(const Json& json)
-{
-    return QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Compact));
-}
-
 /// Of an object that begins with it, or goes on.
 void appendKey(QString* json, const char* key)
 {
@@ -80,9 +74,10 @@ std::optional<NodeValues> nodeValues(const QString& text, NodeChange* change)
 
 QString text(const RelationChange& change)
 {
-    return compact(QJsonObject{{QLatin1String(Destination), change.relation.destination},
-                               {QLatin1String(Type), int(change.relation.type)},
-                               {QLatin1String(Place), double(change.place)}});
+    return JsonText::compact(
+        QJsonDocument(QJsonObject{{QLatin1String(Destination), change.relation.destination},
+                                  {QLatin1String(Type), int(change.relation.type)},
+                                  {QLatin1String(Place), double(change.place)}}));
 }
 
 RelationChange relationChange(const NodeID& source, const QString& before, const QString& after)
@@ -101,7 +96,7 @@ QString text(const Environments::List& list)
     QJsonArray array;
     for (const auto& environment : list)
         array.append(QJsonArray{environment.first, environment.second});
-    return compact(array);
+    return JsonText::compact(QJsonDocument(array));
 }
 
 Environments::List environments(const QString& text)

@@ -9,11 +9,6 @@ namespace ko {
 
 namespace {
 
-QString notNull(const QString& text)
-{
-    return text.isNull() ? QString::fromLatin1("") : text;
-}
-
 AuditRow auditRow(const SqliteStore::Rows& rows)
 {
     return {rows.number(0),          rows.number(1), rows.text(2),  rows.text(3),
@@ -104,7 +99,7 @@ std::optional<ChangeLog::Rows> ChangeLog::since(qint64 revision, int count)
 
 qint64 ChangeLog::find(const Cause& cause)
 {
-    return m_store.value("SELECT seq FROM change_sets WHERE id = ?", {notNull(cause.id)}).toLongLong();
+    return m_store.value("SELECT seq FROM change_sets WHERE id = ?", {cause.id}).toLongLong();
 }
 
 qint64 ChangeLog::numberOf(const Cause& cause)
@@ -114,15 +109,15 @@ qint64 ChangeLog::numberOf(const Cause& cause)
         return found;
     return m_store
         .run("INSERT INTO change_sets (id, time, user, host, purpose, subject) VALUES (?, ?, ?, ?, ?, ?)",
-             {notNull(cause.id), cause.time, notNull(cause.user), notNull(cause.station),
-              Purposes::word(cause.purpose), notNull(cause.subject)})
+             {cause.id, cause.time, cause.user, cause.station, Purposes::word(cause.purpose), cause.subject})
         .insertedId();
 }
 
 void ChangeLog::add(qint64 changeSet, const Row& row, const QString& before, const QString& after)
 {
     m_store.run("INSERT INTO changes (kind, id, change_set, before, after) VALUES (?, ?, ?, ?, ?)",
-                {QString(QLatin1Char(row.kind)), notNull(row.id), changeSet, before, after});
+                {QString(QLatin1Char(row.kind)), row.id, changeSet, SqlValue::nullable(before),
+                 SqlValue::nullable(after)});
 }
 
 QVector<ChangeSet> ChangeLog::sets(qint64 after, int count)
@@ -178,7 +173,7 @@ ChangeSet ChangeLog::changesOf(qint64 number, const QString& id)
     set.number = number;
     SqliteStore::Rows rows = m_store.run("SELECT kind, id, before, after FROM changes"
                                          " WHERE id = ? AND change_set = ? ORDER BY seq",
-                                         {notNull(id), number});
+                                         {id, number});
     take(&set, rows);
     return set;
 }
@@ -245,7 +240,7 @@ QVector<ChangeSetRow> ChangeLog::silentSets(qint64 before, int count)
 void ChangeLog::addAudit(qint64 changeSet, const AuditRow& row)
 {
     m_store.run("INSERT INTO audit (time, user, host, code, data, change_set) VALUES (?, ?, ?, ?, ?, ?)",
-                {row.time, notNull(row.user), notNull(row.host), qint64(row.code), notNull(row.data),
+                {row.time, row.user, row.host, qint64(row.code), row.data,
                  changeSet ? SqlValue(changeSet) : SqlValue()});
 }
 

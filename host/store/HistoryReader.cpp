@@ -3,9 +3,6 @@
 #include "store/ChangeCoding.h"
 #include "store/JsonText.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-
 namespace ko {
 
 namespace {
@@ -51,11 +48,6 @@ ChangeSetRow rowOf(const SqliteStore::Rows& rows)
     return row;
 }
 
-QString notNull(const QString& text)
-{
-    return text.isNull() ? QString::fromLatin1("") : text;
-}
-
 /// What finds \a text anywhere.
 QString pattern(QString text)
 {
@@ -72,27 +64,23 @@ QString inJson(const QString& text)
     return json.mid(1, json.size() - 2);
 }
 
-QString jsonList(const QStringList& texts)
-{
-    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
-}
-
 QVector<SqlValue> wanted(const HistoryFilter& filter)
 {
     const QString purpose = filter.purpose ? Purposes::word(*filter.purpose) : QString::fromLatin1("");
     QStringList written;
     for (const QString& key : filter.properties)
         written.append(QString::fromLatin1("\"%1\":").arg(inJson(key)));
-    const QString keys = jsonList(filter.properties);
+    const QString keys = JsonText::list(filter.properties);
     QString titled = QString::fromLatin1(" ");
     for (const Purpose titledPurpose : filter.titled)
         titled += Purposes::word(titledPurpose) + QLatin1Char(' ');
-    const QString user = notNull(filter.user);
-    const QString text = notNull(filter.text);
+    const QString user = filter.user;
+    const QString text = filter.text;
     const QString plain = pattern(text);
     const QString coded = pattern(inJson(text));
-    return {filter.from,       filter.to, user,  pattern(user), purpose, purpose, keys,  keys,
-            jsonList(written), text,      plain, plain,         plain,   titled,  coded, coded};
+    return {
+        filter.from, filter.to, user,  pattern(user), purpose, purpose, keys, keys, JsonText::list(written),
+        text,        plain,     plain, plain,         titled,  coded,   coded};
 }
 
 } // namespace
@@ -113,7 +101,7 @@ HistoryPage HistoryReader::page(const HistoryFilter& filter, qint64 before, int 
     const bool isOfNodes = !filter.nodes.isEmpty();
     QVector<SqlValue> among = {before, count};
     if (isOfNodes)
-        among.prepend(jsonList(filter.nodes));
+        among.prepend(JsonText::list(filter.nodes));
     HistoryPage page;
     {
         SqliteStore::Rows ends =

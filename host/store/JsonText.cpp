@@ -1,5 +1,6 @@
 #include "store/JsonText.h"
 
+#include <QJsonArray>
 #include <QLocale>
 
 #include <cmath>
@@ -36,6 +37,16 @@ void appendNumber(QString* json, double number)
 void appendNumber(QString* json, qint64 number)
 {
     json->append(QString::number(number));
+}
+
+QString compact(const QJsonDocument& document)
+{
+    return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
+}
+
+QString list(const QStringList& texts)
+{
+    return compact(QJsonDocument(QJsonArray::fromStringList(texts)));
 }
 
 } // namespace JsonText

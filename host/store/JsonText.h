@@ -1,6 +1,7 @@
 #ifndef KO_JSONTEXT_H
 #define KO_JSONTEXT_H
 
+#include <QJsonDocument>
 #include <QString>
 
 namespace ko {
@@ -14,6 +15,12 @@ void appendText(QString* json, const QString& text);
 /// Anything that is not finite is no number in JSON, and becomes null.
 void appendNumber(QString* json, double number);
 void appendNumber(QString* json, qint64 number);
+
+/// Without blanks.
+QString compact(const QJsonDocument& document);
+
+/// An array.
+QString list(const QStringList& texts);
 
 } // namespace JsonText
 

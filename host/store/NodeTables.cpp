@@ -2,10 +2,8 @@
 
 #include "ko/LogQt.h"
 #include "ko/PropertyKeys.h"
+#include "store/JsonText.h"
 #include "store/PropertyCoding.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <string_view>
@@ -26,17 +24,6 @@ bool isIdentifier(std::string_view utf8)
 
 /// Of many nodes that are read together.
 const int idsOfAStatement = 500;
-
-QString jsonArray(const QStringList& texts)
-{
-    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(texts)).toJson(QJsonDocument::Compact));
-}
-
-/// A null string would be bound as NULL, which no column takes.
-QString notNull(const QString& text)
-{
-    return text.isNull() ? QString::fromLatin1("") : text;
-}
 
 QVector<Relation> relationRows(SqliteStore::Rows rows)
 {
@@ -99,8 +86,8 @@ NodeRow NodeTables::node(const NodeID& id)
 {
     NodeRow row;
     row.id = id;
-    SqliteStore::Rows rows = m_store.run(
-        "SELECT id, n, type, name, location, recording, lookup FROM nodes WHERE id = ?", {notNull(id)});
+    SqliteStore::Rows rows =
+        m_store.run("SELECT id, n, type, name, location, recording, lookup FROM nodes WHERE id = ?", {id});
     if (rows.next())
         take(rows, &row);
     return row;
@@ -121,7 +108,7 @@ QVector<NodeRow> NodeTables::nodes(const QStringList& ids)
         SqliteStore::Rows rows =
             m_store.run("SELECT n.id, n.n, n.type, n.name, n.location, n.recording, n.lookup"
                         " FROM json_each(?) j CROSS JOIN nodes n ON n.id = j.value",
-                        {jsonArray(ids.mid(first, idsOfAStatement))});
+                        {JsonText::list(ids.mid(first, idsOfAStatement))});
         while (rows.next())
             take(rows, &result[numbers.value(rows.text(0))]);
     }
@@ -140,7 +127,7 @@ std::optional<StoredProperties> NodeTables::properties(const NodeID& id)
     SqliteStore::Rows rows =
         m_store.run("SELECT n.n, p.properties FROM nodes n LEFT JOIN node_properties p ON p.node = n.n"
                     " WHERE n.id = ?",
-                    {notNull(id)});
+                    {id});
     if (!rows.next())
         return std::nullopt;
     return StoredProperties{rows.number(0), propertiesOf(id, rows.utf8(1))};
@@ -153,7 +140,7 @@ void NodeTables::forEachProperties(const QStringList& ids,
         SqliteStore::Rows rows =
             m_store.run("SELECT n.id, p.properties FROM json_each(?) j CROSS JOIN nodes n ON n.id = j.value"
                         " LEFT JOIN node_properties p ON p.node = n.n ORDER BY j.key",
-                        {jsonArray(ids.mid(first, idsOfAStatement))});
+                        {JsonText::list(ids.mid(first, idsOfAStatement))});
         while (rows.next()) {
             const NodeID id = rows.text(0);
             visit(id, propertiesOf(id, rows.utf8(1)));
@@ -190,8 +177,8 @@ qint64 NodeTables::insertNode(qint64 place, const PackedSummary& packed, const Q
 {
     const NodeSummary summary = packed.unpacked();
     const auto insert = [&](const char* sql, const SqlValue& number) {
-        return m_store.run(sql, {number, summary.id, int(summary.type), notNull(summary.name),
-                                 notNull(summary.location), summary.recordingUsage, notNull(lookupKey)});
+        return m_store.run(sql, {number, summary.id, int(summary.type), summary.name, summary.location,
+                                 summary.recordingUsage, lookupKey});
     };
     if (place > 0 && insert("INSERT OR IGNORE INTO nodes (n, id, type, name, location, recording, lookup)"
                             " VALUES (?, ?, ?, ?, ?, ?, ?)",
@@ -207,9 +194,8 @@ qint64 NodeTables::insertNode(qint64 place, const PackedSummary& packed, const Q
 void NodeTables::updateNode(qint64 n, const PackedSummary& packed, const QString& lookupKey)
 {
     const NodeSummary summary = packed.unpacked();
-    m_store.run(
-        "UPDATE nodes SET name = ?, location = ?, recording = ?, lookup = ? WHERE n = ?",
-        {notNull(summary.name), notNull(summary.location), summary.recordingUsage, notNull(lookupKey), n});
+    m_store.run("UPDATE nodes SET name = ?, location = ?, recording = ?, lookup = ? WHERE n = ?",
+                {summary.name, summary.location, summary.recordingUsage, lookupKey, n});
 }
 
 void NodeTables::removeNode(qint64 n)
@@ -223,7 +209,7 @@ QString NodeTables::setProperties(qint64 n, const PropertyList& properties)
     PropertyCoding::appendJson(&json, properties);
     const auto column = [&properties](QLatin1String key) {
         const QVariant value = properties.value(key);
-        return notNull(value.userType() == QMetaType::QString ? value.toString() : QString());
+        return value.userType() == QMetaType::QString ? value.toString() : QString();
     };
     m_store.run("INSERT INTO node_properties (node, properties, mac, extension) VALUES (?, ?, ?, ?)"
                 " ON CONFLICT (node) DO UPDATE SET properties = excluded.properties, mac = excluded.mac,"
@@ -242,7 +228,7 @@ QVector<Relation> NodeTables::relationsFrom(const NodeID& source)
 {
     return relationRows(m_store.run("SELECT a.id, b.id, r.type FROM nodes a JOIN relations r ON r.source = "
                                     "a.n JOIN nodes b ON b.n = r.destination WHERE a.id = ? ORDER BY r.seq",
-                                    {notNull(source)}));
+                                    {source}));
 }
 
 QHash<NodeID, QVector<Relation>> NodeTables::relationsFrom(const QStringList& sources)
@@ -255,7 +241,7 @@ QHash<NodeID, QVector<Relation>> NodeTables::relationsFrom(const QStringList& so
         const QVector<Relation> relations = relationRows(m_store.run(
             "SELECT a.id, b.id, r.type FROM json_each(?) j CROSS JOIN nodes a ON a.id = j.value CROSS JOIN"
             " relations r ON r.source = a.n CROSS JOIN nodes b ON b.n = r.destination ORDER BY r.seq",
-            {jsonArray(some)}));
+            {JsonText::list(some)}));
         for (const Relation& relation : relations)
             result[relation.source].append(relation);
     }
@@ -281,8 +267,8 @@ qint64 NodeTables::addRelation(const Relation& relation, qint64 place)
     const SqliteStore::Rows rows =
         m_store.run("INSERT OR IGNORE INTO relations (seq, source, destination, type)"
                     " SELECT ?, a.n, b.n, ? FROM nodes a, nodes b WHERE a.id = ? AND b.id = ?",
-                    {place > 0 ? SqlValue(place) : SqlValue(), int(relation.type), notNull(relation.source),
-                     notNull(relation.destination)});
+                    {place > 0 ? SqlValue(place) : SqlValue(), int(relation.type), relation.source,
+                     relation.destination});
     if (rows.changed() > 0)
         return rows.insertedId();
     return place > 0 ? addRelation(relation, 0) : 0;
@@ -294,7 +280,7 @@ qint64 NodeTables::removeRelation(const Relation& relation)
         m_store
             .value("SELECT seq FROM relations WHERE source = (SELECT n FROM nodes WHERE id = ?)"
                    " AND destination = (SELECT n FROM nodes WHERE id = ?) AND type = ?",
-                   {notNull(relation.source), notNull(relation.destination), int(relation.type)})
+                   {relation.source, relation.destination, int(relation.type)})
             .toLongLong();
     if (place != 0)
         m_store.run("DELETE FROM relations WHERE seq = ?", {place});
@@ -319,7 +305,7 @@ std::optional<QString> NodeTables::setting(const QString& key)
 void NodeTables::setSetting(const QString& key, const std::optional<QString>& value)
 {
     if (value)
-        m_store.run("INSERT OR REPLACE INTO settings (key, value) VALUES (?, ?)", {key, notNull(*value)});
+        m_store.run("INSERT OR REPLACE INTO settings (key, value) VALUES (?, ?)", {key, *value});
     else
         m_store.run("DELETE FROM settings WHERE key = ?", {key});
 }
@@ -339,13 +325,13 @@ void NodeTables::setEnvironments(const Environments::List& list)
     int position = 0;
     for (const auto& environment : list)
         m_store.run("INSERT INTO environments (position, id, name) VALUES (?, ?, ?)",
-                    {position++, notNull(environment.first), notNull(environment.second)});
+                    {position++, environment.first, environment.second});
 }
 
 void NodeTables::addProgramLine(const ProgramRow& row)
 {
     m_store.run("INSERT INTO program_log (time, level, line) VALUES (?, ?, ?)",
-                {row.time, row.level, notNull(row.line)});
+                {row.time, row.level, row.line});
 }
 
 QVector<ProgramRow> NodeTables::programLines(const LogRange& range)

@@ -12,7 +12,8 @@ struct sqlite3_stmt;
 
 namespace ko {
 
-/// What a parameter of a statement is given: a number, a text, or bytes. A null text is NULL.
+/// What a parameter of a statement is given: a number, a text, bytes, or NULL. A null text is an empty one:
+/// few columns take NULL.
 class SqlValue
 {
 public:
@@ -27,7 +28,7 @@ public:
     {
     }
     SqlValue(const QString& text) // NOLINT(google-explicit-constructor)
-        : m_kind(text.isNull() ? Null : Text)
+        : m_kind(Text)
         , m_bytes(text.toUtf8())
     {
     }
@@ -40,6 +41,9 @@ public:
         , m_bytes(blob)
     {
     }
+
+    /// NULL for a null text.
+    static SqlValue nullable(const QString& text) { return text.isNull() ? SqlValue() : SqlValue(text); }
 
     /// Returns SQLite's code. The value is copied.
     int bind(sqlite3_stmt* statement, int parameter) const;
