@@ -1,7 +1,7 @@
+#include "../host/StoreTesting.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/Patience.h"
-#include "support/PropertyView.h"
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
@@ -17,47 +17,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 
 using namespace ko;
 using testsupport::child;
-
-namespace {
-
-/// Another program that holds the file, and looks into it.
-class Other
-{
-public:
-    explicit Other(const QString& file)
-    {
-        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name());
-        database.setDatabaseName(file);
-        if (!database.open())
-            qFatal("%s cannot be opened", qPrintable(file));
-        const QByteArrayList view = testsupport::propertyView();
-        for (const QByteArray& statement : view)
-            run(statement.constData());
-    }
-    ~Other()
-    {
-        QSqlDatabase::database(name()).close();
-        QSqlDatabase::removeDatabase(name());
-    }
-
-    QVariant run(const char* sql)
-    {
-        QSqlQuery query(QSqlDatabase::database(name()));
-        if (!query.exec(QLatin1String(sql)))
-            qFatal("%s", sql);
-        return query.next() ? query.value(0) : QVariant();
-    }
-
-private:
-    static QString name() { return QStringLiteral("other"); }
-};
-
-} // namespace
+using testsupport::PlainSql;
 
 /// What becomes of work that cannot be stored while many cameras are assigned their folders.
 class tst_StoreFailure : public QObject
@@ -80,7 +43,7 @@ private:
 
     std::unique_ptr<testsupport::HostFixture> m_host;
     std::unique_ptr<MainWindow> m_window;
-    std::unique_ptr<Other> m_other;
+    std::unique_ptr<PlainSql> m_other; ///< another program that holds the file, and looks into it
     QStringList m_cameras;
 };
 
@@ -97,7 +60,7 @@ void tst_StoreFailure::init()
     QVERIFY(m_host->db()->flush());
     m_window = std::make_unique<MainWindow>(*m_host->db());
     m_window->show();
-    m_other = std::make_unique<Other>(m_host->fileName());
+    m_other = std::make_unique<PlainSql>(m_host->fileName());
 }
 
 void tst_StoreFailure::cleanup()

@@ -149,6 +149,7 @@ private:
     PuttingBack::Outcome putBack(const QVector<ChangeSet>& sets);
     QStringList newEntries();
     void randomChange(HostNodeDB& db, std::mt19937& random);
+    void changeByTwo(std::mt19937& random, int rounds, const std::function<void()>& remember);
 
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_file;
@@ -575,14 +576,12 @@ void TestHistory::randomChange(HostNodeDB& db, std::mt19937& random)
     }
 }
 
-/// What was done after a moment, put back together, is what was there.
-void TestHistory::anyMomentComesBack()
+/// Random changes by two programs, \a remember before each round.
+void TestHistory::changeByTwo(std::mt19937& random, int rounds, const std::function<void()>& remember)
 {
-    std::mt19937 random(4711);
-    std::unique_ptr<HostNodeDB> other = openDatabase(m_file);
-    std::map<qint64, QString> states; // by the last change set
-    for (int i = 0; i < soakOr(1000, 100); ++i) {
-        states[m_last] = HistoryModel::of(m_file).text();
+    const std::unique_ptr<HostNodeDB> other = openDatabase(m_file);
+    for (int i = 0; i < rounds; ++i) {
+        remember();
         HostNodeDB& db = i % 3 == 0 ? *other : *m_db;
         db.syncForeignChanges();
         for (int changes = 1 + int(random() % 6); changes > 0; --changes)
@@ -591,7 +590,14 @@ void TestHistory::anyMomentComesBack()
         QVERIFY(db.flush());
         newSets();
     }
-    other.reset();
+}
+
+/// What was done after a moment, put back together, is what was there.
+void TestHistory::anyMomentComesBack()
+{
+    std::mt19937 random(4711);
+    std::map<qint64, QString> states; // by the last change set
+    changeByTwo(random, soakOr(1000, 100), [&] { states[m_last] = HistoryModel::of(m_file).text(); });
     m_db.reset();
     m_db = openDatabase(m_file); // a start later
     for (int i = 0; i < soakOr(50, 20); ++i) {
@@ -608,19 +614,11 @@ void TestHistory::anyMomentComesBack()
 void TestHistory::anyMomentCanBeSeen()
 {
     std::mt19937 random(815);
-    std::unique_ptr<HostNodeDB> other = openDatabase(m_file);
     std::map<qint64, QStringList> states; // by the last change set
-    for (int i = 0; i < 100; ++i) {
+    changeByTwo(random, 100, [&] {
         m_db->syncForeignChanges();
         states[m_last] = contentOf(*m_db);
-        HostNodeDB& db = i % 3 == 0 ? *other : *m_db;
-        db.syncForeignChanges();
-        for (int changes = 1 + int(random() % 6); changes > 0; --changes)
-            randomChange(db, random);
-        QTest::qWait(1);
-        QVERIFY(db.flush());
-        newSets();
-    }
+    });
     m_db->syncForeignChanges();
     const QStringList now = contentOf(*m_db);
     static const QRegularExpression nodeLine("^[^ ]*(=|->)");

@@ -81,6 +81,7 @@ private:
     void addDesks(int count);
     QString lastParcel();
     bool isQuiet();
+    QString makeCameraOfTwoDesks();
     void waitForAll();
     void checkAllEqual();
     void checkOnceEach(QStringList made);
@@ -245,7 +246,8 @@ void TestSharing::historyTellsWhoAndWhen()
     checkAllEqual();
 }
 
-void TestSharing::differentPropertiesMerge()
+/// Both desks have it, and neither is connected any more.
+QString TestSharing::makeCameraOfTwoDesks()
 {
     addDesks(2);
     const QString camera = addCamera(*desk(0).db, QStringLiteral("Gate"), QStringLiteral("10.0.0.1"));
@@ -253,6 +255,12 @@ void TestSharing::differentPropertiesMerge()
     desk(0).disconnect();
     desk(1).disconnect();
     desk(1).db->syncForeignChanges();
+    return camera;
+}
+
+void TestSharing::differentPropertiesMerge()
+{
+    const QString camera = makeCameraOfTwoDesks();
     setText(*desk(0).db, camera, "Model", QStringLiteral("of 0"));
     setText(*desk(1).db, camera, "Version", QStringLiteral("of 1"));
     for (int i : {1, 0})
@@ -266,12 +274,7 @@ void TestSharing::differentPropertiesMerge()
 
 void TestSharing::laterOneOfTheSamePropertyStays()
 {
-    addDesks(2);
-    const QString camera = addCamera(*desk(0).db, QStringLiteral("Gate"), QStringLiteral("10.0.0.1"));
-    waitForAll();
-    desk(0).disconnect();
-    desk(1).disconnect();
-    desk(1).db->syncForeignChanges();
+    const QString camera = makeCameraOfTwoDesks();
     setText(*desk(1).db, camera, "Model", QStringLiteral("of 1"));
     QVERIFY(desk(1).db->flush());
     setText(*desk(0).db, camera, "Model", QStringLiteral("of 0"));
@@ -295,12 +298,7 @@ void TestSharing::laterOneOfTheSamePropertyStays()
 
 void TestSharing::editOfARemovedNodeIsKeptInTheHistory()
 {
-    addDesks(2);
-    const QString camera = addCamera(*desk(0).db, QStringLiteral("Gate"), QStringLiteral("10.0.0.1"));
-    waitForAll();
-    desk(0).disconnect();
-    desk(1).disconnect();
-    desk(1).db->syncForeignChanges();
+    const QString camera = makeCameraOfTwoDesks();
     setText(*desk(1).db, camera, "Model", QStringLiteral("too late"));
     QVERIFY(desk(1).db->flush());
     desk(0).db->removeNode(camera);

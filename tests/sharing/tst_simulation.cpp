@@ -27,18 +27,18 @@ namespace {
 const int stepsOfARun = 150;
 
 /// In memory where there is a file system for that: the runs are to be many.
-QString folderPattern()
+QString placeOfRuns()
 {
     const QString memory = QStringLiteral("/dev/shm");
-    return QFileInfo(memory).isWritable() ? memory + QStringLiteral("/ko-XXXXXX") : QString();
+    return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
 }
 
 } // namespace
 
 void TestSimulation::run(unsigned seed)
 {
-    const QString pattern = folderPattern();
-    const QTemporaryDir folder(pattern.isEmpty() ? QDir::tempPath() + QStringLiteral("/ko-XXXXXX") : pattern);
+    const QTemporaryDir folder(placeOfRuns() + QStringLiteral("/ko-simulation-"));
+    QVERIFY2(folder.isValid(), qPrintable(folder.errorString()));
     Simulation simulation(folder.path(), seed, 2 + int(seed % 3));
     for (int i = 0; i < stepsOfARun && simulation.failure().isEmpty(); ++i)
         simulation.step();
