@@ -38,14 +38,9 @@ using testsupport::child;
 using testsupport::ModalAnswer;
 using testsupport::Patience;
 using testsupport::SimulatedSite;
+using testsupport::Slowness;
 
 namespace {
-
-#ifdef KO_SANITIZE
-const double Slowness = 5;
-#else
-const double Slowness = 1;
-#endif
 
 /// A heart that beats in the event loop, while this object lives.
 class LoopWatch

@@ -9,6 +9,13 @@ namespace testsupport {
 /// only a failure waits as long.
 const int Patience = 30000;
 
+/// How much longer anything may take that is measured: sanitizers look at each step.
+#ifdef KO_SANITIZE
+constexpr double Slowness = 5;
+#else
+constexpr double Slowness = 1;
+#endif
+
 } // namespace testsupport
 
 #define KO_TRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT(actual, expected, testsupport::Patience)
