@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "CameraChecking.h"
+#include "ChangePreview.h"
 #include "FillInDialog.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
@@ -50,6 +51,7 @@ struct Commands::Command
     Needs needs;
     int places;
     void (*run)(MainWindow&);
+    bool (*isOn)() = nullptr; ///< of one that is on or off
 };
 
 // The search field needs the room of the bar that the first commands of nodes leave.
@@ -95,7 +97,7 @@ const Commands::Command Commands::all[] = {
      QT_TRANSLATE_NOOP("MainWindow", "Adds a node"), "Ctrl+N", "list-add", Nothing, InList | InBar,
      &NodeCommands::add},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionEdit", QT_TRANSLATE_NOOP("MainWindow", "&Edit..."),
-     QT_TRANSLATE_NOOP("MainWindow", "Changes the selected node"), "Ctrl+E; F2", "document-edit", OneNode,
+     QT_TRANSLATE_NOOP("MainWindow", "Changes the selected nodes"), "Ctrl+E; F2", "document-edit", SomeNodes,
      InList | InBar, &NodeCommands::edit},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionRemove", QT_TRANSLATE_NOOP("MainWindow", "&Remove..."),
      QT_TRANSLATE_NOOP("MainWindow", "Removes the selected nodes"), "Del", "list-remove", SomeNodes,
@@ -116,6 +118,11 @@ const Commands::Command Commands::all[] = {
      QT_TRANSLATE_NOOP("MainWindow",
                        "Asks the selected devices what they are, and stores what you choose of it"),
      "", "", SomeNodes, InList, [](MainWindow& window) { FillInDialog::run(window); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionPreview",
+     QT_TRANSLATE_NOOP("MainWindow", "Pre&view Changes to Several"),
+     QT_TRANSLATE_NOOP("MainWindow", "Shows what would be done to several nodes before it is stored"), "", "",
+     Nothing, InMenu, [](MainWindow&) { ChangePreview::setWanted(!ChangePreview::isWanted()); },
+     &ChangePreview::isWanted},
 
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionDuplicate",
      QT_TRANSLATE_NOOP("MainWindow", "&Duplicate..."),
@@ -237,6 +244,10 @@ QAction* Commands::createAction(const Command& command)
 {
     QAction* action = new QAction(QIcon::fromTheme(QLatin1String(command.icon)), QString(), &m_window);
     action->setObjectName(QLatin1String(command.name));
+    if (command.isOn) {
+        action->setCheckable(true);
+        action->setChecked(command.isOn());
+    }
     action->setShortcuts(QKeySequence::listFromString(QLatin1String(command.keys)));
     connect(action, &QAction::triggered, &m_window, [this, run = command.run] { run(m_window); });
     return action;

@@ -1,15 +1,14 @@
 #include "DeviceSettings.h"
 
+#include "ChangePreview.h"
 #include "FillInDialog.h"
 #include "NameList.h"
 #include "PlainMessageBox.h"
-#include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/RecordingFolderAssignmentDialog.h"
 #include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "drivers/RemotePreviewDraft.h"
-#include "inspector/NodeChangeLogEntry.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/dialogFlags.h"
 #include "utils/NodeDBUtils.h"
@@ -30,17 +29,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(DeviceSettings)
 };
-
-/// These dialogs leave the audit log to whoever opens them.
-void logChanges(HostNodeDB& db, const QStringList& ids)
-{
-    for (const QString& id : ids) {
-        const NodeSummary node = db.summary(id);
-        if (!node.id.isEmpty())
-            db.auditLog().log(NodeChangeLogEntry(node.name));
-    }
-    db.flush(); // on disk when the dialog has closed
-}
 
 QStringList namesOf(const HostNodeDB& db, const QStringList& ids)
 {
@@ -151,11 +139,11 @@ QString editRecordings(HostNodeDB& db, const QStringList& devices, QWidget* pare
     if (!agreeOnCameras(db, &cameras, parent))
         return QString();
     RecordingFolderMassAssignmentDialog dialog(parent, cameras, dialogFlags(false));
-    if (dialog.exec() != QDialog::Accepted)
+    const std::optional<QStringList> changed = ChangePreview::exec(dialog, db, cameras, Purpose::Recording);
+    if (!changed)
         return QString();
-    logChanges(db, cameras);
-    const int others = int(devices.size() - cameras.size());
-    QString done = Texts::tr("%n device(s): access to recordings set.", nullptr, int(cameras.size()));
+    const int others = int(devices.size() - changed->size());
+    QString done = Texts::tr("%n device(s): access to recordings set.", nullptr, int(changed->size()));
     if (others > 0)
         done += QLatin1Char(' ') + Texts::tr("%n left as they were.", nullptr, others);
     return done;
@@ -169,10 +157,9 @@ QString editRecording(HostNodeDB& db, const QStringList& devices, QWidget* paren
         return editRecordings(db, devices, parent);
     RecordingFolderAssignmentDialog dialog(devices.constFirst(), parent);
     new RemotePreviewDraft(devices.constFirst(), &dialog); // owned by the dialog
-    if (dialog.exec() != QDialog::Accepted)
-        return QString();
-    logChanges(db, devices);
-    return Texts::tr("%n device(s): access to recordings set.", nullptr, 1);
+    return ChangePreview::exec(dialog, db, devices, Purpose::Recording)
+               ? Texts::tr("%n device(s): access to recordings set.", nullptr, 1)
+               : QString();
 }
 
 QString editCredentials(HostNodeDB& db, const QStringList& devices, QWidget* parent)
@@ -180,10 +167,9 @@ QString editCredentials(HostNodeDB& db, const QStringList& devices, QWidget* par
     if (!agreeOnCredentials(db, devices, parent))
         return QString();
     NodeAuthenticateDialog dialog(parent, devices, dialogFlags(false));
-    if (dialog.exec() != QDialog::Accepted)
-        return QString();
-    logChanges(db, devices);
-    return Texts::tr("%n device(s): user name and password set.", nullptr, int(devices.size()));
+    const std::optional<QStringList> changed = ChangePreview::exec(dialog, db, devices, Purpose::Credentials);
+    return changed ? Texts::tr("%n device(s): user name and password set.", nullptr, int(changed->size()))
+                   : QString();
 }
 
 } // namespace DeviceSettings

@@ -1,7 +1,9 @@
 #include "NodeCommands.h"
 
 #include "CameraChecking.h"
+#include "ChangePreview.h"
 #include "DeviceSettings.h"
+#include "EditSeveralDialog.h"
 #include "FormFields.h"
 #include "LayoutAdapter.h"
 #include "MainWindow.h"
@@ -51,6 +53,24 @@ void openSelected(MainWindow& window, bool readOnly)
     const QStringList ids = window.list().selectedIds();
     if (ids.size() == 1)
         open(window, ids.first(), readOnly);
+}
+
+void editSeveral(MainWindow& window)
+{
+    HostNodeDB& db = window.database();
+    const QStringList ids = window.list().selectedIds();
+    const ENodeType type = db.summary(ids.first()).type;
+    if (std::any_of(ids.cbegin(), ids.cend(),
+                    [&](const QString& id) { return db.summary(id).type != type; })) {
+        window.say(MainWindow::tr("Only nodes of one type can be edited together."));
+        return;
+    }
+    EditSeveralDialog dialog(db, type, ids, &window);
+    const std::optional<QStringList> changed = ChangePreview::exec(dialog, db, ids, Purpose::Edit);
+    if (!changed)
+        return;
+    window.applyChanges();
+    window.sayDone(MainWindow::tr("%n node(s) edited.", nullptr, int(changed->size())));
 }
 
 void runAddDialog(MainWindow& window, AddNodeDialog& dialog)
@@ -127,7 +147,10 @@ void duplicate(MainWindow& window)
 
 void edit(MainWindow& window)
 {
-    openSelected(window, false);
+    if (window.list().selectedCount() > 1)
+        editSeveral(window);
+    else
+        openSelected(window, false);
 }
 
 void showProperties(MainWindow& window)

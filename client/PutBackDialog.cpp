@@ -21,9 +21,32 @@
 
 namespace ko {
 
+namespace {
+
+/// Of each kind.
+const struct
+{
+    const char* title;
+    const char* possible;
+    const char* impossible;
+    const char* all;
+} texts[] = {
+    {QT_TRANSLATE_NOOP("PutBackDialog", "Put Back"),
+     QT_TRANSLATE_NOOP("PutBackDialog", "%1: this is what would change. OK puts back what is ticked."),
+     QT_TRANSLATE_NOOP("PutBackDialog", "%1: nothing of it can be put back any more."),
+     QT_TRANSLATE_NOOP("PutBackDialog", "All that can be put back")},
+    {QT_TRANSLATE_NOOP("PutBackDialog", "Preview"),
+     QT_TRANSLATE_NOOP("PutBackDialog", "%1: this is what would change. OK changes what is ticked."),
+     QT_TRANSLATE_NOOP("PutBackDialog", "%1: nothing would change."),
+     QT_TRANSLATE_NOOP("PutBackDialog", "All changes")},
+};
+
+} // namespace
+
 PutBackDialog::PutBackDialog(const Title& title, const PutBack& putBack, const HistoryWords& words,
-                             const Apply& apply, QWidget* parent)
+                             const Apply& apply, QWidget* parent, Kind kind)
     : QDialog(parent, dialogFlags(true))
+    , m_kind(kind)
     , m_title(title)
     , m_words(words)
     , m_apply(apply)
@@ -69,12 +92,11 @@ void PutBackDialog::createTable()
 
 void PutBackDialog::retranslate()
 {
-    setWindowTitle(tr("Put Back"));
-    const QString title = OutsideText::visible(m_title());
-    m_hint->setText(isPossible()
-                        ? tr("%1: this is what would change. OK puts back what is ticked.").arg(title)
-                        : tr("%1: nothing of it can be put back any more.").arg(title));
-    m_all->setText(tr("All that can be put back"));
+    const auto& words = texts[int(m_kind)];
+    setWindowTitle(tr(words.title));
+    m_hint->setText(
+        tr(isPossible() ? words.possible : words.impossible).arg(OutsideText::visible(m_title())));
+    m_all->setText(tr(words.all));
     m_table->setAccessibleName(tr("What would change"));
     m_table->resizeColumnsToContents();
 }
@@ -96,7 +118,7 @@ void PutBackDialog::accept()
         return; // Return in the table
     const PuttingBack::Outcome outcome = m_apply(m_model.putBack());
     if (outcome.stored == StoreOutcome::NotRun) {
-        PlainMessageBox::ask(QMessageBox::Critical, this, tr("Put Back"), outcome.error.message);
+        PlainMessageBox::ask(QMessageBox::Critical, this, windowTitle(), outcome.error.message);
         return;
     }
     if (!outcome.refused.isEmpty())
@@ -110,7 +132,7 @@ void PutBackDialog::tell(const QVector<PutBackLine>& refused)
     for (const PutBackLine& line : refused)
         lines.append(OutsideText::visible(m_words.owner(line.what)) + QLatin1String(": ") +
                      m_words.what(line.what));
-    PlainMessageBox::ask(QMessageBox::Warning, this, tr("Put Back"),
+    PlainMessageBox::ask(QMessageBox::Warning, this, windowTitle(),
                          tr("Somebody else changed this meanwhile, and it stays as it is now:") +
                              QStringLiteral("\n\n") + listOfNames(lines));
 }

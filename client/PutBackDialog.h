@@ -14,8 +14,8 @@ class QTableView;
 
 namespace ko {
 
-/// Shows what putting back would change; OK does what is ticked and is still as it is shown, Cancel leaves
-/// everything as it is.
+/// Shows what putting back, or anything else that is done to many nodes, would change; OK does what is ticked
+/// and is still as it is shown, Cancel leaves everything as it is.
 class PutBackDialog : public QDialog
 {
     Q_OBJECT
@@ -27,9 +27,12 @@ public:
     /// What it is called, in the language that the program has now.
     typedef std::function<QString()> Title;
 
-    /// What is called \a title is put back by \a apply.
+    /// What is done, for the words of the window.
+    enum class Kind { PutBack, Change };
+
+    /// What is called \a title is put back, or changed, by \a apply.
     PutBackDialog(const Title& title, const PutBack& putBack, const HistoryWords& words, const Apply& apply,
-                  QWidget* parent);
+                  QWidget* parent, Kind kind = Kind::PutBack);
 
     /// Whether any line could be put back when it was shown.
     bool isPossible() const { return m_model.possible() > 0; }
@@ -45,6 +48,7 @@ private:
     void showTicked();
     void tell(const QVector<PutBackLine>& refused);
 
+    const Kind m_kind;
     const Title m_title;
     const HistoryWords m_words;
     const Apply m_apply;

@@ -8,22 +8,6 @@
 
 namespace ko {
 
-std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error, Check check)
-{
-    qRegisterMetaType<ko::StoreError>("ko::StoreError");
-    Keyring::ofInstallation().prepare();
-    std::unique_ptr<NodeStore> store = NodeStore::open(
-        file, error, check == Check::First ? NodeStore::Check::First : NodeStore::Check::ByUser);
-    if (!store)
-        return nullptr;
-    try {
-        return std::unique_ptr<HostNodeDB>(new HostNodeDB(std::move(store), check));
-    } catch (const StoreFailure& failure) {
-        *error = failure.error;
-        return nullptr;
-    }
-}
-
 HostNodeDB::HostNodeDB(std::unique_ptr<NodeStore> opened, Check check)
     : d(new Private(*this, std::move(opened)))
 {
@@ -140,6 +124,11 @@ void HostNodeDB::removeNode(const QString& id)
 bool HostNodeDB::apply(const ChangeSet& set)
 {
     return d->nodes.apply(set);
+}
+
+ChangeSet HostNodeDB::withdraw()
+{
+    return d->nodes.withdraw();
 }
 
 void HostNodeDB::addNodeRelation(const QString& from, const QString& to, ENodeRelationType type)

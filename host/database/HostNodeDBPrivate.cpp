@@ -7,6 +7,22 @@
 
 namespace ko {
 
+std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error, Check check)
+{
+    qRegisterMetaType<ko::StoreError>("ko::StoreError");
+    Keyring::ofInstallation().prepare();
+    std::unique_ptr<NodeStore> store = NodeStore::open(
+        file, error, check == Check::First ? NodeStore::Check::First : NodeStore::Check::ByUser);
+    if (!store)
+        return nullptr;
+    try {
+        return std::unique_ptr<HostNodeDB>(new HostNodeDB(std::move(store), check));
+    } catch (const StoreFailure& failure) {
+        *error = failure.error;
+        return nullptr;
+    }
+}
+
 HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)
     : q(database)
     , store(std::move(opened))

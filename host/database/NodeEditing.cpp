@@ -8,6 +8,8 @@
 
 #include <QRandomGenerator>
 
+#include <algorithm>
+
 namespace ko {
 
 namespace {
@@ -168,6 +170,20 @@ bool NodeEditing::apply(const ChangeSet& set)
         m_announce(notices);
         return true;
     });
+}
+
+ChangeSet NodeEditing::withdraw()
+{
+    const ChangeSet set = m_memory.pending.currentSet();
+    const bool hasRemoved = std::any_of(set.nodes.cbegin(), set.nodes.cend(),
+                                        [](const NodeChange& change) { return change.isRemoved(); });
+    if (hasRemoved)
+        return ChangeSet(); // the store alone knows what they were
+    m_memory.pending.dropCurrentSet();
+    const Notices notices = applyAll(set.inverse());
+    m_memory.pending.dropCurrentSet(); // what takes it back is no change either
+    m_announce(notices);
+    return set;
 }
 
 Notices NodeEditing::applyAll(const ChangeSet& set)

@@ -180,15 +180,32 @@ QVector<ChangeSet> PendingChanges::sets() const
 {
     QVector<ChangeSet> result;
     for (const Making& making : m_making) {
-        ChangeSet set = making.set;
-        std::for_each(set.nodes.begin(), set.nodes.end(), simplify);
-        set.nodes.erase(std::remove_if(set.nodes.begin(), set.nodes.end(), isNothing), set.nodes.end());
-        if (!making.hasPurpose)
-            set.cause.purpose = PurposeOf::changeSet(set);
+        const ChangeSet set = setOf(making);
         if (!set.isEmpty())
             result.append(set);
     }
     return result;
+}
+
+ChangeSet PendingChanges::setOf(const Making& making)
+{
+    ChangeSet set = making.set;
+    std::for_each(set.nodes.begin(), set.nodes.end(), simplify);
+    set.nodes.erase(std::remove_if(set.nodes.begin(), set.nodes.end(), isNothing), set.nodes.end());
+    if (!making.hasPurpose)
+        set.cause.purpose = PurposeOf::changeSet(set);
+    return set;
+}
+
+ChangeSet PendingChanges::currentSet()
+{
+    return setOf(current());
+}
+
+void PendingChanges::dropCurrentSet()
+{
+    current();
+    m_making.pop_back();
 }
 
 bool PendingChanges::adds(const NodeID& id) const

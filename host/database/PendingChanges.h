@@ -40,6 +40,11 @@ public:
     /// What is changed after this without a cause is another change set than what was changed before.
     void endTurn() { m_turn.reset(); }
 
+    /// What was done to the current set, as it would be stored.
+    ChangeSet currentSet();
+    /// Forgets it.
+    void dropCurrentSet();
+
     // What is done to the current set.
     void nodeAdded(const NodeChange& change);
     /// Nothing if they do not differ. \a change has the identifier, the type and what follows from \a after.
@@ -83,6 +88,7 @@ private:
         bool hasPurpose;           ///< else it follows from what is changed
     };
 
+    static ChangeSet setOf(const Making& making);
     Making& current();
     NodeChange* changeOf(const NodeID& id);
     void append(const NodeChange& change);

@@ -109,6 +109,12 @@ void PageStack::addPageKeys(QTabWidget* tabs)
     add(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1);
 }
 
+void PageStack::visit(const Visit& visit)
+{
+    for (Page& page : m_pages)
+        visit(page.spec, *page.page);
+}
+
 void PageStack::focusFirstField(Qt::FocusReason reason)
 {
     QWidget* name = m_pages.empty()

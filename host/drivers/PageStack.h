@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <vector>
 
 class QLabel;
@@ -35,6 +36,9 @@ public:
     /// What the pages show was stored. They are refreshed once control is back in the event loop, and not
     /// before they are seen again: those of a dialog that is closing need not be built once more.
     void stored();
+
+    typedef std::function<void(const PageSpec& spec, InspectorPage& page)> Visit;
+    void visit(const Visit& visit);
 
     /// The field where typing starts, which is the name.
     void focusFirstField(Qt::FocusReason reason);

@@ -78,7 +78,7 @@ QVector<PutBackLine> compare(const PutBack& shown, PutBack* now)
 }
 
 /// What is as it was shown; false if that cannot be told.
-bool putBack(HostNodeDB& db, const PutBack& shown, const Cause& cause, Outcome* outcome)
+bool putBack(HostNodeDB& db, const PutBack& shown, const Cause& cause, const Log& log, Outcome* outcome)
 {
     std::optional<PutBack> now = current(db, shown.alterations());
     if (!now)
@@ -89,7 +89,7 @@ bool putBack(HostNodeDB& db, const PutBack& shown, const Cause& cause, Outcome* 
     if (!db.apply(set))
         return false;
     if (set.hasChanges())
-        logChanges(db, set);
+        log(set);
     outcome->done = now->chosen();
     return true;
 }
@@ -104,10 +104,15 @@ std::optional<PutBack> preview(HostNodeDB& db, const QVector<Alteration>& altera
 
 Outcome apply(HostNodeDB& db, const PutBack& shown, const Cause& cause)
 {
+    return apply(db, shown, cause, [&db](const ChangeSet& set) { logChanges(db, set); });
+}
+
+Outcome apply(HostNodeDB& db, const PutBack& shown, const Cause& cause, const Log& log)
+{
     Outcome outcome;
     db.flush(); // what waits is none of this
     bool isRead = true;
-    outcome.stored = db.runAlone([&] { isRead = putBack(db, shown, cause, &outcome); }, &outcome.error);
+    outcome.stored = db.runAlone([&] { isRead = putBack(db, shown, cause, log, &outcome); }, &outcome.error);
     if (!isRead) {
         outcome.stored = StoreOutcome::NotRun;
         outcome.error = StoreError::make(StoreError::Other, db.fileName(), QLatin1String("not read"));

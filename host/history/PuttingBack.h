@@ -4,6 +4,8 @@
 #include "history/PutBack.h"
 #include "model/StoreError.h"
 
+#include <functional>
+
 namespace ko {
 
 class HostNodeDB;
@@ -26,6 +28,10 @@ struct Outcome
 /// Puts back what was chosen and is still as it was shown, as one change set of \a cause, with the entries in
 /// the audit log that editing, adding or removing the nodes would make.
 KO_HOST_EXPORT Outcome apply(HostNodeDB& db, const PutBack& shown, const Cause& cause);
+
+/// The same with the entries that \a log makes of what is changed.
+typedef std::function<void(const ChangeSet&)> Log;
+KO_HOST_EXPORT Outcome apply(HostNodeDB& db, const PutBack& shown, const Cause& cause, const Log& log);
 
 } // namespace PuttingBack
 

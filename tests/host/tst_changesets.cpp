@@ -49,6 +49,9 @@ private slots:
     void passwordsStaySealed();
     void anyValueComesBack();
     void manyAtRandomAndBack();
+    void whatIsWithdrawnWasNeverDone();
+    void onlyTheLastIsWithdrawn();
+    void removalsAreNotWithdrawn();
 
 private:
     QString addCameraWithEverything();
@@ -368,6 +371,64 @@ void TestChangeSets::passwordsStaySealed()
         if (file.open(QIODevice::ReadOnly))
             QVERIFY(!file.readAll().contains("very-secret"));
     }
+}
+
+/// All kinds of changes of one turn: memory and file are as before, and what is returned does it again.
+void TestChangeSets::whatIsWithdrawnWasNeverDone()
+{
+    const QString stored = stateOf(m_file);
+    const auto inMemory = [this] {
+        const kom::smart<const Node> camera = m_db->node(m_camera);
+        return QStringList({camera->name(), camera->stringProperty("Model", "none"),
+                            m_db->relatedNodes(m_camera, RecordingFolderRelation).join(','),
+                            m_db->nodeIdList(AllNodeTypes).join(','), m_db->activeEnvironment(),
+                            QString::number(m_db->bandwidth()), QString::number(m_db->summaries().size())});
+    };
+    const QStringList before = inMemory();
+    setText(*m_db, m_camera, "Model", "Dome");
+    setText(*m_db, m_camera, "Name", "Tower");
+    const QString folder = addNode(*m_db, RecordingFolderType, QLatin1String("New"), QLatin1String("/new"));
+    m_db->removeNodeRelation(m_camera, m_folderNode, RecordingFolderRelation);
+    m_db->addNodeRelation(m_camera, folder, RecordingFolderRelation);
+    m_db->setBandwidth(m_db->bandwidth() + 1);
+    const QStringList changed = inMemory();
+    QVERIFY(changed != before);
+
+    const ChangeSet set = m_db->withdraw();
+    QCOMPARE(inMemory(), before);
+    QVERIFY(!m_db->hasUnstoredChanges());
+    QVERIFY(newSets().isEmpty());
+    QCOMPARE(stateOf(m_file), stored);
+
+    QVERIFY(m_db->apply(set));
+    QCOMPARE(inMemory(), changed);
+    QCOMPARE(int(newSets().size()), 1);
+}
+
+/// A scan may have found something in the same turn.
+void TestChangeSets::onlyTheLastIsWithdrawn()
+{
+    {
+        const ChangeScope scan(*m_db, Cause::now(Purpose::Scan));
+        setText(*m_db, m_camera, "Model", "Dome");
+    }
+    setText(*m_db, m_camera, "Model", "Bullet");
+    const ChangeSet set = m_db->withdraw();
+    QCOMPARE(int(set.nodes.size()), 1);
+    QCOMPARE(set.nodes.first().after->properties.value("Model").toString(), QString("Bullet"));
+    QCOMPARE(m_db->node(m_camera)->stringProperty("Model", QString()), QString("Dome"));
+    const QVector<ChangeSet> sets = newSets();
+    QCOMPARE(int(sets.size()), 1);
+    QCOMPARE(sets.first().cause.purpose, Purpose::Scan);
+}
+
+/// What they were nobody has read.
+void TestChangeSets::removalsAreNotWithdrawn()
+{
+    m_db->removeNode(m_camera);
+    QVERIFY(!m_db->withdraw().hasChanges());
+    QVERIFY(m_db->node(m_camera).null());
+    QCOMPARE(int(newSets().size()), 1);
 }
 
 void TestChangeSets::anyValueComesBack()

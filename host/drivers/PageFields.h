@@ -1,0 +1,28 @@
+#ifndef KO_PAGEFIELDS_H
+#define KO_PAGEFIELDS_H
+
+#include <QList>
+#include <QStringList>
+#include <QVariant>
+
+class QListWidget;
+class QWidget;
+
+namespace ko {
+
+/// What of a page is filled in.
+namespace PageFields {
+
+/// With a name; not the line edits within other fields.
+QList<QWidget*> of(const QWidget* page);
+
+/// Of a choice the data, or the index without; of a list the texts.
+QVariant value(const QWidget* field);
+
+QStringList itemTexts(const QListWidget* list);
+
+} // namespace PageFields
+
+} // namespace ko
+
+#endif
