@@ -5,6 +5,8 @@
 #include "Languages.h"
 #include "MainWindow.h"
 #include "PlainMessageBox.h"
+#include "audit/AuditLog.h"
+#include "audit/HistoryLogEntry.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
 #include "discovery/ArpScanner.h"
@@ -16,6 +18,7 @@
 #include "exchange/FileName.h"
 #include "ko/Terminal.h"
 #include "store/BackupKeeper.h"
+#include "store/HistoryKeeper.h"
 #include "store/LogCheckpoint.h"
 #include "store/NodeStore.h"
 #include "store/StoreBackup.h"
@@ -79,11 +82,19 @@ void warnAboutNetwork(const QString& file, QWidget* parent)
             .arg(QDir::toNativeSeparators(file)));
 }
 
+void logThinned(HostNodeDB& db, const ThinnedHistory& thinned)
+{
+    db.auditLog().log(HistoryLogEntry(QString::number(thinned.last), QString::number(thinned.lines)));
+}
+
 /// False when the file must not be used any more.
 bool showWindow(HostNodeDB& db, int* exitCode)
 {
     const ProgramLog log(db.logStore());
     const BackupKeeper backups(db.fileName());
+    const HistoryKeeper history(db.fileName());
+    QObject::connect(&history, &HistoryKeeper::thinned, &db,
+                     [&db](const ThinnedHistory& thinned) { logThinned(db, thinned); });
     Scanners::of(db).add(std::make_unique<MdnsScanner>());
     Scanners::of(db).add(std::make_unique<ArpScanner>());
     Scanners::of(db).add(std::make_unique<WsDiscoveryScanner>());
@@ -188,7 +199,7 @@ int Application::run()
 bool Application::needsWindow() const
 {
     const auto isSet = [this](const char* task) { return m_options->isSet(task); };
-    const auto tasks = {"import", "export", "backup", "restore", "verify-log"};
+    const auto tasks = {"import", "export", "backup", "restore", "verify-log", "thin-history"};
     return std::none_of(tasks.begin(), tasks.end(), isSet);
 }
 
@@ -199,8 +210,9 @@ int Application::runTask()
     const bool imports = m_options->isSet("import");
     const bool exports = m_options->isSet("export");
     const bool verifies = m_options->isSet("verify-log");
+    const bool thins = m_options->isSet("thin-history");
     const int copied = copyDatabase();
-    if (copied != Good || !(needsWindow() || imports || exports || verifies))
+    if (copied != Good || !(needsWindow() || imports || exports || verifies || thins))
         return copied;
     KeychainNotice notice(needsWindow() ? KeychainNotice::Way::Window : KeychainNotice::Way::Line);
     if (!notice.prepare())
@@ -214,14 +226,15 @@ int Application::runTask()
             return report(refused);
     }
     const int verified = verifies ? verifyLog() : Good;
-    if (verified > SomeLinesBad || !(imports || exports))
-        return verified;
+    const int looked = thins && verified <= SomeLinesBad ? qMax(verified, thinHistory()) : verified;
+    if (looked > SomeLinesBad || !(imports || exports))
+        return looked;
     const std::unique_ptr<HostNodeDB> db = open(false);
     if (!db)
         return NoDatabase;
     const ProgramLog log(db->logStore());
     const int imported = imports ? importCameras() : Good;
-    return qMax(verified, imported == Failed || !exports ? imported : qMax(imported, exportCameras()));
+    return qMax(looked, imported == Failed || !exports ? imported : qMax(imported, exportCameras()));
 }
 
 /// Null after the user was told why. The user of a window may choose another file.
@@ -310,6 +323,10 @@ int Application::verifyLog() const
     }
     for (const LogFinding& finding : report->findings)
         say(stderr, finding.text());
+    if (report->thinned > 0)
+        say(stdout,
+            QCoreApplication::translate("Application", "Details up to change number %1 were taken out")
+                .arg(report->thinned));
     say(stdout, QCoreApplication::translate("Application", "%1 entries looked at, %2 older than the chain, "
                                                            "%3 links without a seal")
                     .arg(report->entries)
@@ -321,6 +338,36 @@ int Application::verifyLog() const
         say(stderr, QCoreApplication::translate("Application", "%1 cannot be written.")
                         .arg(QDir::toNativeSeparators(LogCheckpoint::fileFor(m_database))));
     return Good;
+}
+
+int Application::thinHistory()
+{
+    bool isNumber = false;
+    const int days = m_options->value("thin-history").toInt(&isNumber);
+    if (!isNumber || days < 1) {
+        say(stderr, QCoreApplication::translate("Application", "--thin-history takes a number of days."));
+        return Failed;
+    }
+    StoreError error;
+    const std::optional<ThinnedHistory> thinned = NodeStore::thinHistory(
+        m_database, {days, 0}, [] { return true; }, &error);
+    if (!thinned) {
+        say(stderr, error.message);
+        return Failed;
+    }
+    say(stdout, QCoreApplication::translate("Application", "%1 details taken out, up to change number %2")
+                    .arg(thinned->lines)
+                    .arg(thinned->last));
+    if (thinned->lines > 0) {
+        const std::unique_ptr<HostNodeDB> db = open(false);
+        if (!db)
+            return NoDatabase;
+        logThinned(*db, *thinned);
+    }
+    if (thinned->isAltered)
+        say(stderr, QCoreApplication::translate("Application", "Not any further: the history was altered. "
+                                                               "--verify-log names what."));
+    return thinned->isAltered ? SomeLinesBad : Good;
 }
 
 int Application::copyDatabase() const

@@ -36,6 +36,7 @@ private:
     int exportCameras() const;
     int copyDatabase() const;
     int verifyLog() const;
+    int thinHistory();
 
     int& m_argc;
     char** const m_argv;

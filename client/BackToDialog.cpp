@@ -125,7 +125,8 @@ void BackToDialog::showState()
 std::optional<ChangeSetRow> BackToDialog::moment() const
 {
     const QModelIndexList selected = m_setsView->selectionModel()->selectedRows();
-    return selected.isEmpty() ? std::nullopt : std::make_optional(m_sets.row(selected.first().row()));
+    const ChangeSetRow row = selected.isEmpty() ? ChangeSetRow() : m_sets.row(selected.first().row());
+    return selected.isEmpty() || row.isThinned ? std::nullopt : std::make_optional(row);
 }
 
 } // namespace ko

@@ -2,6 +2,7 @@
 
 #include "HistoryExport.h"
 #include "HistoryFilterBar.h"
+#include "HistoryLimitDialog.h"
 #include "PlainTable.h"
 #include "PutBackDialog.h"
 #include "WindowSize.h"
@@ -103,6 +104,7 @@ void HistoryDialog::createButtons()
     m_putBackLines = add("putBackLinesButton", &HistoryDialog::putBackLines);
     m_backToHere = add("backToButton", &HistoryDialog::goBack);
     m_export = add("exportButton", &HistoryDialog::exportFound);
+    m_keep = add("keepButton", &HistoryDialog::askHowMuchToKeep);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout()->addWidget(buttons);
@@ -132,6 +134,7 @@ void HistoryDialog::retranslate()
     m_putBackLines->setText(tr("Put Back Selected Changes..."));
     m_backToHere->setText(tr("Back to Here..."));
     m_export->setText(tr("Export..."));
+    m_keep->setText(tr("Keep..."));
     showState();
 }
 
@@ -172,11 +175,15 @@ void HistoryDialog::showSelected()
 
 void HistoryDialog::showState()
 {
-    m_putBack->setEnabled(m_setsView->selectionModel()->hasSelection());
+    const QVector<ChangeSetRow> sets = selectedSets();
+    const bool isThinned =
+        std::any_of(sets.cbegin(), sets.cend(), [](const ChangeSetRow& row) { return row.isThinned; });
+    m_putBack->setEnabled(!sets.isEmpty() && !isThinned);
     m_putBackLines->setEnabled(m_changesView->selectionModel()->hasSelection());
-    m_backToHere->setEnabled(m_setsView->selectionModel()->selectedRows().size() == 1);
+    m_backToHere->setEnabled(sets.size() == 1 && !isThinned);
     m_export->setEnabled(m_sets.rowCount() > 0);
-    m_state->setText(m_sets.isLooking()        ? tr("Looking for more...")
+    m_state->setText(isThinned ? tr("The details were taken out of the history: it cannot be put back.")
+                     : m_sets.isLooking()      ? tr("Looking for more...")
                      : m_sets.rowCount() == 0  ? tr("Nothing was found.")
                      : m_sets.canFetchMore({}) ? tr("There is more: scroll down to see it.")
                                                : tr("This is all."));
@@ -244,6 +251,16 @@ void HistoryDialog::goBack()
 {
     m_backTo = selectedSets().constFirst();
     accept();
+}
+
+void HistoryDialog::askHowMuchToKeep()
+{
+    HistoryLimitDialog dialog(m_db.history().limit(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    m_db.history().setLimit(dialog.limit());
+    m_db.flush();
+    showFound(); // with this change
 }
 
 void HistoryDialog::exportFound()

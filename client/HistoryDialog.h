@@ -54,6 +54,7 @@ private:
     void putBackLines();
     void putBack(const QVector<Alteration>& alterations, const QVector<ChangeSetRow>& sets);
     void exportFound();
+    void askHowMuchToKeep();
     void goBack();
 
     HostNodeDB& m_db;
@@ -70,6 +71,7 @@ private:
     QPushButton* m_putBack = nullptr;
     QPushButton* m_putBackLines = nullptr;
     QPushButton* m_export = nullptr;
+    QPushButton* m_keep = nullptr;
     QPushButton* m_backToHere = nullptr;
     std::optional<ChangeSetRow> m_backTo;
     QString m_done;

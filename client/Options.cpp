@@ -38,6 +38,11 @@ const Option options[] = {
                        "Looks whether anybody has altered the logs of the database, names what, "
                        "and ends."),
      ""},
+    {"thin-history",
+     QT_TRANSLATE_NOOP("Application",
+                       "Takes what was before and after each change out of the history, where it is older "
+                       "than so many days, and ends. Who changed something, and when, stays."),
+     "DAYS"},
 };
 
 const Option toolkitOptions[] = {
@@ -84,7 +89,8 @@ Options::Options()
     m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     m_parser.setApplicationDescription(
         Texts::tr("Shows, adds, edits and removes the nodes of a video-surveillance system.\n"
-                  "Without --import, --export, --backup, --restore and --verify-log it opens a window, and "
+                  "Without --import, --export, --backup, --restore, --verify-log and --thin-history it opens "
+                  "a window, and "
                   "takes the toolkit's options (-platform, -style and others) too."));
     m_parser.addHelpOption();
     m_parser.addVersionOption();

@@ -108,6 +108,8 @@ QString of(const ChangeSetRow& row)
     const Words& text = wordsOf(cause.purpose);
     if (text.many && row.nodes > 1)
         return Texts::tr(text.many, nullptr, row.nodes);
+    if (row.isThinned && cause.subject.isEmpty())
+        return kind(cause.purpose);
     const QString title = Texts::tr(text.one);
     return title.contains(QLatin1String("%1"))
                ? title.arg(cause.subject.isEmpty() ? nodes(row) : cause.subject)

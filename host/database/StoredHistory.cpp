@@ -83,4 +83,23 @@ std::optional<PresentState> StoredHistory::present(const PresentState::Wanted& w
     return state;
 }
 
+HistoryLimit StoredHistory::limit() const
+{
+    const auto number = [this](const char* key) {
+        return m_memory.settings.value(QLatin1String(key)).toInt();
+    };
+    return {number(HistoryLimits::Days), number(HistoryLimits::Megabytes)};
+}
+
+void StoredHistory::setLimit(const HistoryLimit& limit)
+{
+    const auto set = [this](const char* key, int value) {
+        m_memory.setSetting(QLatin1String(key),
+                            value > 0 ? std::make_optional(QString::number(value)) : std::nullopt);
+    };
+    set(HistoryLimits::Days, limit.days);
+    set(HistoryLimits::Megabytes, limit.megabytes);
+    m_queue.schedule();
+}
+
 } // namespace ko

@@ -3,6 +3,7 @@
 
 #include "HostExport.h"
 #include "model/HistoryFilter.h"
+#include "model/HistoryLimit.h"
 #include "model/PresentState.h"
 
 #include <QObject>
@@ -52,6 +53,10 @@ public:
 
     /// None if it cannot be read.
     std::optional<PresentState> present(const PresentState::Wanted& wanted);
+
+    /// How much of it keeps its details.
+    HistoryLimit limit() const;
+    void setLimit(const HistoryLimit& limit);
 
 signals:
     /// This process stored these, or more of them, in this order.

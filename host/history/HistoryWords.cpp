@@ -4,6 +4,7 @@
 #include "devices/NodeFacts.h"
 #include "drivers/NodeTypes.h"
 #include "ko/PropertyKeys.h"
+#include "model/HistoryLimit.h"
 #include "secrets/Secrets.h"
 
 #include <QCoreApplication>
@@ -108,6 +109,8 @@ const Title titles[] = {
      QT_TRANSLATE_NOOP("HistoryWords", "Default remote preview server")},
     {QLatin1String("bandwidth"), "ControlDataWidget", "Bandwidth:"},
     {QLatin1String("environment.active"), own, QT_TRANSLATE_NOOP("HistoryWords", "Active environment")},
+    {QLatin1String(HistoryLimits::Days), own, QT_TRANSLATE_NOOP("HistoryWords", "Days of history")},
+    {QLatin1String(HistoryLimits::Megabytes), own, QT_TRANSLATE_NOOP("HistoryWords", "Megabytes of history")},
     {QLatin1String("proxy.use"), own, QT_TRANSLATE_NOOP("HistoryWords", "Use proxy")},
     {QLatin1String("proxy.address"), own, QT_TRANSLATE_NOOP("HistoryWords", "Proxy address")},
     {QLatin1String("proxy.port"), own, QT_TRANSLATE_NOOP("HistoryWords", "Proxy port")},

@@ -51,6 +51,7 @@ struct LogReport
     qint64 entries = 0;           ///< that were looked at
     qint64 older = 0;             ///< of these: as they were when the chain began
     qint64 unsealed = 0;          ///< links that were made without a key
+    qint64 thinned = 0;           ///< the last change set whose details were thinned out
     LogEnd end;
 };
 

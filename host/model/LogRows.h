@@ -24,6 +24,8 @@ struct ChangeSetRow
     Cause cause;
     int nodes = 0;     ///< that were added, changed or removed
     QString firstName; ///< of these
+    /// Its details were taken out of the history: nobody knows any more what it changed.
+    bool isThinned = false;
 };
 
 /// One line of the program log as it is stored.

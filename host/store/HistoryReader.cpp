@@ -13,13 +13,20 @@ namespace {
 #define KO_IS_OF_CAMERA                                                                                      \
     "(instr(coalesce(after, ''), '\"RecordingStorageUsage\":')"                                              \
     " OR instr(coalesce(after, ''), '\"UseRecordingTransponder\":'))"
+// Change sets are numbered in the order of their first lines, so what came before the first one of which any
+// are left has lost its own; that one itself may have, too.
+#define KO_LAST_THINNED                                                                                      \
+    "(SELECT CASE WHEN (SELECT kind FROM chain ORDER BY seq LIMIT 1 OFFSET 1) = 'T' THEN"                    \
+    " coalesce((SELECT change_set FROM changes WHERE change_set IS NOT NULL ORDER BY seq LIMIT 1),"          \
+    " (SELECT max(seq) FROM change_sets)) ELSE 0 END)"
 #define KO_ROWS                                                                                              \
     "SELECT s.seq, s.id, s.time, s.user, s.host, s.purpose, s.subject,"                                      \
     " (SELECT coalesce(nullif(count(DISTINCT CASE WHEN " KO_IS_RECORDING " AND " KO_IS_OF_CAMERA             \
     " THEN id END), 0), count(DISTINCT id)) FROM changes WHERE change_set = s.seq AND kind = 'N'),"          \
     " coalesce((SELECT after FROM changes WHERE change_set = s.seq AND kind = 'N' AND " KO_IS_RECORDING      \
     " AND " KO_IS_OF_CAMERA " LIMIT 1),"                                                                     \
-    " (SELECT coalesce(after, before) FROM changes WHERE change_set = s.seq AND kind = 'N' LIMIT 1))"
+    " (SELECT coalesce(after, before) FROM changes WHERE change_set = s.seq AND kind = 'N' LIMIT 1)),"       \
+    " s.seq <= " KO_LAST_THINNED
 #define KO_NEWEST "(SELECT * FROM change_sets WHERE seq < ? ORDER BY seq DESC LIMIT ?)"
 #define KO_NEWEST_OF_NODES                                                                                   \
     "(SELECT * FROM change_sets WHERE seq IN (SELECT DISTINCT change_set FROM changes"                       \
@@ -45,6 +52,7 @@ ChangeSetRow rowOf(const SqliteStore::Rows& rows)
                  rows.text(6)};
     row.nodes = int(rows.number(7));
     row.firstName = values ? values->name : QString();
+    row.isThinned = rows.number(9) != 0;
     return row;
 }
 
@@ -94,6 +102,11 @@ std::optional<ChangeSetRow> HistoryReader::row(qint64 number)
 {
     SqliteStore::Rows rows = m_store.run(KO_ROWS " FROM change_sets s WHERE s.seq = ?", {number});
     return rows.next() ? std::make_optional(rowOf(rows)) : std::nullopt;
+}
+
+qint64 HistoryReader::lastThinned()
+{
+    return m_store.value("SELECT " KO_LAST_THINNED).toLongLong();
 }
 
 HistoryPage HistoryReader::page(const HistoryFilter& filter, qint64 before, int count)

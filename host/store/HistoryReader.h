@@ -14,6 +14,9 @@ public:
 
     std::optional<ChangeSetRow> row(qint64 number);
 
+    /// The last change set whose details were thinned out, or may have been; 0 if there is none.
+    qint64 lastThinned();
+
     /// Those among the \a count newest before number \a before that \a filter wants.
     HistoryPage page(const HistoryFilter& filter, qint64 before, int count);
 

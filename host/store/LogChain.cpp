@@ -92,10 +92,7 @@ void LogChain::insert(LogLink link, const QByteArray& rowHashes)
     link.number = nextNumber();
     link.hash = link.beginHash(m_last.hash).add(rowHashes).result();
     link.seal = m_sealer.sign(link.hash);
-    m_file.run("INSERT OR REPLACE INTO main.chain (" KO_LINK_COLUMNS
-               ") VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-               {link.number, QString(QLatin1Char(link.kind)), link.ends[0], link.ends[1], link.ends[2],
-                link.counts[0], link.counts[1], link.counts[2], link.checks, link.hash, link.seal});
+    link.store(m_file);
     m_last = link;
 }
 

@@ -93,6 +93,19 @@ LogLink LogLink::from(const SqliteFile::Rows& rows)
     return link;
 }
 
+QByteArray LogLink::thinnedHash(const QByteArray& rowHashes) const
+{
+    return beginHash(hash).add(rowHashes).result(); // the kind is in it: no other link has the same
+}
+
+void LogLink::store(SqliteFile& file) const
+{
+    file.run("INSERT OR REPLACE INTO main.chain (" KO_LINK_COLUMNS
+             ") VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+             {number, QString(QLatin1Char(kind)), ends[0], ends[1], ends[2], counts[0], counts[1], counts[2],
+              checks, hash, seal});
+}
+
 LogHash LogLink::beginHash(const QByteArray& before) const
 {
     LogHash result;

@@ -61,7 +61,8 @@ struct LogLink
         Beginning = 'B', ///< no rows
         Older = 'O',     ///< what was there when the chain began
         Commit = 'C',
-        Foreign = 'F' ///< what somebody put in who makes no links
+        Foreign = 'F', ///< what somebody put in who makes no links
+        Thinned = 'T'  ///< any of these, whose changes were taken out; see LogThinning
     };
 
     static constexpr int CheckSize = 4;                  ///< bytes of a row's hash, by which it is named
@@ -81,6 +82,12 @@ struct LogLink
 
     /// The hash with the one of the link before; those of the rows are to be added.
     LogHash beginHash(const QByteArray& before) const;
+
+    /// Of a thinned link: what is sealed of it, over the hashes of the rows that are left.
+    QByteArray thinnedHash(const QByteArray& rowHashes) const;
+
+    /// In the place of one with the same number.
+    void store(SqliteFile& file) const;
 };
 
 } // namespace ko

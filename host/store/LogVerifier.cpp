@@ -118,7 +118,8 @@ void LogVerifier::verify(const LogLink& link, const LogLink& before)
     const bool hasRows = link.kind != LogLink::Beginning;
     const qint64 count = std::accumulate(link.counts.begin(), link.counts.end(), qint64(0));
     const int findings = int(m_report.findings.size());
-    LogHash hash = link.beginHash(before.hash);
+    const bool isThinned = link.kind == LogLink::Thinned;
+    LogHash hash = link.beginHash(isThinned ? link.hash : before.hash);
     int first = 0;
     for (int table = 0; table < LogRows::Tables; ++table) {
         const int length =
@@ -128,10 +129,25 @@ void LogVerifier::verify(const LogLink& link, const LogLink& before)
     }
     if (link.kind == LogLink::Older)
         m_report.older += count;
-    if (hash.result() != link.hash && findings == int(m_report.findings.size()))
+    const bool isWhole = findings == int(m_report.findings.size());
+    if (isThinned)
+        verifyThinned(link, before, isWhole ? hash.result() : QByteArray());
+    else if (isWhole && hash.result() != link.hash)
         addAtLink(LogFinding::Rewritten, link);
     else
-        checkSeal(link);
+        checkSeal(link, link.hash);
+}
+
+/// Nobody thins without the key, nor anything but the oldest. \a hash is empty if rows are not as they were,
+/// which is told.
+void LogVerifier::verifyThinned(const LogLink& link, const LogLink& before, const QByteArray& hash)
+{
+    m_report.thinned = link.ends[LogFinding::ChangeSets];
+    const bool isOldest = before.kind == LogLink::Beginning || before.kind == LogLink::Thinned;
+    if (link.seal.isEmpty() || !isOldest)
+        addAtLink(LogFinding::Rewritten, link);
+    else if (!hash.isEmpty())
+        checkSeal(link, hash);
 }
 
 void LogVerifier::compare(int table, const LogLink& link, const QByteArray& checks, LogHash* hash)
@@ -154,13 +170,13 @@ void LogVerifier::compare(int table, const LogLink& link, const QByteArray& chec
     comparison.end(end);
 }
 
-void LogVerifier::checkSeal(const LogLink& link)
+void LogVerifier::checkSeal(const LogLink& link, const QByteArray& hash)
 {
     if (link.seal.isEmpty()) {
         ++m_report.unsealed;
         return;
     }
-    switch (m_sealer.check(link.hash, link.seal)) {
+    switch (m_sealer.check(hash, link.seal)) {
     case Sealer::Signature::Good:
         break;
     case Sealer::Signature::Bad:

@@ -25,7 +25,8 @@ public:
 private:
     void verify(const LogLink& link, const LogLink& before);
     void compare(int table, const LogLink& link, const QByteArray& checks, LogHash* hash);
-    void checkSeal(const LogLink& link);
+    void verifyThinned(const LogLink& link, const LogLink& before, const QByteArray& hash);
+    void checkSeal(const LogLink& link, const QByteArray& hash);
     void compareWithKnown(const LogLink& link, const LogEnd& known);
     void takeRest(bool hasChain);
     void add(LogFinding::Kind kind, int table, qint64 entry);

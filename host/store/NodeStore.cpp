@@ -5,10 +5,13 @@
 #include "store/DeltaReader.h"
 #include "store/HistoryReader.h"
 #include "store/LogChain.h"
+#include "store/LogThinning.h"
 #include "store/LogVerifier.h"
 #include "store/SqliteFile.h"
 #include "store/StoreFile.h"
 #include "store/StoredSecrets.h"
+
+#include <QDateTime>
 
 namespace ko {
 
@@ -29,6 +32,37 @@ public:
     const std::shared_ptr<Vault> vault;
     qint64 dataVersion = 0;
 };
+
+namespace {
+
+/// A desk's copy of a site must be able to say again what it did, which is in the history.
+bool isShared(SqliteStore& store)
+{
+    return store.value("SELECT 1 FROM sqlite_schema WHERE name = 'shared_site'").isValid();
+}
+
+ThinnedHistory thinned(SqliteStore& store, const HistoryLimit& limit, const std::function<bool()>& goOn)
+{
+    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
+    if (!key->sealer.canSeal())
+        throw StoreFailure{
+            StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key"))};
+    ThinnedHistory result;
+    LogThinning thinning(store, key->sealer);
+    const qint64 last = isShared(store) ? 0 : thinning.last(limit, QDateTime::currentMSecsSinceEpoch());
+    auto outcome = last > 0 ? LogThinning::Outcome::More : LogThinning::Outcome::Done;
+    while (outcome == LogThinning::Outcome::More && goOn()) {
+        Transaction transaction(store, Transaction::Write);
+        outcome = thinning.thinSome(last);
+        transaction.commit();
+        result.lines = thinning.lines();
+    }
+    result.last = HistoryReader(store).lastThinned();
+    result.isAltered = outcome == LogThinning::Outcome::Altered;
+    return result;
+}
+
+} // namespace
 
 const int NodeStore::MaxProgramLines = NodeTables::MaxProgramLines;
 
@@ -226,6 +260,35 @@ LogEnd NodeStore::endOfLogs(const QString& file)
         return LogChain(reader, none).where();
     } catch (const StoreFailure&) {
         return LogEnd();
+    }
+}
+
+std::optional<ThinnedHistory> NodeStore::thinHistory(const QString& file, const HistoryLimit& limit,
+                                                     const std::function<bool()>& goOn, StoreError* error)
+{
+    *error = StoreError();
+    const std::unique_ptr<SqliteStore> store = SqliteStore::open(file, error, SqliteStore::Check::First);
+    if (!store)
+        return std::nullopt;
+    try {
+        return thinned(*store, limit, goOn);
+    } catch (const StoreFailure& failure) {
+        *error = failure.error;
+        return std::nullopt;
+    }
+}
+
+HistoryLimit NodeStore::historyLimit(const QString& file)
+{
+    try {
+        SqliteFile reader(file, SqliteFile::ReadOnly);
+        const auto number = [&reader](const char* key) {
+            return reader.value("SELECT value FROM settings WHERE key = ?", {QString::fromLatin1(key)})
+                .toInt();
+        };
+        return {number(HistoryLimits::Days), number(HistoryLimits::Megabytes)};
+    } catch (const StoreFailure&) {
+        return HistoryLimit();
     }
 }
 

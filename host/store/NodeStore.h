@@ -3,6 +3,7 @@
 
 #include "model/Delta.h"
 #include "model/HistoryFilter.h"
+#include "model/HistoryLimit.h"
 #include "model/LogFinding.h"
 #include "model/StoreError.h"
 
@@ -128,6 +129,14 @@ public:
                                                const std::function<bool(qint64)>& goOn, StoreError* error);
     /// Of \a file, which may be in use; from any thread. Empty if it cannot be read.
     static LogEnd endOfLogs(const QString& file);
+    /// Takes old details out of the history of \a file, which may be in use, in parts that keep others out
+    /// for some milliseconds each; from any thread. \a goOn is called before each, and ends it when it
+    /// returns false: what is done then is whole. Takes the key under which the logs are sealed. Nothing,
+    /// with \a error, when it failed; see LogThinning for what is never thinned.
+    static std::optional<ThinnedHistory> thinHistory(const QString& file, const HistoryLimit& limit,
+                                                     const std::function<bool()>& goOn, StoreError* error);
+    /// As the settings of \a file have it; none if it cannot be read.
+    static HistoryLimit historyLimit(const QString& file);
     QVector<ProgramRow> programLines(const LogRange& range);
     qint64 programLineCount();
 
