@@ -11,9 +11,11 @@
 #include "inspector/NodeChangeLogEntry.h"
 #include "ko/Node.h"
 #include "ko/PropertyKeys.h"
+#include "store/HistorySwitch.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QTableView>
 
 #include <map>
@@ -155,6 +157,55 @@ private:
     int m_round = 0;
 };
 
+/// Edits of some nodes, each stored by itself or all together, against the same program without a history.
+class Logging : public Contest
+{
+public:
+    Logging(int size, int nodes)
+        : m_copy(size)
+        , m_rawCopy(size)
+        , m_db(bench::open(m_copy.file()))
+        , m_without(bench::open(m_rawCopy.file()))
+        , m_nodes(nodes)
+    {
+    }
+
+    double ours() override { return edit(*m_db); }
+
+    double baseline() override
+    {
+        const QScopedValueRollback<bool> off(hasHistory, false);
+        return edit(*m_without);
+    }
+
+private:
+    double edit(HostNodeDB& db)
+    {
+        const QStringList ids = db.nodeIdList(AllNodeTypes).mid(0, m_nodes);
+        const int rounds = m_nodes == 1 ? 20 : 1; // one alone is told by the disk's mood
+        const double time = milliseconds([&] {
+            for (int round = 0; round < rounds; ++round) {
+                for (const QString& id : ids) {
+                    Node* node = db.beginUpdateNode(id, -1);
+                    node->setStringProperty(PropertyKeys::InfoFile, QString::number(++m_round));
+                    db.endUpdateNode(node);
+                    db.auditLog().log(NodeChangeLogEntry(id));
+                }
+                db.flush();
+                settle(); // the turn ends
+            }
+        });
+        return time / rounds;
+    }
+
+    const SiteCopy m_copy;
+    const SiteCopy m_rawCopy;
+    const std::unique_ptr<HostNodeDB> m_db;
+    const std::unique_ptr<HostNodeDB> m_without;
+    const int m_nodes;
+    int m_round = 0;
+};
+
 template <Looking::What what>
 std::unique_ptr<Contest> makeLooking(int)
 {
@@ -190,6 +241,17 @@ QVector<Workload> historyWorkloads()
          2.0,
          {1000, 10000},
          [](int size) { return std::make_unique<PuttingManyBack>(size); }},
+        {QStringLiteral("an edit, to disk"),
+         QStringLiteral("the same without a history"),
+         1.3,
+         {10000},
+         [](int size) { return std::make_unique<Logging>(size, 1); },
+         false},
+        {QStringLiteral("edits of all nodes at once, to disk"),
+         QStringLiteral("the same without a history"),
+         1.3,
+         {1000, 10000},
+         [](int size) { return std::make_unique<Logging>(size, size); }},
     };
 }
 

@@ -342,12 +342,7 @@ int Application::verifyLog() const
 
 int Application::thinHistory()
 {
-    bool isNumber = false;
-    const int days = m_options->value("thin-history").toInt(&isNumber);
-    if (!isNumber || days < 1) {
-        say(stderr, QCoreApplication::translate("Application", "--thin-history takes a number of days."));
-        return Failed;
-    }
+    const int days = m_options->value("thin-history").toInt();
     StoreError error;
     const std::optional<ThinnedHistory> thinned = NodeStore::thinHistory(
         m_database, {days, 0}, [] { return true; }, &error);

@@ -116,6 +116,8 @@ QString Options::badValue() const
         if (*option.value && isSet(option.name) && value(option.name).isEmpty())
             return Texts::tr("The value after --%1 is empty.").arg(QLatin1String(option.name));
     }
+    if (isSet("thin-history") && value("thin-history").toInt() < 1)
+        return Texts::tr("--thin-history takes a number of days.");
     return QString();
 }
 

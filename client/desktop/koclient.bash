@@ -15,5 +15,5 @@ _koclient()
         ;;
     esac
     COMPREPLY=($(compgen -W "--db --lang --import --export --without-passwords --backup --restore
-        --verify-log --help --help-all --version" -- "$cur"))
+        --verify-log --thin-history --help --help-all --version" -- "$cur"))
 } && complete -F _koclient koclient

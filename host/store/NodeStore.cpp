@@ -4,6 +4,7 @@
 #include "store/ChangeWriter.h"
 #include "store/DeltaReader.h"
 #include "store/HistoryReader.h"
+#include "store/HistorySwitch.h"
 #include "store/LogChain.h"
 #include "store/LogThinning.h"
 #include "store/LogVerifier.h"
@@ -179,7 +180,8 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
     Transaction transaction(*d->connection, Transaction::Write);
     const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
     LogChain chain(*d->connection, key->sealer);
-    chain.begin();
+    if (hasHistory)
+        chain.begin();
     const Batch batch = merge(DeltaReader(d->tables, d->log, wanted).since(revision));
     ChangeWriter writer(d->tables, d->log, *d->vault);
     for (const ChangeSet& set : batch.sets)
@@ -188,7 +190,8 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
         d->tables.addProgramLine(line);
     if (!batch.programLines.isEmpty())
         d->tables.trimProgramLines();
-    chain.end();
+    if (hasHistory)
+        chain.end();
     Commit result = {d->log.revision(), writer.places(), writer.missingNodes(), {}, writer.sets()};
     for (const NodeID& source : writer.reordered())
         result.reordered.insert(source, d->tables.relationsFrom(source));

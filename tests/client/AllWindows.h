@@ -7,6 +7,7 @@
 
 #include "AddressChangesDialog.h"
 #include "CheckReportDialog.h"
+#include "HistoryLimitDialog.h"
 #include "ImportReportDialog.h"
 #include "MainWindow.h"
 #include "MomentWindow.h"
@@ -39,6 +40,12 @@ public:
         m_camera = m_host.add(ko::IPDeviceType, QStringLiteral("1"), QStringLiteral("10.0.0.1"));
         m_folder = m_host.add(ko::RecordingFolderType, QStringLiteral("2"));
         m_url = m_host.add(ko::UrlCameraType, QStringLiteral("3"), QStringLiteral("10.0.0.3"));
+        m_otherUrl = m_host.add(ko::UrlCameraType, QStringLiteral("8"), QStringLiteral("10.0.0.8"));
+        m_host.change(m_otherUrl, [](ko::Node* node) {
+            node->setIntProperty(ko::PropertyKeys::Port, 8080);
+            node->setStringProperty(ko::PropertyKeys::User, QStringLiteral("8"));
+            node->setBoolProperty(ko::PropertyKeys::UseSSL, true);
+        });
         m_host.change(m_camera, [](ko::Node* node) {
             node->setStringProperty(ko::PropertyKeys::FactoryIP, QStringLiteral("10_0_0_1"));
             node->setIntProperty(ko::PropertyKeys::RecordingStorageUsage, 2);
@@ -120,6 +127,12 @@ private:
         ko::PutBackDialog none([] { return QStringLiteral("6"); }, ko::PutBack(),
                                ko::PutBackDialog::words(*m_host.db()), nothing, &window);
         show(&none, QStringLiteral("nothing to put back"), look);
+        ko::PutBackDialog preview([] { return QStringLiteral("6"); }, ko::PutBack(),
+                                  ko::PutBackDialog::words(*m_host.db()), nothing, &window,
+                                  ko::PutBackDialog::Kind::Change);
+        show(&preview, QStringLiteral("preview of nothing"), look);
+        ko::HistoryLimitDialog limit({30, 0}, &window);
+        show(&limit, QStringLiteral("history limit"), look);
         auto* moment = new ko::MomentWindow(window, *m_host.db()->history().row(1));
         const auto isRead = [moment] {
             return child<QAbstractButton>(moment, "putBackAllButton")->isEnabled();
@@ -131,14 +144,16 @@ private:
 
     void visitEditors(ko::MainWindow& window, const Look& look)
     {
-        for (const QString& id : {m_camera, m_folder, m_url}) {
-            window.findChild<ko::NodeListView*>()->selectNodes({id});
+        for (const QStringList& ids : {QStringList(m_camera), QStringList(m_folder), QStringList(m_url),
+                                       QStringList({m_url, m_otherUrl})}) {
+            window.findChild<ko::NodeListView*>()->selectNodes(ids);
             trigger(window, "actionEdit", [&](QDialog* dialog) {
                 auto* tabs = dialog->findChild<QTabWidget*>();
                 for (int i = 0; i < tabs->count(); ++i) {
                     tabs->setCurrentIndex(i);
                     settle();
-                    look(QStringLiteral("editor of %1, page %2").arg(id).arg(i), dialog);
+                    look(QStringLiteral("editor of %1, page %2").arg(ids.join(QLatin1String(" and "))).arg(i),
+                         dialog);
                 }
             });
         }
@@ -197,6 +212,7 @@ private:
     QString m_camera;
     QString m_folder;
     QString m_url;
+    QString m_otherUrl;
 };
 
 } // namespace testsupport

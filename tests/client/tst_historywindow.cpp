@@ -22,6 +22,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableView>
@@ -102,6 +103,8 @@ private slots:
     void identifiersAreNames();
     void csv();
     void manyAreReadAsTheyAreShown();
+    void howMuchToKeep();
+    void whatWasTakenOut();
     void keyboard();
     void models();
 
@@ -498,6 +501,66 @@ void tst_HistoryWindow::manyAreReadAsTheyAreShown()
         model->fetchMore({});
         QCOMPARE(int(titles(dialog).size()), 111); // 77, 77x, 77xx
     });
+}
+
+void tst_HistoryWindow::howMuchToKeep()
+{
+    HostNodeDB& db = *m_host->db();
+    QVERIFY(db.history().limit().isNone());
+    open("actionHistory", [&](QDialog* dialog) {
+        const testsupport::ModalAnswer days(
+            [](QDialog* limit) {
+                QVERIFY(!child<QSpinBox>(limit, "daysSpinBox")->isEnabled());
+                child<QCheckBox>(limit, "daysCheckBox")->click();
+                child<QSpinBox>(limit, "daysSpinBox")->setValue(90);
+                confirm(limit);
+            },
+            dialog);
+        child<QPushButton>(dialog, "keepButton")->click();
+        QVERIFY(days.fired());
+        QCOMPARE(titles(dialog).first(), QString("Settings")); // a change like any other
+    });
+    QCOMPARE(db.history().limit().days, 90);
+    QCOMPARE(db.history().limit().megabytes, 0);
+    open("actionHistory", [&](QDialog* dialog) {
+        const testsupport::ModalAnswer none(
+            [](QDialog* limit) {
+                QCOMPARE(child<QSpinBox>(limit, "daysSpinBox")->value(), 90);
+                child<QCheckBox>(limit, "daysCheckBox")->click();
+                confirm(limit);
+            },
+            dialog);
+        child<QPushButton>(dialog, "keepButton")->click();
+        QVERIFY(none.fired());
+    });
+    QVERIFY(db.history().limit().isNone());
+}
+
+/// It is still told who did it, and the window says why no more can be done with it.
+void tst_HistoryWindow::whatWasTakenOut()
+{
+    endTurn();
+    testsupport::PlainSql sql(m_host->fileName());
+    const qint64 newest = sql.run("SELECT max(seq) FROM change_sets").toLongLong();
+    sql.run(QString("DELETE FROM changes WHERE change_set < %1").arg(newest));
+    sql.run(QString("UPDATE chain SET kind = 'T' WHERE seq > 1 AND set_end < %1").arg(newest));
+    open("actionHistory", [&](QDialog* dialog) {
+        const int all = int(titles(dialog).size());
+        QVERIFY(all > 2);
+        sets(dialog)->selectRow(1);
+        QVERIFY(!child<QPushButton>(dialog, "putBackButton")->isEnabled());
+        QVERIFY(!child<QPushButton>(dialog, "backToButton")->isEnabled());
+        QVERIFY(child<QLabel>(dialog, "stateLabel")->text().contains("taken out"));
+        QCOMPARE(changes(dialog)->model()->rowCount(), 0);
+    });
+    const Answers backTo({[](QDialog* dialog) {
+        (void)titles(dialog);
+        sets(dialog)->selectRow(1);
+        QVERIFY(!dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
+        dialog->reject();
+    }});
+    trigger("actionBackTo");
+    QCOMPARE(backTo.opened(), QStringList("BackToDialog"));
 }
 
 void tst_HistoryWindow::keyboard()

@@ -31,12 +31,14 @@ private slots:
     void cutOffLogIsTold();
     void closingDoesNotWait();
     void commandLine();
+    void thinningFromTheCommandLine();
 
 private:
     QString file() const { return m_host->db()->fileName(); }
     QToolButton* notice() const { return child<QToolButton>(m_window.get(), "logNotice"); }
     void open();
     QStringList told();
+    int run(const QStringList& command, QString* said, QString* printed = nullptr) const;
     int verify(QString* said) const;
 
     std::unique_ptr<testsupport::HostFixture> m_host;
@@ -129,15 +131,21 @@ void tst_LogNotice::closingDoesNotWait()
     QVERIFY(LogCheckpoint::read(file()).log.isEmpty()); // nobody has looked yet
 }
 
-int tst_LogNotice::verify(QString* said) const
+int tst_LogNotice::run(const QStringList& command, QString* said, QString* printed) const
 {
     QProcess client;
-    client.start(QStringLiteral(KO_KOCLIENT),
-                 {QStringLiteral("--db"), file(), QStringLiteral("--verify-log")});
+    client.start(QStringLiteral(KO_KOCLIENT), QStringList({QStringLiteral("--db"), file()}) + command);
     if (!client.waitForFinished(testsupport::Patience))
         return -1;
     *said = QString::fromUtf8(client.readAllStandardError());
+    if (printed)
+        *printed = QString::fromUtf8(client.readAllStandardOutput());
     return client.exitCode();
+}
+
+int tst_LogNotice::verify(QString* said) const
+{
+    return run({QStringLiteral("--verify-log")}, said);
 }
 
 void tst_LogNotice::commandLine()
@@ -152,6 +160,22 @@ void tst_LogNotice::commandLine()
     PlainSql(file()).run(QStringLiteral("DROP TABLE chain"));
     QCOMPARE(verify(&said), 3);
     QVERIFY(!said.isEmpty());
+}
+
+/// Everything that is there is of today; what is asked for must be a number of days.
+void tst_LogNotice::thinningFromTheCommandLine()
+{
+    QString said;
+    QString printed;
+    QCOMPARE(run({QStringLiteral("--thin-history"), QStringLiteral("30")}, &said, &printed), 0);
+    QCOMPARE(said, QString());
+    QVERIFY2(printed.startsWith(QLatin1String("0 details")), qPrintable(printed));
+    for (const char* bad : {"0", "-1", "a month"}) {
+        QCOMPARE(run({QStringLiteral("--thin-history"), QLatin1String(bad)}, &said), 64);
+        QVERIFY2(said.contains(QLatin1String("number of days")), qPrintable(said));
+    }
+    QCOMPARE(run({QStringLiteral("--thin-history"), QString()}, &said), 64);
+    QCOMPARE(verify(&said), 0);
 }
 
 KO_TEST_MAIN(tst_LogNotice)
