@@ -87,11 +87,10 @@ Options::Options()
     };
     // The toolkit's options have one dash, which must not be read as a row of one-letter options.
     m_parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    m_parser.setApplicationDescription(
-        Texts::tr("Shows, adds, edits and removes the nodes of a video-surveillance system.\n"
-                  "Without --import, --export, --backup, --restore, --verify-log and --thin-history it opens "
-                  "a window, and "
-                  "takes the toolkit's options (-platform, -style and others) too."));
+    m_parser.setApplicationDescription(Texts::tr(
+        "Shows, adds, edits and removes the nodes of a video-surveillance system.\n"
+        "Without an option that does something and ends, such as --import, it opens a window, and takes "
+        "the toolkit's options (-platform, -style and others) too."));
     m_parser.addHelpOption();
     m_parser.addVersionOption();
     for (const Option& option : options)

@@ -146,10 +146,30 @@
         <translation>Zjistí, zda někdo změnil protokoly databáze, uvede co a skončí.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>Podrobnosti do změny číslo %1 byly odebrány</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>Odebráno podrobností: %1, do změny číslo %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>Dále ne: historie byla změněna. --verify-log uvede co.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Odebere z historie, co bylo před každou změnou starší než tolik dnů a po ní, a skončí. Kdo a kdy něco změnil, zůstává.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history vyžaduje počet dnů.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Zobrazuje, přidává, upravuje a odebírá uzly kamerového systému.
-Bez --import, --export, --backup, --restore a --verify-log otevře okno a přijímá i volby grafické knihovny (-platform, -style a další).</translation>
+Bez volby, která něco udělá a skončí, jako --import, otevře okno a přijímá i volby grafické knihovny (-platform, -style a další).</translation>
     </message>
 </context>
 <context>
@@ -668,6 +688,25 @@ Bez --import, --export, --backup, --restore a --verify-log otevře okno a přij�
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>Upravit %n uzel</numerusform>
+            <numerusform>Upravit %n uzly</numerusform>
+            <numerusform>Upravit %n uzlů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>Co zde změníte, změní se u všech těchto. Co není u všech stejné, je zobrazeno jako různé a zůstane, pokud to nezměníte.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Zjišťuje se, co se změní...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -862,6 +901,14 @@ Bez --import, --export, --backup, --restore a --verify-log otevře okno a přij�
         <source>Back to Here...</source>
         <translation>Zpět až sem...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Uchovávat...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>Podrobnosti byly z historie odebrány: nelze to vrátit.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -927,6 +974,45 @@ Bez --import, --export, --backup, --restore a --verify-log otevře okno a přij�
     <message>
         <source>To:</source>
         <translation>Do:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Uchovávání historie</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>Podrobnosti změny jsou to, co bylo před ní a po ní. Bez nich ji nelze zobrazit ani vrátit. Kdo, kdy a proč něco změnil, se uchovává vždy, stejně jako protokol změn.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Odebírat podrobnosti &amp;starší než</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> dnů</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Dny</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>Odebírat nejstarší podrobnosti, je-li jich &amp;více než</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Megabajty</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Děje se to minutu po spuštění programu a každých šest hodin.</translation>
     </message>
 </context>
 <context>
@@ -1164,10 +1250,6 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Upravit...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Změní vybraný uzel</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1464,6 +1546,30 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Ukáže všechny uzly tak, jak byly dříve, a vrátí je</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Změní vybrané uzly</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>&amp;Náhled změn více uzlů</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Ukáže, co by se stalo s více uzly, než se to uloží</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Společně lze upravovat jen uzly jednoho typu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>Upraven %n uzel.</numerusform>
+            <numerusform>Upraveny %n uzly.</numerusform>
+            <numerusform>Upraveno %n uzlů.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1799,6 +1905,22 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>All that can be put back</source>
         <translation>Vše, co lze vrátit</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Náhled</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: toto se změní. OK změní, co je zaškrtnuto.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: nic se nezmění.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Všechny změny</translation>
     </message>
 </context>
 <context>

@@ -146,10 +146,30 @@
         <translation>Sieht nach, ob jemand die Protokolle der Datenbank verändert hat, nennt, was, und endet.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>Einzelheiten bis zur Änderung Nummer %1 wurden entfernt</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>%1 Einzelheiten entfernt, bis zur Änderung Nummer %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>Nicht weiter: Der Verlauf wurde verändert. --verify-log nennt, was.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Entfernt aus dem Verlauf, was vor und nach jeder Änderung war, wo sie älter als so viele Tage ist, und endet. Wer wann etwas geändert hat, bleibt.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history braucht eine Anzahl von Tagen.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Zeigt, ergänzt, bearbeitet und entfernt die Knoten eines Videoüberwachungssystems.
-Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster geöffnet; dann gelten auch die Optionen des Toolkits (-platform, -style und andere).</translation>
+Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöffnet; dann gelten auch die Optionen des Toolkits (-platform, -style und andere).</translation>
     </message>
 </context>
 <context>
@@ -657,6 +677,24 @@ Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster g
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>%n Knoten bearbeiten</numerusform>
+            <numerusform>%n Knoten bearbeiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>Was Sie hier ändern, ändert sich bei allen diesen. Was nicht bei allen gleich ist, wird als verschieden gezeigt und bleibt, wenn Sie es nicht ändern.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Änderungen werden ermittelt...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -846,6 +884,14 @@ Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster g
         <source>Back to Here...</source>
         <translation>Zurück bis hier...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Aufbewahren...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>Die Einzelheiten wurden aus dem Verlauf entfernt: Es kann nicht zurückgenommen werden.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -911,6 +957,45 @@ Ohne --import, --export, --backup, --restore und --verify-log wird ein Fenster g
     <message>
         <source>To:</source>
         <translation>Bis:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Verlauf aufbewahren</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>Die Einzelheiten einer Änderung sind, was vor und nach ihr war. Ohne sie kann sie weder gezeigt noch zurückgenommen werden. Wer wann und wozu etwas geändert hat, bleibt immer erhalten, ebenso das Änderungsprotokoll.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Einzelheiten entfernen, die &amp;älter sind als</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> Tage</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>Die ältesten Einzelheiten entfernen, wenn es &amp;mehr sind als</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Megabyte</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Das geschieht eine Minute nach dem Start des Programms und alle sechs Stunden.</translation>
     </message>
 </context>
 <context>
@@ -1145,10 +1230,6 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Bearbeiten...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Ändert den ausgewählten Knoten</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1442,6 +1523,29 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Zeigt alle Knoten, wie sie früher waren, und nimmt Änderungen zurück</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Ändert die ausgewählten Knoten</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>Änderungen an mehreren &amp;vorher zeigen</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Zeigt, was mit mehreren Knoten geschehen würde, bevor es gespeichert wird</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Nur Knoten eines Typs können zusammen bearbeitet werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>%n Knoten bearbeitet.</numerusform>
+            <numerusform>%n Knoten bearbeitet.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1774,6 +1878,22 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>All that can be put back</source>
         <translation>Alles, was zurückgenommen werden kann</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: das würde sich ändern. OK ändert, was angehakt ist.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: es würde sich nichts ändern.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Alle Änderungen</translation>
     </message>
 </context>
 <context>

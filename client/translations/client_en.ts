@@ -91,6 +91,16 @@
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>Edit %n Node</numerusform>
+            <numerusform>Edit %n Nodes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FillInDialog</name>
     <message numerus="yes">
         <source>Asking %n device(s) what they are. Nothing is stored yet.</source>
@@ -179,6 +189,13 @@
         <translation>
             <numerusform>%n address copied.</numerusform>
             <numerusform>%n addresses copied.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>%n node edited.</numerusform>
+            <numerusform>%n nodes edited.</numerusform>
         </translation>
     </message>
 </context>

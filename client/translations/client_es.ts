@@ -146,10 +146,30 @@
         <translation>Comprueba si alguien ha alterado los registros de la base de datos, indica qué y termina.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>Se quitaron los detalles hasta el cambio número %1</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>%1 detalles quitados, hasta el cambio número %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>No más allá: el historial fue alterado. --verify-log indica qué.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Quita del historial lo que había antes y después de cada cambio más antiguo que ese número de días y termina. Quién cambió algo y cuándo permanece.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history requiere un número de días.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Muestra, añade, edita y elimina los nodos de un sistema de videovigilancia.
-Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y acepta también las opciones de la biblioteca gráfica (-platform, -style y otras).</translation>
+Sin una opción que haga algo y termine, como --import, abre una ventana y acepta también las opciones de la biblioteca gráfica (-platform, -style y otras).</translation>
     </message>
 </context>
 <context>
@@ -657,6 +677,24 @@ Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y a
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>Editar %n nodo</numerusform>
+            <numerusform>Editar %n nodos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>Lo que cambie aquí cambia en todos estos. Lo que no es igual en todos se muestra como distinto y se conserva si no lo cambia.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Comprobando qué cambia...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -846,6 +884,14 @@ Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y a
         <source>Back to Here...</source>
         <translation>Volver hasta aquí...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Conservar...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>Los detalles se quitaron del historial: no se puede revertir.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -911,6 +957,45 @@ Sin --import, --export, --backup, --restore ni --verify-log abre una ventana y a
     <message>
         <source>To:</source>
         <translation>Hasta:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Conservar el historial</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>Los detalles de un cambio son lo que había antes y después de él. Sin ellos no se puede mostrar ni revertir. Quién cambió algo, cuándo y para qué se conserva siempre, igual que el registro de auditoría.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Quitar los detalles más &amp;antiguos que</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> días</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Días</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>Quitar los detalles más antiguos si hay &amp;más de</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Megabytes</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Se hace un minuto después de iniciar el programa y cada seis horas.</translation>
     </message>
 </context>
 <context>
@@ -1145,10 +1230,6 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Editar...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Modifica el nodo seleccionado</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1442,6 +1523,29 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Muestra todos los nodos como eran antes y los revierte</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Cambia los nodos seleccionados</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>&amp;Vista previa de cambios múltiples</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Muestra lo que se haría con varios nodos antes de guardarlo</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Solo se pueden editar juntos nodos de un mismo tipo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>%n nodo editado.</numerusform>
+            <numerusform>%n nodos editados.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1774,6 +1878,22 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>All that can be put back</source>
         <translation>Todo lo que se puede revertir</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: esto es lo que cambiaría. Aceptar cambia lo que está marcado.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: no cambiaría nada.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Todos los cambios</translation>
     </message>
 </context>
 <context>

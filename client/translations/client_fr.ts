@@ -146,10 +146,30 @@
         <translation>Vérifie si quelqu&apos;un a modifié les journaux de la base de données, le signale et se termine.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>Les détails jusqu&apos;à la modification numéro %1 ont été retirés</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>%1 détails retirés, jusqu&apos;à la modification numéro %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>Pas plus loin : l&apos;historique a été modifié. --verify-log indique quoi.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Retire de l&apos;historique ce qu&apos;il y avait avant et après chaque modification plus ancienne que ce nombre de jours, puis se termine. Qui a modifié quelque chose et quand reste.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history attend un nombre de jours.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Affiche, ajoute, modifie et supprime les nœuds d&apos;un système de vidéosurveillance.
-Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre et accepte aussi les options de la boîte à outils (-platform, -style et autres).</translation>
+Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fenêtre et accepte aussi les options de la boîte à outils (-platform, -style et autres).</translation>
     </message>
 </context>
 <context>
@@ -657,6 +677,24 @@ Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>Modifier %n nœud</numerusform>
+            <numerusform>Modifier %n nœuds</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>Ce que vous modifiez ici change dans tous ceux-ci. Ce qui n&apos;est pas identique dans tous est affiché comme différent et reste tel quel, sauf si vous le modifiez.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Recherche de ce qui change...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -846,6 +884,14 @@ Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre
         <source>Back to Here...</source>
         <translation>Revenir ici...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Conserver...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>Les détails ont été retirés de l&apos;historique : la remise en l&apos;état est impossible.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -911,6 +957,45 @@ Sans --import, --export, --backup, --restore ni --verify-log, ouvre une fenêtre
     <message>
         <source>To:</source>
         <translation>Au :</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Conserver l&apos;historique</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>Les détails d&apos;une modification sont ce qu&apos;il y avait avant et après elle. Sans eux, elle ne peut être ni affichée ni remise en l&apos;état. Qui a modifié quelque chose, quand et pourquoi est toujours conservé, de même que le journal d&apos;audit.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Retirer les détails plus &amp;anciens que</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> jours</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Jours</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>Retirer les détails les plus anciens s&apos;il y en a &amp;plus de</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> Mo</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Mégaoctets</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Cela se fait une minute après le démarrage du programme et toutes les six heures.</translation>
     </message>
 </context>
 <context>
@@ -1145,10 +1230,6 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Modifier...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Modifie le nœud sélectionné</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1442,6 +1523,29 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Montre tous les nœuds tels qu&apos;ils étaient avant et les remet en l&apos;état</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Modifie les nœuds sélectionnés</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>Aperçu des modificati&amp;ons multiples</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Montre ce qui serait fait à plusieurs nœuds avant de l&apos;enregistrer</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Seuls des nœuds d&apos;un même type peuvent être modifiés ensemble.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>%n nœud modifié.</numerusform>
+            <numerusform>%n nœuds modifiés.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1774,6 +1878,22 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>All that can be put back</source>
         <translation>Tout ce qui peut être remis en l&apos;état</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1 : voici ce qui changerait. OK modifie ce qui est coché.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1 : rien ne changerait.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Toutes les modifications</translation>
     </message>
 </context>
 <context>

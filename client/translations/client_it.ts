@@ -146,10 +146,30 @@
         <translation>Controlla se qualcuno ha modificato i registri del database, indica che cosa e termina.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>I dettagli fino alla modifica numero %1 sono stati tolti</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>%1 dettagli tolti, fino alla modifica numero %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>Non oltre: la cronologia è stata modificata. --verify-log indica che cosa.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Toglie dalla cronologia ciò che c&apos;era prima e dopo ogni modifica più vecchia di tanti giorni e termina. Chi ha modificato qualcosa e quando rimane.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history richiede un numero di giorni.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Mostra, aggiunge, modifica e rimuove i nodi di un sistema di videosorveglianza.
-Senza --import, --export, --backup, --restore e --verify-log apre una finestra e accetta anche le opzioni del toolkit (-platform, -style e altre).</translation>
+Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestra e accetta anche le opzioni del toolkit (-platform, -style e altre).</translation>
     </message>
 </context>
 <context>
@@ -657,6 +677,24 @@ Senza --import, --export, --backup, --restore e --verify-log apre una finestra e
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>Modifica %n nodo</numerusform>
+            <numerusform>Modifica %n nodi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>Ciò che modifichi qui cambia in tutti questi. Ciò che non è uguale in tutti è mostrato come diverso e rimane, a meno che non lo modifichi.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Verifica di ciò che cambia...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -846,6 +884,14 @@ Senza --import, --export, --backup, --restore e --verify-log apre una finestra e
         <source>Back to Here...</source>
         <translation>Torna fino a qui...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Conserva...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>I dettagli sono stati tolti dalla cronologia: non si può ripristinare.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -911,6 +957,45 @@ Senza --import, --export, --backup, --restore e --verify-log apre una finestra e
     <message>
         <source>To:</source>
         <translation>Al:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Conserva la cronologia</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>I dettagli di una modifica sono ciò che c&apos;era prima e dopo. Senza di essi non può essere né mostrata né ripristinata. Chi ha modificato qualcosa, quando e perché è sempre conservato, e così il registro di controllo.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Togli i dettagli più &amp;vecchi di</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> giorni</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Giorni</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>Togli i dettagli più vecchi quando sono &amp;più di</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Megabyte</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Avviene un minuto dopo l&apos;avvio del programma e ogni sei ore.</translation>
     </message>
 </context>
 <context>
@@ -1145,10 +1230,6 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Modifica...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Modifica il nodo selezionato</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1442,6 +1523,29 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Mostra tutti i nodi com&apos;erano prima e li ripristina</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Modifica i nodi selezionati</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>A&amp;nteprima delle modifiche multiple</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Mostra ciò che si farebbe a più nodi prima di salvarlo</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Si possono modificare insieme solo nodi dello stesso tipo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>%n nodo modificato.</numerusform>
+            <numerusform>%n nodi modificati.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1774,6 +1878,22 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>All that can be put back</source>
         <translation>Tutto ciò che si può ripristinare</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: questo è ciò che cambierebbe. OK modifica ciò che è selezionato.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: non cambierebbe nulla.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Tutte le modifiche</translation>
     </message>
 </context>
 <context>

@@ -146,10 +146,30 @@
         <translation>データベースのログが書き換えられていないかを調べ、結果を表示して終了します。</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>変更番号%1までの詳細は取り除かれています</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>詳細を%1件取り除きました(変更番号%2まで)</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>ここまでです: 履歴が書き換えられています。--verify-log で内容を確認できます。</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>指定した日数より古い変更について、変更前と変更後の値を履歴から取り除いて終了します。誰がいつ変更したかは残ります。</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history には日数を指定します。</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>ビデオ監視システムのノードを表示、追加、編集、削除します。
---import、--export、--backup、--restore、--verify-logを指定しない場合はウィンドウを開き、ツールキットのオプション (-platform、-styleなど) も使用できます。</translation>
+--importなど、処理を行って終了するオプションを指定しない場合はウィンドウを開き、ツールキットのオプション (-platform、-styleなど) も使用できます。</translation>
     </message>
 </context>
 <context>
@@ -646,6 +666,23 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>%n個のノードの編集</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>ここで変更した内容は、次のすべてに反映されます。同じでない値は「異なる」と表示され、変更しない限りそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>変更内容を調べています...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -830,6 +867,14 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
         <source>Back to Here...</source>
         <translation>この時点の状態...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>保持...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>詳細は履歴から取り除かれたため、元に戻せません。</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -895,6 +940,45 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
     <message>
         <source>To:</source>
         <translation>終了:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>履歴の保持</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>変更の詳細とは、変更前と変更後の値です。詳細がないと、変更を表示することも元に戻すこともできません。誰がいつ何のために変更したかと監査ログは常に残ります。</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>次より古い詳細を取り除く(&amp;O)</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> 日</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>日数</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>次を超えたら最も古い詳細から取り除く(&amp;M)</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>メガバイト</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>プログラムの起動から1分後と、その後6時間ごとに行われます。</translation>
     </message>
 </context>
 <context>
@@ -1126,10 +1210,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>&amp;Edit...</source>
         <translation>編集(&amp;E)...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>選択したノードを変更します</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1420,6 +1500,28 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>すべてのノードを以前の状態で表示し、元に戻します</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>選択したノードを変更します</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>複数の変更をプレビュー(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>複数のノードに行われる変更を、保存する前に表示します</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>まとめて編集できるのは同じ種類のノードだけです。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>%n個のノードを編集しました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1749,6 +1851,22 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>All that can be put back</source>
         <translation>元に戻せるものすべて</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: 次のように変わります。OKを押すとチェックした項目を変更します。</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: 変わるものはありません。</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>すべての変更</translation>
     </message>
 </context>
 <context>

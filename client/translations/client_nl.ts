@@ -146,10 +146,30 @@
         <translation>Kijkt of iemand de logboeken van de database heeft gewijzigd, noemt wat en stopt.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>Details tot en met wijziging nummer %1 zijn verwijderd</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>%1 details verwijderd, tot en met wijziging nummer %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>Niet verder: de geschiedenis is gewijzigd. --verify-log noemt wat.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Haalt uit de geschiedenis wat er voor en na elke wijziging was die ouder is dan zoveel dagen, en stopt. Wie iets heeft gewijzigd en wanneer blijft.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history verwacht een aantal dagen.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Toont, voegt toe, bewerkt en verwijdert de knooppunten van een videobewakingssysteem.
-Zonder --import, --export, --backup, --restore en --verify-log wordt een venster geopend en gelden ook de opties van de toolkit (-platform, -style en andere).</translation>
+Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geopend en gelden ook de opties van de toolkit (-platform, -style en andere).</translation>
     </message>
 </context>
 <context>
@@ -657,6 +677,24 @@ Zonder --import, --export, --backup, --restore en --verify-log wordt een venster
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>%n knooppunt bewerken</numerusform>
+            <numerusform>%n knooppunten bewerken</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>Wat u hier wijzigt, wijzigt bij al deze. Wat niet bij alle gelijk is, wordt als verschillend getoond en blijft, tenzij u het wijzigt.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Wijzigingen worden bepaald...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -846,6 +884,14 @@ Zonder --import, --export, --backup, --restore en --verify-log wordt een venster
         <source>Back to Here...</source>
         <translation>Terug tot hier...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Bewaren...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>De details zijn uit de geschiedenis gehaald: terugdraaien is niet mogelijk.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -911,6 +957,45 @@ Zonder --import, --export, --backup, --restore en --verify-log wordt een venster
     <message>
         <source>To:</source>
         <translation>Tot:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Geschiedenis bewaren</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>De details van een wijziging zijn wat er ervoor en erna was. Zonder die kan ze niet worden getoond of teruggedraaid. Wie iets heeft gewijzigd, wanneer en waarvoor blijft altijd bewaard, net als het auditlogboek.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Details verwijderen die &amp;ouder zijn dan</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> dagen</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Dagen</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>De oudste details verwijderen als er &amp;meer zijn dan</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Megabytes</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Dit gebeurt een minuut na het starten van het programma en om de zes uur.</translation>
     </message>
 </context>
 <context>
@@ -1145,10 +1230,6 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Bewerken...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Wijzigt het geselecteerde knooppunt</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1442,6 +1523,29 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Toont alle knooppunten zoals ze eerder waren en draait ze terug</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Wijzigt de geselecteerde knooppunten</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>Voorbeeld bij wi&amp;jziging van meerdere</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Toont wat er met meerdere knooppunten zou gebeuren voordat het wordt opgeslagen</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Alleen knooppunten van één type kunnen samen worden bewerkt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>%n knooppunt bewerkt.</numerusform>
+            <numerusform>%n knooppunten bewerkt.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1774,6 +1878,22 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>All that can be put back</source>
         <translation>Alles wat kan worden teruggedraaid</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Voorbeeld</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: dit zou er wijzigen. OK wijzigt wat is aangevinkt.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: er zou niets wijzigen.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Alle wijzigingen</translation>
     </message>
 </context>
 <context>

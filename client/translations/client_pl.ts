@@ -146,10 +146,30 @@
         <translation>Sprawdza, czy ktoś zmienił dzienniki bazy danych, wskazuje co i kończy pracę.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>Usunięto szczegóły do zmiany numer %1</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>Usunięto szczegółów: %1, do zmiany numer %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>Nie dalej: historię zmieniono. --verify-log wskazuje co.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Usuwa z historii to, co było przed każdą zmianą starszą niż podana liczba dni i po niej, i kończy pracę. Kto i kiedy coś zmienił, pozostaje.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history wymaga liczby dni.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Pokazuje, dodaje, edytuje i usuwa węzły systemu monitoringu wizyjnego.
-Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjmuje też opcje biblioteki graficznej (-platform, -style i inne).</translation>
+Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyjmuje też opcje biblioteki graficznej (-platform, -style i inne).</translation>
     </message>
 </context>
 <context>
@@ -668,6 +688,25 @@ Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjm
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>Edycja %n węzła</numerusform>
+            <numerusform>Edycja %n węzłów</numerusform>
+            <numerusform>Edycja %n węzłów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>Co tu zmienisz, zmieni się we wszystkich poniższych. Co nie jest wszędzie takie samo, jest pokazane jako różne i pozostaje, jeśli tego nie zmienisz.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Ustalanie zmian...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -862,6 +901,14 @@ Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjm
         <source>Back to Here...</source>
         <translation>Powrót do tego miejsca...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Przechowuj...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>Szczegóły usunięto z historii: nie można tego cofnąć.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -927,6 +974,45 @@ Bez --import, --export, --backup, --restore i --verify-log otwiera okno i przyjm
     <message>
         <source>To:</source>
         <translation>Do:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Przechowywanie historii</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>Szczegóły zmiany to stan przed nią i po niej. Bez nich nie można jej pokazać ani cofnąć. Kto, kiedy i w jakim celu coś zmienił, jest zawsze przechowywane, podobnie jak dziennik zmian.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Usuwaj szczegóły &amp;starsze niż</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> dni</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Dni</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>Usuwaj najstarsze szczegóły, gdy jest ich &amp;więcej niż</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Megabajty</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Dzieje się to minutę po uruchomieniu programu i co sześć godzin.</translation>
     </message>
 </context>
 <context>
@@ -1164,10 +1250,6 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Edytuj...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Zmienia zaznaczony węzeł</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1464,6 +1546,30 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Pokazuje wszystkie węzły takimi, jakie były wcześniej, i cofa zmiany</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Zmienia wybrane węzły</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>Pod&amp;gląd zmian wielu węzłów</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Pokazuje, co stanie się z wieloma węzłami, zanim zostanie to zapisane</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Razem można edytować tylko węzły jednego typu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>Zmieniono %n węzeł.</numerusform>
+            <numerusform>Zmieniono %n węzły.</numerusform>
+            <numerusform>Zmieniono %n węzłów.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1799,6 +1905,22 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>All that can be put back</source>
         <translation>Wszystko, co można cofnąć</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Podgląd</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: to się zmieni. OK zmienia to, co zaznaczono.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: nic się nie zmieni.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Wszystkie zmiany</translation>
     </message>
 </context>
 <context>

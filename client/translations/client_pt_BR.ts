@@ -146,10 +146,30 @@
         <translation>Verifica se alguém alterou os registros do banco de dados, diz o quê e termina.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>Os detalhes até a alteração número %1 foram retirados</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>%1 detalhes retirados, até a alteração número %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>Não além disso: o histórico foi alterado. --verify-log diz o quê.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Retira do histórico o que havia antes e depois de cada alteração mais antiga que tantos dias e termina. Quem alterou algo, e quando, permanece.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history requer um número de dias.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Mostra, adiciona, edita e remove os nós de um sistema de videomonitoramento.
-Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e aceita também as opções do toolkit (-platform, -style e outras).</translation>
+Sem uma opção que faça algo e termine, como --import, abre uma janela e aceita também as opções do toolkit (-platform, -style e outras).</translation>
     </message>
 </context>
 <context>
@@ -657,6 +677,24 @@ Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e ac
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>Editar %n nó</numerusform>
+            <numerusform>Editar %n nós</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>O que você altera aqui muda em todos estes. O que não é igual em todos é mostrado como diferente e fica, a menos que você o altere.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Verificando o que muda...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -846,6 +884,14 @@ Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e ac
         <source>Back to Here...</source>
         <translation>Voltar até aqui...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Manter...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>Os detalhes foram retirados do histórico: não pode ser revertido.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -911,6 +957,45 @@ Sem --import, --export, --backup, --restore e --verify-log, abre uma janela e ac
     <message>
         <source>To:</source>
         <translation>Até:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Manter o histórico</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>Os detalhes de uma alteração são o que havia antes e depois dela. Sem eles ela não pode ser mostrada nem revertida. Quem alterou algo, quando e para quê é sempre mantido, assim como o registro de auditoria.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Retirar detalhes mais &amp;antigos que</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> dias</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Dias</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>Retirar os detalhes mais antigos quando houver &amp;mais de</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Megabytes</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Isso é feito um minuto após o início do programa e a cada seis horas.</translation>
     </message>
 </context>
 <context>
@@ -1145,10 +1230,6 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Editar...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Altera o nó selecionado</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1442,6 +1523,29 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Mostra todos os nós como eram antes e os reverte</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Altera os nós selecionados</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>Pré&amp;via de alterações em vários</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Mostra o que seria feito com vários nós antes de gravar</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Somente nós de um mesmo tipo podem ser editados juntos.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>%n nó editado.</numerusform>
+            <numerusform>%n nós editados.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1774,6 +1878,22 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>All that can be put back</source>
         <translation>Tudo o que pode ser revertido</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Prévia</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: isto é o que mudaria. OK altera o que está marcado.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: nada mudaria.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Todas as alterações</translation>
     </message>
 </context>
 <context>

@@ -146,10 +146,30 @@
         <translation>Проверяет, не изменил ли кто-нибудь журналы базы данных, называет что и завершает работу.</translation>
     </message>
     <message>
+        <source>Details up to change number %1 were taken out</source>
+        <translation>Подробности до изменения номер %1 убраны</translation>
+    </message>
+    <message>
+        <source>%1 details taken out, up to change number %2</source>
+        <translation>Убрано подробностей: %1, до изменения номер %2</translation>
+    </message>
+    <message>
+        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <translation>Не далее: история изменена. --verify-log называет что.</translation>
+    </message>
+    <message>
+        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <translation>Убирает из истории то, что было до и после каждого изменения старше стольких дней, и завершает работу. Кто и когда что-то изменил, остаётся.</translation>
+    </message>
+    <message>
+        <source>--thin-history takes a number of days.</source>
+        <translation>--thin-history требует числа дней.</translation>
+    </message>
+    <message>
         <source>Shows, adds, edits and removes the nodes of a video-surveillance system.
-Without --import, --export, --backup, --restore and --verify-log it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
+Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Показывает, добавляет, изменяет и удаляет узлы системы видеонаблюдения.
-Без --import, --export, --backup, --restore и --verify-log открывает окно и принимает также параметры графической библиотеки (-platform, -style и другие).</translation>
+Без параметра, который что-то делает и завершает работу, например --import, открывает окно и принимает также параметры графической библиотеки (-platform, -style и другие).</translation>
     </message>
 </context>
 <context>
@@ -668,6 +688,25 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
     </message>
 </context>
 <context>
+    <name>EditSeveralDialog</name>
+    <message numerus="yes">
+        <source>Edit %n Nodes</source>
+        <translation>
+            <numerusform>Изменение %n узла</numerusform>
+            <numerusform>Изменение %n узлов</numerusform>
+            <numerusform>Изменение %n узлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>What you change here changes in all of these. What is not the same in all of them is shown as different, and stays unless you change it.</source>
+        <translation>Что вы измените здесь, изменится у всех этих узлов. Что не у всех одинаково, показано как различающееся и остаётся, если вы его не измените.</translation>
+    </message>
+    <message>
+        <source>Looking at what changes...</source>
+        <translation>Определяется, что изменится...</translation>
+    </message>
+</context>
+<context>
     <name>EmptyState</name>
     <message>
         <source>Show All Nodes</source>
@@ -862,6 +901,14 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
         <source>Back to Here...</source>
         <translation>Назад сюда...</translation>
     </message>
+    <message>
+        <source>Keep...</source>
+        <translation>Хранение...</translation>
+    </message>
+    <message>
+        <source>The details were taken out of the history: it cannot be put back.</source>
+        <translation>Подробности убраны из истории: вернуть это нельзя.</translation>
+    </message>
 </context>
 <context>
     <name>HistoryExport</name>
@@ -927,6 +974,45 @@ Without --import, --export, --backup, --restore and --verify-log it opens a wind
     <message>
         <source>To:</source>
         <translation>По:</translation>
+    </message>
+</context>
+<context>
+    <name>HistoryLimitDialog</name>
+    <message>
+        <source>Keep History</source>
+        <translation>Хранение истории</translation>
+    </message>
+    <message>
+        <source>The details of a change are what was before and after it. Without them it can be neither shown nor put back. Who changed something, when and what for is always kept, and so is the audit log.</source>
+        <translation>Подробности изменения — это то, что было до и после него. Без них его нельзя ни показать, ни вернуть. Кто, когда и зачем что-то изменил, хранится всегда, как и журнал аудита.</translation>
+    </message>
+    <message>
+        <source>Take out details that are &amp;older than</source>
+        <translation>Убирать подробности &amp;старше чем</translation>
+    </message>
+    <message>
+        <source> days</source>
+        <translation> дн.</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Дни</translation>
+    </message>
+    <message>
+        <source>Take out the oldest details when there are &amp;more than</source>
+        <translation>Убирать самые старые подробности, если их &amp;больше чем</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> МБ</translation>
+    </message>
+    <message>
+        <source>Megabytes</source>
+        <translation>Мегабайты</translation>
+    </message>
+    <message>
+        <source>This is done a minute after the start of the program and every six hours.</source>
+        <translation>Это делается через минуту после запуска программы и каждые шесть часов.</translation>
     </message>
 </context>
 <context>
@@ -1164,10 +1250,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>&amp;Edit...</source>
         <translation>&amp;Изменить...</translation>
-    </message>
-    <message>
-        <source>Changes the selected node</source>
-        <translation>Изменяет выбранный узел</translation>
     </message>
     <message>
         <source>&amp;Remove...</source>
@@ -1464,6 +1546,30 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Shows all nodes as they were before, and puts them back</source>
         <translation>Показывает все узлы такими, какими они были раньше, и возвращает их</translation>
+    </message>
+    <message>
+        <source>Changes the selected nodes</source>
+        <translation>Изменяет выбранные узлы</translation>
+    </message>
+    <message>
+        <source>Pre&amp;view Changes to Several</source>
+        <translation>Предварительный прос&amp;мотр изменений</translation>
+    </message>
+    <message>
+        <source>Shows what would be done to several nodes before it is stored</source>
+        <translation>Показывает, что будет сделано с несколькими узлами, до сохранения</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together.</source>
+        <translation>Вместе можно изменять только узлы одного типа.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) edited.</source>
+        <translation>
+            <numerusform>Изменён %n узел.</numerusform>
+            <numerusform>Изменены %n узла.</numerusform>
+            <numerusform>Изменено %n узлов.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1799,6 +1905,22 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>All that can be put back</source>
         <translation>Всё, что можно вернуть</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Предварительный просмотр</translation>
+    </message>
+    <message>
+        <source>%1: this is what would change. OK changes what is ticked.</source>
+        <translation>%1: вот что изменится. OK изменяет отмеченное.</translation>
+    </message>
+    <message>
+        <source>%1: nothing would change.</source>
+        <translation>%1: ничего не изменится.</translation>
+    </message>
+    <message>
+        <source>All changes</source>
+        <translation>Все изменения</translation>
     </message>
 </context>
 <context>

@@ -677,6 +677,14 @@
         <source>Others use it now.</source>
         <translation>Nyní to používají jiné.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Dny historie</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Megabajty historie</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -814,6 +822,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>Povoleno odesílat heslo %1 v otevřené podobě.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>Historie zredukována</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Z historie odebrány podrobnosti změn do čísla %1: řádků %2.</translation>
     </message>
 </context>
 <context>
@@ -1117,6 +1133,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Vybrat složku</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(prázdné)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(různé)</translation>
     </message>
 </context>
 <context>

@@ -668,6 +668,14 @@
         <source>Others use it now.</source>
         <translation>Andere benutzen es jetzt.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Tage des Verlaufs</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Megabyte des Verlaufs</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -805,6 +813,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>Es wurde erlaubt, das Passwort von %1 im Klartext zu senden.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>Verlauf ausgedünnt</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Einzelheiten der Änderungen bis Nummer %1 aus dem Verlauf entfernt: %2 Zeilen.</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Ordner auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(verschieden)</translation>
     </message>
 </context>
 <context>

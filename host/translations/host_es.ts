@@ -668,6 +668,14 @@
         <source>Others use it now.</source>
         <translation>Otros lo usan ahora.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Días de historial</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Megabytes de historial</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -805,6 +813,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>Se ha permitido enviar sin cifrar la contraseña de %1.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>Historial reducido</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Detalles de los cambios hasta el número %1 quitados del historial: %2 líneas.</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Seleccionar carpeta</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(vacío)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(distintos)</translation>
     </message>
 </context>
 <context>

@@ -668,6 +668,14 @@
         <source>Others use it now.</source>
         <translation>D&apos;autres l&apos;utilisent maintenant.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Jours d&apos;historique</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Mégaoctets d&apos;historique</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -805,6 +813,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>L&apos;envoi en clair du mot de passe de %1 a été autorisé.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>Historique allégé</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Détails des modifications jusqu&apos;au numéro %1 retirés de l&apos;historique : %2 lignes.</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Choisir un dossier</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(vide)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(différents)</translation>
     </message>
 </context>
 <context>

@@ -668,6 +668,14 @@
         <source>Others use it now.</source>
         <translation>Ora lo usano altri.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Giorni di cronologia</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Megabyte di cronologia</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -805,6 +813,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>Consentito l&apos;invio in chiaro della password di %1.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>Cronologia sfoltita</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Dettagli delle modifiche fino al numero %1 tolti dalla cronologia: %2 righe.</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Seleziona cartella</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(vuoto)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(diversi)</translation>
     </message>
 </context>
 <context>

@@ -659,6 +659,14 @@
         <source>Others use it now.</source>
         <translation>現在ほかで使用されています。</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>履歴の日数</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>履歴のメガバイト数</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -796,6 +804,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>%1のパスワードを平文で送信することを許可しました。</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>履歴の間引き</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>番号%1までの変更の詳細を履歴から取り除きました: %2行。</translation>
     </message>
 </context>
 <context>
@@ -1099,6 +1115,17 @@
     <message>
         <source>Select Folder</source>
         <translation>フォルダーの選択</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(空)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(異なる)</translation>
     </message>
 </context>
 <context>

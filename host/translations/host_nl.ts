@@ -668,6 +668,14 @@
         <source>Others use it now.</source>
         <translation>Anderen gebruiken het nu.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Dagen geschiedenis</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Megabytes geschiedenis</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -805,6 +813,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>Toegestaan om het wachtwoord van %1 onversleuteld te sturen.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>Geschiedenis uitgedund</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Details van wijzigingen tot en met nummer %1 uit de geschiedenis gehaald: %2 regels.</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Map selecteren</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(leeg)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(verschillend)</translation>
     </message>
 </context>
 <context>

@@ -677,6 +677,14 @@
         <source>Others use it now.</source>
         <translation>Teraz używają tego inne.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Dni historii</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Megabajty historii</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -814,6 +822,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>Zezwolono na wysyłanie hasła %1 jawnym tekstem.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>Przerzedzono historię</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Usunięto z historii szczegóły zmian do numeru %1: %2 wierszy.</translation>
     </message>
 </context>
 <context>
@@ -1117,6 +1133,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Wybierz folder</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(puste)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(różne)</translation>
     </message>
 </context>
 <context>

@@ -668,6 +668,14 @@
         <source>Others use it now.</source>
         <translation>Outros o usam agora.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Dias de histórico</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Megabytes de histórico</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -805,6 +813,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>Permitido enviar a senha de %1 sem criptografia.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>Histórico reduzido</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Detalhes das alterações até o número %1 retirados do histórico: %2 linhas.</translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1124,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Selecionar pasta</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(vazio)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(diferentes)</translation>
     </message>
 </context>
 <context>

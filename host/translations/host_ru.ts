@@ -677,6 +677,14 @@
         <source>Others use it now.</source>
         <translation>Теперь его используют другие.</translation>
     </message>
+    <message>
+        <source>Days of history</source>
+        <translation>Дни истории</translation>
+    </message>
+    <message>
+        <source>Megabytes of history</source>
+        <translation>Мегабайты истории</translation>
+    </message>
 </context>
 <context>
     <name>HostNodeDB</name>
@@ -814,6 +822,14 @@
     <message>
         <source>Allowed to send the password of %1 in the clear.</source>
         <translation>Разрешено отправлять пароль %1 в открытом виде.</translation>
+    </message>
+    <message>
+        <source>Thinned history</source>
+        <translation>История прорежена</translation>
+    </message>
+    <message>
+        <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
+        <translation>Из истории убраны подробности изменений до номера %1: строк %2.</translation>
     </message>
 </context>
 <context>
@@ -1117,6 +1133,17 @@
     <message>
         <source>Select Folder</source>
         <translation>Выберите папку</translation>
+    </message>
+</context>
+<context>
+    <name>SharedEditor</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(пусто)</translation>
+    </message>
+    <message>
+        <source>(different)</source>
+        <translation>(различаются)</translation>
     </message>
 </context>
 <context>
