@@ -45,7 +45,9 @@ QStringList changedBy(const ChangeSet& set, const QStringList& nodes)
 std::optional<QStringList> show(const ChangeSet& draft, QDialog& dialog, HostNodeDB& db,
                                 const QStringList& nodes, Purpose purpose)
 {
-    const std::optional<PutBack> lines = PuttingBack::preview(db, Alterations::of(draft.inverse()));
+    ChangeSet opposite = draft.inverse();
+    std::reverse(opposite.nodes.begin(), opposite.nodes.end()); // in the order of the list
+    const std::optional<PutBack> lines = PuttingBack::preview(db, Alterations::of(opposite));
     if (!lines)
         return std::nullopt;
     QStringList changed;
