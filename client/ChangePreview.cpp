@@ -12,8 +12,6 @@
 
 namespace ko {
 
-namespace ChangePreview {
-
 namespace {
 
 const char wantedKey[] = "preview/wanted";
@@ -41,65 +39,75 @@ QStringList changedBy(const ChangeSet& set, const QStringList& nodes)
     return result;
 }
 
-/// Does what is ticked of \a draft. None if the user wants nothing of it, or it cannot be read.
-std::optional<QStringList> show(const ChangeSet& draft, QDialog& dialog, HostNodeDB& db,
-                                const QStringList& nodes, Purpose purpose)
-{
-    ChangeSet opposite = draft.inverse();
-    std::reverse(opposite.nodes.begin(), opposite.nodes.end()); // in the order of the list
-    const std::optional<PutBack> lines = PuttingBack::preview(db, Alterations::of(opposite));
-    if (!lines)
-        return std::nullopt;
-    QStringList changed;
-    const auto apply = [&](const PutBack& shown) {
-        return PuttingBack::apply(db, shown, Cause::now(purpose), [&](const ChangeSet& set) {
-            changed = changedBy(set, nodes);
-            logChanged(db, changed);
-        });
-    };
-    PutBackDialog preview([&dialog] { return dialog.windowTitle(); }, *lines, PutBackDialog::words(db), apply,
-                          dialog.parentWidget(), PutBackDialog::Kind::Change);
-    if (preview.exec() != QDialog::Accepted)
-        return std::nullopt;
-    return changed;
-}
-
 } // namespace
 
-bool isWanted()
+bool ChangePreview::isWanted()
 {
     return QSettings().value(QLatin1String(wantedKey), false).toBool();
 }
 
-void setWanted(bool wanted)
+void ChangePreview::setWanted(bool wanted)
 {
     QSettings().setValue(QLatin1String(wantedKey), wanted);
 }
 
-std::optional<QStringList> exec(QDialog& dialog, HostNodeDB& db, const QStringList& nodes, Purpose purpose)
+ManyNodes::ManyNodes(HostNodeDB& db, const QStringList& nodes, Purpose purpose)
+    : m_db(db)
+    , m_nodes(nodes)
+    , m_purpose(purpose)
+    , m_isShown(nodes.size() > 1 && ChangePreview::isWanted())
 {
-    const bool isShown = nodes.size() > 1 && isWanted();
-    ChangeSet draft;
-    // Before the event loop goes on, which would store it.
-    const QMetaObject::Connection taken = QObject::connect(&dialog, &QDialog::accepted, &dialog, [&] {
-        if (isShown)
-            draft = db.withdraw();
-    });
-    std::optional<QStringList> changed;
-    while (!changed && dialog.exec() == QDialog::Accepted) {
-        if (isShown) {
-            changed = show(draft, dialog, db, nodes, purpose);
-            continue;
-        }
-        logChanged(db, nodes);
-        changed = nodes;
+}
+
+void ManyNodes::begin()
+{
+    const Cause cause = Cause::now(m_purpose);
+    if (m_isShown)
+        m_db.beginDraft(cause);
+    else
+        m_db.enter(cause);
+}
+
+void ManyNodes::end(bool isAccepted, int handled)
+{
+    m_handled = handled;
+    if (m_isShown) {
+        m_draft = m_db.endDraft();
+        return;
     }
-    QObject::disconnect(taken);
+    if (isAccepted)
+        logChanged(m_db, m_nodes.mid(0, handled));
+    m_db.leave();
+}
+
+std::optional<QStringList> ManyNodes::run(QDialog& dialog)
+{
+    std::optional<QStringList> changed;
+    while (!changed && dialog.exec() == QDialog::Accepted)
+        changed = m_isShown ? showDraft(dialog) : m_nodes.mid(0, m_handled);
     if (changed)
-        db.flush(); // on disk when the dialog has closed
+        m_db.flush(); // on disk when the dialog has closed
     return changed;
 }
 
-} // namespace ChangePreview
+/// Does what is ticked of the draft. None if the user wants nothing of it, or it cannot be read.
+std::optional<QStringList> ManyNodes::showDraft(QDialog& dialog)
+{
+    ChangeSet opposite = m_draft.inverse();
+    std::reverse(opposite.nodes.begin(), opposite.nodes.end()); // in the order of the list
+    const std::optional<PutBack> lines = PuttingBack::preview(m_db, Alterations::of(opposite));
+    if (!lines)
+        return std::nullopt;
+    QStringList changed;
+    const auto apply = [&](const PutBack& shown) {
+        return PuttingBack::apply(m_db, shown, Cause::now(m_purpose), [&](const ChangeSet& set) {
+            changed = changedBy(set, m_nodes);
+            logChanged(m_db, changed);
+        });
+    };
+    PutBackDialog preview([&dialog] { return dialog.windowTitle(); }, *lines, PutBackDialog::words(m_db),
+                          apply, dialog.parentWidget(), PutBackDialog::Kind::Change);
+    return preview.exec() == QDialog::Accepted ? std::make_optional(changed) : std::nullopt;
+}
 
 } // namespace ko

@@ -4,11 +4,13 @@
 #include "FillInDialog.h"
 #include "NameList.h"
 #include "PlainMessageBox.h"
+#include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/RecordingFolderAssignmentDialog.h"
 #include "dialogs/RecordingFolderMassAssignmentDialog.h"
 #include "drivers/RemotePreviewDraft.h"
+#include "inspector/NodeChangeLogEntry.h"
 #include "ko/IPDeviceNode.h"
 #include "ko/dialogFlags.h"
 #include "utils/NodeDBUtils.h"
@@ -138,8 +140,9 @@ QString editRecordings(HostNodeDB& db, const QStringList& devices, QWidget* pare
         return Texts::tr("Only IP devices can be set together. Select one of the others at a time.");
     if (!agreeOnCameras(db, &cameras, parent))
         return QString();
-    RecordingFolderMassAssignmentDialog dialog(parent, cameras, dialogFlags(false));
-    const std::optional<QStringList> changed = ChangePreview::exec(dialog, db, cameras, Purpose::Recording);
+    ForMany<RecordingFolderMassAssignmentDialog> dialog(db, cameras, Purpose::Recording, parent, cameras,
+                                                        dialogFlags(false));
+    const std::optional<QStringList> changed = dialog.run();
     if (!changed)
         return QString();
     const int others = int(devices.size() - changed->size());
@@ -157,17 +160,20 @@ QString editRecording(HostNodeDB& db, const QStringList& devices, QWidget* paren
         return editRecordings(db, devices, parent);
     RecordingFolderAssignmentDialog dialog(devices.constFirst(), parent);
     new RemotePreviewDraft(devices.constFirst(), &dialog); // owned by the dialog
-    return ChangePreview::exec(dialog, db, devices, Purpose::Recording)
-               ? Texts::tr("%n device(s): access to recordings set.", nullptr, 1)
-               : QString();
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    db.auditLog().log(NodeChangeLogEntry(db.summary(devices.constFirst()).name));
+    db.flush(); // on disk when the dialog has closed
+    return Texts::tr("%n device(s): access to recordings set.", nullptr, 1);
 }
 
 QString editCredentials(HostNodeDB& db, const QStringList& devices, QWidget* parent)
 {
     if (!agreeOnCredentials(db, devices, parent))
         return QString();
-    NodeAuthenticateDialog dialog(parent, devices, dialogFlags(false));
-    const std::optional<QStringList> changed = ChangePreview::exec(dialog, db, devices, Purpose::Credentials);
+    ForMany<NodeAuthenticateDialog> dialog(db, devices, Purpose::Credentials, parent, devices,
+                                           dialogFlags(false));
+    const std::optional<QStringList> changed = dialog.run();
     return changed ? Texts::tr("%n device(s): user name and password set.", nullptr, int(changed->size()))
                    : QString();
 }

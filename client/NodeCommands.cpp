@@ -65,8 +65,8 @@ void editSeveral(MainWindow& window)
         window.say(MainWindow::tr("Only nodes of one type can be edited together."));
         return;
     }
-    EditSeveralDialog dialog(db, type, ids, &window);
-    const std::optional<QStringList> changed = ChangePreview::exec(dialog, db, ids, Purpose::Edit);
+    ForMany<EditSeveralDialog> dialog(db, ids, Purpose::Edit, db, type, ids, &window);
+    const std::optional<QStringList> changed = dialog.run();
     if (!changed)
         return;
     window.applyChanges();

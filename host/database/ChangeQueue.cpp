@@ -84,6 +84,13 @@ void ChangeQueue::schedule()
         Qt::QueuedConnection);
 }
 
+void ChangeQueue::hold(bool isHeld)
+{
+    m_isHeld = isHeld;
+    if (!isHeld && !m_memory.pending.isEmpty())
+        schedule();
+}
+
 void ChangeQueue::scheduleLine()
 {
     if (!m_lineTimer.isActive())
@@ -92,7 +99,7 @@ void ChangeQueue::scheduleLine()
 
 bool ChangeQueue::flush()
 {
-    if (m_memory.pending.isEmpty() || m_isAlone)
+    if (m_memory.pending.isEmpty() || m_isAlone || m_isHeld)
         return true;
     StoreError error;
     return storeAfter(nullptr, &error) || writeFailed(error);
@@ -100,6 +107,10 @@ bool ChangeQueue::flush()
 
 StoreOutcome ChangeQueue::runAlone(const std::function<void()>& work, StoreError* error)
 {
+    if (m_isHeld) { // as if another program had it
+        *error = StoreError::make(StoreError::Locked, m_store.fileName(), QLatin1String("held"));
+        return StoreOutcome::NotRun;
+    }
     bool hasRun = false;
     const auto noteAndRun = [&] {
         hasRun = true;

@@ -28,6 +28,9 @@ public:
     /// Looks for changes of others from now on.
     void start();
 
+    /// While it is held, nothing is stored.
+    void hold(bool isHeld);
+
     /// Something waits.
     void schedule();
     /// A line of the program log waits, which alone is worth no commit at once.
@@ -92,6 +95,7 @@ private:
     std::shared_future<StoreError> m_check;
     bool m_scheduled = false;
     bool m_isAlone = false; ///< within runAlone()
+    bool m_isHeld = false;
     bool m_failing = false;
     bool m_keyMissing = false; ///< which is why it fails
     QString m_lastDamage;

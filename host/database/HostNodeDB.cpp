@@ -126,9 +126,14 @@ bool HostNodeDB::apply(const ChangeSet& set)
     return d->nodes.apply(set);
 }
 
-ChangeSet HostNodeDB::withdraw()
+void HostNodeDB::beginDraft(const Cause& cause)
 {
-    return d->nodes.withdraw();
+    d->beginDraft(cause);
+}
+
+ChangeSet HostNodeDB::endDraft()
+{
+    return d->endDraft();
 }
 
 void HostNodeDB::addNodeRelation(const QString& from, const QString& to, ENodeRelationType type)

@@ -130,10 +130,11 @@ public:
     /// that is there is not added. False when something could not be read; nothing is done then.
     bool apply(const ChangeSet& set);
 
-    /// Takes back what was changed since the event loop waited last, or of the cause that was entered, and is
-    /// not stored yet, and returns it: what a window would do can be shown before it is done. Nothing if
-    /// nodes were removed.
-    ChangeSet withdraw();
+    /// From here on nothing is stored until endDraft(), which takes back what was changed under \a cause
+    /// meanwhile and returns it: what a window would do can be shown before it is done. What else was changed
+    /// stays, and is stored then. If nodes were removed, nothing is taken back, nor returned.
+    void beginDraft(const Cause& cause);
+    ChangeSet endDraft();
 
     /// Stores all changes now. False when that failed; storeFailed() has been emitted then. Looks for the key
     /// of the passwords again when the last try failed without it, which may take until the user has opened

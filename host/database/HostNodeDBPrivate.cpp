@@ -110,6 +110,21 @@ void HostNodeDB::Private::startScanners(const std::string& name, unsigned interf
                                      .arg(QString::fromStdString(name)));
 }
 
+void HostNodeDB::Private::beginDraft(const Cause& cause)
+{
+    m_draft = cause;
+    queue.hold(true);
+    memory.pending.enter(cause);
+}
+
+ChangeSet HostNodeDB::Private::endDraft()
+{
+    ChangeSet draft = nodes.withdraw(m_draft);
+    memory.pending.leave();
+    queue.hold(false);
+    return draft;
+}
+
 /// Only when somebody asks for it, the key is looked for again: the keychain may in turn ask the user, and
 /// runs an event loop.
 bool HostNodeDB::Private::flush()

@@ -24,6 +24,8 @@ public:
     void announce(const Notices& notices);
     void startScanners(const std::string& name, unsigned interfaces, int limit);
     bool flush();
+    void beginDraft(const Cause& cause);
+    ChangeSet endDraft();
 
     HostNodeDB& q;
     const std::unique_ptr<NodeStore> store;
@@ -41,6 +43,7 @@ private:
     void prepareSome();
 
     QTimer m_idle; ///< prepares between other things what else the first window would wait for
+    Cause m_draft;
     std::set<std::string> m_missingScanners; ///< known to be missing, said once each
 };
 

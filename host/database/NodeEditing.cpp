@@ -172,18 +172,26 @@ bool NodeEditing::apply(const ChangeSet& set)
     });
 }
 
-ChangeSet NodeEditing::withdraw()
+ChangeSet NodeEditing::withdraw(const Cause& cause)
 {
-    const ChangeSet set = m_memory.pending.currentSet();
-    const bool hasRemoved = std::any_of(set.nodes.cbegin(), set.nodes.cend(),
+    ChangeSet whole;
+    const QVector<ChangeSet> sets = m_memory.pending.setsOf(cause);
+    for (const ChangeSet& set : sets) {
+        whole.nodes += set.nodes;
+        whole.relations += set.relations;
+        whole.settings += set.settings;
+        if (set.environments)
+            whole.environments = set.environments;
+    }
+    const bool hasRemoved = std::any_of(whole.nodes.cbegin(), whole.nodes.cend(),
                                         [](const NodeChange& change) { return change.isRemoved(); });
     if (hasRemoved)
         return ChangeSet(); // the store alone knows what they were
-    m_memory.pending.dropCurrentSet();
-    const Notices notices = applyAll(set.inverse());
-    m_memory.pending.dropCurrentSet(); // what takes it back is no change either
+    m_memory.pending.drop(cause);
+    const Notices notices = applyAll(whole.inverse());
+    m_memory.pending.drop(cause); // what takes it back is no change either
     m_announce(notices);
-    return set;
+    return whole;
 }
 
 Notices NodeEditing::applyAll(const ChangeSet& set)

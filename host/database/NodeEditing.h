@@ -34,8 +34,8 @@ public:
     /// Does all that \a set says, as far as it still can be done: a node that is gone is not changed, one
     /// that is there not added. False, with nothing done, if something cannot be read.
     bool apply(const ChangeSet& set);
-    /// Takes back what was changed last and is not stored; see HostNodeDB.
-    ChangeSet withdraw();
+    /// Takes back what was changed under \a cause, which was entered; see HostNodeDB::endDraft().
+    ChangeSet withdraw(const Cause& cause);
 
 private:
     NodeRecord* read(const NodeID& id);

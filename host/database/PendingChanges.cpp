@@ -197,15 +197,21 @@ ChangeSet PendingChanges::setOf(const Making& making)
     return set;
 }
 
-ChangeSet PendingChanges::currentSet()
+QVector<ChangeSet> PendingChanges::setsOf(const Cause& cause) const
 {
-    return setOf(current());
+    QVector<ChangeSet> result;
+    for (const Making& making : m_making) {
+        if (making.set.cause.id == cause.id)
+            result.append(setOf(making));
+    }
+    return result;
 }
 
-void PendingChanges::dropCurrentSet()
+void PendingChanges::drop(const Cause& cause)
 {
-    current();
-    m_making.pop_back();
+    m_making.erase(std::remove_if(m_making.begin(), m_making.end(),
+                                  [&cause](const Making& making) { return making.set.cause.id == cause.id; }),
+                   m_making.end());
 }
 
 bool PendingChanges::adds(const NodeID& id) const

@@ -40,10 +40,11 @@ public:
     /// What is changed after this without a cause is another change set than what was changed before.
     void endTurn() { m_turn.reset(); }
 
-    /// What was done to the current set, as it would be stored.
-    ChangeSet currentSet();
+    /// What was done under \a cause, as it would be stored: several, where something else was done in
+    /// between.
+    QVector<ChangeSet> setsOf(const Cause& cause) const;
     /// Forgets it.
-    void dropCurrentSet();
+    void drop(const Cause& cause);
 
     // What is done to the current set.
     void nodeAdded(const NodeChange& change);

@@ -50,7 +50,7 @@ private slots:
     void anyValueComesBack();
     void manyAtRandomAndBack();
     void whatIsWithdrawnWasNeverDone();
-    void onlyTheLastIsWithdrawn();
+    void onlyTheDraftIsWithdrawn();
     void removalsAreNotWithdrawn();
 
 private:
@@ -385,6 +385,7 @@ void TestChangeSets::whatIsWithdrawnWasNeverDone()
                             QString::number(m_db->bandwidth()), QString::number(m_db->summaries().size())});
     };
     const QStringList before = inMemory();
+    m_db->beginDraft(Cause::now(Purpose::Edit));
     setText(*m_db, m_camera, "Model", "Dome");
     setText(*m_db, m_camera, "Name", "Tower");
     const QString folder = addNode(*m_db, RecordingFolderType, QLatin1String("New"), QLatin1String("/new"));
@@ -394,7 +395,10 @@ void TestChangeSets::whatIsWithdrawnWasNeverDone()
     const QStringList changed = inMemory();
     QVERIFY(changed != before);
 
-    const ChangeSet set = m_db->withdraw();
+    QTest::qWait(1); // turns of the event loop store nothing
+    QVERIFY(m_db->flush());
+    QCOMPARE(stateOf(m_file), stored);
+    const ChangeSet set = m_db->endDraft();
     QCOMPARE(inMemory(), before);
     QVERIFY(!m_db->hasUnstoredChanges());
     QVERIFY(newSets().isEmpty());
@@ -405,18 +409,25 @@ void TestChangeSets::whatIsWithdrawnWasNeverDone()
     QCOMPARE(int(newSets().size()), 1);
 }
 
-/// A scan may have found something in the same turn.
-void TestChangeSets::onlyTheLastIsWithdrawn()
+/// A scan may find something meanwhile.
+void TestChangeSets::onlyTheDraftIsWithdrawn()
 {
+    m_db->beginDraft(Cause::now(Purpose::Edit));
+    setText(*m_db, m_camera, "Model", "Bullet");
     {
         const ChangeScope scan(*m_db, Cause::now(Purpose::Scan));
-        setText(*m_db, m_camera, "Model", "Dome");
+        setText(*m_db, m_camera, "Version", "7.1");
+        StoreError error;
+        QCOMPARE(m_db->runAlone([] {}, &error), StoreOutcome::NotRun);
+        QCOMPARE(error.kind, StoreError::Locked);
     }
-    setText(*m_db, m_camera, "Model", "Bullet");
-    const ChangeSet set = m_db->withdraw();
-    QCOMPARE(int(set.nodes.size()), 1);
+    setText(*m_db, m_camera, "User", "admin");
+    const ChangeSet set = m_db->endDraft();
+    QCOMPARE(int(set.nodes.size()), 2);
     QCOMPARE(set.nodes.first().after->properties.value("Model").toString(), QString("Bullet"));
-    QCOMPARE(m_db->node(m_camera)->stringProperty("Model", QString()), QString("Dome"));
+    QCOMPARE(set.nodes.last().after->properties.value("User").toString(), QString("admin"));
+    QCOMPARE(m_db->node(m_camera)->stringProperty("Model", QString()), QString());
+    QCOMPARE(m_db->node(m_camera)->stringProperty("Version", QString()), QString("7.1"));
     const QVector<ChangeSet> sets = newSets();
     QCOMPARE(int(sets.size()), 1);
     QCOMPARE(sets.first().cause.purpose, Purpose::Scan);
@@ -425,8 +436,9 @@ void TestChangeSets::onlyTheLastIsWithdrawn()
 /// What they were nobody has read.
 void TestChangeSets::removalsAreNotWithdrawn()
 {
+    m_db->beginDraft(Cause::now(Purpose::Remove));
     m_db->removeNode(m_camera);
-    QVERIFY(!m_db->withdraw().hasChanges());
+    QVERIFY(!m_db->endDraft().hasChanges());
     QVERIFY(m_db->node(m_camera).null());
     QCOMPARE(int(newSets().size()), 1);
 }
