@@ -40,8 +40,8 @@ void MomentReading::start()
 
 int MomentReading::progress() const
 {
-    const qint64 done = m_later.all().size() + m_nodes - m_toRead.size();
-    const qint64 all = m_later.all().size() + m_later.remaining() + m_nodes;
+    const qint64 done = m_later.count() + m_nodes - m_toRead.size();
+    const qint64 all = m_later.count() + m_later.remaining() + m_nodes;
     return all > 0 ? int(1000 * done / all) : 0;
 }
 
@@ -66,8 +66,7 @@ void MomentReading::readSome()
 bool MomentReading::readChanges(int count)
 {
     const bool isMore = m_later.readSome(count);
-    const PresentState::Wanted wanted = Alterations::wanted(m_later.all().mid(m_seen));
-    m_seen = int(m_later.all().size());
+    const PresentState::Wanted wanted = Alterations::wanted(m_later.takeNew());
     for (const NodeID& id : wanted.values) {
         m_toRead.append(id);
         m_now.nodes.remove(id);
@@ -98,9 +97,9 @@ void MomentReading::complete()
 {
     m_db.flush();
     m_db.syncForeignChanges();
-    const int seen = m_seen;
+    const qint64 seen = m_later.count();
     readChanges(AllChanges);
-    if (m_seen > seen)
+    if (m_later.count() > seen)
         return;
     m_timer.stop();
     PresentState::Wanted links = m_wanted;

@@ -53,7 +53,6 @@ private:
 
     HostNodeDB& m_db;
     LaterChanges m_later;
-    int m_seen = 0; ///< alterations, of which it is known what must be read
     QTimer m_timer;
     bool m_areChangesRead = false;
     QStringList m_toRead;

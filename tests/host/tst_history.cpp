@@ -141,6 +141,7 @@ private slots:
     void titles();
     void anyMomentComesBack();
     void anyMomentCanBeSeen();
+    void valuesThatChangeOftenAreOneChange();
     void manyInRandomOrder();
 
 private:
@@ -632,6 +633,28 @@ void TestHistory::anyMomentCanBeSeen()
             QVERIFY2(seen.contains(line) || !line.contains(nodeLine), qPrintable(line));
     }
     QVERIFY(states.size() > 50);
+}
+
+/// It is read in parts, and changed meanwhile.
+void TestHistory::valuesThatChangeOftenAreOneChange()
+{
+    const qint64 before = m_last;
+    LaterChanges later(m_db->history(), before);
+    for (int i = 0; i < 300; ++i) {
+        setText(*m_db, m_camera, "Model", QString::number(i));
+        if (i == 100)
+            setText(*m_db, m_camera, "Name", "Tower");
+        QVERIFY(m_db->flush());
+        if (i % 7 == 0)
+            later.readSome(3);
+    }
+    while (later.readSome(1000)) {
+    }
+    QCOMPARE(later.count(), 301);
+    QCOMPARE(int(later.takeNew().size()), 301);
+    QCOMPARE(int(later.all().size()), 2);
+    QCOMPARE(later.all().first().after.toString(), QString("299"));
+    QVERIFY(later.takeNew().isEmpty());
 }
 
 void TestHistory::manyInRandomOrder()
