@@ -203,18 +203,18 @@ void MomentWindow::showState()
 {
     const QLocale locale;
     const MomentRows& all = m_nodes.all();
-    QString text = m_isRead ? tr("%1 nodes then, %2 different now; %3 shown")
-                                  .arg(locale.toString(all.nodeCount()), locale.toString(all.differing()),
-                                       locale.toString(m_nodes.rowCount()))
-                            : tr("Reading what was done since...");
+    QStringList texts = {m_isRead
+                             ? tr("%1 nodes then, %2 different now; %3 shown")
+                                   .arg(locale.toString(all.nodeCount()), locale.toString(all.differing()),
+                                        locale.toString(m_nodes.rowCount()))
+                             : tr("Reading what was done since...")};
     if (!all.others.isEmpty())
-        text += QLatin1Char(' ') + tr("Settings or environments are different, too.");
+        texts.append(tr("Settings or environments are different, too."));
     if (all.unknown > 0)
-        text += QLatin1Char(' ') +
-                tr("%n change(s) since then do not fit what is there now: what was before them "
-                   "is not known.",
-                   nullptr, all.unknown);
-    m_state->setText(text);
+        texts.append(tr("%n change(s) since then do not fit what is there now: what was before them "
+                        "is not known.",
+                        nullptr, all.unknown));
+    m_state->setText(texts.join(QString::fromUtf8(" \u00b7 ")));
     m_putBackAll->setEnabled(m_isRead);
     m_putBackSelected->setEnabled(m_isRead && m_nodesView->selectionModel()->hasSelection());
 }
