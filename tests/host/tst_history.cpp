@@ -616,14 +616,14 @@ void TestHistory::anyMomentCanBeSeen()
 {
     std::mt19937 random(815);
     std::map<qint64, QStringList> states; // by the last change set
-    changeByTwo(random, 100, [&] {
+    changeByTwo(random, soakOr(1000, 100), [&] {
         m_db->syncForeignChanges();
         states[m_last] = contentOf(*m_db);
     });
     m_db->syncForeignChanges();
     const QStringList now = contentOf(*m_db);
     static const QRegularExpression nodeLine("^[^ ]*(=|->)");
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < soakOr(50, 10); ++i) {
         const auto state = std::next(states.begin(), int(random() % states.size()));
         const QStringList then = contentOf(*m_db, state->first, true);
         QCOMPARE(without(then, state->second).join('\n'), QString());
