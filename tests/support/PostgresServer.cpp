@@ -165,6 +165,9 @@ void PostgresServer::signalAll(int number)
 
 void PostgresServer::kill()
 {
+    // Else it could start one more after it was asked which there are, that lives on with the memory of all.
+    if (m_process.state() != QProcess::NotRunning)
+        ::kill(pid_t(m_process.processId()), SIGSTOP);
     signalAll(SIGKILL);
     if (m_process.state() != QProcess::NotRunning)
         m_process.waitForFinished(Patience);
@@ -213,6 +216,11 @@ QString PostgresServer::run(const QString& database, const QString& sql)
 QString PostgresServer::address(const QString& database, const QString& user) const
 {
     return QStringLiteral("host=%1 dbname=%2 user=%3").arg(m_folder->path(), database, user);
+}
+
+QString PostgresServer::url(const QString& database, const QString& user) const
+{
+    return QStringLiteral("postgresql://%1@/%2?host=%3").arg(user, database, m_folder->path());
 }
 
 } // namespace testsupport

@@ -40,6 +40,9 @@ public:
     /// How libpq reaches a database of it.
     QString address(const QString& database, const QString& user = QStringLiteral("postgres")) const;
 
+    /// The same as a URL.
+    QString url(const QString& database, const QString& user = QStringLiteral("postgres")) const;
+
     /// Why something returned false.
     const QString& error() const { return m_error; }
 
