@@ -63,6 +63,9 @@ public:
         }
     }
 
+    /// Takes in some, and the rest in the next turns.
+    void syncSome();
+
     /// Makes a failure known, each different one once.
     void readFailed(const StoreError& error);
 
@@ -79,7 +82,6 @@ signals:
     void checked(const ko::StoreError& error);
 
 private:
-    void syncSome();
     bool take(int changes);
     void waitForCheck();
     bool storeAfter(const std::function<void()>& work, StoreError* error);

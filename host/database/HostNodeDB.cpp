@@ -170,7 +170,8 @@ void HostNodeDB::setScanning(std::unique_ptr<Scanning> scanning)
 
 void HostNodeDB::startScanners(const std::string& name, unsigned interfaces, int limit)
 {
-    d->startScanners(name, interfaces, limit);
+    if (!isReadOnly()) // what they find is stored
+        d->startScanners(name, interfaces, limit);
 }
 
 void HostNodeDB::stopScanners(const std::string& name)
@@ -288,6 +289,31 @@ void HostNodeDB::discardUnstoredChanges()
 void HostNodeDB::syncForeignChanges()
 {
     d->queue.sync();
+}
+
+void HostNodeDB::syncSomeForeignChanges()
+{
+    d->queue.syncSome();
+}
+
+QVector<UndoneChange> HostNodeDB::undoneChanges() const
+{
+    return d->queue.reading([&] { return d->store->undoneChanges(); });
+}
+
+void HostNodeDB::dismissUndone(const QVector<qint64>& numbers)
+{
+    d->queue.reading([&] { return d->store->dismissUndone(numbers); });
+}
+
+bool HostNodeDB::isReadOnly() const
+{
+    return d->memory.isReadOnly;
+}
+
+void HostNodeDB::setReadOnly(bool readOnly)
+{
+    d->memory.isReadOnly = readOnly;
 }
 
 } // namespace ko

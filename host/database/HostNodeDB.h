@@ -7,6 +7,7 @@
 #include "model/ChangeScope.h"
 #include "model/ChangeSet.h"
 #include "model/StoreError.h"
+#include "model/UndoneChange.h"
 
 #include <functional>
 #include <memory>
@@ -158,6 +159,18 @@ public:
 
     /// Takes in what other processes stored since the last look.
     void syncForeignChanges();
+
+    /// The same without waiting for the next look, and the rest of much in the next turns of the event loop.
+    void syncSomeForeignChanges();
+
+    /// What was changed here and the site with which the file is shared could not do, until it is dismissed.
+    QVector<UndoneChange> undoneChanges() const;
+    void dismissUndone(const QVector<qint64>& numbers);
+
+    /// The user may only read: beginUpdateNode() returns null, no scanner starts, and nothing else that would
+    /// change nodes, relations, settings or environments does anything. What others change still arrives.
+    bool isReadOnly() const;
+    void setReadOnly(bool readOnly);
 
 signals:
     /// Changes could not be stored; emitted once for each failed attempt.

@@ -71,10 +71,11 @@ void HostNodeDB::Private::prepareSome()
         m_idle.stop();
 }
 
-/// Of a new database; another process may be making them at the same time.
+/// Of a new database; another process may be making them at the same time. A copy of a site gets what the
+/// site has.
 void HostNodeDB::Private::storeDefaults()
 {
-    if (!settings.isNew())
+    if (!settings.isNew() || store->isShared())
         return;
     memory.pending.enter(Cause::now(Purpose::Start));
     StoreError error;

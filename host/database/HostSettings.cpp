@@ -49,7 +49,7 @@ void HostSettings::reload()
 
 void HostSettings::setText(const char* key, const QString& value)
 {
-    if (m_memory.setSetting(QLatin1String(key), value))
+    if (!m_memory.isReadOnly && m_memory.setSetting(QLatin1String(key), value))
         m_changed();
 }
 
@@ -63,6 +63,8 @@ int HostSettings::bandwidth() const
 /// Also called when the settings of another process are taken over: then nothing differs.
 void HostSettings::proxyChanged()
 {
+    if (m_memory.isReadOnly)
+        return;
     GlobalNetworkProxy untouched;
     ProxySettings::toProxy(Settings(), untouched, *m_memory.vault());
     const Settings defaults = ProxySettings::fromProxy(untouched, Settings(), *m_memory.vault());
@@ -76,6 +78,10 @@ void HostSettings::proxyChanged()
 
 void HostSettings::environmentsChanged()
 {
+    if (m_memory.isReadOnly) {
+        m_environments.reload(m_memory.environments);
+        return;
+    }
     m_memory.setEnvironments(m_environments.getList());
     m_changed();
 }

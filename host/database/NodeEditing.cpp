@@ -67,7 +67,7 @@ NodeRecord* NodeEditing::read(const NodeID& id)
 Node* NodeEditing::begin(const NodeID& id)
 {
     m_queue.sync();
-    const NodeRecord* record = read(id);
+    const NodeRecord* record = m_memory.isReadOnly ? nullptr : read(id);
     return record ? m_copies.begin(record->data()) : nullptr;
 }
 
@@ -113,6 +113,8 @@ void NodeEditing::makeRemotePreview(const NodeID& camera)
 
 NodeID NodeEditing::add(NodeData data)
 {
+    if (m_memory.isReadOnly)
+        return NodeID();
     data.id = newNodeId();
     m_memory.vault()->seal(data);
     if (NodeTypes::isDevice(data.type))
@@ -127,7 +129,7 @@ NodeID NodeEditing::add(NodeData data)
 
 void NodeEditing::remove(const NodeID& id)
 {
-    NodeRecord* record = m_memory.cache.find(id);
+    NodeRecord* record = m_memory.isReadOnly ? nullptr : m_memory.cache.find(id);
     if (!record)
         return;
     const NodeID removed = record->summary.id(); // the caller's may be a part of what goes
@@ -147,7 +149,7 @@ void NodeEditing::change(const RelationChange& change)
 {
     const Relation& relation = change.relation;
     const bool exist = m_memory.cache.find(relation.source) && m_memory.cache.find(relation.destination);
-    if ((change.isAdded && !exist) || !m_memory.change(change))
+    if (m_memory.isReadOnly || (change.isAdded && !exist) || !m_memory.change(change))
         return;
     m_queue.schedule();
     m_announce(updated({relation.source, relation.destination}));
@@ -155,6 +157,8 @@ void NodeEditing::change(const RelationChange& change)
 
 bool NodeEditing::apply(const ChangeSet& set)
 {
+    if (m_memory.isReadOnly)
+        return false;
     return m_queue.reading([&] {
         QStringList ids;
         for (const NodeChange& change : set.nodes)

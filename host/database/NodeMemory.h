@@ -21,7 +21,8 @@ public:
     Settings settings;
     Environments::List environments;
     PendingChanges pending;
-    qint64 revision = 0; ///< of the store, which is in here
+    qint64 revision = 0;     ///< of the store, which is in here
+    bool isReadOnly = false; ///< the user may not change anything; what others change still comes
 
     /// Reads everything but properties. Throws StoreFailure. \a store outlives the memory.
     explicit NodeMemory(NodeStore& store);

@@ -45,9 +45,17 @@ void SharingSession::act(quint64 serial, Do what)
     }
 }
 
+void SharingSession::show(SharingState::Kind kind, SharingState::Reason reason, const QString& text)
+{
+    m_state.kind = kind;
+    m_state.reason = reason;
+    m_state.text = text;
+    m_state.last = m_last;
+}
+
 void SharingSession::refuse(SharingState::Reason reason, const QString& text)
 {
-    m_state = {SharingState::Refused, reason, text};
+    show(SharingState::Refused, reason, text);
     want(Step::End);
 }
 
@@ -56,7 +64,7 @@ void SharingSession::pause()
     const int longest = std::min(longestPause, shortestPause << std::min(m_failures, 10));
     ++m_failures;
     m_random = m_random * 1664525U + 1013904223U;
-    m_state = {SharingState::Away, SharingState::NoReason, m_state.text};
+    show(SharingState::Away, SharingState::NoReason, m_state.text);
     want(Step::Pause);
     m_request.pause = longest / 2 + int(m_random >> 8) % (longest / 2 + 1);
 }
@@ -73,11 +81,13 @@ void SharingSession::greeted(quint64 serial, const SiteGreeting& greeting)
             return refuse(SharingState::Replaced);
         if (site.isEmpty())
             m_log.setSite(greeting.site);
-        m_mayWrite = greeting.mayWrite;
         m_last = greeting.number;
         m_sent = SharedLog::Cursor();
         m_mustFetch = true;
-        m_state = {SharingState::CatchingUp, SharingState::NoReason, QString()};
+        m_state.rights = greeting.mayWrite ? SharingState::MayWrite : SharingState::MayRead;
+        m_state.waiting = m_log.waitingLines();
+        m_state.position = m_log.position();
+        show(SharingState::CatchingUp);
         want(Step::Agree);
         m_request.known = m_log.known(1);
         if (m_request.known.isEmpty())
@@ -92,21 +102,30 @@ void SharingSession::agreed(quint64 serial, qint64 number)
         const QVector<KnownParcel> asked = m_request.known;
         if (number != 0 || asked.isEmpty()) {
             if (number != m_log.position())
-                m_log.goBack(number);
+                goBack(number);
             return advance();
         }
         want(Step::Agree);
         m_request.known = m_log.known(knownAtOnce, asked.constLast().number);
         if (m_request.known.isEmpty()) { // the site has begun anew
-            m_log.goBack(0);
+            goBack(0);
             advance();
         }
     });
 }
 
+void SharingSession::goBack(qint64 number)
+{
+    m_log.goBack(number);
+    m_state.waiting = m_log.waitingLines();
+    m_state.position = number;
+}
+
 void SharingSession::submitted(quint64 serial, qint64 number)
 {
     act(serial, [&] {
+        for (const SharedParcel& parcel : std::as_const(m_request.parcels))
+            m_state.waiting = std::max<qint64>(0, m_state.waiting - parcel.lines.size());
         m_last = std::max(m_last, number);
         m_mustFetch = true;
         m_failures = 0;
@@ -123,7 +142,8 @@ void SharingSession::fetched(quint64 serial, const QVector<SharedParcel>& parcel
             return pause(); // the next connection finds out why
         if (receipt == SharedLog::Receipt::Taken) {
             m_mustFetch = parcels.size() >= MostParcels;
-            m_last = std::max(m_last, m_log.position());
+            m_state.position = m_log.position();
+            m_last = std::max(m_last, m_state.position);
         }
         advance();
     });
@@ -135,14 +155,15 @@ bool SharingSession::submit()
     const QVector<SharedParcel> parcels = m_log.waiting(&sent, linesAtOnce);
     if (parcels.isEmpty())
         return false;
-    if (!m_mayWrite) {
+    if (m_state.rights != SharingState::MayWrite) {
+        m_state.waiting = m_log.waitingLines();
         refuse(SharingState::MayNotWrite);
         return true;
     }
     m_sent = sent; // if it gets lost, so does the connection, and the next begins anew
     want(Step::Submit);
     m_request.parcels = parcels;
-    m_state = {SharingState::CatchingUp, SharingState::NoReason, QString()};
+    show(SharingState::CatchingUp);
     return true;
 }
 
@@ -155,8 +176,8 @@ void SharingSession::advance()
     want(isBehind ? Step::Fetch : Step::Listen);
     m_request.position = position;
     m_request.pause = isBehind ? 0 : listenPause;
-    m_state = {isBehind ? SharingState::CatchingUp : SharingState::UpToDate, SharingState::NoReason,
-               QString()};
+    m_state.waiting = 0;
+    show(isBehind ? SharingState::CatchingUp : SharingState::UpToDate);
 }
 
 void SharingSession::timeIsUp(quint64 serial)
@@ -172,8 +193,10 @@ void SharingSession::timeIsUp(quint64 serial)
 void SharingSession::failed(quint64 serial, const SharingFailure& failure)
 {
     act(serial, [&] {
-        if (failure.kind == SharingFailure::Refused)
-            return refuse(SharingState::ServerSaid, failure.message);
+        if (failure.kind != SharingFailure::Away)
+            return refuse(failure.kind == SharingFailure::NoSite ? SharingState::NoSite
+                                                                 : SharingState::ServerSaid,
+                          failure.message);
         m_state.text = failure.message;
         pause();
     });
@@ -193,6 +216,8 @@ void SharingSession::storedHere()
 {
     if (m_request.step == Step::Listen)
         act(m_request.serial, [&] { submit(); });
+    else if (m_request.step == Step::Pause)
+        act(m_request.serial, [&] { m_state.waiting = m_log.waitingLines(); });
 }
 
 } // namespace ko

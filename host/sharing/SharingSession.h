@@ -63,6 +63,9 @@ private:
     void pause();
     void advance();
     bool submit();
+    void goBack(qint64 number);
+    void show(SharingState::Kind kind, SharingState::Reason reason = SharingState::NoReason,
+              const QString& text = QString());
     void refuse(SharingState::Reason reason, const QString& text = QString());
 
     SharedLog& m_log;
@@ -70,7 +73,6 @@ private:
     SharingState m_state;
     SharedLog::Cursor m_sent; ///< over this connection
     qint64 m_last = 0;        ///< the site's last number, as far as is known
-    bool m_mayWrite = false;
     bool m_mustFetch = false;
     int m_failures = 0; ///< one after the other
     quint32 m_random;

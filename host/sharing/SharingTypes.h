@@ -22,8 +22,9 @@ struct SharingFailure
 {
     enum Kind {
         None,
-        Away,   ///< no connection, or it was lost: to be tried again
-        Refused ///< the site does not want it, and will not when it is asked again
+        Away,    ///< no connection, or it was lost: to be tried again
+        Refused, ///< the site does not want it, and will not when it is asked again
+        NoSite   ///< the database has no tables of a site, or not for this user
     };
     Kind kind = None;
     QString message; ///< what the server or the library said, in its words
@@ -43,21 +44,28 @@ struct SharingState
     enum Reason {
         NoReason,
         OtherSite,    ///< the file belongs to another one
-        NoSite,       ///< there are no tables of a site
+        NoSite,       ///< there are no tables of a site, or not for this user
         OtherVersion, ///< the site is one of another version of this program
         MayNotWrite,  ///< there are changes here, and the user may only read
         Replaced,     ///< a backup took the place of everything in the file
-        Unreadable,   ///< what came is nothing that this version can read
         FileFailed,   ///< the desk's own file cannot be read or written
         ServerSaid    ///< see text
     };
+    /// Of the user, as the site said when the desk connected last.
+    enum Rights { UnknownRights, MayRead, MayWrite };
+
     Kind kind = Away;
     Reason reason = NoReason;
     QString text; ///< what server or store said, untranslated
+    Rights rights = UnknownRights;
+    qint64 waiting = 0;  ///< lines that the site has not got, as far as the file was looked through
+    qint64 position = 0; ///< of the site's parcels, the last that is in the file
+    qint64 last = 0;     ///< of the site's parcels, the last that is known of
 
     friend bool operator==(const SharingState& a, const SharingState& b)
     {
-        return a.kind == b.kind && a.reason == b.reason && a.text == b.text;
+        return a.kind == b.kind && a.reason == b.reason && a.text == b.text && a.rights == b.rights &&
+               a.waiting == b.waiting && a.position == b.position && a.last == b.last;
     }
 };
 

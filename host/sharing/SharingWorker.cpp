@@ -72,7 +72,7 @@ void SharingWorker::perform(SharedLog& log, SharingSession& session)
     case SharingSession::Step::Listen:
         return listen(log, session);
     case SharingSession::Step::Pause:
-        return pause(session, request);
+        return pause(log, session);
     case SharingSession::Step::End:
         break;
     }
@@ -143,15 +143,23 @@ void SharingWorker::listen(SharedLog& log, SharingSession& session)
     }
 }
 
-void SharingWorker::pause(SharingSession& session, const SharingSession::Request& request)
+/// What is stored meanwhile is counted, so that it can be shown.
+void SharingWorker::pause(SharedLog& log, SharingSession& session)
 {
+    const SharingSession::Request request = session.request();
     m_connection.close();
-    show(session.state());
     QElapsedTimer clock;
     clock.start();
+    qint64 version = 0;
     qint64 number = 0;
-    while (!m_stop && !clock.hasExpired(request.pause))
-        m_connection.wait(std::max(1, request.pause - int(clock.elapsed())), &number);
+    while (!m_stop && session.request().serial == request.serial && !clock.hasExpired(request.pause)) {
+        const qint64 now = log.dataVersion();
+        if (now != version)
+            session.storedHere();
+        version = now;
+        show(session.state());
+        m_connection.wait(qBound(1, request.pause - int(clock.elapsed()), lookInterval), &number);
+    }
     session.timeIsUp(request.serial);
 }
 

@@ -38,7 +38,7 @@ private:
     void submit(SharingSession& session, const SharingSession::Request& request);
     void fetch(SharingSession& session, const SharingSession::Request& request);
     void listen(SharedLog& log, SharingSession& session);
-    void pause(SharingSession& session, const SharingSession::Request& request);
+    void pause(SharedLog& log, SharingSession& session);
     void show(const SharingState& state);
 
     const QString m_file;

@@ -34,6 +34,12 @@ std::string arrayOf(const QVector<KnownParcel>& known, Of of)
     return text + "}";
 }
 
+/// No such schema or function, or none that this user may see: there is no site for him.
+bool saysNoSite(const std::string& code)
+{
+    return code == "3F000" || code == "42883" || code == "42P01" || code == "42501";
+}
+
 /// By classes of the standard: those of which another try may end otherwise.
 bool mayPass(const std::string& code)
 {
@@ -242,7 +248,10 @@ SharingFailure SiteConnection::prepareSite()
 
 SharingFailure SiteConnection::greet(SiteGreeting* greeting)
 {
-    const Answer answer = run("SELECT site, version, number, may_write FROM ko.greet()");
+    Answer answer = run("SELECT site, version, number, may_write FROM ko.greet()");
+    const char* code = answer.result ? PQresultErrorField(answer.result.get(), PG_DIAG_SQLSTATE) : nullptr;
+    if (code && saysNoSite(code))
+        answer.failure.kind = SharingFailure::NoSite;
     if (!answer.failure)
         *greeting = {QString::fromLatin1(answer.value(0, 0)), answer.value(0, 1).toInt(),
                      answer.value(0, 2).toLongLong(), answer.value(0, 3) == "t"};
@@ -281,6 +290,29 @@ SharingFailure SiteConnection::fetch(qint64 position, int most, QVector<SharedPa
         parcels->append(*parcel);
     }
     return SharingFailure();
+}
+
+SharingFailure SiteConnection::rows(SharedTable table, qint64 after, int most, QVector<SharedRow>* rows)
+{
+    const char* statement = table == SharedTable::Nodes ? "SELECT place, item FROM ko.nodes_after($1, $2)"
+                            : table == SharedTable::Relations
+                                ? "SELECT place, item FROM ko.relations_after($1, $2)"
+                                : "SELECT place, item FROM ko.rest_after($1, $2)";
+    const Answer answer = run(statement, {plain(after), plain(most)});
+    const int count = answer.failure ? 0 : PQntuples(answer.result.get());
+    for (int row = 0; row < count; ++row)
+        rows->append({answer.value(row, 0).toLongLong(), answer.value(row, 1)});
+    return answer.failure;
+}
+
+SharingFailure SiteConnection::beginMoment()
+{
+    return execute("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY");
+}
+
+SharingFailure SiteConnection::endMoment()
+{
+    return execute("COMMIT");
 }
 
 SharingFailure SiteConnection::state(QString* text)

@@ -1,6 +1,7 @@
 #ifndef KO_SITECONNECTION_H
 #define KO_SITECONNECTION_H
 
+#include "model/SharedRow.h"
 #include "sharing/SharingTypes.h"
 
 #include <QVector>
@@ -40,6 +41,11 @@ public:
     SharingFailure agree(const QVector<KnownParcel>& known, qint64* number);
     SharingFailure submit(const QVector<SharedParcel>& parcels, qint64* number);
     SharingFailure fetch(qint64 position, int most, QVector<SharedParcel>* parcels);
+    /// At most \a most rows of a table after a place.
+    SharingFailure rows(SharedTable table, qint64 after, int most, QVector<SharedRow>* rows);
+    /// Until endMoment() everything that is read is as it was at one moment.
+    SharingFailure beginMoment();
+    SharingFailure endMoment();
     /// Everything that the site has now, as one text.
     SharingFailure state(QString* text);
 

@@ -103,6 +103,44 @@ void NodeStore::setSound()
     d->connection->setSound();
 }
 
+bool NodeStore::isShared()
+{
+    return d->connection->value("SELECT 1 FROM sqlite_master WHERE name = 'shared_site'").isValid();
+}
+
+QVector<UndoneChange> NodeStore::undoneChanges()
+{
+    QVector<UndoneChange> result;
+    if (!isShared())
+        return result;
+    const auto causeAt = [](const SqliteStore::Rows& rows, int column) {
+        return Cause{rows.text(column),
+                     rows.text(column + 1),
+                     rows.text(column + 2),
+                     rows.number(column + 3),
+                     Purposes::fromWord(rows.text(column + 4)),
+                     rows.text(column + 5)};
+    };
+    SqliteStore::Rows rows = d->connection->run(
+        "SELECT u.seq, s.seq, s.id, s.user, s.host, s.time, s.purpose, s.subject,"
+        " json_extract(g.before, '$.name'), t.id, t.user, t.host, t.time, t.purpose, t.subject"
+        " FROM shared_undone u JOIN changes c ON c.seq = u.seq JOIN change_sets s ON s.seq = c.change_set"
+        " LEFT JOIN changes g ON g.seq = (SELECT max(seq) FROM changes WHERE id = u.node AND kind = 'N'"
+        " AND after IS NULL AND before IS NOT NULL)"
+        " LEFT JOIN change_sets t ON t.seq = g.change_set ORDER BY u.seq");
+    while (rows.next())
+        result.append({rows.number(0), rows.number(1), causeAt(rows, 2), rows.text(8), causeAt(rows, 9)});
+    return result;
+}
+
+void NodeStore::dismissUndone(const QVector<qint64>& numbers)
+{
+    Transaction transaction(*d->connection, Transaction::Write);
+    for (const qint64 number : numbers)
+        d->connection->run("DELETE FROM shared_undone WHERE seq = ?", {number});
+    transaction.commit();
+}
+
 bool NodeStore::isSealingPending()
 {
     return StoredSecrets::isPending(*d->connection);

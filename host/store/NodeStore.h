@@ -6,6 +6,7 @@
 #include "model/HistoryLimit.h"
 #include "model/LogFinding.h"
 #include "model/StoreError.h"
+#include "model/UndoneChange.h"
 
 #include <functional>
 #include <memory>
@@ -36,6 +37,13 @@ public:
     /// From any thread, while the file is in use.
     static StoreError findDamage(const QString& file);
     void setSound();
+
+    /// Whether the file was ever shared with a site.
+    bool isShared();
+
+    /// What was changed here and its site could not do, oldest first, until it is dismissed.
+    QVector<UndoneChange> undoneChanges();
+    void dismissUndone(const QVector<qint64>& numbers);
 
     /// Whether passwords may be there that an older version stored in the clear.
     bool isSealingPending();

@@ -51,6 +51,7 @@ public:
     SqliteStore::Rows rowsAfter(const Cursor& cursor);
     bool isWaiting(const Cursor& cursor);
     void take(const SharedParcel& parcel, SharedTables* shared);
+    void noteUndone(const SharedLine& line);
     qint64 rowOf(qint64 changeSet, qint64 line);
     void note(const ChangeLog::Row& row);
     void setNumber(qint64 row, qint64 changeSet, qint64 line, qint64 number);
@@ -110,6 +111,60 @@ qint64 SharedLog::dataVersion()
 bool SharedLog::isReplaced()
 {
     return d->connection->value("SELECT 1 FROM changes WHERE kind = 'A' AND id = '' LIMIT 1").isValid();
+}
+
+qint64 SharedLog::waitingLines()
+{
+    return d->connection
+        ->value("SELECT (SELECT count(*) FROM shared_lines WHERE number < 0 AND line IS NOT NULL) +"
+                " (SELECT count(*) FROM changes c WHERE c.kind IN ('N', 'R', 'S', 'E')"
+                " AND c.change_set IS NOT NULL"
+                " AND NOT EXISTS (SELECT 1 FROM shared_lines s WHERE s.seq = c.seq))")
+        .toLongLong();
+}
+
+bool SharedLog::isEmpty()
+{
+    return !d->connection->value("SELECT 1 FROM changes UNION ALL SELECT 1 FROM nodes LIMIT 1").isValid();
+}
+
+bool SharedLog::isTold()
+{
+    return !d->connection
+                ->value("SELECT 1 FROM nodes n WHERE NOT EXISTS (SELECT 1 FROM changes c WHERE c.id = n.id"
+                        " AND c.kind = 'N' AND c.before IS NULL)"
+                        " UNION ALL SELECT 1 FROM settings s WHERE NOT EXISTS (SELECT 1 FROM changes c"
+                        " WHERE c.id = s.key AND c.kind = 'S')"
+                        " UNION ALL SELECT 1 FROM environments WHERE NOT EXISTS (SELECT 1 FROM changes c"
+                        " WHERE c.id = '' AND c.kind = 'E') LIMIT 1")
+                .isValid();
+}
+
+std::optional<qint64> SharedLog::forEachRow(const VisitRow& visit)
+{
+    const Transaction transaction(*d->connection, Transaction::Read);
+    if (d->isWaiting(Cursor()))
+        return std::nullopt;
+    const qint64 position = this->position();
+    const auto visitAll = [&visit](SharedTable table, SqliteStore::Rows rows) {
+        bool goesOn = true;
+        while (goesOn && rows.next())
+            goesOn = visit(table, {rows.number(0), rows.text(1).toUtf8()});
+        return goesOn;
+    };
+    visitAll(SharedTable::Nodes,
+             d->connection->run("SELECT n, json_array(n, id, type, name, json(coalesce(properties, '{}')))"
+                                " FROM nodes LEFT JOIN node_properties ON node = n ORDER BY n")) &&
+        visitAll(SharedTable::Relations,
+                 d->connection->run("SELECT r.seq, json_array(r.seq, a.id, b.id, r.type) FROM relations r"
+                                    " JOIN nodes a ON a.n = r.source JOIN nodes b ON b.n = r.destination"
+                                    " ORDER BY r.seq")) &&
+        visitAll(
+            SharedTable::Rest,
+            d->connection->run("SELECT 1, json_array((SELECT json_group_object(key, value) FROM settings),"
+                               " (SELECT json_group_array(json_array(id, name)) FROM"
+                               " (SELECT id, name FROM environments ORDER BY position)))"));
+    return position;
 }
 
 /// First what the site lost, then what it never had.
@@ -197,6 +252,8 @@ void SharedLog::Private::take(const SharedParcel& parcel, SharedTables* shared)
         const qint64 known = line.line != 0 && changeSet != 0 ? rowOf(changeSet, line.line) : 0;
         if (known != 0)
             setNumber(known, changeSet, line.line, parcel.number);
+        if (!line.isDone && known != 0 && known == line.line)
+            noteUndone(line);
         if (!line.isDone)
             continue;
         const bool isChanged = shared->apply(line);
@@ -211,6 +268,25 @@ void SharedLog::Private::take(const SharedParcel& parcel, SharedTables* shared)
         }
     }
     connection->run("INSERT INTO shared_parcels (number, id) VALUES (?, ?)", {parcel.number, parcel.id});
+}
+
+/// What the site did not do because it is so already is as the user wanted it. Of this desk alone: a line has
+/// the number that it had where it was made.
+void SharedLog::Private::noteUndone(const SharedLine& line)
+{
+    QStringList wanted;
+    if (line.kind == ChangeLog::NodeKind && !line.before.isNull() && !line.after.isNull())
+        wanted.append(line.id);
+    if (line.kind == ChangeLog::RelationKind && line.before.isNull())
+        wanted << line.id
+               << ChangeCoding::relationChange(line.id, line.before, line.after).relation.destination;
+    for (const QString& node : std::as_const(wanted)) {
+        if (tables.node(node).place == 0) {
+            connection->run("INSERT OR IGNORE INTO shared_undone (seq, node) VALUES (?, ?)",
+                            {line.line, node});
+            return;
+        }
+    }
 }
 
 /// Where in the table of changes a line is; 0: it is not. What was done at this desk has its own number as

@@ -3,6 +3,7 @@
 
 #include "model/NodeData.h"
 #include "model/SharedParcel.h"
+#include "model/SharedRow.h"
 #include "model/StoreError.h"
 
 #include <functional>
@@ -46,8 +47,23 @@ public:
     /// begins another.
     QVector<SharedParcel> waiting(Cursor* cursor, int lines);
 
+    /// How many lines wait in all.
+    qint64 waitingLines();
+
     /// A backup took the place of everything, which no parcel can tell.
     bool isReplaced();
+
+    /// Whether nothing was ever done in the file.
+    bool isEmpty();
+
+    /// Whether the history tells how everything came that there is; not so in a file that is older than the
+    /// history.
+    bool isTold();
+
+    /// Calls \a visit with all rows, table by table, as they are at one moment, and returns the position() of
+    /// that moment; none if something waits. Ends when \a visit returns false.
+    typedef std::function<bool(SharedTable, const SharedRow&)> VisitRow;
+    std::optional<qint64> forEachRow(const VisitRow& visit);
 
     enum class Receipt { Taken, SomethingWaits, Gap };
 

@@ -184,7 +184,8 @@ QString difference(sqlite3* handle, int version, Extent extent, int* error)
                                        : QLatin1String("should not be there: ") + firstWords(*foreign);
 }
 
-// The number of a line is negative while the site has lost it; its line is NULL when the site made it.
+// The number of a line is negative while the site has lost it; its line is NULL when the site made it. Undone
+// is what this desk changed and the site could not do for want of the node, until the user has seen it.
 const QVector<const char*>& sharingStatements()
 {
     static const QVector<const char*> statements = {
@@ -194,6 +195,7 @@ const QVector<const char*>& sharingStatements()
         "CREATE TABLE IF NOT EXISTS shared_lines (seq INTEGER PRIMARY KEY, change_set INTEGER NOT NULL,"
         " line INTEGER, number INTEGER NOT NULL, UNIQUE (change_set, line))",
         "CREATE INDEX IF NOT EXISTS shared_lines_number ON shared_lines (number)",
+        "CREATE TABLE IF NOT EXISTS shared_undone (seq INTEGER PRIMARY KEY, node TEXT NOT NULL)",
     };
     return statements;
 }

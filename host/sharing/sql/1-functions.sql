@@ -262,6 +262,29 @@ LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, pg_temp AS $$
     FROM ko.site s
 $$;
 
+-- What there is, row by row, as desks have it too: at most so many rows after a place.
+CREATE FUNCTION ko.nodes_after(after bigint, most integer) RETURNS TABLE (place bigint, item text)
+LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, pg_temp AS $$
+    SELECT n.place, jsonb_build_array(n.place, n.id, n.type, n.name, coalesce((
+        SELECT jsonb_object_agg(p.key, p.value) FROM ko.properties p WHERE p.node = n.place), '{}'))::text
+    FROM ko.nodes n WHERE n.place > after ORDER BY n.place LIMIT most
+$$;
+
+CREATE FUNCTION ko.relations_after(after bigint, most integer) RETURNS TABLE (place bigint, item text)
+LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, pg_temp AS $$
+    SELECT r.place, jsonb_build_array(r.place, a.id, b.id, r.type)::text
+    FROM ko.relations r JOIN ko.nodes a ON a.place = r.source JOIN ko.nodes b ON b.place = r.destination
+    WHERE r.place > after ORDER BY r.place LIMIT most
+$$;
+
+-- Settings and environments, as one row.
+CREATE FUNCTION ko.rest_after(after bigint, most integer) RETURNS TABLE (place bigint, item text)
+LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, pg_temp AS $$
+    SELECT 1, jsonb_build_array(coalesce((SELECT jsonb_object_agg(key, value) FROM ko.settings), '{}'),
+        s.environments)::text
+    FROM ko.site s WHERE after < 1 LIMIT most
+$$;
+
 -- Everything that there is, as one text: equal texts, equal states.
 CREATE FUNCTION ko.state() RETURNS text
 LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, pg_temp AS $$
@@ -291,6 +314,7 @@ END
 $$;
 REVOKE EXECUTE ON ALL FUNCTIONS IN SCHEMA ko FROM PUBLIC;
 GRANT USAGE ON SCHEMA ko TO ko_viewer;
-GRANT EXECUTE ON FUNCTION ko.greet(), ko.agreed(bigint[], uuid[]), ko.parcels_after(bigint, integer), ko.state()
+GRANT EXECUTE ON FUNCTION ko.greet(), ko.agreed(bigint[], uuid[]), ko.parcels_after(bigint, integer),
+    ko.nodes_after(bigint, integer), ko.relations_after(bigint, integer), ko.rest_after(bigint, integer), ko.state()
     TO ko_viewer;
 GRANT EXECUTE ON FUNCTION ko.submit(jsonb) TO ko_editor;
