@@ -1,24 +1,21 @@
 #include "Application.h"
 
+#include "ClientWindow.h"
 #include "DatabaseRecovery.h"
 #include "KeychainNotice.h"
+#include "KnownSites.h"
 #include "Languages.h"
-#include "MainWindow.h"
-#include "PlainMessageBox.h"
-#include "audit/AuditLog.h"
-#include "audit/HistoryLogEntry.h"
+#include "ReadOnlyNotice.h"
+#include "ShareCommand.h"
+#include "SiteOpening.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
-#include "discovery/ArpScanner.h"
-#include "discovery/MdnsScanner.h"
-#include "discovery/Scanners.h"
-#include "discovery/WsDiscoveryScanner.h"
 #include "exchange/CameraSurvey.h"
 #include "exchange/ExportFile.h"
 #include "exchange/FileName.h"
 #include "ko/Terminal.h"
-#include "store/BackupKeeper.h"
-#include "store/HistoryKeeper.h"
+#include "sharing/SiteAddress.h"
+#include "sharing/SiteCopy.h"
 #include "store/LogCheckpoint.h"
 #include "store/NodeStore.h"
 #include "store/StoreBackup.h"
@@ -27,11 +24,11 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 #include <QStandardPaths>
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -42,6 +39,8 @@ namespace ko {
 namespace {
 
 using Terminal::say;
+
+const int commandPatience = 3000; // ms; for a server that is away
 
 /// The toolkit quotes names of files and other texts too.
 void sayMessage(QtMsgType, const QMessageLogContext&, const QString& text)
@@ -62,55 +61,6 @@ QString defaultDatabase()
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     folder.mkpath(QStringLiteral("."));
     return folder.filePath(QStringLiteral("nodes.kodb"));
-}
-
-/// Once for each file: he who knows need not be told at every start.
-void warnAboutNetwork(const QString& file, QWidget* parent)
-{
-    QSettings settings;
-    const QString key = QStringLiteral("knownOnNetwork");
-    QStringList known = settings.value(key).toStringList();
-    if (known.contains(file))
-        return;
-    settings.setValue(key, known << file);
-    PlainMessageBox::ask(
-        QMessageBox::Warning, parent, QCoreApplication::translate("Application", "Node Database"),
-        QCoreApplication::translate("Application",
-                                    "The node database \"%1\" lies on a network drive. Two programs that "
-                                    "use it there at the same time may damage it. Move it to a disk of "
-                                    "this computer.")
-            .arg(QDir::toNativeSeparators(file)));
-}
-
-void logThinned(HostNodeDB& db, const ThinnedHistory& thinned)
-{
-    db.auditLog().log(HistoryLogEntry(QString::number(thinned.last), QString::number(thinned.lines)));
-}
-
-/// False when the file must not be used any more.
-bool showWindow(HostNodeDB& db, int* exitCode)
-{
-    const ProgramLog log(db.logStore());
-    const BackupKeeper backups(db.fileName());
-    const HistoryKeeper history(db.fileName());
-    QObject::connect(&history, &HistoryKeeper::thinned, &db,
-                     [&db](const ThinnedHistory& thinned) { logThinned(db, thinned); });
-    Scanners::of(db).add(std::make_unique<MdnsScanner>());
-    Scanners::of(db).add(std::make_unique<ArpScanner>());
-    Scanners::of(db).add(std::make_unique<WsDiscoveryScanner>());
-    MainWindow window(db);
-    bool isUsable = true;
-    QObject::connect(&db, &HostNodeDB::checked, &window, [&isUsable](const StoreError& error) {
-        isUsable = !error;
-        if (error)
-            QApplication::exit();
-    });
-    window.show();
-    if (StoreFile::isOnNetwork(db.fileName()))
-        warnAboutNetwork(db.fileName(), &window);
-    if (isUsable)
-        *exitCode = QApplication::exec();
-    return isUsable;
 }
 
 } // namespace
@@ -150,8 +100,8 @@ bool Application::parse()
             QCoreApplication::translate("Application", "%1 is for windows, and none is opened here.")
                 .arg(m_options->toolkitOption()));
     m_database = m_options->value("db");
-    return canBeNamed(
-        {m_database, m_options->value("export"), m_options->value("backup"), m_options->value("restore")});
+    return canBeNamed({SiteAddress::isSite(m_database) ? QString() : m_database, m_options->value("export"),
+                       m_options->value("backup"), m_options->value("restore"), m_options->value("share")});
 }
 
 /// The language comes first: the options tell about themselves in it. What is wrong with them is said later.
@@ -199,14 +149,67 @@ int Application::run()
 bool Application::needsWindow() const
 {
     const auto isSet = [this](const char* task) { return m_options->isSet(task); };
-    const auto tasks = {"import", "export", "backup", "restore", "verify-log", "thin-history"};
+    const auto tasks = {"import", "export", "backup", "restore", "share", "verify-log", "thin-history"};
     return std::none_of(tasks.begin(), tasks.end(), isSet);
 }
 
 int Application::runTask()
 {
+    if (m_options->isSet("share"))
+        return ShareCommand(m_options->value("share"), m_options->site()).run();
     if (m_database.isEmpty())
         m_database = defaultDatabase();
+    for (;;) {
+        const int exitCode = SiteAddress::isSite(m_database) ? runOnSite() : runOnFile();
+        if (m_next.site.isEmpty())
+            return exitCode;
+        m_database = std::exchange(m_next.site, QString());
+    }
+}
+
+/// On the copy that this desk has of it. A command begins and ends with the state of the site.
+int Application::runOnSite()
+{
+    const bool hasWindow = needsWindow();
+    {
+        KeychainNotice notice(hasWindow ? KeychainNotice::Way::Window : KeychainNotice::Way::Line);
+        if (!notice.prepare())
+            return Good;
+    }
+    m_site = KnownSites::withKeptPassword(m_database);
+    SiteOpening opening(m_site, hasWindow ? SiteOpening::Way::Window : SiteOpening::Way::Line);
+    if (!hasWindow)
+        return runCommandOnSite(&opening);
+    int exitCode = Good;
+    m_database.clear();
+    do { // a window that gives up its copy is followed by one on another
+        m_database = opening.file(m_database);
+        m_next = ClientWindow::Next();
+        exitCode = m_database.isEmpty() ? int(NoDatabase) : runOnFile();
+    } while (m_next.newCopy);
+    return exitCode;
+}
+
+/// When the server is away, which has been said then, the copy is what there is; what is imported waits
+/// there.
+int Application::runCommandOnSite(SiteOpening* opening)
+{
+    m_database = opening->file();
+    if (m_database.isEmpty())
+        return NoDatabase;
+    opening->catchUp(m_database, commandPatience);
+    if (!m_options->isSet("import"))
+        return runOnFile();
+    if (!KnownSites::find(m_site).mayWrite) {
+        say(stderr, ReadOnlyNotice::text());
+        return Failed;
+    }
+    const int exitCode = runOnFile();
+    return opening->catchUp(m_database, commandPatience) ? exitCode : qMax(exitCode, int(SomeLinesBad));
+}
+
+int Application::runOnFile()
+{
     const bool imports = m_options->isSet("import");
     const bool exports = m_options->isSet("export");
     const bool verifies = m_options->isSet("verify-log");
@@ -247,8 +250,17 @@ std::unique_ptr<HostNodeDB> Application::open(bool checkBehind)
         if (db)
             return db;
         say(stderr, error.message);
+        const QString refused = m_database;
         if (!needsWindow() || !DatabaseRecovery::offer(&m_database, error, nullptr))
             return nullptr;
+        if (m_database != refused)
+            m_site.clear();
+        // What was put in the place of a copy may be none, and must not be sent to the site as if it were.
+        const QString site = QFileInfo(m_database).completeBaseName();
+        if (!m_site.isEmpty() && !SiteCopy::prepare(m_database, site, &error)) {
+            say(stderr, error.message);
+            return nullptr;
+        }
     }
 }
 
@@ -261,7 +273,7 @@ int Application::runWindow()
         if (!db)
             return NoDatabase;
         int exitCode = Good;
-        if (showWindow(*db, &exitCode))
+        if (ClientWindow::run(*db, m_site, &exitCode, &m_next))
             return exitCode;
     }
     return NoDatabase;
@@ -357,7 +369,7 @@ int Application::thinHistory()
         const std::unique_ptr<HostNodeDB> db = open(false);
         if (!db)
             return NoDatabase;
-        logThinned(*db, *thinned);
+        ClientWindow::logThinned(*db, *thinned);
     }
     if (thinned->isAltered)
         say(stderr, QCoreApplication::translate("Application", "Not any further: the history was altered. "

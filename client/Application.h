@@ -1,6 +1,7 @@
 #ifndef KO_APPLICATION_H
 #define KO_APPLICATION_H
 
+#include "ClientWindow.h"
 #include "Options.h"
 #include "exchange/CameraSurvey.h"
 
@@ -10,6 +11,7 @@
 namespace ko {
 
 class HostNodeDB;
+class SiteOpening;
 
 /// The program: what it does for each way in which it was called.
 class Application
@@ -29,6 +31,9 @@ private:
     bool canBeNamed(const QStringList& files);
     bool needsWindow() const;
     int runTask();
+    int runOnSite();
+    int runCommandOnSite(SiteOpening* opening);
+    int runOnFile();
     int runWindow();
     std::unique_ptr<HostNodeDB> open(bool checkBehind);
     int importCameras() const;
@@ -43,6 +48,8 @@ private:
     std::optional<Options> m_options; ///< made when the language is known
     QString m_language;
     QString m_database;
+    ClientWindow::Next m_next;
+    QString m_site;        ///< of which the database is a copy; empty if of none
     int m_exitCode = Good; ///< when parse() ends the program
 };
 

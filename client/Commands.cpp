@@ -9,6 +9,7 @@
 #include "NodeCommands.h"
 #include "NodeListView.h"
 #include "NodeRemoval.h"
+#include "ReadOnlyNotice.h"
 #include "UndoCommands.h"
 #include "WindowCommands.h"
 
@@ -36,6 +37,7 @@ enum Place {
     InList = 1,    ///< in the context menu of the list
     InBar = 2,     ///< in the tool bar
     AfterLine = 4, ///< begins a new group
+    Edits = 8,     ///< not for who may only read
 };
 
 } // namespace
@@ -58,7 +60,7 @@ struct Commands::Command
 const Commands::Command Commands::all[] = {
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionImport", QT_TRANSLATE_NOOP("MainWindow", "&Import..."),
      QT_TRANSLATE_NOOP("MainWindow", "Adds the cameras of a site survey (CSV)"), "", "document-open", Nothing,
-     InMenu, [](MainWindow& window) { window.importCameras(); }},
+     Edits, [](MainWindow& window) { window.importCameras(); }},
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionExport", QT_TRANSLATE_NOOP("MainWindow", "&Export..."),
      QT_TRANSLATE_NOOP("MainWindow", "Writes all cameras into a CSV file"), "", "document-save-as", Nothing,
      InMenu, [](MainWindow& window) { window.exportCameras(); }},
@@ -66,20 +68,24 @@ const Commands::Command Commands::all[] = {
      QT_TRANSLATE_NOOP("MainWindow", "Export &Selected..."),
      QT_TRANSLATE_NOOP("MainWindow", "Writes the selected cameras into a CSV file"), "", "", SomeNodes,
      InMenu, [](MainWindow& window) { window.exportSelected(); }},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionConnect",
+     QT_TRANSLATE_NOOP("MainWindow", "&Connect..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Opens a database that is shared with other desks"), "",
+     "network-server", Nothing, AfterLine, &WindowCommands::connectToSite},
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionPreferences",
      QT_TRANSLATE_NOOP("MainWindow", "&Preferences..."),
      QT_TRANSLATE_NOOP("MainWindow", "Default paths and the bandwidth"), "", "preferences-system", Nothing,
-     AfterLine, &WindowCommands::editPreferences},
+     AfterLine | Edits, &WindowCommands::editPreferences},
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionQuit", QT_TRANSLATE_NOOP("MainWindow", "&Quit"),
      QT_TRANSLATE_NOOP("MainWindow", "Closes the program"), "Ctrl+Q", "application-exit", Nothing, AfterLine,
      [](MainWindow& window) { window.close(); }},
 
     {QT_TRANSLATE_NOOP("MainWindow", "&Edit"), "actionUndo", "",
      QT_TRANSLATE_NOOP("MainWindow", "Shows what was changed last, and puts it back"), "Ctrl+Z", "edit-undo",
-     Itself, InMenu, [](MainWindow& window) { window.undoing().run(UndoStack::Undo); }},
+     Itself, Edits, [](MainWindow& window) { window.undoing().run(UndoStack::Undo); }},
     {QT_TRANSLATE_NOOP("MainWindow", "&Edit"), "actionRedo", "",
      QT_TRANSLATE_NOOP("MainWindow", "Does again what was undone last"), "Ctrl+Shift+Z", "edit-redo", Itself,
-     InMenu, [](MainWindow& window) { window.undoing().run(UndoStack::Redo); }},
+     Edits, [](MainWindow& window) { window.undoing().run(UndoStack::Redo); }},
     {QT_TRANSLATE_NOOP("MainWindow", "&Edit"), "actionHistory",
      QT_TRANSLATE_NOOP("MainWindow", "&History..."),
      QT_TRANSLATE_NOOP("MainWindow", "What was done, by whom, and puts it back"), "Ctrl+H", "view-history",
@@ -94,14 +100,14 @@ const Commands::Command Commands::all[] = {
      Nothing, InMenu, &WindowCommands::showMoment},
 
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionAdd", QT_TRANSLATE_NOOP("MainWindow", "&Add..."),
-     QT_TRANSLATE_NOOP("MainWindow", "Adds a node"), "Ctrl+N", "list-add", Nothing, InList | InBar,
+     QT_TRANSLATE_NOOP("MainWindow", "Adds a node"), "Ctrl+N", "list-add", Nothing, InList | InBar | Edits,
      &NodeCommands::add},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionEdit", QT_TRANSLATE_NOOP("MainWindow", "&Edit..."),
      QT_TRANSLATE_NOOP("MainWindow", "Changes the selected nodes"), "Ctrl+E; F2", "document-edit", SomeNodes,
-     InList | InBar, &NodeCommands::edit},
+     InList | InBar | Edits, &NodeCommands::edit},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionRemove", QT_TRANSLATE_NOOP("MainWindow", "&Remove..."),
      QT_TRANSLATE_NOOP("MainWindow", "Removes the selected nodes"), "Del", "list-remove", SomeNodes,
-     InList | InBar, &NodeRemoval::run},
+     InList | InBar | Edits, &NodeRemoval::run},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionProperties",
      QT_TRANSLATE_NOOP("MainWindow", "&Properties"),
      QT_TRANSLATE_NOOP("MainWindow", "Shows the selected node without changing it"), "Alt+Return",
@@ -109,15 +115,15 @@ const Commands::Command Commands::all[] = {
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionCredentials",
      QT_TRANSLATE_NOOP("MainWindow", "&User && Password..."),
      QT_TRANSLATE_NOOP("MainWindow", "Gives the selected devices one user name and password"), "Ctrl+U",
-     "dialog-password", SomeNodes, InList | AfterLine, &NodeCommands::editCredentials},
+     "dialog-password", SomeNodes, InList | AfterLine | Edits, &NodeCommands::editCredentials},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionRecording",
      QT_TRANSLATE_NOOP("MainWindow", "Access Re&cordings..."),
      QT_TRANSLATE_NOOP("MainWindow", "Where the recordings of the selected cameras are played from"),
-     "Ctrl+R", "folder-videos", SomeNodes, InList, &NodeCommands::editRecording},
+     "Ctrl+R", "folder-videos", SomeNodes, InList | Edits, &NodeCommands::editRecording},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionFillIn", QT_TRANSLATE_NOOP("MainWindow", "&Fill In..."),
      QT_TRANSLATE_NOOP("MainWindow",
                        "Asks the selected devices what they are, and stores what you choose of it"),
-     "", "", SomeNodes, InList, [](MainWindow& window) { FillInDialog::run(window); }},
+     "", "", SomeNodes, InList | Edits, [](MainWindow& window) { FillInDialog::run(window); }},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionPreview",
      QT_TRANSLATE_NOOP("MainWindow", "Pre&view Changes to Several"),
      QT_TRANSLATE_NOOP("MainWindow", "Shows what would be done to several nodes before it is stored"), "", "",
@@ -127,7 +133,7 @@ const Commands::Command Commands::all[] = {
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionDuplicate",
      QT_TRANSLATE_NOOP("MainWindow", "&Duplicate..."),
      QT_TRANSLATE_NOOP("MainWindow", "Adds a node that is like the selected one"), "Ctrl+D", "edit-copy",
-     OneNode, InList | AfterLine, &NodeCommands::duplicate},
+     OneNode, InList | AfterLine | Edits, &NodeCommands::duplicate},
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionWebPage",
      QT_TRANSLATE_NOOP("MainWindow", "Open &Web Page"),
      QT_TRANSLATE_NOOP("MainWindow", "Opens the page of the selected device in the browser"), "",
@@ -144,19 +150,19 @@ const Commands::Command Commands::all[] = {
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionProxy",
      QT_TRANSLATE_NOOP("MainWindow", "Network &Proxy..."),
      QT_TRANSLATE_NOOP("MainWindow", "The proxy server of the application"), "", "preferences-system-network",
-     Nothing, InMenu, &WindowCommands::editProxy},
+     Nothing, Edits, &WindowCommands::editProxy},
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionEnvironments",
      QT_TRANSLATE_NOOP("MainWindow", "&Environments..."),
-     QT_TRANSLATE_NOOP("MainWindow", "The network environments"), "", "", Nothing, InMenu,
+     QT_TRANSLATE_NOOP("MainWindow", "The network environments"), "", "", Nothing, Edits,
      &WindowCommands::editEnvironments},
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionOverview",
      QT_TRANSLATE_NOOP("MainWindow", "&Find Devices..."),
      QT_TRANSLATE_NOOP("MainWindow", "Nodes that arrive while the network is scanned"), "", "edit-find",
-     Nothing, InMenu, &WindowCommands::findDevices},
+     Nothing, Edits, &WindowCommands::findDevices},
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionAddressChanges",
      QT_TRANSLATE_NOOP("MainWindow", "&Seen at a New Address..."),
      QT_TRANSLATE_NOOP("MainWindow", "Devices that a scan found at another address than they have here"), "",
-     "", Nothing, InMenu, &WindowCommands::showAddressChanges},
+     "", Nothing, Edits, &WindowCommands::showAddressChanges},
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionCheck",
      QT_TRANSLATE_NOOP("MainWindow", "&Check Cameras"),
      QT_TRANSLATE_NOOP("MainWindow",
@@ -166,12 +172,12 @@ const Commands::Command Commands::all[] = {
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionAcceptDevices",
      QT_TRANSLATE_NOOP("MainWindow", "&Accept as This Camera..."),
      QT_TRANSLATE_NOOP("MainWindow", "Another device than before is this camera from now on"), "", "",
-     SomeNodes, InList, [](MainWindow& window) { window.checking().acceptDevices(); }},
+     SomeNodes, InList | Edits, [](MainWindow& window) { window.checking().acceptDevices(); }},
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionAllowClearPasswords",
      QT_TRANSLATE_NOOP("MainWindow", "A&llow Clear Password..."),
      QT_TRANSLATE_NOOP("MainWindow",
                        "Cameras that take it in no other way are sent the password for all to read"),
-     "", "", SomeNodes, InList, [](MainWindow& window) { window.checking().allowClearPasswords(); }},
+     "", "", SomeNodes, InList | Edits, [](MainWindow& window) { window.checking().allowClearPasswords(); }},
 
     {QT_TRANSLATE_NOOP("MainWindow", "&View"), "actionColumns",
      QT_TRANSLATE_NOOP("MainWindow", "&Columns..."),
@@ -249,7 +255,10 @@ QAction* Commands::createAction(const Command& command)
         action->setChecked(command.isOn());
     }
     action->setShortcuts(QKeySequence::listFromString(QLatin1String(command.keys)));
-    connect(action, &QAction::triggered, &m_window, [this, run = command.run] { run(m_window); });
+    connect(action, &QAction::triggered, &m_window, [this, &command] {
+        if (!(command.places & Edits) || !ReadOnlyNotice::refuses(m_window.database(), &m_window))
+            command.run(m_window);
+    });
     return action;
 }
 

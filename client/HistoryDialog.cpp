@@ -5,6 +5,7 @@
 #include "HistoryLimitDialog.h"
 #include "PlainTable.h"
 #include "PutBackDialog.h"
+#include "ReadOnlyNotice.h"
 #include "WindowSize.h"
 #include "audit/ChangeSetTitle.h"
 #include "database/HostNodeDB.h"
@@ -226,6 +227,8 @@ void HistoryDialog::putBackLines()
 
 void HistoryDialog::putBack(const QVector<Alteration>& alterations, const QVector<ChangeSetRow>& sets)
 {
+    if (ReadOnlyNotice::refuses(m_db, this))
+        return;
     QVector<Cause> causes;
     for (const ChangeSetRow& set : sets)
         causes.append(set.cause);

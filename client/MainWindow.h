@@ -64,6 +64,10 @@ public:
     void exportCameras();
     void exportSelected();
 
+signals:
+    /// The user wants to work on another database, which is shared.
+    void siteChosen(const QString& address);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 

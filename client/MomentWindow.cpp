@@ -3,6 +3,7 @@
 #include "MainWindow.h"
 #include "PlainTable.h"
 #include "PutBackDialog.h"
+#include "ReadOnlyNotice.h"
 #include "WindowSize.h"
 #include "audit/ChangeSetTitle.h"
 #include "database/HostNodeDB.h"
@@ -237,6 +238,8 @@ QSet<QString> MomentWindow::selectedThings(const QVector<Alteration>& since) con
 void MomentWindow::putBack(bool all)
 {
     HostNodeDB& db = m_window.database();
+    if (ReadOnlyNotice::refuses(db, this))
+        return;
     std::optional<QVector<Alteration>> since = m_reading.since();
     if (since && !all)
         since = Alterations::selected(*since, selectedThings(*since));

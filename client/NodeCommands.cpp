@@ -101,6 +101,7 @@ QStringList selectedDevices(MainWindow& window)
 
 void open(MainWindow& window, const QString& id, bool readOnly)
 {
+    readOnly = readOnly || window.database().isReadOnly();
     const LayoutAdapter layouts;
     EditNodeDialog dialog(id, &window, readOnly, EditFlags, &layouts);
     QObject::connect(&window.database(), &NodeDB::nodeUpdated, &dialog, [&](const NodeID& updated) {

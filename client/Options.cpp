@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "sharing/SiteAddress.h"
+
 #include <QCoreApplication>
 
 namespace ko {
@@ -14,7 +16,10 @@ struct Option
 };
 
 const Option options[] = {
-    {"db", QT_TRANSLATE_NOOP("Application", "Opens this node database; it is made if it is not there."),
+    {"db",
+     QT_TRANSLATE_NOOP("Application",
+                       "Opens this node database: a file, which is made if it is not there, or a "
+                       "shared one, postgresql://user@host/database."),
      "FILE"},
     {"lang",
      QT_TRANSLATE_NOOP("Application",
@@ -32,6 +37,11 @@ const Option options[] = {
      QT_TRANSLATE_NOOP("Application",
                        "Gives the database, which may be in use, the content of a backup and ends. "
                        "The present content is kept as a backup."),
+     "FILE"},
+    {"share",
+     QT_TRANSLATE_NOOP("Application",
+                       "Brings the database with its history to an empty one on a server, whose address "
+                       "follows (postgresql://user@host/database), and ends. Called again, it goes on."),
      "FILE"},
     {"verify-log",
      QT_TRANSLATE_NOOP("Application",
@@ -103,8 +113,19 @@ QString Options::read(const QStringList& arguments)
 {
     if (!m_parser.parse(arguments))
         return m_parser.errorText();
-    if (!m_parser.positionalArguments().isEmpty())
-        return Texts::tr("Unexpected argument: %1").arg(m_parser.positionalArguments().constFirst());
+    const QStringList others = m_parser.positionalArguments();
+    if (others.size() > int(isSet("share")))
+        return Texts::tr("Unexpected argument: %1").arg(others.constLast());
+    if (isSet("share") && !SiteAddress::isSite(site()))
+        return Texts::tr("After --share FILE comes the address of a database, "
+                         "postgresql://user@host/database.");
+    if (SiteAddress::isSite(value("db")) && isSet("restore"))
+        return Texts::tr("A backup cannot be restored into a shared database.");
+    for (const QString& address : {value("db"), site()}) {
+        const QString refusal = SiteAddress::isSite(address) ? SiteAddress::refusal(address) : QString();
+        if (!refusal.isEmpty())
+            return refusal;
+    }
     return asksForHelp() || isSet("version") ? QString() : badValue();
 }
 
@@ -118,6 +139,11 @@ QString Options::badValue() const
     if (isSet("thin-history") && value("thin-history").toInt() < 1)
         return Texts::tr("--thin-history takes a number of days.");
     return QString();
+}
+
+QString Options::site() const
+{
+    return m_parser.positionalArguments().value(0);
 }
 
 QString Options::helpText() const

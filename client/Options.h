@@ -16,6 +16,8 @@ public:
 
     bool isSet(const char* name) const { return m_parser.isSet(QLatin1String(name)); }
     QString value(const char* name) const { return m_parser.value(QLatin1String(name)); }
+    /// The address after --share FILE.
+    QString site() const;
     bool asksForHelp() const { return isSet("help") || isSet("help-all"); }
 
     /// Names the program, so there must be an application.

@@ -3,6 +3,7 @@
 #include "AddressChangesDialog.h"
 #include "AuditLogDialog.h"
 #include "BackToDialog.h"
+#include "ConnectDialog.h"
 #include "HistoryDialog.h"
 #include "MainWindow.h"
 #include "MomentWindow.h"
@@ -45,6 +46,13 @@ bool runHistory(MainWindow& window, const HistoryDialog::Scope& scope, QWidget* 
 }
 
 } // namespace
+
+void connectToSite(MainWindow& window)
+{
+    ConnectDialog dialog(&window);
+    if (dialog.exec() == QDialog::Accepted)
+        emit window.siteChosen(dialog.address());
+}
 
 void editPreferences(MainWindow& window)
 {

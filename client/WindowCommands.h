@@ -8,6 +8,7 @@ class MainWindow;
 /// What belongs to the program and the database as a whole: each opens a window of its own.
 namespace WindowCommands {
 
+void connectToSite(MainWindow& window);
 void editPreferences(MainWindow& window);
 void editProxy(MainWindow& window);
 void editEnvironments(MainWindow& window);

@@ -5,7 +5,7 @@ _koclient()
     local cur prev words cword
     _init_completion || return
     case $prev in
-    --db | --import | --export | --backup | --restore)
+    --db | --import | --export | --backup | --restore | --share)
         _filedir
         return
         ;;
@@ -15,5 +15,5 @@ _koclient()
         ;;
     esac
     COMPREPLY=($(compgen -W "--db --lang --import --export --without-passwords --backup --restore
-        --verify-log --thin-history --help --help-all --version" -- "$cur"))
+        --share --verify-log --thin-history --help --help-all --version" -- "$cur"))
 } && complete -F _koclient koclient

@@ -14,6 +14,8 @@
 #include "NodeListModel.h"
 #include "NodeListView.h"
 #include "PutBackDialog.h"
+#include "SharingDialog.h"
+#include "SiteSharing.h"
 #include "database/StoredHistory.h"
 #include "dialogs/GenericNodeViewer.h"
 #include "dialogs/NodeDBViewer.h"
@@ -108,7 +110,7 @@ private:
              {"actionAdd", "actionRemove", "actionProperties", "actionCredentials", "actionRecording",
               "actionPreferences", "actionProxy", "actionEnvironments", "actionOverview",
               "actionAddressChanges", "actionAuditLog", "actionHistory", "actionNodeHistory", "actionBackTo",
-              "actionFillIn", "actionAbout"})
+              "actionFillIn", "actionConnect", "actionAbout"})
             trigger(window, action, [&](QDialog* dialog) { look(QString::fromLatin1(action), dialog); });
     }
 
@@ -161,6 +163,11 @@ private:
 
     void visitOthers(ko::MainWindow& window, const Look& look)
     {
+        {
+            ko::SiteSharing sharing(*m_host.db(), QStringLiteral("postgresql://7@/8?host=/nonexistent"));
+            ko::SharingDialog shared(*m_host.db(), sharing, &window);
+            show(&shared, QStringLiteral("sharing"), look);
+        }
         const auto nodeOf = [this](const QString& id) { return m_host.db()->summary(id); };
         auto* report = new ko::CheckReportDialog({{m_camera, ko::CameraState()}}, nodeOf, 2, true, &window);
         show(report, QStringLiteral("check report"), look);

@@ -1,0 +1,30 @@
+#include "ReadOnlyNotice.h"
+
+#include "PlainMessageBox.h"
+#include "database/HostNodeDB.h"
+
+#include <QCoreApplication>
+
+namespace ko {
+
+namespace ReadOnlyNotice {
+
+QString text()
+{
+    return QCoreApplication::translate("ReadOnlyNotice",
+                                       "You may look at this shared database but not change it. Its "
+                                       "administrator can give you the role ko_editor.");
+}
+
+bool refuses(const HostNodeDB& db, QWidget* parent)
+{
+    if (!db.isReadOnly())
+        return false;
+    PlainMessageBox::ask(QMessageBox::Information, parent,
+                         QCoreApplication::translate("ReadOnlyNotice", "Read-Only"), text());
+    return true;
+}
+
+} // namespace ReadOnlyNotice
+
+} // namespace ko
