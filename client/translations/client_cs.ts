@@ -98,10 +98,6 @@
         <translation>vynecháno bez názvu a adresy: %1</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Otevře tuto databázi uzlů; pokud neexistuje, vytvoří ji.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Použije tento jazyk, např. de nebo pt_BR, bez ohledu na jiná nastavení.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Zobrazuje, přidává, upravuje a odebírá uzly kamerového systému.
 Bez volby, která něco udělá a skončí, jako --import, otevře okno a přijímá i volby grafické knihovny (-platform, -style a další).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Otevře tuto databázi uzlů: soubor, který se vytvoří, pokud neexistuje, nebo sdílenou databázi, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Přenese databázi s historií do prázdné databáze na serveru, jejíž adresa následuje (postgresql://user@host/database), a skončí. Při dalším spuštění pokračuje.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>Za --share FILE následuje adresa databáze, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>Do sdílené databáze nelze obnovit zálohu.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +509,81 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
     <message>
         <source>Time</source>
         <translation>Čas</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Když je server nabízí</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Vždy</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Vždy, s ověřením certifikátu</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nikdy</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Připojit ke sdílené databázi</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Nedávné:</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Server:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Port:</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Databáze:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Uživatel:</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>&amp;Heslo:</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>Ši&amp;frování:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>&amp;Zapamatovat heslo</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Vyzkoušet</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Připojování...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>Databázi lze číst i měnit.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>Databázi lze číst, ale vy ji měnit nesmíte.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>Heslo nelze zapamatovat, protože chybí klíč, kterým se hesla pečetí. Příště budete znovu požádáni o jeho zadání.</translation>
     </message>
 </context>
 <context>
@@ -1571,6 +1658,14 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
             <numerusform>Upraveno %n uzlů.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>Připo&amp;jit...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Otevře databázi sdílenou s jinými stanicemi</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1947,6 +2042,17 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>Tuto sdílenou databázi smíte prohlížet, ale ne měnit. Její správce vám může dát roli ko_editor.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Jen pro čtení</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2045,6 +2151,218 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: není k dispozici (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Soubor „%1“ neexistuje.</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>Historie souboru „%1“ neříká, jak vzniklo vše, co v něm je: je starší než historie, nebo do něj byla obnovena záloha. Takový soubor nelze sdílet; importujte jeho kamery do nového.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>Objekt „%1“ nesmíte měnit. Požádejte jeho správce o roli ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>Objekt „%1“ není prázdný.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>„%1“ patří k jinému objektu než „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>Řádky (%1) a jejich historie jsou v „%2“ a jsou tam stejné jako zde.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>Objekt se liší od souboru: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>Soubor nebo objekt se stále mění, takže je nebylo možné porovnat.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Sdílená databáze</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Tyto vaše změny nebylo možné provést, protože někdo jiný uzel předtím odebral. Úpravy &gt; Historie vrátí odebraný uzel.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Neprovedené změny</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Změna</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Uzel</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Odebral</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Zahodit vybrané</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>&amp;Nová kopie...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Opakovat</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 na %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Nová kopie</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>Zavřít toto okno a vytvořit novou kopii toho, co je teď na serveru? Neodeslané změny v ní nebudou; nynější kopie, která je obsahuje, zůstane ve složce „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n změna neprovedena</numerusform>
+            <numerusform>%1, %n změny neprovedeny</numerusform>
+            <numerusform>%1, %n změn neprovedeno</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>Na adrese „%1“ je teď jiný objekt než ten, jehož je toto kopie. Nic se tam neodeslalo. Pokud byl server zřízen znovu, požádejte jeho správce, aby objekt vrátil.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>Databáze „%1“ neobsahuje žádný objekt nebo ho nesmíte číst. Požádejte jejího správce o roli ko_viewer nebo ko_editor; z prázdné databáze se objekt stane příkazem koclient --share.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>Objekt „%1“ byl vytvořen jinou verzí tohoto programu. Nainstalujte tu verzi na tento počítač, nebo nechte objekt aktualizovat.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>Objekt „%1“ smíte jen číst, ale na tomto počítači jsou změny, které tam chybějí. Požádejte jeho správce o roli ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>Do této kopie objektu „%1“ byla obnovena záloha, což nelze sdělit jiným stanicím. Už se nesdílí.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>Kopii objektu „%1“ na tomto počítači nelze číst ani zapisovat.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>Objekt „%1“ nepřijímá, co tato stanice posílá.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>Už se nesdílí...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Připojeno, jen pro čtení</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Připojeno</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>Odesílá se %n změna</numerusform>
+            <numerusform>Odesílají se %n změny</numerusform>
+            <numerusform>Odesílá se %n změn</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Doplňují se změny</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Server nedostupný od %1, čeká %n změna</numerusform>
+            <numerusform>Server nedostupný od %1, čekají %n změny</numerusform>
+            <numerusform>Server nedostupný od %1, čeká %n změn</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Server nedostupný od %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>Server objektu „%1“ není dostupný. Můžete pokračovat: co změníte, čeká na tomto počítači a odešle se, až bude server zpět.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>Objekt „%1“ vidíte tak, jak ho mění ostatní, ale sami ho měnit nesmíte.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>Objekt „%1“ sdílíte s ostatními.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>Objekt „%1“ není dostupný.</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>Čeká se na server...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Odesílání: zbývá %n změna</numerusform>
+            <numerusform>Odesílání: zbývají %n změny</numerusform>
+            <numerusform>Odesílání: zbývá %n změn</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Příjem: %1 z %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Sdílená databáze</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Připojování k „%1“...</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>%1 ohne Name und Adresse ausgelassen</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Öffnet diese Knotendatenbank; sie wird angelegt, wenn sie fehlt.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Verwendet diese Sprache, z. B. de oder pt_BR, unabhängig von anderen Einstellungen.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Zeigt, ergänzt, bearbeitet und entfernt die Knoten eines Videoüberwachungssystems.
 Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöffnet; dann gelten auch die Optionen des Toolkits (-platform, -style und andere).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Öffnet diese Knotendatenbank: eine Datei, die angelegt wird, wenn sie fehlt, oder eine gemeinsame, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Bringt die Datenbank mit ihrem Verlauf in eine leere auf einem Server, deren Adresse folgt (postgresql://user@host/database), und endet. Erneut aufgerufen, geht es weiter.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>Nach --share FILE folgt die Adresse einer Datenbank, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>In eine gemeinsame Datenbank kann keine Sicherung zurückgespielt werden.</translation>
     </message>
 </context>
 <context>
@@ -492,6 +504,81 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
     <message>
         <source>Time</source>
         <translation>Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Wenn der Server sie hat</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Immer, mit Prüfung des Zertifikats</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Mit gemeinsamer Datenbank verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Zuletzt:</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Server:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Port:</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Datenbank:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Benutzer:</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>Pass&amp;wort:</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>&amp;Verschlüsselung:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>Passwort &amp;merken</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Testen</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Verbindung wird hergestellt...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>Die Datenbank kann gelesen und geändert werden.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>Die Datenbank kann gelesen, aber von Ihnen nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>Das Passwort kann nicht gemerkt werden, weil der Schlüssel fehlt, der Passwörter versiegelt. Sie werden beim nächsten Mal wieder danach gefragt.</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1634,14 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
             <numerusform>%n Knoten bearbeitet.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>&amp;Verbinden...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Öffnet eine Datenbank, die mit anderen Arbeitsplätzen geteilt wird</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1920,6 +2015,17 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>Sie dürfen diese gemeinsame Datenbank ansehen, aber nicht ändern. Ihr Administrator kann Ihnen die Rolle ko_editor geben.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Nur lesen</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2013,6 +2119,214 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: nicht verfügbar (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Die Datei „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>Der Verlauf von „%1“ sagt nicht, wie alles darin entstanden ist: Die Datei ist älter als der Verlauf, oder es wurde eine Sicherung zurückgespielt. Eine solche Datei kann nicht geteilt werden; importieren Sie ihre Kameras in eine neue.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>Sie dürfen den Standort „%1“ nicht ändern. Bitten Sie seinen Administrator um die Rolle ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>Der Standort „%1“ ist nicht leer.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>„%1“ gehört zu einem anderen Standort als „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>%1 Zeilen und ihr Verlauf sind in „%2“ und dort die gleichen wie hier.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>Der Standort weicht von der Datei ab: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>Datei oder Standort ändern sich ständig, daher konnten sie nicht verglichen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Gemeinsame Datenbank</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Diese Ihrer Änderungen konnten nicht ausgeführt werden, weil jemand anderes den Knoten vorher entfernt hatte. Bearbeiten &gt; Verlauf holt einen entfernten Knoten zurück.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Nicht ausgeführte Änderungen</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Entfernt von</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>Auswahl &amp;verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>&amp;Neue Kopie...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 an %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Neue Kopie</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>Dieses Fenster schließen und eine neue Kopie dessen anlegen, was jetzt auf dem Server ist? Nicht gesendete Änderungen sind nicht darin; die jetzige Kopie, die sie enthält, bleibt im Ordner „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n Änderung nicht ausgeführt</numerusform>
+            <numerusform>%1, %n Änderungen nicht ausgeführt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>Unter „%1“ liegt jetzt ein anderer Standort als der, von dem dies eine Kopie ist. Es wurde nichts dorthin gesendet. Wenn der Server neu eingerichtet wurde, bitten Sie seinen Administrator, den Standort zurückzubringen.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>Die Datenbank „%1“ enthält keinen Standort, oder Sie dürfen ihn nicht lesen. Bitten Sie ihren Administrator um die Rolle ko_viewer oder ko_editor; aus einer leeren Datenbank wird mit koclient --share ein Standort.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>Der Standort „%1“ wurde mit einer anderen Version dieses Programms angelegt. Installieren Sie diese Version auf diesem Computer, oder lassen Sie den Standort aktualisieren.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>Sie dürfen den Standort „%1“ nur lesen, aber auf diesem Computer gibt es Änderungen, die dort fehlen. Bitten Sie seinen Administrator um die Rolle ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>In diese Kopie des Standorts „%1“ wurde eine Sicherung zurückgespielt, was anderen Arbeitsplätzen nicht mitgeteilt werden kann. Sie wird nicht mehr gemeinsam benutzt.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>Die Kopie des Standorts „%1“ auf diesem Computer kann nicht gelesen oder geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>Der Standort „%1“ nimmt nicht an, was dieser Arbeitsplatz sendet.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>Nicht mehr gemeinsam...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Verbunden, nur lesen</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>%n Änderung wird gesendet</numerusform>
+            <numerusform>%n Änderungen werden gesendet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Wird abgeglichen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Server nicht erreichbar seit %1, %n Änderung wartet</numerusform>
+            <numerusform>Server nicht erreichbar seit %1, %n Änderungen warten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Server nicht erreichbar seit %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>Der Server des Standorts „%1“ ist nicht erreichbar. Sie können weiterarbeiten: Was Sie ändern, wartet auf diesem Computer und wird gesendet, sobald der Server wieder da ist.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>Sie sehen den Standort „%1“, wie andere ihn ändern, und dürfen ihn selbst nicht ändern.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>Sie teilen den Standort „%1“ mit anderen.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>Der Standort „%1“ ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>Warten auf den Server...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Senden: noch %n Änderung</numerusform>
+            <numerusform>Senden: noch %n Änderungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Empfangen: %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Gemeinsame Datenbank</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Verbindung zu „%1“ wird hergestellt...</translation>
     </message>
 </context>
 <context>

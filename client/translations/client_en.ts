@@ -271,6 +271,40 @@
     </message>
 </context>
 <context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n change could not be made</numerusform>
+            <numerusform>%1, %n changes could not be made</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>Sending %n change</numerusform>
+            <numerusform>Sending %n changes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Server away since %1, %n change waiting</numerusform>
+            <numerusform>Server away since %1, %n changes waiting</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Sending: %n change left</numerusform>
+            <numerusform>Sending: %n changes left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SurveyCommands</name>
     <message numerus="yes">
         <source>%n camera(s) written.</source>

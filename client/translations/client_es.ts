@@ -98,10 +98,6 @@
         <translation>%1 sin nombre ni dirección omitidas</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Abre esta base de datos de nodos; si no existe, se crea.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Usa este idioma, como de o pt_BR, sin importar lo que se haya elegido en otra parte.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Muestra, añade, edita y elimina los nodos de un sistema de videovigilancia.
 Sin una opción que haga algo y termine, como --import, abre una ventana y acepta también las opciones de la biblioteca gráfica (-platform, -style y otras).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Abre esta base de datos de nodos: un archivo, que se crea si no existe, o una compartida, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Lleva la base de datos con su historial a una vacía en un servidor, cuya dirección sigue (postgresql://user@host/database), y termina. Si se llama de nuevo, continúa.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>Después de --share FILE va la dirección de una base de datos, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>No se puede restaurar una copia de seguridad en una base de datos compartida.</translation>
     </message>
 </context>
 <context>
@@ -492,6 +504,81 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
     <message>
         <source>Time</source>
         <translation>Hora</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Si el servidor lo ofrece</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Siempre</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Siempre, y comprobar el certificado</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Conectar con una base de datos compartida</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Recientes:</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Servidor:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Puerto:</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Base de datos:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Usuario:</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>Con&amp;traseña:</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>Ci&amp;frado:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>&amp;Guardar la contraseña</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>Pr&amp;obar</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Conectando...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>La base de datos se puede leer y modificar.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>La base de datos se puede leer, pero usted no puede modificarla.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>No se puede guardar la contraseña porque falta la clave que sella las contraseñas. Se le pedirá de nuevo la próxima vez.</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1634,14 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
             <numerusform>%n nodos editados.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>&amp;Conectar...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Abre una base de datos compartida con otros puestos</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1920,6 +2015,17 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>Puede ver esta base de datos compartida, pero no modificarla. Su administrador puede darle el rol ko_editor.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Solo lectura</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2013,6 +2119,214 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: no disponible (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>No existe el archivo «%1».</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>El historial de «%1» no indica cómo llegó todo lo que contiene: es anterior al historial o se restauró en él una copia de seguridad. Un archivo así no se puede compartir; importe sus cámaras en uno nuevo.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>No puede modificar el sitio «%1». Pida a su administrador el rol ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>El sitio «%1» no está vacío.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>«%1» pertenece a otro sitio que «%2».</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>%1 filas y su historial están en «%2» y son iguales allí y aquí.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>El sitio difiere del archivo: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>El archivo o el sitio cambian continuamente, por lo que no se pudieron comparar.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Base de datos compartida</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Estos cambios suyos no se pudieron realizar porque otra persona había eliminado antes el nodo. Editar &gt; Historial recupera un nodo eliminado.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Cambios no realizados</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambio</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Nodo</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Eliminado por</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Descartar selección</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>&amp;Nueva copia...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Nueva copia</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>¿Cerrar esta ventana y crear una copia nueva de lo que hay ahora en el servidor? Los cambios no enviados no están en ella; la copia actual, que los contiene, permanece en la carpeta «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n cambio no realizado</numerusform>
+            <numerusform>%1, %n cambios no realizados</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>En «%1» hay ahora otro sitio distinto de aquel del que esto es una copia. No se le ha enviado nada. Si el servidor se ha instalado de nuevo, pida a su administrador que restablezca el sitio.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>La base de datos «%1» no contiene ningún sitio o usted no puede leerlo. Pida a su administrador el rol ko_viewer o ko_editor; una base de datos vacía se convierte en un sitio con koclient --share.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>El sitio «%1» se creó con otra versión de este programa. Instale esa versión en este equipo o haga actualizar el sitio.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>Solo puede leer el sitio «%1», pero en este equipo hay cambios que no ha recibido. Pida a su administrador el rol ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>En esta copia del sitio «%1» se restauró una copia de seguridad, lo que no se puede comunicar a otros puestos. Ya no se comparte.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>La copia del sitio «%1» en este equipo no se puede leer ni escribir.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>El sitio «%1» no acepta lo que envía este puesto.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>Ya no se comparte...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Conectado, solo lectura</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>Enviando %n cambio</numerusform>
+            <numerusform>Enviando %n cambios</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Poniéndose al día</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Servidor inaccesible desde %1, %n cambio en espera</numerusform>
+            <numerusform>Servidor inaccesible desde %1, %n cambios en espera</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Servidor inaccesible desde %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>No se puede acceder al servidor del sitio «%1». Puede continuar: lo que cambie espera en este equipo y se envía cuando vuelva el servidor.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>Ve el sitio «%1» tal como otros lo cambian, pero no puede cambiarlo.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>Comparte el sitio «%1» con otros.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>No se puede acceder al sitio «%1».</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>Esperando al servidor...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Enviando: queda %n cambio</numerusform>
+            <numerusform>Enviando: quedan %n cambios</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Recibiendo: %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Base de datos compartida</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Conectando con «%1»...</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>%1 sans nom ni adresse laissés de côté</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Ouvre cette base de données de nœuds ; elle est créée si elle n&apos;existe pas.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Utilise cette langue, par exemple de ou pt_BR, quel que soit le choix fait ailleurs.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Affiche, ajoute, modifie et supprime les nœuds d&apos;un système de vidéosurveillance.
 Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fenêtre et accepte aussi les options de la boîte à outils (-platform, -style et autres).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Ouvre cette base de données de nœuds : un fichier, créé s&apos;il n&apos;existe pas, ou une base partagée, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Transfère la base de données et son historique dans une base vide d&apos;un serveur, dont l&apos;adresse suit (postgresql://user@host/database), et se termine. Un nouvel appel reprend le transfert.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>Après --share FILE vient l&apos;adresse d&apos;une base de données, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>Une sauvegarde ne peut pas être restaurée dans une base de données partagée.</translation>
     </message>
 </context>
 <context>
@@ -492,6 +504,81 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
     <message>
         <source>Time</source>
         <translation>Heure</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Si le serveur le propose</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Toujours</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Toujours, en vérifiant le certificat</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Jamais</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Connexion à une base de données partagée</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Récentes :</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Serveur :</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Port :</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Base de données :</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Utilisateur :</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>&amp;Mot de passe :</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>C&amp;hiffrement :</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>&amp;Garder le mot de passe</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Tester</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Connexion...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>La base de données peut être lue et modifiée.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>La base de données peut être lue, mais vous ne pouvez pas la modifier.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>Le mot de passe ne peut pas être gardé, car la clé qui scelle les mots de passe est absente. Il sera redemandé la prochaine fois.</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1634,14 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
             <numerusform>%n nœuds modifiés.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>&amp;Connecter...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Ouvre une base de données partagée avec d&apos;autres postes</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1920,6 +2015,17 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>Vous pouvez consulter cette base de données partagée, mais pas la modifier. Son administrateur peut vous donner le rôle ko_editor.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Lecture seule</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2013,6 +2119,214 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1 : non disponible (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Le fichier « %1 » n&apos;existe pas.</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>L&apos;historique de « %1 » ne dit pas d&apos;où vient tout son contenu : le fichier est plus ancien que l&apos;historique, ou une sauvegarde y a été restaurée. Un tel fichier ne peut pas être partagé ; importez ses caméras dans un nouveau.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>Vous ne pouvez pas modifier le site « %1 ». Demandez à son administrateur le rôle ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>Le site « %1 » n&apos;est pas vide.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>« %1 » appartient à un autre site que « %2 ».</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>%1 lignes et leur historique sont dans « %2 », identiques à celles d&apos;ici.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>Le site diffère du fichier : %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>Le fichier ou le site change sans cesse ; ils n&apos;ont pas pu être comparés.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Base de données partagée</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Ces modifications de votre part n&apos;ont pas pu être effectuées, car quelqu&apos;un d&apos;autre avait supprimé le nœud auparavant. Édition &gt; Historique rétablit un nœud supprimé.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Modifications non effectuées</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modification</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Nœud</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Supprimé par</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Rejeter la sélection</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>&amp;Nouvelle copie...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>Ré&amp;essayer</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Nouvelle copie</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>Fermer cette fenêtre et créer une nouvelle copie de ce qui est maintenant sur le serveur ? Les modifications non envoyées n&apos;y sont pas ; la copie actuelle, qui les contient, reste dans le dossier « %1 ».</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n modification non effectuée</numerusform>
+            <numerusform>%1, %n modifications non effectuées</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>À « %1 » se trouve maintenant un autre site que celui dont ceci est une copie. Rien ne lui a été envoyé. Si le serveur a été réinstallé, demandez à son administrateur de rétablir le site.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>La base de données « %1 » ne contient pas de site, ou vous ne pouvez pas le lire. Demandez à son administrateur le rôle ko_viewer ou ko_editor ; une base vide devient un site avec koclient --share.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>Le site « %1 » a été créé par une autre version de ce programme. Installez cette version sur cet ordinateur ou faites mettre le site à jour.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>Vous ne pouvez que lire le site « %1 », mais cet ordinateur contient des modifications qu&apos;il n&apos;a pas reçues. Demandez à son administrateur le rôle ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>Une sauvegarde a été restaurée dans cette copie du site « %1 », ce qui ne peut pas être communiqué aux autres postes. Elle n&apos;est plus partagée.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>La copie du site « %1 » sur cet ordinateur ne peut être ni lue ni écrite.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>Le site « %1 » n&apos;accepte pas ce que ce poste envoie.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>N&apos;est plus partagée...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Connecté, lecture seule</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>Envoi de %n modification</numerusform>
+            <numerusform>Envoi de %n modifications</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Mise à jour en cours</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Serveur inaccessible depuis %1, %n modification en attente</numerusform>
+            <numerusform>Serveur inaccessible depuis %1, %n modifications en attente</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Serveur inaccessible depuis %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>Le serveur du site « %1 » est inaccessible. Vous pouvez continuer : ce que vous modifiez attend sur cet ordinateur et sera envoyé au retour du serveur.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>Vous voyez le site « %1 » tel que d&apos;autres le modifient, sans pouvoir le modifier vous-même.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>Vous partagez le site « %1 » avec d&apos;autres.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>Le site « %1 » est inaccessible.</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>En attente du serveur...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Envoi : encore %n modification</numerusform>
+            <numerusform>Envoi : encore %n modifications</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Réception : %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Base de données partagée</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Connexion à « %1 »...</translation>
     </message>
 </context>
 <context>

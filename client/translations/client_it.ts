@@ -98,10 +98,6 @@
         <translation>%1 senza nome e indirizzo escluse</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Apre questo database dei nodi; se non esiste, viene creato.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Usa questa lingua, ad esempio de o pt_BR, qualunque sia quella scelta altrove.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Mostra, aggiunge, modifica e rimuove i nodi di un sistema di videosorveglianza.
 Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestra e accetta anche le opzioni del toolkit (-platform, -style e altre).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Apre questo database dei nodi: un file, che viene creato se non esiste, o uno condiviso, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Porta il database con la sua cronologia in uno vuoto su un server, il cui indirizzo segue (postgresql://user@host/database), e termina. Richiamato, prosegue.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>Dopo --share FILE va l&apos;indirizzo di un database, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>Non si può ripristinare un backup in un database condiviso.</translation>
     </message>
 </context>
 <context>
@@ -492,6 +504,81 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
     <message>
         <source>Time</source>
         <translation>Ora</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Se il server la offre</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Sempre</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Sempre, verificando il certificato</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Mai</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Connetti a un database condiviso</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Recenti:</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Server:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Porta:</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Database:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Utente:</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>Pass&amp;word:</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>Cri&amp;ttografia:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>&amp;Memorizza la password</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>Pro&amp;va</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Connessione in corso...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>Il database può essere letto e modificato.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>Il database può essere letto, ma non può essere modificato da lei.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>La password non può essere memorizzata, perché manca la chiave che sigilla le password. Verrà chiesta di nuovo la prossima volta.</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1634,14 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
             <numerusform>%n nodi modificati.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>Co&amp;nnetti...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Apre un database condiviso con altre postazioni</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1920,6 +2015,17 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>Può consultare questo database condiviso, ma non modificarlo. Il suo amministratore può assegnarle il ruolo ko_editor.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Sola lettura</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2013,6 +2119,214 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: non disponibile (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Il file &quot;%1&quot; non esiste.</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>La cronologia di &quot;%1&quot; non dice come è nato tutto il suo contenuto: il file è più vecchio della cronologia oppure vi è stato ripristinato un backup. Un file simile non può essere condiviso; importare le sue telecamere in uno nuovo.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>Il sito &quot;%1&quot; non può essere modificato da lei. Chiedere al suo amministratore il ruolo ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>Il sito &quot;%1&quot; non è vuoto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>&quot;%1&quot; appartiene a un sito diverso da &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>%1 righe e la loro cronologia sono in &quot;%2&quot;, uguali a quelle di qui.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>Il sito differisce dal file: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>Il file o il sito cambia di continuo, quindi non è stato possibile confrontarli.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Database condiviso</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Queste modifiche non sono state eseguite, perché qualcun altro aveva rimosso prima il nodo. Modifica &gt; Cronologia ripristina un nodo rimosso.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Modifiche non eseguite</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Nodo</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Rimosso da</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Scarta selezionati</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>&amp;Nuova copia...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Riprova</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 su %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Nuova copia</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>Chiudere questa finestra e creare una nuova copia di ciò che ora è sul server? Le modifiche non inviate non vi sono; la copia attuale, che le contiene, resta nella cartella &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n modifica non eseguita</numerusform>
+            <numerusform>%1, %n modifiche non eseguite</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>In &quot;%1&quot; ora c&apos;è un sito diverso da quello di cui questa è una copia. Non gli è stato inviato nulla. Se il server è stato reinstallato, chiedere al suo amministratore di ripristinare il sito.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>Il database &quot;%1&quot; non contiene alcun sito oppure non è permesso leggerlo. Chiedere al suo amministratore il ruolo ko_viewer o ko_editor; un database vuoto diventa un sito con koclient --share.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>Il sito &quot;%1&quot; è stato creato con un&apos;altra versione di questo programma. Installare quella versione su questo computer o far aggiornare il sito.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>Il sito &quot;%1&quot; può solo essere letto, ma su questo computer ci sono modifiche che non ha ricevuto. Chiedere al suo amministratore il ruolo ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>In questa copia del sito &quot;%1&quot; è stato ripristinato un backup, cosa che non si può comunicare alle altre postazioni. Non è più condivisa.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>La copia del sito &quot;%1&quot; su questo computer non può essere letta o scritta.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>Il sito &quot;%1&quot; non accetta ciò che questa postazione invia.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>Non più condiviso...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Connesso, sola lettura</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connesso</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>Invio di %n modifica</numerusform>
+            <numerusform>Invio di %n modifiche</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Aggiornamento in corso</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Server non raggiungibile da %1, %n modifica in attesa</numerusform>
+            <numerusform>Server non raggiungibile da %1, %n modifiche in attesa</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Server non raggiungibile da %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>Il server del sito &quot;%1&quot; non è raggiungibile. Si può continuare: le modifiche attendono su questo computer e vengono inviate quando il server torna.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>Vede il sito &quot;%1&quot; come altri lo modificano, ma non può modificarlo.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>Il sito &quot;%1&quot; è condiviso con altri.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>Il sito &quot;%1&quot; non è raggiungibile.</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>In attesa del server...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Invio: ancora %n modifica</numerusform>
+            <numerusform>Invio: ancora %n modifiche</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Ricezione: %1 di %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Database condiviso</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Connessione a &quot;%1&quot;...</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>名前もアドレスもない%1件を除外しました</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>このノードデータベースを開きます。ない場合は作成します。</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>ほかの設定に関係なく、この言語 (deやpt_BRなど) を使用します。</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>ビデオ監視システムのノードを表示、追加、編集、削除します。
 --importなど、処理を行って終了するオプションを指定しない場合はウィンドウを開き、ツールキットのオプション (-platform、-styleなど) も使用できます。</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>このノードデータベースを開きます。ファイル (ない場合は作成) または共有データベース (postgresql://user@host/database) を指定します。</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>データベースを履歴とともに、続けて指定するアドレス (postgresql://user@host/database) のサーバー上の空のデータベースへ移して終了します。再度呼び出すと続きから行います。</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>--share FILEの後には、データベースのアドレス (postgresql://user@host/database) を指定します。</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>共有データベースにバックアップを復元することはできません。</translation>
     </message>
 </context>
 <context>
@@ -487,6 +499,81 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>Time</source>
         <translation>時刻</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>サーバーが対応している場合</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>常に</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>常に (証明書を検証)</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>使用しない</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>共有データベースに接続</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>最近使用(&amp;R):</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>サーバー(&amp;S):</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>ポート(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>データベース(&amp;D):</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>ユーザー(&amp;U):</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>パスワード(&amp;A):</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>暗号化(&amp;E):</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>パスワードを保存(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>テスト(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>接続中...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>データベースの読み取りと変更ができます。</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>データベースは読み取れますが、変更する権限はありません。</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>パスワードを封印する鍵がないため、パスワードを保存できません。次回も入力が必要です。</translation>
     </message>
 </context>
 <context>
@@ -1523,6 +1610,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
             <numerusform>%n個のノードを編集しました。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>接続(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>他の端末と共有されているデータベースを開きます</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1893,6 +1988,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>この共有データベースは閲覧できますが、変更はできません。管理者からロールko_editorを付与してもらえます。</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>読み取り専用</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -1981,6 +2087,210 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: 使用できません (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>ファイル「%1」がありません。</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>「%1」の履歴では、すべての内容の由来がわかりません。履歴より古いファイルか、バックアップが復元されたファイルです。このようなファイルは共有できません。カメラを新しいファイルにインポートしてください。</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>サイト「%1」を変更する権限がありません。管理者にロールko_editorを依頼してください。</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>サイト「%1」は空ではありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>「%1」は「%2」とは別のサイトのものです。</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>%1行とその履歴が「%2」にあり、こちらと同じ内容です。</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>サイトとファイルの内容が異なります: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>ファイルまたはサイトが変更され続けているため、比較できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>共有データベース</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>これらの変更は、他のユーザーが先にノードを削除していたため反映できませんでした。削除されたノードは「編集」&gt;「履歴」で元に戻せます。</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>反映できなかった変更</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>ノード</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>削除者</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>選択項目を破棄(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>新しいコピー(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>再試行(&amp;T)</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>新しいコピー</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>このウィンドウを閉じて、サーバーの現在の内容から新しいコピーを作成しますか。未送信の変更は含まれません。変更を含む現在のコピーはフォルダー「%1」に残ります。</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1、%n件の変更を反映できませんでした</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>「%1」には現在、このコピーの元とは別のサイトがあります。何も送信されていません。サーバーが新しく設定された場合は、管理者に元のサイトの復旧を依頼してください。</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>データベース「%1」にはサイトがないか、読み取る権限がありません。管理者にロールko_viewerまたはko_editorを依頼してください。空のデータベースはkoclient --shareでサイトになります。</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>サイト「%1」はこのプログラムの別のバージョンで作成されました。このコンピューターにそのバージョンをインストールするか、サイトを更新してもらってください。</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>サイト「%1」は読み取りのみ可能ですが、このコンピューターにはまだ送信されていない変更があります。管理者にロールko_editorを依頼してください。</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>サイト「%1」のこのコピーにはバックアップが復元されたため、他の端末へ伝えられません。共有は停止されました。</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>このコンピューター上のサイト「%1」のコピーを読み書きできません。</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>サイト「%1」はこの端末から送信された内容を受け付けません。</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>共有が停止しました...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>接続済み、読み取り専用</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>%n件の変更を送信中</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>更新中</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>%1からサーバーに接続できません。%n件の変更が待機中</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>%1からサーバーに接続できません</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>サイト「%1」のサーバーに接続できません。作業は続けられます。変更はこのコンピューターに保存され、サーバーが復旧すると送信されます。</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>サイト「%1」への他のユーザーの変更を閲覧できますが、自分で変更することはできません。</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>サイト「%1」を他のユーザーと共有しています。</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>サイト「%1」に接続できません。</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>サーバーを待っています...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>送信中: 残り%n件の変更</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>受信中: %1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>共有データベース</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>「%1」に接続中...</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>%1 zonder naam en adres weggelaten</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Opent deze knooppuntdatabase; die wordt gemaakt als hij er niet is.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Gebruikt deze taal, bijvoorbeeld de of pt_BR, ongeacht wat elders is gekozen.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Toont, voegt toe, bewerkt en verwijdert de knooppunten van een videobewakingssysteem.
 Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geopend en gelden ook de opties van de toolkit (-platform, -style en andere).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Opent deze knooppuntdatabase: een bestand, dat wordt gemaakt als het er niet is, of een gedeelde, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Brengt de database met zijn geschiedenis naar een lege op een server, waarvan het adres volgt (postgresql://user@host/database), en stopt. Opnieuw aangeroepen gaat het verder.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>Na --share FILE komt het adres van een database, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>In een gedeelde database kan geen back-up worden teruggezet.</translation>
     </message>
 </context>
 <context>
@@ -492,6 +504,81 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
     <message>
         <source>Time</source>
         <translation>Tijd</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Als de server die heeft</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Altijd</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Altijd, met controle van het certificaat</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nooit</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Verbinden met een gedeelde database</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Recent:</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Server:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Poort:</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Database:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Gebruiker:</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>&amp;Wachtwoord:</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>&amp;Versleuteling:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>Wachtwoord &amp;onthouden</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Testen</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Verbinding wordt gemaakt...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>De database kan worden gelezen en gewijzigd.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>De database kan worden gelezen, maar niet door u worden gewijzigd.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>Het wachtwoord kan niet worden onthouden, omdat de sleutel die wachtwoorden verzegelt ontbreekt. De volgende keer wordt er weer om gevraagd.</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1634,14 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
             <numerusform>%n knooppunten bewerkt.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>Ver&amp;binden...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Opent een database die met andere werkstations wordt gedeeld</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1920,6 +2015,17 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>U mag deze gedeelde database bekijken, maar niet wijzigen. De beheerder kan u de rol ko_editor geven.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Alleen lezen</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2013,6 +2119,214 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: niet beschikbaar (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Het bestand &quot;%1&quot; bestaat niet.</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>De geschiedenis van &quot;%1&quot; vertelt niet hoe alles erin is gekomen: het bestand is ouder dan de geschiedenis, of er is een back-up in teruggezet. Zo&apos;n bestand kan niet worden gedeeld; importeer de camera&apos;s in een nieuw bestand.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>U mag de locatie &quot;%1&quot; niet wijzigen. Vraag de beheerder om de rol ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>De locatie &quot;%1&quot; is niet leeg.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>&quot;%1&quot; hoort bij een andere locatie dan &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>%1 rijen en hun geschiedenis staan op &quot;%2&quot;, en zijn daar gelijk aan hier.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>De locatie wijkt af van het bestand: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>Het bestand of de locatie verandert voortdurend, dus ze konden niet worden vergeleken.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Gedeelde database</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Deze wijzigingen van u konden niet worden uitgevoerd, omdat iemand anders het knooppunt al had verwijderd. Bewerken &gt; Geschiedenis zet een verwijderd knooppunt terug.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Niet uitgevoerde wijzigingen</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Wijziging</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Knooppunt</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Verwijderd door</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>Selectie &amp;negeren</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>Nieuwe &amp;kopie...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 op %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Nieuwe kopie</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>Dit venster sluiten en een nieuwe kopie maken van wat nu op de server staat? Niet verzonden wijzigingen zitten er niet in; de huidige kopie, die ze bevat, blijft in de map &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n wijziging niet uitgevoerd</numerusform>
+            <numerusform>%1, %n wijzigingen niet uitgevoerd</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>Op &quot;%1&quot; staat nu een andere locatie dan die waarvan dit een kopie is. Er is niets naartoe gestuurd. Als de server opnieuw is ingericht, vraag dan de beheerder de locatie terug te zetten.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>De database &quot;%1&quot; bevat geen locatie, of u mag die niet lezen. Vraag de beheerder om de rol ko_viewer of ko_editor; een lege database wordt een locatie met koclient --share.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>De locatie &quot;%1&quot; is met een andere versie van dit programma gemaakt. Installeer die versie op deze computer, of laat de locatie bijwerken.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>U mag de locatie &quot;%1&quot; alleen lezen, maar op deze computer zijn wijzigingen die daar ontbreken. Vraag de beheerder om de rol ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>In deze kopie van de locatie &quot;%1&quot; is een back-up teruggezet, wat andere werkstations niet kan worden meegedeeld. Ze wordt niet meer gedeeld.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>De kopie van de locatie &quot;%1&quot; op deze computer kan niet worden gelezen of geschreven.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>De locatie &quot;%1&quot; neemt niet aan wat dit werkstation stuurt.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>Niet meer gedeeld...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Verbonden, alleen lezen</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbonden</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>%n wijziging wordt verzonden</numerusform>
+            <numerusform>%n wijzigingen worden verzonden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Wordt bijgewerkt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Server onbereikbaar sinds %1, %n wijziging wacht</numerusform>
+            <numerusform>Server onbereikbaar sinds %1, %n wijzigingen wachten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Server onbereikbaar sinds %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>De server van de locatie &quot;%1&quot; is niet bereikbaar. U kunt doorgaan: wat u wijzigt wacht op deze computer en wordt verzonden zodra de server er weer is.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>U ziet de locatie &quot;%1&quot; zoals anderen die wijzigen, en mag die zelf niet wijzigen.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>U deelt de locatie &quot;%1&quot; met anderen.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>De locatie &quot;%1&quot; is niet bereikbaar.</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>Wachten op de server...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Verzenden: nog %n wijziging</numerusform>
+            <numerusform>Verzenden: nog %n wijzigingen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Ontvangen: %1 van %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Gedeelde database</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Verbinding met &quot;%1&quot; wordt gemaakt...</translation>
     </message>
 </context>
 <context>

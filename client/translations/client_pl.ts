@@ -98,10 +98,6 @@
         <translation>Pominięto bez nazwy i adresu: %1</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Otwiera tę bazę danych węzłów; jeśli jej nie ma, zostanie utworzona.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Używa tego języka, np. de lub pt_BR, niezależnie od innych ustawień.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Pokazuje, dodaje, edytuje i usuwa węzły systemu monitoringu wizyjnego.
 Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyjmuje też opcje biblioteki graficznej (-platform, -style i inne).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Otwiera tę bazę danych węzłów: plik, który zostanie utworzony, jeśli go nie ma, lub bazę współdzieloną, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Przenosi bazę danych z historią do pustej bazy na serwerze, której adres następuje (postgresql://user@host/database), i kończy pracę. Wywołane ponownie, kontynuuje.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>Po --share FILE podaje się adres bazy danych, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>Nie można przywrócić kopii zapasowej do współdzielonej bazy danych.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +509,81 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
     <message>
         <source>Time</source>
         <translation>Czas</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Gdy serwer je oferuje</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Zawsze</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Zawsze, ze sprawdzeniem certyfikatu</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nigdy</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Połącz ze współdzieloną bazą danych</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Ostatnie:</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Serwer:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Port:</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Baza danych:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Użytkownik:</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>&amp;Hasło:</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>Szy&amp;frowanie:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>&amp;Zapamiętaj hasło</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Testuj</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Łączenie...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>Bazę danych można odczytywać i zmieniać.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>Bazę danych można odczytywać, ale nie można jej zmieniać.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>Nie można zapamiętać hasła, ponieważ brakuje klucza, który pieczętuje hasła. Następnym razem trzeba je będzie podać ponownie.</translation>
     </message>
 </context>
 <context>
@@ -1571,6 +1658,14 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
             <numerusform>Zmieniono %n węzłów.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>Po&amp;łącz...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Otwiera bazę danych współdzieloną z innymi stanowiskami</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1947,6 +2042,17 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>Można przeglądać tę współdzieloną bazę danych, ale nie można jej zmieniać. Jej administrator może nadać rolę ko_editor.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Tylko do odczytu</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2045,6 +2151,218 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: niedostępne (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Plik „%1” nie istnieje.</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>Historia pliku „%1” nie mówi, skąd wzięła się cała jego zawartość: plik jest starszy niż historia albo przywrócono do niego kopię zapasową. Takiego pliku nie można współdzielić; zaimportuj jego kamery do nowego.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>Nie można zmieniać obiektu „%1”. Poproś jego administratora o rolę ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>Obiekt „%1” nie jest pusty.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>„%1” należy do innego obiektu niż „%2”.</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>Wiersze (%1) i ich historia są w „%2” i są tam takie same jak tutaj.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>Obiekt różni się od pliku: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>Plik lub obiekt ciągle się zmienia, więc nie można było ich porównać.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Współdzielona baza danych</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Tych zmian nie można było wykonać, ponieważ ktoś inny wcześniej usunął węzeł. Edycja &gt; Historia przywraca usunięty węzeł.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Niewykonane zmiany</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Zmiana</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Węzeł</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Usunięty przez</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Odrzuć zaznaczone</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>&amp;Nowa kopia...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Ponów</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 na %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Nowa kopia</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>Zamknąć to okno i utworzyć nową kopię tego, co jest teraz na serwerze? Niewysłanych zmian w niej nie będzie; obecna kopia, która je zawiera, pozostanie w folderze „%1”.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n zmiana niewykonana</numerusform>
+            <numerusform>%1, %n zmiany niewykonane</numerusform>
+            <numerusform>%1, %n zmian niewykonanych</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>Pod adresem „%1” jest teraz inny obiekt niż ten, którego to jest kopia. Nic do niego nie wysłano. Jeśli serwer skonfigurowano od nowa, poproś jego administratora o przywrócenie obiektu.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>Baza danych „%1” nie zawiera obiektu albo nie można go odczytać. Poproś jej administratora o rolę ko_viewer lub ko_editor; pusta baza danych staje się obiektem po użyciu koclient --share.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>Obiekt „%1” utworzono w innej wersji tego programu. Zainstaluj tę wersję na tym komputerze albo poproś o aktualizację obiektu.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>Obiekt „%1” można tylko odczytywać, ale na tym komputerze są zmiany, których on nie ma. Poproś jego administratora o rolę ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>Do tej kopii obiektu „%1” przywrócono kopię zapasową, czego nie można przekazać innym stanowiskom. Nie jest już współdzielona.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>Kopii obiektu „%1” na tym komputerze nie można odczytać ani zapisać.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>Obiekt „%1” nie przyjmuje tego, co wysyła to stanowisko.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>Już nie współdzielona...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Połączono, tylko do odczytu</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Połączono</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>Wysyłanie %n zmiany</numerusform>
+            <numerusform>Wysyłanie %n zmian</numerusform>
+            <numerusform>Wysyłanie %n zmian</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Trwa aktualizacja</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Serwer niedostępny od %1, czeka %n zmiana</numerusform>
+            <numerusform>Serwer niedostępny od %1, czekają %n zmiany</numerusform>
+            <numerusform>Serwer niedostępny od %1, czeka %n zmian</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Serwer niedostępny od %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>Serwer obiektu „%1” jest nieosiągalny. Można pracować dalej: zmiany czekają na tym komputerze i zostaną wysłane, gdy serwer wróci.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>Obiekt „%1” jest widoczny tak, jak zmieniają go inni, ale nie można go zmieniać samemu.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>Obiekt „%1” jest współdzielony z innymi.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>Obiekt „%1” jest nieosiągalny.</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>Oczekiwanie na serwer...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Wysyłanie: pozostała %n zmiana</numerusform>
+            <numerusform>Wysyłanie: pozostały %n zmiany</numerusform>
+            <numerusform>Wysyłanie: pozostało %n zmian</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Odbieranie: %1 z %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Współdzielona baza danych</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Łączenie z „%1”...</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>%1 sem nome e endereço omitidas</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Abre este banco de dados de nós; ele é criado se não existir.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Usa este idioma, como de ou pt_BR, não importa o que foi escolhido em outro lugar.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Mostra, adiciona, edita e remove os nós de um sistema de videomonitoramento.
 Sem uma opção que faça algo e termine, como --import, abre uma janela e aceita também as opções do toolkit (-platform, -style e outras).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Abre este banco de dados de nós: um arquivo, criado se não existir, ou um compartilhado, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Leva o banco de dados com seu histórico para um vazio em um servidor, cujo endereço vem a seguir (postgresql://user@host/database), e termina. Chamado de novo, continua.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>Depois de --share FILE vem o endereço de um banco de dados, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>Não é possível restaurar um backup em um banco de dados compartilhado.</translation>
     </message>
 </context>
 <context>
@@ -492,6 +504,81 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
     <message>
         <source>Time</source>
         <translation>Hora</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Se o servidor oferecer</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Sempre</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Sempre, verificando o certificado</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nunca</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Conectar a um banco de dados compartilhado</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Recentes:</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Servidor:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Porta:</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Banco de dados:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Usuário:</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>Sen&amp;ha:</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>Criptogra&amp;fia:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>&amp;Guardar a senha</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Testar</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Conectando...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>O banco de dados pode ser lido e alterado.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>O banco de dados pode ser lido, mas você não pode alterá-lo.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>A senha não pode ser guardada, porque falta a chave que sela as senhas. Ela será pedida de novo na próxima vez.</translation>
     </message>
 </context>
 <context>
@@ -1547,6 +1634,14 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
             <numerusform>%n nós editados.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>&amp;Conectar...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Abre um banco de dados compartilhado com outras estações</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1920,6 +2015,17 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>Você pode ver este banco de dados compartilhado, mas não alterá-lo. O administrador dele pode lhe dar o papel ko_editor.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Somente leitura</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2013,6 +2119,214 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: não disponível (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>O arquivo &quot;%1&quot; não existe.</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>O histórico de &quot;%1&quot; não diz como surgiu tudo o que há nele: é mais antigo que o histórico, ou um backup foi restaurado nele. Um arquivo assim não pode ser compartilhado; importe suas câmeras em um novo.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>Você não pode alterar o local &quot;%1&quot;. Peça ao administrador o papel ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>O local &quot;%1&quot; não está vazio.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>&quot;%1&quot; pertence a um local diferente de &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>%1 linhas e seu histórico estão em &quot;%2&quot; e são iguais lá e aqui.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>O local difere do arquivo: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>O arquivo ou o local muda o tempo todo, por isso não puderam ser comparados.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Banco de dados compartilhado</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Estas suas alterações não puderam ser feitas, porque outra pessoa já tinha removido o nó. Editar &gt; Histórico recupera um nó removido.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Alterações não feitas</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Alteração</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Nó</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Removido por</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Descartar selecionados</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>&amp;Nova cópia...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Tentar de novo</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 em %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Nova cópia</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>Fechar esta janela e criar uma nova cópia do que está agora no servidor? As alterações não enviadas não estão nela; a cópia atual, que as contém, fica na pasta &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n alteração não feita</numerusform>
+            <numerusform>%1, %n alterações não feitas</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>Em &quot;%1&quot; há agora outro local, diferente daquele de que isto é uma cópia. Nada foi enviado a ele. Se o servidor foi reinstalado, peça ao administrador que restabeleça o local.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>O banco de dados &quot;%1&quot; não contém um local ou você não pode lê-lo. Peça ao administrador o papel ko_viewer ou ko_editor; um banco de dados vazio torna-se um local com koclient --share.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>O local &quot;%1&quot; foi criado por outra versão deste programa. Instale essa versão neste computador ou mande atualizar o local.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>Você só pode ler o local &quot;%1&quot;, mas neste computador há alterações que ele não recebeu. Peça ao administrador o papel ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>Nesta cópia do local &quot;%1&quot; foi restaurado um backup, o que não pode ser comunicado a outras estações. Ela não é mais compartilhada.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>A cópia do local &quot;%1&quot; neste computador não pode ser lida nem gravada.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>O local &quot;%1&quot; não aceita o que esta estação envia.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>Não é mais compartilhado...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Conectado, somente leitura</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>Enviando %n alteração</numerusform>
+            <numerusform>Enviando %n alterações</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Atualizando</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Servidor inacessível desde %1, %n alteração em espera</numerusform>
+            <numerusform>Servidor inacessível desde %1, %n alterações em espera</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Servidor inacessível desde %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>Não é possível acessar o servidor do local &quot;%1&quot;. Você pode continuar: o que alterar espera neste computador e é enviado quando o servidor voltar.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>Você vê o local &quot;%1&quot; como outros o alteram, mas não pode alterá-lo.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>Você compartilha o local &quot;%1&quot; com outros.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>Não é possível acessar o local &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>Aguardando o servidor...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Enviando: falta %n alteração</numerusform>
+            <numerusform>Enviando: faltam %n alterações</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Recebendo: %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Banco de dados compartilhado</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Conectando a &quot;%1&quot;...</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>пропущено без имени и адреса: %1</translation>
     </message>
     <message>
-        <source>Opens this node database; it is made if it is not there.</source>
-        <translation>Открывает эту базу данных узлов; если её нет, она создаётся.</translation>
-    </message>
-    <message>
         <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Использует этот язык, например de или pt_BR, независимо от других настроек.</translation>
     </message>
@@ -170,6 +166,22 @@
 Without an option that does something and ends, such as --import, it opens a window, and takes the toolkit&apos;s options (-platform, -style and others) too.</source>
         <translation>Показывает, добавляет, изменяет и удаляет узлы системы видеонаблюдения.
 Без параметра, который что-то делает и завершает работу, например --import, открывает окно и принимает также параметры графической библиотеки (-platform, -style и другие).</translation>
+    </message>
+    <message>
+        <source>Opens this node database: a file, which is made if it is not there, or a shared one, postgresql://user@host/database.</source>
+        <translation>Открывает эту базу данных узлов: файл, который создаётся, если его нет, или общую базу, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <translation>Переносит базу данных с историей в пустую базу на сервере, адрес которой указан далее (postgresql://user@host/database), и завершает работу. При повторном вызове продолжает.</translation>
+    </message>
+    <message>
+        <source>After --share FILE comes the address of a database, postgresql://user@host/database.</source>
+        <translation>После --share FILE указывается адрес базы данных, postgresql://user@host/database.</translation>
+    </message>
+    <message>
+        <source>A backup cannot be restored into a shared database.</source>
+        <translation>В общую базу данных нельзя восстановить резервную копию.</translation>
     </message>
 </context>
 <context>
@@ -497,6 +509,81 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>Time</source>
         <translation>Время</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectDialog</name>
+    <message>
+        <source>When the server has it</source>
+        <translation>Если сервер его предлагает</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Всегда</translation>
+    </message>
+    <message>
+        <source>Always, and check the certificate</source>
+        <translation>Всегда, с проверкой сертификата</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Никогда</translation>
+    </message>
+    <message>
+        <source>Connect to a Shared Database</source>
+        <translation>Подключение к общей базе данных</translation>
+    </message>
+    <message>
+        <source>&amp;Recent:</source>
+        <translation>&amp;Недавние:</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Сервер:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Порт:</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;База данных:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>П&amp;ользователь:</translation>
+    </message>
+    <message>
+        <source>P&amp;assword:</source>
+        <translation>П&amp;ароль:</translation>
+    </message>
+    <message>
+        <source>&amp;Encryption:</source>
+        <translation>&amp;Шифрование:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the password</source>
+        <translation>&amp;Запомнить пароль</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>Про&amp;верить</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Подключение...</translation>
+    </message>
+    <message>
+        <source>The database can be read and changed.</source>
+        <translation>Базу данных можно читать и изменять.</translation>
+    </message>
+    <message>
+        <source>The database can be read, but not changed by you.</source>
+        <translation>Базу данных можно читать, но вам нельзя её изменять.</translation>
+    </message>
+    <message>
+        <source>The password cannot be kept, because the key that seals passwords is not there. You are asked for it again next time.</source>
+        <translation>Пароль нельзя запомнить, так как нет ключа, которым запечатываются пароли. В следующий раз он будет запрошен снова.</translation>
     </message>
 </context>
 <context>
@@ -1571,6 +1658,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
             <numerusform>Изменено %n узлов.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>&amp;Connect...</source>
+        <translation>П&amp;одключить...</translation>
+    </message>
+    <message>
+        <source>Opens a database that is shared with other desks</source>
+        <translation>Открывает базу данных, общую с другими станциями</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1947,6 +2042,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>ReadOnlyNotice</name>
+    <message>
+        <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
+        <translation>Эту общую базу данных можно просматривать, но не изменять. Её администратор может дать вам роль ko_editor.</translation>
+    </message>
+    <message>
+        <source>Read-Only</source>
+        <translation>Только чтение</translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message>
         <source>Remove Nodes</source>
@@ -2045,6 +2151,218 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>%1: not available (%2)</source>
         <translation>%1: недоступно (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ShareCommand</name>
+    <message>
+        <source>There is no file &quot;%1&quot;.</source>
+        <translation>Файла «%1» нет.</translation>
+    </message>
+    <message>
+        <source>The history of &quot;%1&quot; does not tell how everything in it came: it is older than the history, or a backup was restored into it. Such a file cannot be shared; import its cameras into a new one.</source>
+        <translation>История файла «%1» не говорит, откуда взялось всё его содержимое: он старше истории, или в него восстановлена резервная копия. Такой файл нельзя сделать общим; импортируйте его камеры в новый.</translation>
+    </message>
+    <message>
+        <source>You may not change the site &quot;%1&quot;. Ask its administrator for the role ko_editor.</source>
+        <translation>Вам нельзя изменять объект «%1». Попросите у его администратора роль ko_editor.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; is not empty.</source>
+        <translation>Объект «%1» не пуст.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; belongs to another site than &quot;%2&quot;.</source>
+        <translation>«%1» принадлежит другому объекту, а не «%2».</translation>
+    </message>
+    <message>
+        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
+        <translation>Строки (%1) и их история находятся в «%2» и там такие же, как здесь.</translation>
+    </message>
+    <message>
+        <source>The site differs from the file: %1</source>
+        <translation>Объект отличается от файла: %1</translation>
+    </message>
+    <message>
+        <source>The file or the site changes all the time, so they could not be compared.</source>
+        <translation>Файл или объект всё время изменяется, поэтому их не удалось сравнить.</translation>
+    </message>
+</context>
+<context>
+    <name>SharingDialog</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Общая база данных</translation>
+    </message>
+    <message>
+        <source>These changes of yours could not be made, because somebody else had removed the node before. Edit &gt; History puts a removed node back.</source>
+        <translation>Эти ваши изменения нельзя было выполнить, так как кто-то другой до этого удалил узел. Правка &gt; История возвращает удалённый узел.</translation>
+    </message>
+    <message>
+        <source>Changes that could not be made</source>
+        <translation>Невыполненные изменения</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Изменение</translation>
+    </message>
+    <message>
+        <source>Node</source>
+        <translation>Узел</translation>
+    </message>
+    <message>
+        <source>Removed By</source>
+        <translation>Кем удалён</translation>
+    </message>
+    <message>
+        <source>&amp;Dismiss Selected</source>
+        <translation>&amp;Отклонить выбранные</translation>
+    </message>
+    <message>
+        <source>&amp;New Copy...</source>
+        <translation>&amp;Новая копия...</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <comment>user, computer</comment>
+        <translation>%1 на %2</translation>
+    </message>
+    <message>
+        <source>New Copy</source>
+        <translation>Новая копия</translation>
+    </message>
+    <message>
+        <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
+        <translation>Закрыть это окно и создать новую копию того, что сейчас на сервере? Неотправленных изменений в ней не будет; нынешняя копия, в которой они есть, останется в папке «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>SharingStatus</name>
+    <message numerus="yes">
+        <source>%1, %n change(s) could not be made</source>
+        <translation>
+            <numerusform>%1, %n изменение не выполнено</numerusform>
+            <numerusform>%1, %n изменения не выполнены</numerusform>
+            <numerusform>%1, %n изменений не выполнено</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SharingWords</name>
+    <message>
+        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <translation>По адресу «%1» теперь находится другой объект, а не тот, копией которого это является. Туда ничего не отправлено. Если сервер настроен заново, попросите его администратора вернуть объект.</translation>
+    </message>
+    <message>
+        <source>The database &quot;%1&quot; holds no site, or you may not read it. Ask its administrator for the role ko_viewer or ko_editor; an empty database becomes a site by koclient --share.</source>
+        <translation>База данных «%1» не содержит объекта, или его нельзя читать. Попросите у её администратора роль ko_viewer или ko_editor; пустая база данных становится объектом командой koclient --share.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; was made by another version of this program. Install that version on this computer, or have the site brought up to date.</source>
+        <translation>Объект «%1» создан другой версией этой программы. Установите эту версию на этот компьютер или попросите обновить объект.</translation>
+    </message>
+    <message>
+        <source>You may only read the site &quot;%1&quot;, but there are changes on this computer that it has not got. Ask its administrator for the role ko_editor.</source>
+        <translation>Объект «%1» можно только читать, но на этом компьютере есть изменения, которых там нет. Попросите у его администратора роль ko_editor.</translation>
+    </message>
+    <message>
+        <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
+        <translation>В эту копию объекта «%1» восстановлена резервная копия, о чём нельзя сообщить другим станциям. Она больше не общая.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
+        <translation>Копию объекта «%1» на этом компьютере нельзя прочитать или записать.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
+        <translation>Объект «%1» не принимает то, что отправляет эта станция.</translation>
+    </message>
+    <message>
+        <source>Not shared any more...</source>
+        <translation>Больше не общая...</translation>
+    </message>
+    <message>
+        <source>Connected, read-only</source>
+        <translation>Подключено, только чтение</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending %n change(s)</source>
+        <translation>
+            <numerusform>Отправляется %n изменение</numerusform>
+            <numerusform>Отправляются %n изменения</numerusform>
+            <numerusform>Отправляется %n изменений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Catching up</source>
+        <translation>Идёт обновление</translation>
+    </message>
+    <message numerus="yes">
+        <source>Server away since %1, %n change(s) waiting</source>
+        <translation>
+            <numerusform>Сервер недоступен с %1, ожидает %n изменение</numerusform>
+            <numerusform>Сервер недоступен с %1, ожидают %n изменения</numerusform>
+            <numerusform>Сервер недоступен с %1, ожидает %n изменений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Server away since %1</source>
+        <translation>Сервер недоступен с %1</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; cannot be reached. You can go on: what you change waits on this computer and is sent when the server is back.</source>
+        <translation>Сервер объекта «%1» недоступен. Можно продолжать: изменения ждут на этом компьютере и будут отправлены, когда сервер вернётся.</translation>
+    </message>
+    <message>
+        <source>You see the site &quot;%1&quot; as others change it, and may not change it yourself.</source>
+        <translation>Объект «%1» виден таким, каким его изменяют другие, но изменять его самому нельзя.</translation>
+    </message>
+    <message>
+        <source>You share the site &quot;%1&quot; with others.</source>
+        <translation>Объект «%1» используется совместно с другими.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; cannot be reached.</source>
+        <translation>Объект «%1» недоступен.</translation>
+    </message>
+    <message>
+        <source>Waiting for the server...</source>
+        <translation>Ожидание сервера...</translation>
+    </message>
+    <message numerus="yes">
+        <source>Sending: %n change(s) left</source>
+        <translation>
+            <numerusform>Отправка: осталось %n изменение</numerusform>
+            <numerusform>Отправка: осталось %n изменения</numerusform>
+            <numerusform>Отправка: осталось %n изменений</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Receiving: %1 of %2</source>
+        <translation>Приём: %1 из %2</translation>
+    </message>
+</context>
+<context>
+    <name>SiteOpening</name>
+    <message>
+        <source>Shared Database</source>
+        <translation>Общая база данных</translation>
+    </message>
+    <message>
+        <source>Connecting to &quot;%1&quot;...</source>
+        <translation>Подключение к «%1»...</translation>
     </message>
 </context>
 <context>
