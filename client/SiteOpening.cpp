@@ -92,7 +92,9 @@ QString SiteOpening::file(const QString& givenUp)
     if (!greeting)
         return QString();
     const QString file = SiteCopy::fileOf(KnownSites::folder(), greeting->site);
-    if ((file == givenUp && !keepAside(file)) || !prepare(file, greeting->site) || !catchUp(file, -1))
+    if ((file == givenUp && !keepAside(file)) || !prepare(file, greeting->site))
+        return QString();
+    if (!catchUp(file, -1) && !m_isRefusedCopy)
         return QString();
     known.id = greeting->site;
     known.mayWrite = greeting->mayWrite;
@@ -154,6 +156,7 @@ bool SiteOpening::catchUp(const QString& file, int patience)
     }
     if (end == SiteCatchUp::End::Away || end == SiteCatchUp::End::Refused)
         tell(SharingWords::full(work.state(), m_address));
+    m_isRefusedCopy = end == SiteCatchUp::End::Refused && work.state().position > 0;
     return end == SiteCatchUp::End::UpToDate;
 }
 

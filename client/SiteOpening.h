@@ -42,6 +42,7 @@ private:
 
     const QString m_address;
     const Way m_way;
+    bool m_isRefusedCopy = false; ///< it can be looked at, and its user has to decide
 };
 
 } // namespace ko

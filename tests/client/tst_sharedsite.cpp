@@ -5,23 +5,29 @@
 
 #include "../sharing/DeskTesting.h"
 
+#include "ConnectDialog.h"
 #include "KnownSites.h"
 #include "MainWindow.h"
 #include "NodeListView.h"
 #include "SharingStatus.h"
+#include "SiteCatchUp.h"
 #include "SiteOpening.h"
 #include "SiteSharing.h"
+#include "sharing/SiteAddress.h"
 #include "sharing/SiteConnection.h"
 #include "sharing/SiteCopy.h"
 #include "sharing/SiteVerification.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
+#include <QTableWidget>
 
 using namespace ko;
 using namespace testsupport;
@@ -94,6 +100,9 @@ private slots:
     void startsAndGoesOnWithoutTheServer();
     void viewerIsToldBeforeADialogOpens();
     void otherSiteAtTheSameAddressGetsNothing();
+    void whatCouldNotBeMadeIsKeptUntilDismissed();
+    void copyThatIsGivenUpStays();
+    void connectDialogTriesAnAddress();
 
 private:
     QString home(const char* name) const { return m_folder->filePath(QLatin1String(name)); }
@@ -358,6 +367,136 @@ void tst_SharedSite::otherSiteAtTheSameAddressGetsNothing()
     });
     desk.status.click();
     QVERIFY(answer.fired());
+}
+
+void tst_SharedSite::whatCouldNotBeMadeIsKeptUntilDismissed()
+{
+    share(makeFile(3));
+    QString camera;
+    {
+        Desk desk(m_url);
+        KO_TRY_VERIFY(desk.isUpToDate());
+        m_server.stop();
+        camera = addCamera(*desk.db, QStringLiteral("Gate"), QStringLiteral("10.0.0.50"));
+    }
+    QVERIFY(m_server.start());
+    const auto idle = [](const SharingState&) {};
+    {
+        Desk desk(m_url);
+        KO_TRY_VERIFY(desk.isUpToDate());
+        m_server.stop();
+        setText(*desk.db, camera, "Model", QStringLiteral("too late"));
+    }
+    QVERIFY(m_server.start());
+    const QString other = m_folder->filePath(QStringLiteral("other.kodb"));
+    StoreError error;
+    QVERIFY(SiteCopy::prepare(other, sql(QStringLiteral("SELECT id FROM ko.site")), &error));
+    QVERIFY(SiteCatchUp(other, m_url, -1).run(idle) == SiteCatchUp::End::UpToDate);
+    openDatabase(other)->removeNode(camera);
+    QVERIFY(SiteCatchUp(other, m_url, -1).run(idle) == SiteCatchUp::End::UpToDate);
+
+    Desk desk(m_url);
+    KO_TRY_COMPARE(desk.status.text(), QStringLiteral("Connected, 1 change(s) could not be made"));
+    QVERIFY(desk.db->node(camera).null());
+    const ModalAnswer answer([](QDialog* dialog) {
+        auto* table = child<QTableWidget>(dialog, "undoneTableWidget");
+        QCOMPARE(table->rowCount(), 1);
+        QCOMPARE(table->item(0, 2)->text(), QStringLiteral("Gate"));
+        QVERIFY(table->item(0, 3)->text().contains(Cause::currentUser()));
+        auto* dismiss = child<QPushButton>(dialog, "dismissButton");
+        QVERIFY(!dismiss->isEnabled());
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_Space);
+        table->selectRow(0);
+        QTest::mouseClick(dismiss, Qt::LeftButton);
+        QCOMPARE(table->rowCount(), 0);
+        dialog->reject();
+    });
+    desk.status.click();
+    QVERIFY(answer.fired());
+    QCOMPARE(desk.status.text(), QStringLiteral("Connected"));
+}
+
+void tst_SharedSite::copyThatIsGivenUpStays()
+{
+    share(makeFile(3));
+    const QString file = SiteOpening(m_url, SiteOpening::Way::Line).file();
+    {
+        m_server.stop();
+        Desk desk(m_url);
+        addCamera(*desk.db, QStringLiteral("Not sent"), QStringLiteral("10.0.0.60"));
+    }
+    QVERIFY(m_server.start());
+    const QString name = QStringLiteral("reader%1").arg(m_count);
+    sql(QStringLiteral("CREATE ROLE %1 LOGIN IN ROLE ko_viewer").arg(name));
+    const QString address = m_server.url(m_database, name);
+    {
+        Desk desk(address);
+        KO_TRY_COMPARE(desk.status.text(), QStringLiteral("Not shared any more..."));
+        QVERIFY(desk.db->isReadOnly());
+        QSignalSpy wanted(&desk.sharing, &SiteSharing::newCopyWanted);
+        const ModalAnswer answer([](QDialog* dialog) {
+            const ModalAnswer yes(ModalAnswer::press(QStringLiteral("Yes")));
+            QTest::mouseClick(child<QPushButton>(dialog, "newCopyButton"), Qt::LeftButton);
+            QVERIFY(yes.fired());
+        });
+        desk.status.click();
+        QVERIFY(answer.fired());
+        QCOMPARE(wanted.count(), 1);
+    }
+    QCOMPARE(SiteOpening(address, SiteOpening::Way::Line).file(file), file);
+    verify(file);
+    const QStringList kept =
+        QFileInfo(file).dir().entryList({QFileInfo(file).fileName() + QStringLiteral(".damaged-*Z")});
+    QCOMPARE(kept.size(), 1);
+    const auto old = openDatabase(QFileInfo(file).dir().filePath(kept.first()));
+    const QVector<NodeSummary> nodes = old->summaries();
+    QCOMPARE(nodes.last().name, QStringLiteral("Not sent"));
+}
+
+void tst_SharedSite::connectDialogTriesAnAddress()
+{
+    share(makeFile(3));
+    ConnectDialog dialog(nullptr);
+    dialog.show();
+    const auto enter = [&dialog](const char* field, const QString& text) {
+        auto* edit = child<QLineEdit>(&dialog, field);
+        edit->clear();
+        QTest::keyClicks(edit, text);
+    };
+    auto* result = child<QLabel>(&dialog, "resultLabel");
+    auto* test = child<QPushButton>(&dialog, "testButton");
+    enter("hostLineEdit", SiteAddress::parse(m_url).host);
+    enter("databaseLineEdit", QStringLiteral("nothing"));
+    enter("userLineEdit", QStringLiteral("postgres"));
+    enter("passwordLineEdit", QStringLiteral("s p&c?%"));
+    QTest::mouseClick(test, Qt::LeftButton);
+    KO_TRY_VERIFY(test->isEnabled());
+    QVERIFY2(result->text().contains(QLatin1String("cannot be reached")), qPrintable(result->text()));
+    QVERIFY2(result->text().contains(QLatin1String("\"nothing\"")), qPrintable(result->text()));
+    enter("databaseLineEdit", m_database);
+    QTest::mouseClick(test, Qt::LeftButton);
+    KO_TRY_VERIFY(test->isEnabled());
+    QCOMPARE(result->text(), QStringLiteral("The database can be read and changed."));
+    child<QCheckBox>(&dialog, "keepCheckBox")->click();
+    QTest::keyClick(child<QLineEdit>(&dialog, "userLineEdit"), Qt::Key_Return);
+    KO_TRY_VERIFY(!dialog.isVisible());
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QCOMPARE(SiteAddress::parse(dialog.address()).password, QStringLiteral("s p&c?%"));
+
+    // It was kept, and not so that anybody could read it.
+    KnownSites::remember({dialog.address(), QString(), true});
+    QFile settings(QSettings().fileName());
+    QSettings().sync();
+    QVERIFY(settings.open(QIODevice::ReadOnly));
+    const QByteArray stored = settings.readAll();
+    QVERIFY(stored.contains("sealed1:") && !stored.contains("s p&c") && !stored.contains("s%20p"));
+    ConnectDialog again(nullptr);
+    QCOMPARE(again.address(), dialog.address());
+    child<QCheckBox>(&again, "keepCheckBox")->click();
+    again.accept();
+    KO_TRY_COMPARE(again.result(), int(QDialog::Accepted));
+    QCOMPARE(SiteAddress::parse(ConnectDialog(nullptr).address()).password, QString());
 }
 
 KO_TEST_MAIN(tst_SharedSite)
