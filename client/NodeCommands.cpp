@@ -2,6 +2,7 @@
 
 #include "CameraChecking.h"
 #include "ChangePreview.h"
+#include "ChangedMeanwhile.h"
 #include "DeviceSettings.h"
 #include "EditSeveralDialog.h"
 #include "FormFields.h"
@@ -112,6 +113,7 @@ void open(MainWindow& window, const QString& id, bool readOnly)
                 EditNodeDialog::tr("Properties of %1").arg(inWindowTitle(calledInTitles(*node))));
     });
     NodeHistoryPage::addTo(dialog, window.database(), id);
+    ChangedMeanwhile::addTo(dialog, window.database(), id);
     if (readOnly)
         PictureView::addTo(dialog, window.checking().pictures(), id);
     window.exec(dialog);
