@@ -418,6 +418,17 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Odebral %1 na %2. Co zde zadáte, nelze uložit; Úpravy &gt; Historie uzel vrátí.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Mezitím změnil %1 na %2.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

@@ -414,6 +414,17 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Von %1 an %2 entfernt. Was Sie hier eingeben, kann nicht gespeichert werden; Bearbeiten &gt; Verlauf holt den Knoten zurück.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Inzwischen von %1 an %2 geändert.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

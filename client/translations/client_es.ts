@@ -414,6 +414,17 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Eliminado por %1 en %2. Lo que introduzca aquí no se puede guardar; Editar &gt; Historial recupera el nodo.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Cambiado entretanto por %1 en %2.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

@@ -414,6 +414,17 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Supprimé par %1 sur %2. Ce que vous saisissez ici ne peut pas être enregistré ; Édition &gt; Historique rétablit le nœud.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Modifié entre-temps par %1 sur %2.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

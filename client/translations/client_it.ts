@@ -414,6 +414,17 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Rimosso da %1 su %2. Ciò che si inserisce qui non può essere memorizzato; Modifica &gt; Cronologia ripristina il nodo.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Modificato nel frattempo da %1 su %2.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

@@ -410,6 +410,17 @@ Without an option that does something and ends, such as --import, it opens a win
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>%1 (%2) が削除しました。ここに入力した内容は保存できません。「編集」&gt;「履歴」でノードを元に戻せます。</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>この間に%1 (%2) が変更しました。</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

@@ -414,6 +414,17 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Verwijderd door %1 op %2. Wat u hier invoert kan niet worden opgeslagen; Bewerken &gt; Geschiedenis zet het knooppunt terug.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Intussen gewijzigd door %1 op %2.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

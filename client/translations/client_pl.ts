@@ -418,6 +418,17 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Usunięte przez %1 na %2. Tego, co tu wpiszesz, nie można zapisać; Edycja &gt; Historia przywraca węzeł.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Zmienione w międzyczasie przez %1 na %2.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

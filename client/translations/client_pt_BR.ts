@@ -414,6 +414,17 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Removido por %1 em %2. O que você digitar aqui não pode ser gravado; Editar &gt; Histórico recupera o nó.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Alterado nesse meio-tempo por %1 em %2.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>

@@ -418,6 +418,17 @@ Without an option that does something and ends, such as --import, it opens a win
     </message>
 </context>
 <context>
+    <name>ChangedMeanwhile</name>
+    <message>
+        <source>Removed by %1 at %2. What you enter here cannot be stored; Edit &gt; History puts the node back.</source>
+        <translation>Удалено: %1 на %2. То, что вы здесь введёте, нельзя сохранить; Правка &gt; История возвращает узел.</translation>
+    </message>
+    <message>
+        <source>Changed by %1 at %2 meanwhile.</source>
+        <translation>Тем временем изменено: %1 на %2.</translation>
+    </message>
+</context>
+<context>
     <name>CheckPanel</name>
     <message>
         <source>Cameras checked</source>
