@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace ko {
 
 namespace {
@@ -164,23 +166,21 @@ void ConnectDialog::accept()
     probe(true);
 }
 
+/// No button is disabled meanwhile: that would take the focus from it, and Return would mean another one.
 void ConnectDialog::probe(bool accepts)
 {
+    m_accepts = m_accepts || accepts;
     if (m_probe)
-        return; // the one before has not ended
+        return;
     m_result->setText(tr("Connecting..."));
-    showBusy(true);
     m_probe = std::make_unique<SiteProbe>(address());
-    connect(m_probe.get(), &SiteProbe::done, this,
-            [this, accepts](const SiteGreeting& greeting, const SharingFailure& failure) {
-                take(greeting, failure, accepts);
-            });
+    connect(m_probe.get(), &SiteProbe::done, this, &ConnectDialog::take);
 }
 
-void ConnectDialog::take(const SiteGreeting& greeting, const SharingFailure& failure, bool accepts)
+void ConnectDialog::take(const SiteGreeting& greeting, const SharingFailure& failure)
 {
     m_probe.release()->deleteLater(); // it is what calls
-    showBusy(false);
+    const bool accepts = std::exchange(m_accepts, false);
     if (failure) {
         m_result->setText(SharingWords::failure(failure, address()));
         return;
@@ -194,12 +194,6 @@ void ConnectDialog::take(const SiteGreeting& greeting, const SharingFailure& fai
                              tr("The password cannot be kept, because the key that seals passwords is not "
                                 "there. You are asked for it again next time."));
     QDialog::accept();
-}
-
-void ConnectDialog::showBusy(bool isBusy)
-{
-    m_test->setEnabled(!isBusy);
-    m_buttons->button(QDialogButtonBox::Ok)->setEnabled(!isBusy);
 }
 
 } // namespace ko

@@ -43,8 +43,7 @@ private:
     void retranslate();
     void fillIn(const QString& address);
     void probe(bool accepts);
-    void take(const SiteGreeting& greeting, const SharingFailure& failure, bool accepts);
-    void showBusy(bool isBusy);
+    void take(const SiteGreeting& greeting, const SharingFailure& failure);
 
     QComboBox* const m_recent;
     QLineEdit* m_host = nullptr;
@@ -58,7 +57,8 @@ private:
     QDialogButtonBox* const m_buttons;
     QPushButton* m_test = nullptr;
     QFormLayout* const m_form;
-    std::unique_ptr<SiteProbe> m_probe;
+    std::unique_ptr<SiteProbe> m_probe; ///< under way
+    bool m_accepts = false;             ///< when it ends well
 };
 
 } // namespace ko

@@ -165,6 +165,8 @@ private:
     {
         {
             ko::SiteSharing sharing(*m_host.db(), QStringLiteral("postgresql://7@/8?host=/nonexistent"));
+            const auto isSaid = [&sharing] { return !sharing.state().text.isEmpty(); };
+            QVERIFY(QTest::qWaitFor(isSaid, Patience));
             ko::SharingDialog shared(*m_host.db(), sharing, &window);
             show(&shared, QStringLiteral("sharing"), look);
         }

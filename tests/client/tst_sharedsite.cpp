@@ -471,12 +471,12 @@ void tst_SharedSite::connectDialogTriesAnAddress()
     enter("userLineEdit", QStringLiteral("postgres"));
     enter("passwordLineEdit", QStringLiteral("s p&c?%"));
     QTest::mouseClick(test, Qt::LeftButton);
-    KO_TRY_VERIFY(test->isEnabled());
+    KO_TRY_VERIFY(result->text() != QLatin1String("Connecting..."));
     QVERIFY2(result->text().contains(QLatin1String("cannot be reached")), qPrintable(result->text()));
     QVERIFY2(result->text().contains(QLatin1String("\"nothing\"")), qPrintable(result->text()));
     enter("databaseLineEdit", m_database);
     QTest::mouseClick(test, Qt::LeftButton);
-    KO_TRY_VERIFY(test->isEnabled());
+    KO_TRY_VERIFY(result->text() != QLatin1String("Connecting..."));
     QCOMPARE(result->text(), QStringLiteral("The database can be read and changed."));
     child<QCheckBox>(&dialog, "keepCheckBox")->click();
     QTest::keyClick(child<QLineEdit>(&dialog, "userLineEdit"), Qt::Key_Return);
