@@ -21,6 +21,10 @@ LogThinning::LogThinning(SqliteFile& file, const Sealer& sealer)
 qint64 LogThinning::last(const HistoryLimit& limit, qint64 now)
 {
     qint64 last = 0;
+    // What a site has not got yet would go with the rest, and what it has could not be told from what it
+    // lost.
+    if (m_file.value("SELECT 1 FROM sqlite_master WHERE name = 'shared_site'").isValid())
+        return last;
     if (limit.days > 0)
         last = lastByAge(now - limit.days * Day);
     if (limit.megabytes > 0)

@@ -17,9 +17,12 @@
 #include "sharing/SiteConnection.h"
 #include "sharing/SiteCopy.h"
 #include "sharing/SiteVerification.h"
+#include "store/LogThinning.h"
+#include "store/SqliteFile.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QDateTime>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
@@ -103,6 +106,7 @@ private slots:
     void whatCouldNotBeMadeIsKeptUntilDismissed();
     void copyThatIsGivenUpStays();
     void connectDialogTriesAnAddress();
+    void historyIsKeptWhole();
 
 private:
     QString home(const char* name) const { return m_folder->filePath(QLatin1String(name)); }
@@ -497,6 +501,20 @@ void tst_SharedSite::connectDialogTriesAnAddress()
     again.accept();
     KO_TRY_COMPARE(again.result(), int(QDialog::Accepted));
     QCOMPARE(SiteAddress::parse(ConnectDialog(nullptr).address()).password, QString());
+}
+
+void tst_SharedSite::historyIsKeptWhole()
+{
+    const QString file = makeFile(3);
+    const qint64 later = QDateTime::currentMSecsSinceEpoch() + 100 * 86400000LL;
+    const auto lastToGo = [&] {
+        SqliteFile opened(file, SqliteFile::ReadOnly);
+        const Sealer sealer;
+        return LogThinning(opened, sealer).last({1, 0}, later);
+    };
+    QVERIFY(lastToGo() > 0);
+    share(file);
+    QCOMPARE(lastToGo(), qint64(0));
 }
 
 KO_TEST_MAIN(tst_SharedSite)
