@@ -8,9 +8,11 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPushButton>
 #include <QScopedValueRollback>
+#include <QTimer>
 #include <QToolButton>
 
 namespace ko {
@@ -60,6 +62,14 @@ QVariant valueOf(const QWidget& field)
                                            : field.metaObject()->userProperty().read(&field);
 }
 
+QString placeOf(const QWidget& field, const QDialog& dialog)
+{
+    QString place = field.objectName();
+    for (const QWidget* box = field.parentWidget(); box && box != &dialog; box = box->parentWidget())
+        place.prepend(box->objectName() + QLatin1Char('/'));
+    return place;
+}
+
 bool agreesToDiscard(QDialog& dialog)
 {
     PlainMessageBox box(QMessageBox::Question, dialog.windowTitle(),
@@ -90,15 +100,14 @@ UnsavedEdits::UnsavedEdits(QObject* parent)
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-/// Fields of one name have the places of their pages in it.
+/// Fields of one name are told apart by where they are.
 UnsavedEdits::Values UnsavedEdits::valuesOf(const QDialog& dialog)
 {
     Values values;
     const QList<QWidget*> widgets = dialog.findChildren<QWidget*>();
     for (const QWidget* widget : widgets) {
         if (isField(*widget, dialog))
-            values.insert(widget->parentWidget()->objectName() + QLatin1Char('/') + widget->objectName(),
-                          valueOf(*widget));
+            values.insert(placeOf(*widget, dialog), valueOf(*widget));
     }
     return values;
 }
@@ -111,10 +120,60 @@ void UnsavedEdits::begin(QDialog& dialog)
     const QObject* key = &dialog;
     m_stored.insert(key, valuesOf(dialog));
     connect(&dialog, &QObject::destroyed, this, [this, key] { m_stored.remove(key); });
-    if (const QPushButton* apply = buttons->button(QDialogButtonBox::Apply)) {
-        connect(apply, &QPushButton::clicked, this,
-                [this, &dialog] { m_stored.insert(&dialog, valuesOf(dialog)); });
+    if (QPushButton* apply = buttons->button(QDialogButtonBox::Apply))
+        beginApplying(dialog, *apply);
+}
+
+void UnsavedEdits::beginApplying(QDialog& dialog, QPushButton& apply)
+{
+    const QList<QWidget*> widgets = dialog.findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (isField(*widget, dialog))
+            watch(*widget);
     }
+    connect(&apply, &QPushButton::clicked, this, [this, &dialog] {
+        applied(dialog);
+        // And as the form writes it once it has seen what was stored.
+        QTimer::singleShot(0, &dialog, [this, &dialog] { applied(dialog); });
+    });
+    enableApply(dialog);
+}
+
+void UnsavedEdits::watch(QWidget& field)
+{
+    const QMetaMethod changed = field.metaObject()->userProperty().notifySignal();
+    connect(&field, changed, this, metaObject()->method(metaObject()->indexOfSlot("fieldChanged()")));
+    if (qobject_cast<const QComboBox*>(&field)) // of which two entries may have one text
+        connect(&field, SIGNAL(currentIndexChanged(int)), this, SLOT(fieldChanged()));
+    if (const auto* list = qobject_cast<const QListWidget*>(&field)) {
+        const auto tell = [this, window = qobject_cast<QDialog*>(field.window())] { enableApply(*window); };
+        connect(list->model(), &QAbstractItemModel::rowsInserted, &field, tell);
+        connect(list->model(), &QAbstractItemModel::rowsRemoved, &field, tell);
+    }
+}
+
+void UnsavedEdits::fieldChanged()
+{
+    if (const auto* dialog = qobject_cast<const QDialog*>(static_cast<QWidget*>(sender())->window()))
+        enableApply(*dialog);
+}
+
+void UnsavedEdits::applied(QDialog& dialog)
+{
+    m_stored.insert(&dialog, valuesOf(dialog));
+    enableApply(dialog);
+}
+
+/// Where OK is refused, by a field that says why, there is nothing to apply either.
+void UnsavedEdits::enableApply(const QDialog& dialog) const
+{
+    const QDialogButtonBox* buttons = buttonsOf(dialog);
+    QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
+    QPushButton* apply = buttons->button(QDialogButtonBox::Apply);
+    const bool canApply = ok->isEnabled() && isTouched(dialog);
+    if (!canApply && dialog.focusWidget() == apply)
+        ok->setFocus(); // the toolkit would hand it to the first field of the window
+    apply->setEnabled(canApply);
 }
 
 bool UnsavedEdits::isTouched(const QDialog& dialog) const

@@ -7,11 +7,13 @@
 #include <QVariant>
 
 class QDialog;
+class QPushButton;
 
 namespace ko {
 
 /// Asks before Escape or the close button of a window throws away what was entered in a dialog. Its Cancel
-/// button asks nothing: whoever presses that means it.
+/// button asks nothing: whoever presses that means it. Its Apply button can be pressed only while there is
+/// something to be stored.
 ///
 /// Holds for all dialogs of the program that can be cancelled as long as the object lives.
 class UnsavedEdits : public QObject
@@ -23,11 +25,18 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+private slots:
+    void fieldChanged();
+
 private:
     typedef QMap<QString, QVariant> Values; ///< by the names of the fields
 
     static Values valuesOf(const QDialog& dialog);
     void begin(QDialog& dialog);
+    void beginApplying(QDialog& dialog, QPushButton& apply);
+    void watch(QWidget& field);
+    void applied(QDialog& dialog);
+    void enableApply(const QDialog& dialog) const;
     bool isTouched(const QDialog& dialog) const;
 
     QHash<const QObject*, Values> m_stored; ///< what is stored, as each open dialog shows it

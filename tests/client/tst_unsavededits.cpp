@@ -2,6 +2,7 @@
 #include "support/Answers.h"
 #include "support/TestMain.h"
 
+#include <QAbstractSpinBox>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -32,6 +33,39 @@ void rename(QDialog* dialog, const QString& name)
     QTest::keyClicks(field, name);
 }
 
+/// As a user does; false if nothing can be changed there.
+bool change(QWidget* field)
+{
+    if (!field->isVisible() || !field->isEnabled())
+        return false;
+    if (auto* text = qobject_cast<QLineEdit*>(field)) {
+        if (text->isReadOnly() || qobject_cast<QAbstractSpinBox*>(text->parentWidget()))
+            return false;
+        const QString before = text->text();
+        text->selectAll();
+        QTest::keyClicks(text, text->objectName() == "MACAddress" ? "00:00:5E:12:34:AB" : before + "1");
+        return text->text() != before;
+    }
+    if (auto* number = qobject_cast<QAbstractSpinBox*>(field)) {
+        const QString before = number->text();
+        QTest::keyClick(number, Qt::Key_Up);
+        if (number->text() == before)
+            QTest::keyClick(number, Qt::Key_Down);
+        return number->text() != before;
+    }
+    if (auto* choice = qobject_cast<QComboBox*>(field)) {
+        if (choice->count() < 2)
+            return false;
+        choice->setCurrentIndex(choice->currentIndex() == 0 ? 1 : 0);
+        return true;
+    }
+    auto* box = qobject_cast<QAbstractButton*>(field);
+    if (!box || !box->isCheckable() || (box->autoExclusive() && box->isChecked()))
+        return false;
+    box->click();
+    return true;
+}
+
 /// By the button that the window manager draws.
 void closeAsUser(QWidget* window)
 {
@@ -57,6 +91,9 @@ private slots:
     void nothingEnteredAsksNothing();
     void cancelMeansIt();
     void appliedIsStored();
+    void nothingToApply_data();
+    void nothingToApply();
+    void refusedIsNotApplied();
     void otherTypeKeepsAsking();
 
 private:
@@ -168,6 +205,73 @@ void tst_UnsavedEdits::appliedIsStored()
     QCOMPARE(answers.opened().size(), 1);
     QCOMPARE(name(), QString("West"));
     QCOMPARE(title, QString("Properties of West"));
+}
+
+void tst_UnsavedEdits::nothingToApply_data()
+{
+    QTest::addColumn<QString>("node");
+    QTest::addColumn<int>("leastFields");
+    QTest::newRow("camera") << "Gate north" << 25;
+    QTest::newRow("URL camera") << "Yard" << 20;
+    QTest::newRow("folder") << "Archive" << 3;
+    QTest::newRow("view") << "Overview" << 1;
+}
+
+/// Apply can be pressed when any field has changed, until it was.
+void tst_UnsavedEdits::nothingToApply()
+{
+    QFETCH(QString, node);
+    QFETCH(int, leastFields);
+    select({node});
+    int fields = 0;
+    const Answers answers({[&](QDialog* editor) {
+        const auto* buttons = editor->findChild<QDialogButtonBox*>();
+        auto* apply = buttons->button(QDialogButtonBox::Apply);
+        auto* tabs = child<QTabWidget>(editor, "tabWidget");
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            const QList<QWidget*> all = tabs->widget(tab)->findChildren<QWidget*>();
+            for (QWidget* field : all) {
+                const QByteArray where = field->objectName().toUtf8();
+                QVERIFY2(!apply->isEnabled(), where);
+                if (!change(field) || !buttons->button(QDialogButtonBox::Ok)->isEnabled())
+                    continue;
+                QVERIFY2(apply->isEnabled(), where);
+                apply->setFocus();
+                apply->click();
+                QCOMPARE(editor->focusWidget(), buttons->button(QDialogButtonBox::Ok));
+                QCoreApplication::processEvents();
+                ++fields;
+            }
+        }
+        QTest::keyClick(editor, Qt::Key_Escape);
+        QVERIFY(!editor->isVisible());
+    }});
+    trigger("actionEdit");
+    QCOMPARE(answers.opened().size(), 1);
+    QVERIFY2(fields >= leastFields, qPrintable(QString::number(fields)));
+}
+
+void tst_UnsavedEdits::refusedIsNotApplied()
+{
+    const Answers answers({[](QDialog* editor) {
+        const auto* apply = editor->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply);
+        auto* address = child<QLineEdit>(editor, "addressLineEdit");
+        rename(editor, "West");
+        QVERIFY(apply->isEnabled());
+        const QString stored = address->text();
+        address->selectAll();
+        QTest::keyClicks(address, "10.0.0.300");
+        QVERIFY(!apply->isEnabled());
+        address->selectAll();
+        QTest::keyClicks(address, stored);
+        QVERIFY(apply->isEnabled());
+        rename(editor, "Gate north");
+        QVERIFY(!apply->isEnabled());
+        QTest::keyClick(editor, Qt::Key_Escape);
+    }});
+    trigger("actionEdit");
+    QCOMPARE(answers.opened().size(), 1);
 }
 
 void tst_UnsavedEdits::otherTypeKeepsAsking()
