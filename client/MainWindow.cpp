@@ -3,6 +3,7 @@
 #include "CameraChecking.h"
 #include "Commands.h"
 #include "EmptyState.h"
+#include "EntryQuestions.h"
 #include "EnvironmentNotice.h"
 #include "FocusMark.h"
 #include "LogNotice.h"
@@ -89,6 +90,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     setWindowIcon(NodeTypes::icon(IPDeviceType));
     new WheelGuard(this);
     new UnsavedEdits(this);
+    new EntryQuestions(this);
     new FocusMark(this);
     new Mnemonics(this);
     createList();

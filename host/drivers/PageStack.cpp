@@ -265,25 +265,28 @@ void PageStack::guardAddress()
             continue;
         QWidget* page = fields.address->parentWidget();
         auto* tab = static_cast<QVBoxLayout*>(page->parentWidget()->layout());
-        tab->insertWidget(tab->indexOf(page),
-                          new AddressGuard(
-                              fields, [this] { return nameOfTwin(); }, page->parentWidget()));
+        tab->insertWidget(tab->indexOf(page), new AddressGuard(
+                                                  fields,
+                                                  [this] {
+                                                      const kom::smart<const Node> found = twin();
+                                                      return found.null() ? QString() : found->name();
+                                                  },
+                                                  page->parentWidget()));
     }
 }
 
-/// Of the node that is reached as this one will be.
-QString PageStack::nameOfTwin() const
+kom::smart<const Node> PageStack::twin() const
 {
     const kom::smart<INodeDriverComponent> driver = NodeDB::getDB()->nodeDriver(m_type);
     const kom::smart<NodeHint> hint = driver.null() ? kom::smart<NodeHint>() : driver->createNodeHint(m_type);
     auto* device = dynamic_cast<NodeHintIPDevice*>(hint.get());
     if (!device)
-        return QString();
+        return kom::smart<const Node>();
     device->address = findChild<QLineEdit*>(QLatin1String("addressLineEdit"))->text();
     device->port = findChild<QSpinBox*>(QLatin1String("portSpinBox"))->value();
     device->channel = findChild<QSpinBox*>(QLatin1String("channelSpinBox"))->value();
     const kom::smart<const Node> twin = NodeDB::getDB()->node(NodeDB::getDB()->lookupHint(*hint));
-    return twin.null() || twin->id() == m_id ? QString() : twin->name();
+    return twin.null() || twin->id() == m_id ? kom::smart<const Node>() : twin;
 }
 
 void PageStack::sslChanged(int state)

@@ -4,6 +4,7 @@
 #include "drivers/EditorState.h"
 #include "drivers/InspectorPages.h"
 #include "ko/TrContext.h"
+#include "kom/smart.h"
 
 #include <QWidget>
 
@@ -40,6 +41,9 @@ public:
     typedef std::function<void(const PageSpec& spec, InspectorPage& page)> Visit;
     void visit(const Visit& visit);
 
+    /// The other node that is reached as this one will be; null if there is none.
+    kom::smart<const Node> twin() const;
+
     /// The field where typing starts, which is the name.
     void focusFirstField(Qt::FocusReason reason);
 
@@ -66,7 +70,6 @@ private:
     }
     void connectConnectionPage(bool proposeNames);
     void guardAddress();
-    QString nameOfTwin() const;
     void capture();
     void refreshStale();
     void addPageKeys(QTabWidget* tabs);

@@ -1,0 +1,50 @@
+#ifndef KO_ENTRYQUESTIONS_H
+#define KO_ENTRYQUESTIONS_H
+
+#include <QHash>
+#include <QObject>
+#include <QVector>
+
+class QAbstractButton;
+class QDialogButtonBox;
+class QWidget;
+
+namespace ko {
+
+class NodeDialog;
+
+/// Asks before OK adds or changes a node in a way that is seldom meant: without a name, without a name and an
+/// address, or with the address, port and channel of another node. What was so when an editor opened is not
+/// asked about.
+///
+/// Holds for all dialogs of the program that add or edit a node as long as the object lives.
+class EntryQuestions : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit EntryQuestions(QObject* parent);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Doubt
+    {
+        QString text;
+        QWidget* field; ///< where it can be taken away
+
+        bool operator==(const Doubt& other) const { return text == other.text; }
+    };
+    typedef QVector<Doubt> Doubts;
+
+    static Doubts doubtsOf(const NodeDialog& dialog);
+    static bool agrees(const Doubts& doubts, NodeDialog& dialog);
+    void begin(NodeDialog& dialog);
+    void confirm(NodeDialog& dialog, QDialogButtonBox& buttons) const;
+
+    QHash<const QObject*, Doubts> m_stored; ///< as each open dialog began
+};
+
+} // namespace ko
+
+#endif
