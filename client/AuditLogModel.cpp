@@ -113,7 +113,9 @@ AuditLogModel::Row AuditLogModel::nextRow()
     const QString user =
         record.host.isEmpty() ? record.user : QStringLiteral("%1 (%2)").arg(record.user, record.host);
     // A line break would hide what follows it here, and make a second entry of it where it is copied to.
-    return {{time, OutsideText::visible(user), OutsideText::visible(record.entry->title()),
+    const QString title = OutsideText::visible(record.entry->title());
+    return {{time, OutsideText::visible(user),
+             record.changedNothing ? tr("%1 (nothing was changed)").arg(title) : title,
              OutsideText::visible(record.entry->text())},
             record.changeSet};
 }

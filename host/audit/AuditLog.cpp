@@ -3,6 +3,7 @@
 #include "audit/ChangeSetLogEntry.h"
 #include "audit/GenericLogEntry.h"
 #include "audit/LogStore.h"
+#include "inspector/NodeChangeLogEntry.h"
 #include "ko/LogEntryFactory.h"
 #include "model/Redaction.h"
 
@@ -68,10 +69,15 @@ std::vector<AuditRecord> AuditLog::entries(qint64 from, qint64 count, bool newes
 {
     std::vector<AuditRecord> records;
     const QVector<AuditRow> rows = m_store.auditRows({from, count, newestFirst});
+    const quint32 edit = NodeChangeLogEntry(QString()).typeCode().value();
+    const qint64 firstTied = m_store.firstAuditWithChanges(); // older ones may have changed anything
     records.reserve(std::size_t(rows.size()));
-    for (const AuditRow& row : rows)
+    for (const AuditRow& row : rows) {
+        const bool changedNothing =
+            row.code == edit && row.changeSet == 0 && firstTied > 0 && row.seq > firstTied;
         records.push_back({row.seq, QDateTime::fromMSecsSinceEpoch(row.time, Qt::UTC), row.user, row.host,
-                           FourChars(row.code), rebuilt(row), row.changeSet});
+                           FourChars(row.code), rebuilt(row), row.changeSet, changedNothing});
+    }
     return records;
 }
 

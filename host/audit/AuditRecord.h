@@ -19,6 +19,7 @@ struct AuditRecord
     FourChars code;
     std::unique_ptr<LogEntry> entry; ///< never null; a GenericLogEntry where the code is unknown
     qint64 changeSet = 0;            ///< that it tells of; 0: none
+    bool changedNothing = false;     ///< whoever pressed OK had changed no property
 };
 
 } // namespace ko

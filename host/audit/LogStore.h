@@ -19,6 +19,8 @@ public:
     // Reading stores first what is not stored yet; empty or 0 when the store cannot be read.
     virtual QVector<AuditRow> auditRows(const LogRange& range) = 0;
     virtual qint64 auditCount() = 0;
+    /// The number of the first entry that was written with a change set; 0: there is none.
+    virtual qint64 firstAuditWithChanges() = 0;
     /// At most \a count change sets before number \a before without an entry in the audit log, newest first.
     virtual QVector<ChangeSetRow> silentChangeSets(qint64 before, int count) = 0;
     virtual QVector<ProgramRow> programRows(const LogRange& range) = 0;

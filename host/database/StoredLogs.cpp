@@ -36,6 +36,12 @@ qint64 StoredLogs::auditCount()
     return m_queue.reading([&] { return m_store.auditCount(); });
 }
 
+qint64 StoredLogs::firstAuditWithChanges()
+{
+    m_queue.flush();
+    return m_queue.reading([&] { return m_store.firstAuditWithChanges(); });
+}
+
 QVector<ChangeSetRow> StoredLogs::silentChangeSets(qint64 before, int count)
 {
     m_queue.flush();

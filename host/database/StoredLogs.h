@@ -17,6 +17,7 @@ public:
     void append(const ProgramRow& row) override;
     QVector<AuditRow> auditRows(const LogRange& range) override;
     qint64 auditCount() override;
+    qint64 firstAuditWithChanges() override;
     QVector<ChangeSetRow> silentChangeSets(qint64 before, int count) override;
     QVector<ProgramRow> programRows(const LogRange& range) override;
     qint64 programCount() override;

@@ -265,4 +265,12 @@ qint64 ChangeLog::auditCount()
     return m_store.value("SELECT count(*) FROM audit").toLongLong();
 }
 
+/// By the index of those that have one.
+qint64 ChangeLog::firstAuditWithChanges()
+{
+    return m_store
+        .value("SELECT seq FROM audit WHERE change_set IS NOT NULL ORDER BY change_set, seq LIMIT 1")
+        .toLongLong();
+}
+
 } // namespace ko

@@ -70,6 +70,7 @@ public:
     void addAudit(qint64 changeSet, const AuditRow& row);
     QVector<AuditRow> audit(const LogRange& range);
     qint64 auditCount();
+    qint64 firstAuditWithChanges();
 
 private:
     void readChanges(ChangeSet* set);

@@ -343,6 +343,11 @@ qint64 NodeStore::auditCount()
     return d->log.auditCount();
 }
 
+qint64 NodeStore::firstAuditWithChanges()
+{
+    return d->log.firstAuditWithChanges();
+}
+
 QVector<ProgramRow> NodeStore::programLines(const LogRange& range)
 {
     return d->tables.programLines(range);

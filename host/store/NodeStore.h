@@ -130,6 +130,7 @@ public:
     QVector<ChangeSetRow> silentChangeSets(qint64 before, int count);
     QVector<AuditRow> audit(const LogRange& range);
     qint64 auditCount();
+    qint64 firstAuditWithChanges();
     /// Looks for what was altered in the logs of \a file, which may be in use; from any thread. \a known is
     /// where they ended when they were seen before. \a goOn is called with the number of entries so far, and
     /// ends it when it returns false: then, and with \a error when the file cannot be read, none.

@@ -96,6 +96,7 @@ private slots:
     void pageOfTheEditor();
     void pageCostsNothingUnseen();
     void fromTheAuditLog();
+    void savedWithoutAChange();
     void putBackOfChangeSets();
     void putBackOfSingleLines();
     void putBackOfLinesWithFollowers();
@@ -335,6 +336,43 @@ void tst_HistoryWindow::fromTheAuditLog()
     trigger("actionAuditLog");
     QCOMPARE(answers.opened(), QStringList({"AuditLogDialog", "HistoryDialog"}));
     QCOMPARE(opened.first(), QString("Removing Archive"));
+}
+
+/// OK without a change is logged, but the lists do not show it as a change.
+void tst_HistoryWindow::savedWithoutAChange()
+{
+    const auto edit = [this](const QString& node, const QString& name) {
+        select({node});
+        const Answers answers({[&name](QDialog* editor) {
+            if (!name.isEmpty())
+                QTest::keyClicks(child<QLineEdit>(editor, "nameLineEdit"), name);
+            confirm(editor);
+        }});
+        trigger("actionEdit");
+        endTurn();
+        QCOMPARE(int(answers.opened().size()), 1);
+    };
+    QStringList entries;
+    QStringList changes;
+    const auto look = [&](QDialog* log) {
+        const auto* model = child<QTableView>(log, "entriesTableView")->model();
+        for (int row = 0; row < 2; ++row)
+            entries.append(model->index(row, 2).data().toString());
+        log->reject();
+    };
+    edit("Yard", "B");
+    edit("YardB", QString());
+    const Answers answers({look, [&changes](QDialog* dialog) {
+                               changes = titles(dialog);
+                               dialog->reject();
+                           }});
+    trigger("actionAuditLog");
+    trigger("actionHistory");
+    QCOMPARE(int(answers.opened().size()), 2);
+    QCOMPARE(entries,
+             QStringList({"Changed device properties (nothing was changed)", "Changed device properties"}));
+    QCOMPARE(changes.first(), QString("Properties of YardB"));
+    QCOMPARE(changes.count("Properties of YardB"), 1);
 }
 
 void tst_HistoryWindow::putBackOfChangeSets()
