@@ -72,10 +72,18 @@ public:
     {
         begin();
         Dialog::accept();
-        end(this->result() == QDialog::Accepted, m_count);
+        end(this->result() == QDialog::Accepted, handledBy(static_cast<const Dialog&>(*this), m_count));
     }
 
 private:
+    /// As far as a dialog came that the user can end before it is through; others handle all.
+    template <class Ended>
+    static auto handledBy(const Ended& dialog, int) -> decltype(dialog.handled())
+    {
+        return dialog.handled();
+    }
+    static int handledBy(const QDialog&, int all) { return all; }
+
     const int m_count;
 };
 

@@ -32,6 +32,13 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(DeviceSettings)
 };
 
+/// Of \a devices nothing was done to the others.
+QString withOthers(const QString& done, const QStringList& devices, int changed)
+{
+    const int others = int(devices.size()) - changed;
+    return others > 0 ? done + QLatin1Char(' ') + Texts::tr("%n left as they were.", nullptr, others) : done;
+}
+
 QStringList namesOf(const HostNodeDB& db, const QStringList& ids)
 {
     QStringList names;
@@ -145,11 +152,8 @@ QString editRecordings(HostNodeDB& db, const QStringList& devices, QWidget* pare
     const std::optional<QStringList> changed = dialog.run();
     if (!changed)
         return QString();
-    const int others = int(devices.size() - changed->size());
-    QString done = Texts::tr("%n device(s): access to recordings set.", nullptr, int(changed->size()));
-    if (others > 0)
-        done += QLatin1Char(' ') + Texts::tr("%n left as they were.", nullptr, others);
-    return done;
+    const int count = int(changed->size());
+    return withOthers(Texts::tr("%n device(s): access to recordings set.", nullptr, count), devices, count);
 }
 
 } // namespace
@@ -174,8 +178,10 @@ QString editCredentials(HostNodeDB& db, const QStringList& devices, QWidget* par
     ForMany<NodeAuthenticateDialog> dialog(db, devices, Purpose::Credentials, parent, devices,
                                            dialogFlags(false));
     const std::optional<QStringList> changed = dialog.run();
-    return changed ? Texts::tr("%n device(s): user name and password set.", nullptr, int(changed->size()))
-                   : QString();
+    if (!changed)
+        return QString();
+    const int count = int(changed->size());
+    return withOthers(Texts::tr("%n device(s): user name and password set.", nullptr, count), devices, count);
 }
 
 } // namespace DeviceSettings

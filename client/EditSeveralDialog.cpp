@@ -1,13 +1,13 @@
 #include "EditSeveralDialog.h"
 
 #include "LayoutAdapter.h"
-#include "LongWork.h"
 #include "NameList.h"
 #include "WindowSize.h"
 #include "database/HostNodeDB.h"
 #include "drivers/SharedEditor.h"
 #include "ko/Node.h"
 #include "ko/dialogFlags.h"
+#include "utils/LongWork.h"
 #include "utils/Retranslation.h"
 
 #include <QDialogButtonBox>

@@ -1,12 +1,12 @@
 #include "NodeRemoval.h"
 
-#include "LongWork.h"
 #include "MainWindow.h"
 #include "NodeListView.h"
 #include "RemoveNodesBox.h"
 #include "audit/AuditLog.h"
 #include "audit/NodeLogEntries.h"
 #include "database/HostNodeDB.h"
+#include "utils/LongWork.h"
 
 #include <QCoreApplication>
 #include <QSet>

@@ -3,6 +3,7 @@
 #include "ko/IPDeviceNode.h"
 #include "ko/NodeDB.h"
 #include "ko/QtCompat.h"
+#include "utils/LongWork.h"
 #include "utils/Retranslation.h"
 
 #include "ui_NodeAuthenticateDialog.h"
@@ -73,7 +74,10 @@ QString NodeAuthenticateDialog::nodeNames(const QStringList& nodeIds)
 void NodeAuthenticateDialog::accept()
 {
     NodeDB* db = NodeDB::getDB();
+    LongWork work(windowTitle(), tr("Storing user name and password..."), int(m_nodeIds.size()), this);
     for (const QString& id : m_nodeIds) {
+        if (!work.goOn())
+            break;
         Node* node = db->beginUpdateNode(id, -1);
         if (IPDeviceNode* device = dynamic_cast<IPDeviceNode*>(node)) {
             device->setUser(m_ui->userNameLineEdit->text(), m_ui->passWordLineEdit->text());
@@ -81,6 +85,7 @@ void NodeAuthenticateDialog::accept()
         }
         db->endUpdateNode(node);
     }
+    m_handled = work.done();
     QDialog::accept();
 }
 

@@ -17,7 +17,8 @@ namespace ko {
 /// Asks for one user name and password and stores them in many IP devices.
 ///
 /// The fields begin with what the first device has. OK stores what was typed, also empty texts, in every
-/// IP device of the list; other nodes are left as they are. Nothing is logged.
+/// IP device of the list; other nodes are left as they are. Nothing is logged. When that takes long, the user
+/// sees how far it is and can end it: what is stored by then stays.
 class KO_NODEUI_EXPORT NodeAuthenticateDialog : public QDialog
 {
     Q_OBJECT
@@ -31,6 +32,9 @@ public:
     /// of dots follows.
     static QString nodeNames(const QStringList& nodeIds);
 
+    /// How many of the list, from its beginning, were gone through: fewer than all when the user ended it.
+    int handled() const { return m_handled; }
+
 public slots:
     void accept() override;
 
@@ -41,6 +45,7 @@ private:
 
     const QScopedPointer<Ui::NodeAuthenticateDialog> m_ui;
     const QStringList m_nodeIds;
+    int m_handled = 0;
 };
 
 } // namespace ko

@@ -6,6 +6,7 @@
 #include "ko/QtCompat.h"
 #include "ko/connect.h"
 #include "utils/FileDialogs.h"
+#include "utils/LongWork.h"
 #include "utils/NodeDBUtils.h"
 #include "utils/Retranslation.h"
 
@@ -149,8 +150,13 @@ void RecordingFolderMassAssignmentDialog::accept()
                              tr("Please define the default file server path before setting this option."));
         return;
     }
-    for (const QString& id : m_cameraIds)
+    LongWork work(windowTitle(), tr("Storing where the recordings are..."), int(m_cameraIds.size()), this);
+    for (const QString& id : m_cameraIds) {
+        if (!work.goOn())
+            break;
         configure(id);
+    }
+    m_handled = work.done();
     QDialog::accept();
 }
 

@@ -3,6 +3,8 @@
 #include "support/TestMain.h"
 
 #include "DeviceSettings.h"
+#include "audit/AuditLog.h"
+#include "database/StoredHistory.h"
 #include "ko/IPDeviceNode.h"
 
 #include <QCheckBox>
@@ -10,8 +12,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
 
 using namespace ko;
 using testsupport::Answers;
@@ -50,6 +57,8 @@ private slots:
     void credentialsThatDiffer();
     void credentialsAgreedOn();
     void credentialsThatAreTheSame();
+    void manyShowProgress_data();
+    void manyShowProgress();
 
 private:
     QString addCamera(const QString& name, const QString& factoryAddress);
@@ -206,6 +215,58 @@ void tst_DeviceSettings::credentialsThatAreTheSame()
     const Answers answers({cancel});
     DeviceSettings::editCredentials(*m_host->db(), m_cameras, nullptr);
     QCOMPARE(answers.opened(), QStringList("NodeAuthenticateDialog"));
+}
+
+void tst_DeviceSettings::manyShowProgress_data()
+{
+    QTest::addColumn<bool>("credentials");
+    QTest::newRow("credentials") << true;
+    QTest::newRow("recordings") << false;
+}
+
+/// And can be ended; what is stored then is one change set, logged as far as it came.
+void tst_DeviceSettings::manyShowProgress()
+{
+    QFETCH(bool, credentials);
+    HostNodeDB& db = *m_host->db();
+    QStringList ids;
+    for (int i = 0; i < 1000; ++i)
+        ids.append(addCamera(QString("Camera %1").arg(i), QString("10_2_%1_%2").arg(i / 250).arg(i % 250)));
+    db.flush();
+    const qint64 logged = db.auditLog().count();
+    const qint64 sets = db.history().changeSets(0, 100000).last().number;
+    // Somebody who takes his time with each, as long as many thousands take on a fast machine.
+    connect(&db, &NodeDB::nodeUpdated, this, [] { QThread::usleep(1000); });
+    QTimer watch;
+    connect(&watch, &QTimer::timeout, this, [] {
+        const QWidgetList all = QApplication::allWidgets();
+        for (QWidget* each : all) {
+            if (auto* work = qobject_cast<QProgressDialog*>(each))
+                work->cancel();
+        }
+    });
+    const Answers answers({[&](QDialog* dialog) {
+        if (credentials)
+            child<QLineEdit>(dialog, "userNameLineEdit")->setText("operator");
+        else
+            child<QRadioButton>(dialog, "defaultFileServerPathRadioButton")->click();
+        watch.start(0);
+        dialog->accept();
+    }});
+    const QString done = credentials ? DeviceSettings::editCredentials(db, ids, nullptr)
+                                     : DeviceSettings::editRecording(db, ids, nullptr);
+    QCOMPARE(answers.opened().size(), 1);
+    const int changed = int(std::count_if(ids.begin(), ids.end(), [&](const QString& id) {
+        return credentials ? device(id)->user(1) == "operator" : usage(id) == 1;
+    }));
+    QVERIFY2(changed > 0 && changed < ids.size(), qPrintable(QString::number(changed)));
+    QVERIFY2(done.startsWith(QString("%1 device(s)").arg(changed)) &&
+                 done.endsWith(QString("%1 left as they were.").arg(ids.size() - changed)),
+             qPrintable(done));
+    QCOMPARE(db.auditLog().count() - logged, qint64(changed));
+    const QVector<ChangeSet> since = db.history().changeSets(sets, 100);
+    QCOMPARE(since.size(), 1);
+    QCOMPARE(since.first().cause.purpose, credentials ? Purpose::Credentials : Purpose::Recording);
 }
 
 KO_TEST_MAIN(tst_DeviceSettings)

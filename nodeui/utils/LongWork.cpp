@@ -1,4 +1,4 @@
-#include "LongWork.h"
+#include "utils/LongWork.h"
 
 #include <QCoreApplication>
 
@@ -20,6 +20,8 @@ LongWork::LongWork(const QString& title, const QString& text, int steps, QWidget
     m_sinceShown.start();
 }
 
+LongWork::~LongWork() = default;
+
 bool LongWork::goOn()
 {
     if (m_sinceShown.hasExpired(m_dialog ? interval : moment)) {
@@ -36,7 +38,7 @@ void LongWork::show()
     if (!m_dialog) {
         m_dialog = std::make_unique<QProgressDialog>(
             m_text, QCoreApplication::translate("LongWork", "Cancel"), 0, m_steps, m_parent);
-        m_dialog->setObjectName(QStringLiteral("longWork"));
+        m_dialog->setObjectName(QLatin1String("longWork"));
         m_dialog->setWindowTitle(m_title);
         m_dialog->setWindowModality(Qt::WindowModal);
         m_dialog->setAutoClose(false);

@@ -1,6 +1,8 @@
 #ifndef KO_LONGWORK_H
 #define KO_LONGWORK_H
 
+#include "NodeUIExport.h"
+
 #include <QElapsedTimer>
 #include <QProgressDialog>
 
@@ -10,10 +12,11 @@ namespace ko {
 
 /// Many small steps on the GUI thread. When they take longer than a moment, a window shows how far they are
 /// and can end them; \a parent takes no input then.
-class LongWork
+class KO_NODEUI_EXPORT LongWork
 {
 public:
     LongWork(const QString& title, const QString& text, int steps, QWidget* parent);
+    ~LongWork();
 
     /// To be called before each step; false when the user wants no more. Runs the event loop now and then.
     bool goOn();
@@ -22,6 +25,8 @@ public:
     int done() const { return m_done; }
 
 private:
+    Q_DISABLE_COPY(LongWork)
+
     void show();
 
     const QString m_title;
