@@ -7,6 +7,7 @@
 #include "EnvironmentNotice.h"
 #include "FocusMark.h"
 #include "LogNotice.h"
+#include "MessageHints.h"
 #include "Mnemonics.h"
 #include "NodeCommands.h"
 #include "NodeListModel.h"
@@ -91,6 +92,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     new WheelGuard(this);
     new UnsavedEdits(this);
     new EntryQuestions(this);
+    new MessageHints(this);
     new FocusMark(this);
     new Mnemonics(this);
     createList();

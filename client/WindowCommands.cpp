@@ -10,6 +10,7 @@
 #include "NodeListView.h"
 #include "PreferencesDialog.h"
 #include "ScanFindings.h"
+#include "WindowSize.h"
 #include "database/HostNodeDB.h"
 #include "dialogs/EnvironmentDialog.h"
 #include "dialogs/NetworkProxyDialog.h"
@@ -17,9 +18,12 @@
 #include "dialogs/NodeOverviewDialog.h"
 #include "discovery/Scanners.h"
 #include "ko/dialogFlags.h"
+#include "utils/WindowTitle.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QSortFilterProxyModel>
 #include <QTableView>
@@ -125,8 +129,19 @@ void showDatabase(MainWindow& window)
     NodeDBViewer* viewer = new NodeDBViewer(&window);
     viewer->setWindowFlag(Qt::Window);
     viewer->setAttribute(Qt::WA_DeleteOnClose);
+    const auto showTitle = [viewer, file = QFileInfo(window.database().fileName()).fileName()] {
+        viewer->setWindowTitle(MainWindow::tr("%1 - Node Database").arg(inWindowTitle(file)));
+    };
+    showTitle();
+    // It has one of its own, which comes back in another language.
+    QObject::connect(viewer, &QWidget::windowTitleChanged, viewer, showTitle);
+    auto* table = viewer->findChild<QTableView*>();
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch); // the names
+    resizeWithinScreen(*viewer, QSize(640, 520));
     // The viewer itself leaves its models behind.
-    auto* sorted = qobject_cast<QSortFilterProxyModel*>(viewer->findChild<QTableView*>()->model());
+    auto* sorted = qobject_cast<QSortFilterProxyModel*>(table->model());
     QObject::connect(viewer, &QObject::destroyed, sorted, &QObject::deleteLater);
     QObject::connect(viewer, &QObject::destroyed, sorted->sourceModel(), &QObject::deleteLater);
     viewer->show();

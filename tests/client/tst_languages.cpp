@@ -483,7 +483,7 @@ void tst_Languages::menuWorksAtOnce()
 
     choose("language_de");
     QCOMPARE(file->text(), QString("&Datei"));
-    QCOMPARE(viewer->windowTitle(), QString("Knotendatenbank"));
+    QCOMPARE(viewer->windowTitle(), QString("nodes.kodb - Knotendatenbank"));
     QCOMPARE(viewer->findChild<QTableView*>()->model()->headerData(2, Qt::Horizontal).toString(),
              QString("Knotentyp"));
     QCOMPARE(window.list().model()->index(0, 1).data().toString(), QString("IP-Kamera"));
