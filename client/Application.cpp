@@ -5,6 +5,7 @@
 #include "KeychainNotice.h"
 #include "KnownSites.h"
 #include "Languages.h"
+#include "Places.h"
 #include "ReadOnlyNotice.h"
 #include "ShareCommand.h"
 #include "SiteOpening.h"
@@ -73,6 +74,7 @@ Application::Application(int& argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("koclient"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KO_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.konodeui.koclient"));
+    Places::declare();
 }
 
 bool Application::parse()

@@ -9,6 +9,7 @@
 #include "NodeCommands.h"
 #include "NodeListView.h"
 #include "NodeRemoval.h"
+#include "PlaceCommands.h"
 #include "ReadOnlyNotice.h"
 #include "UndoCommands.h"
 #include "WindowCommands.h"
@@ -129,6 +130,11 @@ const Commands::Command Commands::all[] = {
      QT_TRANSLATE_NOOP("MainWindow", "Shows what would be done to several nodes before it is stored"), "", "",
      Nothing, InMenu, [](MainWindow&) { ChangePreview::setWanted(!ChangePreview::isWanted()); },
      &ChangePreview::isWanted},
+
+    {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionPlace",
+     QT_TRANSLATE_NOOP("MainWindow", "&Location and Tags..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Where the selected devices are, and by what they are grouped"), "", "",
+     SomeNodes, InList | Edits, &PlaceCommands::edit},
 
     {QT_TRANSLATE_NOOP("MainWindow", "&Node"), "actionDuplicate",
      QT_TRANSLATE_NOOP("MainWindow", "&Duplicate..."),

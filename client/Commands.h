@@ -33,6 +33,9 @@ public:
     /// By its object name; there must be one.
     QAction* action(const char* name) const;
 
+    /// The menu in which the action of that name is.
+    QMenu* menuOf(const char* name) const;
+
 private:
     struct Command;
     static const Command all[];
@@ -44,7 +47,6 @@ private:
     };
 
     QAction* createAction(const Command& command);
-    QMenu* menuOf(const char* name) const;
 
     MainWindow& m_window;
     QVector<Menu> m_menus;

@@ -1,6 +1,7 @@
 #include "ListColumns.h"
 
 #include "NodeListModel.h"
+#include "Places.h"
 #include "SearchText.h"
 #include "devices/NodeTarget.h"
 #include "drivers/NodeTypes.h"
@@ -9,6 +10,8 @@
 #include <QColor>
 #include <QGuiApplication>
 #include <QPalette>
+
+#include <algorithm>
 
 namespace ko {
 
@@ -32,6 +35,8 @@ const struct
     {PropertyKeys::UseSSL, QT_TRANSLATE_NOOP("NodeListModel", "SSL")},
     {PropertyKeys::User, QT_TRANSLATE_NOOP("NodeListModel", "User")},
     {PropertyKeys::Channel, QT_TRANSLATE_NOOP("NodeListModel", "Channel")},
+    {Places::Location, QT_TRANSLATE_NOOP("NodeListModel", "Location")},
+    {Places::Tags, QT_TRANSLATE_NOOP("NodeListModel", "Tags")},
 };
 
 /// Rows are one line high; a name may hold line breaks.
@@ -63,7 +68,10 @@ QVector<ListColumns::PropertyColumn> ListColumns::propertyColumns()
         columns.append({column.key, NodeListModel::tr(column.title)});
     const QVector<NodeProperty> declared = NodeTypes::properties(IPDeviceType);
     for (const NodeProperty& property : declared) {
-        if (property.column)
+        const bool isListed = std::any_of(columns.begin(), columns.end(), [&](const PropertyColumn& column) {
+            return column.key == property.key;
+        });
+        if (property.column && !isListed)
             columns.append({property.key, QString::fromUtf8(property.column)});
     }
     return columns;

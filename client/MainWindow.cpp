@@ -12,6 +12,7 @@
 #include "NodeCommands.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
+#include "PlaceDock.h"
 #include "PropertyColumns.h"
 #include "ScannerStatus.h"
 #include "StoreNotice.h"
@@ -86,6 +87,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_store(new StoreNotice(db, this))
     , m_undoing(new UndoCommands(*this, m_commands->action("actionUndo"), m_commands->action("actionRedo")))
     , m_undoNotice(new UndoNotice(m_commands->action("actionUndo"), statusBar()))
+    , m_places(new PlaceDock(*this, *m_model, *m_commands->menuOf("actionColumns")))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
@@ -257,6 +259,7 @@ void MainWindow::applyChanges()
     m_removed.clear();
     m_properties->take(changed);
     m_model->apply(changed, removed);
+    m_places->take(changed, removed);
     updateStatus();
 }
 
@@ -280,6 +283,7 @@ void MainWindow::updateStatus()
 void MainWindow::find(const QString& search)
 {
     m_types->setCurrentIndex(0);
+    m_places->showAll();
     m_search->setText(search);
     m_search->setCursorPosition(0); // a long one shows its field
     m_view->setFocus();

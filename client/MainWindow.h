@@ -23,6 +23,7 @@ class EnvironmentNotice;
 class HostNodeDB;
 class NodeListModel;
 class NodeListView;
+class PlaceDock;
 class PropertyColumns;
 class StoreNotice;
 class SurveyCommands;
@@ -104,6 +105,7 @@ private:
     StoreNotice* const m_store;
     UndoCommands* const m_undoing;
     UndoNotice* const m_undoNotice;
+    PlaceDock* const m_places;
     QSet<QString> m_changed; ///< taken into the list together
     QSet<QString> m_removed;
     OncePerFrame m_frame;

@@ -26,7 +26,7 @@ NodeListModel::NodeListModel(RecordingText recordingText, QObject* parent)
 bool NodeListModel::passes(Slot slot) const
 {
     return (m_type == AllNodeTypes || m_entries.node(slot).type == m_type) &&
-           m_entries.matches(slot, m_search);
+           (!m_filter || m_filter(m_entries.node(slot))) && m_entries.matches(slot, m_search);
 }
 
 void NodeListModel::timerEvent(QTimerEvent* event)

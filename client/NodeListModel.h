@@ -9,6 +9,8 @@
 #include <QBasicTimer>
 #include <QItemSelection>
 
+#include <functional>
+
 namespace ko {
 
 /// The nodes of the client's list, sorted and filtered by the model itself: a stock proxy takes most of a
@@ -65,6 +67,15 @@ public:
     /// Shows only nodes of a type; AllNodeTypes shows all.
     void setTypeFilter(ENodeType type);
 
+    /// Shows only nodes that also pass this one, which is asked again whenever a node changes and when it is
+    /// set; none shows all.
+    typedef std::function<bool(const NodeSummary& node)> Filter;
+    void setFilter(const Filter& filter)
+    {
+        m_filter = filter;
+        refilter(false);
+    }
+
     int nodeCount() const { return m_entries.count(); }
     int deviceCount() const { return m_entries.deviceCount(); }
     QString idAt(int row) const { return node(row).id; }
@@ -91,6 +102,10 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     void sort(int column, Qt::SortOrder order) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override
+    {
+        return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled; // where the view lets it be dragged
+    }
 
 protected:
     void timerEvent(QTimerEvent* event) override;
@@ -123,6 +138,7 @@ private:
     Slots m_shown;  ///< those that pass the filter, in the same order
     NodeSearch m_search;
     ENodeType m_type = AllNodeTypes;
+    Filter m_filter;
     QBasicTimer m_preparing; ///< makes the entries ready for the search while nothing else is to do
 };
 

@@ -4,9 +4,12 @@
 #include "utils/Retranslation.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QDrag>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QSettings>
 
@@ -18,6 +21,7 @@ namespace {
 
 const char columnsKey[] = "window/columns";
 const char keysKey[] = "window/columnKeys";
+const char dragFormat[] = "application/x-konodeui-nodes"; ///< with the process
 
 } // namespace
 
@@ -186,6 +190,24 @@ void NodeListView::selectNodes(const QStringList& ids)
     selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     scrollTo(first);
+}
+
+bool NodeListView::isDragOfNodes(const QMimeData& data)
+{
+    return data.data(QLatin1String(dragFormat)).toLongLong() == QCoreApplication::applicationPid();
+}
+
+/// What is dragged is what is selected; the model would write all cells of it.
+void NodeListView::startDrag(Qt::DropActions)
+{
+    auto* data = new QMimeData;
+    data->setData(QLatin1String(dragFormat), QByteArray::number(QCoreApplication::applicationPid()));
+    auto* drag = new QDrag(this);
+    drag->setMimeData(data);
+    drag->setPixmap(m_model->data(currentIndex().siblingAtColumn(0), Qt::DecorationRole)
+                        .value<QIcon>()
+                        .pixmap(iconSize().isValid() ? iconSize() : QSize(16, 16)));
+    drag->exec(Qt::CopyAction);
 }
 
 void NodeListView::keyPressEvent(QKeyEvent* event)

@@ -6,6 +6,7 @@
 
 #include <QTreeView>
 
+class QMimeData;
 class QSettings;
 
 namespace ko {
@@ -46,6 +47,9 @@ public:
     /// Selects those of the nodes that are shown, and no others.
     void selectNodes(const QStringList& ids);
 
+    /// Whether it is the drag of nodes that are selected in a list of this process.
+    static bool isDragOfNodes(const QMimeData& data);
+
 signals:
     /// Return was pressed or a row was double-clicked.
     void nodeActivated(const QString& id);
@@ -54,6 +58,7 @@ signals:
     void columnsChanged();
 
 protected:
+    void startDrag(Qt::DropActions actions) override;
     void keyPressEvent(QKeyEvent* event) override;
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;

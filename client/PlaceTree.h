@@ -1,0 +1,57 @@
+#ifndef KO_PLACETREE_H
+#define KO_PLACETREE_H
+
+#include "ko/TrContext.h"
+
+#include <QTreeView>
+
+#include <optional>
+
+class QDropEvent;
+class QStandardItem;
+class QStandardItemModel;
+
+namespace ko {
+
+class PlaceIndex;
+
+/// The places of devices as a tree, each with how many there are. Devices that are dropped on a place are to
+/// be there.
+class PlaceTree : public QTreeView
+{
+    Q_OBJECT
+    KO_TR_CONTEXT(PlaceTree)
+
+public:
+    explicit PlaceTree(QWidget* parent);
+
+    /// Shows them; what is chosen stays chosen as long as it is there, what is open stays open.
+    void fill(const PlaceIndex& index);
+
+    /// Nothing for all nodes, an empty place for the devices that have none.
+    std::optional<QString> chosen() const;
+    void choose(const std::optional<QString>& place);
+
+signals:
+    void chosenChanged();
+    void dropped(const QString& place);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    QStandardItem* add(QStandardItem* parent, const QString& text, const QVariant& place);
+    bool accepts(const QDropEvent& event) const;
+    void retranslate();
+
+    QStandardItemModel* const m_model;
+    QStandardItem* m_all = nullptr;
+    QStandardItem* m_nowhere = nullptr;
+    bool m_isFilling = false;
+};
+
+} // namespace ko
+
+#endif
