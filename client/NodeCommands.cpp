@@ -1,5 +1,6 @@
 #include "NodeCommands.h"
 
+#include "AddAndNext.h"
 #include "CameraChecking.h"
 #include "ChangePreview.h"
 #include "ChangedMeanwhile.h"
@@ -20,6 +21,7 @@
 #include "drivers/NodeTypes.h"
 #include "inspector/InspectorWidget.h"
 #include "ko/IPDeviceNode.h"
+#include "ko/OutsideText.h"
 #include "utils/WindowTitle.h"
 
 #include <QApplication>
@@ -28,6 +30,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <optional>
 
 namespace ko {
 
@@ -83,6 +86,7 @@ void runAddDialog(MainWindow& window, AddNodeDialog& dialog)
     window.database().auditLog().log(NodeLogEntry(NodeLogEntry::Added, node->name()));
     window.applyChanges();
     window.list().selectNode(dialog.nodeId());
+    window.sayDone(MainWindow::tr("\"%1\" was added.").arg(OutsideText::visible(node->name())));
 }
 
 } // namespace
@@ -122,9 +126,17 @@ void open(MainWindow& window, const QString& id, bool readOnly)
 void add(MainWindow& window)
 {
     const QList<ENodeType> types = typesToAdd();
-    AddNodeDialog dialog(&window, &window, &types, false, addFlags);
-    new TypeChange(&dialog);
-    runAddDialog(window, dialog);
+    std::optional<AddAndNext::Kept> kept;
+    do {
+        AddNodeDialog dialog(&window, &window, &types, false, addFlags);
+        auto* next = new AddAndNext(&dialog);
+        if (kept)
+            next->begin(*kept);
+        new TypeChange(&dialog);
+        runAddDialog(window, dialog);
+        kept =
+            next->isWanted() && !dialog.nodeId().isEmpty() ? std::make_optional(next->kept()) : std::nullopt;
+    } while (kept);
 }
 
 void duplicate(MainWindow& window)
