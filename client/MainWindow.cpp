@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "EmptyState.h"
 #include "EntryQuestions.h"
+#include "EnvironmentMenu.h"
 #include "EnvironmentNotice.h"
 #include "FocusMark.h"
 #include "LogNotice.h"
@@ -229,6 +230,8 @@ void MainWindow::createToolBar()
     m_typesLabel->setBuddy(m_types); // by which a screen reader names the box
     m_toolBar->addWidget(m_typesLabel);
     m_toolBar->addWidget(m_types);
+    auto* environments = new EnvironmentMenu(m_db, m_toolBar);
+    environments->setAction(m_toolBar->addWidget(environments));
 }
 
 void MainWindow::nodeChanged(const NodeID& id)

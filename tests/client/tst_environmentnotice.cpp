@@ -1,5 +1,6 @@
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
+#include "support/Patience.h"
 #include "support/TestMain.h"
 
 #include "MainWindow.h"
@@ -9,9 +10,11 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStatusBar>
+#include <QToolButton>
 
 #include <QtTest/qtestspontaneevent.h>
 
@@ -36,6 +39,7 @@ private slots:
     void cancelledSwitchIsAnnounced();
     void confirmedSwitchIsNot();
     void nothingSwitchedNothingSaid();
+    void windowShowsAndSwitchesIt();
 
 private:
     void run(const char* action, const std::function<void(QDialog*)>& answer);
@@ -181,6 +185,31 @@ void tst_EnvironmentNotice::nothingSwitchedNothingSaid()
     run("actionEdit", [](QDialog* dialog) { dialog->reject(); });
     QVERIFY(!backButton()->isVisible());
     QVERIFY(m_window->statusBar()->currentMessage().isEmpty());
+}
+
+void tst_EnvironmentNotice::windowShowsAndSwitchesIt()
+{
+    HostNodeDB& db = *m_host->db();
+    const auto activate = [this] {
+        QEvent event(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(m_window.get(), &event);
+    };
+    auto* button = child<QToolButton>(m_window.get(), "environmentMenuButton");
+    db.environments().setList({{"{h}", "Home"}});
+    db.setActiveEnvironment("{h}");
+    activate();
+    KO_TRY_VERIFY(!button->isVisible()); // there is nothing to choose
+    db.environments().setList({{"{h}", "Home & garden"}, {"{o}", "Office"}});
+    activate();
+    KO_TRY_VERIFY(button->isVisible());
+    QCOMPARE(button->text(), QString("Environment: Home && garden"));
+    emit button->menu()->aboutToShow();
+    const QList<QAction*> all = button->menu()->actions();
+    QCOMPARE(all.size(), 2);
+    QVERIFY(all.at(0)->isChecked() && !all.at(1)->isChecked());
+    all.at(1)->trigger();
+    QCOMPARE(db.activeEnvironment(), QString("{o}"));
+    QCOMPARE(button->text(), QString("Environment: Office"));
 }
 
 KO_TEST_MAIN(tst_EnvironmentNotice)
