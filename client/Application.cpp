@@ -161,11 +161,17 @@ int Application::runTask()
         return ShareCommand(m_options->value("share"), m_options->site()).run();
     if (m_database.isEmpty())
         m_database = defaultDatabase();
+    QString previous; // comes back when the next one cannot be opened
     for (;;) {
+        const QString current = m_database;
+        m_site.clear();
+        m_next = ClientWindow::Next();
         const int exitCode = SiteAddress::isSite(m_database) ? runOnSite() : runOnFile();
-        if (m_next.site.isEmpty())
+        const bool isNext = !m_next.database.isEmpty();
+        if (!isNext && (exitCode != NoDatabase || previous.isEmpty()))
             return exitCode;
-        m_database = std::exchange(m_next.site, QString());
+        m_database = isNext ? m_next.database : previous;
+        previous = isNext ? current : QString();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "ClientWindow.h"
 
+#include "DatabaseCommands.h"
 #include "MainWindow.h"
 #include "PlainMessageBox.h"
 #include "SharingStatus.h"
@@ -75,10 +76,9 @@ bool run(HostNodeDB& db, const QString& site, int* exitCode, Next* next)
             QApplication::exit();
         });
     }
-    QObject::connect(&window, &MainWindow::siteChosen, &window, [&window, next](const QString& chosen) {
-        if (window.close())
-            next->site = chosen;
-    });
+    if (!sharing)
+        DatabaseCommands::addRecent(db.fileName());
+    QObject::connect(&window, &MainWindow::closedForNext, &window, [] { QApplication::exit(); });
     bool isUsable = true;
     QObject::connect(&db, &HostNodeDB::checked, &window, [&isUsable](const StoreError& error) {
         isUsable = !error;
@@ -90,6 +90,7 @@ bool run(HostNodeDB& db, const QString& site, int* exitCode, Next* next)
         warnAboutNetwork(db.fileName(), &window);
     if (isUsable)
         *exitCode = QApplication::exec();
+    next->database = window.next();
     return isUsable;
 }
 

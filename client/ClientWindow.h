@@ -14,7 +14,7 @@ namespace ClientWindow {
 /// What the user wants instead.
 struct Next
 {
-    QString site;         ///< another one; empty if none
+    QString database;     ///< another one, a file or a site; empty if none
     bool newCopy = false; ///< of the same site
 };
 

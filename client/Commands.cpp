@@ -2,6 +2,7 @@
 
 #include "CameraChecking.h"
 #include "ChangePreview.h"
+#include "DatabaseCommands.h"
 #include "FillInDialog.h"
 #include "LanguageMenu.h"
 #include "MainWindow.h"
@@ -11,6 +12,7 @@
 #include "NodeRemoval.h"
 #include "PlaceCommands.h"
 #include "ReadOnlyNotice.h"
+#include "RecentMenu.h"
 #include "UndoCommands.h"
 #include "WindowCommands.h"
 
@@ -59,9 +61,22 @@ struct Commands::Command
 
 // The search field needs the room of the bar that the first commands of nodes leave.
 const Commands::Command Commands::all[] = {
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionNew", QT_TRANSLATE_NOOP("MainWindow", "&New..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Makes an empty node database and opens it"), "", "document-new",
+     Nothing, InMenu, &DatabaseCommands::create},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionOpen", QT_TRANSLATE_NOOP("MainWindow", "&Open..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Opens another node database"), "Ctrl+O", "document-open", Nothing,
+     InMenu, &DatabaseCommands::open},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionBackUp", QT_TRANSLATE_NOOP("MainWindow", "&Back Up..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Copies the node database into a file"), "", "", Nothing, AfterLine,
+     &DatabaseCommands::backUp},
+    {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionRestore",
+     QT_TRANSLATE_NOOP("MainWindow", "Res&tore..."),
+     QT_TRANSLATE_NOOP("MainWindow", "Gives the node database the content of a backup"), "", "", Nothing,
+     Edits, &DatabaseCommands::restore},
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionImport", QT_TRANSLATE_NOOP("MainWindow", "&Import..."),
-     QT_TRANSLATE_NOOP("MainWindow", "Adds the cameras of a site survey (CSV)"), "", "document-open", Nothing,
-     Edits, [](MainWindow& window) { window.importCameras(); }},
+     QT_TRANSLATE_NOOP("MainWindow", "Adds the cameras of a site survey (CSV)"), "", "document-import",
+     Nothing, AfterLine | Edits, [](MainWindow& window) { window.importCameras(); }},
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionExport", QT_TRANSLATE_NOOP("MainWindow", "&Export..."),
      QT_TRANSLATE_NOOP("MainWindow", "Writes all cameras into a CSV file"), "", "document-save-as", Nothing,
      InMenu, [](MainWindow& window) { window.exportCameras(); }},
@@ -222,6 +237,7 @@ Commands::Commands(MainWindow& window)
             window.list().addAction(action);
         m_actions.append(action);
     }
+    menuOf("actionOpen")->insertMenu(menuOf("actionOpen")->actions().at(2), new RecentMenu(window));
     new LanguageMenu(*menuOf("actionColumns"), &window);
     retranslate();
 }

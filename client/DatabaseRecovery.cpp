@@ -1,21 +1,18 @@
 #include "DatabaseRecovery.h"
 
 #include "PlainMessageBox.h"
+#include "WhileShowing.h"
 #include "store/Salvage.h"
 #include "store/StoreBackup.h"
 #include "utils/FileDialogs.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QEventLoop>
 #include <QHash>
 #include <QLocale>
-#include <QProgressDialog>
 #include <QPushButton>
-#include <QThread>
 #include <QVector>
 
-#include <functional>
 #include <memory>
 
 namespace ko {
@@ -75,25 +72,11 @@ bool isDamaged(const QString& file, const StoreError& error)
     return isOurs || (isForeign && !StoreBackup::backups(file).isEmpty());
 }
 
-/// Does \a work in a thread while a box says so: for a large database it takes as long as copying it.
-void doWhileShowing(const QString& text, QWidget* parent, const std::function<void()>& work)
-{
-    QProgressDialog box(text, QString(), 0, 0, parent);
-    box.setWindowTitle(Texts::tr("Node Database"));
-    box.setMinimumDuration(0);
-    QEventLoop loop;
-    const std::unique_ptr<QThread> thread(QThread::create(work));
-    QObject::connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);
-    box.show();
-    thread->start();
-    loop.exec();
-    thread->wait();
-}
-
 Found lookFor(const QString& file, QWidget* parent)
 {
     Found found;
-    doWhileShowing(Texts::tr("The node database is damaged. Looking for what can be read and for backups..."),
+    doWhileShowing(Texts::tr("Node Database"),
+                   Texts::tr("The node database is damaged. Looking for what can be read and for backups..."),
                    parent, [&] {
                        found.salvage = std::make_unique<Salvage>(file);
                        found.backup = StoreBackup::newestGood(file);

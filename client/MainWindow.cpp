@@ -307,6 +307,15 @@ void MainWindow::exec(QDialog& dialog)
     m_environment->exec(dialog);
 }
 
+void MainWindow::openInstead(const QString& database)
+{
+    m_next = database;
+    if (close())
+        emit closedForNext();
+    else
+        m_next.clear();
+}
+
 void MainWindow::importCameras()
 {
     m_store->setQuiet(true); // the report of the import tells when storing fails

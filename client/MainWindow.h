@@ -61,13 +61,20 @@ public:
     /// Takes into the list at once what would come with the next frame.
     void applyChanges();
 
+    /// Closes the window, if nothing keeps it open, so that the program opens another database: a file, or one
+    /// that is shared, by its address.
+    void openInstead(const QString& database);
+
+    /// What is to be opened when the window has closed; empty when the program is to end.
+    QString next() const { return m_next; }
+
     void importCameras();
     void exportCameras();
     void exportSelected();
 
 signals:
-    /// The user wants to work on another database, which is shared.
-    void siteChosen(const QString& address);
+    /// Another database is to be opened, whatever other windows there are; see next().
+    void closedForNext();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -106,6 +113,7 @@ private:
     UndoCommands* const m_undoing;
     UndoNotice* const m_undoNotice;
     PlaceDock* const m_places;
+    QString m_next;
     QSet<QString> m_changed; ///< taken into the list together
     QSet<QString> m_removed;
     OncePerFrame m_frame;

@@ -55,7 +55,7 @@ void connectToSite(MainWindow& window)
 {
     ConnectDialog dialog(&window);
     if (dialog.exec() == QDialog::Accepted)
-        emit window.siteChosen(dialog.address());
+        window.openInstead(dialog.address());
 }
 
 void editPreferences(MainWindow& window)
