@@ -230,6 +230,26 @@
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n device: location and tags set.</numerusform>
+            <numerusform>%n devices: location and tags set.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Where is the selected device? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</numerusform>
+            <numerusform>Where are the %n selected devices? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>RemoveNodesBox</name>
     <message numerus="yes">
         <source>Remove these %n nodes? Edit &gt; Undo brings them back.</source>

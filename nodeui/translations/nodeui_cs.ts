@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Ukládá se uživatelské jméno a heslo...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Přesto pokračovat?</translation>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Před volbou této možnosti určete výchozí cestu souborového serveru.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Ukládá se, kde jsou záznamy...</translation>
     </message>
 </context>
 <context>

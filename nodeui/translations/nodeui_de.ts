@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Benutzername und Passwort werden gespeichert...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Trotzdem fortfahren?</translation>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Bitte legen Sie den Standardpfad auf dem Dateiserver fest, bevor Sie diese Option wählen.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Es wird gespeichert, wo die Aufzeichnungen sind...</translation>
     </message>
 </context>
 <context>

@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Guardando nombre de usuario y contraseña...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Esta acción no se puede deshacer.
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Defina la ruta predeterminada del servidor de archivos antes de elegir esta opción.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Guardando dónde están las grabaciones...</translation>
     </message>
 </context>
 <context>

@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Enregistrement du nom d&apos;utilisateur et du mot de passe...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Continuer quand même ?</translation>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Veuillez définir le chemin par défaut du serveur de fichiers avant de choisir cette option.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Enregistrement de l&apos;emplacement des enregistrements...</translation>
     </message>
 </context>
 <context>

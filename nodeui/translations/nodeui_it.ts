@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Salvataggio di nome utente e password...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Continuare comunque?</translation>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Definire il percorso predefinito del file server prima di scegliere questa opzione.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Salvataggio di dove sono le registrazioni...</translation>
     </message>
 </context>
 <context>

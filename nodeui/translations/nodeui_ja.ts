@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>ユーザー名とパスワードを保存しています...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Continue anyway?</source>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>このオプションを設定する前に、既定のファイルサーバーパスを指定してください。</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>録画の場所を保存しています...</translation>
     </message>
 </context>
 <context>

@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Gebruikersnaam en wachtwoord worden opgeslagen...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Toch doorgaan?</translation>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Stel het standaardpad op de bestandsserver in voordat u deze optie kiest.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Opslaan waar de opnamen zijn...</translation>
     </message>
 </context>
 <context>

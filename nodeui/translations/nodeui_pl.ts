@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Zapisywanie nazwy użytkownika i hasła...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Czy mimo to kontynuować?</translation>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Przed wybraniem tej opcji określ domyślną ścieżkę serwera plików.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Zapisywanie, gdzie są nagrania...</translation>
     </message>
 </context>
 <context>

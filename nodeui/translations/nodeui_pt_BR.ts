@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Salvando nome de usuário e senha...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Continuar mesmo assim?</translation>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Defina o caminho padrão do servidor de arquivos antes de escolher esta opção.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Salvando onde estão as gravações...</translation>
     </message>
 </context>
 <context>

@@ -314,6 +314,13 @@
     </message>
 </context>
 <context>
+    <name>LongWork</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
     <name>NetworkProxyDialog</name>
     <message>
         <source>Network Proxy</source>
@@ -388,6 +395,10 @@
     <message>
         <source>    ...&lt;br&gt;</source>
         <translation>    ...&lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>Storing user name and password...</source>
+        <translation>Сохранение имени пользователя и пароля...</translation>
     </message>
 </context>
 <context>
@@ -911,6 +922,10 @@ Continue anyway?</source>
     <message>
         <source>Please define the default file server path before setting this option.</source>
         <translation>Задайте путь к файловому серверу по умолчанию, прежде чем выбирать этот вариант.</translation>
+    </message>
+    <message>
+        <source>Storing where the recordings are...</source>
+        <translation>Сохранение места записей...</translation>
     </message>
 </context>
 <context>
