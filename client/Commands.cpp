@@ -213,6 +213,9 @@ const Commands::Command Commands::all[] = {
      QT_TRANSLATE_NOOP("MainWindow", "Everything that is stored"), "", "", Nothing, InMenu,
      &WindowCommands::showDatabase},
 
+    {QT_TRANSLATE_NOOP("MainWindow", "&Help"), "actionManual", QT_TRANSLATE_NOOP("MainWindow", "&Manual"),
+     QT_TRANSLATE_NOOP("MainWindow", "Explains what the window in front is for"), "F1", "help-contents",
+     Nothing, InMenu, &WindowCommands::showManual},
     {QT_TRANSLATE_NOOP("MainWindow", "&Help"), "actionAbout", QT_TRANSLATE_NOOP("MainWindow", "&About"), "",
      "", "help-about", Nothing, InMenu, &WindowCommands::about},
 };

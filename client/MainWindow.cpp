@@ -8,6 +8,7 @@
 #include "EnvironmentNotice.h"
 #include "FocusMark.h"
 #include "LogNotice.h"
+#include "ManualKey.h"
 #include "MessageHints.h"
 #include "Mnemonics.h"
 #include "NodeCommands.h"
@@ -98,6 +99,7 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     new MessageHints(this);
     new FocusMark(this);
     new Mnemonics(this);
+    new ManualKey(this);
     createList();
     createEmptyState();
     createSearch();

@@ -6,6 +6,7 @@
 #include "ConnectDialog.h"
 #include "HistoryDialog.h"
 #include "MainWindow.h"
+#include "ManualKey.h"
 #include "MomentWindow.h"
 #include "NodeListView.h"
 #include "PreferencesDialog.h"
@@ -145,6 +146,11 @@ void showDatabase(MainWindow& window)
     QObject::connect(viewer, &QObject::destroyed, sorted, &QObject::deleteLater);
     QObject::connect(viewer, &QObject::destroyed, sorted->sourceModel(), &QObject::deleteLater);
     viewer->show();
+}
+
+void showManual(MainWindow& window)
+{
+    window.findChild<ManualKey*>()->open(&window);
 }
 
 void about(MainWindow& window)

@@ -19,6 +19,7 @@ void showHistory(MainWindow& window);
 void showHistoryOfSelected(MainWindow& window);
 void showMoment(MainWindow& window);
 void showDatabase(MainWindow& window);
+void showManual(MainWindow& window);
 void about(MainWindow& window);
 
 } // namespace WindowCommands

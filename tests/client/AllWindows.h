@@ -10,6 +10,7 @@
 #include "HistoryLimitDialog.h"
 #include "ImportReportDialog.h"
 #include "MainWindow.h"
+#include "ManualWindow.h"
 #include "MomentWindow.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
@@ -191,6 +192,8 @@ private:
         show(&many, QStringLiteral("recordings of many"), look);
         ko::RecordingTransponderCustomSettingsDialog preview(m_camera, &window);
         show(&preview, QStringLiteral("remote preview"), look);
+        ko::ManualWindow manual;
+        show(&manual, QStringLiteral("manual"), look);
     }
 
     /// What is said of a camera that a check has found to want the user's decision.
