@@ -1,5 +1,6 @@
 #include "KeychainNotice.h"
 #include "MainWindow.h"
+#include "Pictures.h"
 #include "Robot.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
@@ -10,6 +11,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFont>
 
 #include <cstdio>
 
@@ -27,6 +29,9 @@ void addOptions(QCommandLineParser& parser)
         {QStringLiteral("survey"), QStringLiteral("The list of cameras to import."), QStringLiteral("FILE")},
         {QStringLiteral("scans"), QStringLiteral("Finds so many cameras by scans, and does nothing else."),
          QStringLiteral("NUMBER")},
+        {QStringLiteral("pictures"),
+         QStringLiteral("Makes the pictures of the manual, of a new database, and does nothing else.")},
+        {QStringLiteral("dark"), QStringLiteral("With --pictures: of a dark program.")},
         {QStringLiteral("check"), QStringLiteral("Looks whether what the walk did is in the database.")},
     });
     parser.addPositionalArgument(QStringLiteral("FOLDER"),
@@ -42,6 +47,10 @@ bool walk(const QCommandLineParser& options, ko::HostNodeDB& db)
     ko::Scanners::of(db).add(std::make_unique<ko::ArpScanner>());
     ko::MainWindow window(db);
     window.show();
+    if (options.isSet(QStringLiteral("pictures")))
+        return ko::Pictures(db, window, options.positionalArguments().value(0),
+                            QLatin1String(options.isSet(QStringLiteral("dark")) ? "-dark" : ""))
+            .make(options.value(QStringLiteral("survey")));
     ko::Robot robot(db, window, options.positionalArguments().value(0));
     const int cameras = options.value(QStringLiteral("scans")).toInt();
     return cameras > 0 ? robot.runScans(cameras) : robot.run(options.value(QStringLiteral("survey")));
@@ -57,6 +66,13 @@ int main(int argc, char** argv)
     options.process(application);
     if (options.positionalArguments().isEmpty() && !options.isSet(QStringLiteral("check")))
         options.showHelp(NotSo);
+    if (options.isSet(QStringLiteral("pictures"))) {
+        // The same wherever they are made.
+        QApplication::setStyle(QStringLiteral("fusion"));
+        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+        if (options.isSet(QStringLiteral("dark")))
+            ko::Pictures::beDark();
+    }
     ko::KeychainNotice notice(ko::KeychainNotice::Way::Line);
     if (!notice.prepare())
         return NotSo;
