@@ -11,6 +11,7 @@
 #include "SiteOpening.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
+#include "drivers/NodeTypePlugin.h"
 #include "exchange/CameraSurvey.h"
 #include "exchange/ExportFile.h"
 #include "exchange/FileName.h"
@@ -157,6 +158,7 @@ bool Application::needsWindow() const
 
 int Application::runTask()
 {
+    loadNodeTypes();
     if (m_options->isSet("share"))
         return ShareCommand(m_options->value("share"), m_options->site()).run();
     if (m_database.isEmpty())
@@ -248,6 +250,19 @@ int Application::runOnFile()
     return qMax(looked, imported == Failed || !exports ? imported : qMax(imported, exportCameras()));
 }
 
+/// From where they are installed with the program, or from the folder that the developer of one names.
+void Application::loadNodeTypes()
+{
+    QString folder = qEnvironmentVariable("KONODEUI_NODE_TYPES");
+    if (folder.isEmpty())
+        folder = QCoreApplication::applicationDirPath() + QStringLiteral("/" KO_NODE_TYPES);
+    m_notLoaded = NodeTypePlugins::load(folder);
+    if (needsWindow())
+        return; // the log of the program has them
+    for (const QString& problem : std::as_const(m_notLoaded))
+        say(stderr, problem);
+}
+
 /// Null after the user was told why. The user of a window may choose another file.
 std::unique_ptr<HostNodeDB> Application::open(bool checkBehind)
 {
@@ -281,7 +296,7 @@ int Application::runWindow()
         if (!db)
             return NoDatabase;
         int exitCode = Good;
-        if (ClientWindow::run(*db, m_site, &exitCode, &m_next))
+        if (ClientWindow::run(*db, m_site, m_notLoaded, &exitCode, &m_next))
             return exitCode;
     }
     return NoDatabase;

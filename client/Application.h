@@ -39,6 +39,7 @@ private:
     int importCameras() const;
     int report(const CameraSurvey::ImportResult& result) const;
     int exportCameras() const;
+    void loadNodeTypes();
     int copyDatabase() const;
     int verifyLog() const;
     int thinHistory();
@@ -49,8 +50,9 @@ private:
     QString m_language;
     QString m_database;
     ClientWindow::Next m_next;
-    QString m_site;        ///< of which the database is a copy; empty if of none
-    int m_exitCode = Good; ///< when parse() ends the program
+    QString m_site;          ///< of which the database is a copy; empty if of none
+    QStringList m_notLoaded; ///< node types of others, and why
+    int m_exitCode = Good;   ///< when parse() ends the program
 };
 
 } // namespace ko

@@ -13,6 +13,7 @@
 #include "discovery/MdnsScanner.h"
 #include "discovery/Scanners.h"
 #include "discovery/WsDiscoveryScanner.h"
+#include "ko/LogQt.h"
 #include "store/BackupKeeper.h"
 #include "store/HistoryKeeper.h"
 #include "store/StoreFile.h"
@@ -55,9 +56,11 @@ void logThinned(HostNodeDB& db, const ThinnedHistory& thinned)
     db.auditLog().log(HistoryLogEntry(QString::number(thinned.last), QString::number(thinned.lines)));
 }
 
-bool run(HostNodeDB& db, const QString& site, int* exitCode, Next* next)
+bool run(HostNodeDB& db, const QString& site, const QStringList& problems, int* exitCode, Next* next)
 {
     const ProgramLog log(db.logStore());
+    for (const QString& problem : problems)
+        LogQt::line(LogQt::Error, problem);
     const BackupKeeper backups(db.fileName());
     const HistoryKeeper history(db.fileName());
     QObject::connect(&history, &HistoryKeeper::thinned, &db,

@@ -1,7 +1,7 @@
 #ifndef KO_CLIENTWINDOW_H
 #define KO_CLIENTWINDOW_H
 
-#include <QString>
+#include <QStringList>
 
 namespace ko {
 
@@ -18,9 +18,9 @@ struct Next
     bool newCopy = false; ///< of the same site
 };
 
-/// Shows it until it is closed. \a db is a copy of \a site if that is not empty. Returns false when the file
-/// must not be used any more.
-bool run(HostNodeDB& db, const QString& site, int* exitCode, Next* next);
+/// Shows it until it is closed. \a db is a copy of \a site if that is not empty. What went wrong at
+/// the start is noted in its log. Returns false when the file must not be used any more.
+bool run(HostNodeDB& db, const QString& site, const QStringList& problems, int* exitCode, Next* next);
 
 /// Notes in the audit log that old details were taken out of the history.
 void logThinned(HostNodeDB& db, const ThinnedHistory& thinned);

@@ -23,6 +23,7 @@ find_program(KO_LRELEASE lrelease PATHS /usr/lib/qt6/bin /usr/lib/qt5/bin NO_DEF
 find_program(KO_LRELEASE NAMES lrelease-qt6 lrelease-qt5 lrelease REQUIRED)
 
 include(GNUInstallDirs)
+set(KO_NODE_TYPES_FOLDER ${CMAKE_INSTALL_LIBDIR}/konodeui/nodetypes) # of plugins; below the prefix
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -161,6 +162,7 @@ function(ko_library name)
     target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES ${headers})
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE} $<BUILD_INTERFACE:ko_flags>)
     ko_precompile(${name})
+    set_property(GLOBAL APPEND PROPERTY KO_PUBLIC_HEADERS ${headers}) # for the reference
     install(TARGETS ${name} EXPORT KoNodeUITargets
             FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/konodeui)
     ko_pkgconfig(${name} ${ARG_LINK})

@@ -5,7 +5,8 @@
 
 namespace example {
 
-const ko::ENodeType DomeType = ko::ENodeType(100);
+/// Stored with its nodes, so it stays the same for good. Those from 1000 on are for types of others.
+const ko::ENodeType DomeType = ko::ENodeType(1000);
 
 /// The editor of a dome camera that is there; its node makes it.
 ko::InspectorWidget* createDomeInspector(const QString& id, bool readOnly, unsigned flags);

@@ -2,7 +2,7 @@
 
 #include "drivers/HostHint.h"
 #include "drivers/NodeInspector.h"
-#include "drivers/NodeTypes.h"
+#include "drivers/OwnNodeType.h"
 
 namespace ko {
 
@@ -24,9 +24,14 @@ kom::smart<NodeHint> NodeDriver::createNodeHint(ENodeType type)
 {
     if (!NodeTypes::canBeAdded(type))
         return kom::smart<NodeHint>();
-    if (NodeTypes::isDevice(type))
-        return kom::makeSmart<DeviceHint>(type);
-    return kom::makeSmart<PlainHint>(type);
+    const kom::smart<NodeHint> hint = NodeTypes::isDevice(type)
+                                          ? kom::smart<NodeHint>(kom::makeSmart<DeviceHint>(type))
+                                          : kom::smart<NodeHint>(kom::makeSmart<PlainHint>(type));
+    if (const OwnNodeType* own = NodeTypes::ownType(type)) {
+        for (const NodeProperty& property : own->properties) // its pages show what a hint has
+            hint->addProperty(*PropertyList::toProperty(property.key, property.value));
+    }
+    return hint;
 }
 
 } // namespace ko

@@ -1,7 +1,7 @@
 #include "drivers/NodeInspector.h"
 
 #include "dialogs/NodeDialog.h"
-#include "drivers/NodeTypes.h"
+#include "drivers/OwnNodeType.h"
 #include "drivers/PageStack.h"
 #include "inspector/IPDeviceInspectorWidget.h"
 #include "inspector/LayoutListPage.h"
@@ -104,6 +104,9 @@ InspectorWidget* create(ENodeType type, Args&&... args)
 
 InspectorWidget* createNodeInspector(const NodeID& id, ENodeType type, bool readOnly, unsigned flags)
 {
+    const OwnNodeType* own = NodeTypes::ownType(type);
+    if (own && own->createEditor)
+        return own->createEditor(id, readOnly, flags);
     QVector<PageSpec> pages;
     const QVector<PageSpec> all = pagesOf(type);
     for (const PageSpec& page : all) {
@@ -116,6 +119,9 @@ InspectorWidget* createNodeInspector(const NodeID& id, ENodeType type, bool read
 
 InspectorWidget* createHintInspector(NodeHint& hint, unsigned flags)
 {
+    const OwnNodeType* own = NodeTypes::ownType(hint.type);
+    if (own && own->createHintEditor)
+        return own->createHintEditor(hint, flags);
     QVector<PageSpec> pages;
     const QVector<PageSpec> all = pagesOf(hint.type);
     for (const PageSpec& page : all) {

@@ -2,6 +2,7 @@
 
 #include "drivers/DeviceNode.h"
 #include "drivers/NodeDriver.h"
+#include "drivers/OwnNodeType.h"
 #include "drivers/ProxyProperties.h"
 #include "ko/NodeHintIPDevice.h"
 #include "ko/PropertyKeys.h"
@@ -134,8 +135,7 @@ QLatin1String locationKey(ENodeType type)
 {
     if (type == RecordingTransponderType)
         return PropertyKeys::RecordingTransponderIP;
-    const TypeInfo* info = find(type);
-    return info && info->isDevice ? PropertyKeys::Address : PropertyKeys::Path;
+    return NodeTypes::isDevice(type) ? PropertyKeys::Address : PropertyKeys::Path;
 }
 
 void describeDevice(NodeData& data, const NodeHintIPDevice& hint)
@@ -217,11 +217,13 @@ QList<ENodeType> all()
     QList<ENodeType> all;
     for (const TypeInfo& info : types)
         all.append(info.type);
-    return all;
+    return all + ownTypes();
 }
 
 QString readableName(ENodeType type)
 {
+    if (const OwnNodeType* own = ownType(type))
+        return own->name();
     const TypeInfo* info = find(type);
     return info ? QCoreApplication::translate("NodeTypes", info->name)
                 : QCoreApplication::translate("NodeTypes", "Node of type %1").arg(int(type));
@@ -249,6 +251,11 @@ QIcon icon(ENodeType type)
     // Shared by all nodes: an icon keeps the pixmaps that it has rendered.
     static QHash<int, QIcon> icons;
     QIcon& icon = icons[type];
+    const OwnNodeType* own = ownType(type);
+    if (icon.isNull() && own && !own->icon.isEmpty()) {
+        icon = QIcon(own->icon);
+        icon.addPixmap(onSelection(QImage(own->icon)), QIcon::Selected);
+    }
     if (icon.isNull()) {
         const TypeInfo* info = find(type);
         const QString name = QLatin1String(":/host/") + QLatin1String(info ? info->icon : "node");
@@ -262,17 +269,21 @@ QIcon icon(ENodeType type)
 bool canBeAdded(ENodeType type)
 {
     const TypeInfo* info = find(type);
-    return info && info->canBeAdded;
+    return info ? info->canBeAdded : ownType(type) != nullptr;
 }
 
 bool isDevice(ENodeType type)
 {
+    if (const OwnNodeType* own = ownType(type))
+        return own->isDevice;
     const TypeInfo* info = find(type);
     return info && info->isDevice;
 }
 
 QVector<NodeProperty> properties(ENodeType type)
 {
+    if (const OwnNodeType* own = ownType(type))
+        return own->properties;
     const TypeInfo* info = find(type);
     return info ? info->properties() : noProperties();
 }
@@ -287,7 +298,7 @@ void declareForDevices(const NodeProperty& property)
 kom::smart<INodeDriverComponent> driver(ENodeType type)
 {
     static const kom::smart<INodeDriverComponent> driver = kom::makeSmart<NodeDriver>();
-    return find(type) ? driver : kom::smart<INodeDriverComponent>();
+    return find(type) || ownType(type) ? driver : kom::smart<INodeDriverComponent>();
 }
 
 std::unique_ptr<Node> createNode(const NodeData& data, const std::shared_ptr<Vault>& vault)

@@ -32,6 +32,17 @@ foreach(source ${WORK}/headers ${SOURCE}/examples/host ${SOURCE}/examples/embed)
         -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DCMAKE_BUILD_TYPE=Debug)
     run(${CMAKE_COMMAND} --build ${WORK}/build/${name})
 endforeach()
+run(${CMAKE_COMMAND} --install ${WORK}/build/host --prefix ${WORK}/installed)
 run(${WORK}/build/host/example-host --self-check)
 run(${WORK}/build/host/example-host-contract)
 run(${WORK}/build/embed/example-embed ${WORK}/cameras.kodb --self-check)
+
+# The plugin of the driver lies where the client looks; a file that is none shows that it does look there.
+file(GLOB_RECURSE plugin ${WORK}/installed/*/konodeui/nodetypes/*dome*)
+get_filename_component(folder "${plugin}" DIRECTORY)
+file(WRITE ${folder}/broken.so "no library")
+execute_process(COMMAND ${WORK}/installed/bin/koclient --db ${WORK}/cameras.kodb --export /dev/stdout --without-passwords
+                RESULT_VARIABLE result ERROR_VARIABLE said OUTPUT_QUIET)
+if(NOT result EQUAL 0 OR NOT said MATCHES "broken.so" OR said MATCHES "dome")
+    message(FATAL_ERROR "the client ended with ${result} and said: ${said}")
+endif()
