@@ -28,8 +28,8 @@ public:
     SiteConnection();
     ~SiteConnection();
 
-    /// \a address is a URL, postgresql://user@host/site, or a list of libpq's keywords. Listens for changes,
-    /// too.
+    /// \a address is a URL, `postgresql://user@host/site`, or a list of libpq's keywords. Listens for
+    /// changes, too.
     SharingFailure open(const QString& address, int timeout = ConnectTimeout);
     void close();
 
