@@ -19,6 +19,12 @@ ProxyFields fieldsOf(const Ui::CustomNetworkProxyWidget& ui)
     return fields;
 }
 
+/// Of the field that lies apart from its label: only of a neighbor a screen reader takes the name.
+void nameFields(const Ui::CustomNetworkProxyWidget& ui)
+{
+    ui.proxyPortSpinBox->setAccessibleName(ui.label_7->text().remove(QLatin1Char('&')));
+}
+
 } // namespace
 
 CustomNetworkProxyWidget::CustomNetworkProxyWidget(QWidget* parent)
@@ -26,7 +32,11 @@ CustomNetworkProxyWidget::CustomNetworkProxyWidget(QWidget* parent)
     , m_ui(new Ui::CustomNetworkProxyWidget)
 {
     m_ui->setupUi(this);
-    onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
+    nameFields(*m_ui);
+    onLanguageChange(this, [this] {
+        retranslateForm(*m_ui, this);
+        nameFields(*m_ui);
+    });
     ko::connect(m_ui->customProxyCheckBox, SIGNAL(stateChanged(int)), this, SLOT(checkBoxStateChanged(int)));
 }
 
