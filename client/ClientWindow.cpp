@@ -14,6 +14,7 @@
 #include "discovery/Scanners.h"
 #include "discovery/WsDiscoveryScanner.h"
 #include "ko/LogQt.h"
+#include "sharing/SiteAddress.h"
 #include "store/BackupKeeper.h"
 #include "store/HistoryKeeper.h"
 #include "store/StoreFile.h"
@@ -73,6 +74,7 @@ bool run(HostNodeDB& db, const QString& site, const QStringList& problems, int* 
     Scanners::of(db).add(std::make_unique<WsDiscoveryScanner>());
     MainWindow window(db);
     if (sharing) {
+        window.setDatabaseName(SiteAddress::shown(site));
         window.statusBar()->addPermanentWidget(new SharingStatus(db, *sharing, &window));
         QObject::connect(sharing.get(), &SiteSharing::newCopyWanted, &window, [next] {
             next->newCopy = true;

@@ -133,7 +133,8 @@ void ConnectDialog::retranslate()
 
 void ConnectDialog::fillIn(const QString& address)
 {
-    const SiteAddress::Parts parts = SiteAddress::parse(KnownSites::withKeptPassword(address));
+    m_given = KnownSites::withKeptPassword(address);
+    const SiteAddress::Parts parts = SiteAddress::parse(m_given);
     m_host->setText(parts.host);
     m_port->setText(parts.port);
     m_database->setText(parts.database);
@@ -158,7 +159,11 @@ QString ConnectDialog::address() const
     parts.user = m_user->text().trimmed();
     parts.password = m_password->text();
     parts.tls = m_tls->currentIndex() == 0 ? QString() : m_tls->currentData().toString();
-    return SiteAddress::compose(parts);
+    SiteAddress::Parts given = SiteAddress::parse(m_given);
+    if (given.tls == QLatin1String(tlsModes[0].mode))
+        given.tls.clear();
+    const QString composed = SiteAddress::compose(parts);
+    return !m_given.isEmpty() && composed == SiteAddress::compose(given) ? m_given : composed;
 }
 
 void ConnectDialog::accept()

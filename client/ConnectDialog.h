@@ -57,6 +57,7 @@ private:
     QDialogButtonBox* const m_buttons;
     QPushButton* m_test = nullptr;
     QFormLayout* const m_form;
+    QString m_given;                    ///< what the fields were filled from, which may say more than they
     std::unique_ptr<SiteProbe> m_probe; ///< under way
     bool m_accepts = false;             ///< when it ends well
 };

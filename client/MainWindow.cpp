@@ -129,7 +129,8 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::retranslate()
 {
-    setWindowTitle(tr("%1 - Nodes").arg(inWindowTitle(QFileInfo(m_db.fileName()).fileName())));
+    const QString name = m_name.isEmpty() ? QFileInfo(m_db.fileName()).fileName() : m_name;
+    setWindowTitle(tr("%1 - Nodes").arg(inWindowTitle(name)));
     m_search->setPlaceholderText(tr("Search (Ctrl+F)"));
     m_search->setToolTip(
         tr("Words in any column; \"type:camera\" looks in one, \"state:wrong|locked\" for either, "
@@ -283,6 +284,12 @@ void MainWindow::updateStatus()
                                locale.toString(m_model->nodeCount() - m_model->deviceCount()),
                                locale.toString(m_model->rowCount()), locale.toString(selected)));
     m_empty->setCounts(m_model->nodeCount(), m_model->rowCount());
+}
+
+void MainWindow::setDatabaseName(const QString& name)
+{
+    m_name = name;
+    retranslate();
 }
 
 void MainWindow::find(const QString& search)

@@ -46,6 +46,9 @@ public:
     CameraChecking& checking() const { return *m_checking; }
     UndoCommands& undoing() const { return *m_undoing; }
 
+    /// What the title says instead of the name of the file.
+    void setDatabaseName(const QString& name);
+
     /// Shows the nodes of all types that a search finds.
     void find(const QString& search);
 
@@ -114,6 +117,7 @@ private:
     UndoNotice* const m_undoNotice;
     PlaceDock* const m_places;
     QString m_next;
+    QString m_name;          ///< empty: that of the file
     QSet<QString> m_changed; ///< taken into the list together
     QSet<QString> m_removed;
     OncePerFrame m_frame;

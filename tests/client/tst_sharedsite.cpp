@@ -501,6 +501,14 @@ void tst_SharedSite::connectDialogTriesAnAddress()
     again.accept();
     KO_TRY_COMPARE(again.result(), int(QDialog::Accepted));
     QCOMPARE(SiteAddress::parse(ConnectDialog(nullptr).address()).password, QString());
+
+    // What has no field is kept, as long as nothing else is entered.
+    const QString service = QStringLiteral("postgresql://?service=control_room");
+    KnownSites::remember({service, QString(), true});
+    ConnectDialog third(nullptr);
+    QCOMPARE(third.address(), service);
+    QTest::keyClicks(child<QLineEdit>(&third, "databaseLineEdit"), QStringLiteral("x"));
+    QVERIFY(!third.address().contains(QLatin1String("service")));
 }
 
 void tst_SharedSite::historyIsKeptWhole()
