@@ -87,7 +87,7 @@ void tst_LargeSite::aDay()
         QCOMPARE(m_desk->shown().size(), 11);
         Desk::key(Qt::Key_Escape);
     }
-    m_desk->find("type:\"ip device\"");
+    m_desk->find("type:\"ip camera\"");
     Desk::key(Qt::Key_Down);
     Desk::key(Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(m_desk->list->selectedCount(), cameras);
