@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="cs" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Přidat a &amp;další</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
     <message>
         <source>Text</source>
         <translation>Text</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (nic se nezměnilo)</translation>
     </message>
 </context>
 <context>
@@ -598,6 +609,49 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Obnovit zálohu</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Vše v této databázi se nahradí obsahem „%1“, pro všechny, kdo ji používají. Současný obsah se nejdříve uchová jako záloha.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Obnovit</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Nová databáze uzlů</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>„%1“ už existuje. Otevřete ji, nebo zvolte jiný název.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Zálohovat</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Databáze se kopíruje...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>Databáze byla zkopírována do „%1“.</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>Záloha se obnovuje...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>Databáze má nyní obsah „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -829,6 +883,44 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
     <message>
         <source>Add a Camera...</source>
         <translation>Přidat kameru...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>Nebyl zadán název ani adresa.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>Nebyl zadán název.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>„%1“ už má tuto adresu, port a kanál.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>Má se to tak uložit?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>&amp;Uložit tak</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Pokračovat v úpravách</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Prostředí: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>Síťové prostředí celého programu</translation>
     </message>
 </context>
 <context>
@@ -1677,6 +1769,112 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>Opens a database that is shared with other desks</source>
         <translation>Otevře databázi sdílenou s jinými stanicemi</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Nová...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Vytvoří prázdnou databázi uzlů a otevře ji</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Otevřít...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Otevře jinou databázi uzlů</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>&amp;Zálohovat...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Zkopíruje databázi uzlů do souboru</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>O&amp;bnovit...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Dá databázi uzlů obsah zálohy</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>Umís&amp;tění a štítky...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Kde jsou vybraná zařízení a podle čeho se seskupují</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Příručka</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Vysvětlí, k čemu je okno v popředí</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>Přidáno: „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - Databáze uzlů</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Příručka</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Hledat v příručce (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hledat</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Stránky</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Stránka příručky</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zpět</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Vpřed</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Žádná stránka nemá všechna tato slova.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>Příručka je v angličtině. Názvy nabídek a tlačítek jsou názvy anglického programu.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>Nastavuje se v „Soubor &gt; Předvolby“ hlavního okna.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>Je to, co „Vlastnosti“ ukazují jako tovární IP adresu kamery. „Uzel &gt; Doplnit“ hlavního okna se na ni kamery zeptá.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1841,6 +2039,13 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Umístění</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1889,6 +2094,14 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Channel</source>
         <translation>Kanál</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Umístění</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Štítky</translation>
     </message>
 </context>
 <context>
@@ -1944,6 +2157,86 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Umístění a štítky</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Ukládají se umístění a štítky...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n zařízení: umístění a štítky nastaveny.</numerusform>
+            <numerusform>%n zařízení: umístění a štítky nastaveny.</numerusform>
+            <numerusform>%n zařízení: umístění a štítky nastaveny.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Umístění a štítky</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Kde je vybrané zařízení? Napište to zvenčí dovnitř, oddělené lomítkem: Areál/Budova/Patro. Štítky se oddělují čárkami.</numerusform>
+            <numerusform>Kde jsou %n vybraná zařízení? Napište to zvenčí dovnitř, oddělené lomítkem: Areál/Budova/Patro. Štítky se oddělují čárkami.</numerusform>
+            <numerusform>Kde je %n vybraných zařízení? Napište to zvenčí dovnitř, oddělené lomítkem: Areál/Budova/Patro. Štítky se oddělují čárkami.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Umístění:</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>Ští&amp;tky:</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(různé, zůstanou jak jsou)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Umístění</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>&amp;Umístění</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Ukáže areály, budovy a patra vedle seznamu</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Umístění</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Všechny uzly</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Zařízení bez umístění</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1984,6 +2277,17 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Default File Server Path</source>
         <translation>Výchozí cesta souborového serveru</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Areál/budova/patro:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Štítky, oddělené čárkami:</translation>
     </message>
 </context>
 <context>
@@ -2061,6 +2365,17 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Read-Only</source>
         <translation>Jen pro čtení</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Otevřít ne&amp;dávné</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Zatím nebyla otevřena jiná databáze</translation>
     </message>
 </context>
 <context>

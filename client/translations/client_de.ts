@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Hinzufügen und &amp;nächster</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
     <message>
         <source>Text</source>
         <translation>Text</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (nichts wurde geändert)</translation>
     </message>
 </context>
 <context>
@@ -593,6 +604,49 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Sicherung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Alles in dieser Datenbank wird durch den Inhalt von „%1“ ersetzt, für alle, die sie benutzen. Was jetzt darin ist, wird vorher als Sicherung aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Neue Knotendatenbank</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>„%1“ gibt es schon. Öffnen Sie sie stattdessen, oder wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Die Datenbank wird kopiert...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>Die Datenbank wurde nach „%1“ kopiert.</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>Die Sicherung wird wiederhergestellt...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>Die Datenbank hat jetzt den Inhalt von „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -817,6 +871,44 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
     <message>
         <source>Add a Camera...</source>
         <translation>Kamera hinzufügen...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>Es wurde weder ein Name noch eine Adresse eingegeben.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>Es wurde kein Name eingegeben.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>„%1“ hat diese Adresse, diesen Port und diesen Kanal bereits.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>Soll es so gespeichert werden?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>So &amp;speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>Weiter &amp;bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Umgebung: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>Die Netzwerkumgebung des ganzen Programms</translation>
     </message>
 </context>
 <context>
@@ -1653,6 +1745,112 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>Opens a database that is shared with other desks</source>
         <translation>Öffnet eine Datenbank, die mit anderen Arbeitsplätzen geteilt wird</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>Ne&amp;u...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Legt eine leere Knotendatenbank an und öffnet sie</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Öffnen...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Öffnet eine andere Knotendatenbank</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>&amp;Sichern...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Kopiert die Knotendatenbank in eine Datei</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>Wieder&amp;herstellen...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Gibt der Knotendatenbank den Inhalt einer Sicherung</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>Standor&amp;t und Tags...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Wo die ausgewählten Geräte sind, und wie sie gruppiert werden</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Handbuch</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Erklärt, wozu das Fenster im Vordergrund dient</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>„%1“ wurde hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - Knotendatenbank</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Handbuch</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Im Handbuch suchen (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Vorwärts</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Keine Seite enthält alle diese Wörter.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>Das Handbuch ist auf Englisch. Menüs und Schaltflächen heißen darin wie im englischen Programm.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>Er wird im Hauptfenster unter „Datei &gt; Einstellungen“ festgelegt.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>Gemeint ist, was die „Eigenschaften“ als Werks-IP-Adresse der Kamera zeigen. „Knoten &gt; Ausfüllen“ im Hauptfenster fragt die Kamera danach.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1815,6 +2013,13 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Standort</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1863,6 +2068,14 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Channel</source>
         <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tags</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2130,84 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Standort und Tags</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Standorte und Tags werden gespeichert...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n Gerät: Standort und Tags gesetzt.</numerusform>
+            <numerusform>%n Geräte: Standort und Tags gesetzt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Standort und Tags</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Wo ist das ausgewählte Gerät? Schreiben Sie es von außen nach innen, mit einem Schrägstrich dazwischen: Standort/Gebäude/Etage. Tags werden durch Kommas getrennt.</numerusform>
+            <numerusform>Wo sind die %n ausgewählten Geräte? Schreiben Sie es von außen nach innen, mit einem Schrägstrich dazwischen: Standort/Gebäude/Etage. Tags werden durch Kommas getrennt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Standort:</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>&amp;Tags:</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(verschieden, bleiben wie sie sind)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Standorte</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>Stand&amp;orte</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Zeigt Standorte, Gebäude und Etagen neben der Liste</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Standorte</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Alle Knoten</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Geräte ohne Standort</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1957,6 +2248,17 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Default File Server Path</source>
         <translation>Standardpfad auf dem Dateiserver</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Standort/Gebäude/Etage:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Tags, durch Kommas getrennt:</translation>
     </message>
 </context>
 <context>
@@ -2034,6 +2336,17 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Read-Only</source>
         <translation>Nur lesen</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Es wurde noch keine andere Datenbank geöffnet</translation>
     </message>
 </context>
 <context>

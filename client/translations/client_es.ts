@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Añadir y &amp;siguiente</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
     <message>
         <source>Text</source>
         <translation>Texto</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (no se cambió nada)</translation>
     </message>
 </context>
 <context>
@@ -593,6 +604,49 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Restaurar una copia de seguridad</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Todo lo que hay en esta base de datos se sustituye por el contenido de «%1», para todos los que la usan. Lo que hay ahora se guarda antes como copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Nueva base de datos de nodos</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>«%1» ya existe. Ábrala en su lugar o elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Copia de seguridad</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Copiando la base de datos...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>La base de datos se copió en «%1».</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>Restaurando la copia de seguridad...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>La base de datos tiene ahora el contenido de «%1».</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -817,6 +871,44 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
     <message>
         <source>Add a Camera...</source>
         <translation>Añadir una cámara...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>No se introdujo ni nombre ni dirección.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>No se introdujo ningún nombre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>«%1» ya tiene esta dirección, este puerto y este canal.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>¿Guardarlo así?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>&amp;Guardar así</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Seguir editando</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Entorno: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>El entorno de red de todo el programa</translation>
     </message>
 </context>
 <context>
@@ -1653,6 +1745,112 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>Opens a database that is shared with other desks</source>
         <translation>Abre una base de datos compartida con otros puestos</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Nueva...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Crea una base de datos de nodos vacía y la abre</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Abrir...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Abre otra base de datos de nodos</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>&amp;Copia de seguridad...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Copia la base de datos de nodos en un archivo</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>Res&amp;taurar...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Da a la base de datos de nodos el contenido de una copia de seguridad</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>Ubicació&amp;n y etiquetas...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Dónde están los dispositivos seleccionados y cómo se agrupan</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Explica para qué sirve la ventana activa</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>Se añadió «%1».</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - Base de datos de nodos</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Buscar en el manual (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Página del manual</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Atrás</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>A&amp;delante</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Ninguna página contiene todas estas palabras.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>El manual está en inglés. Los menús y botones llevan en él los nombres del programa en inglés.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>Se define en «Archivo &gt; Preferencias» de la ventana principal.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>Es lo que «Propiedades» muestra como dirección IP de fábrica de la cámara. «Nodo &gt; Rellenar» de la ventana principal se la pregunta a la cámara.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1815,6 +2013,13 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Ubicación</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1863,6 +2068,14 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Channel</source>
         <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Ubicación</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etiquetas</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2130,84 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Ubicación y etiquetas</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Guardando ubicaciones y etiquetas...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n dispositivo: ubicación y etiquetas definidas.</numerusform>
+            <numerusform>%n dispositivos: ubicación y etiquetas definidas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Ubicación y etiquetas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>¿Dónde está el dispositivo seleccionado? Escríbalo de fuera hacia dentro, con una barra en medio: Sitio/Edificio/Planta. Las etiquetas se separan con comas.</numerusform>
+            <numerusform>¿Dónde están los %n dispositivos seleccionados? Escríbalo de fuera hacia dentro, con una barra en medio: Sitio/Edificio/Planta. Las etiquetas se separan con comas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Ubicación:</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>&amp;Etiquetas:</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(diferentes, se dejan como están)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Ubicaciones</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>&amp;Ubicaciones</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Muestra los sitios, edificios y plantas junto a la lista</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Ubicaciones</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Todos los nodos</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Dispositivos sin ubicación</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1957,6 +2248,17 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Default File Server Path</source>
         <translation>Ruta predeterminada del servidor de archivos</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Sitio/edificio/planta:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Etiquetas, separadas por comas:</translation>
     </message>
 </context>
 <context>
@@ -2034,6 +2336,17 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Read-Only</source>
         <translation>Solo lectura</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Abrir &amp;reciente</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Todavía no se ha abierto otra base de datos</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Ajouter et &amp;suivant</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
     <message>
         <source>Text</source>
         <translation>Texte</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (rien n&apos;a été modifié)</translation>
     </message>
 </context>
 <context>
@@ -593,6 +604,49 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Restaurer une sauvegarde</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Tout le contenu de cette base de données est remplacé par celui de « %1 », pour tous ceux qui l&apos;utilisent. Le contenu actuel est d&apos;abord conservé comme sauvegarde.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurer</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Nouvelle base de données des nœuds</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>« %1 » existe déjà. Ouvrez-la plutôt, ou choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Sauvegarder</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Copie de la base de données...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>La base de données a été copiée dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>Restauration de la sauvegarde...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>La base de données a maintenant le contenu de « %1 ».</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -817,6 +871,44 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
     <message>
         <source>Add a Camera...</source>
         <translation>Ajouter une caméra...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>Ni nom ni adresse n&apos;ont été saisis.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>Aucun nom n&apos;a été saisi.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>« %1 » a déjà cette adresse, ce port et ce canal.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>Faut-il enregistrer ainsi ?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>&amp;Enregistrer ainsi</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Continuer la modification</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Environnement : %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>L&apos;environnement réseau de tout le programme</translation>
     </message>
 </context>
 <context>
@@ -1653,6 +1745,112 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>Opens a database that is shared with other desks</source>
         <translation>Ouvre une base de données partagée avec d&apos;autres postes</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Nouveau...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Crée une base de données des nœuds vide et l&apos;ouvre</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Ouvre une autre base de données des nœuds</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>Sau&amp;vegarder...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Copie la base de données des nœuds dans un fichier</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>Res&amp;taurer...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Donne à la base de données des nœuds le contenu d&apos;une sauvegarde</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>Emplacem&amp;ent et étiquettes...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Où se trouvent les appareils sélectionnés et comment ils sont regroupés</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manuel</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Explique à quoi sert la fenêtre au premier plan</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>« %1 » a été ajouté.</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - Base de données des nœuds</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manuel</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Rechercher dans le manuel (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Page du manuel</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Aucune page ne contient tous ces mots.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>Le manuel est en anglais. Les menus et les boutons y portent les noms du programme en anglais.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>Il se définit dans « Fichier &gt; Préférences » de la fenêtre principale.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>C&apos;est ce que les « Propriétés » montrent comme adresse IP d&apos;usine de la caméra. « Nœud &gt; Remplir » de la fenêtre principale la demande à la caméra.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1815,6 +2013,13 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Emplacement</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1863,6 +2068,14 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Channel</source>
         <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Étiquettes</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2130,84 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Emplacement et étiquettes</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Enregistrement des emplacements et des étiquettes...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n appareil : emplacement et étiquettes définis.</numerusform>
+            <numerusform>%n appareils : emplacement et étiquettes définis.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Emplacement et étiquettes</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Où se trouve l&apos;appareil sélectionné (%n) ? Écrivez-le de l&apos;extérieur vers l&apos;intérieur, séparé par une barre oblique : Site/Bâtiment/Étage. Les étiquettes sont séparées par des virgules.</numerusform>
+            <numerusform>Où se trouvent les %n appareils sélectionnés ? Écrivez-le de l&apos;extérieur vers l&apos;intérieur, séparé par une barre oblique : Site/Bâtiment/Étage. Les étiquettes sont séparées par des virgules.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Emplacement :</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>É&amp;tiquettes :</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(différents, laissés tels quels)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Emplacements</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>Emplacemen&amp;ts</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Montre les sites, bâtiments et étages à côté de la liste</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Emplacements</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Tous les nœuds</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Appareils sans emplacement</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1957,6 +2248,17 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Default File Server Path</source>
         <translation>Chemin par défaut du serveur de fichiers</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Site/bâtiment/étage :</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Étiquettes, séparées par des virgules :</translation>
     </message>
 </context>
 <context>
@@ -2034,6 +2336,17 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Read-Only</source>
         <translation>Lecture seule</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Ouvrir un &amp;récent</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Aucune autre base de données n&apos;a encore été ouverte</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Aggiungi e &amp;successivo</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
     <message>
         <source>Text</source>
         <translation>Testo</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (non è stato modificato nulla)</translation>
     </message>
 </context>
 <context>
@@ -593,6 +604,49 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Ripristina un backup</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Tutto in questo database viene sostituito dal contenuto di &quot;%1&quot;, per tutti quelli che lo usano. Ciò che contiene ora viene prima conservato come backup.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Nuovo database dei nodi</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>&quot;%1&quot; esiste già. Aprirlo, oppure scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Backup</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Copia del database...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>Il database è stato copiato in &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>Ripristino del backup...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>Il database ha ora il contenuto di &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -817,6 +871,44 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
     <message>
         <source>Add a Camera...</source>
         <translation>Aggiungi una telecamera...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>Non è stato inserito né un nome né un indirizzo.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>Non è stato inserito alcun nome.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>&quot;%1&quot; ha già questo indirizzo, questa porta e questo canale.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>Salvare così?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>&amp;Salva così</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Continua a modificare</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Ambiente: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>L&apos;ambiente di rete di tutto il programma</translation>
     </message>
 </context>
 <context>
@@ -1653,6 +1745,112 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>Opens a database that is shared with other desks</source>
         <translation>Apre un database condiviso con altre postazioni</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Nuovo...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Crea un database dei nodi vuoto e lo apre</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Apri...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Apre un altro database dei nodi</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>&amp;Backup...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Copia il database dei nodi in un file</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>Ripris&amp;tina...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Dà al database dei nodi il contenuto di un backup</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>Pos&amp;izione ed etichette...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Dove sono i dispositivi selezionati e come sono raggruppati</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manuale</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Spiega a cosa serve la finestra in primo piano</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>&quot;%1&quot; è stato aggiunto.</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - Database dei nodi</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manuale</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Cerca nel manuale (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Pagina del manuale</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Indietro</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Avanti</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Nessuna pagina contiene tutte queste parole.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>Il manuale è in inglese. I menu e i pulsanti hanno i nomi del programma inglese.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>Si imposta in &quot;File &gt; Preferenze&quot; della finestra principale.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>È ciò che &quot;Proprietà&quot; mostra come indirizzo IP di fabbrica della telecamera. &quot;Nodo &gt; Compila&quot; della finestra principale lo chiede alla telecamera.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1815,6 +2013,13 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Posizione</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1863,6 +2068,14 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Channel</source>
         <translation>Canale</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etichette</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2130,84 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Posizione ed etichette</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Salvataggio di posizioni ed etichette...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n dispositivo: posizione ed etichette impostate.</numerusform>
+            <numerusform>%n dispositivi: posizione ed etichette impostate.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Posizione ed etichette</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Dov&apos;è il dispositivo selezionato? Scriverlo dall&apos;esterno all&apos;interno, separato da una barra: Sito/Edificio/Piano. Le etichette sono separate da virgole.</numerusform>
+            <numerusform>Dove sono i %n dispositivi selezionati? Scriverlo dall&apos;esterno all&apos;interno, separato da una barra: Sito/Edificio/Piano. Le etichette sono separate da virgole.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Posizione:</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>&amp;Etichette:</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(diversi, lasciati come sono)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Posizioni</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>&amp;Posizioni</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Mostra siti, edifici e piani accanto alla lista</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Posizioni</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Tutti i nodi</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Dispositivi senza posizione</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1957,6 +2248,17 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Default File Server Path</source>
         <translation>Percorso predefinito del file server</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Sito/edificio/piano:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Etichette, separate da virgole:</translation>
     </message>
 </context>
 <context>
@@ -2034,6 +2336,17 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Read-Only</source>
         <translation>Sola lettura</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Apri &amp;recente</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Non è ancora stato aperto un altro database</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>追加して次へ(&amp;N)</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>Text</source>
         <translation>内容</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1(変更なし)</translation>
     </message>
 </context>
 <context>
@@ -588,6 +599,49 @@ Without an option that does something and ends, such as --import, it opens a win
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>バックアップの復元</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>このデータベースの内容はすべて、利用者全員について「%1」の内容に置き換えられます。現在の内容は、まずバックアップとして保存されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>復元(&amp;R)</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>新しいノードデータベース</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>「%1」はすでにあります。それを開くか、別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>バックアップ</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>データベースをコピーしています...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>データベースを「%1」にコピーしました。</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>バックアップを復元しています...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>データベースは「%1」の内容になりました。</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -805,6 +859,44 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>Add a Camera...</source>
         <translation>カメラを追加...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>名前もアドレスも入力されていません。</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>名前が入力されていません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>「%1」がすでにこのアドレス、ポート、チャンネルを使っています。</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>このまま保存しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>このまま保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>編集を続ける(&amp;G)</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>環境: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>プログラム全体のネットワーク環境</translation>
     </message>
 </context>
 <context>
@@ -1629,6 +1721,112 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Opens a database that is shared with other desks</source>
         <translation>他の端末と共有されているデータベースを開きます</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>新規(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>空のノードデータベースを作って開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>別のノードデータベースを開きます</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>バックアップ(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>ノードデータベースをファイルにコピーします</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>復元(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>ノードデータベースをバックアップの内容に戻します</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>場所とタグ(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>選択したデバイスの場所と分類</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>マニュアル(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>手前のウィンドウの使い方を説明します</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>「%1」を追加しました。</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - ノードデータベース</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>マニュアル</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>マニュアルを検索 (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>マニュアルのページ</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>戻る(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>進む(&amp;F)</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>これらの語をすべて含むページはありません。</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>マニュアルは英語です。メニューとボタンの名前は英語版のものです。</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>メインウィンドウの「ファイル &gt; 環境設定」で設定します。</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>「プロパティ」でカメラの工場出荷時のIPアドレスとして表示されるものです。メインウィンドウの「ノード &gt; 自動入力」でカメラに問い合わせます。</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1789,6 +1987,13 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>場所</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1837,6 +2042,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Channel</source>
         <translation>チャンネル</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>タグ</translation>
     </message>
 </context>
 <context>
@@ -1890,6 +2103,82 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>場所とタグ</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>場所とタグを保存しています...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n台のデバイス: 場所とタグを設定しました。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>場所とタグ</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>選択した%n台のデバイスはどこにありますか? 外側から内側へ、スラッシュで区切って書きます: サイト/建物/階。タグはコンマで区切ります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>場所(&amp;L):</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>タグ(&amp;T):</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(異なる値、そのまま残します)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>場所(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>サイト、建物、階を一覧の横に表示します</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>すべてのノード</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>場所のないデバイス</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1930,6 +2219,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Default File Server Path</source>
         <translation>既定のファイルサーバーパス</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>サイト/建物/階:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>タグ(コンマ区切り):</translation>
     </message>
 </context>
 <context>
@@ -2007,6 +2307,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Read-Only</source>
         <translation>読み取り専用</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>最近使ったデータベース(&amp;R)</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>ほかのデータベースはまだ開かれていません</translation>
     </message>
 </context>
 <context>

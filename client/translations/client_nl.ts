@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Toevoegen en v&amp;olgende</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
     <message>
         <source>Text</source>
         <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (er is niets gewijzigd)</translation>
     </message>
 </context>
 <context>
@@ -593,6 +604,49 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Reservekopie terugzetten</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Alles in deze database wordt vervangen door de inhoud van &quot;%1&quot;, voor iedereen die hem gebruikt. Wat er nu in staat, wordt eerst als reservekopie bewaard.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Terugzetten</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Nieuwe knooppuntdatabase</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>&quot;%1&quot; bestaat al. Open die in plaats daarvan of kies een andere naam.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Reservekopie maken</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>De database wordt gekopieerd...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>De database is gekopieerd naar &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>De reservekopie wordt teruggezet...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>De database heeft nu de inhoud van &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -817,6 +871,44 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
     <message>
         <source>Add a Camera...</source>
         <translation>Een camera toevoegen...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>Er is geen naam en geen adres ingevuld.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>Er is geen naam ingevuld.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>&quot;%1&quot; heeft dit adres, deze poort en dit kanaal al.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>Zo opslaan?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>Zo &amp;opslaan</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>Verder be&amp;werken</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Omgeving: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>De netwerkomgeving van het hele programma</translation>
     </message>
 </context>
 <context>
@@ -1653,6 +1745,112 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>Opens a database that is shared with other desks</source>
         <translation>Opent een database die met andere werkstations wordt gedeeld</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Nieuw...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Maakt een lege knooppuntdatabase en opent die</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Openen...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Opent een andere knooppuntdatabase</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>Reserve&amp;kopie maken...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Kopieert de knooppuntdatabase naar een bestand</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>&amp;Terugzetten...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Geeft de knooppuntdatabase de inhoud van een reservekopie</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>&amp;Locatie en tags...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Waar de geselecteerde apparaten zijn en hoe ze gegroepeerd zijn</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Handleiding</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Legt uit waar het voorste venster voor dient</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>&quot;%1&quot; is toegevoegd.</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - Knooppuntdatabase</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Handleiding</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Zoeken in de handleiding (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pagina&apos;s</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Pagina van de handleiding</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Terug</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Vooruit</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Geen enkele pagina bevat al deze woorden.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>De handleiding is in het Engels. Menu&apos;s en knoppen heten daarin zoals in het Engelse programma.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>Het wordt ingesteld in &quot;Bestand &gt; Voorkeuren&quot; van het hoofdvenster.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>Dit is wat &quot;Eigenschappen&quot; toont als fabrieks-IP-adres van de camera. &quot;Knooppunt &gt; Invullen&quot; van het hoofdvenster vraagt het aan de camera.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1815,6 +2013,13 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Locatie</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1863,6 +2068,14 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Channel</source>
         <translation>Kanaal</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Locatie</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tags</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2130,84 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Locatie en tags</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Locaties en tags worden opgeslagen...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n apparaat: locatie en tags ingesteld.</numerusform>
+            <numerusform>%n apparaten: locatie en tags ingesteld.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Locatie en tags</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Waar is het geselecteerde apparaat? Schrijf het van buiten naar binnen, met een schuine streep ertussen: Locatie/Gebouw/Verdieping. Tags worden gescheiden door komma&apos;s.</numerusform>
+            <numerusform>Waar zijn de %n geselecteerde apparaten? Schrijf het van buiten naar binnen, met een schuine streep ertussen: Locatie/Gebouw/Verdieping. Tags worden gescheiden door komma&apos;s.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Locatie:</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>&amp;Tags:</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(verschillend, blijven zoals ze zijn)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Locaties</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>&amp;Locaties</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Toont locaties, gebouwen en verdiepingen naast de lijst</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Locaties</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Alle knooppunten</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Apparaten zonder locatie</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1957,6 +2248,17 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Default File Server Path</source>
         <translation>Standaardpad op de bestandsserver</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Locatie/gebouw/verdieping:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Tags, gescheiden door komma&apos;s:</translation>
     </message>
 </context>
 <context>
@@ -2034,6 +2336,17 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Read-Only</source>
         <translation>Alleen lezen</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Recent openen</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Er is nog geen andere database geopend</translation>
     </message>
 </context>
 <context>

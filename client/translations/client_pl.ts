@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Dodaj i &amp;następny</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
     <message>
         <source>Text</source>
         <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (nic nie zmieniono)</translation>
     </message>
 </context>
 <context>
@@ -598,6 +609,49 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Przywracanie kopii zapasowej</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Cała zawartość tej bazy danych zostanie zastąpiona zawartością „%1”, u wszystkich, którzy jej używają. Obecna zawartość zostanie najpierw zachowana jako kopia zapasowa.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>P&amp;rzywróć</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Nowa baza danych węzłów</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>„%1” już istnieje. Otwórz tę bazę albo wybierz inną nazwę.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Kopia zapasowa</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Kopiowanie bazy danych...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>Bazę danych skopiowano do „%1”.</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>Przywracanie kopii zapasowej...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>Baza danych ma teraz zawartość „%1”.</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -829,6 +883,44 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
     <message>
         <source>Add a Camera...</source>
         <translation>Dodaj kamerę...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>Nie podano nazwy ani adresu.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>Nie podano nazwy.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>„%1” ma już ten adres, port i kanał.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>Czy tak zapisać?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>&amp;Zapisz tak</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Kontynuuj edycję</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Środowisko: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>Środowisko sieciowe całego programu</translation>
     </message>
 </context>
 <context>
@@ -1677,6 +1769,112 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>Opens a database that is shared with other desks</source>
         <translation>Otwiera bazę danych współdzieloną z innymi stanowiskami</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Nowa...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Tworzy pustą bazę danych węzłów i otwiera ją</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Otwórz...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Otwiera inną bazę danych węzłów</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>&amp;Kopia zapasowa...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Kopiuje bazę danych węzłów do pliku</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>P&amp;rzywróć...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Nadaje bazie danych węzłów zawartość kopii zapasowej</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>Lokalizacja i zna&amp;czniki...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Gdzie są zaznaczone urządzenia i jak są pogrupowane</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Podręcznik</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Wyjaśnia, do czego służy okno na pierwszym planie</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>Dodano „%1”.</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - Baza danych węzłów</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Podręcznik</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Szukaj w podręczniku (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Szukaj</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Strony</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Strona podręcznika</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Wstecz</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Dalej</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Żadna strona nie zawiera wszystkich tych słów.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>Podręcznik jest w języku angielskim. Menu i przyciski noszą w nim nazwy z programu po angielsku.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>Ustawia się ją w „Plik &gt; Preferencje” głównego okna.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>To, co „Właściwości” pokazują jako fabryczny adres IP kamery. „Węzeł &gt; Uzupełnij” głównego okna pyta o niego kamerę.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1841,6 +2039,13 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Lokalizacja</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1889,6 +2094,14 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Channel</source>
         <translation>Kanał</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Lokalizacja</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Znaczniki</translation>
     </message>
 </context>
 <context>
@@ -1944,6 +2157,86 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Lokalizacja i znaczniki</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Zapisywanie lokalizacji i znaczników...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n urządzenie: ustawiono lokalizację i znaczniki.</numerusform>
+            <numerusform>%n urządzenia: ustawiono lokalizację i znaczniki.</numerusform>
+            <numerusform>%n urządzeń: ustawiono lokalizację i znaczniki.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Lokalizacja i znaczniki</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Gdzie jest zaznaczone urządzenie? Napisz od zewnątrz do środka, z ukośnikiem pomiędzy: Obiekt/Budynek/Piętro. Znaczniki oddziela się przecinkami.</numerusform>
+            <numerusform>Gdzie są %n zaznaczone urządzenia? Napisz od zewnątrz do środka, z ukośnikiem pomiędzy: Obiekt/Budynek/Piętro. Znaczniki oddziela się przecinkami.</numerusform>
+            <numerusform>Gdzie jest %n zaznaczonych urządzeń? Napisz od zewnątrz do środka, z ukośnikiem pomiędzy: Obiekt/Budynek/Piętro. Znaczniki oddziela się przecinkami.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Lokalizacja:</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>&amp;Znaczniki:</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(różne, pozostaną bez zmian)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Lokalizacje</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>&amp;Lokalizacje</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Pokazuje obiekty, budynki i piętra obok listy</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Lokalizacje</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Wszystkie węzły</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Urządzenia bez lokalizacji</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1984,6 +2277,17 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Default File Server Path</source>
         <translation>Domyślna ścieżka serwera plików</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Obiekt/budynek/piętro:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Znaczniki, oddzielone przecinkami:</translation>
     </message>
 </context>
 <context>
@@ -2061,6 +2365,17 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Read-Only</source>
         <translation>Tylko do odczytu</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Os&amp;tatnio otwarte</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Nie otwarto jeszcze innej bazy danych</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Adicionar e pró&amp;ximo</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
     <message>
         <source>Text</source>
         <translation>Texto</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (nada foi alterado)</translation>
     </message>
 </context>
 <context>
@@ -593,6 +604,49 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Restaurar um backup</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Tudo neste banco de dados é substituído pelo conteúdo de &quot;%1&quot;, para todos que o usam. O que há agora é guardado antes como backup.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Novo banco de dados de nós</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>&quot;%1&quot; já existe. Abra-o ou escolha outro nome.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Backup</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Copiando o banco de dados...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>O banco de dados foi copiado para &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>Restaurando o backup...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>O banco de dados tem agora o conteúdo de &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -817,6 +871,44 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
     <message>
         <source>Add a Camera...</source>
         <translation>Adicionar uma câmera...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>Não foi informado nem nome nem endereço.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>Nenhum nome foi informado.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>&quot;%1&quot; já tem este endereço, esta porta e este canal.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>Salvar assim?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>&amp;Salvar assim</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Continuar editando</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Ambiente: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>O ambiente de rede de todo o programa</translation>
     </message>
 </context>
 <context>
@@ -1653,6 +1745,112 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>Opens a database that is shared with other desks</source>
         <translation>Abre um banco de dados compartilhado com outras estações</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Novo...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Cria um banco de dados de nós vazio e o abre</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Abrir...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Abre outro banco de dados de nós</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>&amp;Backup...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Copia o banco de dados de nós para um arquivo</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>Res&amp;taurar...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Dá ao banco de dados de nós o conteúdo de um backup</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>L&amp;ocal e etiquetas...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Onde estão os dispositivos selecionados e como são agrupados</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Manual</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Explica para que serve a janela em primeiro plano</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>&quot;%1&quot; foi adicionado.</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - Banco de dados de nós</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Manual</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Pesquisar no manual (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Pesquisar</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Página do manual</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Voltar</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Avançar</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Nenhuma página contém todas estas palavras.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>O manual está em inglês. Nele, menus e botões têm os nomes do programa em inglês.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>É definido em &quot;Arquivo &gt; Preferências&quot; da janela principal.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>É o que &quot;Propriedades&quot; mostra como endereço IP de fábrica da câmera. &quot;Nó &gt; Preencher&quot; da janela principal o pergunta à câmera.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1815,6 +2013,13 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Local</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1863,6 +2068,14 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Channel</source>
         <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Local</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etiquetas</translation>
     </message>
 </context>
 <context>
@@ -1917,6 +2130,84 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Local e etiquetas</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Salvando locais e etiquetas...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n dispositivo: local e etiquetas definidos.</numerusform>
+            <numerusform>%n dispositivos: local e etiquetas definidos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Local e etiquetas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Onde está o dispositivo selecionado (%n)? Escreva de fora para dentro, com uma barra no meio: Local/Prédio/Andar. As etiquetas são separadas por vírgulas.</numerusform>
+            <numerusform>Onde estão os %n dispositivos selecionados? Escreva de fora para dentro, com uma barra no meio: Local/Prédio/Andar. As etiquetas são separadas por vírgulas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Local:</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>&amp;Etiquetas:</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(diferentes, mantidos como estão)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Locais</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>&amp;Locais</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Mostra locais, prédios e andares ao lado da lista</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Locais</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Todos os nós</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Dispositivos sem local</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1957,6 +2248,17 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Default File Server Path</source>
         <translation>Caminho padrão do servidor de arquivos</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Local/prédio/andar:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Etiquetas, separadas por vírgulas:</translation>
     </message>
 </context>
 <context>
@@ -2034,6 +2336,17 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Read-Only</source>
         <translation>Somente leitura</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Abrir &amp;recente</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Nenhum outro banco de dados foi aberto ainda</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>AddAndNext</name>
+    <message>
+        <source>Add and &amp;Next</source>
+        <translation>Добавить и с&amp;ледующий</translation>
+    </message>
+</context>
+<context>
     <name>AddressChangesDialog</name>
     <message>
         <source>Seen at a New Address</source>
@@ -228,6 +235,10 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>Text</source>
         <translation>Текст</translation>
+    </message>
+    <message>
+        <source>%1 (nothing was changed)</source>
+        <translation>%1 (ничего не изменено)</translation>
     </message>
 </context>
 <context>
@@ -598,6 +609,49 @@ Without an option that does something and ends, such as --import, it opens a win
     </message>
 </context>
 <context>
+    <name>DatabaseCommands</name>
+    <message>
+        <source>Restore a Backup</source>
+        <translation>Восстановление резервной копии</translation>
+    </message>
+    <message>
+        <source>Everything in this database is replaced by what &quot;%1&quot; holds, for all who use it. What is there now is kept as a backup first.</source>
+        <translation>Всё в этой базе данных будет заменено содержимым «%1» для всех, кто ей пользуется. То, что в ней сейчас, сначала сохраняется как резервная копия.</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Восстановить</translation>
+    </message>
+    <message>
+        <source>New Node Database</source>
+        <translation>Новая база данных узлов</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Open it instead, or choose another name.</source>
+        <translation>«%1» уже есть. Откройте её или выберите другое имя.</translation>
+    </message>
+    <message>
+        <source>Back Up</source>
+        <translation>Резервная копия</translation>
+    </message>
+    <message>
+        <source>Copying the database...</source>
+        <translation>Копирование базы данных...</translation>
+    </message>
+    <message>
+        <source>The database was copied to &quot;%1&quot;.</source>
+        <translation>База данных скопирована в «%1».</translation>
+    </message>
+    <message>
+        <source>Restoring the backup...</source>
+        <translation>Восстановление резервной копии...</translation>
+    </message>
+    <message>
+        <source>The database has the content of &quot;%1&quot; now.</source>
+        <translation>Теперь в базе данных содержимое «%1».</translation>
+    </message>
+</context>
+<context>
     <name>DatabaseRecovery</name>
     <message>
         <source>Nothing of it can be read.</source>
@@ -829,6 +883,44 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>Add a Camera...</source>
         <translation>Добавить камеру...</translation>
+    </message>
+</context>
+<context>
+    <name>EntryQuestions</name>
+    <message>
+        <source>Neither a name nor an address was entered.</source>
+        <translation>Не введены ни имя, ни адрес.</translation>
+    </message>
+    <message>
+        <source>No name was entered.</source>
+        <translation>Имя не введено.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has this address, port and channel already.</source>
+        <translation>У «%1» уже такой адрес, порт и канал.</translation>
+    </message>
+    <message>
+        <source>Is it to be stored so?</source>
+        <translation>Сохранить так?</translation>
+    </message>
+    <message>
+        <source>&amp;Store It So</source>
+        <translation>&amp;Сохранить так</translation>
+    </message>
+    <message>
+        <source>&amp;Go On Editing</source>
+        <translation>&amp;Продолжить правку</translation>
+    </message>
+</context>
+<context>
+    <name>EnvironmentMenu</name>
+    <message>
+        <source>Environment: %1</source>
+        <translation>Среда: %1</translation>
+    </message>
+    <message>
+        <source>The network environment of the whole program</source>
+        <translation>Сетевая среда всей программы</translation>
     </message>
 </context>
 <context>
@@ -1677,6 +1769,112 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Opens a database that is shared with other desks</source>
         <translation>Открывает базу данных, общую с другими станциями</translation>
     </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>&amp;Создать...</translation>
+    </message>
+    <message>
+        <source>Makes an empty node database and opens it</source>
+        <translation>Создаёт пустую базу данных узлов и открывает её</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Открыть...</translation>
+    </message>
+    <message>
+        <source>Opens another node database</source>
+        <translation>Открывает другую базу данных узлов</translation>
+    </message>
+    <message>
+        <source>&amp;Back Up...</source>
+        <translation>Резервная &amp;копия...</translation>
+    </message>
+    <message>
+        <source>Copies the node database into a file</source>
+        <translation>Копирует базу данных узлов в файл</translation>
+    </message>
+    <message>
+        <source>Res&amp;tore...</source>
+        <translation>&amp;Восстановить...</translation>
+    </message>
+    <message>
+        <source>Gives the node database the content of a backup</source>
+        <translation>Возвращает базе данных узлов содержимое резервной копии</translation>
+    </message>
+    <message>
+        <source>&amp;Location and Tags...</source>
+        <translation>Мест&amp;о и метки...</translation>
+    </message>
+    <message>
+        <source>Where the selected devices are, and by what they are grouped</source>
+        <translation>Где находятся выбранные устройства и как они сгруппированы</translation>
+    </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>&amp;Руководство</translation>
+    </message>
+    <message>
+        <source>Explains what the window in front is for</source>
+        <translation>Объясняет, для чего служит окно на переднем плане</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was added.</source>
+        <translation>«%1»: добавлено.</translation>
+    </message>
+    <message>
+        <source>%1 - Node Database</source>
+        <translation>%1 - База данных узлов</translation>
+    </message>
+</context>
+<context>
+    <name>ManualWindow</name>
+    <message>
+        <source>Manual</source>
+        <translation>Руководство</translation>
+    </message>
+    <message>
+        <source>Search the manual (Ctrl+F)</source>
+        <translation>Поиск в руководстве (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Страницы</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Страница руководства</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Назад</translation>
+    </message>
+    <message>
+        <source>&amp;Forward</source>
+        <translation>&amp;Вперёд</translation>
+    </message>
+    <message>
+        <source>No page has all these words.</source>
+        <translation>Ни на одной странице нет всех этих слов.</translation>
+    </message>
+    <message>
+        <source>The manual is in English. Names of menus and buttons are those of the English program.</source>
+        <translation>Руководство на английском языке. Меню и кнопки названы в нём как в английской программе.</translation>
+    </message>
+</context>
+<context>
+    <name>MessageHints</name>
+    <message>
+        <source>It is set in &quot;File &gt; Preferences&quot; of the main window.</source>
+        <translation>Задаётся в «Файл &gt; Настройки» главного окна.</translation>
+    </message>
+    <message>
+        <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
+        <translation>Это то, что «Свойства» показывают как заводской IP-адрес камеры. «Узел &gt; Заполнить» главного окна спрашивает его у камеры.</translation>
+    </message>
 </context>
 <context>
     <name>MomentDetailsModel</name>
@@ -1841,6 +2039,13 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>NodeInspector</name>
+    <message>
+        <source>Location</source>
+        <translation>Место</translation>
+    </message>
+</context>
+<context>
     <name>NodeListModel</name>
     <message>
         <source>Name</source>
@@ -1889,6 +2094,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Channel</source>
         <translation>Канал</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Место</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Метки</translation>
     </message>
 </context>
 <context>
@@ -1944,6 +2157,86 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>PlaceCommands</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Место и метки</translation>
+    </message>
+    <message>
+        <source>Storing locations and tags...</source>
+        <translation>Сохранение мест и меток...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n device(s): location and tags set.</source>
+        <translation>
+            <numerusform>%n устройство: место и метки заданы.</numerusform>
+            <numerusform>%n устройства: место и метки заданы.</numerusform>
+            <numerusform>%n устройств: место и метки заданы.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDialog</name>
+    <message>
+        <source>Location and Tags</source>
+        <translation>Место и метки</translation>
+    </message>
+    <message numerus="yes">
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <translation>
+            <numerusform>Где находится %n выбранное устройство? Напишите от внешнего к внутреннему через косую черту: Объект/Здание/Этаж. Метки разделяются запятыми.</numerusform>
+            <numerusform>Где находятся %n выбранных устройства? Напишите от внешнего к внутреннему через косую черту: Объект/Здание/Этаж. Метки разделяются запятыми.</numerusform>
+            <numerusform>Где находятся %n выбранных устройств? Напишите от внешнего к внутреннему через косую черту: Объект/Здание/Этаж. Метки разделяются запятыми.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>&amp;Место:</translation>
+    </message>
+    <message>
+        <source>&amp;Tags:</source>
+        <translation>М&amp;етки:</translation>
+    </message>
+    <message>
+        <source>(different, left as they are)</source>
+        <translation>(разные, остаются как есть)</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceDock</name>
+    <message>
+        <source>Locations</source>
+        <translation>Места</translation>
+    </message>
+    <message>
+        <source>L&amp;ocations</source>
+        <translation>&amp;Места</translation>
+    </message>
+    <message>
+        <source>Shows the sites, buildings and floors beside the list</source>
+        <translation>Показывает объекты, здания и этажи рядом со списком</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceTree</name>
+    <message>
+        <source>Locations</source>
+        <translation>Места</translation>
+    </message>
+    <message>
+        <source>All nodes</source>
+        <translation>Все узлы</translation>
+    </message>
+    <message>
+        <source>Devices without a location</source>
+        <translation>Устройства без места</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>PreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1984,6 +2277,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Default File Server Path</source>
         <translation>Путь к файловому серверу по умолчанию</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyFormPage</name>
+    <message>
+        <source>Site/building/floor:</source>
+        <translation>Объект/здание/этаж:</translation>
+    </message>
+    <message>
+        <source>Tags, parted by commas:</source>
+        <translation>Метки, через запятую:</translation>
     </message>
 </context>
 <context>
@@ -2061,6 +2365,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Read-Only</source>
         <translation>Только чтение</translation>
+    </message>
+</context>
+<context>
+    <name>RecentMenu</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Открыть н&amp;едавнюю</translation>
+    </message>
+    <message>
+        <source>No other database was opened yet</source>
+        <translation>Другая база данных ещё не открывалась</translation>
     </message>
 </context>
 <context>
