@@ -136,8 +136,8 @@ void tst_MainWindow::headerSorts()
 
 void tst_MainWindow::actionsFollowTheSelection()
 {
-    const char* const forOne[] = {"actionEdit", "actionProperties"};
-    const char* const forSome[] = {"actionRemove", "actionCredentials", "actionRecording"};
+    const char* const forOne[] = {"actionProperties", "actionDuplicate"};
+    const char* const forSome[] = {"actionEdit", "actionRemove", "actionCredentials", "actionRecording"};
     const auto check = [&](int selected) {
         for (const char* name : forOne)
             QCOMPARE(child<QAction>(m_window.get(), name)->isEnabled(), selected == 1);
