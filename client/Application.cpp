@@ -5,6 +5,7 @@
 #include "KeychainNotice.h"
 #include "KnownSites.h"
 #include "Languages.h"
+#include "LogCommands.h"
 #include "Places.h"
 #include "ReadOnlyNotice.h"
 #include "ShareCommand.h"
@@ -238,8 +239,11 @@ int Application::runOnFile()
         if (!refused.error.isEmpty())
             return report(refused);
     }
-    const int verified = verifies ? verifyLog() : Good;
-    const int looked = thins && verified <= SomeLinesBad ? qMax(verified, thinHistory()) : verified;
+    const int verified = verifies ? LogCommands::verify(m_database) : Good;
+    const int looked =
+        thins && verified <= SomeLinesBad
+            ? qMax(verified, LogCommands::thin(m_database, m_options->value("thin-history").toInt()))
+            : verified;
     if (looked > SomeLinesBad || !(imports || exports))
         return looked;
     const std::unique_ptr<HostNodeDB> db = open(false);
@@ -347,59 +351,6 @@ int Application::exportCameras() const
 }
 
 /// What is good is kept in mind, by which it shows later that the end was cut off.
-int Application::verifyLog() const
-{
-    StoreError error;
-    const std::optional<LogReport> report = NodeStore::verifyLogs(
-        m_database, LogCheckpoint::read(m_database), [](qint64) { return true; }, &error);
-    if (!report) {
-        say(stderr, error.message);
-        return NoDatabase;
-    }
-    for (const LogFinding& finding : report->findings)
-        say(stderr, finding.text());
-    if (report->thinned > 0)
-        say(stdout,
-            QCoreApplication::translate("Application", "Details up to change number %1 were taken out")
-                .arg(report->thinned));
-    say(stdout, QCoreApplication::translate("Application", "%1 entries looked at, %2 older than the chain, "
-                                                           "%3 links without a seal")
-                    .arg(report->entries)
-                    .arg(report->older)
-                    .arg(report->unsealed));
-    if (!report->findings.isEmpty())
-        return SomeLinesBad;
-    if (!report->end.log.isEmpty() && !LogCheckpoint::write(m_database, report->end))
-        say(stderr, QCoreApplication::translate("Application", "%1 cannot be written.")
-                        .arg(QDir::toNativeSeparators(LogCheckpoint::fileFor(m_database))));
-    return Good;
-}
-
-int Application::thinHistory()
-{
-    const int days = m_options->value("thin-history").toInt();
-    StoreError error;
-    const std::optional<ThinnedHistory> thinned = NodeStore::thinHistory(
-        m_database, {days, 0}, [] { return true; }, &error);
-    if (!thinned) {
-        say(stderr, error.message);
-        return Failed;
-    }
-    say(stdout, QCoreApplication::translate("Application", "%1 details taken out, up to change number %2")
-                    .arg(thinned->lines)
-                    .arg(thinned->last));
-    if (thinned->lines > 0) {
-        const std::unique_ptr<HostNodeDB> db = open(false);
-        if (!db)
-            return NoDatabase;
-        ClientWindow::logThinned(*db, *thinned);
-    }
-    if (thinned->isAltered)
-        say(stderr, QCoreApplication::translate("Application", "Not any further: the history was altered. "
-                                                               "--verify-log names what."));
-    return thinned->isAltered ? SomeLinesBad : Good;
-}
-
 int Application::copyDatabase() const
 {
     StoreError error;

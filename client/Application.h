@@ -41,8 +41,6 @@ private:
     int exportCameras() const;
     void loadNodeTypes();
     int copyDatabase() const;
-    int verifyLog() const;
-    int thinHistory();
 
     int& m_argc;
     char** const m_argv;

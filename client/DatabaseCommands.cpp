@@ -111,6 +111,10 @@ void backUp(MainWindow& window)
 
 void restore(MainWindow& window)
 {
+    if (window.isShared()) {
+        warn(window, Texts::tr("A shared database is restored on its server. Ask its administrator."));
+        return;
+    }
     const QString backup = FileDialogs::openFile(&window, Texts::tr("Restore a Backup"), filter());
     if (backup.isEmpty() || !agreesToRestore(window, backup) || !window.database().flush())
         return;

@@ -48,6 +48,8 @@ public:
 
     /// What the title says instead of the name of the file.
     void setDatabaseName(const QString& name);
+    /// Whether the database is a desk's copy of a site.
+    bool isShared() const { return !m_name.isEmpty(); }
 
     /// Shows the nodes of all types that a search finds.
     void find(const QString& search);
@@ -64,8 +66,8 @@ public:
     /// Takes into the list at once what would come with the next frame.
     void applyChanges();
 
-    /// Closes the window, if nothing keeps it open, so that the program opens another database: a file, or one
-    /// that is shared, by its address.
+    /// Closes the window, if nothing keeps it open, so that the program opens another database: a file, or
+    /// one that is shared, by its address.
     void openInstead(const QString& database);
 
     /// What is to be opened when the window has closed; empty when the program is to end.

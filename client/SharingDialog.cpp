@@ -99,7 +99,7 @@ void SharingDialog::refresh()
 {
     m_state->setText(SharingWords::full(m_sharing.state(), m_sharing.address()));
     m_table->clearSelection(); // a row must not become another one under the user's hand
-    m_undone = m_db.undoneChanges();
+    m_undone = m_db.history().undoneChanges();
     m_table->setRowCount(int(m_undone.size()));
     for (int row = 0; row < m_table->rowCount(); ++row) {
         const UndoneChange& change = m_undone.at(row);
@@ -135,7 +135,7 @@ void SharingDialog::dismiss()
     const QModelIndexList rows = m_table->selectionModel()->selectedRows();
     for (const QModelIndex& row : rows)
         numbers.append(m_undone.at(row.row()).number);
-    m_db.dismissUndone(numbers);
+    m_db.history().dismissUndone(numbers);
     emit m_sharing.changed();
 }
 

@@ -4,6 +4,7 @@
 #include "SharingWords.h"
 #include "SiteSharing.h"
 #include "database/HostNodeDB.h"
+#include "database/StoredHistory.h"
 #include "utils/Retranslation.h"
 
 namespace ko {
@@ -23,7 +24,7 @@ SharingStatus::SharingStatus(HostNodeDB& db, SiteSharing& sharing, QWidget* pare
 
 void SharingStatus::refresh()
 {
-    const int undone = int(m_db.undoneChanges().size());
+    const int undone = int(m_db.history().undoneChanges().size());
     const QString state = SharingWords::brief(m_sharing.state(), m_sharing.since());
     setText(undone > 0 ? tr("%1, %n change(s) could not be made", nullptr, undone).arg(state) : state);
     setToolTip(SharingWords::full(m_sharing.state(), m_sharing.address()));

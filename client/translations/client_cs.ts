@@ -650,6 +650,10 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>Databáze má nyní obsah „%1“.</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Sdílená databáze se obnovuje na svém serveru. Obraťte se na jeho správce.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

@@ -645,6 +645,10 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>Die Datenbank hat jetzt den Inhalt von „%1“.</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Eine geteilte Datenbank wird auf ihrem Server wiederhergestellt. Wenden Sie sich an dessen Verwalter.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

@@ -645,6 +645,10 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>La base de datos tiene ahora el contenido de «%1».</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Una base de datos compartida se restaura en su servidor. Consulte a su administrador.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

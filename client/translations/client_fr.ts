@@ -645,6 +645,10 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>La base de données a maintenant le contenu de « %1 ».</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Une base de données partagée se restaure sur son serveur. Adressez-vous à son administrateur.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

@@ -645,6 +645,10 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>Il database ha ora il contenuto di &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Un database condiviso si ripristina sul suo server. Rivolgersi al suo amministratore.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

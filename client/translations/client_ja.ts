@@ -640,6 +640,10 @@ Without an option that does something and ends, such as --import, it opens a win
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>データベースは「%1」の内容になりました。</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>共有データベースはサーバー側で復元します。管理者に依頼してください。</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

@@ -645,6 +645,10 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>De database heeft nu de inhoud van &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Een gedeelde database wordt op de server teruggezet. Vraag de beheerder ervan.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

@@ -650,6 +650,10 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>Baza danych ma teraz zawartość „%1”.</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Współdzieloną bazę danych przywraca się na jej serwerze. Zwróć się do administratora.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

@@ -645,6 +645,10 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>O banco de dados tem agora o conteúdo de &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Um banco de dados compartilhado é restaurado no servidor. Fale com o administrador.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

@@ -650,6 +650,10 @@ Without an option that does something and ends, such as --import, it opens a win
         <source>The database has the content of &quot;%1&quot; now.</source>
         <translation>Теперь в базе данных содержимое «%1».</translation>
     </message>
+    <message>
+        <source>A shared database is restored on its server. Ask its administrator.</source>
+        <translation>Общая база данных восстанавливается на своём сервере. Обратитесь к его администратору.</translation>
+    </message>
 </context>
 <context>
     <name>DatabaseRecovery</name>

@@ -3,25 +3,8 @@
 #include "database/HostNodeDBPrivate.h"
 #include "drivers/NodeTypes.h"
 #include "ko/NodeHint.h"
-#include "recording/VolumeProbe.h"
-#include "secrets/Vault.h"
 
 namespace ko {
-
-HostNodeDB::HostNodeDB(std::unique_ptr<NodeStore> opened, Check check)
-    : d(new Private(*this, std::move(opened)))
-{
-    d->start(check);
-    VolumeProbe::install();
-}
-
-HostNodeDB::~HostNodeDB()
-{
-    blockSignals(true);
-    d->store->vault()->setListener(nullptr);
-    d->scanning.reset();
-    d->queue.finish();
-}
 
 QString HostNodeDB::fileName() const
 {
@@ -294,16 +277,6 @@ void HostNodeDB::syncForeignChanges()
 void HostNodeDB::syncSomeForeignChanges()
 {
     d->queue.syncSome();
-}
-
-QVector<UndoneChange> HostNodeDB::undoneChanges() const
-{
-    return d->queue.reading([&] { return d->store->undoneChanges(); });
-}
-
-void HostNodeDB::dismissUndone(const QVector<qint64>& numbers)
-{
-    d->queue.reading([&] { return d->store->dismissUndone(numbers); });
 }
 
 bool HostNodeDB::isReadOnly() const

@@ -7,7 +7,6 @@
 #include "model/ChangeScope.h"
 #include "model/ChangeSet.h"
 #include "model/StoreError.h"
-#include "model/UndoneChange.h"
 
 #include <functional>
 #include <memory>
@@ -162,10 +161,6 @@ public:
 
     /// The same without waiting for the next look, and the rest of much in the next turns of the event loop.
     void syncSomeForeignChanges();
-
-    /// What was changed here and the site with which the file is shared could not do, until it is dismissed.
-    QVector<UndoneChange> undoneChanges() const;
-    void dismissUndone(const QVector<qint64>& numbers);
 
     /// The user may only read: beginUpdateNode() returns null, no scanner starts, and nothing else that would
     /// change nodes, relations, settings or environments does anything. What others change still arrives.

@@ -1,6 +1,7 @@
 #include "database/HostNodeDBPrivate.h"
 
 #include "ko/LogQt.h"
+#include "recording/VolumeProbe.h"
 #include "secrets/Vault.h"
 
 #include <QElapsedTimer>
@@ -21,6 +22,21 @@ std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* er
         *error = failure.error;
         return nullptr;
     }
+}
+
+HostNodeDB::HostNodeDB(std::unique_ptr<NodeStore> opened, Check check)
+    : d(new Private(*this, std::move(opened)))
+{
+    d->start(check);
+    VolumeProbe::install();
+}
+
+HostNodeDB::~HostNodeDB()
+{
+    blockSignals(true);
+    d->store->vault()->setListener(nullptr);
+    d->scanning.reset();
+    d->queue.finish();
 }
 
 HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)

@@ -83,6 +83,16 @@ std::optional<PresentState> StoredHistory::present(const PresentState::Wanted& w
     return state;
 }
 
+QVector<UndoneChange> StoredHistory::undoneChanges()
+{
+    return m_queue.reading([this] { return m_store.undoneChanges(); });
+}
+
+void StoredHistory::dismissUndone(const QVector<qint64>& numbers)
+{
+    m_queue.reading([&] { return m_store.dismissUndone(numbers); });
+}
+
 HistoryLimit StoredHistory::limit() const
 {
     const auto number = [this](const char* key) {

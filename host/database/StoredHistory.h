@@ -5,6 +5,7 @@
 #include "model/HistoryFilter.h"
 #include "model/HistoryLimit.h"
 #include "model/PresentState.h"
+#include "model/UndoneChange.h"
 
 #include <QObject>
 
@@ -53,6 +54,10 @@ public:
 
     /// None if it cannot be read.
     std::optional<PresentState> present(const PresentState::Wanted& wanted);
+
+    /// What was changed here and the site with which the file is shared could not do, until it is dismissed.
+    QVector<UndoneChange> undoneChanges();
+    void dismissUndone(const QVector<qint64>& numbers);
 
     /// How much of it keeps its details.
     HistoryLimit limit() const;

@@ -36,12 +36,6 @@ public:
 
 namespace {
 
-/// A desk's copy of a site must be able to say again what it did, which is in the history.
-bool isShared(SqliteStore& store)
-{
-    return store.value("SELECT 1 FROM sqlite_schema WHERE name = 'shared_site'").isValid();
-}
-
 ThinnedHistory thinned(SqliteStore& store, const HistoryLimit& limit, const std::function<bool()>& goOn)
 {
     const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
@@ -50,7 +44,7 @@ ThinnedHistory thinned(SqliteStore& store, const HistoryLimit& limit, const std:
             StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key"))};
     ThinnedHistory result;
     LogThinning thinning(store, key->sealer);
-    const qint64 last = isShared(store) ? 0 : thinning.last(limit, QDateTime::currentMSecsSinceEpoch());
+    const qint64 last = thinning.last(limit, QDateTime::currentMSecsSinceEpoch());
     auto outcome = last > 0 ? LogThinning::Outcome::More : LogThinning::Outcome::Done;
     while (outcome == LogThinning::Outcome::More && goOn()) {
         Transaction transaction(store, Transaction::Write);
@@ -105,7 +99,7 @@ void NodeStore::setSound()
 
 bool NodeStore::isShared()
 {
-    return d->connection->value("SELECT 1 FROM sqlite_master WHERE name = 'shared_site'").isValid();
+    return d->connection->value("SELECT 1 FROM sqlite_schema WHERE name = 'shared_site'").isValid();
 }
 
 QVector<UndoneChange> NodeStore::undoneChanges()
