@@ -33,6 +33,10 @@ ChangedMeanwhile::ChangedMeanwhile(HostNodeDB& db, const QString& id, QWidget* p
     setObjectName(QStringLiteral("changedMeanwhileLabel"));
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // nothing moves under the user's hand when the line comes
+    setSizePolicy(policy);
+    setText(QStringLiteral(" ")); // an empty one is less high
     hide();
     m_db.flush(); // what is not stored has no number yet
     look();
