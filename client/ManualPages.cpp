@@ -58,6 +58,8 @@ const struct
     {"AuditLogDialog", "history.md#the-audit-log"},
     {"BackToDialog", "moment.md"},
     {"MomentWindow", "moment.md"},
+    {"ConnectDialog", "sharing.md#connecting"},
+    {"SharingDialog", "sharing.md#what-could-not-be-made"},
     {"recoveryBox", "backup.md#when-the-database-is-damaged"},
     {"notOpenedBox", "trouble.md#the-database-cannot-be-opened"},
     {"storeFailedBox", "trouble.md#changes-are-not-stored"},
@@ -69,11 +71,12 @@ const struct
 QStringList all()
 {
     return {
-        QStringLiteral("index.md"),        QStringLiteral("start.md"),      QStringLiteral("import.md"),
-        QStringLiteral("scan.md"),         QStringLiteral("nodes.md"),      QStringLiteral("passwords.md"),
-        QStringLiteral("checks.md"),       QStringLiteral("recordings.md"), QStringLiteral("environments.md"),
-        QStringLiteral("history.md"),      QStringLiteral("moment.md"),     QStringLiteral("backup.md"),
-        QStringLiteral("command-line.md"), QStringLiteral("keyboard.md"),   QStringLiteral("trouble.md")};
+        QStringLiteral("index.md"),   QStringLiteral("start.md"),        QStringLiteral("import.md"),
+        QStringLiteral("scan.md"),    QStringLiteral("nodes.md"),        QStringLiteral("passwords.md"),
+        QStringLiteral("checks.md"),  QStringLiteral("recordings.md"),   QStringLiteral("environments.md"),
+        QStringLiteral("history.md"), QStringLiteral("moment.md"),       QStringLiteral("backup.md"),
+        QStringLiteral("sharing.md"), QStringLiteral("command-line.md"), QStringLiteral("keyboard.md"),
+        QStringLiteral("trouble.md")};
 }
 
 QString text(const QString& page)

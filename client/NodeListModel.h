@@ -104,7 +104,8 @@ public:
     void sort(int column, Qt::SortOrder order) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override
     {
-        return QAbstractTableModel::flags(index) | Qt::ItemIsDragEnabled; // where the view lets it be dragged
+        const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+        return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags; // where the view lets it be dragged
     }
 
 protected:

@@ -1743,7 +1743,7 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     </message>
     <message>
         <source>&amp;Connect...</source>
-        <translation>&amp;Conectar...</translation>
+        <translation>C&amp;onectar...</translation>
     </message>
     <message>
         <source>Opens a database that is shared with other desks</source>

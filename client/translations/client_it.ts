@@ -1743,7 +1743,7 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     </message>
     <message>
         <source>&amp;Connect...</source>
-        <translation>Co&amp;nnetti...</translation>
+        <translation>C&amp;onnetti...</translation>
     </message>
     <message>
         <source>Opens a database that is shared with other desks</source>

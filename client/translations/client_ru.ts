@@ -1767,7 +1767,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
     <message>
         <source>&amp;Connect...</source>
-        <translation>П&amp;одключить...</translation>
+        <translation>&amp;Подключить...</translation>
     </message>
     <message>
         <source>Opens a database that is shared with other desks</source>

@@ -129,7 +129,7 @@ void tst_NodeListModel::cellsAndHeaders()
         cells.append(model.index(0, column).data().toString());
     }
     QCOMPARE(headers, QStringList({"Name", "Type", "Address", "Recording", "State", "Model", "Version", "MAC",
-                                   "Port", "SSL", "User", "Channel"}));
+                                   "Port", "SSL", "User", "Channel", "Location", "Tags"}));
     QCOMPARE(cells.mid(0, 5), QStringList({"Gate", "IP Camera", "10.0.0.1", "Via camera", "Not checked"}));
     QCOMPARE(cells.mid(5).join(QString()), QString()); // until they are filled
     QVERIFY(!model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
