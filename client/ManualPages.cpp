@@ -99,7 +99,8 @@ QUrl url(const QString& page)
 QString anchor(const QString& heading)
 {
     QString anchor;
-    for (const QChar c : heading.toLower()) {
+    const QString lower = heading.toLower();
+    for (const QChar c : lower) {
         if (c.isLetterOrNumber() || c == QLatin1Char('-'))
             anchor.append(c);
         else if (c == QLatin1Char(' '))

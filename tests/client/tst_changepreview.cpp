@@ -200,7 +200,7 @@ void tst_ChangePreview::whatIsLeftOutStays()
     QVERIFY2(done.startsWith("2 device"), qPrintable(done));
     QCOMPARE(device(0)->user(1), QString("installer"));
     QCOMPARE(device(1)->user(1), QString());
-    QCOMPARE(int(newSets().first().audit.size()), 2);
+    QCOMPARE(int(newSets().constFirst().audit.size()), 2);
 }
 
 void tst_ChangePreview::foldersAreMadeWhenAgreedTo()
@@ -226,7 +226,7 @@ void tst_ChangePreview::foldersAreMadeWhenAgreedTo()
     }
     // It is one change set, and turned round it leaves what was there.
     QCOMPARE(int(newSets().size()), 1);
-    const ChangeSet set = newSets().first();
+    const ChangeSet set = newSets().constFirst();
     QCOMPARE(set.cause.purpose, Purpose::Recording);
     const std::optional<PutBack> back = PuttingBack::preview(*m_host->db(), Alterations::of(set));
     QVERIFY(back);
@@ -293,7 +293,7 @@ void tst_ChangePreview::notWantedAtFirst()
     const Answers answers({enterCredentials});
     editCredentials();
     QCOMPARE(answers.opened(), QStringList("NodeAuthenticateDialog"));
-    QCOMPARE(int(newSets().first().audit.size()), 3);
+    QCOMPARE(int(newSets().constFirst().audit.size()), 3);
 }
 
 KO_TEST_MAIN(tst_ChangePreview)

@@ -176,7 +176,7 @@ void tst_DatabaseCommands::recentOnes()
     QVERIFY(QFile::remove(path("9 & co.kodb")));
     DatabaseCommands::addRecent(m_host->db()->fileName()); // is open
     QCOMPARE(shown().size(), 7);
-    QCOMPARE(shown().first(), path("5 && co.kodb"));
+    QCOMPARE(shown().constFirst(), path("5 && co.kodb"));
     QCOMPARE(shown().at(1), path("8 && co.kodb"));
     child<QMenu>(m_window.get(), "recentMenu")->actions().at(1)->trigger();
     KO_TRY_COMPARE(m_window->next(), path("8 & co.kodb"));

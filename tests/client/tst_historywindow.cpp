@@ -556,7 +556,7 @@ void tst_HistoryWindow::howMuchToKeep()
             dialog);
         child<QPushButton>(dialog, "keepButton")->click();
         QVERIFY(days.fired());
-        QCOMPARE(titles(dialog).first(), QString("Settings")); // a change like any other
+        QCOMPARE(titles(dialog).constFirst(), QString("Settings")); // a change like any other
     });
     QCOMPARE(db.history().limit().days, 90);
     QCOMPARE(db.history().limit().megabytes, 0);

@@ -49,7 +49,7 @@ bool walk(const QCommandLineParser& options, ko::HostNodeDB& db)
     window.show();
     if (options.isSet(QStringLiteral("pictures")))
         return ko::Pictures(db, window, options.positionalArguments().value(0),
-                            QLatin1String(options.isSet(QStringLiteral("dark")) ? "-dark" : ""))
+                            options.isSet(QStringLiteral("dark")) ? QStringLiteral("-dark") : QString())
             .make(options.value(QStringLiteral("survey")));
     ko::Robot robot(db, window, options.positionalArguments().value(0));
     const int cameras = options.value(QStringLiteral("scans")).toInt();
