@@ -281,8 +281,10 @@ QAction* Commands::createAction(const Command& command)
     }
     action->setShortcuts(QKeySequence::listFromString(QLatin1String(command.keys)));
     connect(action, &QAction::triggered, &m_window, [this, &command] {
-        if (!(command.places & Edits) || !ReadOnlyNotice::refuses(m_window.database(), &m_window))
+        if (!(command.places & Edits))
             command.run(m_window);
+        else if (!ReadOnlyNotice::refuses(m_window.database(), &m_window))
+            ReadOnlyNotice::watch(m_window.database(), &m_window, [&] { command.run(m_window); });
     });
     return action;
 }

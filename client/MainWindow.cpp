@@ -16,6 +16,7 @@
 #include "NodeListView.h"
 #include "PlaceDock.h"
 #include "PropertyColumns.h"
+#include "ReadOnlyNotice.h"
 #include "ScannerStatus.h"
 #include "StoreNotice.h"
 #include "SurveyCommands.h"
@@ -154,8 +155,9 @@ void MainWindow::createList()
     m_view->setNodeModel(m_model);
     m_model->setNodes(m_db.summaries());
     setCentralWidget(m_view);
-    connect(m_view, &NodeListView::nodeActivated, this,
-            [this](const QString& id) { NodeCommands::open(*this, id); });
+    connect(m_view, &NodeListView::nodeActivated, this, [this](const QString& id) {
+        ReadOnlyNotice::watch(m_db, this, [&] { NodeCommands::open(*this, id); });
+    });
     connect(m_view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::updateCommands);
     connect(m_model, &QAbstractItemModel::modelReset, this, &MainWindow::updateCommands);

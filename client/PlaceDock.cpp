@@ -45,6 +45,8 @@ PlaceDock::PlaceDock(MainWindow& window, NodeListModel& model, QMenu& view)
     setVisible(QSettings().value(QLatin1String(shownKey), false).toBool());
     setActive(!isHidden());
     connect(toggleViewAction(), &QAction::toggled, this, [this](bool isShown) {
+        if (!parentWidget()->isVisible() || parentWidget()->isMinimized())
+            return; // hidden with its window, which may be on its way out
         QSettings().setValue(QLatin1String(shownKey), isShown);
         setActive(isShown);
     });

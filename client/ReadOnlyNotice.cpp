@@ -25,6 +25,14 @@ bool refuses(const HostNodeDB& db, QWidget* parent)
     return true;
 }
 
+void watch(const HostNodeDB& db, QWidget* parent, const std::function<void()>& edit)
+{
+    const bool wasReadOnly = db.isReadOnly();
+    edit();
+    if (!wasReadOnly)
+        refuses(db, parent);
+}
+
 } // namespace ReadOnlyNotice
 
 } // namespace ko

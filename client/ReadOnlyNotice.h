@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace ko {
@@ -17,6 +19,10 @@ QString text();
 
 /// Whether \a db is read-only; then the user has been told.
 bool refuses(const HostNodeDB& db, QWidget* parent);
+
+/// Runs \a edit, and tells the user if he lost the right to change anything meanwhile: then nothing was
+/// stored.
+void watch(const HostNodeDB& db, QWidget* parent, const std::function<void()>& edit);
 
 } // namespace ReadOnlyNotice
 

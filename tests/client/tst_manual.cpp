@@ -127,6 +127,7 @@ QStringList keysOf(const QAction* action)
     const QList<QKeySequence> shortcuts = action->shortcuts();
     for (const QKeySequence& key : shortcuts)
         keys.append(key.toString());
+    keys.removeAll(QString());
     return keys;
 }
 

@@ -1,4 +1,5 @@
 #include "client/WindowFixture.h"
+#include "support/Answers.h"
 #include "support/TestMain.h"
 
 #include <QAction>
@@ -62,6 +63,7 @@ private slots:
     void webPageNeedsAnAddress();
     void emptyDatabaseSaysWhatToDo();
     void nothingFoundShowsTheWayBack();
+    void rightsThatAreLostMeanwhile();
 };
 
 void tst_NodeCommands::columnsAreChosenAndKept()
@@ -215,6 +217,34 @@ void tst_NodeCommands::nothingFoundShowsTheWayBack()
     QCOMPARE(m_view->model()->rowCount(), 5);
     QVERIFY(!child<QWidget>(m_window.get(), "emptyState")->isVisible());
     QTest::qWait(500); // the button that clears the search fades; the toolkit loses its animation otherwise
+}
+
+/// What is confirmed then cannot be stored, and that is said.
+void tst_NodeCommands::rightsThatAreLostMeanwhile()
+{
+    select({"Yard"});
+    for (const bool byAction : {true, false}) {
+        m_host->db()->setReadOnly(false);
+        const testsupport::Answers answers({[this](QDialog* dialog) {
+                                                child<QLineEdit>(dialog, "nameLineEdit")->setText("Tower");
+                                                m_host->db()->setReadOnly(true);
+                                                dialog->accept();
+                                            },
+                                            [](QDialog* box) {
+                                                QCOMPARE(box->windowTitle(), QString("Read-Only"));
+                                                box->accept();
+                                            }});
+        if (byAction)
+            child<QAction>(m_window.get(), "actionEdit")->trigger();
+        else
+            emit m_view->nodeActivated(idOf("Yard"));
+        QCOMPARE(int(answers.opened().size()), 2);
+        QVERIFY(!idOf("Yard").isEmpty());
+    }
+    // Who may only read from the start opens it to look.
+    const testsupport::Answers looks({[](QDialog* dialog) { dialog->reject(); }});
+    emit m_view->nodeActivated(idOf("Yard"));
+    QCOMPARE(int(looks.opened().size()), 1);
 }
 
 KO_TEST_MAIN(tst_NodeCommands)

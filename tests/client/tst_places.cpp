@@ -38,6 +38,7 @@ private slots:
     void treeCountsAndFilters();
     void treeFollows();
     void closedTreeShowsAll();
+    void treeIsThereAgain();
     void droppedIsThere();
     void othersDropNothing();
     void askedForMany();
@@ -198,6 +199,23 @@ void tst_Places::drop(const QMimeData& data, const QString& place)
     QCoreApplication::sendEvent(tree.viewport(), &move);
     QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(tree.viewport(), &drop);
+}
+
+/// Closing the window hides it, which is not what its user did.
+void tst_Places::treeIsThereAgain()
+{
+    openTree();
+    QVERIFY(m_window->close());
+    m_window.reset();
+    for (const bool isThere : {true, false}) {
+        m_window = std::make_unique<MainWindow>(*m_host->db());
+        m_window->show();
+        auto* dock = child<QDockWidget>(m_window.get(), "placeDock");
+        QCOMPARE(dock->isVisible(), isThere);
+        if (isThere)
+            dock->close(); // by its button
+        m_window.reset();
+    }
 }
 
 void tst_Places::droppedIsThere()
