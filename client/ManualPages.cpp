@@ -135,7 +135,7 @@ QString ownOf(const QWidget& window)
 QString of(const QWidget* widget)
 {
     for (; widget; widget = widget->window()->parentWidget()) {
-        const QString own = ownOf(*widget->window());
+        QString own = ownOf(*widget->window());
         if (!own.isEmpty())
             return own;
     }

@@ -122,7 +122,7 @@ QString Options::read(const QStringList& arguments)
     if (SiteAddress::isSite(value("db")) && isSet("restore"))
         return Texts::tr("A backup cannot be restored into a shared database.");
     for (const QString& address : {value("db"), site()}) {
-        const QString refusal = SiteAddress::isSite(address) ? SiteAddress::refusal(address) : QString();
+        QString refusal = SiteAddress::isSite(address) ? SiteAddress::refusal(address) : QString();
         if (!refusal.isEmpty())
             return refusal;
     }

@@ -91,7 +91,7 @@ QString SiteOpening::file(const QString& givenUp)
     const std::optional<SiteGreeting> greeting = greet();
     if (!greeting)
         return QString();
-    const QString file = SiteCopy::fileOf(KnownSites::folder(), greeting->site);
+    QString file = SiteCopy::fileOf(KnownSites::folder(), greeting->site);
     if ((file == givenUp && !keepAside(file)) || !prepare(file, greeting->site))
         return QString();
     if (!catchUp(file, -1) && !m_isRefusedCopy)

@@ -24,9 +24,9 @@ kom::smart<NodeHint> NodeDriver::createNodeHint(ENodeType type)
 {
     if (!NodeTypes::canBeAdded(type))
         return kom::smart<NodeHint>();
-    const kom::smart<NodeHint> hint = NodeTypes::isDevice(type)
-                                          ? kom::smart<NodeHint>(kom::makeSmart<DeviceHint>(type))
-                                          : kom::smart<NodeHint>(kom::makeSmart<PlainHint>(type));
+    kom::smart<NodeHint> hint = NodeTypes::isDevice(type)
+                                    ? kom::smart<NodeHint>(kom::makeSmart<DeviceHint>(type))
+                                    : kom::smart<NodeHint>(kom::makeSmart<PlainHint>(type));
     if (const OwnNodeType* own = NodeTypes::ownType(type)) {
         for (const NodeProperty& property : own->properties) // its pages show what a hint has
             hint->addProperty(*PropertyList::toProperty(property.key, property.value));

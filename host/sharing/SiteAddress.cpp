@@ -20,8 +20,7 @@ QString refusal(const QString& address)
     char* message = nullptr;
     PQconninfoOption* const options = PQconninfoParse(address.toUtf8().constData(), &message);
     PQconninfoFree(options);
-    const QString text =
-        options ? QString() : QString::fromUtf8(message ? message : "out of memory").trimmed();
+    QString text = options ? QString() : QString::fromUtf8(message ? message : "out of memory").trimmed();
     PQfreemem(message);
     return text;
 }
@@ -76,7 +75,7 @@ QString compose(const Parts& parts)
 
 QString withPassword(const QString& address, const QString& password)
 {
-    const QString plain = withoutPassword(address);
+    QString plain = withoutPassword(address);
     if (password.isEmpty())
         return plain;
     return plain + (plain.contains(QLatin1Char('?')) ? QLatin1Char('&') : QLatin1Char('?')) +
