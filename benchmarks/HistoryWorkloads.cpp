@@ -175,10 +175,19 @@ public:
     double baseline() override
     {
         const QScopedValueRollback<bool> off(hasHistory, false);
-        return edit(*m_without);
+        const qint64 before = newest(*m_without);
+        const double time = edit(*m_without);
+        if (newest(*m_without) != before)
+            qFatal("there is a history");
+        return time;
     }
 
 private:
+    static qint64 newest(HostNodeDB& db)
+    {
+        return db.history().page({}, std::numeric_limits<qint64>::max(), 1).before;
+    }
+
     double edit(HostNodeDB& db)
     {
         const QStringList ids = db.nodeIdList(AllNodeTypes).mid(0, m_nodes);
