@@ -432,6 +432,8 @@ void tst_Languages::windowsFollow()
     windows.visit([&](const QString& name, QWidget* window) {
         if (qobject_cast<QMessageBox*>(window) || name == "import report")
             return; // said once, to be answered
+        if (name == "actionFillIn")
+            return; // what it says depends on how soon the device answers
         speak("de");
         problems += difference(plain(textsOf(window)), german.value(name)).split('\n');
         speak("en");
