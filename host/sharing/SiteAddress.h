@@ -7,8 +7,8 @@
 
 namespace ko {
 
-/// How a site is named: a URL of libpq, postgresql://user@host:port/database?sslmode=require, or
-/// postgresql://?service=NAME.
+/// How a site is named: a URL of libpq, `postgresql://user@host:port/database?sslmode=require`, or
+/// `postgresql://?service=NAME`.
 namespace SiteAddress {
 
 /// Whether \a text is meant as one, and not as the name of a file.
