@@ -1,5 +1,6 @@
 #include "EnvironmentMenu.h"
 
+#include "MnemonicText.h"
 #include "database/HostNodeDB.h"
 #include "ko/Environments.h"
 #include "ko/OutsideText.h"
@@ -48,7 +49,7 @@ void EnvironmentMenu::update()
         if (each.first == m_db.activeEnvironment())
             active = OutsideText::visible(each.second);
     }
-    setText(tr("Environment: %1").arg(QString(active).replace(QLatin1Char('&'), QLatin1String("&&"))));
+    setText(tr("Environment: %1").arg(MnemonicText::literal(active)));
     setAccessibleName(tr("Environment: %1").arg(active));
     setToolTip(tr("The network environment of the whole program"));
     if (m_action)
@@ -60,8 +61,7 @@ void EnvironmentMenu::fill()
     m_menu->clear();
     const Environments::List all = m_db.environments().getList();
     for (const Environments::List::value_type& each : all) {
-        QString name = OutsideText::visible(each.second);
-        QAction* action = m_menu->addAction(name.replace(QLatin1Char('&'), QLatin1String("&&")));
+        QAction* action = m_menu->addAction(MnemonicText::literal(OutsideText::visible(each.second)));
         action->setCheckable(true);
         action->setChecked(each.first == m_db.activeEnvironment());
         m_group->addAction(action);

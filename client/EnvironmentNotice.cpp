@@ -1,5 +1,6 @@
 #include "EnvironmentNotice.h"
 
+#include "MnemonicText.h"
 #include "database/HostNodeDB.h"
 #include "ko/Environments.h"
 #include "utils/Retranslation.h"
@@ -55,7 +56,7 @@ void EnvironmentNotice::offer(const QString& previous)
 
 void EnvironmentNotice::showText()
 {
-    setText(tr("Back to \"%1\"").arg(nameOf(m_previous).replace(QLatin1Char('&'), QLatin1String("&&"))));
+    setText(tr("Back to \"%1\"").arg(MnemonicText::literal(nameOf(m_previous))));
 }
 
 void EnvironmentNotice::switchBack()

@@ -3,6 +3,7 @@
 #include "HistoryExport.h"
 #include "HistoryFilterBar.h"
 #include "HistoryLimitDialog.h"
+#include "MnemonicText.h"
 #include "PlainTable.h"
 #include "PutBackDialog.h"
 #include "ReadOnlyNotice.h"
@@ -117,8 +118,7 @@ QString HistoryDialog::scopeText() const
         return tr("Only what was done up to the entry of the audit log");
     if (m_scope.nodes.size() == 1)
         return tr("Only of \"%1\"", "node")
-            .arg(OutsideText::visible(m_db.summary(m_scope.nodes.first()).name)
-                     .replace(QLatin1Char('&'), QLatin1String("&&")));
+            .arg(MnemonicText::literal(OutsideText::visible(m_db.summary(m_scope.nodes.first()).name)));
     return tr("Only of the %n selected node(s)", nullptr, int(m_scope.nodes.size()));
 }
 

@@ -56,6 +56,11 @@ QString with(const QString& text, const QStringList& used)
     return text;
 }
 
+QString literal(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 QString without(const QString& text)
 {
     static const QRegularExpression brackets(QStringLiteral("\\(&\\w\\)"));

@@ -13,6 +13,9 @@ namespace MnemonicText {
 /// text has no letter before.
 QString with(const QString& text, const QStringList& used);
 
+/// A text that names no letter, such as a name: its "&" are shown.
+QString literal(QString text);
+
 /// Without its letter, if it has one.
 QString without(const QString& text);
 

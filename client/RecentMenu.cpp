@@ -2,6 +2,7 @@
 
 #include "DatabaseCommands.h"
 #include "MainWindow.h"
+#include "MnemonicText.h"
 #include "database/HostNodeDB.h"
 #include "utils/Retranslation.h"
 
@@ -28,8 +29,7 @@ void RecentMenu::fill()
     for (const QString& file : files) {
         if (file == own)
             continue;
-        QString text = QDir::toNativeSeparators(file);
-        QAction* action = addAction(text.replace(QLatin1Char('&'), QLatin1String("&&")));
+        QAction* action = addAction(MnemonicText::literal(QDir::toNativeSeparators(file)));
         // When the menu is closed: its window goes.
         connect(action, &QAction::triggered, &m_window, [window = &m_window, file] {
             QTimer::singleShot(0, window, [window, file] { window->openInstead(file); });

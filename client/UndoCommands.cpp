@@ -1,6 +1,7 @@
 #include "UndoCommands.h"
 
 #include "MainWindow.h"
+#include "MnemonicText.h"
 #include "PutBackDialog.h"
 #include "audit/ChangeSetTitle.h"
 #include "database/HostNodeDB.h"
@@ -21,7 +22,7 @@ QString inMenu(const QString& title)
     QString text = OutsideText::visible(title);
     if (text.size() > longest)
         text = text.left(longest) + QChar(0x2026);
-    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return MnemonicText::literal(text);
 }
 
 } // namespace
