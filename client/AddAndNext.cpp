@@ -1,6 +1,7 @@
 #include "AddAndNext.h"
 
 #include "dialogs/AddNodeDialog.h"
+#include "drivers/PageFields.h"
 #include "utils/Retranslation.h"
 
 #include <QComboBox>
@@ -17,9 +18,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(AddAndNext)
 };
-
-/// What no other device has.
-const char* const own[] = {"nameLineEdit", "addressLineEdit", "macLineEdit"};
 
 QComboBox* typesOf(const QDialog& dialog)
 {
@@ -56,8 +54,9 @@ bool AddAndNext::eventFilter(QObject* watched, QEvent* event)
 void AddAndNext::addAndGoOn()
 {
     m_kept = {typesOf(*m_dialog)->currentIndex(), FormFields::values(formOf(*m_dialog))};
-    for (const char* field : own)
-        m_kept.values.remove(QLatin1String(field));
+    const QStringList own = PageFields::ofOneNode();
+    for (const QString& field : own)
+        m_kept.values.remove(field);
     m_isWanted = true;
     m_ok->click();
     m_isWanted = m_dialog->isHidden(); // else it was refused

@@ -65,19 +65,16 @@ void SharingDialog::createTable()
 
 void SharingDialog::createButtons()
 {
-    const auto add = [this](const char* name, void (SharingDialog::*run)()) {
+    const auto add = [this](const char* name, auto* receiver, auto run) {
         QPushButton* button = m_buttons->addButton(QString(), QDialogButtonBox::ActionRole);
         button->setObjectName(QLatin1String(name));
         button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, run);
+        connect(button, &QPushButton::clicked, receiver, run);
         return button;
     };
-    m_dismiss = add("dismissButton", &SharingDialog::dismiss);
-    m_newCopy = add("newCopyButton", &SharingDialog::makeNewCopy);
-    m_tryAgain = m_buttons->addButton(QString(), QDialogButtonBox::ActionRole);
-    m_tryAgain->setObjectName(QStringLiteral("tryAgainButton"));
-    m_tryAgain->setAutoDefault(false);
-    connect(m_tryAgain, &QPushButton::clicked, &m_sharing, &SiteSharing::tryAgain);
+    m_dismiss = add("dismissButton", this, &SharingDialog::dismiss);
+    m_newCopy = add("newCopyButton", this, &SharingDialog::makeNewCopy);
+    m_tryAgain = add("tryAgainButton", &m_sharing, &SiteSharing::tryAgain);
     m_buttons->button(QDialogButtonBox::Close)->setDefault(true);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }

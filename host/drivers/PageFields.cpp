@@ -38,6 +38,12 @@ QList<QWidget*> of(const QWidget* page)
     return found;
 }
 
+QStringList ofOneNode()
+{
+    return {QStringLiteral("nameLineEdit"), QStringLiteral("addressLineEdit"), QStringLiteral("macLineEdit"),
+            QStringLiteral("factoryIPLineEdit")};
+}
+
 QStringList itemTexts(const QListWidget* list)
 {
     QStringList texts;

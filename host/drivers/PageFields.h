@@ -1,6 +1,8 @@
 #ifndef KO_PAGEFIELDS_H
 #define KO_PAGEFIELDS_H
 
+#include "HostExport.h"
+
 #include <QList>
 #include <QStringList>
 #include <QVariant>
@@ -18,6 +20,9 @@ QList<QWidget*> of(const QWidget* page);
 
 /// Of a choice the data, or the index without; of a list the texts.
 QVariant value(const QWidget* field);
+
+/// The names of those that tell one device from the others.
+KO_HOST_EXPORT QStringList ofOneNode();
 
 QStringList itemTexts(const QListWidget* list);
 

@@ -21,7 +21,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <iterator>
 
 namespace ko {
 
@@ -30,11 +29,7 @@ namespace {
 /// Tells one node from the others.
 bool isOfOneNode(const QWidget& field)
 {
-    static const char* const names[] = {"nameLineEdit", "addressLineEdit", "macLineEdit",
-                                        "factoryIPLineEdit"};
-    return qobject_cast<const QListWidget*>(&field) ||
-           std::any_of(std::begin(names), std::end(names),
-                       [&field](const char* name) { return field.objectName() == QLatin1String(name); });
+    return qobject_cast<const QListWidget*>(&field) || PageFields::ofOneNode().contains(field.objectName());
 }
 
 QVector<PageSpec> sharedPagesOf(ENodeType type)
