@@ -3,9 +3,12 @@
 #include "Stopwatch.h"
 #include "Workload.h"
 
+#include "ChangedMeanwhile.h"
+#include "EntryQuestions.h"
 #include "LayoutAdapter.h"
 #include "NodeCommands.h"
 #include "NodeHistoryPage.h"
+#include "UnsavedEdits.h"
 #include "dialogs/EditNodeDialog.h"
 #include "dialogs/NodeAuthenticateDialog.h"
 #include "dialogs/RecordingFolderAssignmentDialog.h"
@@ -57,11 +60,14 @@ public:
             m_db = bench::open(m_file);
             passTime(300); // until somebody has seen the list, found the camera and opened it
         }
+        const UnsavedEdits unsaved(nullptr); // which see every window of the client
+        const EntryQuestions questions(nullptr);
         std::unique_ptr<EditNodeDialog> dialog;
         return milliseconds([&] {
             dialog =
                 std::make_unique<EditNodeDialog>(m_id, nullptr, false, NodeCommands::EditFlags, &m_layouts);
             NodeHistoryPage::addTo(*dialog, *m_db, m_id);
+            ChangedMeanwhile::addTo(*dialog, *m_db, m_id);
             paint(*dialog);
         });
     }

@@ -145,11 +145,9 @@ private:
         }
         m_db->flush();
         settle(); // the turn ends
-        const std::optional<ChangeSet> set = m_db->history().changeSet(last());
+        const std::optional<ChangeSet> set = m_db->history().changeSet(m_db->history().newest());
         return set ? Alterations::of(*set) : QVector<Alteration>();
     }
-
-    qint64 last() { return m_db->history().page({}, std::numeric_limits<qint64>::max(), 1).before; }
 
     const SiteCopy m_copy;
     const std::unique_ptr<HostNodeDB> m_db;
@@ -175,19 +173,14 @@ public:
     double baseline() override
     {
         const QScopedValueRollback<bool> off(hasHistory, false);
-        const qint64 before = newest(*m_without);
+        const qint64 before = m_without->history().newest();
         const double time = edit(*m_without);
-        if (newest(*m_without) != before)
+        if (m_without->history().newest() != before)
             qFatal("there is a history");
         return time;
     }
 
 private:
-    static qint64 newest(HostNodeDB& db)
-    {
-        return db.history().page({}, std::numeric_limits<qint64>::max(), 1).before;
-    }
-
     double edit(HostNodeDB& db)
     {
         const QStringList ids = db.nodeIdList(AllNodeTypes).mid(0, m_nodes);

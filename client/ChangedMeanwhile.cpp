@@ -29,6 +29,7 @@ ChangedMeanwhile::ChangedMeanwhile(HostNodeDB& db, const QString& id, QWidget* p
     : QLabel(parent)
     , m_db(db)
     , m_id(id)
+    , m_seen(db.history().newest())
 {
     setObjectName(QStringLiteral("changedMeanwhileLabel"));
     setTextFormat(Qt::PlainText);
@@ -38,9 +39,6 @@ ChangedMeanwhile::ChangedMeanwhile(HostNodeDB& db, const QString& id, QWidget* p
     setSizePolicy(policy);
     setText(QStringLiteral(" ")); // an empty one is less high
     hide();
-    m_db.flush(); // what is not stored has no number yet
-    look();
-    m_cause = Cause();
     connect(&m_db, &NodeDB::nodeUpdated, this, &ChangedMeanwhile::later);
     connect(&m_db, &NodeDB::nodeRemoved, this, &ChangedMeanwhile::later);
     connect(&m_db.history(), &StoredHistory::stored, this, [this](const QVector<StoredSet>& sets) {

@@ -33,7 +33,7 @@ private:
 
     HostNodeDB& m_db;
     const QString m_id;
-    qint64 m_seen = 0;   ///< the newest change set of the node when it was looked last
+    qint64 m_seen;       ///< no newer change set of the node was there when it was looked last
     QSet<qint64> m_ours; ///< change sets of this program
     Cause m_cause;       ///< of what another one did last
     bool m_isLate = false;

@@ -5,6 +5,7 @@
 #include "drivers/FormTwin.h"
 #include "ko/Node.h"
 #include "ko/OutsideText.h"
+#include "utils/Fields.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
@@ -46,7 +47,10 @@ void EntryQuestions::begin(NodeDialog& dialog)
     if (!buttons || !buttons->button(QDialogButtonBox::Cancel))
         return; // it only shows
     const QObject* key = &dialog;
-    m_stored.insert(key, qobject_cast<AddNodeDialog*>(&dialog) ? Doubts() : doubtsOf(dialog));
+    // Whether it has a twin is not looked for, which takes the keys of all nodes the first time.
+    m_stored.insert(key, qobject_cast<AddNodeDialog*>(&dialog)
+                             ? Beginning()
+                             : Beginning{doubtsOfName(dialog), targetOf(dialog)});
     connect(&dialog, &QObject::destroyed, this, [this, key] { m_stored.remove(key); });
     // Which the box tells before it accepts.
     connect(buttons, &QDialogButtonBox::clicked, this,
@@ -58,10 +62,12 @@ void EntryQuestions::begin(NodeDialog& dialog)
 
 void EntryQuestions::confirm(NodeDialog& dialog, QDialogButtonBox& buttons) const
 {
-    Doubts doubts = doubtsOf(dialog);
-    const Doubts stored = m_stored.value(&dialog);
-    for (const Doubt& doubt : stored)
+    Doubts doubts = doubtsOfName(dialog);
+    const Beginning stored = m_stored.value(&dialog);
+    for (const Doubt& doubt : stored.doubts)
         doubts.removeAll(doubt);
+    if (targetOf(dialog) != stored.target)
+        doubts += doubtsOfTarget(dialog);
     if (doubts.isEmpty() || agrees(doubts, dialog))
         return;
     buttons.blockSignals(true); // so that it accepts nothing this time
@@ -69,25 +75,39 @@ void EntryQuestions::confirm(NodeDialog& dialog, QDialogButtonBox& buttons) cons
     doubts.constFirst().field->setFocus(Qt::OtherFocusReason);
 }
 
-EntryQuestions::Doubts EntryQuestions::doubtsOf(const NodeDialog& dialog)
+/// By what devices are told apart.
+QStringList EntryQuestions::targetOf(const NodeDialog& dialog)
 {
-    Doubts doubts;
-    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("nameLineEdit"));
-    if (!name)
-        return doubts;
-    auto* address = dialog.findChild<QLineEdit*>(QStringLiteral("addressLineEdit"));
-    const bool hasAddress = address && !address->text().trimmed().isEmpty();
-    if (name->text().trimmed().isEmpty()) {
-        doubts.append({address && !hasAddress ? Texts::tr("Neither a name nor an address was entered.")
-                                              : Texts::tr("No name was entered."),
-                       name});
+    QStringList target;
+    for (const char* field : {"addressLineEdit", "portSpinBox", "channelSpinBox"}) {
+        const auto* found = dialog.findChild<QWidget*>(QLatin1String(field));
+        target.append(found ? fieldValue(found).toString().trimmed() : QString());
     }
-    const kom::smart<const Node> twin = hasAddress ? twinInForm(dialog) : kom::smart<const Node>();
-    if (!twin.null())
-        doubts.append({Texts::tr("\"%1\" has this address, port and channel already.")
-                           .arg(OutsideText::visible(twin->name())),
-                       address});
-    return doubts;
+    return target;
+}
+
+EntryQuestions::Doubts EntryQuestions::doubtsOfName(const NodeDialog& dialog)
+{
+    auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("nameLineEdit"));
+    if (!name || !name->text().trimmed().isEmpty())
+        return {};
+    const bool lacksAddress = dialog.findChild<QLineEdit*>(QStringLiteral("addressLineEdit")) &&
+                              targetOf(dialog).constFirst().isEmpty();
+    return {{lacksAddress ? Texts::tr("Neither a name nor an address was entered.")
+                          : Texts::tr("No name was entered."),
+             name}};
+}
+
+EntryQuestions::Doubts EntryQuestions::doubtsOfTarget(const NodeDialog& dialog)
+{
+    auto* address = dialog.findChild<QLineEdit*>(QStringLiteral("addressLineEdit"));
+    const kom::smart<const Node> twin =
+        targetOf(dialog).constFirst().isEmpty() ? kom::smart<const Node>() : twinInForm(dialog);
+    if (twin.null())
+        return {};
+    return {{Texts::tr("\"%1\" has this address, port and channel already.")
+                 .arg(OutsideText::visible(twin->name())),
+             address}};
 }
 
 bool EntryQuestions::agrees(const Doubts& doubts, NodeDialog& dialog)

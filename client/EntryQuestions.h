@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QStringList>
 #include <QVector>
 
 class QAbstractButton;
@@ -37,12 +38,21 @@ private:
     };
     typedef QVector<Doubt> Doubts;
 
-    static Doubts doubtsOf(const NodeDialog& dialog);
+    /// What an editor began with.
+    struct Beginning
+    {
+        Doubts doubts;
+        QStringList target;
+    };
+
+    static Doubts doubtsOfName(const NodeDialog& dialog);
+    static Doubts doubtsOfTarget(const NodeDialog& dialog);
+    static QStringList targetOf(const NodeDialog& dialog);
     static bool agrees(const Doubts& doubts, NodeDialog& dialog);
     void begin(NodeDialog& dialog);
     void confirm(NodeDialog& dialog, QDialogButtonBox& buttons) const;
 
-    QHash<const QObject*, Doubts> m_stored; ///< as each open dialog began
+    QHash<const QObject*, Beginning> m_stored; ///< of each open dialog
 };
 
 } // namespace ko

@@ -18,6 +18,12 @@ QVector<ChangeSet> StoredHistory::changeSets(qint64 after, int count)
     return m_queue.reading([&] { return m_store.changeSets(after, count); });
 }
 
+qint64 StoredHistory::newest()
+{
+    m_queue.flush();
+    return m_queue.reading([this] { return m_store.newestChangeSet(); });
+}
+
 std::optional<ChangeSet> StoredHistory::changeSet(qint64 number)
 {
     const QVector<ChangeSet> sets = changeSets(number - 1, 1);

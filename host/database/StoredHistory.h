@@ -33,6 +33,9 @@ public:
     /// At most \a count of those after number \a after, oldest first.
     QVector<ChangeSet> changeSets(qint64 after, int count);
 
+    /// The number of the newest one, which may be somebody else's and not brought in yet; 0 if there is none.
+    qint64 newest();
+
     /// None if there is no such change set.
     std::optional<ChangeSet> changeSet(qint64 number);
     std::optional<ChangeSetRow> row(qint64 number);

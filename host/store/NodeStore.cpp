@@ -231,6 +231,11 @@ NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
     return result;
 }
 
+qint64 NodeStore::newestChangeSet()
+{
+    return d->connection->value("SELECT max(seq) FROM change_sets").toLongLong();
+}
+
 QVector<ChangeSet> NodeStore::changeSets(qint64 after, int count)
 {
     const Transaction transaction(*d->connection, Transaction::Read);

@@ -112,6 +112,8 @@ public:
 
     // Logs
 
+    /// The number of the newest change set; 0 if there is none.
+    qint64 newestChangeSet();
     /// At most \a count change sets after number \a after, in order.
     QVector<ChangeSet> changeSets(qint64 after, int count);
     /// As a list shows it; none if there is no such change set.
