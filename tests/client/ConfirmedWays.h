@@ -24,14 +24,6 @@ public:
     typedef QVector<Answers::Action> Actions;
 
 protected:
-    static void press(QDialog* dialog, QDialogButtonBox::StandardButton button)
-    {
-        dialog->findChild<QDialogButtonBox*>()->button(button)->click();
-    }
-
-    static void confirm(QDialog* dialog) { press(dialog, QDialogButtonBox::Ok); }
-    static void cancel(QDialog* dialog) { press(dialog, QDialogButtonBox::Cancel); }
-
     static void enter(QDialog* dialog, const char* field, const char* text)
     {
         auto* edit = child<QLineEdit>(dialog, field);

@@ -21,24 +21,12 @@
 
 using namespace ko;
 using testsupport::Answers;
+using testsupport::cancel;
 using testsupport::child;
+using testsupport::confirm;
+using testsupport::press;
 
 namespace {
-
-void press(QDialog* dialog, QDialogButtonBox::StandardButton button)
-{
-    dialog->findChild<QDialogButtonBox*>()->button(button)->click();
-}
-
-void confirm(QDialog* dialog)
-{
-    press(dialog, QDialogButtonBox::Ok);
-}
-
-void cancel(QDialog* dialog)
-{
-    press(dialog, QDialogButtonBox::Cancel);
-}
 
 void enterCredentials(QDialog* dialog)
 {

@@ -21,18 +21,10 @@
 using namespace ko;
 using testsupport::Answers;
 using testsupport::child;
+using testsupport::confirm;
+using testsupport::press;
 
 namespace {
-
-void press(QDialog* dialog, QDialogButtonBox::StandardButton button)
-{
-    dialog->findChild<QDialogButtonBox*>()->button(button)->click();
-}
-
-void confirm(QDialog* dialog)
-{
-    press(dialog, QDialogButtonBox::Ok);
-}
 
 /// As it is typed.
 void type(QDialog* dialog, const char* field, const QString& text)

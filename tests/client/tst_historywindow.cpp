@@ -30,6 +30,7 @@
 using namespace ko;
 using testsupport::Answers;
 using testsupport::child;
+using testsupport::confirm;
 
 namespace {
 
@@ -69,11 +70,6 @@ void choose(QDialog* dialog, const char* box, const QString& text)
     auto* comboBox = child<QComboBox>(dialog, box);
     QVERIFY2(comboBox->findText(text) >= 0, qPrintable(text));
     comboBox->setCurrentIndex(comboBox->findText(text));
-}
-
-void confirm(QDialog* dialog)
-{
-    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
 }
 
 } // namespace
@@ -546,14 +542,12 @@ void tst_HistoryWindow::howMuchToKeep()
     HostNodeDB& db = *m_host->db();
     QVERIFY(db.history().limit().isNone());
     open("actionHistory", [&](QDialog* dialog) {
-        const testsupport::ModalAnswer days(
-            [](QDialog* limit) {
-                QVERIFY(!child<QSpinBox>(limit, "daysSpinBox")->isEnabled());
-                child<QCheckBox>(limit, "daysCheckBox")->click();
-                child<QSpinBox>(limit, "daysSpinBox")->setValue(90);
-                confirm(limit);
-            },
-            dialog);
+        const testsupport::ModalAnswer days([](QDialog* limit) {
+            QVERIFY(!child<QSpinBox>(limit, "daysSpinBox")->isEnabled());
+            child<QCheckBox>(limit, "daysCheckBox")->click();
+            child<QSpinBox>(limit, "daysSpinBox")->setValue(90);
+            confirm(limit);
+        });
         child<QPushButton>(dialog, "keepButton")->click();
         QVERIFY(days.fired());
         QCOMPARE(titles(dialog).constFirst(), QString("Settings")); // a change like any other
@@ -561,13 +555,11 @@ void tst_HistoryWindow::howMuchToKeep()
     QCOMPARE(db.history().limit().days, 90);
     QCOMPARE(db.history().limit().megabytes, 0);
     open("actionHistory", [&](QDialog* dialog) {
-        const testsupport::ModalAnswer none(
-            [](QDialog* limit) {
-                QCOMPARE(child<QSpinBox>(limit, "daysSpinBox")->value(), 90);
-                child<QCheckBox>(limit, "daysCheckBox")->click();
-                confirm(limit);
-            },
-            dialog);
+        const testsupport::ModalAnswer none([](QDialog* limit) {
+            QCOMPARE(child<QSpinBox>(limit, "daysSpinBox")->value(), 90);
+            child<QCheckBox>(limit, "daysCheckBox")->click();
+            confirm(limit);
+        });
         child<QPushButton>(dialog, "keepButton")->click();
         QVERIFY(none.fired());
     });

@@ -20,7 +20,9 @@
 
 using namespace ko;
 using testsupport::Answers;
+using testsupport::cancel;
 using testsupport::child;
+using testsupport::confirm;
 
 namespace {
 

@@ -16,8 +16,11 @@
 
 using namespace ko;
 using testsupport::Answers;
+using testsupport::cancel;
 using testsupport::child;
+using testsupport::confirm;
 using testsupport::ModalAnswer;
+using testsupport::press;
 
 namespace {
 

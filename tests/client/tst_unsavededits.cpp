@@ -164,12 +164,10 @@ void tst_UnsavedEdits::nothingEnteredAsksNothing()
         }
         for (int turn = 0; turn < 5; ++turn)
             QCoreApplication::processEvents();
-        const ModalAnswer box(
-            [&asked](QDialog* question) {
-                asked = question->objectName();
-                question->reject();
-            },
-            dialog);
+        const ModalAnswer box([&asked](QDialog* question) {
+            asked = question->objectName();
+            question->reject();
+        });
         QTest::keyClick(dialog, Qt::Key_Escape);
         QVERIFY(!dialog->isVisible() || !asked.isEmpty());
     });

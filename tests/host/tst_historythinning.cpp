@@ -1,3 +1,4 @@
+#include "LogTesting.h"
 #include "StoreTesting.h"
 #include "support/Patience.h"
 #include "support/TestMain.h"
@@ -21,14 +22,6 @@ using namespace testsupport;
 namespace {
 
 constexpr qint64 Day = qint64(24) * 60 * 60 * 1000;
-
-QStringList texts(const LogReport& report)
-{
-    QStringList result;
-    for (const LogFinding& finding : report.findings)
-        result.append(finding.text());
-    return result;
-}
 
 } // namespace
 
@@ -57,7 +50,7 @@ private slots:
     void keeperFollowsTheSettings();
 
 private:
-    LogReport report(const LogEnd& known = LogEnd()) const;
+    LogReport report(const LogEnd& known = LogEnd()) const { return reportOf(m_file, known); }
     void writeMuch();
     LogThinning::Outcome thin(qint64 last, int steps = std::numeric_limits<int>::max());
     qint64 count(const char* what) const { return PlainSql(m_file).run(QLatin1String(what)).toLongLong(); }
@@ -95,16 +88,6 @@ void tst_HistoryThinning::init()
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath(QLatin1String("nodes.kodb"));
     QVERIFY(QFile::copy(m_whole, m_file));
-}
-
-LogReport tst_HistoryThinning::report(const LogEnd& known) const
-{
-    StoreError error;
-    const std::optional<LogReport> report = NodeStore::verifyLogs(
-        m_file, known, [](qint64) { return true; }, &error);
-    if (!report)
-        qWarning("%s", qPrintable(error.message + error.detail));
-    return report.value_or(LogReport());
 }
 
 /// As NodeStore::thinHistory() does it, without a clock.

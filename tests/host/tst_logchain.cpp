@@ -1,3 +1,4 @@
+#include "LogTesting.h"
 #include "StoreTesting.h"
 #include "support/TestMain.h"
 
@@ -23,14 +24,6 @@ QString kept(const QString& file, const QString& copy)
 {
     QFile::remove(copy);
     return QFile::copy(file, copy) ? copy : QString();
-}
-
-QStringList texts(const LogReport& report)
-{
-    QStringList result;
-    for (const LogFinding& finding : report.findings)
-        result.append(finding.text());
-    return result;
 }
 
 } // namespace
@@ -63,7 +56,7 @@ private slots:
     void storingGoesOn();
 
 private:
-    LogReport report(const LogEnd& known = LogEnd()) const;
+    LogReport report(const LogEnd& known = LogEnd()) const { return reportOf(m_file, known); }
     void write(int changes);
     bool alterAtRandom(std::mt19937& random, QString* what);
     static void useKey(const QString& file);
@@ -114,16 +107,6 @@ void tst_LogChain::init()
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = kept(m_whole, m_folder->filePath(QLatin1String("nodes.kodb")));
     QVERIFY(!m_file.isEmpty());
-}
-
-LogReport tst_LogChain::report(const LogEnd& known) const
-{
-    StoreError error;
-    const std::optional<LogReport> report = NodeStore::verifyLogs(
-        m_file, known, [](qint64) { return true; }, &error);
-    if (!report)
-        qWarning("%s", qPrintable(error.message + error.detail));
-    return report.value_or(LogReport());
 }
 
 void tst_LogChain::logIsIntact()

@@ -3,6 +3,8 @@
 
 #include "support/ModalAnswer.h"
 
+#include <QDialogButtonBox>
+#include <QPushButton>
 #include <QStringList>
 #include <QVector>
 
@@ -10,6 +12,21 @@
 #include <vector>
 
 namespace testsupport {
+
+inline void press(QDialog* dialog, QDialogButtonBox::StandardButton button)
+{
+    dialog->findChild<QDialogButtonBox*>()->button(button)->click();
+}
+
+inline void confirm(QDialog* dialog)
+{
+    press(dialog, QDialogButtonBox::Ok);
+}
+
+inline void cancel(QDialog* dialog)
+{
+    press(dialog, QDialogButtonBox::Cancel);
+}
 
 /// Answers one dialog after the other; those that came are named.
 class Answers
@@ -20,23 +37,23 @@ public:
     explicit Answers(const QVector<Action>& actions)
         : m_actions(actions)
     {
-        next(nullptr);
+        next();
     }
 
     QStringList opened() const { return m_opened; }
 
 private:
-    void next(QDialog* open)
+    void next()
     {
         if (m_opened.size() >= m_actions.size())
             return;
         const auto answer = [this](QDialog* dialog) {
             m_opened.append(dialog->objectName());
             const Action action = m_actions.at(m_opened.size() - 1);
-            next(dialog);
+            next();
             action(dialog);
         };
-        m_answers.push_back(std::make_unique<ModalAnswer>(answer, open));
+        m_answers.push_back(std::make_unique<ModalAnswer>(answer));
     }
 
     const QVector<Action> m_actions;

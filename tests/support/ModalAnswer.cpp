@@ -4,15 +4,21 @@
 #include <QApplication>
 #include <QProgressDialog>
 #include <QTest>
+#include <QVector>
 
 #include <cstdio>
 #include <cstdlib>
 
 namespace testsupport {
 
-ModalAnswer::ModalAnswer(std::function<void(QDialog*)> action, QDialog* open)
+namespace {
+
+QVector<QDialog*> inAction; ///< whose actions run, the outermost first
+
+} // namespace
+
+ModalAnswer::ModalAnswer(std::function<void(QDialog*)> action)
     : m_action(std::move(action))
-    , m_open(open)
 {
     m_timer.setInterval(5);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(look()));
@@ -22,12 +28,14 @@ ModalAnswer::ModalAnswer(std::function<void(QDialog*)> action, QDialog* open)
 void ModalAnswer::look()
 {
     QDialog* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog || dialog == m_open || !dialog->isVisible() || m_fired ||
+    if (!dialog || inAction.contains(dialog) || !dialog->isVisible() || m_fired ||
         qobject_cast<QProgressDialog*>(dialog))
         return; // progress is no question
     m_timer.stop();
     m_fired = true;
+    inAction.append(dialog);
     m_action(dialog);
+    inAction.removeLast();
     if (dialog->isVisible())
         dialog->reject();
 }

@@ -2,7 +2,6 @@
 #define TESTS_SUPPORT_MODALANSWER_H
 
 #include <QDialog>
-#include <QPointer>
 #include <QTimer>
 
 #include <functional>
@@ -12,14 +11,14 @@ namespace testsupport {
 /// Answers the next modal dialog, as a user sitting in front of it would.
 ///
 /// Make one before the call that opens the dialog. The action runs once the dialog is shown and must
-/// close it; a dialog it leaves open is rejected. fired() tells whether a dialog came at all.
+/// close it; a dialog it leaves open is rejected. fired() tells whether a dialog came at all. A dialog
+/// whose action still runs is not the next one, however long that takes.
 class ModalAnswer : public QObject
 {
     Q_OBJECT
 
 public:
-    /// \a open is not the next one: it is open already.
-    explicit ModalAnswer(std::function<void(QDialog*)> action, QDialog* open = nullptr);
+    explicit ModalAnswer(std::function<void(QDialog*)> action);
 
     bool fired() const { return m_fired; }
 
@@ -31,7 +30,6 @@ private slots:
 
 private:
     const std::function<void(QDialog*)> m_action;
-    const QPointer<QDialog> m_open;
     QTimer m_timer;
     bool m_fired = false;
 };
