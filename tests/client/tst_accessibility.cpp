@@ -14,8 +14,7 @@
 namespace {
 
 const char script[] = KO_SOURCE_DIR "/tests/support/read-window";
-constexpr int Joining = 5000;  // ms
-constexpr int DidNotJoin = 75; // with-desktop starts it again
+constexpr int Skipped = 77; // as with-desktop says it
 const char desktop[] = KO_SOURCE_DIR "/tests/support/with-desktop";
 
 /// With the session's bus, which prepareApplication() keeps from everything else.
@@ -84,6 +83,10 @@ void tst_Accessibility::windowsCanBeRead()
 /// In a session of its own, which has a bus and a screen.
 int main(int argc, char** argv)
 {
+    if (QT_VERSION < QT_VERSION_CHECK(6, 0, 0)) {
+        std::puts("skipped: whether a program joins the bus of screen readers is chance with Qt 5");
+        return Skipped;
+    }
     if (qEnvironmentVariableIsEmpty("KO_TEST_DESKTOP")) {
         std::vector<char*> command = {const_cast<char*>(desktop)};
         command.insert(command.end(), argv, argv + argc + 1); // with the null at its end
@@ -95,8 +98,10 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QWidget first; // the toolkit joins the bus when there is a window
     first.show();
-    if (!QTest::qWaitFor([] { return isKnown(); }, Joining))
-        return DidNotJoin;
+    if (!QTest::qWaitFor([] { return isKnown(); }, testsupport::Patience)) {
+        std::fputs("the program did not join the bus of screen readers\n", stderr);
+        return EXIT_FAILURE;
+    }
     first.hide();
     testsupport::prepareApplication();
     tst_Accessibility test;

@@ -13,7 +13,12 @@ namespace testsupport {
 
 namespace {
 
-QVector<QDialog*> inAction; ///< whose actions run, the outermost first
+/// Whose actions run, the outermost first.
+QVector<QDialog*>& inAction()
+{
+    static QVector<QDialog*> dialogs;
+    return dialogs;
+}
 
 } // namespace
 
@@ -28,14 +33,14 @@ ModalAnswer::ModalAnswer(std::function<void(QDialog*)> action)
 void ModalAnswer::look()
 {
     QDialog* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!dialog || inAction.contains(dialog) || !dialog->isVisible() || m_fired ||
+    if (!dialog || inAction().contains(dialog) || !dialog->isVisible() || m_fired ||
         qobject_cast<QProgressDialog*>(dialog))
         return; // progress is no question
     m_timer.stop();
     m_fired = true;
-    inAction.append(dialog);
+    inAction().append(dialog);
     m_action(dialog);
-    inAction.removeLast();
+    inAction().removeLast();
     if (dialog->isVisible())
         dialog->reject();
 }
