@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QHash>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMetaMethod>
@@ -37,11 +38,22 @@ const QDialogButtonBox* buttonsOf(const QDialog& dialog)
     return nullptr;
 }
 
+/// What its user enters. To look for it in all classes of all widgets takes longer than all else here.
+QMetaProperty userPropertyOf(const QWidget& widget)
+{
+    static QHash<const QMetaObject*, QMetaProperty> known;
+    const QMetaObject* type = widget.metaObject();
+    auto property = known.constFind(type);
+    if (property == known.constEnd())
+        property = known.insert(type, type->userProperty());
+    return *property;
+}
+
 bool isField(const QWidget& widget, const QDialog& dialog)
 {
-    return widget.window() == &dialog && !widget.objectName().isEmpty() &&
-           widget.objectName() != environments && widget.metaObject()->userProperty().isValid() &&
-           !qobject_cast<const QPushButton*>(&widget) && !qobject_cast<const QToolButton*>(&widget);
+    return userPropertyOf(widget).isValid() && widget.window() == &dialog && !widget.objectName().isEmpty() &&
+           widget.objectName() != environments && !qobject_cast<const QPushButton*>(&widget) &&
+           !qobject_cast<const QToolButton*>(&widget);
 }
 
 QVariant itemsOf(const QListWidget& list)
@@ -59,7 +71,7 @@ QVariant valueOf(const QWidget& field)
         return itemsOf(*list);
     const auto* choice = qobject_cast<const QComboBox*>(&field);
     return choice && !choice->isEditable() ? QVariant(choice->currentIndex())
-                                           : field.metaObject()->userProperty().read(&field);
+                                           : userPropertyOf(field).read(&field);
 }
 
 QString placeOf(const QWidget& field, const QDialog& dialog)
@@ -136,17 +148,19 @@ void UnsavedEdits::beginApplying(QDialog& dialog, QPushButton& apply)
         // And as the form writes it once it has seen what was stored.
         QTimer::singleShot(0, &dialog, [this, &dialog] { applied(dialog); });
     });
-    enableApply(dialog);
+    enableApply(dialog, false);
 }
 
 void UnsavedEdits::watch(QWidget& field)
 {
-    const QMetaMethod changed = field.metaObject()->userProperty().notifySignal();
+    const QMetaMethod changed = userPropertyOf(field).notifySignal();
     connect(&field, changed, this, metaObject()->method(metaObject()->indexOfSlot("fieldChanged()")));
     if (qobject_cast<const QComboBox*>(&field)) // of which two entries may have one text
         connect(&field, SIGNAL(currentIndexChanged(int)), this, SLOT(fieldChanged()));
     if (const auto* list = qobject_cast<const QListWidget*>(&field)) {
-        const auto tell = [this, window = qobject_cast<QDialog*>(field.window())] { enableApply(*window); };
+        const auto tell = [this, window = qobject_cast<QDialog*>(field.window())] {
+            enableApply(*window, isTouched(*window));
+        };
         connect(list->model(), &QAbstractItemModel::rowsInserted, &field, tell);
         connect(list->model(), &QAbstractItemModel::rowsRemoved, &field, tell);
     }
@@ -155,22 +169,22 @@ void UnsavedEdits::watch(QWidget& field)
 void UnsavedEdits::fieldChanged()
 {
     if (const auto* dialog = qobject_cast<const QDialog*>(static_cast<QWidget*>(sender())->window()))
-        enableApply(*dialog);
+        enableApply(*dialog, isTouched(*dialog));
 }
 
 void UnsavedEdits::applied(QDialog& dialog)
 {
     m_stored.insert(&dialog, valuesOf(dialog));
-    enableApply(dialog);
+    enableApply(dialog, false);
 }
 
 /// Where OK is refused, by a field that says why, there is nothing to apply either.
-void UnsavedEdits::enableApply(const QDialog& dialog) const
+void UnsavedEdits::enableApply(const QDialog& dialog, bool isTouched)
 {
     const QDialogButtonBox* buttons = buttonsOf(dialog);
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
     QPushButton* apply = buttons->button(QDialogButtonBox::Apply);
-    const bool canApply = ok->isEnabled() && isTouched(dialog);
+    const bool canApply = ok->isEnabled() && isTouched;
     if (!canApply && dialog.focusWidget() == apply)
         ok->setFocus(); // the toolkit would hand it to the first field of the window
     apply->setEnabled(canApply);

@@ -32,11 +32,11 @@ private:
     typedef QMap<QString, QVariant> Values; ///< by the names of the fields
 
     static Values valuesOf(const QDialog& dialog);
+    static void enableApply(const QDialog& dialog, bool isTouched);
     void begin(QDialog& dialog);
     void beginApplying(QDialog& dialog, QPushButton& apply);
     void watch(QWidget& field);
     void applied(QDialog& dialog);
-    void enableApply(const QDialog& dialog) const;
     bool isTouched(const QDialog& dialog) const;
 
     QHash<const QObject*, Values> m_stored; ///< what is stored, as each open dialog shows it

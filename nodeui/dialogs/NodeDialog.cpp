@@ -64,8 +64,10 @@ void NodeDialog::embed(InspectorWidget* inspector, QWidget* container, QDialogBu
     QVBoxLayout* layout = new QVBoxLayout(container);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(inspector);
-    inspector->show(); // a dialog that is open already does not show what joins it
-    layout->activate();
+    if (container->isVisible()) { // a dialog that is open already does not show what joins it
+        inspector->show();
+        layout->activate();
+    }
     moveToEndOfTabOrder(buttons);
 }
 
