@@ -8,6 +8,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <malloc.h>
+
 namespace bench {
 
 template <class Work>
@@ -17,6 +19,13 @@ double milliseconds(Work work)
     timer.start();
     work();
     return double(timer.nsecsElapsed()) / 1e6;
+}
+
+/// By the program, in place of milliseconds.
+inline double bytesInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return double(info.uordblks + info.hblkhd);
 }
 
 /// Everything that is due now, layouts and paint events included.

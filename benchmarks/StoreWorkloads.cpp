@@ -12,8 +12,6 @@
 #include <QFile>
 #include <QUuid>
 
-#include <malloc.h>
-
 namespace bench {
 
 using namespace ko;
@@ -178,13 +176,6 @@ private:
     QTemporaryDir m_folder;
     const QString m_file;
 };
-
-/// Bytes in use by the program, in place of milliseconds.
-double bytesInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return double(info.uordblks + info.hblkhd);
-}
 
 /// Memory of an open database against the bytes of its strings.
 class Remembering : public Contest

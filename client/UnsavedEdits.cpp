@@ -43,10 +43,8 @@ QMetaProperty userPropertyOf(const QWidget& widget)
 {
     static QHash<const QMetaObject*, QMetaProperty> known;
     const QMetaObject* type = widget.metaObject();
-    auto property = known.constFind(type);
-    if (property == known.constEnd())
-        property = known.insert(type, type->userProperty());
-    return *property;
+    const auto found = known.constFind(type);
+    return found != known.constEnd() ? *found : *known.insert(type, type->userProperty());
 }
 
 bool isField(const QWidget& widget, const QDialog& dialog)

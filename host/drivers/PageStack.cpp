@@ -22,6 +22,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace ko {
 
 namespace {
@@ -185,7 +187,8 @@ void PageStack::accept(NodeHint* hint)
 
 void PageStack::refresh()
 {
-    m_isStale = false;
+    if (std::exchange(m_isStale, false))
+        capture(); // what was stored; nobody can have typed since
     for (Page& page : m_pages) {
         // A second page is filled and compared, for filling the one that is shown again would lose what
         // was typed, and some pages add to their lists each time.
@@ -199,7 +202,6 @@ void PageStack::refresh()
 
 void PageStack::stored()
 {
-    capture();
     m_isStale = true;
     QTimer::singleShot(0, this, [this] { refreshStale(); });
 }
