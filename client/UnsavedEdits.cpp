@@ -177,12 +177,12 @@ void UnsavedEdits::applied(QDialog& dialog)
 }
 
 /// Where OK is refused, by a field that says why, there is nothing to apply either.
-void UnsavedEdits::enableApply(const QDialog& dialog, bool isTouched)
+void UnsavedEdits::enableApply(const QDialog& dialog, bool touched)
 {
     const QDialogButtonBox* buttons = buttonsOf(dialog);
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
     QPushButton* apply = buttons->button(QDialogButtonBox::Apply);
-    const bool canApply = ok->isEnabled() && isTouched;
+    const bool canApply = ok->isEnabled() && touched;
     if (!canApply && dialog.focusWidget() == apply)
         ok->setFocus(); // the toolkit would hand it to the first field of the window
     apply->setEnabled(canApply);

@@ -32,7 +32,7 @@ private:
     typedef QMap<QString, QVariant> Values; ///< by the names of the fields
 
     static Values valuesOf(const QDialog& dialog);
-    static void enableApply(const QDialog& dialog, bool isTouched);
+    static void enableApply(const QDialog& dialog, bool touched);
     void begin(QDialog& dialog);
     void beginApplying(QDialog& dialog, QPushButton& apply);
     void watch(QWidget& field);

@@ -3,7 +3,6 @@
 #include "support/TestMain.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -12,6 +11,7 @@
 using namespace ko;
 using testsupport::Answers;
 using testsupport::child;
+using testsupport::confirm;
 using testsupport::ModalAnswer;
 
 /// Several nodes that are like each other are added one after the other.
@@ -59,7 +59,7 @@ void tst_AddAndNext::nextIsLikeTheOneBefore()
              QCOMPARE(dialog->focusWidget(), child<QLineEdit>(dialog, "nameLineEdit"));
              type(dialog, "nameLineEdit", "Two");
              type(dialog, "addressLineEdit", "10.9.0.2");
-             dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+             confirm(dialog);
          }});
     trigger("actionAdd");
     QCOMPARE(answers.opened(), QStringList({"AddNodeDialog", "AddNodeDialog"}));

@@ -2,16 +2,15 @@
 #include "support/Answers.h"
 #include "support/TestMain.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSpinBox>
 
 using namespace ko;
 using testsupport::Answers;
 using testsupport::child;
+using testsupport::confirm;
 using testsupport::ModalAnswer;
 
 namespace {
@@ -24,11 +23,6 @@ void enter(QDialog* dialog, const char* field, const QString& text)
     edit->setFocus();
     edit->selectAll();
     text.isEmpty() ? QTest::keyClick(edit, Qt::Key_Delete) : QTest::keyClicks(edit, text);
-}
-
-void confirm(QDialog* dialog)
-{
-    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
 }
 
 } // namespace

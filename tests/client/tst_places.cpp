@@ -8,19 +8,18 @@
 #include "exchange/CameraSurvey.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QFile>
 #include <QLineEdit>
 #include <QMimeData>
-#include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
 
 using namespace ko;
 using testsupport::Answers;
 using testsupport::child;
+using testsupport::confirm;
 using testsupport::ModalAnswer;
 
 /// Devices by where they are: the tree beside the list, what is dropped on it, and tags.
@@ -261,7 +260,7 @@ void tst_Places::askedForMany()
         location->lineEdit()->selectAll();
         QTest::keyClicks(location->lineEdit(), "Bonn / Hall");
         QTest::keyClicks(child<QLineEdit>(dialog, "tagsLineEdit"), "outdoors,  new");
-        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        confirm(dialog);
     }});
     trigger("actionPlace");
     QCOMPARE(answers.opened(), QStringList("PlaceDialog"));
@@ -280,7 +279,7 @@ void tst_Places::differentStaysDifferent()
     const Answers answers({[](QDialog* dialog) {
         QVERIFY(child<QComboBox>(dialog, "locationComboBox")->currentText().isEmpty());
         child<QLineEdit>(dialog, "tagsLineEdit")->setText("old");
-        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        confirm(dialog);
     }});
     trigger("actionPlace");
     QCOMPARE(answers.opened().size(), 1);
@@ -315,7 +314,7 @@ void tst_Places::editorShowsThem()
         auto* location = child<QLineEdit>(dialog, "Location");
         QCOMPARE(location->text(), QString("Berlin/Mainz"));
         location->setText("Bonn");
-        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        confirm(dialog);
     }});
     trigger("actionEdit");
     QCOMPARE(answers.opened().size(), 1);

@@ -11,24 +11,14 @@
 #include "utils/NodeDBUtils.h"
 
 #include <QAction>
-#include <QDialogButtonBox>
 #include <QFile>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 
 using namespace ko;
 using testsupport::Answers;
 using testsupport::child;
-
-namespace {
-
-void confirm(QDialog* dialog)
-{
-    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-}
-
-} // namespace
+using testsupport::confirm;
 
 /// Where recordings are played from, set in the client's windows for cameras as they come in: by a scan and
 /// in a list.
