@@ -34,6 +34,7 @@ NetworkProxyWidget::NetworkProxyWidget(QWidget* parent)
         m_ui->exceptionsLineEdit->setToolTip(
             tr("Enter hosts and domains for which proxy settings should not be used.<br>Use semicolon (;) as "
                "separator and asterisk (*) for wildcards, e.g.:<br><b>*.example.org; 10.*; 192.168.*</b>"));
+        describePlainly(this);
     });
 }
 

@@ -49,7 +49,7 @@ private:
     QSortFilterProxyModel* const m_proxy;
 };
 
-/// The viewer's columns over the list of nodes; entries that are no nodes show nothing.
+/// The viewer's columns over the list of nodes; entries that are not nodes show nothing.
 class KO_NODEUI_EXPORT NodeDBViewer::ViewerModel : public NodeViewModel
 {
 public:

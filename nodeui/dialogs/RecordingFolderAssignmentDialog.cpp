@@ -36,6 +36,7 @@ RecordingFolderAssignmentDialog::RecordingFolderAssignmentDialog(const QString& 
     , m_cameraId(cameraId)
 {
     m_ui->setupUi(this);
+    describePlainly(this);
     onLanguageChange(this, [this] { retranslate(); });
     m_table.reset(new RecordingFolderTable(m_ui->relatedNodesWidget));
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);

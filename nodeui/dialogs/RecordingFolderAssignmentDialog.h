@@ -16,7 +16,7 @@ namespace ko {
 
 class RecordingFolderTable;
 
-/// From where the recordings of one camera are played: via the camera, below the default file server
+/// Where the recordings of one camera are played from: via the camera, below the default file server
 /// path, or from a recording folder of its own.
 ///
 /// OK hands the choice to NodeDBUtils::configurePlayerSource(). Two things are written before: a camera of

@@ -14,7 +14,7 @@ class RecordingFolderMassAssignmentDialog;
 
 namespace ko {
 
-/// Sets from where the recordings of many cameras are played: via the camera, below the default file
+/// Sets where the recordings of many cameras are played from: via the camera, below the default file
 /// server path or below a specific one.
 ///
 /// The choice begins as the first camera has it. OK configures every IP camera of the list, see

@@ -4,6 +4,7 @@
 #include "ko/NodeDB.h"
 #include "ko/PropertyKeys.h"
 #include "ko/connect.h"
+#include "utils/NaturalOrder.h"
 
 #include <QHeaderView>
 #include <QTableWidget>
@@ -20,7 +21,7 @@ enum Column { NameColumn, PathColumn, IdColumn };
 
 const int rowHeight = 20;
 
-/// Up to so many rows are removed one by one.
+/// Up to this many rows are removed one by one.
 const int fewRows = 16;
 
 bool isFolder(const QString& id)
@@ -116,7 +117,10 @@ public:
     bool operator<(const QTableWidgetItem& other) const override
     {
         const FolderCell& cell = static_cast<const FolderCell&>(other); // the columns hold nothing else
-        return m_row->isGone == cell.m_row->isGone ? m_text < cell.m_text : cell.m_row->isGone;
+        if (m_row->isGone != cell.m_row->isGone)
+            return cell.m_row->isGone;
+        const int order = compareNaturally(m_text, cell.m_text, Qt::CaseInsensitive);
+        return order != 0 ? order < 0 : m_text < cell.m_text;
     }
 
 private:

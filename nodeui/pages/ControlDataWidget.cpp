@@ -14,6 +14,7 @@ ControlDataWidget::ControlDataWidget(QWidget* parent)
     , m_ui(new Ui::ControlDataWidget)
 {
     m_ui->setupUi(this);
+    describePlainly(this);
     onLanguageChange(this, [this] { retranslateForm(*m_ui, this); });
 }
 

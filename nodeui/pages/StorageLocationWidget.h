@@ -16,7 +16,7 @@ namespace ko {
 class Node;
 class NodeHint;
 
-/// Page that tells from where a camera's recordings are played, and leads to the dialog that changes it.
+/// Page that tells where a camera's recordings are played from, and leads to the dialog that changes it.
 ///
 /// The page itself writes nothing.
 class KO_NODEUI_EXPORT StorageLocationWidget : public QWidget

@@ -1,8 +1,12 @@
 #include "utils/FileDialogs.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFileIconProvider>
+#include <QLineEdit>
+#include <QPushButton>
 
 namespace ko {
 
@@ -63,6 +67,55 @@ private:
     }
 };
 
+/// One of a server, "//server/share", which the desktop need not have mounted.
+bool isOnServer(const QString& path)
+{
+    return path.startsWith(QLatin1String("//")) || path.startsWith(QLatin1String("\\\\"));
+}
+
+/// Takes such a folder by its name, too, which the toolkit's own would refuse since it cannot see it.
+class FolderDialog : public Dialog
+{
+public:
+    FolderDialog(QWidget* parent, const QString& title, const QString& start)
+        : Dialog(parent, title, QString(), start)
+    {
+        setOption(QFileDialog::DontUseNativeDialog); // none of the desktops' can be taught that
+        setFileMode(QFileDialog::Directory);
+        setOption(QFileDialog::ShowDirsOnly);
+        findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->installEventFilter(this);
+    }
+
+    QString choose()
+    {
+        const QString folder = Dialog::choose();
+        return m_onServer.isEmpty() ? folder : m_onServer;
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        QWidget* choose = event->type() == QEvent::EnabledChange ? qobject_cast<QWidget*>(watched) : nullptr;
+        if (choose && !choose->isEnabled() && isOnServer(typed()))
+            choose->setEnabled(true);
+        return Dialog::eventFilter(watched, event);
+    }
+
+    void accept() override
+    {
+        m_onServer = isOnServer(typed()) ? typed() : QString();
+        if (m_onServer.isEmpty() || QFileInfo(m_onServer).isDir())
+            QFileDialog::accept();
+        else
+            QDialog::accept();
+    }
+
+private:
+    QString typed() const { return findChild<QLineEdit*>(QLatin1String("fileNameEdit"))->text().trimmed(); }
+
+    QString m_onServer; ///< what was chosen by its name
+};
+
 } // namespace
 
 QString openFile(QWidget* parent, const QString& title, const QString& filter)
@@ -92,9 +145,7 @@ QString saveFile(QWidget* parent, const QString& title, const QString& name, con
 
 QString existingFolder(QWidget* parent, const QString& title, const QString& start)
 {
-    Dialog dialog(parent, title, QString(), start);
-    dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
+    FolderDialog dialog(parent, title, start);
     return dialog.choose();
 }
 

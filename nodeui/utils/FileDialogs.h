@@ -27,7 +27,8 @@ KO_NODEUI_EXPORT QString fileOrNewName(QWidget* parent, const QString& title,
 KO_NODEUI_EXPORT QString saveFile(QWidget* parent, const QString& title, const QString& name,
                                   const QString& filter = QString());
 
-/// A folder that exists. Begins with \a start, if there is one.
+/// A folder that exists, or one of a server by its name, "//server/share", which this computer may see only
+/// when it is used. Begins with \a start, if there is one.
 KO_NODEUI_EXPORT QString existingFolder(QWidget* parent, const QString& title,
                                         const QString& start = QString());
 

@@ -6,8 +6,9 @@ namespace ko {
 
 namespace {
 
-const int moment = 300;  // ms, after which a window that does nothing looks broken
-const int interval = 50; // ms
+const int moment = 300; // ms, after which a window that does nothing looks broken
+const int frame =
+    10; // ms, after which everything else has its turn; as long as that takes, if it takes longer
 
 } // namespace
 
@@ -16,17 +17,25 @@ LongWork::LongWork(const QString& title, const QString& text, int steps, QWidget
     , m_text(text)
     , m_steps(steps)
     , m_parent(parent)
+    , m_untilTurn(frame)
 {
-    m_sinceShown.start();
+    m_sinceBegin.start();
+    m_sinceTurn.start();
 }
 
 LongWork::~LongWork() = default;
 
 bool LongWork::goOn()
 {
-    if (m_sinceShown.hasExpired(m_dialog ? interval : moment)) {
-        show();
-        m_sinceShown.start();
+    if (m_sinceTurn.hasExpired(m_untilTurn)) {
+        m_sinceTurn.start();
+        if (m_dialog || m_sinceBegin.hasExpired(moment))
+            show();
+        // Until there is something to click, a click is meant for what comes afterwards.
+        QCoreApplication::processEvents(m_dialog ? QEventLoop::AllEvents
+                                                 : QEventLoop::ExcludeUserInputEvents);
+        m_untilTurn = qMax(frame, int(m_sinceTurn.elapsed()));
+        m_sinceTurn.start();
     }
     const bool goesOn = !m_dialog || !m_dialog->wasCanceled();
     m_done += goesOn;
@@ -47,7 +56,6 @@ void LongWork::show()
         m_dialog->show();
     }
     m_dialog->setValue(m_done);
-    QCoreApplication::processEvents();
 }
 
 } // namespace ko

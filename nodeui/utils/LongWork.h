@@ -34,7 +34,9 @@ private:
     const int m_steps;
     QWidget* const m_parent;
     int m_done = 0;
-    QElapsedTimer m_sinceShown; ///< or since the beginning
+    QElapsedTimer m_sinceBegin;
+    QElapsedTimer m_sinceTurn; ///< of the event loop
+    int m_untilTurn;           ///< ms, from one to the next
     std::unique_ptr<QProgressDialog> m_dialog;
 };
 

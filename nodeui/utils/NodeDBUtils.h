@@ -50,7 +50,7 @@ public:
     /// Makes the recording folder of a camera, or refreshes the one that the database takes for the same.
     ///
     /// With \a useGlobalPath the folder is named by the camera's factory extension and \a path is
-    /// ignored. Answers the folder's id; a null string without the camera or a driver of folders.
+    /// ignored. Returns the folder's id; a null string without the camera or a driver of folders.
     static QString createRecordingFolderNode(const QString& cameraId, bool useGlobalPath,
                                              const QString& path);
 

@@ -2,6 +2,8 @@
 
 #include <QEvent>
 #include <QLineEdit>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 #include <QWidget>
 
 #include <utility>
@@ -43,6 +45,16 @@ void setTranslated(QWidget* widget, const std::function<void()>& setTexts)
 void onLanguageChange(QWidget* widget, const std::function<void()>& setTexts)
 {
     new LanguageFilter(widget, setTexts);
+}
+
+void describePlainly(QWidget* widget)
+{
+    const QList<QWidget*> parts = widget->findChildren<QWidget*>();
+    for (QWidget* part : parts) {
+        const QString tip = part->toolTip();
+        if (Qt::mightBeRichText(tip))
+            part->setAccessibleDescription(QTextDocumentFragment::fromHtml(tip).toPlainText());
+    }
 }
 
 KeptEntries::KeptEntries(QWidget* widget)

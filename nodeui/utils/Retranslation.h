@@ -39,12 +39,16 @@ private:
     QList<Entry> m_entries;
 };
 
+/// What the tool tips in \a widget say in rich text is said to screen readers without its markup.
+KO_NODEUI_EXPORT void describePlainly(QWidget* widget);
+
 /// As form.retranslateUi() does, which however empties the fields that are empty in the form.
 template <class Form, class Widget>
 void retranslateForm(Form& form, Widget* widget)
 {
     const KeptEntries kept(widget);
     form.retranslateUi(widget);
+    describePlainly(widget);
 }
 
 } // namespace ko

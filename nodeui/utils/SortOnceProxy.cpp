@@ -1,12 +1,13 @@
 #include "utils/SortOnceProxy.h"
 
 #include "ko/connect.h"
+#include "utils/NaturalOrder.h"
 
 namespace ko {
 
 namespace {
 
-/// From so many on, sorting all takes less time.
+/// From this many on, sorting all takes less time.
 const int manyRows = 1000;
 
 } // namespace
@@ -91,13 +92,18 @@ bool SortOnceProxy::lessThan(const QModelIndex& left, const QModelIndex& right) 
     const auto isRead = [this](const QModelIndex& index) {
         return index.row() < m_cells.size() && m_cells.at(index.row()).row == quintptr(index.internalId());
     };
-    if (!isRead(left) || !isRead(right))
-        return QSortFilterProxyModel::lessThan(left, right);
+    if (!isRead(left) || !isRead(right)) {
+        const QVariant first = left.data(sortRole());
+        const QVariant second = right.data(sortRole());
+        if (first.userType() != QMetaType::QString || second.userType() != QMetaType::QString)
+            return QSortFilterProxyModel::lessThan(left, right);
+        return compareNaturally(first.toString(), second.toString(), sortCaseSensitivity()) < 0;
+    }
     const Cell& first = m_cells.at(left.row());
     const Cell& second = m_cells.at(right.row());
     if (first.isEmpty || second.isEmpty)
         return !first.isEmpty; // what shows nothing comes last
-    return first.text.compare(second.text, sortCaseSensitivity()) < 0;
+    return compareNaturally(first.text, second.text, sortCaseSensitivity()) < 0;
 }
 
 } // namespace ko

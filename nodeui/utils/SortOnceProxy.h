@@ -9,8 +9,8 @@ namespace ko {
 /// Puts many rows that are inserted together, or change, in order by one sort of all. The toolkit's own looks
 /// for the place of each and moves all that follow, which takes a time that grows with the square.
 ///
-/// Compares texts as the toolkit does, which asks the model for each comparison; here it is asked once for
-/// each row.
+/// Compares texts naturally. The toolkit asks the model for each comparison; here it is asked once for each
+/// row.
 class SortOnceProxy : public QSortFilterProxyModel
 {
     Q_OBJECT

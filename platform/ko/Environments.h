@@ -23,8 +23,8 @@ public:
     virtual List getList() const = 0;
     virtual void setList(const List& list) = 0;
 
-    /// Forgets the environment and whatever else is kept for it; also where the list set last no
-    /// longer holds it. An unknown identifier does nothing.
+    /// Forgets the environment and whatever else is kept for it; even one that the list set last no longer
+    /// holds. An unknown identifier does nothing.
     virtual void remove(const QString& id) = 0;
 };
 

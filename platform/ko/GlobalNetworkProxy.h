@@ -42,7 +42,7 @@ public:
     /// Whether some pattern matches \a address; an empty address is matched by none.
     bool isAffectedFromExceptions(const QString& address) const;
 
-    /// Takes over all settings of \a other and says so once, if any differs.
+    /// Copies all settings of \a other, and says so once if any differs.
     void assign(const NetworkProxy& other, const QStringList& exceptions);
 
 signals:

@@ -20,7 +20,7 @@ class KO_PLATFORM_EXPORT Node : public PropertyAccess
 public:
     virtual QString id() const = 0;
 
-    /// Display name as the user gave it; empty when he never named the node. Plain text. The same text
+    /// Display name as the user gave it; empty when the node was never named. Plain text. The same text
     /// is the string property "Name".
     virtual QString name() const = 0;
     virtual QIcon icon() const = 0;

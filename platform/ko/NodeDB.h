@@ -118,7 +118,7 @@ signals:
     void nodeRemoved(ko::NodeID id);
 
 protected:
-    /// Registers the database as the one that getDB() answers; the destructor takes it back.
+    /// Registers the database as the one that getDB() returns; the destructor takes it back.
     explicit NodeDB(QObject* parent = nullptr);
 };
 

@@ -22,7 +22,7 @@ class KO_PLATFORM_EXPORT OncePerFrame : public QObject
 public:
     explicit OncePerFrame(QObject* parent = nullptr);
 
-    /// Whether work of about so many \a microseconds is to be done now. If not, due() will be emitted; until
+    /// Whether work of about \a microseconds is to be done now. If not, due() will be emitted; until
     /// then nothing else is to be done at once either, so that the order stays.
     bool isNow(int microseconds);
 

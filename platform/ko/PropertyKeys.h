@@ -60,9 +60,12 @@ inline const QLatin1String UrlPTZRight("UrlPTZRight");
 inline const QLatin1String UrlPTZZommIn("UrlPTZZommIn");
 inline const QLatin1String UrlPTZZoomOut("UrlPTZZoomOut");
 
-// From where a camera's recordings are played
+// Where a camera's recordings are played from
 inline const QLatin1String RecordingStorageUsage("RecordingStorageUsage");     ///< int: an ERecordingUsage
 inline const QLatin1String UseRecordingTransponder("UseRecordingTransponder"); ///< bool
+
+// Of views
+inline const QLatin1String Nodes("Nodes"); ///< identifiers in their order, separated by ";"
 
 // Of recording folders
 inline const QLatin1String Path("Path");

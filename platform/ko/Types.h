@@ -29,7 +29,7 @@ enum ENodeRelationType : int {
 /// How much of a device's configuration the client may change; -1 where it was never set.
 enum ENodeControl : int { FullControl = 0, ImageMode = 1, ViewerMode = 2 };
 
-/// From where a camera's recordings are played: its property "RecordingStorageUsage".
+/// Where a camera's recordings are played from: its property "RecordingStorageUsage".
 enum ERecordingUsage : int {
     ViaCamera = 0,
     DefaultPath = 1, ///< the camera's folder below the default file server path

@@ -23,7 +23,7 @@ private:
 class KO_PLATFORM_EXPORT KoFFSDevice
 {
 public:
-    /// Answers the volume at a path, null when there is none. Called on the GUI thread: it must not wait
+    /// Returns the volume at a path, null when there is none. Called on the GUI thread: it must not wait
     /// for a network.
     typedef kom::smart<CKoFFSVolume> (*Probe)(const std::wstring& path);
 

@@ -10,6 +10,7 @@
 #include "dialogs/RecordingTransponderCustomSettingsDialog.h"
 #include "ko/IPDeviceNode.h"
 #include "recording/KoFFSDevice.h"
+#include "utils/NaturalOrder.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -656,7 +657,7 @@ void tst_RecordingFolderAssignmentDialog::manyChangesAreSortedOnce()
         const kom::smart<const Node> node = m_db->node(id);
         QVERIFY2(!node.null(), qPrintable(id));
         QCOMPARE(table->item(row, 0)->text(), node->name());
-        QVERIFY2(before <= node->name(), qPrintable(node->name()));
+        QVERIFY2(compareNaturally(before, node->name(), Qt::CaseInsensitive) <= 0, qPrintable(node->name()));
         before = node->name();
     }
 }

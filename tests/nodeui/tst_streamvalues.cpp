@@ -161,7 +161,7 @@ void tst_StreamValues::framerateFromText_data()
     QTest::addColumn<float>("rate");
     QTest::newRow("two characters") << "15" << 0.0f;
     QTest::newRow("any character for the point") << "125" << 125.0f;
-    // The whole match is converted, and the comma is no number.
+    // The whole match is converted, and the comma is not a number.
     QTest::newRow("comma") << "3,5" << 0.0f;
     QTest::newRow("in no list") << "3.5" << 3.5f;
     QTest::newRow("within a text") << "about 7.5 fps" << 7.5f;
