@@ -35,7 +35,7 @@ unsigned char* bytes(QByteArray& array)
     return reinterpret_cast<unsigned char*>(array.data());
 }
 
-/// The same on every computer, and any text comes back as it was, also one that is no proper Unicode.
+/// The same on every computer, and any text comes back as it was, also one that is not proper Unicode.
 QByteArray toBytes(const QString& text)
 {
     QByteArray result(2 * int(text.size()), Qt::Uninitialized);
@@ -110,17 +110,41 @@ Sealer::Sealer(const std::vector<QByteArray>& keys)
 
 QString Sealer::seal(const QString& text, const QString& owner, const QString& property) const
 {
+    QByteArray nonce(NonceSize, Qt::Uninitialized);
+    randombytes_buf(nonce.data(), NonceSize);
+    return seal(text, owner, property, nonce);
+}
+
+QString Sealer::seal(const QString& text, const QString& owner, const QString& property,
+                     const QByteArray& nonce) const
+{
     if (!canSeal())
         return QString();
     QByteArray clear = toBytes(text);
     const QByteArray bound = binding(owner, property);
-    QByteArray result(NonceSize + int(clear.size()) + TagSize, Qt::Uninitialized);
-    randombytes_buf(result.data(), NonceSize);
+    QByteArray result = nonce;
+    result.resize(NonceSize + int(clear.size()) + TagSize);
     crypto_aead_xchacha20poly1305_ietf_encrypt(
         bytes(result) + NonceSize, nullptr, bytes(std::as_const(clear)), quint64(clear.size()), bytes(bound),
         quint64(bound.size()), nullptr, bytes(std::as_const(result)), m_keys.front().get());
     sodium_memzero(clear.data(), std::size_t(clear.size()));
     return QLatin1String(Prefix) + QString::fromLatin1(result.toBase64());
+}
+
+/// Every sealed text has a nonce of its own in it, so what only the key can make of one is a nonce that no
+/// other text gets. What makes nonces is not the key that seals.
+std::optional<QString> Sealer::reseal(const QString& sealed, const Sealer& other, const QString& owner,
+                                      const QString& property) const
+{
+    std::optional<QString> text = other.open(sealed, owner, property);
+    if (!text || !canSeal())
+        return std::nullopt;
+    QByteArray making =
+        keyedHash(m_keys.front().get(), QByteArrayLiteral("konodeui nonces of what is sealed anew"), KeySize);
+    const QByteArray bound = binding(owner, property) + '\0' + sealed.toUtf8();
+    const QByteArray nonce = keyedHash(bytes(std::as_const(making)), bound, NonceSize);
+    sodium_memzero(making.data(), size_t(making.size()));
+    return seal(*text, owner, property, nonce);
 }
 
 std::optional<QString> Sealer::open(const QString& sealed, const QString& owner,

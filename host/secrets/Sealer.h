@@ -12,7 +12,7 @@
 
 namespace ko {
 
-/// Seals texts so that only who has the key can read them, and nobody can change them unnoticed:
+/// Seals texts so that only those who have the key can read them, and nobody can change them unnoticed:
 /// XChaCha20-Poly1305 with a random nonce, bound to the owner and the property that the text belongs to.
 ///
 /// A sealed text is "sealed1:" and the base64 of nonce, encrypted text and tag. Its length tells that of
@@ -35,7 +35,12 @@ public:
     /// Nothing if \a sealed was changed, belongs elsewhere, or was sealed with none of the keys.
     std::optional<QString> open(const QString& sealed, const QString& owner, const QString& property) const;
 
-    /// What only who has the key can make of \a message; empty without a key.
+    /// The text in \a sealed, which \a other opens, sealed with the first key of this; nothing if it does not
+    /// open. The same gives the same again, so what was equal before is equal after.
+    std::optional<QString> reseal(const QString& sealed, const Sealer& other, const QString& owner,
+                                  const QString& property) const;
+
+    /// What only those who have the key can make of \a message; empty without a key.
     QByteArray sign(const QByteArray& message) const;
 
     enum class Signature {
@@ -51,6 +56,9 @@ public:
 
 private:
     typedef std::shared_ptr<const unsigned char> Key;
+
+    QString seal(const QString& text, const QString& owner, const QString& property,
+                 const QByteArray& nonce) const;
 
     std::vector<Key> m_keys;
 };

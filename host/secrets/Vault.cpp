@@ -1,6 +1,7 @@
 #include "secrets/Vault.h"
 
 #include "secrets/Secrets.h"
+#include "secrets/SiteKeyring.h"
 
 #include <cstring>
 
@@ -23,6 +24,32 @@ Vault::Vault(Keyring& keyring)
 {
 }
 
+Sealer Vault::sealer() const
+{
+    return m_site.isEmpty() ? m_keyring.key()->sealer : SiteKeyring::ofProcess().keys(m_site)->sealer();
+}
+
+bool Vault::canSeal() const
+{
+    return sealer().canSeal();
+}
+
+StoreError::Kind Vault::missingKey() const
+{
+    return m_site.isEmpty() ? StoreError::KeyNotKept : StoreError::SiteKeyMissing;
+}
+
+/// With the key that is most likely the one first.
+std::optional<QString> Vault::openSealed(const QString& owner, const QString& property, const QString& stored)
+{
+    std::optional<QString> text;
+    if (!m_site.isEmpty())
+        text = SiteKeyring::ofProcess().keys(m_site)->open(stored, owner, property);
+    if (!text)
+        text = m_keyring.key()->sealer.open(stored, owner, property);
+    return text ? text : SiteKeyring::ofProcess().open(stored, owner, property);
+}
+
 void Vault::setListener(std::function<void(StoreError::Kind)> listener)
 {
     m_listener = std::move(listener);
@@ -39,15 +66,16 @@ std::optional<QString> Vault::reveal(const QString& owner, const QString& proper
     if (isHeld(stored))
         return m_holder.open(withoutHeld(stored), owner, property);
     if (Sealer::isSealed(stored))
-        return m_keyring.key()->sealer.open(stored, owner, property);
+        return openSealed(owner, property, stored);
     return stored.isEmpty() || m_isClearAllowed ? std::make_optional(stored) : std::nullopt;
 }
 
 void Vault::noteUnread(const QString& stored)
 {
     m_unread.insert(stored);
-    const StoreError::Kind kind =
-        Sealer::isSealed(stored) ? StoreError::SealedElsewhere : StoreError::NotSealed;
+    const StoreError::Kind kind = !Sealer::isSealed(stored) ? StoreError::NotSealed
+                                  : m_site.isEmpty()        ? StoreError::SealedElsewhere
+                                                            : StoreError::SealedForSite;
     if (m_listener && m_told.insert(kind).second)
         m_listener(kind);
 }
@@ -70,9 +98,9 @@ QString Vault::seal(const QString& owner, const QString& property, const QString
     // when the key has come back since.
     if (clear.isEmpty())
         return m_unread.count(before) > 0 ? before : clear;
-    const std::shared_ptr<const InstallationKey> installation = m_keyring.key();
-    return installation->sealer.canSeal() ? installation->sealer.seal(clear, owner, property)
-                                          : QLatin1String(Held) + m_holder.seal(clear, owner, property);
+    const Sealer with = sealer();
+    return with.canSeal() ? with.seal(clear, owner, property)
+                          : QLatin1String(Held) + m_holder.seal(clear, owner, property);
 }
 
 void Vault::seal(NodeData& data)
@@ -89,10 +117,10 @@ std::optional<QString> Vault::toStore(const QString& owner, const QString& prope
     const std::optional<QString> held = isHeld(sealed) ? reveal(owner, property, sealed) : std::nullopt;
     if (!held)
         return sealed;
-    const std::shared_ptr<const InstallationKey> installation = m_keyring.key();
-    if (!installation->sealer.canSeal())
+    const Sealer with = sealer();
+    if (!with.canSeal())
         return std::nullopt;
-    return installation->sealer.seal(*held, owner, property);
+    return with.seal(*held, owner, property);
 }
 
 QString Vault::opened(Vault* vault, const NodeData& data, const QString& property)

@@ -27,8 +27,22 @@ public:
     /// sealed yet.
     void setClearAllowed(bool allowed) { m_isClearAllowed = allowed; }
 
-    /// Called with StoreError::SealedElsewhere when a password cannot be opened, and with
-    /// StoreError::NotSealed when one was put there by others; with each once, until another listener comes.
+    /// Of a copy of a site: its passwords are sealed with the key of the site, and with no other one. What
+    /// was sealed with a key of before, or that of the installation, is opened all the same.
+    void setSite(const QString& site) { m_site = site; }
+
+    /// Whether a password can be stored.
+    bool canSeal() const;
+
+    /// What it is when it cannot.
+    StoreError::Kind missingKey() const;
+
+    /// From here on the listener is called again.
+    void tellAgain() { m_told.clear(); }
+
+    /// Called with StoreError::SealedElsewhere, or SealedForSite in a copy of a site, when a password cannot
+    /// be opened, and with StoreError::NotSealed when one was put there by others; with each once, until
+    /// another listener comes.
     void setListener(std::function<void(StoreError::Kind)> listener);
 
     /// The password that \a stored stands for.
@@ -54,11 +68,14 @@ public:
 
 private:
     Q_DISABLE_COPY(Vault)
+    Sealer sealer() const;
+    std::optional<QString> openSealed(const QString& owner, const QString& property, const QString& stored);
     std::optional<QString> reveal(const QString& owner, const QString& property, const QString& stored);
     void noteUnread(const QString& stored);
 
     Keyring& m_keyring;
     const Sealer m_holder; ///< with a key that nobody else ever has, for what is held in memory
+    QString m_site;        ///< empty: of none
     bool m_isClearAllowed = false;
     std::set<QString> m_unread; ///< stored texts that were shown empty
     std::function<void(StoreError::Kind)> m_listener;

@@ -84,10 +84,13 @@ void SharingSession::greeted(quint64 serial, const SiteGreeting& greeting)
         m_last = greeting.number;
         m_sent = SharedLog::Cursor();
         m_mustFetch = true;
+        m_mustReview = true;
         m_state.rights = greeting.mayWrite ? SharingState::MayWrite : SharingState::MayRead;
         m_state.waiting = m_log.waitingLines();
         m_state.position = m_log.position();
         show(SharingState::CatchingUp);
+        if (m_last > 0 && m_log.isEmpty())
+            return want(Step::Copy);
         want(Step::Agree);
         m_request.known = m_log.known(1);
         if (m_request.known.isEmpty())
@@ -95,14 +98,34 @@ void SharingSession::greeted(quint64 serial, const SiteGreeting& greeting)
     });
 }
 
+void SharingSession::copied(quint64 serial, SharedLog::Receipt receipt)
+{
+    act(serial, [&] {
+        m_failures = 0;
+        m_mustReview = false;
+        if (receipt == SharedLog::Receipt::Rewritten)
+            return refuse(SharingState::Rewritten);
+        m_state.position = m_log.position();
+        advance();
+    });
+}
+
+void SharingSession::copying(quint64 serial, qint64 number)
+{
+    if (serial == m_request.serial)
+        m_state.position = number;
+}
+
 /// The site may be an older one than this desk knew: a backup, or a copy that took over and had not got all.
-void SharingSession::agreed(quint64 serial, qint64 number)
+void SharingSession::agreed(quint64 serial, const KnownParcel& newest)
 {
     act(serial, [&] {
         const QVector<KnownParcel> asked = m_request.known;
-        if (number != 0 || asked.isEmpty()) {
-            if (number != m_log.position())
-                goBack(number);
+        if (newest.number != 0 || asked.isEmpty()) {
+            if (!m_log.agrees(newest))
+                return refuse(SharingState::Rewritten);
+            if (newest.number != m_log.position())
+                goBack(newest.number);
             return advance();
         }
         want(Step::Agree);
@@ -140,11 +163,28 @@ void SharingSession::fetched(quint64 serial, const QVector<SharedParcel>& parcel
         const SharedLog::Receipt receipt = m_log.receive(parcels, m_sent);
         if (receipt == SharedLog::Receipt::Gap)
             return pause(); // the next connection finds out why
+        if (receipt == SharedLog::Receipt::Rewritten)
+            return refuse(SharingState::Rewritten);
         if (receipt == SharedLog::Receipt::Taken) {
             m_mustFetch = parcels.size() >= MostParcels;
             m_state.position = m_log.position();
             m_last = std::max(m_last, m_state.position);
         }
+        advance();
+    });
+}
+
+/// Whoever writes the past anew may leave the links as they were. So all of it is looked at again, some at
+/// each connection, before anything is sent, and whenever nothing happens, round and round.
+void SharingSession::reviewed(quint64 serial, const QVector<SharedParcel>& parcels)
+{
+    act(serial, [&] {
+        if (!m_log.agrees(parcels, m_reviewed, MostReviewed))
+            return refuse(SharingState::Rewritten);
+        m_reviewed += MostReviewed;
+        if (m_reviewed >= m_log.position())
+            m_reviewed = 0;
+        m_mustReview = false;
         advance();
     });
 }
@@ -169,9 +209,14 @@ bool SharingSession::submit()
 
 void SharingSession::advance()
 {
+    const qint64 position = m_log.position();
+    if (m_mustReview && position > 0) {
+        want(Step::Review);
+        m_request.position = m_reviewed;
+        return;
+    }
     if (submit())
         return;
-    const qint64 position = m_log.position();
     const bool isBehind = m_mustFetch || position < m_last;
     want(isBehind ? Step::Fetch : Step::Listen);
     m_request.position = position;
@@ -186,6 +231,7 @@ void SharingSession::timeIsUp(quint64 serial)
         if (m_request.step == Step::Pause)
             return want(Step::Connect);
         m_mustFetch = true;
+        m_mustReview = true;
         advance();
     });
 }

@@ -16,12 +16,14 @@ class KO_HOST_EXPORT SharingSession
 public:
     enum class Step {
         Connect, ///< and greet, then greeted() or failed()
+        Copy,    ///< everything at one moment, then copied() or failed(); the file is empty
         Agree,   ///< ask which of \c known the site has, then agreed() or failed()
         Submit,  ///< \c parcels, then submitted() or failed()
         Fetch,   ///< what came after \c position, at most MostParcels, then fetched() or failed()
-        Listen,  ///< until notified(), storedHere(), or, after \c pause, timeIsUp()
-        Pause,   ///< without a connection, for \c pause, then timeIsUp()
-        End      ///< nothing, for good
+        Review, ///< what is here already after \c position, at most MostReviewed, then reviewed() or failed()
+        Listen, ///< until notified(), storedHere(), or, after \c pause, timeIsUp()
+        Pause,  ///< without a connection, for \c pause, then timeIsUp()
+        End     ///< nothing, for good
     };
 
     struct Request
@@ -35,7 +37,8 @@ public:
     };
 
     static constexpr int MostParcels = 100;
-    static constexpr int Version = 1; ///< of the site's tables
+    static constexpr int MostReviewed = 10; ///< parcels; others wait meanwhile
+    static constexpr int Version = 2;       ///< of the site's tables
 
     /// \a log outlives the session. \a seed: so that not all desks come back at the same moment.
     SharingSession(SharedLog& log, quint32 seed);
@@ -44,12 +47,17 @@ public:
     const SharingState& state() const { return m_state; }
 
     void greeted(quint64 serial, const SiteGreeting& greeting);
-    /// \a number of the newest parcel that the site has, or 0.
-    void agreed(quint64 serial, qint64 number);
+    void copied(quint64 serial, SharedLog::Receipt receipt);
+    /// The newest of them that the site has; its number is 0 if it has none.
+    void agreed(quint64 serial, const KnownParcel& newest);
     void submitted(quint64 serial, qint64 number);
     void fetched(quint64 serial, const QVector<SharedParcel>& parcels);
+    void reviewed(quint64 serial, const QVector<SharedParcel>& parcels);
     void timeIsUp(quint64 serial);
     void failed(quint64 serial, const SharingFailure& failure);
+
+    /// Of a copy: this many parcels are here.
+    void copying(quint64 serial, qint64 number);
 
     /// At any time: the site has a parcel of this number.
     void notified(qint64 number);
@@ -74,7 +82,9 @@ private:
     SharedLog::Cursor m_sent; ///< over this connection
     qint64 m_last = 0;        ///< the site's last number, as far as is known
     bool m_mustFetch = false;
-    int m_failures = 0; ///< one after the other
+    bool m_mustReview = false;
+    qint64 m_reviewed = 0; ///< of the parcels that are here, the last that was looked at again
+    int m_failures = 0;    ///< one after the other
     quint32 m_random;
 };
 

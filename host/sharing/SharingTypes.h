@@ -47,6 +47,7 @@ struct SharingState
         NoSite,       ///< there are no tables of a site, or not for this user
         OtherVersion, ///< the site is one of another version of this program
         MayNotWrite,  ///< there are changes here, and the user may only read
+        Rewritten,    ///< the site tells of its past otherwise than it told before
         Replaced,     ///< a backup took the place of everything in the file
         FileFailed,   ///< the desk's own file cannot be read or written
         ServerSaid    ///< see text

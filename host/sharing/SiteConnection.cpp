@@ -2,11 +2,15 @@
 
 #include "sharing/ParcelCoding.h"
 
+#include <QCryptographicHash>
 #include <QElapsedTimer>
-#include <QFile>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <iterator>
+#include <string_view>
+#include <utility>
 
 #include <libpq-fe.h>
 #include <poll.h>
@@ -18,6 +22,7 @@ namespace ko {
 namespace {
 
 const char channel[] = "ko";
+constexpr std::string_view words[] = {"key", "editing"}; // by SiteConnection::Notice
 
 std::string plain(qint64 number)
 {
@@ -34,7 +39,7 @@ std::string arrayOf(const QVector<KnownParcel>& known, Of of)
     return text + "}";
 }
 
-/// No such schema or function, or none that this user may see: there is no site for him.
+/// No such schema or function, or none that this user may see: there is no site for this user.
 bool saysNoSite(const std::string& code)
 {
     return code == "3F000" || code == "42883" || code == "42P01" || code == "42501";
@@ -50,12 +55,6 @@ bool mayPass(const std::string& code)
     return code.empty();
 }
 
-QByteArray scriptOf(const char* name)
-{
-    QFile file(QLatin1String(":/sharing/") + QLatin1String(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 struct SiteConnection::Answer
@@ -66,6 +65,13 @@ struct SiteConnection::Answer
     QByteArray value(int row, int column) const
     {
         return QByteArray(PQgetvalue(result.get(), row, column), PQgetlength(result.get(), row, column));
+    }
+
+    void noteMissingSite()
+    {
+        const char* code = result ? PQresultErrorField(result.get(), PG_DIAG_SQLSTATE) : nullptr;
+        if (code && saysNoSite(code))
+            failure.kind = SharingFailure::NoSite;
     }
 };
 
@@ -115,7 +121,10 @@ SharingFailure SiteConnection::open(const QString& address, int timeout)
     PQsetnonblocking(m_connection, 1);
     PQsetNoticeProcessor(
         m_connection, [](void*, const char*) {}, nullptr); // else to the standard error stream
-    return run("LISTEN ko").failure;
+    // What a site is asked touches few rows, but a large one looks expensive to the server: it would compile
+    // each statement anew, for many times as long as the statement takes.
+    failure = run("SET jit = off").failure;
+    return failure ? failure : run("LISTEN ko").failure;
 }
 
 SharingFailure SiteConnection::finishConnecting(int timeout)
@@ -227,45 +236,39 @@ SharingFailure SiteConnection::execute(const QByteArray& script)
     return run(script.constData()).failure;
 }
 
-SharingFailure SiteConnection::prepareSite()
-{
-    // A program that comes at the same moment waits here, and then finds the tables.
-    const QByteArray lock = "SELECT pg_advisory_xact_lock(hashtext('ko site'))";
-    SharingFailure failure = execute("BEGIN; " + lock);
-    if (failure)
-        return failure;
-    const Answer found = run("SELECT to_regclass('ko.site') IS NOT NULL");
-    failure = found.failure;
-    if (!failure && found.value(0, 0) != "t") {
-        for (const char* script : {"1-tables.sql", "1-functions.sql"}) {
-            if (!failure)
-                failure = execute(scriptOf(script));
-        }
-    }
-    const SharingFailure ended = execute(failure ? "ROLLBACK" : "COMMIT");
-    return failure ? failure : ended;
-}
-
 SharingFailure SiteConnection::greet(SiteGreeting* greeting)
 {
     Answer answer = run("SELECT site, version, number, may_write FROM ko.greet()");
-    const char* code = answer.result ? PQresultErrorField(answer.result.get(), PG_DIAG_SQLSTATE) : nullptr;
-    if (code && saysNoSite(code))
-        answer.failure.kind = SharingFailure::NoSite;
+    answer.noteMissingSite();
     if (!answer.failure)
         *greeting = {QString::fromLatin1(answer.value(0, 0)), answer.value(0, 1).toInt(),
                      answer.value(0, 2).toLongLong(), answer.value(0, 3) == "t"};
     return answer.failure;
 }
 
-SharingFailure SiteConnection::agree(const QVector<KnownParcel>& known, qint64* number)
+SharingFailure SiteConnection::value(const char* sql, const std::vector<std::string>& values,
+                                     QByteArray* text)
+{
+    Answer answer = run(sql, values);
+    answer.noteMissingSite();
+    if (!answer.failure)
+        *text = answer.value(0, 0);
+    return answer.failure;
+}
+
+bool SiteConnection::take(Notice notice)
+{
+    return std::exchange(m_notices.at(size_t(notice)), false);
+}
+
+SharingFailure SiteConnection::agree(const QVector<KnownParcel>& known, KnownParcel* newest)
 {
     const Answer answer =
-        run("SELECT ko.agreed($1, $2)",
+        run("SELECT number, link FROM ko.agreed($1, $2)",
             {arrayOf(known, [](const KnownParcel& parcel) { return plain(parcel.number); }),
              arrayOf(known, [](const KnownParcel& parcel) { return parcel.id.toStdString(); })});
     if (!answer.failure)
-        *number = answer.value(0, 0).toLongLong();
+        *newest = {answer.value(0, 0).toLongLong(), QString(), QByteArray::fromHex(answer.value(0, 1))};
     return answer.failure;
 }
 
@@ -279,14 +282,18 @@ SharingFailure SiteConnection::submit(const QVector<SharedParcel>& parcels, qint
 
 SharingFailure SiteConnection::fetch(qint64 position, int most, QVector<SharedParcel>* parcels)
 {
-    const Answer answer = run("SELECT parcel FROM ko.parcels_after($1, $2)", {plain(position), plain(most)});
+    const Answer answer =
+        run("SELECT parcel, link FROM ko.parcels_after($1, $2)", {plain(position), plain(most)});
     if (answer.failure)
         return answer.failure;
     for (int row = 0; row < PQntuples(answer.result.get()); ++row) {
         QString error;
-        const std::optional<SharedParcel> parcel = ParcelCoding::decode(answer.value(row, 0), &error);
+        const QByteArray text = answer.value(row, 0);
+        std::optional<SharedParcel> parcel = ParcelCoding::decode(text, &error);
         if (!parcel)
             return {SharingFailure::Refused, error};
+        parcel->digest = QCryptographicHash::hash(text, QCryptographicHash::Sha256);
+        parcel->link = QByteArray::fromHex(answer.value(row, 1));
         parcels->append(*parcel);
     }
     return SharingFailure();
@@ -327,7 +334,10 @@ qint64 SiteConnection::takeNotices()
 {
     qint64 highest = 0;
     while (PGnotify* notice = PQnotifies(m_connection)) {
-        if (qstrcmp(notice->relname, channel) == 0)
+        const auto word = std::find(std::begin(words), std::end(words), std::string_view(notice->extra));
+        if (word != std::end(words))
+            m_notices.at(size_t(word - std::begin(words))) = true;
+        else if (qstrcmp(notice->relname, channel) == 0)
             highest = qMax(highest, QByteArray(notice->extra).toLongLong());
         PQfreemem(notice);
     }

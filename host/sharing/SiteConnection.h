@@ -6,7 +6,9 @@
 
 #include <QVector>
 
+#include <array>
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -38,9 +40,15 @@ public:
     SharingFailure prepareSite();
 
     SharingFailure greet(SiteGreeting* greeting);
-    SharingFailure agree(const QVector<KnownParcel>& known, qint64* number);
+    /// The first value that a statement returns. NoSite: what it names is not there, or not for this user.
+    SharingFailure value(const char* sql, const std::vector<std::string>& values, QByteArray* text);
+    SharingFailure agree(const QVector<KnownParcel>& known, KnownParcel* newest);
     SharingFailure submit(const QVector<SharedParcel>& parcels, qint64* number);
     SharingFailure fetch(qint64 position, int most, QVector<SharedParcel>* parcels);
+    /// All parcels, or all rows of a table, in their order, by COPY. What \a take does not want any more ends
+    /// it, with the connection.
+    SharingFailure copyParcels(const std::function<bool(const SharedParcel&)>& take);
+    SharingFailure copyRows(SharedTable table, const std::function<bool(const SharedRow&)>& take);
     /// At most \a most rows of a table after a place.
     SharingFailure rows(SharedTable table, qint64 after, int most, QVector<SharedRow>* rows);
     /// Until endMoment() everything that is read is as it was at one moment.
@@ -52,6 +60,11 @@ public:
     /// Waits for notices, wake() or the end of the time. \a number is the highest that was told, or 0.
     SharingFailure wait(int ms, qint64* number);
 
+    /// What a site tells of beside its parcels.
+    enum class Notice { Key, Editing };
+    /// Whether it did since this was asked last.
+    bool take(Notice notice);
+
     // From any thread.
     void wake();
     void interrupt(); ///< for good
@@ -61,6 +74,8 @@ private:
     typedef std::unique_ptr<pg_result, void (*)(pg_result*)> Result;
     struct Answer;
 
+    typedef std::function<SharingFailure(const std::vector<QByteArray>& columns)> TakeColumns;
+    SharingFailure copy(const char* sql, const TakeColumns& take);
     Answer run(const char* sql, const std::vector<std::string>& values = {});
     SharingFailure execute(const QByteArray& script);
     SharingFailure finishConnecting(int timeout);
@@ -71,6 +86,7 @@ private:
     qint64 takeNotices();
 
     pg_conn* m_connection = nullptr;
+    std::array<bool, 2> m_notices{}; ///< by Notice
     const int m_wakeup;
     std::atomic<bool> m_isInterrupted{false};
 };

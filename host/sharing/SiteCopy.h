@@ -15,8 +15,8 @@ namespace SiteCopy {
 /// Its name, in \a folder.
 KO_HOST_EXPORT QString fileOf(const QString& folder, const QString& site);
 
-/// Makes the file if it is not there, so that it can be opened as any other. One of that name that is no copy
-/// of this site gets another name and stays. False and \a error when that cannot be done.
+/// Makes the file if it is not there, so that it can be opened as any other. One of that name that is not a
+/// copy of this site gets another name and stays. False and \a error when that cannot be done.
 KO_HOST_EXPORT bool prepare(const QString& file, const QString& site, StoreError* error);
 
 /// Gives the file, which nobody has open, and its backups other names that tell when. False and \a error if

@@ -31,7 +31,7 @@ private:
     void run(const QString& address, Way way);
 
     SiteConnection m_connection;
-    std::thread m_thread; ///< goes first
+    std::thread m_thread; ///< destroyed first
 };
 
 } // namespace ko

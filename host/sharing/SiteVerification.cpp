@@ -30,8 +30,8 @@ SiteVerification::Verdict SiteVerification::run()
     m_failure = m_connection.beginMoment();
     if (!m_failure)
         m_failure = m_connection.greet(&greeting);
-    if (m_failure)
-        return Verdict::Failed;
+    if (m_failure || !compareChain(greeting.number))
+        return m_failure ? Verdict::Failed : m_verdict;
     const std::optional<qint64> position =
         m_log.forEachRow([this](SharedTable table, const SharedRow& row) { return compare(table, row); });
     if (m_verdict == Verdict::Same && position && goOnTo(SharedTable::Rest) && !hasMore() && !m_failure)
@@ -39,6 +39,24 @@ SiteVerification::Verdict SiteVerification::run()
     if (m_failure)
         return Verdict::Failed;
     return position == greeting.number || m_verdict == Verdict::Ended ? m_verdict : Verdict::Changing;
+}
+
+bool SiteVerification::compareChain(qint64 last)
+{
+    for (qint64 position = 0; position < last && !m_failure; position += rowsAtOnce) {
+        QVector<SharedParcel> parcels;
+        m_failure = m_connection.fetch(position, rowsAtOnce, &parcels);
+        if (!m_failure && !m_log.agrees(parcels, position, rowsAtOnce)) {
+            m_verdict = Verdict::Different;
+            m_difference = QStringLiteral("parcels %1-%2").arg(position + 1).arg(position + rowsAtOnce);
+            return false;
+        }
+        if (!m_failure && !m_progress(m_rows)) {
+            m_verdict = Verdict::Ended;
+            return false;
+        }
+    }
+    return !m_failure;
 }
 
 bool SiteVerification::differs(const QByteArray& row)

@@ -8,7 +8,7 @@
 
 namespace ko {
 
-/// Compares a file with its site, row by row.
+/// Compares a file with its site, row by row, and what the site says of its past with what it said before.
 class KO_HOST_EXPORT SiteVerification
 {
 public:
@@ -34,6 +34,7 @@ public:
     const SharingFailure& failure() const { return m_failure; }
 
 private:
+    bool compareChain(qint64 last);
     bool compare(SharedTable table, const SharedRow& here);
     bool next(SharedTable table, SharedRow* row);
     bool goOnTo(SharedTable table);

@@ -119,7 +119,13 @@ inline void randomEdit(ko::HostNodeDB& db, std::mt19937& random)
         if (!sets.isEmpty())
             db.apply(sets.at(below(int(sets.size()))).inverse());
     } else {
-        setText(db, id, below(2) ? "Name" : (below(2) ? "Model" : "Version"), word);
+        const char* key = below(2) ? "Name" : (below(2) ? "Model" : "Version");
+        if (Node* node = db.beginUpdateNode(id, -1)) {
+            node->setStringProperty(QLatin1String(key), word);
+            db.endUpdateNode(node);
+        } else {
+            QVERIFY(db.summary(id).id.isEmpty()); // another desk removed it just now
+        }
     }
     db.flush();
 }

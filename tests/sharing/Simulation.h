@@ -88,6 +88,37 @@ public:
         }
     }
 
+    /// After settle(): the site tells of its past otherwise. Each desk finds it out, whatever it was doing,
+    /// and keeps what waits.
+    void rewritePast()
+    {
+        for (Desk& desk : m_desks) {
+            if (below(2) == 0)
+                edit(desk);
+            if (below(2) == 0)
+                crash(desk);
+        }
+        std::vector<QStringList> made;
+        for (Desk& desk : m_desks)
+            made.push_back(changeSetsOf(desk.file));
+        m_site.rewrite(below(int(m_site.parcels.size())), below(2) == 0);
+        for (int turn = 0; turn < 50; ++turn) {
+            for (Desk& desk : m_desks) {
+                if (desk.session->request().step != ko::SharingSession::Step::End)
+                    send(desk);
+            }
+            while (!m_network.empty())
+                arrive(0);
+        }
+        for (size_t i = 0; i < m_desks.size(); ++i) {
+            expect(m_desks[i].session->state().reason == ko::SharingState::Rewritten,
+                   "a desk does not see that the past is another one");
+            const QStringList kept = changeSetsOf(m_desks[i].file);
+            for (const QString& id : std::as_const(made[i]))
+                expect(kept.contains(id), "a desk has lost something");
+        }
+    }
+
 private:
     struct Desk
     {
@@ -199,12 +230,13 @@ private:
         const quint64 serial = request.serial;
         switch (request.step) {
         case ko::SharingSession::Step::Connect: {
-            const ko::SiteGreeting greeting{m_site.id, 1, m_site.parcels.size(), true};
+            const ko::SiteGreeting greeting{m_site.id, ko::SharingSession::Version, m_site.parcels.size(),
+                                            true};
             return [=](ko::SharingSession& session) { session.greeted(serial, greeting); };
         }
         case ko::SharingSession::Step::Agree: {
-            const qint64 number = m_site.agreed(request.known);
-            return [=](ko::SharingSession& session) { session.agreed(serial, number); };
+            const ko::KnownParcel newest = m_site.agreed(request.known);
+            return [=](ko::SharingSession& session) { session.agreed(serial, newest); };
         }
         case ko::SharingSession::Step::Submit: {
             QVector<ko::SharedParcel> parcels;
@@ -212,6 +244,10 @@ private:
                 parcels.append(overTheWire(parcel));
             const qint64 number = m_site.submit(parcels);
             return [=](ko::SharingSession& session) { session.submitted(serial, number); };
+        }
+        case ko::SharingSession::Step::Review: {
+            const auto parcels = m_site.after(request.position, ko::SharingSession::MostParcels);
+            return [=](ko::SharingSession& session) { session.reviewed(serial, parcels); };
         }
         default: {
             const auto parcels = m_site.after(request.position, 1 + below(ko::SharingSession::MostParcels));

@@ -1,8 +1,9 @@
 #ifndef TESTS_SHARING_SITEMODEL_H
 #define TESTS_SHARING_SITEMODEL_H
 
-#include "model/SharedParcel.h"
+#include "sharing/ParcelCoding.h"
 
+#include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -37,20 +38,37 @@ public:
             parcel.id = QUuid::createUuid().toString(QUuid::WithoutBraces);
             parcel.lines = fresh;
             apply(&parcel);
+            parcel.link = linkOf(parcel);
             parcels.append(parcel);
         }
         return parcels.size();
     }
 
-    QVector<ko::SharedParcel> after(qint64 number, int most) const { return parcels.mid(int(number), most); }
-
-    qint64 agreed(const QVector<ko::KnownParcel>& known) const
+    QVector<ko::SharedParcel> after(qint64 number, int most) const
     {
-        qint64 newest = 0;
+        QVector<ko::SharedParcel> found = parcels.mid(int(number), most);
+        for (ko::SharedParcel& parcel : found)
+            parcel.digest = digestOf(parcel);
+        return found;
+    }
+
+    /// What no desk ever did; the links after it may be made to fit again.
+    void rewrite(int index, bool isLinkedAgain)
+    {
+        parcels[index].cause.user += QLatin1Char('!');
+        for (int i = index; isLinkedAgain && i < parcels.size(); ++i)
+            parcels[i].link = linkOf(parcels.at(i));
+    }
+
+    ko::KnownParcel agreed(const QVector<ko::KnownParcel>& known) const
+    {
+        ko::KnownParcel newest;
         for (const ko::KnownParcel& parcel : known) {
             if (parcel.number <= parcels.size() && parcels.at(int(parcel.number) - 1).id == parcel.id)
-                newest = qMax(newest, parcel.number);
+                newest = parcel.number > newest.number ? parcel : newest;
         }
+        if (newest.number > 0)
+            newest.link = parcels.at(int(newest.number) - 1).link;
         return newest;
     }
 
@@ -85,6 +103,19 @@ private:
     };
     typedef std::tuple<QString, QString, int> Link;
 
+    static QByteArray digestOf(const ko::SharedParcel& parcel)
+    {
+        QByteArray text =
+            ko::ParcelCoding::encode({parcel}) + QByteArray::number(parcel.number) + parcel.id.toUtf8();
+        for (const ko::SharedLine& line : parcel.lines)
+            text += line.isDone ? '+' : '-';
+        return QCryptographicHash::hash(text, QCryptographicHash::Sha256);
+    }
+    QByteArray linkOf(const ko::SharedParcel& parcel) const
+    {
+        const QByteArray before = parcel.number > 1 ? parcels.at(int(parcel.number) - 2).link : QByteArray();
+        return QCryptographicHash::hash(before + digestOf(parcel), QCryptographicHash::Sha256);
+    }
     static QJsonValue listOf(const std::map<qint64, QJsonValue>& values)
     {
         QJsonArray list;

@@ -14,6 +14,7 @@ class TestSimulation : public QObject
 private slots:
     void seedsThatOnceFailed_data();
     void seedsThatOnceFailed();
+    void rewrittenPastIsFoundOut();
     void manySeeds();
 
 private:
@@ -61,6 +62,21 @@ void TestSimulation::seedsThatOnceFailed()
 {
     QFETCH(const unsigned, seed);
     run(seed);
+}
+
+void TestSimulation::rewrittenPastIsFoundOut()
+{
+    for (unsigned seed = 1; seed <= 40; ++seed) {
+        const QTemporaryDir folder(placeOfRuns() + QStringLiteral("/ko-simulation-"));
+        Simulation simulation(folder.path(), seed, 2 + int(seed % 3));
+        for (int i = 0; i < stepsOfARun && simulation.failure().isEmpty(); ++i)
+            simulation.step();
+        simulation.settle();
+        QVERIFY2(simulation.failure().isEmpty(), qPrintable(simulation.failure()));
+        simulation.rewritePast();
+        QVERIFY2(simulation.failure().isEmpty(),
+                 qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(simulation.failure())));
+    }
 }
 
 /// As many as there is time for, from another number each day; KO_SIMULATION_SEED begins with that one.

@@ -1,5 +1,6 @@
 #include "RandomParcels.h"
 #include "SiteModel.h"
+#include "sharing/SharingSession.h"
 #include "sharing/SiteConnection.h"
 #include "support/PostgresServer.h"
 #include "support/TestMain.h"
@@ -163,7 +164,7 @@ void TestSite::viewerMayNotWrite()
     SiteGreeting greeting;
     QVERIFY_OK(connection.greet(&greeting));
     QVERIFY(!greeting.mayWrite);
-    QCOMPARE(greeting.version, 1);
+    QCOMPARE(greeting.version, SharingSession::Version);
     qint64 number = 0;
     const SharingFailure failure = connection.submit({RandomParcels(1).next()}, &number);
     QCOMPARE(failure.kind, SharingFailure::Refused);
