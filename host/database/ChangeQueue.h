@@ -1,6 +1,7 @@
 #ifndef KO_CHANGEQUEUE_H
 #define KO_CHANGEQUEUE_H
 
+#include "database/FileCheck.h"
 #include "database/NodeMemory.h"
 
 #include <QObject>
@@ -11,8 +12,11 @@
 
 namespace ko {
 
+class StoreWriting;
+
 /// Brings what waits in memory to the store, and what others stored to memory, at the right times: what
-/// changes in one turn of the event loop is on disk before the event loop waits again.
+/// changes in one turn of the event loop is on disk before the event loop waits again. A large amount is
+/// stored by another thread, and so is what comes while the file is looked through: isStoring() meanwhile.
 class ChangeQueue : public QObject
 {
     Q_OBJECT
@@ -36,11 +40,19 @@ public:
     /// A line of the program log waits, which alone is worth no commit at once.
     void scheduleLine();
 
-    /// False when storing failed.
-    bool flush();
+    /// False when storing failed. Waits for a thread that stores.
+    bool flush(StoreWait wait = StoreWait::Blocking);
+
+    /// Something is on its way to the disk, or waits for the check of the file, and the event loop goes on.
+    bool isStoring() const { return m_writing || (m_waitsForCheck && m_memory.pending.hasChanges()); }
+    /// How much of it is done, of 1000.
+    int permilleStored() const;
+    /// Waits until the thread is done.
+    void endStoring();
 
     /// Runs \a work while nobody else can change the database, and stores what it changed.
-    StoreOutcome runAlone(const std::function<void()>& work, StoreError* error);
+    StoreOutcome runAlone(const std::function<void()>& work, StoreError* error,
+                          StoreWait wait = StoreWait::Blocking);
 
     /// The last attempt failed for want of a key of the passwords.
     bool isKeyMissing() const { return m_failing && m_keyMissing; }
@@ -78,13 +90,26 @@ signals:
     void stored(const QVector<ko::StoredSet>& sets);
     void failed(const ko::StoreError& error);
     void recovered();
+    /// isStoring() changed.
+    void storing();
     void damaged(const ko::StoreError& error);
     void checked(const ko::StoreError& error);
 
 private:
     bool take(int changes);
-    void waitForCheck();
-    bool storeAfter(const std::function<void()>& work, StoreError* error);
+    void storeScheduled();
+    bool isMuch() const;
+    void storeInThread();
+    std::shared_ptr<StoreWriting> begin(const std::function<void()>& work, Notices* notices,
+                                        StoreError* error);
+    void run(const std::shared_ptr<StoreWriting>& writing, const Notices& notices);
+    void waitInEventLoop(const std::function<bool()>& isOver);
+    void endOthers(StoreWait wait);
+    void setWaitsForCheck(bool waits);
+    void endStoringIfDone();
+    void took(const NodeStore::Commit& commit, Notices* notices);
+    void told(const StoreError& error, const Notices& notices, const QVector<StoredSet>& sets);
+    bool storeAfter(const std::function<void()>& work, StoreError* error, StoreWait wait);
     NodeStore::Batch merge(const Delta& delta, const std::function<void()>& work, Notices* notices);
     bool writeFailed(const StoreError& error);
     NodeStore::Wanted wanted() const;
@@ -94,7 +119,16 @@ private:
     QTimer m_poll;
     QTimer m_retry;
     QTimer m_lineTimer;
-    std::shared_future<StoreError> m_check;
+    FileCheck m_check;
+    struct Stored
+    {
+        StoreError error;
+        NodeStore::Commit commit;
+    };
+    std::shared_ptr<StoreWriting> m_writing; ///< while a thread is at it
+    std::future<Stored> m_stored;
+    std::function<void(const StoreError&)> m_waiting; ///< of the caller who waits for the thread
+    bool m_waitsForCheck = false;
     bool m_scheduled = false;
     bool m_isAlone = false; ///< within runAlone()
     bool m_isHeld = false;

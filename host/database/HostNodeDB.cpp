@@ -232,26 +232,33 @@ StoredHistory& HostNodeDB::history()
     return d->history;
 }
 
+NodeEditors& HostNodeDB::editors()
+{
+    return d->editors;
+}
+
 // Storing
 
-void HostNodeDB::enter(const Cause& cause)
+void HostNodeDB::enter(const Cause& cause, ScopeStoring storing)
 {
-    d->memory.pending.enter(cause);
+    d->memory.pending.enter(cause, storing);
 }
 
 void HostNodeDB::leave()
 {
     d->memory.pending.leave();
+    if (!d->memory.pending.isEmpty())
+        d->queue.schedule();
 }
 
-bool HostNodeDB::flush()
+bool HostNodeDB::flush(StoreWait wait)
 {
-    return d->flush();
+    return d->flush(wait);
 }
 
-HostNodeDB::Outcome HostNodeDB::runAlone(const std::function<void()>& work, StoreError* error)
+HostNodeDB::Outcome HostNodeDB::runAlone(const std::function<void()>& work, StoreError* error, StoreWait wait)
 {
-    return d->queue.runAlone(work, error);
+    return d->queue.runAlone(work, error, wait);
 }
 
 bool HostNodeDB::hasUnstoredChanges() const

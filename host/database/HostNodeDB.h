@@ -15,6 +15,7 @@ namespace ko {
 
 class AuditLog;
 class LogStore;
+class NodeEditors;
 class NodeStore;
 class Scanning;
 class StoredHistory;
@@ -26,7 +27,8 @@ class StoredHistory;
 ///
 /// Writing: a change is visible at once and announced before the call returns. All changes of one turn
 /// of the event loop share one transaction, which is on disk before the event loop waits again; with
-/// the audit entries that belong to it. When that fails, storeFailed() is emitted, nothing is lost from
+/// the audit entries that belong to it. Where that would take longer than a frame, the event loop goes on
+/// meanwhile, see isStoring(). When that fails, storeFailed() is emitted, nothing is lost from
 /// memory, and the same changes are tried again with the next ones, by flush() or, given up, thrown away
 /// by discardUnstoredChanges().
 ///
@@ -43,7 +45,7 @@ public:
     /// When the file is looked through for damage.
     enum class Check {
         First, ///< before it is opened: a damaged file is left as it is
-        Behind ///< while it is in use already, for a window that shall not wait; see checked()
+        Behind ///< while it is in use already, for a window that must not wait; see checked()
     };
 
     /// Opens \a file, creating or migrating it as needed; null and \a error when that cannot be done,
@@ -122,8 +124,11 @@ public:
     /// What was done to the database.
     StoredHistory& history();
 
+    /// Which nodes are in editors, here and at other desks.
+    NodeEditors& editors();
+
     // ChangeGrouping
-    void enter(const Cause& cause) override;
+    void enter(const Cause& cause, ScopeStoring storing) override;
     void leave() override;
 
     /// Does all that \a set says, as far as it can still be done: a node that is gone is not changed, one
@@ -139,7 +144,13 @@ public:
     /// Stores all changes now. False when that failed; storeFailed() has been emitted then. Looks for the key
     /// of the passwords again when the last try failed without it, which may take until the user has opened
     /// the keychain.
-    bool flush();
+    bool flush(StoreWait wait = StoreWait::Blocking);
+
+    /// Whether there is a key with which passwords can be stored.
+    bool canStorePasswords() const;
+    /// The keys of passwords may be others now: what waited for one is stored, and what was shown empty is
+    /// read again.
+    void takeNewKeys();
 
     typedef StoreOutcome Outcome;
 
@@ -147,8 +158,15 @@ public:
     /// lookupHint() does not find there is not added by two programs. Others wait meanwhile, two seconds at
     /// most, so keep it short. Within it nothing else is stored or brought in. \a error tells why it was not
     /// stored or not run.
-    Outcome runAlone(const std::function<void()>& work, StoreError* error);
+    Outcome runAlone(const std::function<void()>& work, StoreError* error,
+                     StoreWait wait = StoreWait::Blocking);
     bool hasUnstoredChanges() const;
+
+    /// Changes are on their way to the disk while the event loop goes on: many of them, or any while the file
+    /// is still looked through. What takes longer than a moment should be shown.
+    bool isStoring() const;
+    /// How much of it is done, of 1000; 0 while it waits.
+    int permilleStored() const;
 
     /// The nodes of which something is not stored, removed ones included.
     QStringList unstoredNodes() const;
@@ -172,6 +190,8 @@ signals:
     void storeFailed(const ko::StoreError& error);
     /// Changes that could not be stored before are stored now.
     void storeRecovered();
+    /// isStoring() may have changed.
+    void storing();
     /// Something could not be read: what is affected looks as if it were not there. Nothing is
     /// overwritten. Emitted from the event loop, once for each different error.
     void storeDamaged(const ko::StoreError& error);

@@ -39,6 +39,16 @@ HostNodeDB::~HostNodeDB()
     d->queue.finish();
 }
 
+bool HostNodeDB::isStoring() const
+{
+    return d->queue.isStoring();
+}
+
+int HostNodeDB::permilleStored() const
+{
+    return d->queue.permilleStored();
+}
+
 HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)
     : q(database)
     , store(std::move(opened))
@@ -58,6 +68,7 @@ void HostNodeDB::Private::start(Check when)
                      [this](const Notices& notices) { announce(notices); });
     QObject::connect(&queue, &ChangeQueue::failed, &q, &HostNodeDB::storeFailed);
     QObject::connect(&queue, &ChangeQueue::recovered, &q, &HostNodeDB::storeRecovered);
+    QObject::connect(&queue, &ChangeQueue::storing, &q, &HostNodeDB::storing);
     QObject::connect(&queue, &ChangeQueue::damaged, &q, &HostNodeDB::storeDamaged);
     QObject::connect(&queue, &ChangeQueue::checked, &q, &HostNodeDB::checked);
     if (when == Check::Behind)
@@ -65,7 +76,7 @@ void HostNodeDB::Private::start(Check when)
     storeDefaults();
     store->vault()->setClearAllowed(store->isSealingPending());
     store->vault()->setListener([this](StoreError::Kind kind) {
-        const bool sealed = kind == StoreError::SealedElsewhere;
+        const bool sealed = kind != StoreError::NotSealed;
         queue.readFailed(StoreError::make(
             kind, store->fileName(),
             QLatin1String(sealed ? "a password cannot be opened" : "a password is not sealed")));
@@ -93,7 +104,7 @@ void HostNodeDB::Private::storeDefaults()
 {
     if (!settings.isNew() || store->isShared())
         return;
-    memory.pending.enter(Cause::now(Purpose::Start));
+    memory.pending.enter(Cause::now(Purpose::Start), ScopeStoring::Meanwhile);
     StoreError error;
     queue.runAlone([this] { settings.addDefaultEnvironment(); }, &error);
     memory.pending.leave();
@@ -131,7 +142,7 @@ void HostNodeDB::Private::beginDraft(const Cause& cause)
 {
     m_draft = cause;
     queue.hold(true);
-    memory.pending.enter(cause);
+    memory.pending.enter(cause, ScopeStoring::Meanwhile);
 }
 
 ChangeSet HostNodeDB::Private::endDraft()
@@ -144,11 +155,24 @@ ChangeSet HostNodeDB::Private::endDraft()
 
 /// Only when somebody asks for it, the key is looked for again: the keychain may in turn ask the user, and
 /// runs an event loop.
-bool HostNodeDB::Private::flush()
+bool HostNodeDB::Private::flush(StoreWait wait)
 {
     if (queue.isKeyMissing() && Keyring::ofInstallation().prepareAgain())
         settings.reload(); // its password may be readable now
-    return queue.flush();
+    return queue.flush(wait);
+}
+
+bool HostNodeDB::canStorePasswords() const
+{
+    return d->store->vault()->canSeal();
+}
+
+void HostNodeDB::takeNewKeys()
+{
+    d->store->vault()->tellAgain();
+    d->settings.reload();
+    if (d->queue.isKeyMissing())
+        d->queue.flush();
 }
 
 } // namespace ko

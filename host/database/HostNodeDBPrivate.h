@@ -4,6 +4,7 @@
 #include "audit/AuditLog.h"
 #include "database/HostNodeDB.h"
 #include "database/NodeEditing.h"
+#include "database/NodeEditors.h"
 #include "database/Scanning.h"
 #include "database/StoredHistory.h"
 #include "database/StoredLogs.h"
@@ -23,7 +24,7 @@ public:
     void start(Check when);
     void announce(const Notices& notices);
     void startScanners(const std::string& name, unsigned interfaces, int limit);
-    bool flush();
+    bool flush(StoreWait wait);
     void beginDraft(const Cause& cause);
     ChangeSet endDraft();
 
@@ -34,9 +35,10 @@ public:
     HostSettings settings;
     StoredLogs logs;
     StoredHistory history;
+    NodeEditors editors;
     AuditLog audit;
     NodeEditing nodes;
-    std::unique_ptr<Scanning> scanning; ///< goes first
+    std::unique_ptr<Scanning> scanning; ///< destroyed first
 
 private:
     void storeDefaults();

@@ -193,7 +193,7 @@ ChangeSet NodeEditing::withdraw(const Cause& cause)
         return ChangeSet(); // the store alone knows what they were
     m_memory.pending.drop(cause);
     const Notices notices = applyAll(whole.inverse());
-    m_memory.pending.drop(cause); // what takes it back is no change either
+    m_memory.pending.drop(cause); // what takes it back is not a change either
     m_announce(notices);
     return whole;
 }

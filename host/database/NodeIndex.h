@@ -17,7 +17,7 @@ public:
     /// Null when there is none.
     NodeRecord* find(const NodeID& id) const;
 
-    /// Makes room for so many.
+    /// Makes room for this many.
     void reserve(size_t count);
 
     /// The identifier must not be in the index.

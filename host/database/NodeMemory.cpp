@@ -253,14 +253,17 @@ void NodeMemory::forget(NodeRecord& record)
 
 void NodeMemory::stored(const NodeStore::Commit& commit, Notices* notices)
 {
-    pending.clear();
+    pending.endStoring();
     revision = commit.revision;
     for (auto it = commit.places.begin(); it != commit.places.end(); ++it) {
         if (NodeRecord* record = cache.find(it.key()))
             cache.setStored(*record, it.value());
     }
-    for (auto it = commit.reordered.begin(); it != commit.reordered.end(); ++it)
-        relations.replaceFrom(it.key(), it.value());
+    for (auto it = commit.reordered.begin(); it != commit.reordered.end(); ++it) {
+        QVector<Relation> rows = it.value();
+        pending.applyTo(rows, it.key());
+        relations.replaceFrom(it.key(), rows);
+    }
     for (const NodeID& id : commit.missingNodes) {
         if (NodeRecord* record = cache.find(id)) {
             forget(*record);

@@ -54,7 +54,7 @@ public:
     /// looked at.
     Notices take(const Delta& delta);
 
-    /// What waited is stored.
+    /// What waited at PendingChanges::beginStoring() is stored.
     void stored(const NodeStore::Commit& commit, Notices* notices);
 
     /// A node with the name and the properties of \a data, which has its identifier. See NodeChange::place.

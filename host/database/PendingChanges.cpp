@@ -3,6 +3,7 @@
 #include "database/PurposeOf.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace ko {
 
@@ -55,12 +56,12 @@ void setProperties(NodeChange& change, const PropertyList& before,
 
 PendingChanges::Making& PendingChanges::current()
 {
-    if (m_causes.isEmpty() && !m_turn)
+    if (m_scopes.isEmpty() && !m_turn)
         m_turn = Cause::now(Purpose::Edit);
-    const Cause& cause = m_causes.isEmpty() ? *m_turn : m_causes.last();
+    const Cause& cause = m_scopes.isEmpty() ? *m_turn : m_scopes.last().cause;
     // Only the last one: between two changes of one set another one may have changed the same node.
-    if (m_making.empty() || m_making.back().set.cause.id != cause.id) {
-        m_making.push_back({ChangeSet(), {}, {}, {}, !m_causes.isEmpty()});
+    if (m_making.size() == m_storing.making || m_making.back().set.cause.id != cause.id) {
+        m_making.push_back({ChangeSet(), {}, {}, {}, !m_scopes.isEmpty()});
         m_making.back().set.cause = cause;
     }
     return m_making.back();
@@ -82,9 +83,39 @@ void PendingChanges::append(const NodeChange& change)
 
 void PendingChanges::clear()
 {
-    m_making.clear();
-    programLines.clear();
-    writtenDevices.clear();
+    beginStoring();
+    endStoring();
+}
+
+void PendingChanges::beginStoring()
+{
+    m_storing = {m_making.size(), int(programLines.size()), int(writtenDevices.size())};
+}
+
+void PendingChanges::endStoring()
+{
+    m_making.erase(m_making.begin(), m_making.begin() + std::ptrdiff_t(m_storing.making));
+    programLines.remove(0, m_storing.lines);
+    writtenDevices.remove(0, m_storing.devices);
+    cancelStoring();
+}
+
+void PendingChanges::cancelStoring()
+{
+    m_storing = {};
+}
+
+bool PendingChanges::isWithinWhole() const
+{
+    return std::any_of(m_scopes.begin(), m_scopes.end(),
+                       [](const Scope& scope) { return scope.storing == ScopeStoring::AtEnd; });
+}
+
+int PendingChanges::count() const
+{
+    return std::accumulate(m_making.begin(), m_making.end(), 0, [](int sum, const Making& making) {
+        return sum + int(making.set.nodes.size() + making.set.relations.size());
+    });
 }
 
 void PendingChanges::nodeAdded(const NodeChange& change)
@@ -176,6 +207,13 @@ void PendingChanges::logged(const AuditRow& row)
     current().set.audit.append(row);
 }
 
+void PendingChanges::logged(const ProgramRow& row, int most)
+{
+    if (programLines.size() - m_storing.lines >= most)
+        programLines.removeAt(m_storing.lines); // the store cannot be written, and would not keep it either
+    programLines.append(row);
+}
+
 QVector<ChangeSet> PendingChanges::sets() const
 {
     QVector<ChangeSet> result;
@@ -238,6 +276,18 @@ bool PendingChanges::removes(const NodeID& id) const
     return result;
 }
 
+bool PendingChanges::changes(const NodeID& id, const QString& property) const
+{
+    return std::any_of(m_making.begin(), m_making.end(), [&](const Making& making) {
+        const auto found = making.at.constFind(id);
+        if (found == making.at.constEnd())
+            return false;
+        const NodeChange& change = making.set.nodes.at(*found);
+        return !change.isUpdated() || change.before->properties.contains(property) ||
+               change.after->properties.contains(property);
+    });
+}
+
 void PendingChanges::drop(const NodeID& id)
 {
     for (Making& making : m_making) {
@@ -279,7 +329,8 @@ bool PendingChanges::amend(const NodeID& id, const PropertyList& before, const P
 {
     const auto last = std::find_if(m_making.rbegin(), m_making.rend(),
                                    [&id](const Making& making) { return making.at.contains(id); });
-    if (last == m_making.rend() || last->set.nodes.at(last->at.value(id)).isRemoved())
+    const bool isBeingStored = m_making.rend() - last <= std::ptrdiff_t(m_storing.making);
+    if (isBeingStored || last->set.nodes.at(last->at.value(id)).isRemoved())
         return false;
     setProperties(last->set.nodes[last->at.value(id)], before, PropertyList::difference(before, after));
     return true;

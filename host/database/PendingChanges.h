@@ -1,6 +1,7 @@
 #ifndef KO_PENDINGCHANGES_H
 #define KO_PENDINGCHANGES_H
 
+#include "model/ChangeScope.h"
 #include "model/ChangeSet.h"
 #include "model/NodeData.h"
 
@@ -33,9 +34,22 @@ public:
     /// The sets as they are to be stored, in their order.
     QVector<ChangeSet> sets() const;
 
+    /// What waits is being stored now: it stays as it is, and what is changed from now on goes into other
+    /// sets.
+    void beginStoring();
+    /// What waited then is stored.
+    void endStoring();
+    /// It waits again, as if nobody had tried.
+    void cancelStoring();
+
+    /// How many nodes and relations the sets change; of some, several times.
+    int count() const;
+
     /// What is changed from now on belongs to \a cause, until leave(). May be nested.
-    void enter(const Cause& cause) { m_causes.append(cause); }
-    void leave() { m_causes.removeLast(); }
+    void enter(const Cause& cause, ScopeStoring storing) { m_scopes.append({cause, storing}); }
+    void leave() { m_scopes.removeLast(); }
+    /// What there is may not be stored before it is left.
+    bool isWithinWhole() const;
 
     /// What is changed after this without a cause is another change set than what was changed before.
     void endTurn() { m_turn.reset(); }
@@ -56,6 +70,9 @@ public:
     void environmentsChanged(const EnvironmentsChange& change);
     void logged(const AuditRow& row);
 
+    /// Only the newest \a most lines wait.
+    void logged(const ProgramRow& row, int most);
+
     /// Notes that the properties of a node differ, as a part of what was done to it last. False when nothing
     /// waits of it.
     bool amend(const NodeID& id, const PropertyList& before, const PropertyList& after);
@@ -65,6 +82,8 @@ public:
 
     bool adds(const NodeID& id) const;
     bool removes(const NodeID& id) const;
+    /// Whether this property of a node that is there may be another one than the store has.
+    bool changes(const NodeID& id, const QString& property) const;
 
     /// Forgets what waits for a node that others removed.
     void drop(const NodeID& id);
@@ -95,7 +114,19 @@ private:
     void append(const NodeChange& change);
 
     std::vector<Making> m_making;
-    QVector<Cause> m_causes;
+    /// How much of it, of the lines and of the devices is being stored, from the beginning.
+    struct
+    {
+        std::size_t making = 0;
+        int lines = 0;
+        int devices = 0;
+    } m_storing;
+    struct Scope
+    {
+        Cause cause;
+        ScopeStoring storing;
+    };
+    QVector<Scope> m_scopes;
     std::optional<Cause> m_turn;
 };
 

@@ -20,7 +20,7 @@ public:
 
     bool contains(const QString& id) const;
 
-    /// Takes over what is stored. False if it is what was there.
+    /// Adopts what is stored. False if it is what was there.
     bool reload(const List& list);
 
 private:

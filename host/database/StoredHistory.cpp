@@ -32,7 +32,6 @@ std::optional<ChangeSet> StoredHistory::changeSet(qint64 number)
 
 std::optional<ChangeSetRow> StoredHistory::row(qint64 number)
 {
-    m_queue.flush();
     return m_queue.reading([&] { return m_store.changeSetRow(number); });
 }
 
@@ -42,6 +41,19 @@ HistoryPage StoredHistory::page(const HistoryFilter& filter, qint64 before, int 
     unread.isAtEnd = true;
     return m_queue.reading([&] { return std::make_optional(m_store.history(filter, before, count)); })
         .value_or(unread);
+}
+
+LastChangesPart StoredHistory::lastChanges(qint64 after, int count)
+{
+    LastChangesPart unread;
+    unread.isAtEnd = true;
+    return m_queue.reading([&] { return std::make_optional(m_store.lastChanges(after, count)); })
+        .value_or(unread);
+}
+
+QVector<LastChange> StoredHistory::lastChanges(const QStringList& nodes)
+{
+    return m_queue.reading([&] { return m_store.lastChanges(nodes); });
 }
 
 ChangeSetPart StoredHistory::changes(qint64 number, qint64 after, int count)
@@ -96,6 +108,7 @@ QVector<UndoneChange> StoredHistory::undoneChanges()
 
 void StoredHistory::dismissUndone(const QVector<qint64>& numbers)
 {
+    m_queue.endStoring();
     m_queue.reading([&] { return m_store.dismissUndone(numbers); });
 }
 

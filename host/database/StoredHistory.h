@@ -44,6 +44,10 @@ public:
     /// not stored yet, since it is called again and again.
     HistoryPage page(const HistoryFilter& filter, qint64 before, int count);
 
+    /// Of at most \a count nodes after those with which the last part ended; of what is stored, as page().
+    LastChangesPart lastChanges(qint64 after, int count);
+    QVector<LastChange> lastChanges(const QStringList& nodes);
+
     /// At most \a count changes after those with which the last part of a change set ended.
     ChangeSetPart changes(qint64 number, qint64 after, int count);
 

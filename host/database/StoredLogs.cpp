@@ -17,10 +17,7 @@ void StoredLogs::append(const AuditRow& row)
 
 void StoredLogs::append(const ProgramRow& row)
 {
-    QVector<ProgramRow>& lines = m_memory.pending.programLines;
-    if (lines.size() >= NodeStore::MaxProgramLines)
-        lines.removeFirst(); // the store cannot be written, and would not keep it either
-    lines.append(row);
+    m_memory.pending.logged(row, NodeStore::MaxProgramLines);
     m_queue.scheduleLine();
 }
 

@@ -83,8 +83,8 @@ void WrittenDevices::complete(Notices* notices)
     }
 }
 
-/// Who has an extension already keeps it, whoever comes first: there are recordings in the folder of that
-/// name.
+/// A device that has an extension already keeps it, whichever comes first: there are recordings in the folder
+/// of that name.
 void WrittenDevices::readWaiting(const QSet<NodeID>& written)
 {
     const QStringList ids = m_memory.pending.nodes();
@@ -95,7 +95,8 @@ void WrittenDevices::readWaiting(const QSet<NodeID>& written)
         m_waiting.insert(id);
         const QString extension = record ? textOf(*record, PropertyKeys::FactoryIP) : QString();
         if (FactoryExtension::isNone(extension) ||
-            (written.contains(id) && !m_store.nodesWithExtension(extension).contains(id)))
+            (written.contains(id) && m_memory.pending.changes(id, PropertyKeys::FactoryIP) &&
+             !m_store.nodesWithExtension(extension).contains(id)))
             continue;
         m_kept.insert(id);
         m_taken.insert(extension);

@@ -5,8 +5,8 @@
 
 namespace ko {
 
-/// What devices get by themselves when something of them is written, whoever writes it: their own address
-/// among their addresses, and a factory extension that no other device has, see docs/lookup.md.
+/// What devices get of their own accord when something of them is written, whoever writes it: their own
+/// address among their addresses, and a factory extension that no other device has, see docs/lookup.md.
 ///
 /// Both come with the commit that stores what was written: only then nobody else can take an extension.
 class WrittenDevices
@@ -29,7 +29,7 @@ private:
 
     NodeStore& m_store;
     NodeMemory& m_memory;
-    QSet<NodeID> m_waiting; ///< the nodes of which something waits: what is stored of them is of yesterday
+    QSet<NodeID> m_waiting; ///< the nodes of which something waits: what is stored of them is out of date
     QSet<NodeID> m_kept;    ///< whose extension stays as it is
     QSet<NodeID> m_settled; ///< that have been seen to
     QSet<QString> m_taken;  ///< by those of which something waits

@@ -25,7 +25,7 @@ struct BadLine
     QString reason;
 };
 
-/// A file with so many bad lines is not taken for a list of cameras.
+/// A file with this many bad lines is not taken for a list of cameras.
 enum { MaximumBadLines = 10000 };
 
 struct ImportResult

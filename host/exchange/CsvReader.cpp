@@ -12,7 +12,7 @@ namespace {
 
 const int BlockSize = 64 * 1024;
 
-/// Stands for UTF-16 that is no text; it is not valid UTF-8 either, so the line check finds it.
+/// Stands for UTF-16 that is not text; it is not valid UTF-8 either, so the line check finds it.
 const char InvalidByte = char(0xff);
 
 /// Whether all of \a bytes is UTF-8. The letter in front keeps a byte order mark inside the text.
@@ -155,7 +155,8 @@ bool CsvReader::readLine(QString* line)
     m_position += length;
     if (bytes.contains('\0'))
         return refuse(
-            tr("This is no text file (line %1 holds binary data). Save the file as UTF-8 text.").arg(m_line));
+            tr("This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.")
+                .arg(m_line));
     if (!whole || length > MaximumRecordSize)
         return refuse(tr("Line %1 is longer than 1 MiB.").arg(m_line));
     if (!decode(bytes, line))

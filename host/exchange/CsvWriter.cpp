@@ -52,7 +52,7 @@ bool CsvWriter::writeRecord(const QStringList& cells)
     QStringList line;
     for (const QString& cell : cells)
         line.append(coded(cell));
-    // A lone empty cell would be an empty line, which is no record.
+    // A lone empty cell would be an empty line, which is not a record.
     if (line.join(QString()).isEmpty() && line.size() <= 1)
         line = QStringList(QLatin1String("\"\""));
     QByteArray bytes = (line.join(QLatin1Char(',')) + QLatin1String("\r\n")).toUtf8();

@@ -54,8 +54,8 @@ QString refusal(const QString& name)
     const bool wasReplaced = name.contains(QChar(QChar::ReplacementCharacter)) && !QFile::exists(name);
     if (isText(name) && !wasReplaced)
         return QString();
-    return QCoreApplication::translate("FileName", "The file \"%1\" cannot be used: its name is no text "
-                                                   "in the encoding of this system. Rename it.")
+    return QCoreApplication::translate("FileName", "The file \"%1\" cannot be used: its name is not text in "
+                                                   "the encoding of this system. Rename it.")
         .arg(OutsideText::visible(name));
 }
 

@@ -9,7 +9,7 @@ namespace ko {
 
 /// Names of files as the system has them: bytes, which need not be text in its encoding.
 ///
-/// The toolkit replaces what is no text, and so gives the name of another file. Here a name that it cannot
+/// The toolkit replaces what is not text, and so gives the name of another file. Here a name that it cannot
 /// carry keeps its bytes, those beyond ASCII each as a half of a pair (U+DC80 to U+DCFF), which no text
 /// holds.
 namespace FileName {

@@ -20,7 +20,7 @@ QString checkedText(const QString& text, QString* reason)
 {
     for (const QChar c : text) {
         if (c.category() == QChar::Other_Control && c != QLatin1Char('\n'))
-            *reason = SurveyText::tr("it holds control characters");
+            *reason = SurveyText::tr("it contains control characters");
     }
     if (text.size() > MaximumTextLength)
         *reason = SurveyText::tr("it is longer than 1024 characters");
@@ -30,7 +30,7 @@ QString checkedText(const QString& text, QString* reason)
 QString lineOfText(const QString& cell, QString* reason)
 {
     if (cell.contains(QLatin1Char('\n')))
-        *reason = SurveyText::tr("it holds a line break");
+        *reason = SurveyText::tr("it contains a line break");
     return checkedText(cell, reason);
 }
 
@@ -49,7 +49,7 @@ QString shownText(const QString& cell, QString* reason)
 QString path(const QString& cell, QString* reason)
 {
     if (OutsideText::fit(cell) != cell)
-        *reason = SurveyText::tr("it holds characters that cannot be seen");
+        *reason = SurveyText::tr("it contains invisible characters");
     return text(cell, reason);
 }
 
@@ -70,10 +70,11 @@ QString address(const QString& cell, QString* reason)
     if (!reason->isEmpty())
         return text;
     if (!address.problem.isEmpty())
-        *reason = SurveyText::tr("it is no host name and no IP address");
+        *reason = SurveyText::tr("it is neither a host name nor an IP address");
     else if (address.port >= 0 ||
              (text != address.host && text != QLatin1Char('[') + address.host + QLatin1Char(']')))
-        *reason = SurveyText::tr("it holds more than a host; port, SSL and user have columns of their own");
+        *reason =
+            SurveyText::tr("it contains more than a host; port, SSL and user have columns of their own");
     return address.host;
 }
 
@@ -93,13 +94,13 @@ QString number(const QString& cell, int from, int to, const char* rule, QString*
 
 QString port(const QString& cell, QString* reason)
 {
-    return number(cell, 0, 65535, QT_TRANSLATE_NOOP("CameraSurvey", "it is no number from 0 to 65535"),
+    return number(cell, 0, 65535, QT_TRANSLATE_NOOP("CameraSurvey", "it is not a number from 0 to 65535"),
                   reason);
 }
 
 QString channel(const QString& cell, QString* reason)
 {
-    return number(cell, 1, 4, QT_TRANSLATE_NOOP("CameraSurvey", "it is no number from 1 to 4"), reason);
+    return number(cell, 1, 4, QT_TRANSLATE_NOOP("CameraSurvey", "it is not a number from 1 to 4"), reason);
 }
 
 QString yesOrNo(bool value)
@@ -132,7 +133,7 @@ QString mac(const QString& cell, QString* reason)
         return QString();
     const MACAddress address(cell);
     if (address.isNull())
-        *reason = SurveyText::tr("it is no MAC address (twelve hexadecimal digits)");
+        *reason = SurveyText::tr("it is not a MAC address (twelve hexadecimal digits)");
     return address.toString(true);
 }
 
@@ -150,10 +151,11 @@ QString type(const QString& cell, QString* reason)
         if (given.compare(QLatin1String(word.word), Qt::CaseInsensitive) == 0)
             return QString::number(int(word.type));
     }
-    return number(given, 0, 0x7fffffff,
-                  QT_TRANSLATE_NOOP("CameraSurvey",
-                                    "it is not one of IP device, URL camera, channel device, and no number"),
-                  reason);
+    return number(
+        given, 0, 0x7fffffff,
+        QT_TRANSLATE_NOOP("CameraSurvey",
+                          "it is neither a number nor one of IP device, URL camera, channel device"),
+        reason);
 }
 
 QString channelOf(const IPDeviceNode& node)
@@ -247,7 +249,7 @@ QString normalised(const NodeProperty& property, const QString& cell, QString* r
         return shownText(cell, reason);
     QVariant value(cell.trimmed());
     if (!value.toString().isEmpty() && !value.convert(type))
-        *reason = SurveyText::tr("it is no number");
+        *reason = SurveyText::tr("it is not a number");
     return value.toString();
 }
 

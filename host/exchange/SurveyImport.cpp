@@ -28,7 +28,7 @@ namespace ko {
 
 namespace {
 
-/// Creates the node of a hint and answers its id, an empty one on failure.
+/// Creates the node of a hint and returns its id, an empty one on failure.
 QString create(NodeHint& hint)
 {
     QString id;
@@ -266,7 +266,7 @@ bool SurveyImport::readSome(CsvReader& reader, const SurveyHeader& header, Pass 
         if (!reason.isEmpty())
             m_result.badLines.append({reader.line(), reason});
         if (m_result.badLines.size() >= CameraSurvey::MaximumBadLines) {
-            m_result.error = SurveyText::tr("%1 lines are bad; this is no list of cameras.")
+            m_result.error = SurveyText::tr("%1 lines are bad; this is not a list of cameras.")
                                  .arg(int(CameraSurvey::MaximumBadLines));
             return false;
         }
@@ -287,8 +287,18 @@ void SurveyImport::take(qint64 line, const SurveyRow& row, Pass pass, QString* r
 /// Before the first change: a device that was added without its password would be there the next time.
 bool SurveyImport::canStorePasswords()
 {
-    if (m_passwords.isEmpty() || Keyring::ofInstallation().prepareAgain())
+    const auto* db = dynamic_cast<const HostNodeDB*>(NodeDB::getDB());
+    if (m_passwords.isEmpty() ||
+        (Keyring::ofInstallation().prepareAgain() && (!db || db->canStorePasswords())))
         return true;
+    if (Keyring::ofInstallation().isKept()) {
+        m_result.error =
+            SurveyText::tr("The passwords of the list (in line %1) cannot be stored, because this "
+                           "computer does not have the key of the shared database. Give its "
+                           "passphrase first. Nothing was imported.")
+                .arg(m_passwords.text());
+        return false;
+    }
     m_result.error =
         SurveyText::tr("The passwords of the list (in line %1) cannot be stored, because the key that seals "
                        "them is not there. Unlock your keychain, bring the key file back, or make your "

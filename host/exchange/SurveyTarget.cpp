@@ -39,7 +39,7 @@ QString refusal(const QString& id, const SurveyRow& row)
 {
     const auto node = deviceNode(id);
     if (node.null())
-        return SurveyText::tr("what is at this address is no device");
+        return SurveyText::tr("what is at this address is not a device");
     if (row.has(SurveyColumn::Channel) && !dynamic_cast<const ISupportsChannels*>(node.get()))
         return SurveyText::tr("the device at this address has no channels");
     return QString();

@@ -77,6 +77,7 @@ const Title titles[] = {
     {PropertyKeys::UrlPTZZoomOut, "PTZUrlsWidget", "Zoom out:"},
     {PropertyKeys::RecordingStorageUsage, "StorageLocationWidget", "Access recordings:"},
     {PropertyKeys::UseRecordingTransponder, own, QT_TRANSLATE_NOOP("HistoryWords", "Use remote preview")},
+    {PropertyKeys::Nodes, "ViewPage", "Cameras:"},
     {PropertyKeys::Path, "PropertyFormPage", "Path:"},
     {PropertyKeys::UseGlobalPath, "PropertyFormPage", "Path is below the default file server path"},
     {PropertyKeys::CameraID, own, QT_TRANSLATE_NOOP("HistoryWords", "Camera")},
@@ -157,10 +158,10 @@ bool isSecret(const Alteration& of)
            (of.kind == Alteration::Setting && of.key == QLatin1String(Secrets::GlobalProxyPassword));
 }
 
-/// Whether the value tells what is meant by its identifier.
+/// Whether the value tells what is meant by its identifier, or by several.
 bool isIdentifier(const QString& key)
 {
-    return key == PropertyKeys::CameraID || key == PropertyKeys::AudioPathID ||
+    return key == PropertyKeys::CameraID || key == PropertyKeys::AudioPathID || key == PropertyKeys::Nodes ||
            key == QLatin1String("environment.active");
 }
 
@@ -210,6 +211,17 @@ QString HistoryWords::nameOf(const NodeID& id) const
 {
     const QString name = m_nameOf(id);
     return name.isEmpty() ? m_names.value(id) : name;
+}
+
+/// Of those that have one.
+QString HistoryWords::namesOf(const QString& ids) const
+{
+    QStringList names;
+    const QStringList all = ids.split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    for (const QString& id : all)
+        names.append(nameOf(id));
+    names.removeAll(QString());
+    return names.join(QLatin1String(", "));
 }
 
 QString HistoryWords::owner(const Alteration& of) const
@@ -281,9 +293,9 @@ QString HistoryWords::text(const Alteration& of, const QVariant& value) const
         return names.join(QLatin1String(", "));
     }
     default: {
-        QString name = isIdentifier(of.key) ? nameOf(value.toString()) : QString();
-        if (!name.isEmpty())
-            return name;
+        QString names = isIdentifier(of.key) ? namesOf(value.toString()) : QString();
+        if (!names.isEmpty())
+            return names;
         return of.kind == Alteration::Setting ? settingText(of.key, value.toString())
                                               : propertyText(of.key, value);
     }

@@ -41,6 +41,7 @@ public:
 
 private:
     QString nameOf(const NodeID& id) const;
+    QString namesOf(const QString& ids) const;
     QString text(const Alteration& of, const QVariant& value) const;
 
     const NameOf m_nameOf;

@@ -34,7 +34,7 @@ struct KO_HOST_EXPORT Moment
     /// Settings and environments that differ: before is what there was then, after what there is now.
     QVector<Alteration> others;
 
-    /// So many things that the history and what there is now do not agree on: what they were is not known.
+    /// How many things the history and the present disagree on: what they were at the moment is not known.
     int unknown = 0;
 
     /// The name, the properties and the relations that begin at one node: before is what there was then,

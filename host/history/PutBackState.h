@@ -46,7 +46,7 @@ private:
     Settings m_settings;
     QVariant m_environments;
     const QStringList m_noted;
-    int m_taken = 0; ///< so many alterations
+    int m_taken = 0; ///< this many alterations
     QHash<int, PutBackLine::State> m_refused;
     QHash<QString, qint64> m_places;
 };

@@ -110,9 +110,10 @@ Outcome apply(HostNodeDB& db, const PutBack& shown, const Cause& cause)
 Outcome apply(HostNodeDB& db, const PutBack& shown, const Cause& cause, const Log& log)
 {
     Outcome outcome;
-    db.flush(); // what waits is none of this
+    db.flush(StoreWait::InEventLoop); // what waits is none of this
     bool isRead = true;
-    outcome.stored = db.runAlone([&] { isRead = putBack(db, shown, cause, log, &outcome); }, &outcome.error);
+    outcome.stored = db.runAlone([&] { isRead = putBack(db, shown, cause, log, &outcome); }, &outcome.error,
+                                 StoreWait::InEventLoop);
     if (!isRead) {
         outcome.stored = StoreOutcome::NotRun;
         outcome.error = StoreError::make(StoreError::Other, db.fileName(), QLatin1String("not read"));

@@ -10,7 +10,7 @@ namespace ko {
 
 namespace {
 
-/// Whether the user did it at once, and not the program for him.
+/// Whether the user did it at once, and not the program on the user's behalf.
 bool isUsers(Purpose purpose)
 {
     switch (purpose) {
@@ -106,15 +106,6 @@ QString UndoStack::title(Direction direction) const
 {
     const std::optional<ChangeSetRow> row = next(direction);
     return row ? ChangeSetTitle::of(*row) : QString();
-}
-
-std::optional<PutBack> UndoStack::preview(Direction direction) const
-{
-    m_db.flush(); // what waits to be stored is the last step, and the end of what was undone
-    if (isEmpty(direction))
-        return std::nullopt;
-    const std::optional<ChangeSet> set = m_db.history().changeSet(steps(direction).last().last);
-    return set ? PuttingBack::preview(m_db, Alterations::of(*set)) : std::nullopt;
 }
 
 /// None if something new ended what could be redone.

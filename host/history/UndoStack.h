@@ -24,21 +24,20 @@ public:
 
     bool isEmpty(Direction direction) const { return steps(direction).isEmpty(); }
 
+    /// The number of the last change set of the next one; 0 if there is none.
+    qint64 newest(Direction direction) const { return isEmpty(direction) ? 0 : steps(direction).last().last; }
+
     /// The next one, as it was done first; none if there is none.
     std::optional<ChangeSetRow> next(Direction direction) const;
 
     /// What that is called; empty if there is none.
     QString title(Direction direction) const;
 
-    /// What the next one would put back, once what waits is stored; none if there is none any more, or it
-    /// cannot be read.
-    std::optional<PutBack> preview(Direction direction) const;
-
-    /// Does what preview() gave, even if more was done since. If anything was done, the step can be taken in
-    /// the other direction next.
+    /// Does what is shown of newest(), even if more was done since. If anything was done, the step can be
+    /// taken in the other direction next.
     PuttingBack::Outcome apply(Direction direction, const PutBack& shown);
 
-    /// Gives up the step of which preview() gave \a shown, if nothing of it can be put back any more.
+    /// Gives up the step of which \a shown is, if nothing of it can be put back any more.
     void dropIfLost(Direction direction, const PutBack& shown);
 
 signals:

@@ -113,11 +113,13 @@ qint64 ChangeLog::numberOf(const Cause& cause)
         .insertedId();
 }
 
-void ChangeLog::add(qint64 changeSet, const Row& row, const QString& before, const QString& after)
+qint64 ChangeLog::add(qint64 changeSet, const Row& row, const QString& before, const QString& after)
 {
-    m_store.run("INSERT INTO changes (kind, id, change_set, before, after) VALUES (?, ?, ?, ?, ?)",
-                {QString(QLatin1Char(row.kind)), row.id, changeSet ? SqlValue(changeSet) : SqlValue(),
-                 SqlValue::nullable(before), SqlValue::nullable(after)});
+    return m_store
+        .run("INSERT INTO changes (kind, id, change_set, before, after) VALUES (?, ?, ?, ?, ?)",
+             {QString(QLatin1Char(row.kind)), row.id, changeSet ? SqlValue(changeSet) : SqlValue(),
+              SqlValue::nullable(before), SqlValue::nullable(after)})
+        .insertedId();
 }
 
 QVector<ChangeSet> ChangeLog::sets(qint64 after, int count)

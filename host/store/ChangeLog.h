@@ -51,8 +51,8 @@ public:
     /// Makes it if there is none.
     qint64 numberOf(const Cause& cause);
 
-    /// \a before and \a after are ChangeCoding's.
-    void add(qint64 changeSet, const Row& row, const QString& before, const QString& after);
+    /// Returns the number of the row. \a before and \a after are ChangeCoding's.
+    qint64 add(qint64 changeSet, const Row& row, const QString& before, const QString& after);
 
     /// At most \a count change sets after number \a after, in order.
     QVector<ChangeSet> sets(qint64 after, int count);

@@ -11,10 +11,11 @@ namespace ko {
 bool hasHistory = true;
 #endif
 
-ChangeWriter::ChangeWriter(NodeTables& tables, ChangeLog& log, Vault& vault)
+ChangeWriter::ChangeWriter(NodeTables& tables, ChangeLog& log, Vault& vault, std::atomic<int>& done)
     : m_tables(tables)
     , m_log(log)
     , m_vault(vault)
+    , m_done(done)
 {
 }
 
@@ -29,9 +30,12 @@ void ChangeWriter::write(const ChangeSet& set)
             removeNode(change);
         else
             updateNode(change);
+        ++m_done;
     }
-    for (const RelationChange& relation : set.relations)
+    for (const RelationChange& relation : set.relations) {
         change(relation);
+        ++m_done;
+    }
     for (const SettingChange& setting : set.settings)
         change(setting);
     if (set.environments)
@@ -129,8 +133,10 @@ void ChangeWriter::change(const EnvironmentsChange& change)
 /// \a after: the properties as JSON, where it is made already.
 void ChangeWriter::note(const NodeChange& change, const QString& after)
 {
-    if (!hasHistory)
-        return m_log.add(0, {ChangeLog::NodeKind, change.id}, QString(), QString());
+    if (!hasHistory) {
+        m_log.add(0, {ChangeLog::NodeKind, change.id}, QString(), QString());
+        return;
+    }
     m_log.add(number(), {ChangeLog::NodeKind, change.id}, ChangeCoding::text(change.before, change),
               ChangeCoding::text(change.after, change, after));
 }
@@ -159,7 +165,7 @@ QString ChangeWriter::sealed(const QString& owner, const QString& key, const QSt
     const std::optional<QString> result = m_vault.toStore(owner, key, text);
     if (!result)
         throw StoreFailure{
-            StoreError::make(StoreError::KeyNotKept, m_tables.fileName(), QLatin1String("no key"))};
+            StoreError::make(m_vault.missingKey(), m_tables.fileName(), QLatin1String("no key"))};
     if (*result != text)
         m_sealed.insert(text, *result);
     return *result;

@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QSet>
 
+#include <atomic>
+
 namespace ko {
 
 class Vault;
@@ -16,7 +18,8 @@ class Vault;
 class ChangeWriter
 {
 public:
-    ChangeWriter(NodeTables& tables, ChangeLog& log, Vault& vault);
+    /// \a done counts the changes of nodes and relations that were made; another thread may look at it.
+    ChangeWriter(NodeTables& tables, ChangeLog& log, Vault& vault, std::atomic<int>& done);
 
     /// Throws StoreError::KeyNotKept when a password is held in memory for want of a key.
     void write(const ChangeSet& set);
@@ -49,6 +52,7 @@ private:
     NodeTables& m_tables;
     ChangeLog& m_log;
     Vault& m_vault;
+    std::atomic<int>& m_done;
     const ChangeSet* m_set = nullptr;
     qint64 m_number = 0;              ///< of the change set; given to the first thing that is changed
     QHash<QString, QString> m_sealed; ///< what was held in memory, to what was stored for it

@@ -42,6 +42,24 @@ namespace {
     " AND (before LIKE ? ESCAPE '\\' OR after LIKE ? ESCAPE '\\')))"                                         \
     " ORDER BY s.seq DESC"
 
+// By an index for each node, so that it costs what there are of nodes and not of changes.
+#define KO_LAST_CHANGES                                                                                      \
+    "SELECT nodes.n, nodes.id, s.time, s.user FROM nodes LEFT JOIN change_sets s"                            \
+    " ON s.seq = (SELECT max(change_set) FROM changes WHERE changes.id = nodes.id) WHERE "
+
+LastChangesPart lastChangesIn(SqliteStore::Rows rows)
+{
+    LastChangesPart part;
+    part.isAtEnd = true;
+    while (rows.next()) {
+        part.isAtEnd = false;
+        part.after = rows.number(0);
+        if (rows.number(2) != 0)
+            part.changes.append({rows.text(1), rows.number(2), rows.text(3)});
+    }
+    return part;
+}
+
 ChangeSetRow rowOf(const SqliteStore::Rows& rows)
 {
     NodeChange first;
@@ -129,6 +147,18 @@ HistoryPage HistoryReader::page(const HistoryFilter& filter, qint64 before, int 
     while (rows.next())
         page.rows.append(rowOf(rows));
     return page;
+}
+
+LastChangesPart HistoryReader::lastChanges(qint64 after, int count)
+{
+    return lastChangesIn(m_store.run(KO_LAST_CHANGES "nodes.n > ? ORDER BY nodes.n LIMIT ?", {after, count}));
+}
+
+QVector<LastChange> HistoryReader::lastChanges(const QStringList& nodes)
+{
+    return lastChangesIn(m_store.run(KO_LAST_CHANGES "nodes.id IN (SELECT value FROM json_each(?))",
+                                     {JsonText::list(nodes)}))
+        .changes;
 }
 
 } // namespace ko

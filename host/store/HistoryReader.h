@@ -20,6 +20,10 @@ public:
     /// Those among the \a count newest before number \a before that \a filter wants.
     HistoryPage page(const HistoryFilter& filter, qint64 before, int count);
 
+    /// Of at most \a count nodes after those with which the last part ended.
+    LastChangesPart lastChanges(qint64 after, int count);
+    QVector<LastChange> lastChanges(const QStringList& nodes);
+
 private:
     SqliteStore& m_store;
 };

@@ -12,7 +12,7 @@ namespace JsonText {
 /// With its quotation marks.
 void appendText(QString* json, const QString& text);
 
-/// Anything that is not finite is no number in JSON, and becomes null.
+/// Anything that is not finite is not a number in JSON, and becomes null.
 void appendNumber(QString* json, double number);
 void appendNumber(QString* json, qint64 number);
 

@@ -1,5 +1,7 @@
 #include "store/LogChain.h"
 
+#include <sodium.h>
+
 namespace ko {
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include <QtEndian>
 
+#include <sodium.h>
+
 namespace ko {
 
 namespace {
@@ -19,16 +21,24 @@ const std::array<Table, LogRows::Tables> tables = {{
     {"SELECT seq, time, user, host, code, data, change_set FROM main.audit WHERE seq > ?1 ORDER BY seq", 7},
 }};
 
+crypto_generichash_state* stateIn(std::array<unsigned char, 384>& bytes)
+{
+    static_assert(sizeof(crypto_generichash_state) == sizeof bytes, "libsodium keeps this size");
+    static_assert(alignof(crypto_generichash_state) <= 64, "and this alignment");
+    return reinterpret_cast<crypto_generichash_state*>(bytes.data());
+}
+
 } // namespace
 
 LogHash::LogHash()
 {
-    crypto_generichash_init(&m_state, nullptr, 0, Size);
+    crypto_generichash_init(stateIn(m_state), nullptr, 0, Size);
 }
 
 LogHash& LogHash::add(std::string_view bytes)
 {
-    crypto_generichash_update(&m_state, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size());
+    crypto_generichash_update(stateIn(m_state), reinterpret_cast<const unsigned char*>(bytes.data()),
+                              bytes.size());
     return *this;
 }
 
@@ -47,7 +57,7 @@ LogHash& LogHash::add(qint64 number)
 QByteArray LogHash::result()
 {
     QByteArray bytes(Size, Qt::Uninitialized);
-    crypto_generichash_final(&m_state, reinterpret_cast<unsigned char*>(bytes.data()), Size);
+    crypto_generichash_final(stateIn(m_state), reinterpret_cast<unsigned char*>(bytes.data()), Size);
     return bytes;
 }
 

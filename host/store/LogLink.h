@@ -9,8 +9,6 @@
 #include <array>
 #include <limits>
 
-#include <sodium.h>
-
 namespace ko {
 
 /// BLAKE2b.
@@ -26,7 +24,7 @@ public:
     QByteArray result();
 
 private:
-    crypto_generichash_state m_state;
+    alignas(64) std::array<unsigned char, 384> m_state; ///< libsodium's, whose headers no user of ours needs
 };
 
 /// The rows of one of the logs, in order, each with a hash over it as it is stored.

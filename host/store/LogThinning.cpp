@@ -1,6 +1,11 @@
 #include "store/LogThinning.h"
 
 #include "model/LogFinding.h"
+#include "secrets/Keyring.h"
+#include "store/HistoryReader.h"
+#include "store/SqliteStore.h"
+
+#include <QDateTime>
 
 #include <algorithm>
 
@@ -107,6 +112,28 @@ bool LogThinning::thin(const LogLink& link)
     m_file.run("DELETE FROM changes WHERE seq > ? AND seq <= ?",
                {m_before.ends[LogFinding::Changes], link.ends[LogFinding::Changes]});
     return true;
+}
+
+ThinnedHistory LogThinning::thin(SqliteStore& store, const HistoryLimit& limit,
+                                 const std::function<bool()>& goOn)
+{
+    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
+    if (!key->sealer.canSeal())
+        throw StoreFailure{
+            StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key"))};
+    ThinnedHistory result;
+    LogThinning thinning(store, key->sealer);
+    const qint64 last = thinning.last(limit, QDateTime::currentMSecsSinceEpoch());
+    auto outcome = last > 0 ? LogThinning::Outcome::More : LogThinning::Outcome::Done;
+    while (outcome == LogThinning::Outcome::More && goOn()) {
+        Transaction transaction(store, Transaction::Write);
+        outcome = thinning.thinSome(last);
+        transaction.commit();
+        result.lines = thinning.lines();
+    }
+    result.last = HistoryReader(store).lastThinned();
+    result.isAltered = outcome == LogThinning::Outcome::Altered;
+    return result;
 }
 
 } // namespace ko

@@ -5,7 +5,11 @@
 #include "secrets/Sealer.h"
 #include "store/LogLink.h"
 
+#include <functional>
+
 namespace ko {
+
+class SqliteStore;
 
 /// Takes old details out of the history: the lines that say what was before and after. Who did what, when and
 /// what for stays, and so does the audit log.
@@ -30,6 +34,10 @@ public:
 
     /// Thins some links up to change set \a last. In a transaction that keeps other writers out.
     Outcome thinSome(qint64 last);
+
+    /// All that goes, in parts; see NodeStore::thinHistory(). Throws StoreError::KeyNotKept, too.
+    static ThinnedHistory thin(SqliteStore& store, const HistoryLimit& limit,
+                               const std::function<bool()>& goOn);
 
     /// Lines that went so far.
     qint64 lines() const { return m_lines; }

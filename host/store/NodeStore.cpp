@@ -1,63 +1,67 @@
 #include "store/NodeStore.h"
 
 #include "secrets/Vault.h"
-#include "store/ChangeWriter.h"
 #include "store/DeltaReader.h"
 #include "store/HistoryReader.h"
-#include "store/HistorySwitch.h"
 #include "store/LogChain.h"
 #include "store/LogThinning.h"
 #include "store/LogVerifier.h"
 #include "store/SqliteFile.h"
 #include "store/StoreFile.h"
+#include "store/StoreWriting.h"
 #include "store/StoredSecrets.h"
-
-#include <QDateTime>
 
 namespace ko {
 
-class NodeStore::Private
+namespace {
+
+struct View
 {
-public:
-    explicit Private(std::unique_ptr<SqliteStore> opened)
+    explicit View(std::unique_ptr<SqliteStore> opened)
         : connection(std::move(opened))
         , tables(*connection)
         , log(*connection)
-        , vault(std::make_shared<Vault>(Keyring::ofInstallation()))
     {
     }
 
     const std::unique_ptr<SqliteStore> connection;
     NodeTables tables;
     ChangeLog log;
-    const std::shared_ptr<Vault> vault;
-    qint64 dataVersion = 0;
 };
 
-namespace {
-
-ThinnedHistory thinned(SqliteStore& store, const HistoryLimit& limit, const std::function<bool()>& goOn)
-{
-    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
-    if (!key->sealer.canSeal())
-        throw StoreFailure{
-            StoreError::make(StoreError::KeyNotKept, store.fileName(), QLatin1String("no key"))};
-    ThinnedHistory result;
-    LogThinning thinning(store, key->sealer);
-    const qint64 last = thinning.last(limit, QDateTime::currentMSecsSinceEpoch());
-    auto outcome = last > 0 ? LogThinning::Outcome::More : LogThinning::Outcome::Done;
-    while (outcome == LogThinning::Outcome::More && goOn()) {
-        Transaction transaction(store, Transaction::Write);
-        outcome = thinning.thinSome(last);
-        transaction.commit();
-        result.lines = thinning.lines();
-    }
-    result.last = HistoryReader(store).lastThinned();
-    result.isAltered = outcome == LogThinning::Outcome::Altered;
-    return result;
-}
-
 } // namespace
+
+class NodeStore::Private
+{
+public:
+    explicit Private(std::unique_ptr<SqliteStore> opened)
+        : own(std::move(opened))
+        , file(own.connection->fileName())
+        , vault(std::make_shared<Vault>(Keyring::ofInstallation()))
+    {
+    }
+
+    /// To read with: while another thread writes, what was there before.
+    View& view()
+    {
+        if (writing.expired()) {
+            m_beside.reset();
+            return own;
+        }
+        if (!m_beside)
+            m_beside.emplace(SqliteStore::openBeside(file));
+        return *m_beside;
+    }
+
+    View own;
+    const QString file;
+    const std::shared_ptr<Vault> vault;
+    std::weak_ptr<StoreWriting> writing;
+    qint64 dataVersion = 0;
+
+private:
+    std::optional<View> m_beside;
+};
 
 const int NodeStore::MaxProgramLines = NodeTables::MaxProgramLines;
 
@@ -74,12 +78,21 @@ std::unique_ptr<NodeStore> NodeStore::open(const QString& file, StoreError* erro
         file, error, check == Check::First ? SqliteStore::Check::First : SqliteStore::Check::ByUser);
     if (!connection)
         return nullptr;
-    return std::unique_ptr<NodeStore>(new NodeStore(std::make_unique<Private>(std::move(connection))));
+    std::unique_ptr<NodeStore> store(new NodeStore(std::make_unique<Private>(std::move(connection))));
+    try {
+        if (store->isShared())
+            store->d->vault->setSite(
+                store->d->own.connection->value("SELECT id FROM shared_site").toString());
+    } catch (const StoreFailure& failure) {
+        *error = failure.error;
+        return nullptr;
+    }
+    return store;
 }
 
 const QString& NodeStore::fileName() const
 {
-    return d->connection->fileName();
+    return d->file;
 }
 
 const std::shared_ptr<Vault>& NodeStore::vault() const
@@ -94,12 +107,12 @@ StoreError NodeStore::findDamage(const QString& file)
 
 void NodeStore::setSound()
 {
-    d->connection->setSound();
+    d->own.connection->setSound();
 }
 
 bool NodeStore::isShared()
 {
-    return d->connection->value("SELECT 1 FROM sqlite_schema WHERE name = 'shared_site'").isValid();
+    return d->view().connection->value("SELECT 1 FROM sqlite_schema WHERE name = 'shared_site'").isValid();
 }
 
 QVector<UndoneChange> NodeStore::undoneChanges()
@@ -115,7 +128,7 @@ QVector<UndoneChange> NodeStore::undoneChanges()
                      Purposes::fromWord(rows.text(column + 4)),
                      rows.text(column + 5)};
     };
-    SqliteStore::Rows rows = d->connection->run(
+    SqliteStore::Rows rows = d->view().connection->run(
         "SELECT u.seq, s.seq, s.id, s.user, s.host, s.time, s.purpose, s.subject,"
         " json_extract(g.before, '$.name'), t.id, t.user, t.host, t.time, t.purpose, t.subject"
         " FROM shared_undone u JOIN changes c ON c.seq = u.seq JOIN change_sets s ON s.seq = c.change_set"
@@ -129,40 +142,42 @@ QVector<UndoneChange> NodeStore::undoneChanges()
 
 void NodeStore::dismissUndone(const QVector<qint64>& numbers)
 {
-    Transaction transaction(*d->connection, Transaction::Write);
+    SqliteStore& connection = *d->own.connection;
+    Transaction transaction(connection, Transaction::Write);
     for (const qint64 number : numbers)
-        d->connection->run("DELETE FROM shared_undone WHERE seq = ?", {number});
+        connection.run("DELETE FROM shared_undone WHERE seq = ?", {number});
     transaction.commit();
 }
 
 bool NodeStore::isSealingPending()
 {
-    return StoredSecrets::isPending(*d->connection);
+    return StoredSecrets::isPending(*d->view().connection);
 }
 
 NodeStore::Contents NodeStore::load(const std::function<void(qint64, const PackedSummary&)>& visit)
 {
     Contents contents;
     {
-        const Transaction transaction(*d->connection, Transaction::Read);
-        d->dataVersion = d->connection->dataVersion();
-        contents.revision = d->log.revision();
-        d->tables.forEachNode(visit);
-        contents.relations = d->tables.relations();
-        contents.settings = d->tables.settings();
-        contents.environments = d->tables.environments();
+        const Transaction transaction(*d->own.connection, Transaction::Read);
+        d->dataVersion = d->own.connection->dataVersion();
+        contents.revision = d->own.log.revision();
+        d->own.tables.forEachNode(visit);
+        contents.relations = d->own.tables.relations();
+        contents.settings = d->own.tables.settings();
+        contents.environments = d->own.tables.environments();
     }
-    d->connection->execute("PRAGMA shrink_memory"); // nobody reads all those pages again
+    d->own.connection->execute("PRAGMA shrink_memory"); // nobody reads all those pages again
     return contents;
 }
 
 std::optional<Delta> NodeStore::news(qint64 revision, const Wanted& wanted, int count)
 {
-    const qint64 version = d->connection->dataVersion();
+    View& own = d->own;
+    const qint64 version = own.connection->dataVersion();
     if (version == d->dataVersion)
         return std::nullopt;
-    const Transaction transaction(*d->connection, Transaction::Read);
-    Delta delta = DeltaReader(d->tables, d->log, wanted).since(revision, count);
+    const Transaction transaction(*own.connection, Transaction::Read);
+    Delta delta = DeltaReader(own.tables, own.log, wanted).since(revision, count);
     if (!delta.isMore)
         d->dataVersion = version;
     return delta;
@@ -170,107 +185,112 @@ std::optional<Delta> NodeStore::news(qint64 revision, const Wanted& wanted, int 
 
 Delta NodeStore::everything(const Wanted& wanted)
 {
-    const Transaction transaction(*d->connection, Transaction::Read);
-    return DeltaReader(d->tables, d->log, wanted).everything();
+    const Transaction transaction(*d->own.connection, Transaction::Read);
+    return DeltaReader(d->own.tables, d->own.log, wanted).everything();
 }
 
 std::optional<PropertyList> NodeStore::properties(const NodeID& id)
 {
-    const std::optional<StoredProperties> stored = d->tables.properties(id);
+    const std::optional<StoredProperties> stored = d->view().tables.properties(id);
     return stored ? std::make_optional(stored->list) : std::nullopt;
 }
 
 void NodeStore::properties(const QStringList& ids,
                            const std::function<void(const NodeID&, const PropertyList&)>& visit)
 {
-    d->tables.forEachProperties(ids, visit);
+    d->view().tables.forEachProperties(ids, visit);
 }
 
 void NodeStore::column(const QString& key, const std::function<void(const NodeID&, const QVariant&)>& visit)
 {
-    d->tables.forEachValue(key, visit);
+    d->view().tables.forEachValue(key, visit);
 }
 
 QStringList NodeStore::nodesWithMac(const QString& mac)
 {
-    return d->tables.nodesWithMac(mac);
+    return d->view().tables.nodesWithMac(mac);
 }
 
 QStringList NodeStore::nodesWithExtension(const QString& extension)
 {
-    return d->tables.nodesWithExtension(extension);
+    return d->view().tables.nodesWithExtension(extension);
 }
 
 void NodeStore::lookupKeys(const std::function<void(const NodeID&, const QString&)>& visit)
 {
-    d->tables.forEachLookupKey(visit);
+    d->view().tables.forEachLookupKey(visit);
 }
 
-NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted,
-                                    const std::function<Batch(const Delta&)>& merge)
+NodeStore::Commit NodeStore::commit(qint64 revision, const Wanted& wanted, const Merge& merge)
 {
-    Transaction transaction(*d->connection, Transaction::Write);
-    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
-    LogChain chain(*d->connection, key->sealer);
-    if (hasHistory)
-        chain.begin();
-    const Batch batch = merge(DeltaReader(d->tables, d->log, wanted).since(revision));
-    ChangeWriter writer(d->tables, d->log, *d->vault);
-    for (const ChangeSet& set : batch.sets)
-        writer.write(set);
-    for (const ProgramRow& line : batch.programLines)
-        d->tables.addProgramLine(line);
-    if (!batch.programLines.isEmpty())
-        d->tables.trimProgramLines();
-    if (hasHistory)
-        chain.end();
-    Commit result = {d->log.revision(), writer.places(), writer.missingNodes(), {}, writer.sets()};
-    for (const NodeID& source : writer.reordered())
-        result.reordered.insert(source, d->tables.relationsFrom(source));
-    transaction.commit();
-    return result;
+    return begin(revision, wanted, merge)->run();
+}
+
+std::shared_ptr<StoreWriting> NodeStore::begin(qint64 revision, const Wanted& wanted, const Merge& merge)
+{
+    View& own = d->own;
+    auto writing = std::make_shared<StoreWriting>(*own.connection, own.tables, own.log, *d->vault);
+    writing->setBatch(merge(DeltaReader(own.tables, own.log, wanted).since(revision)));
+    d->writing = writing;
+    return writing;
 }
 
 qint64 NodeStore::newestChangeSet()
 {
-    return d->connection->value("SELECT max(seq) FROM change_sets").toLongLong();
+    return d->view().connection->value("SELECT max(seq) FROM change_sets").toLongLong();
 }
 
 QVector<ChangeSet> NodeStore::changeSets(qint64 after, int count)
 {
-    const Transaction transaction(*d->connection, Transaction::Read);
-    return d->log.sets(after, count);
+    View& view = d->view();
+    const Transaction transaction(*view.connection, Transaction::Read);
+    return view.log.sets(after, count);
 }
 
 std::optional<ChangeSetRow> NodeStore::changeSetRow(qint64 number)
 {
-    return HistoryReader(*d->connection).row(number);
+    return HistoryReader(*d->view().connection).row(number);
 }
 
 HistoryPage NodeStore::history(const HistoryFilter& filter, qint64 before, int count)
 {
-    const Transaction transaction(*d->connection, Transaction::Read);
-    return HistoryReader(*d->connection).page(filter, before, count);
+    SqliteStore& connection = *d->view().connection;
+    const Transaction transaction(connection, Transaction::Read);
+    return HistoryReader(connection).page(filter, before, count);
+}
+
+LastChangesPart NodeStore::lastChanges(qint64 after, int count)
+{
+    SqliteStore& connection = *d->view().connection;
+    const Transaction transaction(connection, Transaction::Read);
+    return HistoryReader(connection).lastChanges(after, count);
+}
+
+QVector<LastChange> NodeStore::lastChanges(const QStringList& nodes)
+{
+    SqliteStore& connection = *d->view().connection;
+    const Transaction transaction(connection, Transaction::Read);
+    return HistoryReader(connection).lastChanges(nodes);
 }
 
 ChangeSetPart NodeStore::changes(qint64 number, qint64 after, int count)
 {
-    return d->log.part(number, after, count);
+    return d->view().log.part(number, after, count);
 }
 
 ChangeSet NodeStore::changesOf(qint64 number, const QString& id)
 {
-    return d->log.changesOf(number, id);
+    return d->view().log.changesOf(number, id);
 }
 
 LaterPart NodeStore::later(qint64 changeSet, qint64 after, int count)
 {
-    return d->log.later(changeSet, after, count);
+    return d->view().log.later(changeSet, after, count);
 }
 
 QVector<ChangeSetRow> NodeStore::silentChangeSets(qint64 before, int count)
 {
-    return d->log.silentSets(before, count);
+    return d->view().log.silentSets(before, count);
 }
 
 std::optional<LogReport> NodeStore::verifyLogs(const QString& file, const LogEnd& known,
@@ -311,7 +331,7 @@ std::optional<ThinnedHistory> NodeStore::thinHistory(const QString& file, const 
     if (!store)
         return std::nullopt;
     try {
-        return thinned(*store, limit, goOn);
+        return LogThinning::thin(*store, limit, goOn);
     } catch (const StoreFailure& failure) {
         *error = failure.error;
         return std::nullopt;
@@ -334,27 +354,27 @@ HistoryLimit NodeStore::historyLimit(const QString& file)
 
 QVector<AuditRow> NodeStore::audit(const LogRange& range)
 {
-    return d->log.audit(range);
+    return d->view().log.audit(range);
 }
 
 qint64 NodeStore::auditCount()
 {
-    return d->log.auditCount();
+    return d->view().log.auditCount();
 }
 
 qint64 NodeStore::firstAuditWithChanges()
 {
-    return d->log.firstAuditWithChanges();
+    return d->view().log.firstAuditWithChanges();
 }
 
 QVector<ProgramRow> NodeStore::programLines(const LogRange& range)
 {
-    return d->tables.programLines(range);
+    return d->view().tables.programLines(range);
 }
 
 qint64 NodeStore::programLineCount()
 {
-    return d->tables.programLineCount();
+    return d->view().tables.programLineCount();
 }
 
 } // namespace ko

@@ -13,6 +13,7 @@
 
 namespace ko {
 
+class StoreWriting;
 class Vault;
 
 /// The node database on a SQLite file: takes and gives values. Everything but open() throws StoreFailure
@@ -64,8 +65,8 @@ public:
     /// Tells of which nodes the properties are wanted, too.
     typedef std::function<bool(const NodeID&)> Wanted;
 
-    /// What others changed since \a revision, at most so many changes; none if nobody has committed anything
-    /// since the last call that left nothing.
+    /// What others changed since \a revision, at most this many changes; none if nobody has committed
+    /// anything since the last call that left nothing.
     std::optional<Delta> news(qint64 revision, const Wanted& wanted, int count);
     Delta everything(const Wanted& wanted);
 
@@ -106,9 +107,15 @@ public:
         QVector<StoredSet> sets; ///< that changed something
     };
 
+    typedef std::function<Batch(const Delta&)> Merge;
+
     /// Keeps other programs from writing, calls \a merge with what they changed since \a revision, and stores
     /// what that returns. All of it is on the disk when this returns, or nothing is stored.
-    Commit commit(qint64 revision, const Wanted& wanted, const std::function<Batch(const Delta&)>& merge);
+    Commit commit(qint64 revision, const Wanted& wanted, const Merge& merge);
+
+    /// The same but for storing, which another thread may do. As long as the writing is there, what is read
+    /// is what the file had before, and nothing else is written nor looked for.
+    std::shared_ptr<StoreWriting> begin(qint64 revision, const Wanted& wanted, const Merge& merge);
 
     // Logs
 
@@ -120,6 +127,9 @@ public:
     std::optional<ChangeSetRow> changeSetRow(qint64 number);
     /// Those among the \a count newest before number \a before that \a filter wants.
     HistoryPage history(const HistoryFilter& filter, qint64 before, int count);
+    /// Of at most \a count nodes after those with which the last part ended.
+    LastChangesPart lastChanges(qint64 after, int count);
+    QVector<LastChange> lastChanges(const QStringList& nodes);
     /// At most \a count changes of a change set after those with which the last part ended.
     ChangeSetPart changes(qint64 number, qint64 after, int count);
     /// All that a change set changed of one node, with the relations that begin there, or of one setting;

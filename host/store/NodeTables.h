@@ -26,7 +26,7 @@ public:
 
     const QString& fileName() const { return m_store.fileName(); }
 
-    /// All nodes with their numbers, in ascending order of these. One whose identifier is no text, which
+    /// All nodes with their numbers, in ascending order of these. One whose identifier is not text, which
     /// only another program can have written, is left out.
     void forEachNode(const std::function<void(qint64 n, const PackedSummary&)>& visit);
     /// Without properties.
@@ -51,7 +51,7 @@ public:
     QStringList nodesWithMac(const QString& mac);
     QStringList nodesWithExtension(const QString& extension);
 
-    /// \a place is the number that it shall have, unless another node has it; 0 for the next. Returns its
+    /// \a place is the number that it is to have, unless another node has it; 0 for the next. Returns its
     /// number.
     qint64 insertNode(qint64 place, const PackedSummary& summary, const QString& lookupKey);
     void updateNode(qint64 n, const PackedSummary& summary, const QString& lookupKey);

@@ -101,7 +101,7 @@ void appendPair(QString* json, const QVariant& value)
     json->append(QLatin1Char(']'));
 }
 
-/// The toolkit's parser makes half of a surrogate pair of some bytes that are no text, which cannot be
+/// The toolkit's parser makes half of a surrogate pair of some bytes that are not text, which cannot be
 /// stored.
 QString wellFormed(const QString& text)
 {

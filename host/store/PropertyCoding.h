@@ -17,7 +17,8 @@ namespace PropertyCoding {
 KO_HOST_EXPORT void appendJson(QString* json, const PropertyList& properties);
 PropertyList listFromJson(const QJsonObject& object);
 
-/// The same from the text as it is stored, in UTF-8; none if another program has written what is no object.
+/// The same from the text as it is stored, in UTF-8; none if another program has written what is not an
+/// object.
 KO_HOST_EXPORT std::optional<PropertyList> listFromText(std::string_view utf8);
 
 /// One of the arrays.

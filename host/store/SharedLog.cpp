@@ -3,7 +3,11 @@
 #include "secrets/Keyring.h"
 #include "store/ChangeCoding.h"
 #include "store/LogChain.h"
+#include "store/SharedParcels.h"
+#include "store/SharedPasswords.h"
 #include "store/SharedTables.h"
+#include "store/StoredSecrets.h"
+#include "store/WaitingRows.h"
 
 #include <QSet>
 
@@ -12,6 +16,16 @@ namespace ko {
 namespace {
 
 const int mostLinesOfAParcel = 200;
+
+// What a large transaction writes and has no room in memory goes to SQLite's log, where each row looks for
+// its pages again, in a time that grows with the log.
+const char roomForCopy[] = "PRAGMA cache_size = -262144"; // KiB
+const char usualRoom[] = "PRAGMA cache_size = -2000";
+
+// What is written here is at the site, too, and comes again if power fails before it is on the disk. Nothing
+// tells so of a copy that is complete.
+const char lessSafe[] = "PRAGMA synchronous = NORMAL";
+const char safe[] = "PRAGMA synchronous = FULL";
 
 /// What no two lines of a parcel may both be about.
 QString thingOf(const SharedLine& line)
@@ -44,13 +58,13 @@ public:
         : connection(std::move(opened))
         , tables(*connection)
         , log(*connection)
+        , parcels(*connection)
+        , waiting(*connection)
         , describe(describing)
     {
     }
 
-    SqliteStore::Rows rowsAfter(const Cursor& cursor);
-    bool isWaiting(const Cursor& cursor);
-    void take(const SharedParcel& parcel, SharedTables* shared);
+    bool take(const SharedParcel& parcel, SharedTables* shared);
     void noteUndone(const SharedLine& line);
     qint64 rowOf(qint64 changeSet, qint64 line);
     void note(const ChangeLog::Row& row);
@@ -59,6 +73,8 @@ public:
     const std::unique_ptr<SqliteStore> connection;
     NodeTables tables;
     ChangeLog log;
+    SharedParcels parcels;
+    WaitingRows waiting;
     const Describe describe;
 };
 
@@ -75,6 +91,7 @@ std::unique_ptr<SharedLog> SharedLog::open(const QString& file, const Describe& 
     if (!connection)
         return nullptr;
     try {
+        connection->execute(lessSafe);
         Transaction transaction(*connection, Transaction::Write);
         for (const char* statement : StoreSchema::sharingStatements())
             connection->execute(statement);
@@ -115,17 +132,24 @@ bool SharedLog::isReplaced()
 
 qint64 SharedLog::waitingLines()
 {
-    return d->connection
-        ->value("SELECT (SELECT count(*) FROM shared_lines WHERE number < 0 AND line IS NOT NULL) +"
-                " (SELECT count(*) FROM changes c WHERE c.kind IN ('N', 'R', 'S', 'E')"
-                " AND c.change_set IS NOT NULL"
-                " AND NOT EXISTS (SELECT 1 FROM shared_lines s WHERE s.seq = c.seq))")
-        .toLongLong();
+    return d->waiting.count();
 }
 
 bool SharedLog::isEmpty()
 {
     return !d->connection->value("SELECT 1 FROM changes UNION ALL SELECT 1 FROM nodes LIMIT 1").isValid();
+}
+
+bool SharedLog::hasPasswords()
+{
+    return d->connection
+        ->value("SELECT 1 FROM changes WHERE instr(before, 'sealed1:') OR instr(after, 'sealed1:') LIMIT 1")
+        .isValid();
+}
+
+bool SharedLog::hasClearPasswords()
+{
+    return StoredSecrets::isPending(*d->connection);
 }
 
 bool SharedLog::isTold()
@@ -143,7 +167,7 @@ bool SharedLog::isTold()
 std::optional<qint64> SharedLog::forEachRow(const VisitRow& visit)
 {
     const Transaction transaction(*d->connection, Transaction::Read);
-    if (d->isWaiting(Cursor()))
+    if (d->waiting.areAfter(Cursor()))
         return std::nullopt;
     const qint64 position = this->position();
     const auto visitAll = [&visit](SharedTable table, SqliteStore::Rows rows) {
@@ -167,41 +191,20 @@ std::optional<qint64> SharedLog::forEachRow(const VisitRow& visit)
     return position;
 }
 
-/// First what the site lost, then what it never had.
-SqliteStore::Rows SharedLog::Private::rowsAfter(const Cursor& cursor)
-{
-    return connection->run(
-        "SELECT * FROM (SELECT -s.number AS former, c.seq AS seq, s.line, c.kind, c.id, c.before, c.after,"
-        " t.id, t.time, t.user, t.host, t.purpose, t.subject FROM shared_lines s JOIN changes c ON c.seq = "
-        "s.seq"
-        " JOIN change_sets t ON t.seq = c.change_set WHERE s.number < 0 AND s.line IS NOT NULL"
-        " AND (-s.number, c.seq) > (?, ?) ORDER BY -s.number, c.seq)"
-        " UNION ALL SELECT * FROM (SELECT 9223372036854775807 AS former, c.seq AS seq, c.seq, c.kind, c.id,"
-        " c.before, c.after, t.id, t.time, t.user, t.host, t.purpose, t.subject FROM changes c"
-        " JOIN change_sets t ON t.seq = c.change_set WHERE c.kind IN ('N', 'R', 'S', 'E')"
-        " AND c.seq > iif(? = 9223372036854775807, ?, 0)"
-        " AND NOT EXISTS (SELECT 1 FROM shared_lines s WHERE s.seq = c.seq) ORDER BY c.seq)",
-        {cursor.former, cursor.row, cursor.former, cursor.row});
-}
-
-bool SharedLog::Private::isWaiting(const Cursor& cursor)
-{
-    return rowsAfter(cursor).next();
-}
-
 QVector<SharedParcel> SharedLog::waiting(Cursor* cursor, int lines)
 {
     QVector<SharedParcel> parcels;
     QSet<QString> things;
-    SqliteStore::Rows rows = d->rowsAfter(*cursor);
+    const SharedPasswords passwords(site());
+    SqliteStore::Rows rows = d->waiting.after(*cursor);
     while (lines-- > 0 && rows.next()) {
-        const SharedLine line = lineOf(rows);
+        const SharedLine line = passwords.toSend(lineOf(rows));
         const Cause cause = causeOf(rows);
         const QString thing = thingOf(line);
         const bool fits = !parcels.isEmpty() && parcels.constLast().cause.id == cause.id &&
                           parcels.constLast().lines.size() < mostLinesOfAParcel && !things.contains(thing);
         if (!fits) {
-            parcels.append({0, QString(), cause, {}});
+            parcels.append({0, QString(), cause, {}, {}, {}});
             things.clear();
         }
         things.insert(thing);
@@ -214,7 +217,7 @@ QVector<SharedParcel> SharedLog::waiting(Cursor* cursor, int lines)
 SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels, const Cursor& sent)
 {
     Transaction transaction(*d->connection, Transaction::Write);
-    if (d->isWaiting(sent))
+    if (d->waiting.areAfter(sent))
         return Receipt::SomethingWaits;
     const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
     LogChain chain(*d->connection, key->sealer);
@@ -226,7 +229,8 @@ SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels, cons
             continue;
         if (parcel.number != position + 1)
             return Receipt::Gap;
-        d->take(parcel, &shared);
+        if (!d->take(parcel, &shared))
+            return Receipt::Rewritten;
         position = parcel.number;
     }
     QSet<QString> noted;
@@ -242,8 +246,44 @@ SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels, cons
     return Receipt::Taken;
 }
 
-void SharedLog::Private::take(const SharedParcel& parcel, SharedTables* shared)
+SharedLog::Receipt SharedLog::takeCopy(const std::function<bool(const VisitParcel&)>& history,
+                                       const std::function<bool(const VisitRow&)>& state)
 {
+    d->connection->execute(roomForCopy);
+    d->connection->execute(safe);
+    Transaction transaction(*d->connection, Transaction::Write);
+    const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
+    LogChain chain(*d->connection, key->sealer);
+    chain.begin();
+    SharedTables shared(*d->connection, d->tables, d->describe);
+    qint64 position = 0;
+    bool isFollowing = true;
+    const bool hasHistory = history([&](const SharedParcel& parcel) {
+        isFollowing = parcel.number == ++position && d->take(parcel, nullptr);
+        return isFollowing;
+    });
+    if (!isFollowing)
+        return Receipt::Rewritten;
+    const auto take = [&shared](SharedTable table, const SharedRow& row) {
+        shared.insert(table, row);
+        return true;
+    };
+    if (!hasHistory || !state(take))
+        return Receipt::SomethingWaits;
+    d->connection->run("UPDATE shared_site SET position = ?", {position});
+    chain.end();
+    transaction.commit();
+    d->connection->execute(usualRoom);
+    d->connection->execute(lessSafe);
+    d->connection->execute("PRAGMA shrink_memory");
+    return Receipt::Taken;
+}
+
+/// Without \a shared it is only written down. False, with nothing done, if its link is wrong.
+bool SharedLog::Private::take(const SharedParcel& parcel, SharedTables* shared)
+{
+    if (!parcels.add(parcel))
+        return false;
     qint64 changeSet = log.find(parcel.cause);
     bool isNew = true; // else it is in the history of this desk as it was done here
     for (const SharedLine& line : parcel.lines)
@@ -256,18 +296,18 @@ void SharedLog::Private::take(const SharedParcel& parcel, SharedTables* shared)
             noteUndone(line);
         if (!line.isDone)
             continue;
-        const bool isChanged = shared->apply(line);
+        const bool isChanged = shared != nullptr && shared->apply(line);
         const ChangeLog::Row row = {ChangeLog::Kind(line.kind), line.id};
         if (known == 0 && (isNew || line.line != 0)) {
             if (changeSet == 0)
                 changeSet = log.numberOf(parcel.cause);
-            log.add(changeSet, row, line.before, line.after);
-            setNumber(log.revision(), changeSet, line.line, parcel.number);
+            const qint64 added = log.add(changeSet, row, line.before, line.after);
+            setNumber(added, changeSet, line.line, parcel.number);
         } else if (isChanged) {
             note(row);
         }
     }
-    connection->run("INSERT INTO shared_parcels (number, id) VALUES (?, ?)", {parcel.number, parcel.id});
+    return true;
 }
 
 /// What the site did not do because it is so already is as the user wanted it. Of this desk alone: a line has
@@ -319,13 +359,20 @@ void SharedLog::Private::note(const ChangeLog::Row& row)
 
 QVector<KnownParcel> SharedLog::known(int count, qint64 before)
 {
-    QVector<KnownParcel> result;
-    SqliteStore::Rows rows = d->connection->run(
-        "SELECT number, id FROM shared_parcels WHERE number < ? ORDER BY number DESC LIMIT ?",
-        {before, count});
-    while (rows.next())
-        result.append({rows.number(0), rows.text(1)});
-    return result;
+    return d->parcels.newest(count, before);
+}
+
+bool SharedLog::agrees(const QVector<SharedParcel>& parcels, qint64 position, int asked)
+{
+    return d->parcels.agree(parcels, position, asked);
+}
+
+bool SharedLog::agrees(const KnownParcel& parcel)
+{
+    Transaction transaction(*d->connection, Transaction::Write);
+    const bool isSame = d->parcels.agree(parcel);
+    transaction.commit();
+    return isSame;
 }
 
 void SharedLog::goBack(qint64 number)
@@ -333,7 +380,7 @@ void SharedLog::goBack(qint64 number)
     Transaction transaction(*d->connection, Transaction::Write);
     d->connection->run("UPDATE shared_lines SET number = -number WHERE number > ? AND line IS NOT NULL",
                        {number});
-    d->connection->run("DELETE FROM shared_parcels WHERE number > ?", {number});
+    d->parcels.removeAfter(number);
     d->connection->run("UPDATE shared_site SET position = ?", {number});
     transaction.commit();
 }

@@ -56,6 +56,10 @@ public:
     /// Whether nothing was ever done in the file.
     bool isEmpty();
 
+    /// Whether there are passwords in the history or, of an older version, in the clear in the tables.
+    bool hasPasswords();
+    bool hasClearPasswords();
+
     /// Whether the history tells how everything came that there is; not so in a file that is older than the
     /// history.
     bool isTold();
@@ -65,15 +69,34 @@ public:
     typedef std::function<bool(SharedTable, const SharedRow&)> VisitRow;
     std::optional<qint64> forEachRow(const VisitRow& visit);
 
-    enum class Receipt { Taken, SomethingWaits, Gap };
+    enum class Receipt {
+        Taken,
+        SomethingWaits,
+        Gap,
+        Rewritten ///< the links of the site's chain do not follow from what is here
+    };
 
     /// Writes what the site did after position(), in its order; what is here already is left out. All that
     /// waited when this is called lies before \a sent, or nothing is done: the site must know it first. Nor
-    /// is anything done when a parcel is missing between position() and the first of \a parcels.
+    /// is anything done when a parcel is missing between position() and the first of \a parcels, or a link is
+    /// wrong.
     Receipt receive(const QVector<SharedParcel>& parcels, const Cursor& sent);
+
+    /// Fills a file that isEmpty() with everything that the site has, in one transaction: first \a history,
+    /// whose parcels begin with the first one, then \a state, the rows of all tables. Nothing is done when
+    /// one of them returns false (SomethingWaits), or a link is wrong.
+    typedef std::function<bool(const SharedParcel&)> VisitParcel;
+    Receipt takeCopy(const std::function<bool(const VisitParcel&)>& history,
+                     const std::function<bool(const VisitRow&)>& state);
 
     /// The newest parcels with numbers below \a before, newest first.
     QVector<KnownParcel> known(int count, qint64 before = std::numeric_limits<qint64>::max());
+
+    /// Whether the site tells of its past what it told before: \a parcels are those after \a position, as
+    /// many as were \a asked for or as there are.
+    bool agrees(const QVector<SharedParcel>& parcels, qint64 position, int asked);
+    /// The same of one, by its link, which is taken when none is known.
+    bool agrees(const KnownParcel& parcel);
 
     /// The site has none of the parcels after \a number any more: they wait again, in their old order,
     /// whoever made them.

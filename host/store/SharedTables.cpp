@@ -1,6 +1,12 @@
 #include "store/SharedTables.h"
 
 #include "store/ChangeCoding.h"
+#include "store/JsonText.h"
+#include "store/PropertyCoding.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace ko {
 
@@ -29,6 +35,35 @@ bool SharedTables::apply(const SharedLine& line)
     return line.kind == ChangeLog::SettingKind ? setSetting(line) : setEnvironments(line);
 }
 
+void SharedTables::insert(SharedTable table, const SharedRow& row)
+{
+    const QJsonArray item = QJsonDocument::fromJson(row.json).array();
+    const qint64 place = qint64(item.at(0).toDouble());
+    if (table == SharedTable::Nodes) {
+        insertNode(place,
+                   NodeData{item.at(1).toString(), ENodeType(item.at(2).toInt()), item.at(3).toString(),
+                            PropertyCoding::listFromJson(item.at(4).toObject())});
+    } else if (table == SharedTable::Relations) {
+        m_tables.addRelation(
+            {item.at(1).toString(), item.at(2).toString(), ENodeRelationType(item.at(3).toInt())}, place);
+    } else {
+        const QJsonObject settings = item.at(0).toObject();
+        for (auto it = settings.begin(); it != settings.end(); ++it)
+            m_tables.setSetting(it.key(), it.value().toString());
+        m_tables.setEnvironments(
+            ChangeCoding::environments(JsonText::compact(QJsonDocument(item.at(1).toArray()))));
+    }
+}
+
+void SharedTables::insertNode(qint64 place, const NodeData& data)
+{
+    NodeSummary summary;
+    QString lookupKey;
+    m_describe(data, &summary, &lookupKey);
+    const qint64 number = m_tables.insertNode(place, PackedSummary(summary), lookupKey);
+    m_tables.setProperties(number, data.properties);
+}
+
 /// A node that is here already, because this desk added it too, becomes exactly what it is there.
 bool SharedTables::addNode(const NodeChange& change)
 {
@@ -42,13 +77,8 @@ bool SharedTables::addNode(const NodeChange& change)
         row.place = change.place;
     }
     if (!isNew)
-        return write(row, change.after->name, change.after->properties) || isMoved;
-    NodeData data{change.id, change.type, change.after->name, change.after->properties};
-    NodeSummary summary;
-    QString lookupKey;
-    m_describe(data, &summary, &lookupKey);
-    const qint64 place = m_tables.insertNode(change.place, PackedSummary(summary), lookupKey);
-    m_tables.setProperties(place, change.after->properties);
+        return write(row, change.after->name, propertiesOf(row.id), change.after->properties) || isMoved;
+    insertNode(change.place, NodeData{change.id, change.type, change.after->name, change.after->properties});
     return true;
 }
 
@@ -58,11 +88,12 @@ bool SharedTables::updateNode(const NodeChange& change)
     if (row.place == 0)
         return false; // removed here, which the site will hear or has heard
     const bool isRenamed = change.before->name != change.after->name;
-    PropertyList properties = propertiesOf(change.id);
+    const PropertyList stored = propertiesOf(change.id);
+    PropertyList properties = stored;
     const auto differences = PropertyList::difference(change.before->properties, change.after->properties);
     for (const PropertyList::Entry& entry : differences)
         properties.set(entry.name, entry.value);
-    return write(row, isRenamed ? change.after->name : row.summary.name(), properties);
+    return write(row, isRenamed ? change.after->name : row.summary.name(), stored, properties);
 }
 
 PropertyList SharedTables::propertiesOf(const NodeID& id)
@@ -72,16 +103,18 @@ PropertyList SharedTables::propertiesOf(const NodeID& id)
 }
 
 /// Name and properties of a node that is here.
-bool SharedTables::write(const NodeRow& row, const QString& name, const PropertyList& properties)
+bool SharedTables::write(const NodeRow& row, const QString& name, const PropertyList& before,
+                         const PropertyList& properties)
 {
-    const auto differences = PropertyList::difference(propertiesOf(row.id), properties);
-    if (differences.isEmpty() && row.summary.name() == name)
+    if (PropertyList::difference(before, properties).isEmpty() && row.summary.name() == name)
         return false;
     m_tables.setProperties(row.place, properties);
     NodeSummary summary;
     QString lookupKey;
     m_describe(NodeData{row.id, row.summary.type(), name, properties}, &summary, &lookupKey);
-    m_tables.updateNode(row.place, PackedSummary(summary), lookupKey);
+    const PackedSummary packed(summary);
+    if (packed != row.summary || lookupKey != row.lookupKey)
+        m_tables.updateNode(row.place, packed, lookupKey);
     return true;
 }
 

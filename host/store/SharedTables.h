@@ -17,10 +17,14 @@ public:
     /// Returns whether anything was different.
     bool apply(const SharedLine& line);
 
+    /// A row of the site, into tables that have nothing of it. One that cannot be read is left out.
+    void insert(SharedTable table, const SharedRow& row);
+
     /// What else had to change, which nobody's change set tells.
     const QVector<ChangeLog::Row>& touched() const { return m_touched; }
 
 private:
+    void insertNode(qint64 place, const NodeData& data);
     bool addNode(const NodeChange& change);
     bool updateNode(const NodeChange& change);
     bool removeNode(const NodeID& id);
@@ -28,7 +32,8 @@ private:
     bool setSetting(const SharedLine& line);
     bool setEnvironments(const SharedLine& line);
     PropertyList propertiesOf(const NodeID& id);
-    bool write(const NodeRow& row, const QString& name, const PropertyList& properties);
+    bool write(const NodeRow& row, const QString& name, const PropertyList& before,
+               const PropertyList& properties);
     void move(const NodeID& id, qint64 place);
     void vacate(qint64 place);
     std::optional<Relation> takeRelationAt(qint64 place);

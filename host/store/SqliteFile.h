@@ -54,7 +54,7 @@ public:
     /// run, nothing in it may change the schema, and no value is longer than a node needs.
     static void harden(sqlite3* handle);
 
-    /// What a copy row by row takes over: parents before children, so that references hold.
+    /// What a row-by-row copy takes with it: parents before children, so that references hold.
     static const char* const Tables[10];
 
     /// Whether closing may bring the log into the file: not as long as the file may be a damaged one.

@@ -53,6 +53,11 @@ std::unique_ptr<SqliteStore> SqliteStore::openOrThrow(const QString& file, const
     }
 }
 
+std::unique_ptr<SqliteStore> SqliteStore::openBeside(const QString& file)
+{
+    return std::unique_ptr<SqliteStore>(new SqliteStore(file, ReadOnly));
+}
+
 SqliteStore::SqliteStore(const QString& file, Mode mode)
     : SqliteFile(file, mode)
 {

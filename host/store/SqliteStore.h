@@ -32,6 +32,9 @@ public:
     static std::unique_ptr<SqliteStore> open(const QString& file, StoreError* error,
                                              Check check = Check::First, int version = StoreSchema::latest());
 
+    /// Another connection, that only reads, to a file that this process has open.
+    static std::unique_ptr<SqliteStore> openBeside(const QString& file);
+
     /// With Check::ByUser, after findDamage() found nothing: from now on the file may be changed.
     void setSound();
 

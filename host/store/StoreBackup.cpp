@@ -98,7 +98,7 @@ QString newName(const QString& database)
     return file;
 }
 
-/// Whether the file holds nothing that a backup could keep. What is no node database at all is somebody
+/// Whether the file holds nothing that a backup could keep. What is not a node database at all is somebody
 /// else's, unless backups tell that something was written over one.
 bool isUnusable(const QString& database, const StoreError& error)
 {
