@@ -20,7 +20,7 @@ public:
 
     void log(const LogEntry& entry) override;
 
-    /// At most \a count records after passing over \a from, beginning with the newest or the oldest.
+    /// At most \a count records after skipping \a from, beginning with the newest or the oldest.
     std::vector<AuditRecord> entries(qint64 from, qint64 count, bool newestFirst) const;
     qint64 count() const;
 

@@ -81,6 +81,9 @@ const Words words[] = {
     {Purpose::Undo, QT_TRANSLATE_NOOP("LogEntry", "Put back"),
      QT_TRANSLATE_NOOP("ChangeSetTitle", "Put back"), QT_TRANSLATE_NOOP("ChangeSetTitle", "Put back"),
      nullptr},
+    {Purpose::Reseal, QT_TRANSLATE_NOOP("LogEntry", "Sealed passwords anew"),
+     QT_TRANSLATE_NOOP("ChangeSetTitle", "Passwords sealed anew"),
+     QT_TRANSLATE_NOOP("ChangeSetTitle", "Passwords sealed anew"), nullptr},
     {Purpose::Unknown, QT_TRANSLATE_NOOP("LogEntry", "Changed by a newer version"),
      QT_TRANSLATE_NOOP("ChangeSetTitle", "Change of a newer version"),
      QT_TRANSLATE_NOOP("ChangeSetTitle", "Change of a newer version"), nullptr},
@@ -130,8 +133,8 @@ QString nodes(const ChangeSetRow& row)
 {
     if (row.nodes < 2)
         return row.firstName;
-    return QCoreApplication::translate("LogEntry", "%1 and %n other(s)", nullptr, row.nodes - 1)
-        .arg(row.firstName);
+    const int others = row.nodes - 1;
+    return QCoreApplication::translate("LogEntry", "%1 and %n other(s)", nullptr, others).arg(row.firstName);
 }
 
 QVector<Purpose> all()

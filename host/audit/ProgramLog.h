@@ -29,7 +29,7 @@ public:
     /// From any thread; a line of another thread is taken in by the event loop.
     void write(int level, const QString& line) override;
 
-    /// At most \a count lines after passing over \a from, as ProgramLogEntry.
+    /// At most \a count lines after skipping \a from, as ProgramLogEntry.
     std::vector<AuditRecord> entries(qint64 from, qint64 count, bool newestFirst) const;
     qint64 count() const;
 

@@ -33,7 +33,7 @@ KO_HOST_EXPORT bool readProfiles(const QByteArray& message, DeviceFacts& facts);
 /// Of GetStreamUri and GetSnapshotUri.
 KO_HOST_EXPORT bool readUri(const QByteArray& message, QString& uri);
 
-/// The kind is None when the message is no fault.
+/// The kind is None when the message is not a fault.
 KO_HOST_EXPORT DeviceFault readFault(const QByteArray& message);
 
 /// An endpoint reference in the form of DeviceFacts::endpoint.

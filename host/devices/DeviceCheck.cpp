@@ -38,6 +38,11 @@ QUrl urlOf(const DeviceTarget& target)
     return url;
 }
 
+TranslatableText said(const char* source)
+{
+    return TranslatableText("DeviceCheck", source);
+}
+
 } // namespace
 
 DeviceCheck::DeviceCheck(const DeviceTarget& target, SharedManagers& managers, QObject* parent)
@@ -48,7 +53,7 @@ DeviceCheck::DeviceCheck(const DeviceTarget& target, SharedManagers& managers, Q
     m_report.id = target.id;
     m_limit.setSingleShot(true);
     connect(&m_limit, &QTimer::timeout, this,
-            [this] { end(DeviceReport::NoAnswer, tr("it takes too long to answer")); });
+            [this] { end(DeviceReport::NoAnswer, said(QT_TR_NOOP("it takes too long to answer"))); });
 }
 
 DeviceCheck::~DeviceCheck() = default;
@@ -60,7 +65,8 @@ void DeviceCheck::start()
                                                       m_target.known.certificate);
     m_limit.start(MostTime);
     if (!url.isValid() || url.host().isEmpty())
-        QTimer::singleShot(0, this, [this] { end(DeviceReport::NoAnswer, tr("the address is no address")); });
+        QTimer::singleShot(
+            0, this, [this] { end(DeviceReport::NoAnswer, said(QT_TR_NOOP("the address is not valid"))); });
     else
         ask(Operation::GetSystemDateAndTime, &DeviceCheck::clockTold);
 }
@@ -123,7 +129,7 @@ void DeviceCheck::clockTold(const HttpAnswer& answer)
     if (DeviceAnswers::readDateAndTime(answer.body, utc))
         m_report.clockOffset = QDateTime::currentDateTimeUtc().secsTo(utc);
     else if (!isRefused)
-        return end(DeviceReport::NoOnvif, tr("it does not speak ONVIF"));
+        return end(DeviceReport::NoOnvif, said(QT_TR_NOOP("it does not speak ONVIF")));
     if (m_target.known.endpoint.isEmpty())
         ask(Operation::GetDeviceInformation, &DeviceCheck::informationTold);
     else
@@ -139,7 +145,8 @@ void DeviceCheck::endpointTold(const HttpAnswer& answer)
     if (DeviceAnswers::readEndpoint(answer.body, facts)) {
         m_report.facts.endpoint = facts.endpoint;
         m_report.seen.endpoint = facts.endpoint;
-        if (isOther(m_target.known.endpoint, facts.endpoint, tr("endpoint")))
+        if (isOther(m_target.known.endpoint, facts.endpoint,
+                    QT_TR_NOOP("it has another endpoint than before")))
             return;
     }
     ask(Operation::GetDeviceInformation, &DeviceCheck::informationTold);
@@ -159,8 +166,9 @@ void DeviceCheck::informationTold(const HttpAnswer& answer)
     if (fault.kind == DeviceFault::LockedOut)
         return end(DeviceReport::LockedOut, fault.text);
     if (answer.status != 401 && fault.kind != DeviceFault::NotAuthorized)
-        return end(DeviceReport::NoOnvif,
-                   fault.text.isEmpty() ? tr("it does not tell who it is") : fault.text);
+        return end(DeviceReport::NoOnvif, fault.text.isEmpty()
+                                              ? said(QT_TR_NOOP("it does not say what it is"))
+                                              : TranslatableText(fault.text));
     if (chooseWay(answer, fault))
         ask(Operation::GetDeviceInformation, &DeviceCheck::passwordTried);
 }
@@ -171,20 +179,21 @@ bool DeviceCheck::chooseWay(const HttpAnswer& answer, const DeviceFault& fault)
     const bool wantsBasic = !m_digest.isValid() && HttpDigest::offersBasic(answer.challenges);
     if (m_digest.isValid()) {
         m_report.seen.realm = NetworkText::cleaned(m_digest.realm(), DeviceAnswers::TextLength);
-        if (isOther(m_target.known.realm, m_report.seen.realm, tr("realm")))
+        if (isOther(m_target.known.realm, m_report.seen.realm,
+                    QT_TR_NOOP("it has another realm than before")))
             return false;
     }
     if (m_target.user.isEmpty()) {
-        end(DeviceReport::WrongPassword, tr("it asks for a password, and none is stored"));
+        end(DeviceReport::WrongPassword, said(QT_TR_NOOP("it asks for a password, and none is stored")));
         return false;
     }
     if (wantsBasic && !m_target.allowsBasic) {
-        end(DeviceReport::ClearPassword, tr("it asks for the password in the clear"));
+        end(DeviceReport::ClearPassword, said(QT_TR_NOOP("it asks for the password in the clear")));
         return false;
     }
     m_way = m_digest.isValid() ? Way::Digest : wantsBasic ? Way::Basic : Way::Token;
     if (m_way == Way::Token && fault.kind == DeviceFault::None && !answer.challenges.isEmpty()) {
-        end(DeviceReport::NoOnvif, tr("it asks for the password in an unknown way"));
+        end(DeviceReport::NoOnvif, said(QT_TR_NOOP("it asks for the password in an unknown way")));
         return false;
     }
     return true;
@@ -210,23 +219,25 @@ void DeviceCheck::passwordTried(const HttpAnswer& answer)
     } else if (answer.status == 401 || answer.status == 403 || fault.kind == DeviceFault::NotAuthorized) {
         end(DeviceReport::WrongPassword, fault.text);
     } else {
-        end(DeviceReport::NoOnvif, fault.text.isEmpty() ? tr("it does not tell who it is") : fault.text);
+        end(DeviceReport::NoOnvif, fault.text.isEmpty() ? said(QT_TR_NOOP("it does not say what it is"))
+                                                        : TranslatableText(fault.text));
     }
 }
 
 /// Whether it is over, since the device is not the known one.
-bool DeviceCheck::isOther(const QString& known, const QString& seen, const QString& what)
+bool DeviceCheck::isOther(const QString& known, const QString& seen, const char* what)
 {
     const bool isOther = !known.isEmpty() && known.compare(seen, Qt::CaseInsensitive) != 0;
     if (isOther)
-        end(DeviceReport::OtherDevice, tr("it has another %1 than before").arg(what));
+        end(DeviceReport::OtherDevice, said(what));
     return isOther;
 }
 
 void DeviceCheck::identified()
 {
     m_report.seen.serial = m_report.facts.serial;
-    if (isOther(m_target.known.serial, m_report.seen.serial, tr("serial number")))
+    if (isOther(m_target.known.serial, m_report.seen.serial,
+                QT_TR_NOOP("it has another serial number than before")))
         return;
     if (m_target.wantsAllFacts) {
         for (const FactReader& reader : factReaders)
@@ -299,7 +310,7 @@ void DeviceCheck::queuePicture()
 void DeviceCheck::fetchPicture()
 {
     if (m_pictureProfile < 0) {
-        m_report.pictureProblem = tr("it tells of no pictures of this channel");
+        m_report.pictureProblem = tr("it has no pictures of this channel");
         return end(DeviceReport::Answers);
     }
     const QString& known = m_target.known.realm;
@@ -313,7 +324,7 @@ void DeviceCheck::fetchPicture()
     m_picture->start(m_report.facts.profiles.at(m_pictureProfile).snapshotUri, Deadline);
 }
 
-void DeviceCheck::end(DeviceReport::State state, const QString& reason)
+void DeviceCheck::end(DeviceReport::State state, const TranslatableText& reason)
 {
     if (m_report.time.isValid())
         return;

@@ -70,13 +70,13 @@ private:
 
     bool isBroken(const HttpAnswer& answer);
     bool chooseWay(const HttpAnswer& answer, const DeviceFault& fault);
-    bool isOther(const QString& known, const QString& seen, const QString& what);
+    bool isOther(const QString& known, const QString& seen, const char* what);
     void identified();
     void askNext();
     void queueProfiles();
     void queuePicture();
     void fetchPicture();
-    void end(DeviceReport::State state, const QString& reason = QString());
+    void end(DeviceReport::State state, const TranslatableText& reason = TranslatableText());
 
     const DeviceTarget m_target;
     SharedManagers& m_managers;

@@ -144,7 +144,7 @@ void DeviceChecks::Worker::finish(const QString& place, DeviceCheck* check,
         return;
     }
     DeviceReport none;
-    none.reason = DeviceChecks::tr("another password was refused there");
+    none.reason = {"DeviceChecks", QT_TRANSLATE_NOOP("DeviceChecks", "another password was refused there")};
     for (const DeviceTarget& target : others)
         report(target, none);
     m_places.remove(place);

@@ -25,7 +25,7 @@ class KO_HOST_EXPORT DeviceChecks : public QObject
 public:
     enum Limits {
         MostAtOnce = 64,     ///< devices
-        StartsInStep = 8,    ///< so many more at most
+        StartsInStep = 8,    ///< this many more at most
         StepTime = 10,       ///< ms
         ReportInterval = 100 ///< ms
     };

@@ -38,22 +38,23 @@ QNetworkRequest requestFor(const QUrl& url, const QByteArray& authorization)
     return request;
 }
 
-QString textOf(HttpAnswer::Error error)
+TranslatableText textOf(HttpAnswer::Error error)
 {
     switch (error) {
     case HttpAnswer::TimedOut:
-        return DeviceConnection::tr("no answer in time");
+        return {"DeviceConnection", QT_TRANSLATE_NOOP("DeviceConnection", "no answer in time")};
     case HttpAnswer::TooLong:
-        return DeviceConnection::tr("the answer is too long");
+        return {"DeviceConnection", QT_TRANSLATE_NOOP("DeviceConnection", "the answer is too long")};
     case HttpAnswer::Elsewhere:
-        return DeviceConnection::tr("it sends to another place");
+        return {"DeviceConnection", QT_TRANSLATE_NOOP("DeviceConnection", "it redirects to another address")};
     case HttpAnswer::OtherCertificate:
-        return DeviceConnection::tr("it has another certificate than before");
+        return {"DeviceConnection",
+                QT_TRANSLATE_NOOP("DeviceConnection", "it has another certificate than before")};
     case HttpAnswer::None:
     case HttpAnswer::NotReached:
         break;
     }
-    return QString();
+    return TranslatableText();
 }
 
 } // namespace
@@ -153,7 +154,8 @@ HttpAnswer DeviceConnection::answer() const
                    : answer.status == 0          ? HttpAnswer::NotReached
                    : answer.status / 100 == 3    ? HttpAnswer::Elsewhere
                                                  : HttpAnswer::None;
-    answer.text = answer.error == HttpAnswer::NotReached ? m_reply->errorString() : textOf(answer.error);
+    answer.text = answer.error == HttpAnswer::NotReached ? TranslatableText(m_reply->errorString())
+                                                         : textOf(answer.error);
     if (answer.error == HttpAnswer::None) {
         answer.body = m_body;
         answer.challenges = m_reply->rawHeader("WWW-Authenticate");

@@ -3,6 +3,7 @@
 
 #include "HostExport.h"
 #include "ko/TrContext.h"
+#include "model/TranslatableText.h"
 
 #include <QByteArray>
 #include <QObject>
@@ -33,7 +34,7 @@ struct HttpAnswer
     int status = 0;
     QByteArray body;
     QByteArray challenges; ///< headers "WWW-Authenticate", joined by commas
-    QString text;          ///< of the error, for the user
+    TranslatableText text; ///< of the error, for the user
 };
 
 /// Posts SOAP messages to one device, and gets its pictures, one at a time. Asynchronous, in the thread that

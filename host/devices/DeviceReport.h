@@ -2,6 +2,7 @@
 #define KO_DEVICEREPORT_H
 
 #include "devices/DeviceFacts.h"
+#include "model/TranslatableText.h"
 
 #include <QDateTime>
 #include <QImage>
@@ -46,14 +47,14 @@ struct DeviceReport
 
     QString id;
     State state = NotChecked;
-    QString reason;         ///< for the user; may be empty
-    bool isOpen = false;    ///< it asked for no password
-    DeviceIdentity seen;    ///< to be remembered, once the user believes it
-    DeviceFacts facts;      ///< as far as they were told
-    QImage picture;         ///< null unless it was wanted and came; at most as PictureReader has it
-    QString pictureProblem; ///< why not, for the user
-    qint64 clockOffset = 0; ///< s, how far the device's clock is ahead of ours
-    QDateTime time;         ///< of the end of the check
+    TranslatableText reason; ///< may be empty
+    bool isOpen = false;     ///< it asked for no password
+    DeviceIdentity seen;     ///< to be remembered, once the user believes it
+    DeviceFacts facts;       ///< as far as they were told
+    QImage picture;          ///< null unless it was wanted and came; at most as PictureReader has it
+    QString pictureProblem;  ///< why not, for the user
+    qint64 clockOffset = 0;  ///< s, how far the device's clock is ahead of ours
+    QDateTime time;          ///< of the end of the check
 };
 
 } // namespace ko

@@ -59,7 +59,7 @@ void PictureFetch::start(const QString& uri, int deadline)
     m_place.setQuery(named.query(QUrl::FullyEncoded));
     const bool isSecret = Redaction::redacted(uri) != uri && named.userInfo().isEmpty();
     if (!m_place.path().startsWith(QLatin1Char('/')))
-        m_take(QImage(), tr("it tells no address of a picture"));
+        m_take(QImage(), tr("it gives no address for a picture"));
     else if (isSecret && !m_target.useSSL && !m_target.allowsBasic)
         m_take(QImage(), tr("the address of its picture holds a password in the clear"));
     else
@@ -73,14 +73,14 @@ void PictureFetch::get(const QByteArray& authorization)
 
 void PictureFetch::told(const HttpAnswer& answer)
 {
-    QString problem = answer.text;
+    QString problem = answer.text.text();
     if (answer.error == HttpAnswer::None && answer.status == 401 && !std::exchange(m_isTried, true)) {
         const QByteArray password = authorization(answer.challenges, &problem);
         if (!password.isEmpty())
             return get(password);
     } else if (answer.error == HttpAnswer::None && answer.status == 200) {
         const QImage picture = PictureReader::read(answer.body);
-        return m_take(picture, picture.isNull() ? tr("what it sends is no picture") : QString());
+        return m_take(picture, picture.isNull() ? tr("what it sends is not a picture") : QString());
     } else if (answer.error == HttpAnswer::None) {
         problem = tr("it refuses the picture");
     }

@@ -36,7 +36,8 @@ void ArpSession::work()
     const QVector<ArpSweepRange> ranges = ArpSweepRange::attached(m_interfaces);
     state().phase = ranges.isEmpty() ? ScannerState::Unavailable : ScannerState::Running;
     if (ranges.isEmpty())
-        state().reason = ArpScanner::tr("no IPv4 network is attached");
+        state().reason =
+            TranslatableText("ArpScanner", QT_TRANSLATE_NOOP("ArpScanner", "no IPv4 network is attached"));
     for (const ArpSweepRange& range : ranges)
         state().total += range.size();
     for (const ArpSweepRange& range : ranges) {

@@ -56,8 +56,9 @@ ArpSweep::ArpSweep(const ArpSweepRange& range)
 {
     QVector<Neighbour> neighbours;
     if (m_socket < 0 || !NeighbourTable::read(neighbours))
-        m_error = QCoreApplication::translate("ArpScanner", "the system gives no socket: %1")
-                      .arg(qt_error_string(errno));
+        m_error = TranslatableText("ArpScanner",
+                                   QT_TRANSLATE_NOOP("ArpScanner", "the system provides no socket: %1"),
+                                   qt_error_string(errno));
 }
 
 ArpSweep::~ArpSweep()

@@ -5,6 +5,7 @@
 #include "discovery/ArpSweepRange.h"
 #include "discovery/DiscoveredDevice.h"
 #include "discovery/NeighbourTable.h"
+#include "discovery/Scanner.h"
 
 #include <map>
 #include <utility>
@@ -12,7 +13,8 @@
 namespace ko {
 
 /// Looks once at every address of a range: a datagram of one byte to the discard port makes the system
-/// resolve it, and who has then a complete entry in the neighbour table is asked for the ports of a camera.
+/// resolve it, and whatever then has a complete entry in the neighbour table is asked for the ports of a
+/// camera.
 ///
 /// An address is in flight until the table says that it answered, or that it did not even after the one
 /// repeat. The system's own table holds about a thousand entries, and other programs need it too; hence the
@@ -31,7 +33,7 @@ public:
     ~ArpSweep();
 
     /// Empty, or why the system does not let it work, for the user.
-    QString error() const { return m_error; }
+    TranslatableText error() const { return m_error; }
 
     const ArpSweepRange& range() const { return m_range; }
     int done() const { return m_done; }
@@ -60,7 +62,7 @@ private:
     QVector<DiscoveredDevice> askPorts();
 
     const ArpSweepRange m_range;
-    QString m_error;
+    TranslatableText m_error;
     ArpSweepPorts m_ports;
     int m_socket = -1;
     qint64 m_next; ///< address, or beyond the last

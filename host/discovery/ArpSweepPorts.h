@@ -15,7 +15,7 @@ namespace ko {
 /// Tries at which of the ports that cameras use some hosts answer, a few hosts at a time.
 ///
 /// The port of a host is the first in ports() that is open. Those of web pages come first, because a node
-/// is configured through them; a host that has none of the ports is no camera. A port that neither accepts
+/// is configured through them; a host that has none of the ports is not a camera. A port that neither accepts
 /// nor refuses within Patience counts as closed.
 class KO_HOST_EXPORT ArpSweepPorts
 {

@@ -24,9 +24,10 @@ void MdnsScanner::explain(ScannerState& state, int error)
                                         .arg(QString::fromUtf8(avahi_strerror(error))));
     const bool isMissing = error == AVAHI_ERR_NO_DAEMON || error == AVAHI_ERR_DISCONNECTED;
     if (state.phase == ScannerState::Unavailable)
-        state.reason =
-            isMissing ? tr("the Avahi daemon is not running") : tr("the Avahi daemon does not answer");
-    state.where = tr("all interfaces");
+        state.reason = {"MdnsScanner",
+                        isMissing ? QT_TRANSLATE_NOOP("MdnsScanner", "the Avahi daemon is not running")
+                                  : QT_TRANSLATE_NOOP("MdnsScanner", "the Avahi daemon does not answer")};
+    state.where = {"MdnsScanner", QT_TRANSLATE_NOOP("MdnsScanner", "all interfaces")};
 }
 
 } // namespace ko

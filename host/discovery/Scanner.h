@@ -3,6 +3,7 @@
 
 #include "HostExport.h"
 #include "discovery/DiscoveredDevice.h"
+#include "model/TranslatableText.h"
 
 #include <QObject>
 
@@ -20,10 +21,10 @@ struct ScannerState
     };
 
     Phase phase = Idle;
-    int done = 0;   ///< addresses or devices looked at
-    int total = 0;  ///< of how many; 0 when that is not known
-    QString where;  ///< interface and range, such as "eth0, 10.0.0.0/24"
-    QString reason; ///< why it is not available, for the user
+    int done = 0;            ///< addresses or devices looked at
+    int total = 0;           ///< of how many; 0 when that is not known
+    TranslatableText where;  ///< interface and range, such as "eth0, 10.0.0.0/24"
+    TranslatableText reason; ///< why it is not available, for the user
 };
 
 /// One way to find devices on the network. The object lives in the GUI thread and never blocks it: the

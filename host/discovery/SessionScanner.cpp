@@ -33,7 +33,7 @@ void SessionScanner::stop()
     std::exchange(m_session, nullptr)->stop();
     ScannerState state = m_state;
     state.phase = ScannerState::Cancelled;
-    state.reason.clear();
+    state.reason = {};
     setState(state);
 }
 

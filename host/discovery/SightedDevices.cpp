@@ -29,8 +29,8 @@ int rankOf(const QString& service)
     return unknownServiceRank;
 }
 
-/// What is announced alike from all addresses of a device; empty when nothing is. Who has an identity of its
-/// own is not known by its name, which many may have.
+/// What is announced alike from all addresses of a device; empty when nothing is. A device with an identity
+/// of its own is not known by its name, which many may have.
 QString announcementKey(const DiscoveredDevice& seen)
 {
     const QString& own = seen.identity.isEmpty() ? seen.name : seen.identity;
@@ -111,7 +111,7 @@ SightedDevice* SightedDevices::atSameAddress(const DiscoveredDevice& seen) const
     }
     if (fits || candidates.size() < DevicesAtOnePlace)
         return fits;
-    return candidates.at(0); // so many are none
+    return candidates.at(0); // no more are kept apart at one place
 }
 
 /// The same announcement from another address is the same device when that is of the other family or

@@ -29,8 +29,8 @@ enum Limits {
 KO_HOST_EXPORT QVector<QByteArray> newProbes();
 
 /// The devices that a message tells of: an answer to a probe, or a greeting. One of each for each kind of
-/// address (see NetworkText::rank()), and none for what is no camera, recorder or encoder. Host names are
-/// passed over; who tells no address has that of the sender. Empty for what is not understood.
+/// address (see NetworkText::rank()), and none for what is not a camera, recorder or encoder. Host names are
+/// skipped; who tells no address has that of the sender. Empty for what is not understood.
 KO_HOST_EXPORT QVector<DiscoveredDevice> read(const QByteArray& message, const QHostAddress& sender);
 
 } // namespace WsDiscovery

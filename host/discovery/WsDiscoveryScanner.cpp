@@ -36,7 +36,8 @@ void WsDiscoveryScanner::explain(ScannerState& state, int error)
                     QString::fromLatin1("WS-Discovery waits for a network that takes multicast: %1")
                         .arg(qt_error_string(error)));
     if (state.phase == ScannerState::Unavailable)
-        state.reason = tr("no network takes multicast");
+        state.reason = {"WsDiscoveryScanner",
+                        QT_TRANSLATE_NOOP("WsDiscoveryScanner", "no network supports multicast")};
 }
 
 } // namespace ko

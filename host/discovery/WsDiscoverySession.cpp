@@ -98,7 +98,7 @@ bool WsDiscoverySession::ask()
 void WsDiscoverySession::unavailable()
 {
     state().phase = ScannerState::Unavailable;
-    state().where.clear();
+    state().where = {};
     post(std::exchange(m_saidMissing, true) ? 0 : m_error);
     for (const qint64 end = scanClock() + WaitingTime; isWanted() && scanClock() < end;)
         wait();
@@ -179,7 +179,7 @@ void WsDiscoverySession::lookAround()
     }
 }
 
-/// Who is no neighbour yet is asked alone: then the system learns its MAC address, by which a device is
+/// Who is not a neighbour yet is asked alone: then the system learns its MAC address, by which a device is
 /// recognised that has moved.
 void WsDiscoverySession::hold(const DiscoveredDevice& device, const QHostAddress& sender)
 {

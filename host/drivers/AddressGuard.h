@@ -13,8 +13,8 @@ class QSpinBox;
 namespace ko {
 
 /// Watches the field in which a user types an address: what is pasted with a scheme, port or user is taken
-/// apart into the fields beside it, and what is no address is refused, in words above the field and by the
-/// buttons that would store it. An address that was there before is left alone, whatever it is.
+/// apart into the fields beside it, and what is not an address is refused, in words above the field and by
+/// the buttons that would store it. An address that was there before is left alone, whatever it is.
 class AddressGuard : public FieldGuard
 {
     Q_OBJECT

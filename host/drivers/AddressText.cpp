@@ -40,15 +40,15 @@ QString problemOf(const QString& host)
     static const QRegularExpression blank(QStringLiteral("\\s"));
     static const QRegularExpression numbers(QStringLiteral("^[\\d.]+$"));
     if (host.contains(blank))
-        return Texts::tr("An address holds no blanks.");
+        return Texts::tr("An address cannot contain spaces.");
     if (host.contains(QLatin1Char(':')))
         return QHostAddress(host).protocol() == QAbstractSocket::IPv6Protocol
                    ? QString()
-                   : Texts::tr("This is no IPv6 address, and no host with a port.");
+                   : Texts::tr("This is neither an IPv6 address nor a host with a port.");
     if (numbers.match(host).hasMatch())
         return isIpv4(host) ? QString() : Texts::tr("An IP address has four numbers from 0 to 255.");
     return isHostName(host) ? QString()
-                            : Texts::tr("The name of a host has letters, digits, dots and hyphens only.");
+                            : Texts::tr("A host name can contain only letters, digits, dots and hyphens.");
 }
 
 AddressText checked(AddressText address)
@@ -68,7 +68,7 @@ AddressText fromUrl(const QString& text)
     const QUrl url(text, QUrl::TolerantMode);
     AddressText address;
     if (!url.isValid() || url.host().isEmpty()) {
-        address.problem = Texts::tr("This URL has no host that can be read.");
+        address.problem = Texts::tr("The host in this URL cannot be read.");
         return address;
     }
     const QString scheme = url.scheme().toLower();

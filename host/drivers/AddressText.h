@@ -16,7 +16,7 @@ struct KO_HOST_EXPORT AddressText
     /// the text do not count; an empty text is a good address.
     static AddressText parse(const QString& text);
 
-    QString problem; ///< for the user, why this is no address; nothing else is set then
+    QString problem; ///< for the user, why this is not an address; nothing else is set then
     QString host;
     int port = -1; ///< -1 if the text does not tell
     Security security = Unknown;

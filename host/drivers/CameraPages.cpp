@@ -2,7 +2,10 @@
 
 #include "dialogs/RecordingFolderAssignmentDialog.h"
 #include "drivers/MacGuard.h"
+#include "drivers/NodeTypes.h"
 #include "drivers/RemotePreviewDraft.h"
+#include "drivers/StoredNode.h"
+#include "ko/Node.h"
 #include "ko/NodeHintIPDevice.h"
 #include "utils/Fields.h"
 
@@ -33,6 +36,18 @@ void DevicePage::accept(NodeHint* hint)
     PageOf::accept(hint);
     if (auto* device = dynamic_cast<NodeHintIPDevice*>(hint))
         device->macAddress = MACAddress(m_mac->text());
+}
+
+/// The library's page writes into nodes alone.
+void UrlsPage::accept(NodeHint* hint)
+{
+    NodeData data;
+    data.type = hint->type;
+    const std::unique_ptr<Node> node = NodeTypes::createNode(data, nullptr);
+    PageOf::accept(node.get());
+    const PropertyList written = dynamic_cast<const StoredNode&>(*node).nodeData().properties;
+    for (const PropertyList::Entry& entry : written)
+        hint->addProperty(*PropertyList::toProperty(entry.name, entry.value));
 }
 
 RecordingsPage::RecordingsPage(QWidget* parent)

@@ -4,6 +4,7 @@
 #include "drivers/InspectorPage.h"
 #include "ko/Types.h"
 #include "pages/InfoWidget.h"
+#include "pages/PTZUrlsWidget.h"
 #include "pages/StorageLocationWidget.h"
 
 #include <QObject>
@@ -25,6 +26,19 @@ public:
 
 private:
     QLineEdit* const m_mac;
+};
+
+/// The page with the URLs of a camera that is nothing but these, which a new one has too.
+class UrlsPage : public PageOf<PTZUrlsWidget>
+{
+public:
+    explicit UrlsPage(QWidget* parent)
+        : PageOf(new PTZUrlsWidget(parent))
+    {
+    }
+
+    using PageOf::accept;
+    void accept(NodeHint* hint) override;
 };
 
 /// The recordings page of this host, whose dialog can show the settings of the remote preview at once.

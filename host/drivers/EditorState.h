@@ -15,7 +15,7 @@ public:
     void capture(const QWidget* page);
 
     /// Gives the fields of \a page that the user has not touched the values that the same fields of
-    /// \a fresh have. What he has typed stays.
+    /// \a fresh have. What was typed stays.
     void refresh(QWidget* page, QWidget* fresh);
 
 private:

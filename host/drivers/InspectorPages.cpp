@@ -3,11 +3,11 @@
 #include "drivers/CameraPages.h"
 #include "drivers/GeneralPage.h"
 #include "drivers/PropertyFormPage.h"
+#include "drivers/ViewPage.h"
 #include "ko/PropertyKeys.h"
 #include "pages/ControlDataWidget.h"
 #include "pages/CustomNetworkProxyWidget.h"
 #include "pages/PTZRotorControlWidget.h"
-#include "pages/PTZUrlsWidget.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -71,6 +71,7 @@ const PageSpec connection = {"general", QT_TRANSLATE_NOOP("NodeInspector", "Gene
                              create<UserDataWidget>};
 const PageSpec folder = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
                          createForm<folderFields>};
+const PageSpec viewNodes = {"nodes", QT_TRANSLATE_NOOP("NodeInspector", "Cameras"), true, create<ViewPage>};
 const PageSpec remotePreview = {"general", QT_TRANSLATE_NOOP("NodeInspector", "General"), true,
                                 createForm<remotePreviewFields>};
 const PageSpec information = {"device", QT_TRANSLATE_NOOP("NodeInspector", "Device"), true,
@@ -83,7 +84,7 @@ const PageSpec recordings = {"recordings", QT_TRANSLATE_NOOP("NodeInspector", "R
                              createPage<RecordingsPage>};
 const PageSpec rotor = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "PTZ"), false,
                         create<PTZRotorControlWidget>};
-const PageSpec urls = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "URLs"), false, create<PTZUrlsWidget>};
+const PageSpec urls = {"ptz", QT_TRANSLATE_NOOP("NodeInspector", "URLs"), true, createPage<UrlsPage>};
 const PageSpec proxy = {"proxy", QT_TRANSLATE_NOOP("NodeInspector", "Proxy"), true,
                         create<CustomNetworkProxyWidget>};
 
@@ -100,6 +101,8 @@ QVector<PageSpec> ownPagesOf(ENodeType type)
         return {general, folder};
     case RecordingTransponderType:
         return {general, remotePreview};
+    case ViewType:
+        return {general, viewNodes};
     default:
         return {general};
     }

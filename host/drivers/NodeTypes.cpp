@@ -31,6 +31,12 @@ Properties& noProperties()
     return none;
 }
 
+Properties& viewProperties()
+{
+    static Properties all = {{PropertyKeys::Nodes, QString()}};
+    return all;
+}
+
 Properties& folderProperties()
 {
     static Properties all = {
@@ -104,13 +110,13 @@ struct TypeInfo
 const TypeInfo types[] = {
     {RecordingFolderType, QT_TRANSLATE_NOOP("NodeTypes", "Recording Folder"), "folder", true, false,
      folderProperties},
-    {ViewType, QT_TRANSLATE_NOOP("NodeTypes", "View"), "view", true, false, noProperties},
+    {ViewType, QT_TRANSLATE_NOOP("NodeTypes", "View"), "view", true, false, viewProperties},
     {IPDeviceType, QT_TRANSLATE_NOOP("NodeTypes", "IP Camera"), "camera", true, true, cameraProperties},
     {UrlCameraType, QT_TRANSLATE_NOOP("NodeTypes", "URL Camera"), "urlCamera", true, true,
      urlCameraProperties},
     {ChannelDeviceType, QT_TRANSLATE_NOOP("NodeTypes", "Multi-Channel Device"), "channelDevice", true, true,
      cameraProperties},
-    {InternalRecorderType, QT_TRANSLATE_NOOP("NodeTypes", "Internal Recorder"), "recorder", false, false,
+    {InternalRecorderType, QT_TRANSLATE_NOOP("NodeTypes", "Internal Recorder"), "recorder", true, false,
      folderProperties},
     {RecordingTransponderType, QT_TRANSLATE_NOOP("NodeTypes", "Remote Preview Server"), "transponder", false,
      false, remotePreviewProperties},
@@ -233,9 +239,10 @@ QList<QPair<ENodeType, QString>> readableNames(const QList<ENodeType>* types, bo
 {
     QList<QPair<ENodeType, QString>> names;
     QList<ENodeType> offered = types ? *types : all();
-    if (!types) // whatever comes first by its name, a dialog that adds begins with it
+    if (!types) // whatever comes first by its name, a dialog that adds what a scan found begins with it
         offered.erase(
-            std::remove_if(offered.begin(), offered.end(), [](ENodeType type) { return !canBeAdded(type); }),
+            std::remove_if(offered.begin(), offered.end(),
+                           [](ENodeType type) { return !canBeAdded(type) || type == InternalRecorderType; }),
             offered.end());
     for (const ENodeType type : offered)
         names.append({type, readableName(type)});

@@ -34,7 +34,8 @@ KO_HOST_EXPORT QList<ENodeType> all();
 /// Translated name, for an unknown type a generic one with its number.
 KO_HOST_EXPORT QString readableName(ENodeType type);
 
-/// The names of \a types; if null, of those of which a user may add nodes. \a sorted as the locale does.
+/// The names of \a types; if null, of those of which a user may add nodes, but for internal recorders, which
+/// no scan finds. \a sorted as the locale does.
 QList<QPair<ENodeType, QString>> readableNames(const QList<ENodeType>* types, bool sorted);
 KO_HOST_EXPORT QIcon icon(ENodeType type);
 

@@ -52,6 +52,15 @@ void showTitle(QTabWidget& tabs, QWidget& tab, const char* title)
     tabs.setTabText(tabs.indexOf(&tab), QCoreApplication::translate("NodeInspector", title));
 }
 
+/// A page that comes to the front gives the focus to its first control. On a button that opens a window,
+/// Space would open it, so the tabs take the focus instead.
+void keepFocusOffOpeners(const QTabWidget& tabs)
+{
+    const auto* button = qobject_cast<const QAbstractButton*>(tabs.window()->focusWidget());
+    if (button && tabs.isAncestorOf(button) && button->text().endsWith(QLatin1String("...")))
+        tabs.tabBar()->setFocus(Qt::OtherFocusReason);
+}
+
 } // namespace
 
 PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
@@ -84,6 +93,7 @@ PageStack::PageStack(const QVector<PageSpec>& specs, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_goneLabel);
     layout->addWidget(tabs);
+    connect(tabs, &QTabWidget::currentChanged, tabs, [tabs] { keepFocusOffOpeners(*tabs); });
 
     setTranslated(this, [this, tabs] {
         m_goneLabel->setText(
@@ -189,6 +199,7 @@ void PageStack::refresh()
 {
     if (std::exchange(m_isStale, false))
         capture(); // what was stored; nobody can have typed since
+    emit aboutToRefresh();
     for (Page& page : m_pages) {
         // A second page is filled and compared, for filling the one that is shown again would lose what
         // was typed, and some pages add to their lists each time.
@@ -198,6 +209,7 @@ void PageStack::refresh()
         fresh->fillLike(*page.page);
         page.state.refresh(page.page->widget(), fresh->widget());
     }
+    emit refreshed();
 }
 
 void PageStack::stored()

@@ -1,6 +1,7 @@
 #ifndef KO_PAGESTACK_H
 #define KO_PAGESTACK_H
 
+#include "HostExport.h"
 #include "drivers/EditorState.h"
 #include "drivers/InspectorPages.h"
 #include "ko/TrContext.h"
@@ -17,7 +18,7 @@ class QTabWidget;
 namespace ko {
 
 /// The pages of an inspector in a tab widget "tabWidget", and what is done with all of them.
-class PageStack : public QWidget
+class KO_HOST_EXPORT PageStack : public QWidget
 {
     Q_OBJECT
     KO_TR_CONTEXT(PageStack)
@@ -49,6 +50,11 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+
+signals:
+    /// Around each change of the fields that the user did not make.
+    void aboutToRefresh();
+    void refreshed();
 
 private slots:
     void nodeRemoved(ko::NodeID id);

@@ -60,7 +60,7 @@ void RemotePreviewDraft::make()
     if (camera.null() || !previewOf(m_camera).isEmpty())
         return;
     if (auto* grouping = dynamic_cast<ChangeGrouping*>(NodeDB::getDB()))
-        m_scope.emplace(*grouping, Cause::now(Purpose::Recording));
+        m_scope.emplace(*grouping, Cause::now(Purpose::Recording), ScopeStoring::Meanwhile);
     NodeData data;
     data.name = camera->name();
     m_made = add(NodeTypes::remotePreviewOf(data, NodeDB::getDB()->defaultRecordingTransponderIP()));

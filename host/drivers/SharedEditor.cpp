@@ -36,7 +36,10 @@ QVector<PageSpec> sharedPagesOf(ENodeType type)
 {
     QVector<PageSpec> pages = pagesOf(type);
     pages.erase(std::remove_if(pages.begin(), pages.end(),
-                               [](const PageSpec& page) { return qstrcmp(page.tab, "recordings") == 0; }),
+                               [](const PageSpec& page) {
+                                   return qstrcmp(page.tab, "recordings") == 0 ||
+                                          qstrcmp(page.tab, "nodes") == 0;
+                               }),
                 pages.end());
     return pages;
 }

@@ -28,7 +28,7 @@ const struct
     {Purpose::Import, "import"},     {Purpose::Start, "start"},
     {Purpose::Restore, "restore"},   {Purpose::Check, "check"},
     {Purpose::FillIn, "fill-in"},    {Purpose::Undo, "undo"},
-    {Purpose::Unknown, ""},
+    {Purpose::Reseal, "reseal"},     {Purpose::Unknown, ""},
 };
 
 } // namespace

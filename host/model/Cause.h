@@ -26,6 +26,7 @@ enum class Purpose {
     Start,   ///< what a new database begins with
     Restore, ///< a backup took the place of everything
     Undo,    ///< something was put back to what it was
+    Reseal,  ///< passwords got another key, and are the same
     Unknown  ///< of a newer version of this program
 };
 

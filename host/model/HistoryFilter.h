@@ -31,6 +31,15 @@ struct HistoryPage
     bool isAtEnd = false; ///< no older one is there
 };
 
+/// The last changes of some nodes, the oldest node first. A node of which the history knows nothing is left
+/// out.
+struct LastChangesPart
+{
+    QVector<LastChange> changes;
+    qint64 after = 0;     ///< to go on
+    bool isAtEnd = false; ///< no node comes after them
+};
+
 /// Some of what a change set changed, in its order.
 struct ChangeSetPart
 {
@@ -44,7 +53,7 @@ struct LaterPart
 {
     QVector<ChangeSet> sets; ///< with a part of their changes, and no audit entries
     qint64 after = 0;        ///< to go on
-    qint64 remaining = 0;    ///< at most so many changes come after it
+    qint64 remaining = 0;    ///< at most this many changes come after it
 };
 
 } // namespace ko

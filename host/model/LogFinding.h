@@ -18,7 +18,7 @@ public:
     enum Kind {
         Altered,
         Missing,
-        PutIn,     ///< by another program, or by who has not the key
+        PutIn,     ///< by another program, or by somebody without the key
         Rewritten, ///< from the entry on, the first of its link of the chain
         OtherKey,  ///< the same, sealed with the key of another installation
         CutOff,    ///< after the entry, which is the last one there

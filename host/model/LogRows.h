@@ -28,6 +28,14 @@ struct ChangeSetRow
     bool isThinned = false;
 };
 
+/// When a node was changed last, or came, and by whom.
+struct LastChange
+{
+    QString node;    ///< its identifier
+    qint64 time = 0; ///< milliseconds since 1970, UTC
+    QString user;
+};
+
 /// One line of the program log as it is stored.
 struct ProgramRow
 {

@@ -233,7 +233,7 @@ private:
 
 /// Read again until nothing changes: a mark no longer has the blanks and quotes of what it stands for, so
 /// another rule may now see more in the text around it. Each reading only hides, takes time in proportion,
-/// and there are so many at most: a text that was made to need more shows nothing at all.
+/// and their number is limited: a text that was made to need more shows nothing at all.
 QString redacted(const QString& text)
 {
     QString shown = text;

@@ -25,6 +25,8 @@ struct SharedParcel
     QString id; ///< given by the site; tells it from one that had the same number before a backup came back
     Cause cause;
     QVector<SharedLine> lines;
+    QByteArray digest; ///< SHA-256 of the text that the site sent; empty: made here
+    QByteArray link;   ///< of the site's chain, as the site says
 };
 
 /// By what a desk finds out whether the site still has what it had.
@@ -32,6 +34,7 @@ struct KnownParcel
 {
     qint64 number = 0;
     QString id;
+    QByteArray link; ///< of the site's chain; empty: not known, it was received before there was a chain
 };
 
 } // namespace ko

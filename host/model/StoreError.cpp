@@ -88,6 +88,17 @@ const struct
                        "seals them can be found neither in your keychain nor in a file, nor kept there. "
                        "Unlock your keychain, bring the key file back, or make your configuration "
                        "folder writable, and try again.")},
+    {StoreError::SealedForSite,
+     QT_TRANSLATE_NOOP("StoreError",
+                       "Some passwords of the shared database in \"%1\" cannot be read and are shown empty, "
+                       "because this computer does not have the key that they were sealed with. Click on "
+                       "the state of the connection in the status bar, and give the passphrase of the "
+                       "site. They stay in the database until you give new ones.")},
+    {StoreError::SiteKeyMissing,
+     QT_TRANSLATE_NOOP("StoreError",
+                       "Passwords cannot be stored in the shared database in \"%1\", because this computer "
+                       "does not have the key of the site. Click on the state of the connection in the "
+                       "status bar, give the passphrase of the site, and try again.")},
     {StoreError::Other,
      QT_TRANSLATE_NOOP("StoreError",
                        "The node database \"%1\" cannot be read or written. Check that its disk or network "

@@ -28,6 +28,8 @@ struct StoreError
         SealedElsewhere, ///< passwords cannot be opened; the database can be used
         NotSealed,       ///< passwords were put there by something else; the database can be used
         KeyNotKept,      ///< there is no key with which passwords could be stored
+        SealedForSite,   ///< passwords of a copy of a site cannot be opened; it can be used
+        SiteKeyMissing,  ///< the key of the site, with which passwords are stored, is not here
         Other
     };
 
@@ -46,6 +48,13 @@ enum class StoreOutcome {
     Stored,
     NotStored, ///< what was done waits in memory; the failure has been made known
     NotRun     ///< another program holds the file, or it cannot be written; nothing was done
+};
+
+/// How to wait until changes are stored.
+enum class StoreWait {
+    Blocking,
+    /// The event loop goes on, but for what the user does. What is a lot is stored by a thread then.
+    InEventLoop
 };
 
 /// Thrown inside the store, caught by whoever uses it; never leaves the host.

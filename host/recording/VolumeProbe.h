@@ -21,7 +21,7 @@ namespace VolumeProbe {
 /// Makes KoFFSDevice::get() ask this host.
 KO_HOST_EXPORT void install();
 
-/// Whether \a path, an absolute one of this computer, lies on such a volume. Answers within Patience; a
+/// Whether \a path, an absolute one of this computer, lies on such a volume. Returns within Patience; a
 /// volume that has not answered by then is none, until it has. What was found out is good for some
 /// seconds. Callable from any thread.
 KO_HOST_EXPORT bool isVolume(const QString& path);

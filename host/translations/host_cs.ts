@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>Adresa neobsahuje mezery.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>Toto není adresa IPv6 ani hostitel s portem.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>Adresa IP má čtyři čísla od 0 do 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>Název hostitele obsahuje jen písmena, číslice, tečky a spojovníky.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Port je číslo od 1 do 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>Tato adresa URL neobsahuje čitelného hostitele.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>není připojena žádná síť IPv4</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>systém neposkytuje soket: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 a další: %2</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>obsahuje řídicí znaky</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>je delší než 1024 znaků</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>obsahuje zalomení řádku</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>obsahuje neviditelné znaky</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>není číslo od 0 do 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>není číslo od 1 do 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>není yes, no, true, false, 1 ani 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>není adresa MAC (dvanáct šestnáctkových číslic)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>není IP device, URL camera ani channel device, ani číslo</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>není číslo</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>%1 nelze přečíst: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>Chybných řádků: %1; toto není seznam kamer.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>zařízení se nepodařilo přidat</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>na této adrese není zařízení</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>není to název hostitele ani IP adresa</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>obsahuje víc než hostitele; port, SSL a uživatel mají vlastní sloupce</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>nové zařízení by nemělo název</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>Hesla ze seznamu (na řádku %1) nelze uložit, protože tento počítač nemá klíč sdílené databáze. Nejprve zadejte její heslovou frázi. Nic nebylo importováno.</translation>
     </message>
 </context>
 <context>
@@ -412,6 +416,10 @@
         <source>Put back: %1</source>
         <translation>Vráceno: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Hesla zašifrována znovu</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -428,7 +436,7 @@
         <translation>za uzavírací uvozovkou buňky následuje text</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>Toto není textový soubor (řádek %1 obsahuje binární data). Uložte soubor jako text UTF-8.</translation>
     </message>
     <message>
@@ -451,7 +459,7 @@
         <translation>odpověď trvá příliš dlouho</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>adresa je neplatná</translation>
     </message>
     <message>
@@ -459,16 +467,8 @@
         <translation>nepodporuje ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>koncový bod</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>neuvádí, co je zač</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>oblast ověření</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -483,16 +483,20 @@
         <translation>požaduje heslo neznámým způsobem</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>jiné než dříve: %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>sériové číslo</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>neuvádí žádné obrazy tohoto kanálu</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>má jiný koncový bod než dříve</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>má jinou oblast ověření než dříve</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>má jiné sériové číslo než dříve</translation>
     </message>
 </context>
 <context>
@@ -513,7 +517,7 @@
         <translation>odpověď je příliš dlouhá</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>odkazuje jinam</translation>
     </message>
     <message>
@@ -524,7 +528,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>Soubor „%1“ nelze použít: jeho název není text v kódování tohoto systému. Přejmenujte jej.</translation>
     </message>
 </context>
@@ -831,6 +835,18 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Z historie odebrány podrobnosti změn do čísla %1: řádků %2.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 a %n další</numerusform>
+            <numerusform>%1 a %n další</numerusform>
+            <numerusform>%1 a %n dalších</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>Zašifroval hesla znovu</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1010,6 +1026,10 @@
         <source>Proxy</source>
         <translation>Proxy</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kamery</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1064,7 +1084,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>neuvádí žádnou adresu obrazu</translation>
     </message>
     <message>
@@ -1072,7 +1092,7 @@
         <translation>adresa obrazu obsahuje otevřené heslo</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>to, co odesílá, není obraz</translation>
     </message>
     <message>
@@ -1212,11 +1232,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>Databázi uzlů „%1“ nelze číst ani zapisovat. Zkontrolujte, zda je připojen její disk nebo síťová jednotka, a zkuste to znovu.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Některá hesla sdílené databáze v „%1“ nelze přečíst a zobrazují se prázdná, protože tento počítač nemá klíč, kterým byla zašifrována. Klepněte na stav spojení ve stavovém řádku a zadejte heslovou frázi objektu. Zůstanou v databázi, dokud nezadáte nová.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>Hesla nelze uložit do sdílené databáze v „%1“, protože tento počítač nemá klíč objektu. Klepněte na stav spojení ve stavovém řádku, zadejte heslovou frázi objektu a zkuste to znovu.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Kamery:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>V tomto zobrazení:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Hledat</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Hledat kamery</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Kamery, které v tomto zobrazení nejsou</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Kamery v tomto zobrazení</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Přidat</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Vyjmout</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nahoru</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Dolů</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>žádná síť nepřijímá multicast</translation>
     </message>
 </context>

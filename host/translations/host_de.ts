@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>Eine Adresse enthält keine Leerzeichen.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>Dies ist weder eine IPv6-Adresse noch ein Host mit Port.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>Eine IP-Adresse besteht aus vier Zahlen von 0 bis 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>Ein Hostname besteht nur aus Buchstaben, Ziffern, Punkten und Bindestrichen.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Ein Port ist eine Zahl von 1 bis 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>Diese URL enthält keinen lesbaren Host.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>kein IPv4-Netzwerk angeschlossen</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>das System stellt keinen Socket bereit: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 und %2 weitere</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>enthält Steuerzeichen</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>ist länger als 1024 Zeichen</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>enthält einen Zeilenumbruch</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>enthält unsichtbare Zeichen</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>ist keine Zahl von 0 bis 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>ist keine Zahl von 1 bis 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>ist nicht yes, no, true, false, 1 oder 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>ist keine MAC-Adresse (zwölf hexadezimale Ziffern)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>ist weder IP device, URL camera oder channel device noch eine Zahl</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>ist keine Zahl</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>%1 Zeilen sind fehlerhaft; dies ist keine Kameraliste.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>das Gerät konnte nicht hinzugefügt werden</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>unter dieser Adresse befindet sich kein Gerät</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>kein Hostname und keine IP-Adresse</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>sie enthält mehr als einen Host; Port, SSL und Benutzer haben eigene Spalten</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>das neue Gerät hätte keinen Namen</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>Die Passwörter der Liste (in Zeile %1) können nicht gespeichert werden, weil dieser Computer den Schlüssel der gemeinsamen Datenbank nicht hat. Geben Sie zuerst ihre Passphrase an. Es wurde nichts importiert.</translation>
     </message>
 </context>
 <context>
@@ -403,6 +407,10 @@
         <source>Put back: %1</source>
         <translation>Zurückgenommen: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Passwörter neu verschlüsselt</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -419,7 +427,7 @@
         <translation>nach dem schließenden Anführungszeichen einer Zelle folgt Text</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>Dies ist keine Textdatei (Zeile %1 enthält Binärdaten). Speichern Sie die Datei als UTF-8-Text.</translation>
     </message>
     <message>
@@ -442,7 +450,7 @@
         <translation>das Gerät braucht zu lange für eine Antwort</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>die Adresse ist ungültig</translation>
     </message>
     <message>
@@ -450,16 +458,8 @@
         <translation>das Gerät spricht kein ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>Endpunkt</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>das Gerät gibt sich nicht zu erkennen</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>Anmeldebereich</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -474,16 +474,20 @@
         <translation>das Gerät verlangt das Passwort in unbekannter Form</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>abweichend gegenüber bisher: %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>Seriennummer</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>das Gerät nennt keine Bilder dieses Kanals</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>das Gerät hat einen anderen Endpunkt als bisher</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>das Gerät hat einen anderen Anmeldebereich als bisher</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>das Gerät hat eine andere Seriennummer als bisher</translation>
     </message>
 </context>
 <context>
@@ -504,7 +508,7 @@
         <translation>die Antwort ist zu lang</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>das Gerät verweist auf eine andere Stelle</translation>
     </message>
     <message>
@@ -515,7 +519,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>Die Datei „%1“ kann nicht verwendet werden: Ihr Name ist in der Zeichenkodierung dieses Systems kein Text. Benennen Sie sie um.</translation>
     </message>
 </context>
@@ -822,6 +826,17 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Einzelheiten der Änderungen bis Nummer %1 aus dem Verlauf entfernt: %2 Zeilen.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 und %n weiterer Knoten</numerusform>
+            <numerusform>%1 und %n weitere Knoten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>Hat Passwörter neu verschlüsselt</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1001,6 +1016,10 @@
         <source>Proxy</source>
         <translation>Proxy</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kameras</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1055,7 +1074,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>das Gerät nennt keine Adresse eines Bildes</translation>
     </message>
     <message>
@@ -1063,7 +1082,7 @@
         <translation>die Adresse des Bildes enthält ein Klartextpasswort</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>was das Gerät sendet, ist kein Bild</translation>
     </message>
     <message>
@@ -1203,11 +1222,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>Die Knotendatenbank „%1“ kann nicht gelesen oder geschrieben werden. Prüfen Sie, ob ihr Datenträger oder Netzlaufwerk verbunden ist, und versuchen Sie es erneut.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Einige Passwörter der gemeinsamen Datenbank in „%1“ können nicht gelesen werden und werden leer angezeigt, weil dieser Computer den Schlüssel nicht hat, mit dem sie verschlüsselt wurden. Klicken Sie in der Statusleiste auf den Zustand der Verbindung, und geben Sie die Passphrase des Standorts an. Sie bleiben in der Datenbank, bis Sie neue angeben.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>Passwörter können in der gemeinsamen Datenbank in „%1“ nicht gespeichert werden, weil dieser Computer den Schlüssel des Standorts nicht hat. Klicken Sie in der Statusleiste auf den Zustand der Verbindung, geben Sie die Passphrase des Standorts an, und versuchen Sie es erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Kameras:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>In dieser Ansicht:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Kameras suchen</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Kameras, die nicht in dieser Ansicht sind</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Kameras in dieser Ansicht</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Herausnehmen</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>kein Netzwerk nimmt Multicast an</translation>
     </message>
 </context>

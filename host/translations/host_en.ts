@@ -67,4 +67,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>LogEntry</name>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 and %n other</numerusform>
+            <numerusform>%1 and %n others</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

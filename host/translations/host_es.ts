@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>Una dirección no contiene espacios.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>No es una dirección IPv6 ni un host con puerto.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>Una dirección IP tiene cuatro números de 0 a 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>El nombre de un host solo contiene letras, cifras, puntos y guiones.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Un puerto es un número de 1 a 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>Esta URL no contiene un host legible.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>no hay ninguna red IPv4 conectada</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>el sistema no proporciona ningún socket: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 y %2 más</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>contiene caracteres de control</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>tiene más de 1024 caracteres</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>contiene un salto de línea</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>contiene caracteres invisibles</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>no es un número de 0 a 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>no es un número de 1 a 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>no es yes, no, true, false, 1 ni 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>no es una dirección MAC (doce cifras hexadecimales)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>no es IP device, URL camera ni channel device, ni un número</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>no es un número</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>No se puede leer %1: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>%1 líneas son incorrectas; no es una lista de cámaras.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>no se ha podido añadir el dispositivo</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>lo que hay en esta dirección no es un dispositivo</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>no es un nombre de host ni una dirección IP</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>contiene más que un host; puerto, SSL y usuario tienen columnas propias</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>el nuevo dispositivo no tendría nombre</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>Las contraseñas de la lista (en la línea %1) no se pueden guardar, porque este equipo no tiene la clave de la base de datos compartida. Dé primero su frase de contraseña. No se ha importado nada.</translation>
     </message>
 </context>
 <context>
@@ -403,6 +407,10 @@
         <source>Put back: %1</source>
         <translation>Revertido: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Contraseñas cifradas de nuevo</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -419,7 +427,7 @@
         <translation>hay texto después de las comillas finales de una celda</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>No es un archivo de texto (la línea %1 contiene datos binarios). Guarde el archivo como texto UTF-8.</translation>
     </message>
     <message>
@@ -442,7 +450,7 @@
         <translation>tarda demasiado en responder</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>la dirección no es válida</translation>
     </message>
     <message>
@@ -450,16 +458,8 @@
         <translation>no habla ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>punto de conexión</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>no dice quién es</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>dominio de autenticación</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -474,16 +474,20 @@
         <translation>pide la contraseña de una forma desconocida</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>distinto de antes: %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>número de serie</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>no indica imágenes de este canal</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>tiene un punto de conexión distinto de antes</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>tiene un dominio de autenticación distinto de antes</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>tiene un número de serie distinto de antes</translation>
     </message>
 </context>
 <context>
@@ -504,7 +508,7 @@
         <translation>la respuesta es demasiado larga</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>redirige a otro lugar</translation>
     </message>
     <message>
@@ -515,7 +519,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>No se puede usar el archivo «%1»: su nombre no es texto en la codificación de este sistema. Cámbiele el nombre.</translation>
     </message>
 </context>
@@ -822,6 +826,17 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Detalles de los cambios hasta el número %1 quitados del historial: %2 líneas.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>Cifró de nuevo contraseñas</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1001,6 +1016,10 @@
         <source>Proxy</source>
         <translation>Proxy</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Cámaras</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1055,7 +1074,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>no indica la dirección de ninguna imagen</translation>
     </message>
     <message>
@@ -1063,7 +1082,7 @@
         <translation>la dirección de su imagen contiene una contraseña sin cifrar</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>lo que envía no es una imagen</translation>
     </message>
     <message>
@@ -1203,11 +1222,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>La base de datos de nodos «%1» no se puede leer ni escribir. Compruebe que su disco o unidad de red está conectado e inténtelo de nuevo.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Algunas contraseñas de la base de datos compartida en «%1» no se pueden leer y se muestran vacías, porque este equipo no tiene la clave con la que se cifraron. Haga clic en el estado de la conexión en la barra de estado y dé la frase de contraseña del sitio. Permanecen en la base de datos hasta que dé otras nuevas.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>No se pueden guardar contraseñas en la base de datos compartida en «%1», porque este equipo no tiene la clave del sitio. Haga clic en el estado de la conexión en la barra de estado, dé la frase de contraseña del sitio e inténtelo de nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Cámaras:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>En esta vista:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Buscar cámaras</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Cámaras que no están en esta vista</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Cámaras de esta vista</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Bajar</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>ninguna red admite multidifusión</translation>
     </message>
 </context>

@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>Une adresse ne contient pas d&apos;espaces.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>Ce n&apos;est ni une adresse IPv6 ni un hôte avec un port.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>Une adresse IP comporte quatre nombres de 0 à 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>Un nom d&apos;hôte ne contient que des lettres, des chiffres, des points et des traits d&apos;union.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Un port est un nombre de 1 à 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>Cette URL ne contient pas d&apos;hôte lisible.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>aucun réseau IPv4 n&apos;est connecté</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>le système ne fournit pas de socket : %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 et %2 autres</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>contient des caractères de contrôle</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>dépasse 1024 caractères</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>contient un saut de ligne</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>contient des caractères invisibles</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>n&apos;est pas un nombre de 0 à 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>n&apos;est pas un nombre de 1 à 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>n&apos;est pas yes, no, true, false, 1 ou 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>n&apos;est pas une adresse MAC (douze chiffres hexadécimaux)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>n&apos;est ni IP device, ni URL camera, ni channel device, ni un nombre</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>n&apos;est pas un nombre</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>%1 ne peut pas être lu : %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>%1 lignes sont incorrectes ; ce n&apos;est pas une liste de caméras.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>l&apos;appareil n&apos;a pas pu être ajouté</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>ce qui se trouve à cette adresse n&apos;est pas un appareil</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>ce n&apos;est ni un nom d&apos;hôte ni une adresse IP</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>elle contient plus qu&apos;un hôte ; port, SSL et utilisateur ont leurs propres colonnes</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>le nouvel appareil n&apos;aurait pas de nom</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>Les mots de passe de la liste (à la ligne %1) ne peuvent pas être enregistrés, parce que cet ordinateur n&apos;a pas la clé de la base de données partagée. Donnez d&apos;abord sa phrase secrète. Rien n&apos;a été importé.</translation>
     </message>
 </context>
 <context>
@@ -403,6 +407,10 @@
         <source>Put back: %1</source>
         <translation>Remis en l&apos;état : %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Mots de passe chiffrés à nouveau</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -419,7 +427,7 @@
         <translation>du texte suit le guillemet fermant d&apos;une cellule</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>Ce n&apos;est pas un fichier texte (la ligne %1 contient des données binaires). Enregistrez le fichier en texte UTF-8.</translation>
     </message>
     <message>
@@ -442,7 +450,7 @@
         <translation>l&apos;appareil met trop de temps à répondre</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>l&apos;adresse n&apos;est pas valide</translation>
     </message>
     <message>
@@ -450,16 +458,8 @@
         <translation>l&apos;appareil ne parle pas ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>point de terminaison</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>l&apos;appareil ne dit pas qui il est</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>domaine d&apos;authentification</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -474,16 +474,20 @@
         <translation>l&apos;appareil demande le mot de passe d&apos;une façon inconnue</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>différent d&apos;avant : %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>numéro de série</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>l&apos;appareil n&apos;indique aucune image de ce canal</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>l&apos;appareil a un autre point de terminaison qu&apos;avant</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>l&apos;appareil a un autre domaine d&apos;authentification qu&apos;avant</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>l&apos;appareil a un autre numéro de série qu&apos;avant</translation>
     </message>
 </context>
 <context>
@@ -504,7 +508,7 @@
         <translation>la réponse est trop longue</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>l&apos;appareil redirige ailleurs</translation>
     </message>
     <message>
@@ -515,7 +519,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>Le fichier « %1 » ne peut pas être utilisé : son nom n&apos;est pas un texte dans l&apos;encodage de ce système. Renommez-le.</translation>
     </message>
 </context>
@@ -822,6 +826,17 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Détails des modifications jusqu&apos;au numéro %1 retirés de l&apos;historique : %2 lignes.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>A chiffré à nouveau des mots de passe</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1001,6 +1016,10 @@
         <source>Proxy</source>
         <translation>Proxy</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Caméras</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1055,7 +1074,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>l&apos;appareil n&apos;indique aucune adresse d&apos;image</translation>
     </message>
     <message>
@@ -1063,7 +1082,7 @@
         <translation>l&apos;adresse de l&apos;image contient un mot de passe en clair</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>ce que l&apos;appareil envoie n&apos;est pas une image</translation>
     </message>
     <message>
@@ -1203,11 +1222,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>La base de données de nœuds « %1 » ne peut être ni lue ni écrite. Vérifiez que son disque ou lecteur réseau est connecté, puis réessayez.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Certains mots de passe de la base de données partagée dans « %1 » ne peuvent pas être lus et sont affichés vides, parce que cet ordinateur n&apos;a pas la clé avec laquelle ils ont été chiffrés. Cliquez sur l&apos;état de la connexion dans la barre d&apos;état, et donnez la phrase secrète du site. Ils restent dans la base de données jusqu&apos;à ce que vous en donniez de nouveaux.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>Les mots de passe ne peuvent pas être enregistrés dans la base de données partagée dans « %1 », parce que cet ordinateur n&apos;a pas la clé du site. Cliquez sur l&apos;état de la connexion dans la barre d&apos;état, donnez la phrase secrète du site et réessayez.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Caméras :</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>Dans cette vue :</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Rechercher des caméras</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Caméras qui ne sont pas dans cette vue</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Caméras de cette vue</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Descendre</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>aucun réseau n&apos;accepte le multicast</translation>
     </message>
 </context>

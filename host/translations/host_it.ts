@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>Un indirizzo non contiene spazi.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>Non è un indirizzo IPv6 né un host con una porta.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>Un indirizzo IP ha quattro numeri da 0 a 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>Il nome di un host contiene solo lettere, cifre, punti e trattini.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Una porta è un numero da 1 a 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>Questo URL non contiene un host leggibile.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>nessuna rete IPv4 collegata</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>il sistema non fornisce un socket: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 e altri %2</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>contiene caratteri di controllo</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>supera i 1024 caratteri</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>contiene un&apos;interruzione di riga</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>contiene caratteri invisibili</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>non è un numero da 0 a 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>non è un numero da 1 a 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>non è yes, no, true, false, 1 o 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>non è un indirizzo MAC (dodici cifre esadecimali)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>non è IP device, URL camera o channel device, né un numero</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>non è un numero</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>Impossibile leggere %1: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>%1 righe sono errate; questo non è un elenco di telecamere.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>impossibile aggiungere il dispositivo</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>ciò che si trova a questo indirizzo non è un dispositivo</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>non è né un nome host né un indirizzo IP</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>contiene più di un host; porta, SSL e utente hanno colonne proprie</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>il nuovo dispositivo non avrebbe un nome</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>Le password dell&apos;elenco (alla riga %1) non possono essere salvate, perché questo computer non ha la chiave del database condiviso. Indicarne prima la passphrase. Non è stato importato nulla.</translation>
     </message>
 </context>
 <context>
@@ -403,6 +407,10 @@
         <source>Put back: %1</source>
         <translation>Ripristinato: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Password cifrate di nuovo</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -419,7 +427,7 @@
         <translation>c&apos;è del testo dopo le virgolette di chiusura di una cella</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>Questo non è un file di testo (la riga %1 contiene dati binari). Salvare il file come testo UTF-8.</translation>
     </message>
     <message>
@@ -442,7 +450,7 @@
         <translation>impiega troppo tempo a rispondere</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>l&apos;indirizzo non è valido</translation>
     </message>
     <message>
@@ -450,16 +458,8 @@
         <translation>non parla ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>endpoint</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>non dice chi è</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>area di autenticazione</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -474,16 +474,20 @@
         <translation>chiede la password in un modo sconosciuto</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>diverso da prima: %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>numero di serie</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>non indica immagini di questo canale</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>ha un endpoint diverso da prima</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>ha un&apos;area di autenticazione diversa da prima</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>ha un numero di serie diverso da prima</translation>
     </message>
 </context>
 <context>
@@ -504,7 +508,7 @@
         <translation>la risposta è troppo lunga</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>rimanda a un altro luogo</translation>
     </message>
     <message>
@@ -515,7 +519,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>Il file &quot;%1&quot; non può essere usato: il suo nome non è un testo nella codifica di questo sistema. Rinominarlo.</translation>
     </message>
 </context>
@@ -822,6 +826,17 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Dettagli delle modifiche fino al numero %1 tolti dalla cronologia: %2 righe.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 e %n altro</numerusform>
+            <numerusform>%1 e altri %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>Ha cifrato di nuovo le password</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1001,6 +1016,10 @@
         <source>Proxy</source>
         <translation>Proxy</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Telecamere</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1055,7 +1074,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>non indica alcun indirizzo di un&apos;immagine</translation>
     </message>
     <message>
@@ -1063,7 +1082,7 @@
         <translation>l&apos;indirizzo della sua immagine contiene una password in chiaro</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>ciò che invia non è un&apos;immagine</translation>
     </message>
     <message>
@@ -1203,11 +1222,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>Il database dei nodi &quot;%1&quot; non può essere letto o scritto. Controllare che il disco o l&apos;unità di rete sia collegata e riprovare.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Alcune password del database condiviso in &quot;%1&quot; non possono essere lette e appaiono vuote, perché questo computer non ha la chiave con cui sono state cifrate. Fare clic sullo stato della connessione nella barra di stato e indicare la passphrase del sito. Restano nel database finché non se ne indicano di nuove.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>Le password non possono essere salvate nel database condiviso in &quot;%1&quot;, perché questo computer non ha la chiave del sito. Fare clic sullo stato della connessione nella barra di stato, indicare la passphrase del sito e riprovare.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Telecamere:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>In questa vista:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Cerca telecamere</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Telecamere che non sono in questa vista</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Telecamere di questa vista</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Togli</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Su</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Giù</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>nessuna rete accetta il multicast</translation>
     </message>
 </context>

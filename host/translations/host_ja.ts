@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>アドレスに空白は使用できません。</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>IPv6アドレスでも、ポート付きのホストでもありません。</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>IPアドレスは0~255の4つの数字です。</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>ホスト名に使用できるのは英数字、ピリオド、ハイフンのみです。</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>ポートは1~65535の数字です。</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>このURLにはホストが見つかりません。</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>IPv4ネットワークに接続されていません</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>システムがソケットを提供しません: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1、ほか%2件</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>制御文字が含まれています</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>1024文字を超えています</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>改行が含まれています</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>表示できない文字が含まれています</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>0~65535の数字ではありません</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>1~4の数字ではありません</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>yes、no、true、false、1、0のいずれでもありません</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>MACアドレス (16進数12桁) ではありません</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>IP device、URL camera、channel deviceのいずれでもなく、数字でもありません</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>数字ではありません</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>%1を読み取れません: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>%1行が不正です。カメラの一覧ではありません。</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>デバイスを追加できませんでした</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>このアドレスにあるものはデバイスではありません</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>、</translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>ホスト名でもIPアドレスでもありません</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>ホスト以外も含まれています。ポート、SSL、ユーザーには専用の列があります</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>新しいデバイスに名前が付きません</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>このコンピューターには共有データベースのキーがないため、リストのパスワード(%1行目)を保存できません。先にパスフレーズを入力してください。何もインポートされませんでした。</translation>
     </message>
 </context>
 <context>
@@ -394,6 +398,10 @@
         <source>Put back: %1</source>
         <translation>元に戻しました: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>パスワードの再暗号化</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -410,7 +418,7 @@
         <translation>セルの閉じ引用符の後に文字があります</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>テキストファイルではありません (%1行目にバイナリデータがあります)。UTF-8テキストとして保存してください。</translation>
     </message>
     <message>
@@ -433,7 +441,7 @@
         <translation>応答に時間がかかりすぎます</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>アドレスが正しくありません</translation>
     </message>
     <message>
@@ -441,16 +449,8 @@
         <translation>ONVIFに対応していません</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>エンドポイント</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>デバイスの情報を返しません</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>認証領域 (realm)</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -465,16 +465,20 @@
         <translation>不明な方法でパスワードを要求しています</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>%1が以前と異なります</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>シリアル番号</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>このチャンネルの画像を通知していません</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>エンドポイントが以前と異なります</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>認証領域 (realm) が以前と異なります</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>シリアル番号が以前と異なります</translation>
     </message>
 </context>
 <context>
@@ -495,7 +499,7 @@
         <translation>応答が長すぎます</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>別の場所に転送しています</translation>
     </message>
     <message>
@@ -506,7 +510,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>ファイル「%1」は使用できません。名前がこのシステムの文字コードで表せません。名前を変更してください。</translation>
     </message>
 </context>
@@ -813,6 +817,16 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>番号%1までの変更の詳細を履歴から取り除きました: %2行。</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1と他%n件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>パスワードを改めて暗号化しました</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -992,6 +1006,10 @@
         <source>Proxy</source>
         <translation>プロキシ</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>カメラ</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1046,7 +1064,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>画像のアドレスを通知していません</translation>
     </message>
     <message>
@@ -1054,7 +1072,7 @@
         <translation>画像のアドレスに平文パスワードが含まれています</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>送信されたデータは画像ではありません</translation>
     </message>
     <message>
@@ -1194,11 +1212,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>ノードデータベース「%1」を読み書きできません。ディスクまたはネットワークドライブが接続されていることを確認して、もう一度試してください。</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>「%1」の共有データベースの一部のパスワードは、暗号化に使われたキーがこのコンピューターにないため読み取れず、空で表示されます。ステータスバーの接続状態をクリックし、サイトのパスフレーズを入力してください。新しいパスワードを指定するまで、データベースに残ります。</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>このコンピューターにはサイトのキーがないため、「%1」の共有データベースにパスワードを保存できません。ステータスバーの接続状態をクリックし、サイトのパスフレーズを入力してから、もう一度試してください。</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>カメラ:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>このビュー内:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>カメラを検索</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>このビューにないカメラ</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>このビューのカメラ</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>外す</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下へ</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>マルチキャストを使用できるネットワークがありません</translation>
     </message>
 </context>

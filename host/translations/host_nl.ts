@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>Een adres bevat geen spaties.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>Dit is geen IPv6-adres en geen host met poort.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>Een IP-adres heeft vier getallen van 0 tot 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>De naam van een host bevat alleen letters, cijfers, punten en koppeltekens.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Een poort is een getal van 1 tot 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>Deze URL bevat geen leesbare host.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>er is geen IPv4-netwerk aangesloten</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>het systeem geeft geen socket: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 en nog %2</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>bevat besturingstekens</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>is langer dan 1024 tekens</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>bevat een regeleinde</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>bevat onzichtbare tekens</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>is geen getal van 0 tot 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>is geen getal van 1 tot 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>is niet yes, no, true, false, 1 of 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>is geen MAC-adres (twaalf hexadecimale cijfers)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>is niet IP device, URL camera of channel device, en geen getal</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>is geen getal</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>%1 kan niet worden gelezen: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>%1 regels zijn onjuist; dit is geen lijst met camera&apos;s.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>het apparaat kon niet worden toegevoegd</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>wat zich op dit adres bevindt, is geen apparaat</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>het is geen hostnaam en geen IP-adres</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>het bevat meer dan een host; poort, SSL en gebruiker hebben eigen kolommen</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>het nieuwe apparaat zou geen naam hebben</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>De wachtwoorden van de lijst (in regel %1) kunnen niet worden opgeslagen, omdat deze computer de sleutel van de gedeelde database niet heeft. Geef eerst de wachtwoordzin op. Er is niets geïmporteerd.</translation>
     </message>
 </context>
 <context>
@@ -403,6 +407,10 @@
         <source>Put back: %1</source>
         <translation>Teruggedraaid: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Wachtwoorden opnieuw versleuteld</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -419,7 +427,7 @@
         <translation>er volgt tekst na het afsluitende aanhalingsteken van een cel</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>Dit is geen tekstbestand (regel %1 bevat binaire gegevens). Sla het bestand op als UTF-8-tekst.</translation>
     </message>
     <message>
@@ -442,7 +450,7 @@
         <translation>het duurt te lang voordat het antwoordt</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>het adres is ongeldig</translation>
     </message>
     <message>
@@ -450,16 +458,8 @@
         <translation>het spreekt geen ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>eindpunt</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>het zegt niet wie het is</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>authenticatiedomein</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -474,16 +474,20 @@
         <translation>het vraagt op een onbekende manier om het wachtwoord</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>anders dan voorheen: %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>serienummer</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>het noemt geen beelden van dit kanaal</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>het heeft een ander eindpunt dan voorheen</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>het heeft een ander authenticatiedomein dan voorheen</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>het heeft een ander serienummer dan voorheen</translation>
     </message>
 </context>
 <context>
@@ -504,7 +508,7 @@
         <translation>het antwoord is te lang</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>het verwijst door naar een andere plaats</translation>
     </message>
     <message>
@@ -515,7 +519,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>Het bestand &quot;%1&quot; kan niet worden gebruikt: de naam is geen tekst in de codering van dit systeem. Hernoem het.</translation>
     </message>
 </context>
@@ -822,6 +826,17 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Details van wijzigingen tot en met nummer %1 uit de geschiedenis gehaald: %2 regels.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 en %n andere</numerusform>
+            <numerusform>%1 en %n andere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>Wachtwoorden opnieuw versleuteld</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1001,6 +1016,10 @@
         <source>Proxy</source>
         <translation>Proxy</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Camera&apos;s</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1055,7 +1074,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>het noemt geen adres van een beeld</translation>
     </message>
     <message>
@@ -1063,7 +1082,7 @@
         <translation>het adres van het beeld bevat een onversleuteld wachtwoord</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>wat het stuurt is geen beeld</translation>
     </message>
     <message>
@@ -1203,11 +1222,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>De knooppuntdatabase &quot;%1&quot; kan niet worden gelezen of geschreven. Controleer of de schijf of het netwerkstation is verbonden en probeer het opnieuw.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Sommige wachtwoorden van de gedeelde database in &quot;%1&quot; kunnen niet worden gelezen en worden leeg weergegeven, omdat deze computer de sleutel waarmee ze zijn versleuteld niet heeft. Klik in de statusbalk op de toestand van de verbinding, en geef de wachtwoordzin van de locatie op. Ze blijven in de database totdat u nieuwe opgeeft.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>Wachtwoorden kunnen niet worden opgeslagen in de gedeelde database in &quot;%1&quot;, omdat deze computer de sleutel van de locatie niet heeft. Klik in de statusbalk op de toestand van de verbinding, geef de wachtwoordzin van de locatie op, en probeer het opnieuw.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Camera&apos;s:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>In deze weergave:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Zoeken</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Camera&apos;s zoeken</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Camera&apos;s die niet in deze weergave staan</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Camera&apos;s in deze weergave</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Toevoegen</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Eruit halen</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Omlaag</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>geen enkel netwerk accepteert multicast</translation>
     </message>
 </context>

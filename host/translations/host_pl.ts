@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>Adres nie zawiera spacji.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>To nie jest adres IPv6 ani host z portem.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>Adres IP składa się z czterech liczb od 0 do 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>Nazwa hosta zawiera tylko litery, cyfry, kropki i łączniki.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Port to liczba od 1 do 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>Ten adres URL nie zawiera czytelnego hosta.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>nie jest podłączona żadna sieć IPv4</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>system nie udostępnia gniazda: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 i jeszcze %2</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>zawiera znaki sterujące</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>jest dłuższe niż 1024 znaki</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>zawiera podział wiersza</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>zawiera niewidoczne znaki</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>nie jest liczbą od 0 do 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>nie jest liczbą od 1 do 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>nie jest żadnym z: yes, no, true, false, 1, 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>nie jest adresem MAC (dwanaście cyfr szesnastkowych)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>nie jest to IP device, URL camera ani channel device, ani liczba</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>nie jest liczbą</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>Nie można odczytać %1: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>Błędnych wierszy: %1; to nie jest lista kamer.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>nie udało się dodać urządzenia</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>pod tym adresem nie ma urządzenia</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>to nie jest nazwa hosta ani adres IP</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>zawiera więcej niż hosta; port, SSL i użytkownik mają własne kolumny</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>nowe urządzenie nie miałoby nazwy</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>Haseł z listy (w wierszu %1) nie można zapisać, ponieważ ten komputer nie ma klucza współdzielonej bazy danych. Najpierw podaj jej frazę hasłową. Niczego nie zaimportowano.</translation>
     </message>
 </context>
 <context>
@@ -412,6 +416,10 @@
         <source>Put back: %1</source>
         <translation>Cofnięto: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Hasła zaszyfrowane na nowo</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -428,7 +436,7 @@
         <translation>po cudzysłowie zamykającym komórkę następuje tekst</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>To nie jest plik tekstowy (wiersz %1 zawiera dane binarne). Zapisz plik jako tekst UTF-8.</translation>
     </message>
     <message>
@@ -451,7 +459,7 @@
         <translation>urządzenie odpowiada zbyt długo</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>adres jest nieprawidłowy</translation>
     </message>
     <message>
@@ -459,16 +467,8 @@
         <translation>urządzenie nie obsługuje ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>punkt końcowy</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>urządzenie nie podaje, czym jest</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>obszar uwierzytelniania</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -483,16 +483,20 @@
         <translation>urządzenie wymaga hasła w nieznany sposób</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>inne niż poprzednio: %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>numer seryjny</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>urządzenie nie podaje obrazów tego kanału</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>urządzenie ma inny punkt końcowy niż poprzednio</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>urządzenie ma inny obszar uwierzytelniania niż poprzednio</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>urządzenie ma inny numer seryjny niż poprzednio</translation>
     </message>
 </context>
 <context>
@@ -513,7 +517,7 @@
         <translation>odpowiedź jest zbyt długa</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>urządzenie odsyła w inne miejsce</translation>
     </message>
     <message>
@@ -524,7 +528,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>Nie można użyć pliku „%1”: jego nazwa nie jest tekstem w kodowaniu tego systemu. Zmień nazwę.</translation>
     </message>
 </context>
@@ -831,6 +835,18 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Usunięto z historii szczegóły zmian do numeru %1: %2 wierszy.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 i %n inny</numerusform>
+            <numerusform>%1 i %n inne</numerusform>
+            <numerusform>%1 i %n innych</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>Zaszyfrowano hasła na nowo</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1010,6 +1026,10 @@
         <source>Proxy</source>
         <translation>Proxy</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Kamery</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1064,7 +1084,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>urządzenie nie podaje adresu obrazu</translation>
     </message>
     <message>
@@ -1072,7 +1092,7 @@
         <translation>adres obrazu zawiera jawne hasło</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>to, co wysyła urządzenie, nie jest obrazem</translation>
     </message>
     <message>
@@ -1212,11 +1232,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>Nie można odczytać ani zapisać bazy danych węzłów „%1”. Sprawdź, czy jej dysk lub dysk sieciowy jest podłączony, i spróbuj ponownie.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Niektórych haseł współdzielonej bazy danych w „%1” nie można odczytać i są pokazywane jako puste, ponieważ ten komputer nie ma klucza, którym je zaszyfrowano. Kliknij stan połączenia na pasku stanu i podaj frazę hasłową obiektu. Pozostają w bazie danych, dopóki nie podasz nowych.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>Haseł nie można zapisać we współdzielonej bazie danych w „%1”, ponieważ ten komputer nie ma klucza obiektu. Kliknij stan połączenia na pasku stanu, podaj frazę hasłową obiektu i spróbuj ponownie.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Kamery:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>W tym widoku:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Szukaj</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Szukaj kamer</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Kamery, których nie ma w tym widoku</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Kamery w tym widoku</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Dodaj</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Wyjmij</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>W górę</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>W dół</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>żadna sieć nie przyjmuje multicastu</translation>
     </message>
 </context>

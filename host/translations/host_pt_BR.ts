@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>Um endereço não contém espaços.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>Não é um endereço IPv6 nem um host com porta.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>Um endereço IP tem quatro números de 0 a 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>O nome de um host contém apenas letras, dígitos, pontos e hifens.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Uma porta é um número de 1 a 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>Esta URL não contém um host legível.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>nenhuma rede IPv4 conectada</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>o sistema não fornece um socket: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 e mais %2</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>contém caracteres de controle</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>tem mais de 1024 caracteres</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>contém uma quebra de linha</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>contém caracteres invisíveis</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>não é um número de 0 a 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>não é um número de 1 a 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>não é yes, no, true, false, 1 nem 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>não é um endereço MAC (doze dígitos hexadecimais)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>não é IP device, URL camera nem channel device, nem um número</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>não é um número</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>%1 não pode ser lido: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>%1 linhas estão erradas; isto não é uma lista de câmeras.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>o dispositivo não pôde ser adicionado</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>o que está neste endereço não é um dispositivo</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>não é um nome de host nem um endereço IP</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>contém mais do que um host; porta, SSL e usuário têm colunas próprias</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>o novo dispositivo não teria nome</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>As senhas da lista (na linha %1) não podem ser armazenadas, porque este computador não tem a chave do banco de dados compartilhado. Dê primeiro a frase secreta. Nada foi importado.</translation>
     </message>
 </context>
 <context>
@@ -403,6 +407,10 @@
         <source>Put back: %1</source>
         <translation>Revertido: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Senhas cifradas de novo</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -419,7 +427,7 @@
         <translation>há texto após as aspas finais de uma célula</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>Não é um arquivo de texto (a linha %1 contém dados binários). Salve o arquivo como texto UTF-8.</translation>
     </message>
     <message>
@@ -442,7 +450,7 @@
         <translation>demora demais para responder</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>o endereço não é válido</translation>
     </message>
     <message>
@@ -450,16 +458,8 @@
         <translation>não fala ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>ponto de extremidade</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>não informa quem é</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>domínio de autenticação</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -474,16 +474,20 @@
         <translation>pede a senha de uma forma desconhecida</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>diferente de antes: %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>número de série</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>não indica imagens deste canal</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>tem um ponto de extremidade diferente de antes</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>tem um domínio de autenticação diferente de antes</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>tem um número de série diferente de antes</translation>
     </message>
 </context>
 <context>
@@ -504,7 +508,7 @@
         <translation>a resposta é longa demais</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>redireciona para outro lugar</translation>
     </message>
     <message>
@@ -515,7 +519,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>O arquivo &quot;%1&quot; não pode ser usado: o nome não é texto na codificação deste sistema. Renomeie-o.</translation>
     </message>
 </context>
@@ -822,6 +826,17 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Detalhes das alterações até o número %1 retirados do histórico: %2 linhas.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 e mais %n</numerusform>
+            <numerusform>%1 e mais %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>Cifrou senhas de novo</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1001,6 +1016,10 @@
         <source>Proxy</source>
         <translation>Proxy</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Câmeras</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1055,7 +1074,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>não indica o endereço de nenhuma imagem</translation>
     </message>
     <message>
@@ -1063,7 +1082,7 @@
         <translation>o endereço da imagem contém uma senha sem criptografia</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>o que ele envia não é uma imagem</translation>
     </message>
     <message>
@@ -1203,11 +1222,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>O banco de dados de nós &quot;%1&quot; não pode ser lido nem gravado. Verifique se o disco ou a unidade de rede está conectada e tente novamente.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Algumas senhas do banco de dados compartilhado em &quot;%1&quot; não podem ser lidas e aparecem vazias, porque este computador não tem a chave com a qual foram cifradas. Clique no estado da conexão na barra de status e dê a frase secreta do local. Elas ficam no banco de dados até que você dê novas.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>As senhas não podem ser armazenadas no banco de dados compartilhado em &quot;%1&quot;, porque este computador não tem a chave do local. Clique no estado da conexão na barra de status, dê a frase secreta do local e tente de novo.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Câmeras:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>Nesta vista:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Pesquisar</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Pesquisar câmeras</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Câmeras que não estão nesta vista</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Câmeras desta vista</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Retirar</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Descer</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>nenhuma rede aceita multicast</translation>
     </message>
 </context>

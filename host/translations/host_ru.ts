@@ -11,11 +11,11 @@
 <context>
     <name>AddressText</name>
     <message>
-        <source>An address holds no blanks.</source>
+        <source>An address cannot contain spaces.</source>
         <translation>В адресе не бывает пробелов.</translation>
     </message>
     <message>
-        <source>This is no IPv6 address, and no host with a port.</source>
+        <source>This is neither an IPv6 address nor a host with a port.</source>
         <translation>Это не IPv6-адрес и не хост с портом.</translation>
     </message>
     <message>
@@ -23,7 +23,7 @@
         <translation>IP-адрес состоит из четырёх чисел от 0 до 255.</translation>
     </message>
     <message>
-        <source>The name of a host has letters, digits, dots and hyphens only.</source>
+        <source>A host name can contain only letters, digits, dots and hyphens.</source>
         <translation>Имя хоста содержит только буквы, цифры, точки и дефисы.</translation>
     </message>
     <message>
@@ -31,7 +31,7 @@
         <translation>Порт — это число от 1 до 65535.</translation>
     </message>
     <message>
-        <source>This URL has no host that can be read.</source>
+        <source>The host in this URL cannot be read.</source>
         <translation>В этом URL нет читаемого хоста.</translation>
     </message>
 </context>
@@ -42,7 +42,7 @@
         <translation>нет подключённой сети IPv4</translation>
     </message>
     <message>
-        <source>the system gives no socket: %1</source>
+        <source>the system provides no socket: %1</source>
         <translation>система не предоставляет сокет: %1</translation>
     </message>
     <message>
@@ -81,7 +81,7 @@
         <translation>%1 и ещё %2</translation>
     </message>
     <message>
-        <source>it holds control characters</source>
+        <source>it contains control characters</source>
         <translation>содержит управляющие символы</translation>
     </message>
     <message>
@@ -89,19 +89,19 @@
         <translation>длиннее 1024 символов</translation>
     </message>
     <message>
-        <source>it holds a line break</source>
+        <source>it contains a line break</source>
         <translation>содержит разрыв строки</translation>
     </message>
     <message>
-        <source>it holds characters that cannot be seen</source>
+        <source>it contains invisible characters</source>
         <translation>содержит невидимые символы</translation>
     </message>
     <message>
-        <source>it is no number from 0 to 65535</source>
+        <source>it is not a number from 0 to 65535</source>
         <translation>не число от 0 до 65535</translation>
     </message>
     <message>
-        <source>it is no number from 1 to 4</source>
+        <source>it is not a number from 1 to 4</source>
         <translation>не число от 1 до 4</translation>
     </message>
     <message>
@@ -109,15 +109,15 @@
         <translation>не yes, no, true, false, 1 или 0</translation>
     </message>
     <message>
-        <source>it is no MAC address (twelve hexadecimal digits)</source>
+        <source>it is not a MAC address (twelve hexadecimal digits)</source>
         <translation>не MAC-адрес (двенадцать шестнадцатеричных цифр)</translation>
     </message>
     <message>
-        <source>it is not one of IP device, URL camera, channel device, and no number</source>
+        <source>it is neither a number nor one of IP device, URL camera, channel device</source>
         <translation>не IP device, URL camera или channel device и не число</translation>
     </message>
     <message>
-        <source>it is no number</source>
+        <source>it is not a number</source>
         <translation>не число</translation>
     </message>
     <message>
@@ -137,7 +137,7 @@
         <translation>Не удаётся прочитать %1: %2</translation>
     </message>
     <message>
-        <source>%1 lines are bad; this is no list of cameras.</source>
+        <source>%1 lines are bad; this is not a list of cameras.</source>
         <translation>Ошибочных строк: %1; это не список камер.</translation>
     </message>
     <message>
@@ -165,7 +165,7 @@
         <translation>не удалось добавить устройство</translation>
     </message>
     <message>
-        <source>what is at this address is no device</source>
+        <source>what is at this address is not a device</source>
         <translation>по этому адресу находится не устройство</translation>
     </message>
     <message>
@@ -206,11 +206,11 @@
         <translation>, </translation>
     </message>
     <message>
-        <source>it is no host name and no IP address</source>
+        <source>it is neither a host name nor an IP address</source>
         <translation>это не имя узла сети и не IP-адрес</translation>
     </message>
     <message>
-        <source>it holds more than a host; port, SSL and user have columns of their own</source>
+        <source>it contains more than a host; port, SSL and user have columns of their own</source>
         <translation>содержит не только узел; для порта, SSL и пользователя есть свои столбцы</translation>
     </message>
     <message>
@@ -220,6 +220,10 @@
     <message>
         <source>the new device would have no name</source>
         <translation>у нового устройства не будет имени</translation>
+    </message>
+    <message>
+        <source>The passwords of the list (in line %1) cannot be stored, because this computer does not have the key of the shared database. Give its passphrase first. Nothing was imported.</source>
+        <translation>Пароли списка (в строке %1) нельзя сохранить, потому что на этом компьютере нет ключа общей базы данных. Сначала укажите её парольную фразу. Ничего не импортировано.</translation>
     </message>
 </context>
 <context>
@@ -412,6 +416,10 @@
         <source>Put back: %1</source>
         <translation>Возвращено: %1</translation>
     </message>
+    <message>
+        <source>Passwords sealed anew</source>
+        <translation>Пароли зашифрованы заново</translation>
+    </message>
 </context>
 <context>
     <name>CsvReader</name>
@@ -428,7 +436,7 @@
         <translation>после закрывающей кавычки ячейки есть текст</translation>
     </message>
     <message>
-        <source>This is no text file (line %1 holds binary data). Save the file as UTF-8 text.</source>
+        <source>This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.</source>
         <translation>Это не текстовый файл (в строке %1 двоичные данные). Сохраните файл как текст UTF-8.</translation>
     </message>
     <message>
@@ -451,7 +459,7 @@
         <translation>слишком долго нет ответа</translation>
     </message>
     <message>
-        <source>the address is no address</source>
+        <source>the address is not valid</source>
         <translation>недопустимый адрес</translation>
     </message>
     <message>
@@ -459,16 +467,8 @@
         <translation>не поддерживает ONVIF</translation>
     </message>
     <message>
-        <source>endpoint</source>
-        <translation>конечная точка</translation>
-    </message>
-    <message>
-        <source>it does not tell who it is</source>
+        <source>it does not say what it is</source>
         <translation>не сообщает, что это за устройство</translation>
-    </message>
-    <message>
-        <source>realm</source>
-        <translation>область авторизации</translation>
     </message>
     <message>
         <source>it asks for a password, and none is stored</source>
@@ -483,16 +483,20 @@
         <translation>требует пароль неизвестным способом</translation>
     </message>
     <message>
-        <source>it has another %1 than before</source>
-        <translation>отличается от прежнего: %1</translation>
-    </message>
-    <message>
-        <source>serial number</source>
-        <translation>серийный номер</translation>
-    </message>
-    <message>
-        <source>it tells of no pictures of this channel</source>
+        <source>it has no pictures of this channel</source>
         <translation>не сообщает об изображениях этого канала</translation>
+    </message>
+    <message>
+        <source>it has another endpoint than before</source>
+        <translation>конечная точка отличается от прежней</translation>
+    </message>
+    <message>
+        <source>it has another realm than before</source>
+        <translation>область авторизации отличается от прежней</translation>
+    </message>
+    <message>
+        <source>it has another serial number than before</source>
+        <translation>серийный номер отличается от прежнего</translation>
     </message>
 </context>
 <context>
@@ -513,7 +517,7 @@
         <translation>ответ слишком длинный</translation>
     </message>
     <message>
-        <source>it sends to another place</source>
+        <source>it redirects to another address</source>
         <translation>перенаправляет в другое место</translation>
     </message>
     <message>
@@ -524,7 +528,7 @@
 <context>
     <name>FileName</name>
     <message>
-        <source>The file &quot;%1&quot; cannot be used: its name is no text in the encoding of this system. Rename it.</source>
+        <source>The file &quot;%1&quot; cannot be used: its name is not text in the encoding of this system. Rename it.</source>
         <translation>Файл «%1» нельзя использовать: его имя не является текстом в кодировке этой системы. Переименуйте его.</translation>
     </message>
 </context>
@@ -831,6 +835,18 @@
         <source>Took the details of changes up to number %1 out of the history: %2 lines.</source>
         <translation>Из истории убраны подробности изменений до номера %1: строк %2.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 and %n other(s)</source>
+        <translation>
+            <numerusform>%1 и ещё %n узел</numerusform>
+            <numerusform>%1 и ещё %n узла</numerusform>
+            <numerusform>%1 и ещё %n узлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sealed passwords anew</source>
+        <translation>Пароли зашифрованы заново</translation>
+    </message>
 </context>
 <context>
     <name>LogFinding</name>
@@ -1010,6 +1026,10 @@
         <source>Proxy</source>
         <translation>Прокси</translation>
     </message>
+    <message>
+        <source>Cameras</source>
+        <translation>Камеры</translation>
+    </message>
 </context>
 <context>
     <name>NodeTypes</name>
@@ -1064,7 +1084,7 @@
 <context>
     <name>PictureFetch</name>
     <message>
-        <source>it tells no address of a picture</source>
+        <source>it gives no address for a picture</source>
         <translation>не сообщает адрес изображения</translation>
     </message>
     <message>
@@ -1072,7 +1092,7 @@
         <translation>адрес изображения содержит открытый пароль</translation>
     </message>
     <message>
-        <source>what it sends is no picture</source>
+        <source>what it sends is not a picture</source>
         <translation>то, что оно отправляет, не является изображением</translation>
     </message>
     <message>
@@ -1212,11 +1232,62 @@
         <source>The node database &quot;%1&quot; cannot be read or written. Check that its disk or network drive is connected, and try again.</source>
         <translation>Не удаётся прочитать или записать базу данных узлов «%1». Проверьте, что её диск или сетевой диск подключён, и повторите попытку.</translation>
     </message>
+    <message>
+        <source>Some passwords of the shared database in &quot;%1&quot; cannot be read and are shown empty, because this computer does not have the key that they were sealed with. Click on the state of the connection in the status bar, and give the passphrase of the site. They stay in the database until you give new ones.</source>
+        <translation>Некоторые пароли общей базы данных в «%1» нельзя прочитать, и они показываются пустыми, потому что на этом компьютере нет ключа, которым они были зашифрованы. Щёлкните состояние соединения в строке состояния и укажите парольную фразу объекта. Они остаются в базе данных, пока вы не укажете новые.</translation>
+    </message>
+    <message>
+        <source>Passwords cannot be stored in the shared database in &quot;%1&quot;, because this computer does not have the key of the site. Click on the state of the connection in the status bar, give the passphrase of the site, and try again.</source>
+        <translation>Пароли нельзя сохранить в общей базе данных в «%1», потому что на этом компьютере нет ключа объекта. Щёлкните состояние соединения в строке состояния, укажите парольную фразу объекта и повторите попытку.</translation>
+    </message>
+</context>
+<context>
+    <name>ViewPage</name>
+    <message>
+        <source>Cameras:</source>
+        <translation>Камеры:</translation>
+    </message>
+    <message>
+        <source>In this view:</source>
+        <translation>В этом виде:</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Search cameras</source>
+        <translation>Поиск камер</translation>
+    </message>
+    <message>
+        <source>Cameras that are not in this view</source>
+        <translation>Камеры не из этого вида</translation>
+    </message>
+    <message>
+        <source>Cameras in this view</source>
+        <translation>Камеры этого вида</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Take Out</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Вниз</translation>
+    </message>
 </context>
 <context>
     <name>WsDiscoveryScanner</name>
     <message>
-        <source>no network takes multicast</source>
+        <source>no network supports multicast</source>
         <translation>ни одна сеть не принимает многоадресную рассылку</translation>
     </message>
 </context>
