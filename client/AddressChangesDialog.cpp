@@ -1,8 +1,8 @@
 #include "AddressChangesDialog.h"
 
-#include "SearchText.h"
 #include "WindowSize.h"
 #include "ko/dialogFlags.h"
+#include "model/SearchText.h"
 #include "utils/Retranslation.h"
 
 #include <QDialogButtonBox>

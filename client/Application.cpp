@@ -9,6 +9,7 @@
 #include "Places.h"
 #include "ReadOnlyNotice.h"
 #include "ShareCommand.h"
+#include "SiteKeyPrompt.h"
 #include "SiteOpening.h"
 #include "audit/ProgramLog.h"
 #include "database/HostNodeDB.h"
@@ -101,7 +102,7 @@ bool Application::parse()
     }
     if (!needsWindow() && !m_options->toolkitOption().isEmpty())
         return refuse(
-            QCoreApplication::translate("Application", "%1 is for windows, and none is opened here.")
+            QCoreApplication::translate("Application", "%1 only applies to windows, and none is opened here.")
                 .arg(m_options->toolkitOption()));
     m_database = m_options->value("db");
     return canBeNamed({SiteAddress::isSite(m_database) ? QString() : m_database, m_options->value("export"),
@@ -208,7 +209,11 @@ int Application::runCommandOnSite(SiteOpening* opening)
     m_database = opening->file();
     if (m_database.isEmpty())
         return NoDatabase;
-    opening->catchUp(m_database, commandPatience);
+    const bool isThere = opening->catchUp(m_database, commandPatience);
+    const QString site = KnownSites::find(m_site).id;
+    if (isThere && (m_options->isSet("import") ||
+                    (m_options->isSet("export") && !m_options->isSet("without-passwords"))))
+        SiteKeyPrompt::onLine(m_site, site, m_options->isSet("import"));
     if (!m_options->isSet("import"))
         return runOnFile();
     if (!KnownSites::find(m_site).mayWrite) {
@@ -320,12 +325,12 @@ int Application::report(const CameraSurvey::ImportResult& result) const
         say(stderr, QCoreApplication::translate("Application", "Column \"%1\" is not used.").arg(column));
     if (!result.error.isEmpty())
         say(stderr, result.error);
-    say(stdout,
-        QCoreApplication::translate("Application", "%1 added, %2 updated, %3 unchanged, %4 lines with errors")
-            .arg(result.added)
-            .arg(result.updated)
-            .arg(result.unchanged)
-            .arg(result.badLines.size()));
+    say(stdout, QCoreApplication::translate("Application",
+                                            "%1 added, %2 updated, %3 unchanged, %n line(s) with errors",
+                                            nullptr, int(result.badLines.size()))
+                    .arg(result.added)
+                    .arg(result.updated)
+                    .arg(result.unchanged));
     const bool isPart = result.storeFailed && result.added + result.updated > 0;
     if (!result.error.isEmpty() && !isPart)
         return Failed;

@@ -10,6 +10,15 @@
 
 namespace ko {
 
+namespace {
+
+TranslatableText said(const char* source)
+{
+    return TranslatableText("CameraCheck", source);
+}
+
+} // namespace
+
 CameraCheck::CameraCheck(HostNodeDB& db, QObject* parent)
     : QObject(parent)
     , m_db(db)
@@ -65,7 +74,7 @@ void CameraCheck::read(const QString& id)
         return;
     }
     CameraState state;
-    state.reason = tr("its password cannot be read");
+    state.reason = said(QT_TR_NOOP("its password cannot be read"));
     m_results.insert(id, state);
     emit found({{id, state}});
 }
@@ -105,15 +114,15 @@ void CameraCheck::take(const DeviceReport& report)
     if (isAsChecked(*node)) {
         state.state = report.state;
         state.isOpen = report.isOpen;
-        state.reason =
-            report.isOpen && report.reason.isEmpty() ? tr("it asks for no password") : report.reason;
+        state.reason = report.isOpen && report.reason.isEmpty() ? said(QT_TR_NOOP("it asks for no password"))
+                                                                : report.reason;
         state.time = report.time;
         if (state.state == DeviceReport::OtherDevice)
             state.seen = report.seen;
         if (state.state == DeviceReport::Answers && KnownDevice::hasNews(*node, report.seen))
             m_news.emplace_back(report.id, report.seen);
     } else {
-        state.reason = tr("it was changed while it was checked");
+        state.reason = said(QT_TR_NOOP("it was changed while it was checked"));
     }
     m_results.insert(report.id, state);
     m_untold.insert(report.id, state);

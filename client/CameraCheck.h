@@ -40,7 +40,7 @@ public:
     /// The database outlives the check.
     explicit CameraCheck(HostNodeDB& db, QObject* parent = nullptr);
 
-    /// Each node has one result; what has no address or is no device is skipped. Not while one is running.
+    /// Each node has one result; what has no address or is not a device is skipped. Not while one is running.
     void start(const QStringList& nodes);
 
     /// What was found until then stays.

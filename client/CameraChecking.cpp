@@ -8,7 +8,6 @@
 #include "NodeListView.h"
 #include "PictureTip.h"
 #include "PlainMessageBox.h"
-#include "SearchText.h"
 #include "audit/AuditLog.h"
 #include "audit/NodeLogEntries.h"
 #include "database/HostNodeDB.h"
@@ -16,6 +15,7 @@
 #include "devices/KnownDevice.h"
 #include "devices/NodeTarget.h"
 #include "ko/IPDeviceNode.h"
+#include "model/SearchText.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -114,7 +114,7 @@ void CameraChecking::finish()
         m_offer = {outcome(), tr("&Report..."), [this] { showReport(true); }};
     if (m_offer.take)
         offer(m_offer);
-    // Not over a dialog in which the user is at work, nor taking the keys that he types.
+    // Not over a dialog in which the user is at work, nor taking the keys that are typed.
     if (!isOne && !m_check.results().isEmpty() && !m_isCancelled && !QApplication::activeModalWidget())
         showReport(false);
 }
@@ -123,7 +123,8 @@ void CameraChecking::sayResult()
 {
     const auto result = m_check.results().constBegin();
     const QString name = m_window.database().summary(result.key()).name;
-    const QString reason = result->reason.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(result->reason);
+    const QString reason =
+        result->reason.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(result->reason.text());
     m_window.say(tr("%1: %2").arg(name, CameraStates::text(result->state)) + reason);
 }
 
@@ -177,7 +178,7 @@ CameraSurvey::MoreColumns CameraChecking::columns() const
         QStringList{QStringLiteral("state"), QStringLiteral("reason"), QStringLiteral("checked")};
     columns.cells = [this](const QString& id) {
         const CameraState state = m_model.stateOf(id);
-        return QStringList{CameraStates::text(state.state), state.reason,
+        return QStringList{CameraStates::text(state.state), state.reason.text(),
                            state.time.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))};
     };
     return columns;
@@ -187,7 +188,8 @@ QStringList CameraChecking::names(const CameraCheck::States& others) const
 {
     QStringList names;
     for (auto other = others.begin(); other != others.end(); ++other)
-        names.append(m_window.database().summary(other.key()).name + QStringLiteral(": ") + other->reason);
+        names.append(m_window.database().summary(other.key()).name + QStringLiteral(": ") +
+                     other->reason.text());
     std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
         return SearchText::sortKey(a) < SearchText::sortKey(b); // "Camera 2" before "Camera 10"
     });

@@ -28,6 +28,9 @@ public:
     /// The window owns it.
     CameraChecking(MainWindow& window, NodeListModel& model);
 
+    /// In the status bar, while there is something to say.
+    CheckPanel* panel() const { return m_panel; }
+
     /// The selected nodes, or all when none is selected.
     void check();
 

@@ -81,9 +81,9 @@ QString text(DeviceReport::State state)
 QString details(const CameraState& state)
 {
     if (!state.time.isValid())
-        return state.reason;
+        return state.reason.text();
     const QString time = QLocale().toString(state.time.toLocalTime(), QLocale::ShortFormat);
-    return state.reason.isEmpty() ? time : time + QLatin1String(": ") + state.reason;
+    return state.reason.isEmpty() ? time : time + QLatin1String(": ") + state.reason.text();
 }
 
 QColor color(DeviceReport::State state, const QPalette& palette)

@@ -12,10 +12,10 @@ namespace ko {
 struct CameraState
 {
     DeviceReport::State state = DeviceReport::NotChecked;
-    QString reason;      ///< in words, may be empty
-    QDateTime time;      ///< invalid when it was not checked
-    bool isOpen = false; ///< it wanted no password, so none was tried
-    DeviceIdentity seen; ///< of another device than before
+    TranslatableText reason; ///< may be empty
+    QDateTime time;          ///< invalid when it was not checked
+    bool isOpen = false;     ///< it wanted no password, so none was tried
+    DeviceIdentity seen;     ///< of another device than before
 };
 
 namespace CameraStates {

@@ -65,7 +65,7 @@ void ManyNodes::begin()
     if (m_isShown)
         m_db.beginDraft(cause);
     else
-        m_db.enter(cause);
+        m_db.enter(cause, ScopeStoring::AtEnd);
 }
 
 void ManyNodes::end(bool isAccepted, int handled)
@@ -86,7 +86,7 @@ std::optional<QStringList> ManyNodes::run(QDialog& dialog)
     while (!changed && dialog.exec() == QDialog::Accepted)
         changed = m_isShown ? showDraft(dialog) : m_nodes.mid(0, m_handled);
     if (changed)
-        m_db.flush(); // on disk when the dialog has closed
+        m_db.flush(StoreWait::InEventLoop); // on disk when the dialog has closed
     return changed;
 }
 

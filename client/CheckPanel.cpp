@@ -57,7 +57,7 @@ void CheckPanel::retranslate()
 {
     m_bar->setAccessibleName(tr("Cameras checked"));
     m_cancel->setText(tr("Cance&l"));
-    m_close->setAccessibleName(tr("Put this line away"));
+    m_close->setAccessibleName(tr("Hide this message"));
     m_close->setToolTip(m_close->accessibleName());
 }
 

@@ -1,6 +1,6 @@
 #include "CheckReportModel.h"
 
-#include "SearchText.h"
+#include "model/SearchText.h"
 
 #include <QColor>
 #include <QGuiApplication>
@@ -104,7 +104,7 @@ QString CheckReportModel::text(const CheckedCamera& camera, int column)
     case StateColumn:
         return CameraStates::text(camera.state.state);
     case ReasonColumn:
-        return camera.state.reason;
+        return camera.state.reason.text();
     default:
         return QLocale().toString(camera.state.time.toLocalTime(), QLocale::ShortFormat);
     }
@@ -128,7 +128,7 @@ QVariant CheckReportModel::data(const QModelIndex& index, int role) const
     if (role == Qt::DisplayRole)
         return text(shown, index.column()).replace(QLatin1Char('\n'), QLatin1Char(' '));
     if (role == Qt::ToolTipRole && index.column() == ReasonColumn)
-        return QStringLiteral("<span>%1</span>").arg(shown.state.reason.toHtmlEscaped());
+        return QStringLiteral("<span>%1</span>").arg(shown.state.reason.text().toHtmlEscaped());
     if (role != Qt::ForegroundRole || index.column() != StateColumn)
         return QVariant();
     const QColor color = CameraStates::color(shown.state.state, QGuiApplication::palette());

@@ -4,6 +4,7 @@
 #include "MainWindow.h"
 #include "PlainMessageBox.h"
 #include "SharingStatus.h"
+#include "SiteKeyPrompt.h"
 #include "SiteSharing.h"
 #include "audit/AuditLog.h"
 #include "audit/HistoryLogEntry.h"
@@ -32,7 +33,7 @@ namespace ClientWindow {
 
 namespace {
 
-/// Once for each file: he who knows need not be told at every start.
+/// Once for each file: there is no need to repeat it at every start.
 void warnAboutNetwork(const QString& file, QWidget* parent)
 {
     QSettings settings;
@@ -43,10 +44,9 @@ void warnAboutNetwork(const QString& file, QWidget* parent)
     settings.setValue(key, known << file);
     PlainMessageBox::ask(
         QMessageBox::Warning, parent, QCoreApplication::translate("Application", "Node Database"),
-        QCoreApplication::translate("Application",
-                                    "The node database \"%1\" lies on a network drive. Two programs that "
-                                    "use it there at the same time may damage it. Move it to a disk of "
-                                    "this computer.")
+        QCoreApplication::translate(
+            "Application", "The node database \"%1\" is on a network drive. Two programs that use it there "
+                           "at the same time may damage it. Move it to a disk of this computer.")
             .arg(QDir::toNativeSeparators(file)));
 }
 
@@ -76,6 +76,7 @@ bool run(HostNodeDB& db, const QString& site, const QStringList& problems, int* 
     if (sharing) {
         window.setDatabaseName(SiteAddress::shown(site));
         window.statusBar()->addPermanentWidget(new SharingStatus(db, *sharing, &window));
+        SiteKeyPrompt::watch(db, *sharing, &window);
         QObject::connect(sharing.get(), &SiteSharing::newCopyWanted, &window, [next] {
             next->newCopy = true;
             QApplication::exit();

@@ -5,6 +5,7 @@
 #include "DatabaseCommands.h"
 #include "FillInDialog.h"
 #include "LanguageMenu.h"
+#include "LineIcons.h"
 #include "MainWindow.h"
 #include "MnemonicText.h"
 #include "NodeCommands.h"
@@ -51,7 +52,7 @@ struct Commands::Command
     const char* name; ///< object name of the action
     const char* text; ///< empty: named by who does it
     const char* tip;
-    const char* keys; ///< parted by "; "
+    const char* keys; ///< separated by "; "
     const char* icon; ///< of the desktop's theme
     Needs needs;
     int places;
@@ -72,8 +73,8 @@ const Commands::Command Commands::all[] = {
      &DatabaseCommands::backUp},
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionRestore",
      QT_TRANSLATE_NOOP("MainWindow", "Res&tore..."),
-     QT_TRANSLATE_NOOP("MainWindow", "Gives the node database the content of a backup"), "", "", Nothing,
-     Edits, &DatabaseCommands::restore},
+     QT_TRANSLATE_NOOP("MainWindow", "Restores the node database from a backup"), "", "", Nothing, Edits,
+     &DatabaseCommands::restore},
     {QT_TRANSLATE_NOOP("MainWindow", "&File"), "actionImport", QT_TRANSLATE_NOOP("MainWindow", "&Import..."),
      QT_TRANSLATE_NOOP("MainWindow", "Adds the cameras of a site survey (CSV)"), "", "document-import",
      Nothing, AfterLine | Edits, [](MainWindow& window) { window.importCameras(); }},
@@ -192,12 +193,12 @@ const Commands::Command Commands::all[] = {
      [](MainWindow& window) { window.checking().check(); }},
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionAcceptDevices",
      QT_TRANSLATE_NOOP("MainWindow", "&Accept as This Camera..."),
-     QT_TRANSLATE_NOOP("MainWindow", "Another device than before is this camera from now on"), "", "",
+     QT_TRANSLATE_NOOP("MainWindow", "Treats the device that answers now as this camera from now on"), "", "",
      SomeNodes, InList | Edits, [](MainWindow& window) { window.checking().acceptDevices(); }},
     {QT_TRANSLATE_NOOP("MainWindow", "Net&work"), "actionAllowClearPasswords",
      QT_TRANSLATE_NOOP("MainWindow", "A&llow Clear Password..."),
      QT_TRANSLATE_NOOP("MainWindow",
-                       "Cameras that take it in no other way are sent the password for all to read"),
+                       "Sends the password unencrypted to cameras that accept it in no other way"),
      "", "", SomeNodes, InList | Edits, [](MainWindow& window) { window.checking().allowClearPasswords(); }},
 
     {QT_TRANSLATE_NOOP("MainWindow", "&View"), "actionColumns",
@@ -273,7 +274,7 @@ QMenu* Commands::menuOf(const char* name) const
 
 QAction* Commands::createAction(const Command& command)
 {
-    QAction* action = new QAction(QIcon::fromTheme(QLatin1String(command.icon)), QString(), &m_window);
+    QAction* action = new QAction(themeIcon(QLatin1String(command.icon)), QString(), &m_window);
     action->setObjectName(QLatin1String(command.name));
     if (command.isOn) {
         action->setCheckable(true);

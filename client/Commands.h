@@ -27,7 +27,7 @@ public:
     /// Names everything in the language that the program has now.
     void retranslate();
 
-    /// Enables what can be done while so many nodes are selected.
+    /// Enables what can be done while this many nodes are selected.
     void setSelected(int nodes);
 
     /// By its object name; there must be one.

@@ -97,7 +97,7 @@ void backUp(MainWindow& window)
         QStringLiteral("%1-%2.kodb")
             .arg(database.completeBaseName(), QDate::currentDate().toString(Qt::ISODate)),
         filter());
-    if (file.isEmpty() || !window.database().flush())
+    if (file.isEmpty() || !window.database().flush(StoreWait::InEventLoop))
         return; // whoever is told that storing failed knows
     StoreError error;
     bool isWritten = false;
@@ -116,7 +116,8 @@ void restore(MainWindow& window)
         return;
     }
     const QString backup = FileDialogs::openFile(&window, Texts::tr("Restore a Backup"), filter());
-    if (backup.isEmpty() || !agreesToRestore(window, backup) || !window.database().flush())
+    if (backup.isEmpty() || !agreesToRestore(window, backup) ||
+        !window.database().flush(StoreWait::InEventLoop))
         return;
     StoreError error;
     bool isRestored = false;
@@ -125,7 +126,7 @@ void restore(MainWindow& window)
     window.database().syncForeignChanges();
     window.applyChanges();
     if (isRestored)
-        window.say(Texts::tr("The database has the content of \"%1\" now.").arg(shown(backup)));
+        window.say(Texts::tr("The database was restored from \"%1\".").arg(shown(backup)));
     else
         warn(window, error.message);
 }

@@ -51,8 +51,8 @@ QString offerText(const QString& file, const Found& found)
 {
     QStringList lines;
     lines.append(found.saved().isEmpty()
-                     ? Texts::tr("Nothing of it can be read.")
-                     : QCoreApplication::translate("DatabaseRecovery", "%n node(s) of it can still be read.",
+                     ? Texts::tr("Nothing in it can be read.")
+                     : QCoreApplication::translate("DatabaseRecovery", "%n node(s) in it can still be read.",
                                                    nullptr, int(found.salvage->nodeCount())));
     lines.append(found.backup.isEmpty()
                      ? Texts::tr("There is no good backup.")

@@ -64,7 +64,7 @@ void DeviceFilling::take(const DeviceReport& report)
     if (node.null()) {
         asked.problem = tr("it was removed meanwhile");
     } else if (report.state != DeviceReport::Answers) {
-        asked.problem = report.reason.isEmpty() ? tr("it was not asked") : report.reason;
+        asked.problem = report.reason.isEmpty() ? tr("it was not asked") : report.reason.text();
     } else {
         asked.seen = report.seen;
         asked.facts = NodeFacts::changes(*node, report.facts);
@@ -106,11 +106,11 @@ int DeviceFilling::store(const QVector<FillInRow>& rows)
         for (const QString& id : std::as_const(m_nodes))
             changed += chosen.contains(id) && storeNode(id, chosen.value(id)) ? 1 : 0;
     }
-    m_db.flush(); // on disk when the dialog has closed
+    m_db.flush(StoreWait::InEventLoop); // on disk when the dialog has closed
     return changed;
 }
 
-/// What was told of one place says nothing about another one, and what somebody else wrote meanwhile is his.
+/// What was told of one place says nothing about another one, and what somebody else wrote meanwhile stays.
 bool DeviceFilling::storeNode(const QString& id, const QVector<NodeFact>& facts)
 {
     const Asked asked = m_asked.value(id);

@@ -47,6 +47,14 @@ QStringList namesOf(const HostNodeDB& db, const QStringList& ids)
     return names;
 }
 
+/// The dialog names the first of them.
+void sayHowMany(QDialog& dialog, const QStringList& devices)
+{
+    if (devices.size() > 1)
+        dialog.setWindowTitle(
+            Texts::tr("%1 (%n device(s))", nullptr, int(devices.size())).arg(dialog.windowTitle()));
+}
+
 /// Whether the camera's folder on a file server can be named.
 bool hasExtension(const HostNodeDB& db, const QString& id)
 {
@@ -85,8 +93,8 @@ Answer askAbout(const QStringList& names, bool areAll, QWidget* parent)
     return pressed == static_cast<const QAbstractButton*>(all) ? Answer::All : Answer::Cancel;
 }
 
-/// Takes the cameras out of the list that would get no folder of their own, if the user wants that. False
-/// when he wants nothing done.
+/// Takes the cameras out of the list that would get no folder of their own, if the user wants that. False if
+/// nothing is to be done.
 bool agreeOnCameras(HostNodeDB& db, QStringList* cameras, QWidget* parent)
 {
     for (;;) {
@@ -144,11 +152,12 @@ QString editRecordings(HostNodeDB& db, const QStringList& devices, QWidget* pare
     std::copy_if(devices.begin(), devices.end(), std::back_inserter(cameras),
                  [&db](const QString& id) { return db.summary(id).type == IPDeviceType; });
     if (cameras.isEmpty())
-        return Texts::tr("Only IP devices can be set together. Select one of the others at a time.");
+        return Texts::tr("Only IP cameras can be set together. Select one of the others at a time.");
     if (!agreeOnCameras(db, &cameras, parent))
         return QString();
     ForMany<RecordingFolderMassAssignmentDialog> dialog(db, cameras, Purpose::Recording, parent, cameras,
                                                         dialogFlags(false));
+    sayHowMany(dialog, cameras);
     const std::optional<QStringList> changed = dialog.run();
     if (!changed)
         return QString();
@@ -177,6 +186,7 @@ QString editCredentials(HostNodeDB& db, const QStringList& devices, QWidget* par
         return QString();
     ForMany<NodeAuthenticateDialog> dialog(db, devices, Purpose::Credentials, parent, devices,
                                            dialogFlags(false));
+    sayHowMany(dialog, devices);
     const std::optional<QStringList> changed = dialog.run();
     if (!changed)
         return QString();

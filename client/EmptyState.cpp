@@ -47,7 +47,8 @@ void EmptyState::setCounts(int nodes, int shown)
 {
     m_nodes = nodes;
     m_shown = shown;
-    m_text->setText(nodes == 0 ? tr("There is nothing in this database yet.") : tr("No node is like that."));
+    m_text->setText(nodes == 0 ? tr("There is nothing in this database yet.")
+                               : tr("No node matches the search."));
     for (const Way& way : std::as_const(m_ways))
         way.button->setVisible(nodes == 0);
     m_showAll->setVisible(nodes > 0);

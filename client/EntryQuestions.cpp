@@ -116,10 +116,10 @@ bool EntryQuestions::agrees(const Doubts& doubts, NodeDialog& dialog)
     for (const Doubt& doubt : doubts)
         text += doubt.text + QLatin1Char('\n');
     PlainMessageBox box(QMessageBox::Question, dialog.windowTitle(),
-                        text + QLatin1Char('\n') + Texts::tr("Is it to be stored so?"), QMessageBox::NoButton,
+                        text + QLatin1Char('\n') + Texts::tr("Store it anyway?"), QMessageBox::NoButton,
                         &dialog);
     box.setObjectName(QStringLiteral("entryQuestionBox"));
-    const QPushButton* store = box.addButton(Texts::tr("&Store It So"), QMessageBox::AcceptRole);
+    const QPushButton* store = box.addButton(Texts::tr("&Store Anyway"), QMessageBox::AcceptRole);
     QPushButton* back = box.addButton(Texts::tr("&Go On Editing"), QMessageBox::RejectRole);
     box.setDefaultButton(back);
     box.setEscapeButton(back);

@@ -72,7 +72,7 @@ void FillInDialog::retranslate()
     setWindowTitle(tr("Fill In"));
     m_replace->setText(tr("&Replace also what may have been entered by hand"));
     m_progress->setAccessibleName(tr("Devices that were asked"));
-    m_table->setAccessibleName(tr("What the devices told"));
+    m_table->setAccessibleName(tr("What the devices said"));
     if (m_isTold)
         showWords();
     else
@@ -121,9 +121,9 @@ void FillInDialog::showWords()
     m_hint->setText(
         m_model.rows().isEmpty()
             ? tr("There is nothing to fill in.")
-            : tr("This is what the devices tell and what is not stored yet. OK stores what is ticked."));
+            : tr("This is what the devices say and what is not stored yet. OK stores what is ticked."));
     const QStringList silent = m_filling.silent();
-    m_silent->setText(tr("%n device(s) told nothing:", nullptr, int(silent.size())) + QLatin1Char('\n') +
+    m_silent->setText(tr("%n device(s) said nothing:", nullptr, int(silent.size())) + QLatin1Char('\n') +
                       listOfNames(silent));
 }
 

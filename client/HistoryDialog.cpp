@@ -6,6 +6,7 @@
 #include "MnemonicText.h"
 #include "PlainTable.h"
 #include "PutBackDialog.h"
+#include "ReadAlterations.h"
 #include "ReadOnlyNotice.h"
 #include "WindowSize.h"
 #include "audit/ChangeSetTitle.h"
@@ -193,14 +194,8 @@ void HistoryDialog::showState()
 void HistoryDialog::putBackSets()
 {
     const QVector<ChangeSetRow> sets = selectedSets();
-    QVector<Alteration> alterations;
-    for (const ChangeSetRow& row : sets) {
-        const std::optional<ChangeSet> set = m_db.history().changeSet(row.number);
-        if (!set)
-            return; // what cannot be read is said by itself
-        alterations += Alterations::of(*set);
-    }
-    putBack(alterations, sets);
+    if (const auto alterations = readAlterations(m_db, sets, this))
+        putBack(*alterations, sets);
 }
 
 void HistoryDialog::putBackLines()
@@ -215,14 +210,14 @@ void HistoryDialog::putBackLines()
     sets.erase(std::remove_if(sets.begin(), sets.end(),
                               [&things](const ChangeSetRow& row) { return !things.contains(row.number); }),
                sets.end());
-    QVector<Alteration> alterations;
+    QVector<Alteration> chosen;
     for (const ChangeSetRow& row : std::as_const(sets)) {
-        const std::optional<ChangeSet> set = m_db.history().changeSet(row.number);
-        if (!set)
+        const auto all = readAlterations(m_db, {row}, this);
+        if (!all)
             return;
-        alterations += Alterations::selected(Alterations::of(*set), things.value(row.number));
+        chosen += Alterations::selected(*all, things.value(row.number));
     }
-    putBack(alterations, sets);
+    putBack(chosen, sets);
 }
 
 void HistoryDialog::putBack(const QVector<Alteration>& alterations, const QVector<ChangeSetRow>& sets)

@@ -55,7 +55,7 @@ bool HistoryExport::writeAll(const HistoryFilter& filter, qint64 newest, CsvWrit
         titles.append(AlterationModel::title(column));
     if (!writer.writeRecord(titles))
         return false;
-    SurveyProgress progress(tr("Exporting the history..."), parent);
+    SurveyProgress progress(tr("Export History"), tr("Exporting the history..."), parent);
     const auto goOn = progress.callback();
     HistoryPage page;
     page.before = newest != 0 ? newest + 1 : std::numeric_limits<qint64>::max();

@@ -14,7 +14,7 @@ class QLineEdit;
 
 namespace ko {
 
-/// The fields in which a user says which change sets he looks for.
+/// The fields that say which change sets the user looks for.
 class HistoryFilterBar : public QWidget
 {
     Q_OBJECT

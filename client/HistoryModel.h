@@ -55,7 +55,7 @@ private:
     QTimer m_timer;
     qint64 m_before = 0;
     int m_wanted = 0;   ///< rows
-    int m_portion = 16; ///< so many change sets are looked at in a few milliseconds
+    int m_portion = 16; ///< this many change sets are looked at in a few milliseconds
     bool m_isAtEnd = true;
 };
 

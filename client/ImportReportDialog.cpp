@@ -43,9 +43,10 @@ QString summary(const CameraSurvey::ImportResult& result)
         lines.append(result.error);
     if (result.cancelled)
         lines.append(ImportReportDialog::tr("The import was cancelled. What was added until then stays."));
-    lines.append(ImportReportDialog::tr("%1 added, %2 updated, %3 unchanged, %4 lines with errors.")
+    lines.append(ImportReportDialog::tr("%1 added, %2 updated, %3 unchanged, %n line(s) with errors.",
+                                        nullptr, int(result.badLines.size()))
                      .arg(locale.toString(result.added), locale.toString(result.updated),
-                          locale.toString(result.unchanged), locale.toString(int(result.badLines.size()))));
+                          locale.toString(result.unchanged)));
     return lines.join(QLatin1String("\n\n"));
 }
 
@@ -53,14 +54,14 @@ QString forecast(const CameraSurvey::ImportResult& result)
 {
     const QLocale locale;
     QStringList lines(ImportReportDialog::tr(
-                          "Importing this list would add %1 devices, change %2 and leave %3 as they are.")
-                          .arg(locale.toString(result.added), locale.toString(result.updated),
-                               locale.toString(result.unchanged)));
+                          "Importing this list would add %n device(s), change %1 and leave %2 as they are.",
+                          nullptr, result.added)
+                          .arg(locale.toString(result.updated), locale.toString(result.unchanged)));
     if (!result.badLines.isEmpty())
         lines.append(ImportReportDialog::tr("%n line(s) with errors would be left out.", nullptr,
                                             int(result.badLines.size())));
     if (!result.doubtfulLines.isEmpty())
-        lines.append(ImportReportDialog::tr("%n line(s) may be meant otherwise.", nullptr,
+        lines.append(ImportReportDialog::tr("%n line(s) may be meant differently.", nullptr,
                                             int(result.doubtfulLines.size())));
     return lines.join(QLatin1String("\n\n"));
 }
@@ -79,6 +80,7 @@ ImportReportDialog::ImportReportDialog(const CameraSurvey::ImportResult& result,
     summaryLabel->setObjectName(QStringLiteral("summaryLabel"));
     summaryLabel->setTextFormat(Qt::PlainText);
     summaryLabel->setWordWrap(true);
+    summaryLabel->setMinimumWidth(60 * fontMetrics().averageCharWidth()); // or it would wrap within the title
     layout->addWidget(summaryLabel);
 
     const QString text = details(result);

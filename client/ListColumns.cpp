@@ -2,10 +2,10 @@
 
 #include "NodeListModel.h"
 #include "Places.h"
-#include "SearchText.h"
 #include "devices/NodeTarget.h"
 #include "drivers/NodeTypes.h"
 #include "ko/PropertyKeys.h"
+#include "model/SearchText.h"
 
 #include <QColor>
 #include <QGuiApplication>
@@ -37,7 +37,13 @@ const struct
     {PropertyKeys::Channel, QT_TRANSLATE_NOOP("NodeListModel", "Channel")},
     {Places::Location, QT_TRANSLATE_NOOP("NodeListModel", "Location")},
     {Places::Tags, QT_TRANSLATE_NOOP("NodeListModel", "Tags")},
+    {ListColumns::LastChange, QT_TRANSLATE_NOOP("NodeListModel", "Last Change")},
 };
+
+QString field(const QString& title)
+{
+    return SearchText::folded(title).remove(QLatin1Char(' '));
+}
 
 /// Rows are one line high; a name may hold line breaks.
 QString inOneLine(QString text)
@@ -65,14 +71,14 @@ QVector<ListColumns::PropertyColumn> ListColumns::propertyColumns()
 {
     QVector<PropertyColumn> columns;
     for (const auto& column : known)
-        columns.append({column.key, NodeListModel::tr(column.title)});
+        columns.append({column.key, NodeListModel::tr(column.title), column.title});
     const QVector<NodeProperty> declared = NodeTypes::properties(IPDeviceType);
     for (const NodeProperty& property : declared) {
         const bool isListed = std::any_of(columns.begin(), columns.end(), [&](const PropertyColumn& column) {
             return column.key == property.key;
         });
         if (property.column && !isListed)
-            columns.append({property.key, QString::fromUtf8(property.column)});
+            columns.append({property.key, QString::fromUtf8(property.column), property.column});
     }
     return columns;
 }
@@ -104,7 +110,17 @@ QStringList ListColumns::fields() const
 {
     QStringList fields;
     for (int column = 0; column < count(); ++column)
-        fields.append(SearchText::folded(title(column)).remove(QLatin1Char(' ')));
+        fields.append(field(title(column)));
+    return fields;
+}
+
+QStringList ListColumns::neutralFields() const
+{
+    QStringList fields;
+    for (const char* title : titles)
+        fields.append(field(QLatin1String(title)));
+    for (const PropertyColumn& column : m_properties)
+        fields.append(field(QString::fromUtf8(column.source)));
     return fields;
 }
 

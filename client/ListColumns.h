@@ -13,13 +13,16 @@ namespace ko {
 
 /// The columns of the list, and the texts of their cells.
 ///
-/// Those from NodeListModel::FirstPropertyColumn on show one property of the nodes each. They are empty until
-/// they are given their texts: most of the time nobody looks at them.
+/// Those from NodeListModel::FirstPropertyColumn on show one property of the nodes each, or their last
+/// change. They are empty until they are given their texts: most of the time nobody looks at them.
 class ListColumns
 {
 public:
     typedef std::function<QString(const NodeSummary&)> RecordingText;
     typedef QHash<QString, QString> Texts; ///< by the identifier of the node
+
+    /// The key of the column that shows no property, but when a node was changed last, and by whom.
+    static constexpr QLatin1String LastChange{"@history", 8};
 
     explicit ListColumns(RecordingText recordingText);
 
@@ -28,6 +31,9 @@ public:
 
     /// By which a search names the columns.
     QStringList fields() const;
+
+    /// The same in no language, for a search that is kept.
+    QStringList neutralFields() const;
     QString text(const NodeSummary& node, int column) const;
 
     /// For Qt::ForegroundRole and Qt::ToolTipRole.
@@ -59,6 +65,7 @@ private:
     {
         QString key;
         QString title;
+        const char* source; ///< of the title
     };
     static QVector<PropertyColumn> propertyColumns();
     const PropertyColumn* propertyColumn(int column) const;

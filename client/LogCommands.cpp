@@ -65,8 +65,8 @@ int thin(const QString& database, int days)
         ClientWindow::logThinned(*db, *thinned);
     }
     if (thinned->isAltered)
-        say(stderr, QCoreApplication::translate("Application", "Not any further: the history was altered. "
-                                                               "--verify-log names what."));
+        say(stderr, QCoreApplication::translate(
+                        "Application", "Stopped: the history was altered. --verify-log says where."));
     return thinned->isAltered ? Application::SomeLinesBad : Application::Good;
 }
 

@@ -11,7 +11,7 @@ namespace LogCommands {
 /// Looks whether anybody has altered them, and names what.
 int verify(const QString& database);
 
-/// Takes out details of the history that are older than so many days.
+/// Takes out details of the history that are older than this many days.
 int thin(const QString& database, int days);
 
 } // namespace LogCommands

@@ -1,29 +1,28 @@
 #include "MainWindow.h"
 
 #include "CameraChecking.h"
+#include "CheckPanel.h"
 #include "Commands.h"
+#include "DetailsDock.h"
 #include "EmptyState.h"
-#include "EntryQuestions.h"
 #include "EnvironmentMenu.h"
 #include "EnvironmentNotice.h"
-#include "FocusMark.h"
+#include "FittingToolBar.h"
 #include "LogNotice.h"
-#include "ManualKey.h"
-#include "MessageHints.h"
-#include "Mnemonics.h"
 #include "NodeCommands.h"
 #include "NodeListModel.h"
 #include "NodeListView.h"
 #include "PlaceDock.h"
 #include "PropertyColumns.h"
 #include "ReadOnlyNotice.h"
+#include "SavedSearchMenu.h"
 #include "ScannerStatus.h"
+#include "StatusRoom.h"
 #include "StoreNotice.h"
 #include "SurveyCommands.h"
 #include "UndoCommands.h"
 #include "UndoNotice.h"
-#include "UnsavedEdits.h"
-#include "WheelGuard.h"
+#include "WindowHelpers.h"
 #include "WindowSize.h"
 #include "database/HostNodeDB.h"
 #include "discovery/DeviceIntake.h"
@@ -42,7 +41,6 @@
 #include <QSettings>
 #include <QSignalBlocker>
 #include <QStatusBar>
-#include <QToolBar>
 
 #include <algorithm>
 
@@ -80,7 +78,8 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_search(new QLineEdit(this))
     , m_typesLabel(new QLabel(this))
     , m_types(new QComboBox(this))
-    , m_toolBar(new QToolBar(this))
+    , m_saved(new SavedSearchMenu(*m_search, *m_types, m_model->columns(), this))
+    , m_toolBar(new FittingToolBar(this))
     , m_empty(new EmptyState(m_view->viewport()))
     , m_counts(new QLabel(this))
     , m_commands(new Commands(*this))
@@ -89,26 +88,22 @@ MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     , m_environment(new EnvironmentNotice(db, statusBar()))
     , m_store(new StoreNotice(db, this))
     , m_undoing(new UndoCommands(*this, m_commands->action("actionUndo"), m_commands->action("actionRedo")))
-    , m_undoNotice(new UndoNotice(m_commands->action("actionUndo"), statusBar()))
+    , m_undoNotice(new UndoNotice(*m_undoing, m_commands->action("actionUndo"), statusBar()))
     , m_places(new PlaceDock(*this, *m_model, *m_commands->menuOf("actionColumns")))
 {
     setObjectName(QStringLiteral("MainWindow"));
     setWindowIcon(NodeTypes::icon(IPDeviceType));
-    new WheelGuard(this);
-    new UnsavedEdits(this);
-    new EntryQuestions(this);
-    new MessageHints(this);
-    new FocusMark(this);
-    new Mnemonics(this);
-    new ManualKey(this);
+    WindowHelpers::install(*this);
     createList();
+    m_details = new DetailsDock(*this, *m_model, *m_commands->menuOf("actionColumns"));
     createEmptyState();
     createSearch();
     createTypes();
     createToolBar();
-    statusBar()->addPermanentWidget(new LogNotice(m_db, this));
-    statusBar()->addPermanentWidget(new ScannerStatus(m_db, this));
-    statusBar()->addPermanentWidget(m_counts);
+    auto* scanners = new ScannerStatus(m_db, this);
+    for (QWidget* part : std::initializer_list<QWidget*>{new LogNotice(m_db, this), scanners, m_counts})
+        statusBar()->addPermanentWidget(part);
+    new StatusRoom(statusBar(), {scanners, m_counts, m_checking->panel()});
 
     connect(&m_frame, &OncePerFrame::due, this, &MainWindow::applyChanges);
     connect(&m_db, &NodeDB::nodeInserted, this, &MainWindow::nodeChanged);
@@ -193,6 +188,12 @@ void MainWindow::createSearch()
     m_search->addAction(down);
     connect(m_search, &QLineEdit::returnPressed, m_view, &NodeListView::enter);
 
+    connect(m_saved, &SavedSearchMenu::chosen, this, [this](const SavedSearch& search) {
+        find(search.text);
+        m_types->setCurrentIndex(std::max(0, m_types->findData(int(search.type))));
+    });
+    m_commands->menuOf("actionColumns")->addMenu(m_saved);
+
     QAction* find = new QAction(this);
     find->setShortcut(QKeySequence::Find);
     connect(find, &QAction::triggered, m_search, [this] {
@@ -228,10 +229,10 @@ void MainWindow::createToolBar()
     addToolBar(m_toolBar);
     m_toolBar->setObjectName(QStringLiteral("toolBar"));
     m_toolBar->setMovable(false);
-    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     m_commands->fill(*m_toolBar);
     m_toolBar->addSeparator();
     m_toolBar->addWidget(m_search);
+    m_toolBar->addWidget(m_saved->createButton(m_toolBar));
     m_typesLabel->setBuddy(m_types); // by which a screen reader names the box
     m_toolBar->addWidget(m_typesLabel);
     m_toolBar->addWidget(m_types);
@@ -268,6 +269,7 @@ void MainWindow::applyChanges()
     m_properties->take(changed);
     m_model->apply(changed, removed);
     m_places->take(changed, removed);
+    m_details->take(changed);
     updateStatus();
 }
 
@@ -281,7 +283,7 @@ void MainWindow::updateStatus()
 {
     const int selected = m_view->selectedCount();
     const QLocale locale;
-    m_counts->setText(tr("%1 devices, %2 other nodes; %3 shown, %4 selected")
+    m_counts->setText(tr("Devices: %1, other nodes: %2; shown: %3, selected: %4")
                           .arg(locale.toString(m_model->deviceCount()),
                                locale.toString(m_model->nodeCount() - m_model->deviceCount()),
                                locale.toString(m_model->rowCount()), locale.toString(selected)));
@@ -366,12 +368,11 @@ void MainWindow::restoreState()
     const QSettings settings;
     if (!restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray()))
         resizeWithinScreen(*this, QSize(900, 600));
-    m_view->header()->resizeSection(NodeListModel::NameColumn, 250);
+    QMainWindow::restoreState(settings.value(QStringLiteral("window/docks")).toByteArray());
     const int more = std::max(0, widestType() - 130);
-    m_view->header()->resizeSection(NodeListModel::TypeColumn, 130 + more);
-    m_view->header()->resizeSection(NodeListModel::AddressColumn, 150);
-    m_view->header()->resizeSection(NodeListModel::RecordingColumn, 150);
-    m_view->header()->resizeSection(NodeListModel::StateColumn, std::max(100, 180 - more)); // has the rest
+    const int widths[] = {250, 130 + more, 150, 150, std::max(100, 180 - more)}; // State has the rest
+    for (int column = 0; column < int(std::size(widths)); ++column)
+        m_view->header()->resizeSection(column, widths[column]);
     m_view->restoreColumns(settings);
     m_model->sort(m_view->header()->sortIndicatorSection(), m_view->header()->sortIndicatorOrder());
 }
@@ -390,6 +391,7 @@ void MainWindow::saveState() const
 {
     QSettings settings;
     settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("window/docks"), QMainWindow::saveState());
     m_view->saveColumns(settings);
 }
 

@@ -18,6 +18,7 @@ namespace ko {
 
 class CameraChecking;
 class Commands;
+class DetailsDock;
 class EmptyState;
 class EnvironmentNotice;
 class HostNodeDB;
@@ -25,6 +26,7 @@ class NodeListModel;
 class NodeListView;
 class PlaceDock;
 class PropertyColumns;
+class SavedSearchMenu;
 class StoreNotice;
 class SurveyCommands;
 class UndoCommands;
@@ -107,6 +109,7 @@ private:
     QLineEdit* const m_search;
     QLabel* const m_typesLabel;
     QComboBox* const m_types;
+    SavedSearchMenu* const m_saved;
     QToolBar* const m_toolBar;
     EmptyState* const m_empty;
     QLabel* const m_counts;
@@ -118,6 +121,7 @@ private:
     UndoCommands* const m_undoing;
     UndoNotice* const m_undoNotice;
     PlaceDock* const m_places;
+    DetailsDock* m_details = nullptr; ///< needs the list
     QString m_next;
     QString m_name;          ///< empty: that of the file
     QSet<QString> m_changed; ///< taken into the list together

@@ -26,6 +26,9 @@ const struct
     const char* place;
 } ofWindows[] = {
     {"MainWindow", first},
+    {"SavedSearchesDialog", "start.md#searching"},
+    {"saveSearchDialog", "start.md#searching"},
+    {"removeSearchBox", "start.md#searching"},
     {"ManualWindow", "index.md#reading-this-manual"},
     {"AddNodeDialog", "nodes.md#adding"},
     {"EditNodeDialog", "nodes.md#editing"},
@@ -60,6 +63,7 @@ const struct
     {"MomentWindow", "moment.md"},
     {"ConnectDialog", "sharing.md#connecting"},
     {"SharingDialog", "sharing.md#what-could-not-be-made"},
+    {"SitePassphraseDialog", "sharing.md#the-passphrase"},
     {"recoveryBox", "backup.md#when-the-database-is-damaged"},
     {"notOpenedBox", "trouble.md#the-database-cannot-be-opened"},
     {"storeFailedBox", "trouble.md#changes-are-not-stored"},

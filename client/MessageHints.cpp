@@ -22,6 +22,8 @@ const struct
      QT_TRANSLATE_NOOP("MessageHints", "It is set in \"File > Preferences\" of the main window.")},
     {"RecordingFolderMassAssignmentDialog", "Default file server path not set",
      QT_TRANSLATE_NOOP("MessageHints", "It is set in \"File > Preferences\" of the main window.")},
+    {"RecordingFolderAssignmentDialog", "No recording folder assigned",
+     QT_TRANSLATE_NOOP("MessageHints", "Type a path, or press \"More...\" and choose one of the folders.")},
     {"RecordingFolderAssignmentDialog", "Factory extension unknown",
      QT_TRANSLATE_NOOP("MessageHints", "It is what \"Properties\" shows as the factory IP address of the "
                                        "camera. \"Node > Fill In\" of the main window asks the camera for "

@@ -1,6 +1,7 @@
 #include "Mnemonics.h"
 
 #include "MnemonicText.h"
+#include "WindowSize.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -91,16 +92,21 @@ QStringList lettersOfMenus(const QWidget* window)
 /// A dialog that had its size before its captions got longer.
 void widen(QWidget* dialog, const QVector<Caption>& captions)
 {
-    // A layout hears of what is in its boxes only when theirs are done.
+    // A layout hears of what is in its boxes only when theirs are done, and of tabs that can be scrolled not
+    // at all.
+    int hiddenTabs = 0;
     for (const Caption& caption : captions) {
         auto* widget = qobject_cast<QWidget*>(caption.owner);
+        if (qobject_cast<QTabBar*>(widget))
+            hiddenTabs = std::max(hiddenTabs, widget->sizeHint().width() - widget->parentWidget()->width());
         while (widget && widget != dialog) {
             widget = widget->parentWidget();
             if (widget->layout())
                 widget->layout()->activate();
         }
     }
-    dialog->resize(std::max(dialog->width(), dialog->sizeHint().width()), dialog->height());
+    const int wanted = std::max(dialog->width() + hiddenTabs, dialog->sizeHint().width());
+    resizeWithinScreen(*dialog, QSize(wanted, dialog->height()));
 }
 
 void assignIn(QWidget* window)

@@ -1,8 +1,8 @@
 #include "MomentModel.h"
 
-#include "SearchText.h"
 #include "drivers/NodeTypes.h"
 #include "ko/OutsideText.h"
+#include "model/SearchText.h"
 
 #include <QFont>
 

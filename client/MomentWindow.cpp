@@ -161,9 +161,9 @@ void MomentWindow::retranslate()
     m_onlyDifferent->setText(tr("Only what is different now"));
     m_nodesLabel->setText(tr("Nodes:"));
     m_detailsLabel->setText(tr("Properties:"));
-    m_nodesView->setAccessibleName(tr("Nodes of then"));
+    m_nodesView->setAccessibleName(tr("Nodes at that time"));
     m_detailsView->setAccessibleName(tr("Properties then and now"));
-    m_progress->setAccessibleName(tr("What was done since that is read"));
+    m_progress->setAccessibleName(tr("How much of the changes since then is read"));
     m_putBackAll->setText(tr("Put Back All..."));
     m_putBackSelected->setText(tr("Put Back Selected..."));
     showState();
@@ -205,9 +205,8 @@ void MomentWindow::showState()
     const QLocale locale;
     const MomentRows& all = m_nodes.all();
     QStringList texts = {m_isRead
-                             ? tr("%1 nodes then, %2 different now; %3 shown")
-                                   .arg(locale.toString(all.nodeCount()), locale.toString(all.differing()),
-                                        locale.toString(m_nodes.rowCount()))
+                             ? tr("%n node(s) then, %1 different now; %2 shown", nullptr, all.nodeCount())
+                                   .arg(locale.toString(all.differing()), locale.toString(m_nodes.rowCount()))
                              : tr("Reading what was done since...")};
     if (!all.others.isEmpty())
         texts.append(tr("Settings or environments are different, too."));

@@ -13,6 +13,7 @@
 #include "NodeListView.h"
 #include "PictureView.h"
 #include "TypeChange.h"
+#include "UndoCommands.h"
 #include "audit/AuditLog.h"
 #include "audit/NodeLogEntries.h"
 #include "database/HostNodeDB.h"
@@ -66,7 +67,8 @@ void editSeveral(MainWindow& window)
     const ENodeType type = db.summary(ids.first()).type;
     if (std::any_of(ids.cbegin(), ids.cend(),
                     [&](const QString& id) { return db.summary(id).type != type; })) {
-        window.say(MainWindow::tr("Only nodes of one type can be edited together."));
+        window.say(MainWindow::tr(
+            "Only nodes of one type can be edited together. \"Type\" above the list shows those of one."));
         return;
     }
     ForMany<EditSeveralDialog> dialog(db, ids, Purpose::Edit, db, type, ids, &window);
@@ -86,7 +88,7 @@ void runAddDialog(MainWindow& window, AddNodeDialog& dialog)
     window.database().auditLog().log(NodeLogEntry(NodeLogEntry::Added, node->name()));
     window.applyChanges();
     window.list().selectNode(dialog.nodeId());
-    window.sayDone(MainWindow::tr("\"%1\" was added.").arg(OutsideText::visible(node->name())));
+    window.sayDone(MainWindow::tr("\"%1\" was added.").arg(OutsideText::visible(calledInTitles(*node))));
 }
 
 } // namespace
@@ -117,10 +119,17 @@ void open(MainWindow& window, const QString& id, bool readOnly)
                 EditNodeDialog::tr("Properties of %1").arg(inWindowTitle(calledInTitles(*node))));
     });
     NodeHistoryPage::addTo(dialog, window.database(), id);
-    ChangedMeanwhile::addTo(dialog, window.database(), id);
+    ChangedMeanwhile::addTo(dialog, window.database(), id,
+                            readOnly ? NodeEditors::Access::Read : NodeEditors::Access::Write);
     if (readOnly)
         PictureView::addTo(dialog, window.checking().pictures(), id);
+    const qint64 before = window.undoing().lastStep();
     window.exec(dialog);
+    const kom::smart<const Node> node = window.database().node(id);
+    if (dialog.result() != QDialog::Accepted || node.null() || window.undoing().lastStep() == before)
+        return;
+    window.applyChanges();
+    window.sayDone(MainWindow::tr("\"%1\" was changed.").arg(OutsideText::visible(calledInTitles(*node))));
 }
 
 void add(MainWindow& window)
@@ -206,7 +215,10 @@ void openWebPage(MainWindow& window)
     if (device->port() != (device->useSSL() ? 443 : 80))
         url.setPort(device->port());
     if (!url.isValid() || !QDesktopServices::openUrl(url))
-        window.say(MainWindow::tr("The web page of %1 could not be opened.").arg(device->address()));
+        window.say(
+            MainWindow::tr(
+                "The web page of %1 could not be opened. Choose a browser in the settings of your desktop.")
+                .arg(device->address()));
 }
 
 void copyRows(MainWindow& window)

@@ -1,7 +1,7 @@
 #include "NodeEntries.h"
 
-#include "SearchText.h"
 #include "drivers/NodeTypes.h"
+#include "model/SearchText.h"
 
 #include <algorithm>
 

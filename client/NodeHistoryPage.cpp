@@ -105,7 +105,7 @@ void NodeHistoryPage::addTo(QDialog& dialog, HostNodeDB& db, const NodeID& id)
     tabs->addTab(page, QString());
     setTranslated(page, [tabs, page] {
         tabs->setTabText(tabs->indexOf(page), tr("History"));
-        // The others get their titles in this turn, too. With one more, all shall still be seen.
+        // The others get their titles in this turn, too. With one more, all should still be seen.
         QTimer::singleShot(0, page,
                            [tabs, page] { page->setMinimumWidth(tabs->tabBar()->sizeHint().width()); });
     });

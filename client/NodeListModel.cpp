@@ -10,7 +10,7 @@ namespace ko {
 
 namespace {
 
-/// From so many changes on, putting everything in order again is cheaper than row by row.
+/// From this many changes on, putting everything in order again is cheaper than row by row.
 const int manyChanges = 64;
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "NodeSearch.h"
 
-#include "SearchText.h"
+#include "model/SearchText.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -58,6 +60,24 @@ NodeSearch::NodeSearch(const QString& text, const QStringList& fields)
         if (!word.texts.isEmpty()) // else it is still being typed
             m_words.append(word);
     }
+}
+
+QString NodeSearch::withFields(const QString& text, const QStringList& before, const QStringList& fields)
+{
+    static const QRegularExpression nameOfAField(
+        QStringLiteral("(?<=^|^-|[ \"]|[ \"]-)[^ \":-][^ \":]*(?=:)"));
+    QString changed;
+    int end = 0;
+    QRegularExpressionMatchIterator names = nameOfAField.globalMatch(text);
+    while (names.hasNext()) {
+        const QRegularExpressionMatch name = names.next();
+        const int column = int(before.indexOf(SearchText::folded(name.captured())));
+        if (column < 0)
+            continue;
+        changed += text.mid(end, name.capturedStart() - end) + fields.at(column);
+        end = int(name.capturedEnd());
+    }
+    return changed + text.mid(end);
 }
 
 QSet<int> NodeSearch::columns() const

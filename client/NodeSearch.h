@@ -18,6 +18,10 @@ public:
     /// \a fields name the columns in their order. Before a colon any other word is text like the rest.
     NodeSearch(const QString& text, const QStringList& fields);
 
+    /// The search \a text, with what names the columns taken from \a fields instead of \a before. Words that
+    /// name no column stay as they are.
+    static QString withFields(const QString& text, const QStringList& before, const QStringList& fields);
+
     bool isEmpty() const { return m_words.isEmpty(); }
 
     /// The columns that are looked at by their name.

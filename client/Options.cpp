@@ -23,7 +23,7 @@ const Option options[] = {
      "FILE"},
     {"lang",
      QT_TRANSLATE_NOOP("Application",
-                       "Speaks this language, such as de or pt_BR, whatever is chosen elsewhere."),
+                       "Uses this language, such as de or pt_BR, whatever is chosen elsewhere."),
      "CODE"},
     {"import",
      QT_TRANSLATE_NOOP("Application", "Adds the cameras of a list (CSV) and ends. No window is needed."),
@@ -34,24 +34,22 @@ const Option options[] = {
      QT_TRANSLATE_NOOP("Application", "Copies the database, which may be in use, into a file and ends."),
      "FILE"},
     {"restore",
-     QT_TRANSLATE_NOOP("Application",
-                       "Gives the database, which may be in use, the content of a backup and ends. "
-                       "The present content is kept as a backup."),
+     QT_TRANSLATE_NOOP("Application", "Restores the database, which may be in use, from a backup and ends. "
+                                      "The present content is kept as a backup."),
      "FILE"},
     {"share",
      QT_TRANSLATE_NOOP("Application",
-                       "Brings the database with its history to an empty one on a server, whose address "
-                       "follows (postgresql://user@host/database), and ends. Called again, it goes on."),
+                       "Copies the database with its history to an empty one on a server, whose address "
+                       "follows (postgresql://user@host/database), and ends. Called again, it continues."),
      "FILE"},
     {"verify-log",
      QT_TRANSLATE_NOOP("Application",
-                       "Looks whether anybody has altered the logs of the database, names what, "
-                       "and ends."),
+                       "Checks whether anybody has altered the logs of the database, says what, and ends."),
      ""},
     {"thin-history",
      QT_TRANSLATE_NOOP("Application",
-                       "Takes what was before and after each change out of the history, where it is older "
-                       "than so many days, and ends. Who changed something, and when, stays."),
+                       "Removes what was before and after each change from the history, where it is older "
+                       "than this many days, and ends. Who changed something, and when, is kept."),
      "DAYS"},
 };
 
@@ -137,7 +135,7 @@ QString Options::badValue() const
             return Texts::tr("The value after --%1 is empty.").arg(QLatin1String(option.name));
     }
     if (isSet("thin-history") && value("thin-history").toInt() < 1)
-        return Texts::tr("--thin-history takes a number of days.");
+        return Texts::tr("--thin-history needs a number of days.");
     return QString();
 }
 

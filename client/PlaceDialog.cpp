@@ -60,7 +60,7 @@ void PlaceDialog::retranslate()
 {
     setWindowTitle(tr("Location and Tags"));
     m_text->setText(tr("Where are the %n selected device(s)? Write it from outside to inside, with a slash "
-                       "between: Site/Building/Floor. Tags are parted by commas.",
+                       "between: Site/Building/Floor. Separate tags with commas.",
                        nullptr, m_devices));
     m_locationLabel->setText(tr("&Location:"));
     m_tagsLabel->setText(tr("&Tags:"));

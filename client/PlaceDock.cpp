@@ -11,14 +11,12 @@
 #include "utils/Retranslation.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QMenu>
-#include <QSettings>
 
 namespace ko {
 
 namespace {
-
-const char shownKey[] = "window/locations";
 
 } // namespace
 
@@ -34,6 +32,7 @@ PlaceDock::PlaceDock(MainWindow& window, NodeListModel& model, QMenu& view)
     setWidget(m_tree);
     toggleViewAction()->setObjectName(QStringLiteral("actionLocations"));
     view.addAction(toggleViewAction());
+    hide(); // until the window brings back how it was
     window.addDockWidget(Qt::LeftDockWidgetArea, this);
     setTranslated(this, [this] {
         setWindowTitle(tr("Locations"));
@@ -42,18 +41,19 @@ PlaceDock::PlaceDock(MainWindow& window, NodeListModel& model, QMenu& view)
         if (m_isActive)
             m_tree->fill(m_index);
     });
-    setVisible(QSettings().value(QLatin1String(shownKey), false).toBool());
-    setActive(!isHidden());
-    connect(toggleViewAction(), &QAction::toggled, this, [this](bool isShown) {
-        if (!parentWidget()->isVisible() || parentWidget()->isMinimized())
-            return; // hidden with its window, which may be on its way out
-        QSettings().setValue(QLatin1String(shownKey), isShown);
-        setActive(isShown);
-    });
     connect(m_tree, &PlaceTree::chosenChanged, this, &PlaceDock::filter);
     connect(m_tree, &PlaceTree::dropped, this, [this](const QString& place) {
         PlaceCommands::assign(m_window, m_window.list().selectedIds(), {place, std::nullopt});
     });
+}
+
+bool PlaceDock::event(QEvent* event)
+{
+    const bool isDone = QDockWidget::event(event);
+    // Not what happens to it with its window, which may be minimized, or on its way out.
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)
+        setActive(event->type() == QEvent::ShowToParent);
+    return isDone;
 }
 
 void PlaceDock::setActive(bool isActive)

@@ -31,6 +31,9 @@ public:
 
     void showAll();
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     void setActive(bool isActive);
     void filter();

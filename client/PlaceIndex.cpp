@@ -3,8 +3,7 @@
 #include "Places.h"
 #include "database/HostNodeDB.h"
 #include "ko/Node.h"
-
-#include <QCollator>
+#include "model/SearchText.h"
 
 #include <algorithm>
 
@@ -12,7 +11,7 @@ namespace ko {
 
 namespace {
 
-/// One node costs as much as so many in a column that is read as a whole.
+/// One node costs as much as this many in a column that is read as a whole.
 const int dearer = 8;
 
 } // namespace
@@ -77,14 +76,13 @@ void PlaceIndex::add(const QString& place, int devices)
 QStringList PlaceIndex::places() const
 {
     QStringList places = m_counts.keys();
-    QCollator natural;
-    natural.setNumericMode(true);
-    std::sort(places.begin(), places.end(), [&natural](const QString& a, const QString& b) {
+    std::sort(places.begin(), places.end(), [](const QString& a, const QString& b) {
         const QStringList as = a.split(QLatin1Char('/'));
         const QStringList bs = b.split(QLatin1Char('/'));
         return std::lexicographical_compare(
-            as.begin(), as.end(), bs.begin(), bs.end(),
-            [&natural](const QString& x, const QString& y) { return natural.compare(x, y) < 0; });
+            as.begin(), as.end(), bs.begin(), bs.end(), [](const QString& x, const QString& y) {
+                return std::make_pair(SearchText::sortKey(x), x) < std::make_pair(SearchText::sortKey(y), y);
+            });
     });
     return places;
 }

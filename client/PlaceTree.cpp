@@ -11,6 +11,7 @@
 #include <QScopedValueRollback>
 #include <QSet>
 #include <QStandardItemModel>
+#include <QStyleOption>
 
 namespace ko {
 
@@ -102,14 +103,24 @@ void PlaceTree::choose(const std::optional<QString>& place)
     setCurrentIndex(found.isEmpty() ? m_all->index() : found.constFirst());
 }
 
-bool PlaceTree::accepts(const QDropEvent& event) const
+/// Invalid where nothing of it can be dropped.
+QModelIndex PlaceTree::targetOf(const QDropEvent& event) const
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    const QPoint at = event.position().toPoint();
+    const QModelIndex at = indexAt(event.position().toPoint());
 #else
-    const QPoint at = event.pos();
+    const QModelIndex at = indexAt(event.pos());
 #endif
-    return NodeListView::isDragOfNodes(*event.mimeData()) && indexAt(at).data(PlaceRole).isValid();
+    const bool isTaken = NodeListView::isDragOfNodes(*event.mimeData()) && at.data(PlaceRole).isValid();
+    return isTaken ? at : QModelIndex();
+}
+
+void PlaceTree::mark(const QModelIndex& target)
+{
+    if (m_target == target)
+        return;
+    m_target = target;
+    viewport()->update();
 }
 
 void PlaceTree::dragEnterEvent(QDragEnterEvent* event)
@@ -121,20 +132,36 @@ void PlaceTree::dragEnterEvent(QDragEnterEvent* event)
 void PlaceTree::dragMoveEvent(QDragMoveEvent* event)
 {
     QTreeView::dragMoveEvent(event); // scrolls and opens what the pointer stays on
-    event->setAccepted(accepts(*event));
+    mark(targetOf(*event));
+    event->setAccepted(m_target.isValid());
+}
+
+void PlaceTree::dragLeaveEvent(QDragLeaveEvent* event)
+{
+    QTreeView::dragLeaveEvent(event);
+    mark(QModelIndex());
 }
 
 void PlaceTree::dropEvent(QDropEvent* event)
 {
-    if (!accepts(*event))
+    const QModelIndex target = targetOf(*event);
+    mark(QModelIndex());
+    if (!target.isValid())
         return;
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    const QModelIndex at = indexAt(event->position().toPoint());
-#else
-    const QModelIndex at = indexAt(event->pos());
-#endif
     event->acceptProposedAction();
-    emit dropped(at.data(PlaceRole).toString());
+    emit dropped(target.data(PlaceRole).toString());
+}
+
+/// The toolkit marks a target only where its model takes the data.
+void PlaceTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    if (m_target != index)
+        return;
+    QStyleOption frame;
+    frame.initFrom(this);
+    frame.rect = option.rect;
+    style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemDrop, &frame, painter, this);
 }
 
 } // namespace ko

@@ -39,16 +39,21 @@ signals:
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
 
 private:
     QStandardItem* add(QStandardItem* parent, const QString& text, const QVariant& place);
-    bool accepts(const QDropEvent& event) const;
+    QModelIndex targetOf(const QDropEvent& event) const;
+    void mark(const QModelIndex& target);
     void retranslate();
 
     QStandardItemModel* const m_model;
     QStandardItem* m_all = nullptr;
     QStandardItem* m_nowhere = nullptr;
+    QPersistentModelIndex m_target; ///< the place that would take what is dragged now
     bool m_isFilling = false;
 };
 

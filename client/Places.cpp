@@ -16,7 +16,7 @@ std::unique_ptr<InspectorPage> createPage(QWidget* parent)
 {
     const QVector<Field> fields = {
         {Location, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Site/building/floor:")},
-        {Tags, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Tags, parted by commas:")},
+        {Tags, Field::Text, QT_TRANSLATE_NOOP("PropertyFormPage", "Tags, separated by commas:")},
     };
     return std::make_unique<PageOf<PropertyFormPage>>(new PropertyFormPage(fields, parent));
 }

@@ -12,7 +12,7 @@ namespace ko {
 namespace Places {
 
 inline const QLatin1String Location("Location");
-inline const QLatin1String Tags("Tags"); ///< parted by commas
+inline const QLatin1String Tags("Tags"); ///< separated by commas
 
 /// So that editors show them, and lists of cameras hold them. To be called before a database is opened; more
 /// than once does no harm.

@@ -13,17 +13,18 @@ namespace ko {
 
 namespace {
 
-/// One node costs as much as so many in a column that is read as a whole.
+/// One node costs as much as this many in a column that is read as a whole.
 const int dearer = 8;
 
 } // namespace
 
-PropertyColumns::PropertyColumns(const HostNodeDB& db, NodeListModel& model, const NodeListView& view,
+PropertyColumns::PropertyColumns(HostNodeDB& db, NodeListModel& model, const NodeListView& view,
                                  QObject* parent)
     : QObject(parent)
     , m_db(db)
     , m_model(model)
     , m_view(view)
+    , m_lastChange(db, model)
 {
     connect(&view, &NodeListView::columnsChanged, this, &PropertyColumns::update);
     connect(view.header(), &QHeaderView::sortIndicatorChanged, this, &PropertyColumns::update);
@@ -43,7 +44,10 @@ bool PropertyColumns::isWanted(int column) const
 
 void PropertyColumns::update()
 {
+    m_lastChange.setWanted(isWanted(m_lastChange.column()));
     for (int column = NodeListModel::FirstPropertyColumn; column < m_model.columnCount(); ++column) {
+        if (column == m_lastChange.column())
+            continue;
         const bool isFilled = m_model.columns().isFilled(column);
         const bool isNeeded = isWanted(column);
         if (isNeeded && !isFilled)
@@ -67,19 +71,26 @@ void PropertyColumns::read(int column)
 
 void PropertyColumns::retranslate()
 {
+    const QVector<int> columns = filled();
+    for (const int column : columns)
+        read(column); // a switch that is on shows the column's title
+}
+
+/// Of those that show properties.
+QVector<int> PropertyColumns::filled() const
+{
+    QVector<int> columns;
     for (int column = NodeListModel::FirstPropertyColumn; column < m_model.columnCount(); ++column) {
-        if (m_model.columns().isFilled(column))
-            read(column); // a switch that is on shows the column's title
+        if (column != m_lastChange.column() && m_model.columns().isFilled(column))
+            columns.append(column);
     }
+    return columns;
 }
 
 void PropertyColumns::take(const QVector<NodeSummary>& changed)
 {
-    QVector<int> columns;
-    for (int column = NodeListModel::FirstPropertyColumn; column < m_model.columnCount(); ++column) {
-        if (m_model.columns().isFilled(column))
-            columns.append(column);
-    }
+    m_lastChange.take(changed);
+    const QVector<int> columns = filled();
     if (columns.isEmpty())
         return;
     if (int(changed.size()) > m_model.nodeCount() / dearer) {

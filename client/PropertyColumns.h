@@ -1,7 +1,7 @@
 #ifndef KO_PROPERTYCOLUMNS_H
 #define KO_PROPERTYCOLUMNS_H
 
-#include "model/NodeData.h"
+#include "LastChangeColumn.h"
 
 #include <QObject>
 #include <QVector>
@@ -21,7 +21,7 @@ class PropertyColumns : public QObject
 
 public:
     /// All outlive this object.
-    PropertyColumns(const HostNodeDB& db, NodeListModel& model, const NodeListView& view,
+    PropertyColumns(HostNodeDB& db, NodeListModel& model, const NodeListView& view,
                     QObject* parent = nullptr);
 
     /// A column is looked at while it is shown, sorted by, or named in \a search. To be called before the
@@ -37,12 +37,14 @@ public:
 private:
     void update();
     bool isWanted(int column) const;
+    QVector<int> filled() const;
     void read(int column);
     void take(const Node& node, const QVector<int>& columns);
 
     const HostNodeDB& m_db;
     NodeListModel& m_model;
     const NodeListView& m_view;
+    LastChangeColumn m_lastChange;
     QString m_search;
 };
 

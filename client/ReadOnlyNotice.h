@@ -11,7 +11,8 @@ namespace ko {
 
 class HostNodeDB;
 
-/// For who may only read a site: says so where he wants to change something, before a window asks him for it.
+/// For users who may only read a site: says so where they want to change something, before a window asks them
+/// for it.
 namespace ReadOnlyNotice {
 
 /// What he reads.
@@ -20,7 +21,7 @@ QString text();
 /// Whether \a db is read-only; then the user has been told.
 bool refuses(const HostNodeDB& db, QWidget* parent);
 
-/// Runs \a edit, and tells the user if he lost the right to change anything meanwhile: then nothing was
+/// Runs \a edit, and tells the user if the right to change anything was lost meanwhile: then nothing was
 /// stored.
 void watch(const HostNodeDB& db, QWidget* parent, const std::function<void()>& edit);
 

@@ -15,7 +15,7 @@ ScannerStatus::ScannerStatus(HostNodeDB& db, QWidget* parent)
     , m_db(db)
 {
     setObjectName(QStringLiteral("scannerStatus"));
-    setTextFormat(Qt::PlainText); // names of interfaces are no markup
+    setTextFormat(Qt::PlainText); // names of interfaces are not markup
     const QList<Scanner*> scanners = Scanners::of(db).all();
     for (Scanner* scanner : scanners)
         connect(scanner, &Scanner::stateChanged, this, &ScannerStatus::refresh);
@@ -24,7 +24,7 @@ ScannerStatus::ScannerStatus(HostNodeDB& db, QWidget* parent)
 
 QString ScannerStatus::describe(const QString& name, const ScannerState& state)
 {
-    const QString where = state.where.isEmpty() ? QString() : QStringLiteral(", ") + state.where;
+    const QString where = state.where.isEmpty() ? QString() : QStringLiteral(", ") + state.where.text();
     switch (state.phase) {
     case ScannerState::Idle:
         return tr("%1: idle").arg(name);
@@ -39,7 +39,7 @@ QString ScannerStatus::describe(const QString& name, const ScannerState& state)
     case ScannerState::Cancelled:
         return tr("%1: cancelled").arg(name);
     case ScannerState::Unavailable:
-        return tr("%1: not available (%2)").arg(name, state.reason);
+        return tr("%1: not available (%2)").arg(name, state.reason.text());
     }
     return QString();
 }

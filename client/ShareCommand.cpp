@@ -3,6 +3,7 @@
 #include "Application.h"
 #include "KeychainNotice.h"
 #include "SharingWords.h"
+#include "SiteKeyPrompt.h"
 #include "SiteSharing.h"
 #include "ko/OutsideText.h"
 #include "ko/Terminal.h"
@@ -41,7 +42,8 @@ int ShareCommand::run()
         if (!mayBeShared())
             return Application::NoDatabase;
         const std::optional<SiteGreeting> greeting = m_opening.greet(true);
-        const bool isDone = greeting && fits(*greeting) && m_opening.catchUp(m_file, patience) && verify();
+        const bool isDone = greeting && fits(*greeting) && hasKey(*greeting) &&
+                            m_opening.catchUp(m_file, patience) && verify();
         return isDone ? Application::Good : Application::Failed;
     } catch (const StoreFailure& failure) {
         say(stderr, failure.error.message);
@@ -60,6 +62,13 @@ bool ShareCommand::mayBeShared()
     const std::unique_ptr<SharedLog> log = SharedLog::open(m_file, &SiteSharing::describe, &error);
     if (!log) {
         say(stderr, error.message);
+        return false;
+    }
+    if (log->hasClearPasswords()) {
+        say(stderr,
+            tr("\"%1\" has passwords of an older version that are not sealed yet, because the key of this "
+               "installation is not there. Bring it back first.")
+                .arg(QDir::toNativeSeparators(m_file)));
         return false;
     }
     if (log->site().isEmpty() && (log->isReplaced() || !log->isTold())) {
@@ -94,6 +103,22 @@ bool ShareCommand::fits(const SiteGreeting& greeting)
     return false;
 }
 
+/// Before anything is sent: no password goes to the server under a key that other desks have not got.
+bool ShareCommand::hasKey(const SiteGreeting& greeting)
+{
+    if (SiteKeyPrompt::onLine(m_address, greeting.site, true))
+        return true;
+    StoreError error;
+    const std::unique_ptr<SharedLog> log = SharedLog::open(m_file, &SiteSharing::describe, &error);
+    if (!log)
+        throw StoreFailure{error};
+    if (!log->hasPasswords())
+        return true;
+    say(stderr, tr("\"%1\" has passwords, which take the key of the site. Nothing was sent.")
+                    .arg(QDir::toNativeSeparators(m_file)));
+    return false;
+}
+
 /// Others may be at work on both already.
 bool ShareCommand::verify()
 {
@@ -110,8 +135,9 @@ bool ShareCommand::verify()
         SiteVerification verification(*log, connection, [](qint64) { return true; });
         const SiteVerification::Verdict verdict = verification.run();
         if (verdict == SiteVerification::Verdict::Same) {
-            say(stdout, tr("%1 rows and their history are at \"%2\", and the same there as here.")
-                            .arg(QLocale().toString(verification.rows()), SiteAddress::shown(m_address)));
+            say(stdout, tr("%n row(s) with their history are at \"%1\", and the same there as here.", nullptr,
+                           int(verification.rows()))
+                            .arg(SiteAddress::shown(m_address)));
             return true;
         }
         if (verdict == SiteVerification::Verdict::Different) {

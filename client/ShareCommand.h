@@ -20,6 +20,7 @@ public:
 private:
     bool mayBeShared();
     bool fits(const SiteGreeting& greeting);
+    bool hasKey(const SiteGreeting& greeting);
     bool verify();
 
     const QString m_file;

@@ -2,6 +2,8 @@
 
 #include "PlainMessageBox.h"
 #include "SharingWords.h"
+#include "SiteKeyPrompt.h"
+#include "SiteKeyWords.h"
 #include "SiteSharing.h"
 #include "WindowSize.h"
 #include "audit/ChangeSetTitle.h"
@@ -73,6 +75,7 @@ void SharingDialog::createButtons()
         return button;
     };
     m_dismiss = add("dismissButton", this, &SharingDialog::dismiss);
+    m_passphrase = add("passphraseButton", this, &SharingDialog::askForPassphrase);
     m_newCopy = add("newCopyButton", this, &SharingDialog::makeNewCopy);
     m_tryAgain = add("tryAgainButton", &m_sharing, &SiteSharing::tryAgain);
     m_buttons->button(QDialogButtonBox::Close)->setDefault(true);
@@ -88,13 +91,17 @@ void SharingDialog::retranslate()
     m_table->setHorizontalHeaderLabels({tr("Time"), tr("Change"), tr("Node"), tr("Removed By")});
     m_dismiss->setText(tr("&Dismiss Selected"));
     m_newCopy->setText(tr("&New Copy..."));
+    m_passphrase->setText(tr("&Passphrase..."));
     m_tryAgain->setText(tr("&Try Again"));
     refresh();
 }
 
 void SharingDialog::refresh()
 {
-    m_state->setText(SharingWords::full(m_sharing.state(), m_sharing.address()));
+    const SiteKeyOutcome& key = m_sharing.key();
+    const QString text = SharingWords::full(m_sharing.state(), m_sharing.address());
+    m_state->setText(
+        key.site.isEmpty() || key.isHere ? text : text + QStringLiteral("\n\n") + SiteKeyWords::missing(key));
     m_table->clearSelection(); // a row must not become another one under the user's hand
     m_undone = m_db.history().undoneChanges();
     m_table->setRowCount(int(m_undone.size()));
@@ -122,6 +129,8 @@ void SharingDialog::updateButtons()
     m_table->setVisible(!m_undone.isEmpty());
     m_dismiss->setVisible(!m_undone.isEmpty());
     m_dismiss->setEnabled(m_table->selectionModel()->hasSelection());
+    m_passphrase->setVisible(m_sharing.needsPassphrase() ||
+                             (m_sharing.key().isHere && m_sharing.key().record.mayChange));
     m_tryAgain->setVisible(isRefused);
     m_newCopy->setVisible(isRefused);
 }
@@ -134,6 +143,11 @@ void SharingDialog::dismiss()
         numbers.append(m_undone.at(row.row()).number);
     m_db.history().dismissUndone(numbers);
     emit m_sharing.changed();
+}
+
+void SharingDialog::askForPassphrase()
+{
+    SiteKeyPrompt::ask(m_sharing, this);
 }
 
 /// Nothing is lost by it: what was not sent stays in the file that there is.

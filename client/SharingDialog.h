@@ -35,6 +35,7 @@ private:
     void updateButtons();
     void dismiss();
     void makeNewCopy();
+    void askForPassphrase();
 
     HostNodeDB& m_db;
     SiteSharing& m_sharing;
@@ -46,6 +47,7 @@ private:
     QPushButton* m_dismiss = nullptr;
     QPushButton* m_tryAgain = nullptr;
     QPushButton* m_newCopy = nullptr;
+    QPushButton* m_passphrase = nullptr;
 };
 
 } // namespace ko

@@ -26,7 +26,11 @@ void SharingStatus::refresh()
 {
     const int undone = int(m_db.history().undoneChanges().size());
     const QString state = SharingWords::brief(m_sharing.state(), m_sharing.since());
-    setText(undone > 0 ? tr("%1, %n change(s) could not be made", nullptr, undone).arg(state) : state);
+    const bool lacksKey = m_sharing.needsPassphrase() && m_sharing.key().record.hasKey();
+    if (lacksKey && m_sharing.state().kind == SharingState::UpToDate && undone == 0)
+        setText(tr("%1, passphrase needed...").arg(state));
+    else
+        setText(undone > 0 ? tr("%1, %n change(s) could not be made", nullptr, undone).arg(state) : state);
     setToolTip(SharingWords::full(m_sharing.state(), m_sharing.address()));
 }
 

@@ -30,8 +30,8 @@ const struct
     {SharingState::OtherSite,
      QT_TRANSLATE_NOOP(
          "SharingWords",
-         "At \"%1\" there is another site now than the one of which this is a copy. Nothing was sent to "
-         "it. If the server was set up anew, ask its administrator to bring the site back.")},
+         "There is now another site at \"%1\" than the one this is a copy of. Nothing was sent to it. If the "
+         "server was set up anew, ask its administrator to bring the site back.")},
     {SharingState::NoSite,
      QT_TRANSLATE_NOOP(
          "SharingWords",
@@ -45,15 +45,24 @@ const struct
      QT_TRANSLATE_NOOP("SharingWords",
                        "You may only read the site \"%1\", but there are changes on this computer that "
                        "it has not got. Ask its administrator for the role ko_editor.")},
+    {SharingState::Rewritten,
+     QT_TRANSLATE_NOOP("SharingWords",
+                       "The site \"%1\" gives another account of its past than it gave before: its history "
+                       "was altered on the server. Nothing more is sent to it or taken from it. Show this to "
+                       "its administrator; the copy on this computer has the history as it was.")},
     {SharingState::Replaced,
      QT_TRANSLATE_NOOP("SharingWords",
                        "A backup was restored into this copy of the site \"%1\", which other desks "
                        "cannot be told. It is not shared any more.")},
     {SharingState::FileFailed,
      QT_TRANSLATE_NOOP("SharingWords",
-                       "The copy of the site \"%1\" on this computer cannot be read or written.")},
+                       "The copy of the site \"%1\" on this computer cannot be read or written. Check that "
+                       "its disk works and has room, and start the program again.")},
     {SharingState::ServerSaid,
-     QT_TRANSLATE_NOOP("SharingWords", "The site \"%1\" does not take what this desk sends.")},
+     QT_TRANSLATE_NOOP("SharingWords",
+                       "The server of the site \"%1\" refused a request from this computer. Changes it "
+                       "has not received yet are kept here. Show its administrator what the server said, "
+                       "and start the program again when the problem is fixed.")},
 };
 
 QString numberOf(qint64 number)

@@ -7,7 +7,7 @@
 
 namespace ko {
 
-/// What a user reads of how his desk and its site are with each other.
+/// The words for how a desk and its site get on.
 namespace SharingWords {
 
 /// For the status bar. \a since is when the state began.

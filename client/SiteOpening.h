@@ -23,15 +23,15 @@ public:
     SiteOpening(const QString& address, Way way);
 
     /// The file, which can be opened as any other; empty after the user was told why there is none, or when
-    /// he had enough. With a whole copy from before, nothing waits for the server. \a givenUp is a copy that
-    /// is not to be used any more: it is kept, under another name if need be.
+    /// the user gave up. With a whole copy from before, nothing waits for the server. \a givenUp is a copy
+    /// that is not to be used any more: it is kept, under another name if need be.
     QString file(const QString& givenUp = QString());
 
     /// Brings the file and the site to the same state; false after the user was told why that is not so.
     /// \a patience as in SiteCatchUp.
     bool catchUp(const QString& file, int patience);
 
-    /// What the site says of itself; none after the user was told why it does not, or when he had enough.
+    /// What the site says of itself; none after the user was told why it does not, or when the user gave up.
     /// \a makesSite: an empty database becomes one.
     std::optional<SiteGreeting> greet(bool makesSite = false);
 

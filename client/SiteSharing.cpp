@@ -2,6 +2,7 @@
 
 #include "KnownSites.h"
 #include "database/HostNodeDB.h"
+#include "database/NodeEditors.h"
 #include "database/StoredHistory.h"
 #include "drivers/NodeTypes.h"
 
@@ -22,8 +23,45 @@ void SiteSharing::tryAgain()
     m_worker.reset();
     m_worker = std::make_unique<SharingWorker>(m_db.fileName(), m_address, &SiteSharing::describe);
     connect(m_worker.get(), &SharingWorker::stateChanged, this, &SiteSharing::take);
+    connect(m_worker.get(), &SharingWorker::keySeen, this, &SiteSharing::takeKey);
     connect(m_worker.get(), &SharingWorker::received, &m_db, &HostNodeDB::syncSomeForeignChanges);
     connect(&m_db.history(), &StoredHistory::stored, m_worker.get(), &SharingWorker::wake);
+    NodeEditors& editors = m_db.editors();
+    connect(m_worker.get(), &SharingWorker::editorsSeen, &editors, &NodeEditors::setOthers);
+    const auto tell = [&editors, worker = m_worker.get()] {
+        worker->setOpen(editors.written(), editors.isAnyOpen());
+    };
+    connect(&editors, &NodeEditors::openChanged, m_worker.get(), tell);
+    tell();
+    editors.setOthers({}); // as long as the site was not asked
+}
+
+bool SiteSharing::needsPassphrase() const
+{
+    const SiteKeyRecord& record = m_key.record;
+    return !m_key.site.isEmpty() && !m_key.isHere && record.hasTables && (record.hasKey() || record.mayMake);
+}
+
+/// The next connection finds it.
+void SiteSharing::takeNewKey()
+{
+    m_db.takeNewKeys();
+    tryAgain();
+}
+
+void SiteSharing::takeKey(const SiteKeyOutcome& seen)
+{
+    const bool isOther = seen.isHere && !m_key.isHere;
+    m_key = seen;
+    if (isOther)
+        m_db.takeNewKeys();
+    emit changed();
+    const QString wanted = needsPassphrase() ? QLatin1Char('>') + seen.record.name : QString();
+    if (wanted == m_wanted)
+        return;
+    m_wanted = wanted;
+    if (!wanted.isEmpty())
+        emit passphraseWanted();
 }
 
 void SiteSharing::askForNewCopy()

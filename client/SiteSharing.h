@@ -25,6 +25,13 @@ public:
     const SharingState& state() const { return m_state; }
     const QDateTime& since() const { return m_since; } ///< when that kind of state began
 
+    /// What is known of the key of the passwords; its \c site is empty as long as the server was not seen.
+    const SiteKeyOutcome& key() const { return m_key; }
+    /// Whether the key is not here, and the user can do something about it.
+    bool needsPassphrase() const;
+    /// The key is here now, or is another one.
+    void takeNewKey();
+
     /// Begins anew, when something may be different now.
     void tryAgain();
 
@@ -37,13 +44,18 @@ public:
 signals:
     void changed();
     void newCopyWanted();
+    /// Once, and again when the site got another key.
+    void passphraseWanted();
 
 private:
     void take(const SharingState& state);
+    void takeKey(const SiteKeyOutcome& seen);
 
     HostNodeDB& m_db;
     const QString m_address;
     SharingState m_state;
+    SiteKeyOutcome m_key;
+    QString m_wanted; ///< what was asked for last
     QDateTime m_since = QDateTime::currentDateTime();
     std::unique_ptr<SharingWorker> m_worker;
 };

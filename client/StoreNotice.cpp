@@ -2,6 +2,7 @@
 
 #include "NameList.h"
 #include "PlainMessageBox.h"
+#include "StoreProgress.h"
 #include "database/HostNodeDB.h"
 
 #include <QMainWindow>
@@ -15,6 +16,7 @@ StoreNotice::StoreNotice(HostNodeDB& db, QMainWindow* window)
     , m_db(db)
     , m_window(window)
 {
+    new StoreProgress(db, window);
     connect(&m_db, &HostNodeDB::storeFailed, this, &StoreNotice::storeFailed);
     connect(&m_db, &HostNodeDB::storeRecovered, this, &StoreNotice::storeRecovered);
     connect(&m_db, &HostNodeDB::storeDamaged, this, [this](const StoreError& error) {

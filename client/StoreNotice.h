@@ -14,7 +14,7 @@ namespace ko {
 class HostNodeDB;
 class PlainMessageBox;
 
-/// Tells the user of a window when changes cannot be stored, and lets him try again or give them up.
+/// Tells the user of a window when changes cannot be stored, and lets the user try again or give them up.
 class StoreNotice : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,8 @@ public:
     /// The database outlives the window, which owns this.
     StoreNotice(HostNodeDB& db, QMainWindow* window);
 
-    /// Leaves it to somebody else to tell that storing fails. When he ends, what still waits is told here.
+    /// Leaves it to somebody else to tell that storing fails. When that one ends, what still waits is told
+    /// here.
     void setQuiet(bool quiet);
 
     /// For a window that is to be closed: false when something is not stored and the user would rather stay.

@@ -25,10 +25,11 @@ SurveyCommands::SurveyCommands(QMainWindow* window)
 }
 
 /// False if the window was closed meanwhile; there is nobody to tell the result then.
-bool SurveyCommands::run(const QString& text, const std::function<void(const CameraSurvey::Progress&)>& work)
+bool SurveyCommands::run(const QString& title, const QString& text,
+                         const std::function<void(const CameraSurvey::Progress&)>& work)
 {
     {
-        SurveyProgress progress(text, m_window);
+        SurveyProgress progress(title, text, m_window);
         m_progress = &progress;
         work(progress.callback());
         m_progress = nullptr;
@@ -57,12 +58,12 @@ void SurveyCommands::importCameras()
     const auto check = [&](const CameraSurvey::Progress& progress) {
         result = CameraSurvey::check(file, progress);
     };
-    if (!run(tr("Reading the list..."), check) || !agreesToImport(result))
+    if (!run(tr("Import Cameras"), tr("Reading the list..."), check) || !agreesToImport(result))
         return;
     const auto work = [&](const CameraSurvey::Progress& progress) {
         result = CameraSurvey::importCameras(file, progress);
     };
-    if (!run(tr("Importing cameras..."), work))
+    if (!run(tr("Import Cameras"), tr("Importing cameras..."), work))
         return;
     ImportReportDialog report(result, m_window);
     report.exec();
@@ -98,7 +99,7 @@ void SurveyCommands::exportCameras(const QStringList& only, const CameraSurvey::
     const auto work = [&](const CameraSurvey::Progress& progress) {
         result = CameraSurvey::exportCameras(file, passwords, progress, only, more);
     };
-    if (!run(tr("Exporting cameras..."), work))
+    if (!run(tr("Export Cameras"), tr("Exporting cameras..."), work))
         return;
     if (!result.error.isEmpty())
         PlainMessageBox::ask(QMessageBox::Critical, m_window, tr("Export Cameras"), result.error);

@@ -35,7 +35,8 @@ public:
 
 private:
     bool agreesToImport(const CameraSurvey::ImportResult& foreseen);
-    bool run(const QString& text, const std::function<void(const CameraSurvey::Progress&)>& work);
+    bool run(const QString& title, const QString& text,
+             const std::function<void(const CameraSurvey::Progress&)>& work);
 
     QMainWindow* const m_window;
     SurveyProgress* m_progress = nullptr; ///< of the work under way

@@ -10,10 +10,11 @@ const int steps = 1000; ///< sizes of files do not fit the dialog's int
 
 } // namespace
 
-SurveyProgress::SurveyProgress(const QString& text, QWidget* parent)
+SurveyProgress::SurveyProgress(const QString& title, const QString& text, QWidget* parent)
     : m_dialog(text, QCoreApplication::translate("SurveyProgress", "Cancel"), 0, steps, parent)
 {
     m_dialog.setObjectName(QStringLiteral("surveyProgress"));
+    m_dialog.setWindowTitle(title);
     m_dialog.setWindowModality(Qt::WindowModal);
     m_dialog.setAutoClose(false);
     m_dialog.setAutoReset(false);

@@ -12,7 +12,7 @@ namespace ko {
 class SurveyProgress
 {
 public:
-    SurveyProgress(const QString& text, QWidget* parent);
+    SurveyProgress(const QString& title, const QString& text, QWidget* parent);
 
     /// Good while this object lives.
     CameraSurvey::Progress callback();

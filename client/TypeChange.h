@@ -11,7 +11,7 @@ class QWidget;
 
 namespace ko {
 
-/// Keeps what the user has entered in the dialog that adds a node when he chooses another type: the dialog
+/// Keeps what the user has entered in the dialog that adds a node when another type is chosen: the dialog
 /// makes a new editor then, and forgets the old one.
 class TypeChange : public QObject
 {

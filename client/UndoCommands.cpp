@@ -3,8 +3,10 @@
 #include "MainWindow.h"
 #include "MnemonicText.h"
 #include "PutBackDialog.h"
+#include "ReadAlterations.h"
 #include "audit/ChangeSetTitle.h"
 #include "database/HostNodeDB.h"
+#include "database/StoredHistory.h"
 #include "ko/OutsideText.h"
 
 #include <QAction>
@@ -35,11 +37,18 @@ UndoCommands::UndoCommands(MainWindow& window, QAction* undo, QAction* redo)
     , m_redo(redo)
 {
     connect(&m_stack, &UndoStack::changed, this, [this] {
+        emit stepsChanged();
         if (!m_isLate)
             QTimer::singleShot(0, this, &UndoCommands::update);
         m_isLate = true;
     });
     retranslate();
+}
+
+qint64 UndoCommands::lastStep()
+{
+    m_window.database().flush(StoreWait::InEventLoop);
+    return storedStep();
 }
 
 void UndoCommands::update()
@@ -61,11 +70,15 @@ void UndoCommands::retranslate()
 void UndoCommands::run(UndoStack::Direction direction)
 {
     HostNodeDB& db = m_window.database();
-    db.flush(); // what waits is undone first, and nothing is redone after it
+    db.flush(StoreWait::InEventLoop); // what waits is undone first, and nothing is redone after it
     const std::optional<ChangeSetRow> row = m_stack.next(direction);
-    const std::optional<PutBack> shown = m_stack.preview(direction);
-    if (!row || !shown)
+    const std::optional<ChangeSetRow> newest = db.history().row(m_stack.newest(direction));
+    if (!row || !newest)
         return; // there is none any more, or it cannot be read, which is said by itself
+    const auto alterations = readAlterations(db, {*newest}, &m_window);
+    const auto shown = alterations ? PuttingBack::preview(db, *alterations) : std::nullopt;
+    if (!shown)
+        return;
     PutBackDialog dialog(
         [&row] { return ChangeSetTitle::of(*row); }, *shown, PutBackDialog::words(db),
         [this, direction](const PutBack& putBack) { return m_stack.apply(direction, putBack); }, &m_window);

@@ -22,8 +22,17 @@ public:
 
     void run(UndoStack::Direction direction);
 
+    /// What Undo would undo of what is stored, to be compared with what it is later.
+    qint64 storedStep() const { return m_stack.newest(UndoStack::Undo); }
+    /// The same after storing what was done until now.
+    qint64 lastStep();
+
     /// Names the actions in the language that the program has now.
     void retranslate();
+
+signals:
+    /// Undo may be about something else now.
+    void stepsChanged();
 
 private:
     void update();

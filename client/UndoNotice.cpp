@@ -1,5 +1,6 @@
 #include "UndoNotice.h"
 
+#include "UndoCommands.h"
 #include "utils/Retranslation.h"
 
 #include <QAction>
@@ -13,8 +14,9 @@ const int messageTime = 20000; // ms
 
 } // namespace
 
-UndoNotice::UndoNotice(QAction* undo, QStatusBar* statusBar)
+UndoNotice::UndoNotice(UndoCommands& undoing, QAction* undo, QStatusBar* statusBar)
     : QPushButton(statusBar)
+    , m_undoing(undoing)
     , m_statusBar(statusBar)
 {
     setObjectName(QStringLiteral("undoButton"));
@@ -23,11 +25,16 @@ UndoNotice::UndoNotice(QAction* undo, QStatusBar* statusBar)
     connect(this, &QPushButton::clicked, undo, &QAction::trigger);
     connect(statusBar, &QStatusBar::messageChanged, this,
             [this](const QString& text) { setVisible(!text.isEmpty() && text == m_text); });
+    connect(&undoing, &UndoCommands::stepsChanged, this, [this] {
+        if (!isHidden() && m_undoing.storedStep() != m_step)
+            m_statusBar->clearMessage();
+    });
     setTranslated(this, [this] { setText(tr("Undo...")); });
 }
 
 void UndoNotice::offer(const QString& text)
 {
+    m_step = m_undoing.lastStep();
     m_text = text;
     m_statusBar->showMessage(text, messageTime);
 }

@@ -1,6 +1,7 @@
 #include "UnsavedEdits.h"
 
 #include "PlainMessageBox.h"
+#include "drivers/PageStack.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
@@ -15,6 +16,8 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 #include <QToolButton>
+
+#include <memory>
 
 namespace ko {
 
@@ -132,6 +135,25 @@ void UnsavedEdits::begin(QDialog& dialog)
     connect(&dialog, &QObject::destroyed, this, [this, key] { m_stored.remove(key); });
     if (QPushButton* apply = buttons->button(QDialogButtonBox::Apply))
         beginApplying(dialog, *apply);
+    if (const auto* pages = dialog.findChild<PageStack*>())
+        follow(dialog, *pages);
+}
+
+/// What others store while the dialog is open comes into it, and was not entered there.
+void UnsavedEdits::follow(QDialog& dialog, const PageStack& pages)
+{
+    const auto before = std::make_shared<Values>();
+    connect(&pages, &PageStack::aboutToRefresh, this, [before, &dialog] { *before = valuesOf(dialog); });
+    connect(&pages, &PageStack::refreshed, this, [this, before, &dialog] {
+        Values& stored = m_stored[&dialog];
+        const Values now = valuesOf(dialog);
+        for (auto field = now.cbegin(); field != now.cend(); ++field) {
+            if (field.value() != before->value(field.key()))
+                stored.insert(field.key(), field.value());
+        }
+        if (buttonsOf(dialog)->button(QDialogButtonBox::Apply))
+            enableApply(dialog, isTouched(dialog));
+    });
 }
 
 void UnsavedEdits::beginApplying(QDialog& dialog, QPushButton& apply)

@@ -11,6 +11,8 @@ class QPushButton;
 
 namespace ko {
 
+class PageStack;
+
 /// Asks before Escape or the close button of a window throws away what was entered in a dialog. Its Cancel
 /// button asks nothing: whoever presses that means it. Its Apply button can be pressed only while there is
 /// something to be stored.
@@ -36,6 +38,7 @@ private:
     void begin(QDialog& dialog);
     void beginApplying(QDialog& dialog, QPushButton& apply);
     void watch(QWidget& field);
+    void follow(QDialog& dialog, const PageStack& pages);
     void applied(QDialog& dialog);
     bool isTouched(const QDialog& dialog) const;
 

@@ -1,7 +1,8 @@
 #include "WhileShowing.h"
 
+#include "WaitBox.h"
+
 #include <QEventLoop>
-#include <QProgressDialog>
 #include <QThread>
 
 #include <memory>
@@ -11,10 +12,7 @@ namespace ko {
 void doWhileShowing(const QString& title, const QString& text, QWidget* parent,
                     const std::function<void()>& work)
 {
-    QProgressDialog box(text, QString(), 0, 0, parent);
-    box.setWindowTitle(title);
-    box.setWindowModality(Qt::WindowModal);
-    box.setMinimumDuration(0);
+    WaitBox box(title, text, parent);
     QEventLoop loop;
     const std::unique_ptr<QThread> thread(QThread::create(work));
     QObject::connect(thread.get(), &QThread::finished, &loop, &QEventLoop::quit);

@@ -85,7 +85,7 @@ void findDevices(MainWindow& window)
         const QString done = findings.ask(&window);
         window.applyChanges();
         if (!done.isEmpty())
-            window.sayDone(done);
+            window.say(done); // no step of Undo: scans go on beside what the user does
         return;
     }
     window.applyChanges();

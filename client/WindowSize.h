@@ -7,7 +7,7 @@ class QWidget;
 
 namespace ko {
 
-/// Gives a window that is not shown yet the size, or as much of it as its screen has room for.
+/// Gives a window the size, or as much of it as its screen has room for.
 void resizeWithinScreen(QWidget& window, const QSize& size);
 
 } // namespace ko

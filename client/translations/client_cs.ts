@@ -77,11 +77,11 @@
         <translation>Databáze uzlů</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>Databáze uzlů „%1“ leží na síťové jednotce. Dva programy, které ji tam používají současně, ji mohou poškodit. Přesuňte ji na disk tohoto počítače.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 platí pro okna, a zde se žádné neotevírá.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>Sloupec „%1“ se nepoužívá.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>přidáno %1, aktualizováno %2, beze změny %3, řádků s chybami %4</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>zapsáno: %1</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>vynecháno bez názvu a adresy: %1</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Použije tento jazyk, např. de nebo pt_BR, bez ohledu na jiná nastavení.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Zkopíruje databázi, která se může používat, do souboru a skončí.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Dá databázi, která se může používat, obsah zálohy a skončí. Současný obsah se uchová jako záloha.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>%1 nelze zapsat.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Zjistí, zda někdo změnil protokoly databáze, uvede co a skončí.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>Odebráno podrobností: %1, do změny číslo %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>Dále ne: historie byla změněna. --verify-log uvede co.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Odebere z historie, co bylo před každou změnou starší než tolik dnů a po ní, a skončí. Kdo a kdy něco změnil, zůstává.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history vyžaduje počet dnů.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>Otevře tuto databázi uzlů: soubor, který se vytvoří, pokud neexistuje, nebo sdílenou databázi, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Přenese databázi s historií do prázdné databáze na serveru, jejíž adresa následuje (postgresql://user@host/database), a skončí. Při dalším spuštění pokračuje.</translation>
     </message>
     <message>
@@ -189,6 +185,14 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>Do sdílené databáze nelze obnovit zálohu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>přidáno %1, aktualizováno %2, beze změny %3, %n řádek s chybami</numerusform>
+            <numerusform>přidáno %1, aktualizováno %2, beze změny %3, %n řádky s chybami</numerusform>
+            <numerusform>přidáno %1, aktualizováno %2, beze změny %3, %n řádků s chybami</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -438,6 +442,19 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Mezitím změnil %1 na %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 na %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>Právě upravuje také: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -450,7 +467,7 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>Z&amp;rušit</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Skrýt tento řádek</translation>
     </message>
     <message>
@@ -647,7 +664,7 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>Záloha se obnovuje...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>Databáze má nyní obsah „%1“.</translation>
     </message>
     <message>
@@ -658,11 +675,11 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>Nelze z ní nic přečíst.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>Lze z ní ještě přečíst %n uzel.</numerusform>
             <numerusform>Lze z ní ještě přečíst %n uzly.</numerusform>
@@ -739,6 +756,45 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Podrobnosti</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>&amp;Podrobnosti</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Ukazuje vedle seznamu, co je vybraný uzel</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Vyberte uzel v seznamu a zde uvidíte, co to je.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>Vybrán %n uzel</numerusform>
+            <numerusform>Vybrány %n uzly</numerusform>
+            <numerusform>Vybráno %n uzlů</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>Co má první z nich:</numerusform>
+            <numerusform>Co mají společné první %n z nich:</numerusform>
+            <numerusform>Co má společné prvních %n z nich:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>různé</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -807,10 +863,6 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <source>&amp;Give All the Same...</source>
         <translation>&amp;Dát všem stejné...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Společně lze nastavit jen zařízení IP. Ostatní vybírejte po jednom.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -834,6 +886,18 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
             <numerusform>%n zařízení: uživatelské jméno a heslo nastaveny.</numerusform>
             <numerusform>%n zařízení: uživatelské jméno a heslo nastaveny.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n zařízení)</numerusform>
+            <numerusform>%1 (%n zařízení)</numerusform>
+            <numerusform>%1 (%n zařízení)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Společně lze nastavit jen kamery IP. Ostatní vybírejte po jedné.</translation>
     </message>
 </context>
 <context>
@@ -873,7 +937,7 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>V této databázi zatím nic není.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Žádný uzel nevyhovuje.</translation>
     </message>
     <message>
@@ -904,11 +968,11 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>„%1“ už má tuto adresu, port a kanál.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>Má se to tak uložit?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>&amp;Uložit tak</translation>
     </message>
     <message>
@@ -957,7 +1021,7 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>Dotázaná zařízení</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>Co zařízení sdělila</translation>
     </message>
     <message numerus="yes">
@@ -973,11 +1037,11 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>Není co doplnit.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>Toto zařízení sdělují a není to zatím uloženo. OK uloží zaškrtnuté.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n zařízení nic nesdělilo:</numerusform>
             <numerusform>%n zařízení nic nesdělila:</numerusform>
@@ -1247,10 +1311,6 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>Import byl zrušen. Co bylo do té doby přidáno, zůstává.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>Přidáno %1, aktualizováno %2, beze změny %3, řádků s chybami %4.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Importovat kamery</translation>
     </message>
@@ -1263,10 +1323,6 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>Import tohoto seznamu přidá zařízení: %1, změní: %2 a ponechá beze změny: %3.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1276,7 +1332,7 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n řádek je možná míněn jinak.</numerusform>
             <numerusform>%n řádky jsou možná míněny jinak.</numerusform>
@@ -1286,6 +1342,22 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importovat</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>Přidáno %1, aktualizováno %2, beze změny %3, %n řádek s chybami.</numerusform>
+            <numerusform>Přidáno %1, aktualizováno %2, beze změny %3, %n řádky s chybami.</numerusform>
+            <numerusform>Přidáno %1, aktualizováno %2, beze změny %3, %n řádků s chybami.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>Import tohoto seznamu přidá %n zařízení, změní: %1 a ponechá beze změny: %2.</numerusform>
+            <numerusform>Import tohoto seznamu přidá %n zařízení, změní: %1 a ponechá beze změny: %2.</numerusform>
+            <numerusform>Import tohoto seznamu přidá %n zařízení, změní: %1 a ponechá beze změny: %2.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1566,7 +1638,7 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>Přijmout &amp;jako tuto kameru...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Jiné zařízení než dříve je odteď touto kamerou</translation>
     </message>
     <message>
@@ -1665,10 +1737,6 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>Tento uzel nemá adresu. Adresa zařízení se zadává v Uzel &gt; Upravit.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>Webovou stránku %1 se nepodařilo otevřít.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1698,7 +1766,7 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>Povoli&amp;t otevřené heslo...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>Kamerám, které je jinak nepřijmou, se heslo odesílá čitelné pro všechny</translation>
     </message>
     <message>
@@ -1730,10 +1798,6 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>Co bylo provedeno s vybranými uzly</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Zařízení: %1, jiné uzly: %2; zobrazeno: %3, vybráno: %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>Zpě&amp;t k...</translation>
     </message>
@@ -1752,10 +1816,6 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Ukáže, co by se stalo s více uzly, než se to uloží</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Společně lze upravovat jen uzly jednoho typu.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1802,7 +1862,7 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>O&amp;bnovit...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Dá databázi uzlů obsah zálohy</translation>
     </message>
     <message>
@@ -1828,6 +1888,22 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - Databáze uzlů</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Zařízení: %1, jiné uzly: %2; zobrazeno: %3, vybráno: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>Změněno: „%1“.</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Společně lze upravovat jen uzly jednoho typu. „Typ“ nad seznamem zobrazí uzly jednoho.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>Webovou stránku %1 se nepodařilo otevřít. Vyberte prohlížeč v nastavení plochy.</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +1954,10 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>Je to, co „Vlastnosti“ ukazují jako tovární IP adresu kamery. „Uzel &gt; Doplnit“ hlavního okna se na ni kamery zeptá.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Zadejte cestu, nebo stiskněte „Více...“ a vyberte jednu ze složek.</translation>
     </message>
 </context>
 <context>
@@ -1955,7 +2035,7 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>Vlastnosti:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Tehdejší uzly</translation>
     </message>
     <message>
@@ -1963,7 +2043,7 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>Vlastnosti tehdy a nyní</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>Kolik je přečteno z toho, co se od té doby provedlo</translation>
     </message>
     <message>
@@ -1973,10 +2053,6 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Put Back Selected...</source>
         <translation>Vrátit vybrané...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Tehdy uzlů: %1, nyní jiných: %2, zobrazeno: %3</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -2002,6 +2078,14 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Put back: %1</source>
         <translation>Vráceno: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Tehdy %n uzel, nyní jiných: %1, zobrazeno: %2</numerusform>
+            <numerusform>Tehdy %n uzly, nyní jiných: %1, zobrazeno: %2</numerusform>
+            <numerusform>Tehdy %n uzlů, nyní jiných: %1, zobrazeno: %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2107,6 +2191,10 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>Tags</source>
         <translation>Štítky</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Poslední změna</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2186,7 +2274,7 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>Umístění a štítky</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>Kde je vybrané zařízení? Napište to zvenčí dovnitř, oddělené lomítkem: Areál/Budova/Patro. Štítky se oddělují čárkami.</numerusform>
             <numerusform>Kde jsou %n vybraná zařízení? Napište to zvenčí dovnitř, oddělené lomítkem: Areál/Budova/Patro. Štítky se oddělují čárkami.</numerusform>
@@ -2290,7 +2378,7 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>Areál/budova/patro:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Štítky, oddělené čárkami:</translation>
     </message>
 </context>
@@ -2361,6 +2449,17 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>Co se změnilo</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Čte se, co se změnilo...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2415,6 +2514,76 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Odebrat i &amp;složky záznamů</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>Uložená &amp;hledání</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Uložená hledání</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Hledání, která mají název, a název pro toto</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>&amp;Uložit toto hledání...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Pojmenuje to, co se nyní hledá</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>&amp;Přejmenovat nebo odebrat...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Mění názvy uložených hledání a odebírá je</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Uložit hledání</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Název (existující dostane toto hledání):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Uložená hledání</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Uložená hledání</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Přejme&amp;novat</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Odebrat...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Hledání s tímto názvem už existuje, nebo je název prázdný. Zůstal, jak byl.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>Odebrat hledání „%1“? Uzly, které najde, zůstanou.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Odebrat</translation>
     </message>
 </context>
 <context>
@@ -2506,16 +2675,28 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <translation>„%1“ patří k jinému objektu než „%2“.</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>Řádky (%1) a jejich historie jsou v „%2“ a jsou tam stejné jako zde.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>Objekt se liší od souboru: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>Soubor nebo objekt se stále mění, takže je nebylo možné porovnat.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n řádek s historií je v „%1“ a je tam stejný jako zde.</numerusform>
+            <numerusform>%n řádky s historií jsou v „%1“ a jsou tam stejné jako zde.</numerusform>
+            <numerusform>%n řádků s historií je v „%1“ a jsou tam stejné jako zde.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>„%1“ obsahuje hesla starší verze, která ještě nejsou zašifrována, protože chybí klíč této instalace. Nejprve jej vraťte.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>„%1“ obsahuje hesla, která vyžadují klíč objektu. Nic nebylo odesláno.</translation>
     </message>
 </context>
 <context>
@@ -2573,6 +2754,10 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>Zavřít toto okno a vytvořit novou kopii toho, co je teď na serveru? Neodeslané změny v ní nebudou; nynější kopie, která je obsahuje, zůstane ve složce „%1“.</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Heslová fráze...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2584,11 +2769,15 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
             <numerusform>%1, %n změn neprovedeno</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, je třeba heslová fráze...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>Na adrese „%1“ je teď jiný objekt než ten, jehož je toto kopie. Nic se tam neodeslalo. Pokud byl server zřízen znovu, požádejte jeho správce, aby objekt vrátil.</translation>
     </message>
     <message>
@@ -2606,14 +2795,6 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>Do této kopie objektu „%1“ byla obnovena záloha, což nelze sdělit jiným stanicím. Už se nesdílí.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>Kopii objektu „%1“ na tomto počítači nelze číst ani zapisovat.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>Objekt „%1“ nepřijímá, co tato stanice posílá.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2683,6 +2864,84 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
         <source>Receiving: %1 of %2</source>
         <translation>Příjem: %1 z %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>Objekt „%1“ uvádí svou minulost jinak, než ji dříve uváděl této stanici: jeho historie byla na serveru změněna. Nic dalšího se na něj neodesílá ani se z něj nepřebírá. Ukažte to jeho správci; kopie v tomto počítači má historii takovou, jaká byla.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>Kopii objektu „%1“ na tomto počítači nelze číst ani zapisovat. Zkontrolujte, zda disk funguje a je na něm místo, a spusťte program znovu.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>Server objektu „%1“ odmítl požadavek tohoto počítače. Změny, které zatím neobdržel, zůstávají uloženy zde. Ukažte správci, co server ohlásil, a po odstranění problému spusťte program znovu.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Nová heslová fráze pro objekt „%1“:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Ještě jednou:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>Obě heslové fráze nejsou stejné.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>Heslová fráze objektu „%1“:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>Heslová fráze objektu nebyla zadána. Hesla se nečtou a nelze je uložit. Zadejte ji v terminálu nebo nastavte proměnnou KO_SITE_PASSPHRASE.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>Klíč nelze na tomto počítači uchovat, protože chybí klíč této instalace. Příště budete na heslovou frázi dotázáni znovu.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>To není heslová fráze tohoto objektu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Heslová fráze má alespoň %n znak.</numerusform>
+            <numerusform>Heslová fráze má alespoň %n znaky.</numerusform>
+            <numerusform>Heslová fráze má alespoň %n znaků.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>Objekt ještě nemá klíč.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Někdo jiný právě změnil klíč nebo jeho heslovou frázi. Zeptejte se, která heslová fráze nyní platí.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Otevření klíče vyžaduje více paměti, než tento počítač má nebo než lze po něm žádat.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Tento objekt vznikl dříve, než jeho stanice měly společný klíč. Hesla nelze uložit, dokud jej správce neaktualizuje příkazem koclient --share.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>Tento počítač nemá klíč hesel. Zobrazují se prázdná a nová nelze uložit, dokud nezadáte heslovou frázi objektu.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>Objekt ještě nemá klíč, kterým jeho stanice šifrují hesla. Nová nelze uložit, dokud jej někdo nevytvoří.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2693,6 +2952,57 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Připojování k „%1“...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Změna heslové fráze</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Heslová fráze objektu</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Hesla kamer v „%1“ jsou zašifrována klíčem, který jeho stanice sdílejí. Zadejte heslovou frázi objektu, jednou na tomto počítači. Bez ní se hesla zobrazují prázdná a nová nelze uložit.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>Objekt „%1“ ještě nemá klíč, kterým jeho stanice šifrují hesla kamer. Vymyslete heslovou frázi z několika slov a sdělte ji všem, kdo je mají vidět. Server ji nikdy nedostane: pokud ji všichni zapomenou, nové stanice hesla nepřečtou.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>Stanice, které mají klíč „%1“, si jej ponechají, když se změní jen heslová fráze. S novým klíčem se všechna hesla zašifrují znovu a každá stanice se zeptá na novou heslovou frázi: zvolte to, když se ztratil počítač.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Heslová fráze:</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>&amp;Dosavadní heslová fráze:</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Nová heslová fráze:</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>Opa&amp;kování:</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Vytvořit také nový k&amp;líč</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>Obě nové heslové fráze nejsou stejné.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Okamžik...</translation>
     </message>
 </context>
 <context>
@@ -2728,6 +3038,17 @@ Bez klíče se uložená hesla zobrazují prázdná a nová nelze uložit.</tran
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Některé změny se nepodařilo uložit. Pokud program nyní zavřete, ztratí se.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Databáze uzlů</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Ukládají se změny...</translation>
     </message>
 </context>
 <context>

@@ -77,11 +77,11 @@
         <translation>Knotendatenbank</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>Die Knotendatenbank „%1“ liegt auf einem Netzlaufwerk. Zwei Programme, die sie dort gleichzeitig verwenden, können sie beschädigen. Verschieben Sie sie auf einen Datenträger dieses Computers.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 gilt nur für Fenster, hier wird aber keines geöffnet.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>Die Spalte „%1“ wird nicht verwendet.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>%1 hinzugefügt, %2 aktualisiert, %3 unverändert, %4 Zeilen mit Fehlern</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 geschrieben</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>%1 ohne Name und Adresse ausgelassen</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Verwendet diese Sprache, z. B. de oder pt_BR, unabhängig von anderen Einstellungen.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Kopiert die Datenbank, die in Gebrauch sein darf, in eine Datei und endet.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Gibt der Datenbank, die in Gebrauch sein darf, den Inhalt einer Sicherung und endet. Der bisherige Inhalt bleibt als Sicherung erhalten.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>%1 kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Sieht nach, ob jemand die Protokolle der Datenbank verändert hat, nennt, was, und endet.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>%1 Einzelheiten entfernt, bis zur Änderung Nummer %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>Nicht weiter: Der Verlauf wurde verändert. --verify-log nennt, was.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Entfernt aus dem Verlauf, was vor und nach jeder Änderung war, wo sie älter als so viele Tage ist, und endet. Wer wann etwas geändert hat, bleibt.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history braucht eine Anzahl von Tagen.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>Öffnet diese Knotendatenbank: eine Datei, die angelegt wird, wenn sie fehlt, oder eine gemeinsame, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Bringt die Datenbank mit ihrem Verlauf in eine leere auf einem Server, deren Adresse folgt (postgresql://user@host/database), und endet. Erneut aufgerufen, geht es weiter.</translation>
     </message>
     <message>
@@ -189,6 +185,13 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>In eine gemeinsame Datenbank kann keine Sicherung zurückgespielt werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>%1 hinzugefügt, %2 aktualisiert, %3 unverändert, %n Zeile mit Fehlern</numerusform>
+            <numerusform>%1 hinzugefügt, %2 aktualisiert, %3 unverändert, %n Zeilen mit Fehlern</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -434,6 +437,19 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Inzwischen von %1 an %2 geändert.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 an %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>Wird zurzeit auch von %1 bearbeitet.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -446,7 +462,7 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>Abb&amp;rechen</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Diese Zeile ausblenden</translation>
     </message>
     <message>
@@ -642,7 +658,7 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>Die Sicherung wird wiederhergestellt...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>Die Datenbank hat jetzt den Inhalt von „%1“.</translation>
     </message>
     <message>
@@ -653,11 +669,11 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>Nichts davon kann gelesen werden.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>%n Knoten davon kann noch gelesen werden.</numerusform>
             <numerusform>%n Knoten davon können noch gelesen werden.</numerusform>
@@ -733,6 +749,43 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>D&amp;etails</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Zeigt neben der Liste, was der ausgewählte Knoten ist</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Wählen Sie einen Knoten in der Liste aus, um hier zu sehen, was er ist.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>%n Knoten ausgewählt</numerusform>
+            <numerusform>%n Knoten ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>Was der erste davon hat:</numerusform>
+            <numerusform>Was die ersten %n davon gemeinsam haben:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>verschieden</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -799,10 +852,6 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <source>&amp;Give All the Same...</source>
         <translation>&amp;Allen dieselben geben...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Nur IP-Geräte können gemeinsam eingestellt werden. Wählen Sie von den anderen jeweils eines aus.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -823,6 +872,17 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
             <numerusform>%n Gerät: Benutzername und Passwort eingestellt.</numerusform>
             <numerusform>%n Geräte: Benutzername und Passwort eingestellt.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n Gerät)</numerusform>
+            <numerusform>%1 (%n Geräte)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Nur IP-Kameras können gemeinsam eingestellt werden. Wählen Sie von den anderen jeweils eine aus.</translation>
     </message>
 </context>
 <context>
@@ -861,7 +921,7 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>In dieser Datenbank ist noch nichts vorhanden.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Kein Knoten entspricht der Suche.</translation>
     </message>
     <message>
@@ -892,11 +952,11 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>„%1“ hat diese Adresse, diesen Port und diesen Kanal bereits.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>Soll es so gespeichert werden?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>So &amp;speichern</translation>
     </message>
     <message>
@@ -945,7 +1005,7 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>Abgefragte Geräte</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>Angaben der Geräte</translation>
     </message>
     <message numerus="yes">
@@ -960,11 +1020,11 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>Es gibt nichts auszufüllen.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>Dies geben die Geräte an, und es ist noch nicht gespeichert. OK speichert, was angehakt ist.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n Gerät hat nichts angegeben:</numerusform>
             <numerusform>%n Geräte haben nichts angegeben:</numerusform>
@@ -1230,10 +1290,6 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>Der Import wurde abgebrochen. Was bis dahin hinzugefügt wurde, bleibt erhalten.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>%1 hinzugefügt, %2 aktualisiert, %3 unverändert, %4 Zeilen mit Fehlern.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Kameras importieren</translation>
     </message>
@@ -1246,10 +1302,6 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>Der Import dieser Liste würde %1 Geräte hinzufügen, %2 ändern und %3 so lassen, wie sie sind.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1258,7 +1310,7 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n Zeile ist vielleicht anders gemeint.</numerusform>
             <numerusform>%n Zeilen sind vielleicht anders gemeint.</numerusform>
@@ -1267,6 +1319,20 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>%1 hinzugefügt, %2 aktualisiert, %3 unverändert, %n Zeile mit Fehlern.</numerusform>
+            <numerusform>%1 hinzugefügt, %2 aktualisiert, %3 unverändert, %n Zeilen mit Fehlern.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>Der Import dieser Liste würde %n Gerät hinzufügen, %1 ändern und %2 so lassen, wie sie sind.</numerusform>
+            <numerusform>Der Import dieser Liste würde %n Geräte hinzufügen, %1 ändern und %2 so lassen, wie sie sind.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1546,7 +1612,7 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Als diese Kamera &amp;akzeptieren...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Ein anderes Gerät als bisher ist ab jetzt diese Kamera</translation>
     </message>
     <message>
@@ -1644,10 +1710,6 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>Dieser Knoten hat keine Adresse. Geräte erhalten ihre unter Knoten &gt; Bearbeiten.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>Die Webseite von %1 konnte nicht geöffnet werden.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1675,7 +1737,7 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Klar&amp;textpasswort erlauben...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>Kameras, die es nicht anders annehmen, wird das Passwort für alle lesbar gesendet</translation>
     </message>
     <message>
@@ -1707,10 +1769,6 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Was mit den ausgewählten Knoten getan wurde</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Geräte: %1, andere Knoten: %2; angezeigt: %3, ausgewählt: %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>&amp;Zurück zu...</translation>
     </message>
@@ -1729,10 +1787,6 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Zeigt, was mit mehreren Knoten geschehen würde, bevor es gespeichert wird</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Nur Knoten eines Typs können zusammen bearbeitet werden.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1778,7 +1832,7 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Wieder&amp;herstellen...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Gibt der Knotendatenbank den Inhalt einer Sicherung</translation>
     </message>
     <message>
@@ -1804,6 +1858,22 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - Knotendatenbank</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Geräte: %1, andere Knoten: %2; angezeigt: %3, ausgewählt: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>„%1“ wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Nur Knoten eines Typs können zusammen bearbeitet werden. „Typ“ über der Liste zeigt die von einem.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>Die Webseite von %1 konnte nicht geöffnet werden. Wählen Sie in den Einstellungen Ihres Desktops einen Browser aus.</translation>
     </message>
 </context>
 <context>
@@ -1854,6 +1924,10 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>Gemeint ist, was die „Eigenschaften“ als Werks-IP-Adresse der Kamera zeigen. „Knoten &gt; Ausfüllen“ im Hauptfenster fragt die Kamera danach.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Geben Sie einen Pfad ein, oder drücken Sie „Mehr...“ und wählen Sie einen der Ordner aus.</translation>
     </message>
 </context>
 <context>
@@ -1931,7 +2005,7 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Eigenschaften:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Knoten von damals</translation>
     </message>
     <message>
@@ -1939,7 +2013,7 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Eigenschaften damals und jetzt</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>Was von dem seither Getanen gelesen ist</translation>
     </message>
     <message>
@@ -1949,10 +2023,6 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Put Back Selected...</source>
         <translation>Ausgewählte zurücknehmen...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Damals %1 Knoten, %2 jetzt anders; %3 angezeigt</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -1977,6 +2047,13 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Put back: %1</source>
         <translation>Zurückgenommen: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Damals %n Knoten, %1 jetzt anders; %2 angezeigt</numerusform>
+            <numerusform>Damals %n Knoten, %1 jetzt anders; %2 angezeigt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2081,6 +2158,10 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>Tags</source>
         <translation>Tags</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Letzte Änderung</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2158,7 +2239,7 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Standort und Tags</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>Wo ist das ausgewählte Gerät? Schreiben Sie es von außen nach innen, mit einem Schrägstrich dazwischen: Standort/Gebäude/Etage. Tags werden durch Kommas getrennt.</numerusform>
             <numerusform>Wo sind die %n ausgewählten Geräte? Schreiben Sie es von außen nach innen, mit einem Schrägstrich dazwischen: Standort/Gebäude/Etage. Tags werden durch Kommas getrennt.</numerusform>
@@ -2261,7 +2342,7 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>Standort/Gebäude/Etage:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Tags, durch Kommas getrennt:</translation>
     </message>
 </context>
@@ -2332,6 +2413,17 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>Was geändert wurde</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Liest, was geändert wurde...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2384,6 +2476,76 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Auch die Aufzeichnungs&amp;ordner entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>&amp;Gespeicherte Suchen</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Gespeicherte Suchen</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Suchen, die einen Namen haben, und ein Name für diese</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>Diese Suche &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Gibt dem, was jetzt gesucht wird, einen Namen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>&amp;Umbenennen oder entfernen...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Gibt gespeicherten Suchen andere Namen und entfernt sie</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Suche speichern</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Name (einer, den es gibt, bekommt diese Suche):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Gespeicherte Suchen</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Gespeicherte Suchen</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Umbe&amp;nennen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Entfernen...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Es gibt schon eine Suche dieses Namens, oder der Name ist leer. Er wurde gelassen, wie er war.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>Die Suche „%1“ entfernen? Die Knoten, die sie findet, bleiben.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
     </message>
 </context>
 <context>
@@ -2472,16 +2634,27 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <translation>„%1“ gehört zu einem anderen Standort als „%2“.</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>%1 Zeilen und ihr Verlauf sind in „%2“ und dort die gleichen wie hier.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>Der Standort weicht von der Datei ab: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>Datei oder Standort ändern sich ständig, daher konnten sie nicht verglichen werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n Zeile mit ihrem Verlauf ist in „%1“ und dort die gleiche wie hier.</numerusform>
+            <numerusform>%n Zeilen mit ihrem Verlauf sind in „%1“ und dort die gleichen wie hier.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>„%1“ enthält Passwörter einer älteren Version, die noch nicht verschlüsselt sind, weil der Schlüssel dieser Installation fehlt. Bringen Sie ihn zuerst zurück.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>„%1“ enthält Passwörter, für die der Schlüssel des Standorts nötig ist. Es wurde nichts gesendet.</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2712,10 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>Dieses Fenster schließen und eine neue Kopie dessen anlegen, was jetzt auf dem Server ist? Nicht gesendete Änderungen sind nicht darin; die jetzige Kopie, die sie enthält, bleibt im Ordner „%1“.</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Passphrase...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2549,11 +2726,15 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
             <numerusform>%1, %n Änderungen nicht ausgeführt</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, Passphrase nötig...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>Unter „%1“ liegt jetzt ein anderer Standort als der, von dem dies eine Kopie ist. Es wurde nichts dorthin gesendet. Wenn der Server neu eingerichtet wurde, bitten Sie seinen Administrator, den Standort zurückzubringen.</translation>
     </message>
     <message>
@@ -2571,14 +2752,6 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>In diese Kopie des Standorts „%1“ wurde eine Sicherung zurückgespielt, was anderen Arbeitsplätzen nicht mitgeteilt werden kann. Sie wird nicht mehr gemeinsam benutzt.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>Die Kopie des Standorts „%1“ auf diesem Computer kann nicht gelesen oder geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>Der Standort „%1“ nimmt nicht an, was dieser Arbeitsplatz sendet.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2645,6 +2818,83 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
         <source>Receiving: %1 of %2</source>
         <translation>Empfangen: %1 von %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>Der Standort „%1“ stellt seine Vergangenheit anders dar, als er sie diesem Arbeitsplatz früher dargestellt hat: Sein Verlauf wurde auf dem Server verändert. Es wird nichts mehr an ihn gesendet oder von ihm übernommen. Zeigen Sie dies seinem Administrator; die Kopie auf diesem Computer hat den Verlauf, wie er war.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>Die Kopie des Standorts „%1“ auf diesem Computer kann nicht gelesen oder geschrieben werden. Prüfen Sie, ob der Datenträger funktioniert und Platz hat, und starten Sie das Programm neu.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>Der Server des Standorts „%1“ hat eine Anfrage dieses Computers abgelehnt. Änderungen, die er noch nicht erhalten hat, bleiben hier gespeichert. Zeigen Sie seinem Administrator, was der Server gemeldet hat, und starten Sie das Programm neu, wenn das Problem behoben ist.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Eine neue Passphrase für den Standort „%1“:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Noch einmal:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>Die beiden Passphrasen sind nicht gleich.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>Die Passphrase des Standorts „%1“:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>Die Passphrase des Standorts wurde nicht angegeben. Passwörter werden nicht gelesen und können nicht gespeichert werden. Geben Sie sie in einem Terminal ein, oder setzen Sie die Variable KO_SITE_PASSPHRASE.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>Der Schlüssel kann auf diesem Computer nicht aufbewahrt werden, weil der Schlüssel dieser Installation fehlt. Sie werden beim nächsten Mal wieder nach der Passphrase gefragt.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>Das ist nicht die Passphrase des Standorts.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Eine Passphrase braucht mindestens %n Zeichen.</numerusform>
+            <numerusform>Eine Passphrase braucht mindestens %n Zeichen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>Der Standort hat noch keinen Schlüssel.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Jemand anderes hat den Schlüssel oder seine Passphrase in diesem Moment geändert. Fragen Sie, welche Passphrase jetzt gilt.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Um den Schlüssel zu öffnen, ist mehr Speicher nötig, als dieser Computer hat oder von ihm verlangt werden darf.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Dieser Standort wurde eingerichtet, bevor seine Arbeitsplätze einen gemeinsamen Schlüssel hatten. Passwörter können erst gespeichert werden, wenn sein Administrator ihn mit koclient --share auf den neuesten Stand bringt.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>Dieser Computer hat den Schlüssel der Passwörter nicht. Sie werden leer angezeigt, und neue können nicht gespeichert werden, bis Sie die Passphrase des Standorts angeben.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>Der Standort hat noch keinen Schlüssel, mit dem seine Arbeitsplätze Passwörter verschlüsseln. Neue können erst gespeichert werden, wenn ihn jemand erzeugt.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2655,6 +2905,57 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Verbindung zu „%1“ wird hergestellt...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Passphrase ändern</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Passphrase des Standorts</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Die Passwörter der Kameras an „%1“ sind mit einem Schlüssel verschlüsselt, den die Arbeitsplätze gemeinsam haben. Geben Sie die Passphrase des Standorts an, einmal auf diesem Computer. Ohne sie werden Passwörter leer angezeigt, und neue können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>Der Standort „%1“ hat noch keinen Schlüssel, mit dem seine Arbeitsplätze die Passwörter der Kameras verschlüsseln. Denken Sie sich eine Passphrase aus mehreren Wörtern aus, und sagen Sie sie allen, die sie sehen sollen. Der Server bekommt sie nie: Wenn alle sie vergessen, können neue Arbeitsplätze die Passwörter nicht lesen.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>Arbeitsplätze, die den Schlüssel von „%1“ haben, behalten ihn, wenn nur die Passphrase geändert wird. Mit einem neuen Schlüssel werden alle Passwörter neu verschlüsselt, und jeder Arbeitsplatz wird nach der neuen Passphrase gefragt: Wählen Sie das, wenn ein Computer verloren ging.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Passphrase:</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>&amp;Bisherige Passphrase:</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Neue Passphrase:</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>&amp;Wiederholung:</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Auch einen neuen &amp;Schlüssel erzeugen</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>Die beiden neuen Passphrasen sind nicht gleich.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Einen Moment...</translation>
     </message>
 </context>
 <context>
@@ -2690,6 +2991,17 @@ Ohne den Schlüssel werden gespeicherte Passwörter leer angezeigt, und neue kö
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Es gibt Änderungen, die nicht gespeichert werden konnten. Sie gehen verloren, wenn das Programm jetzt geschlossen wird.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Knotendatenbank</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Änderungen werden gespeichert...</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>Application</name>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>%1 added, %2 updated, %3 unchanged, %n line with errors</numerusform>
+            <numerusform>%1 added, %2 updated, %3 unchanged, %n lines with errors</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CameraChecking</name>
     <message numerus="yes">
         <source>%n device(s) answered that are not the ones known so far. Accept them only if you know why, as after an exchange or a new certificate: from the next check on they are sent what is stored as user name and password.</source>
@@ -45,10 +55,27 @@
 <context>
     <name>DatabaseRecovery</name>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
-            <numerusform>%n node of it can still be read.</numerusform>
-            <numerusform>%n nodes of it can still be read.</numerusform>
+            <numerusform>%n node in it can still be read.</numerusform>
+            <numerusform>%n nodes in it can still be read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DetailsDock</name>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>%n node selected</numerusform>
+            <numerusform>%n nodes selected</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>What the first %n of them has:</numerusform>
+            <numerusform>What the first %n of them share:</numerusform>
         </translation>
     </message>
 </context>
@@ -89,6 +116,13 @@
             <numerusform>%n devices: user name and password set.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n device)</numerusform>
+            <numerusform>%1 (%n devices)</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>EditSeveralDialog</name>
@@ -110,10 +144,10 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
-            <numerusform>%n device told nothing:</numerusform>
-            <numerusform>%n devices told nothing:</numerusform>
+            <numerusform>%n device said nothing:</numerusform>
+            <numerusform>%n devices said nothing:</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -151,10 +185,24 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
-            <numerusform>%n line may be meant otherwise.</numerusform>
-            <numerusform>%n lines may be meant otherwise.</numerusform>
+            <numerusform>%n line may be meant differently.</numerusform>
+            <numerusform>%n lines may be meant differently.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>%1 added, %2 updated, %3 unchanged, %n line with errors.</numerusform>
+            <numerusform>%1 added, %2 updated, %3 unchanged, %n lines with errors.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>Importing this list would add %n device, change %1 and leave %2 as they are.</numerusform>
+            <numerusform>Importing this list would add %n devices, change %1 and leave %2 as they are.</numerusform>
         </translation>
     </message>
 </context>
@@ -208,6 +256,13 @@
             <numerusform>%n changes since then do not fit what is there now: what was before them is not known.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>%n node then, %1 different now; %2 shown</numerusform>
+            <numerusform>%n nodes then, %1 different now; %2 shown</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>NameList</name>
@@ -242,10 +297,10 @@
 <context>
     <name>PlaceDialog</name>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
-            <numerusform>Where is the selected device? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</numerusform>
-            <numerusform>Where are the %n selected devices? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</numerusform>
+            <numerusform>Where is the selected device? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</numerusform>
+            <numerusform>Where are the %n selected devices? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</numerusform>
         </translation>
     </message>
 </context>
@@ -291,6 +346,16 @@
     </message>
 </context>
 <context>
+    <name>ShareCommand</name>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n row with its history is at &quot;%1&quot;, and the same there as here.</numerusform>
+            <numerusform>%n rows with their history are at &quot;%1&quot;, and the same there as here.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SharingStatus</name>
     <message numerus="yes">
         <source>%1, %n change(s) could not be made</source>
@@ -321,6 +386,16 @@
         <translation>
             <numerusform>Sending: %n change left</numerusform>
             <numerusform>Sending: %n changes left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>A passphrase needs at least %n character.</numerusform>
+            <numerusform>A passphrase needs at least %n characters.</numerusform>
         </translation>
     </message>
 </context>

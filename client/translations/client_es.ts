@@ -77,11 +77,11 @@
         <translation>Base de datos de nodos</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>La base de datos de nodos «%1» está en una unidad de red. Dos programas que la usen allí a la vez pueden dañarla. Muévala a un disco de este equipo.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 es para ventanas, y aquí no se abre ninguna.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>La columna «%1» no se usa.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>%1 añadidas, %2 actualizadas, %3 sin cambios, %4 líneas con errores</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 escritas</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>%1 sin nombre ni dirección omitidas</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Usa este idioma, como de o pt_BR, sin importar lo que se haya elegido en otra parte.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Copia la base de datos, que puede estar en uso, en un archivo y termina.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Da a la base de datos, que puede estar en uso, el contenido de una copia de seguridad y termina. El contenido actual se conserva como copia de seguridad.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>No se puede escribir %1.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Comprueba si alguien ha alterado los registros de la base de datos, indica qué y termina.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>%1 detalles quitados, hasta el cambio número %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>No más allá: el historial fue alterado. --verify-log indica qué.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Quita del historial lo que había antes y después de cada cambio más antiguo que ese número de días y termina. Quién cambió algo y cuándo permanece.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history requiere un número de días.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>Abre esta base de datos de nodos: un archivo, que se crea si no existe, o una compartida, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Lleva la base de datos con su historial a una vacía en un servidor, cuya dirección sigue (postgresql://user@host/database), y termina. Si se llama de nuevo, continúa.</translation>
     </message>
     <message>
@@ -189,6 +185,13 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>No se puede restaurar una copia de seguridad en una base de datos compartida.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>%1 añadidas, %2 actualizadas, %3 sin cambios, %n línea con errores</numerusform>
+            <numerusform>%1 añadidas, %2 actualizadas, %3 sin cambios, %n líneas con errores</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -434,6 +437,19 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Cambiado entretanto por %1 en %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>En este momento también lo edita: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -446,7 +462,7 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>Cance&amp;lar</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Quitar esta línea</translation>
     </message>
     <message>
@@ -642,7 +658,7 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>Restaurando la copia de seguridad...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>La base de datos tiene ahora el contenido de «%1».</translation>
     </message>
     <message>
@@ -653,11 +669,11 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>No se puede leer nada de ella.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>Aún se puede leer %n nodo de ella.</numerusform>
             <numerusform>Aún se pueden leer %n nodos de ella.</numerusform>
@@ -733,6 +749,43 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>Detall&amp;es</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Muestra junto a la lista qué es el nodo seleccionado</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Seleccione un nodo de la lista para ver aquí qué es.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>%n nodo seleccionado</numerusform>
+            <numerusform>%n nodos seleccionados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>Lo que tiene el primero:</numerusform>
+            <numerusform>Lo que los primeros %n tienen en común:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>distinto</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -799,10 +852,6 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <source>&amp;Give All the Same...</source>
         <translation>&amp;Dar los mismos a todos...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Solo los dispositivos IP se pueden ajustar juntos. Seleccione los demás de uno en uno.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -823,6 +872,17 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
             <numerusform>%n dispositivo: nombre de usuario y contraseña definidos.</numerusform>
             <numerusform>%n dispositivos: nombre de usuario y contraseña definidos.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n dispositivo)</numerusform>
+            <numerusform>%1 (%n dispositivos)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Solo las cámaras IP se pueden ajustar juntas. Seleccione las demás de una en una.</translation>
     </message>
 </context>
 <context>
@@ -861,7 +921,7 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>Aún no hay nada en esta base de datos.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Ningún nodo coincide.</translation>
     </message>
     <message>
@@ -892,11 +952,11 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>«%1» ya tiene esta dirección, este puerto y este canal.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>¿Guardarlo así?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>&amp;Guardar así</translation>
     </message>
     <message>
@@ -945,7 +1005,7 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>Dispositivos consultados</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>Lo que indican los dispositivos</translation>
     </message>
     <message numerus="yes">
@@ -960,11 +1020,11 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>No hay nada que rellenar.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>Esto es lo que indican los dispositivos y aún no está guardado. Aceptar guarda lo marcado.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n dispositivo no ha indicado nada:</numerusform>
             <numerusform>%n dispositivos no han indicado nada:</numerusform>
@@ -1230,10 +1290,6 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>La importación se ha cancelado. Se conserva lo añadido hasta entonces.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>%1 añadidas, %2 actualizadas, %3 sin cambios, %4 líneas con errores.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Importar cámaras</translation>
     </message>
@@ -1246,10 +1302,6 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>La importación de esta lista añadiría %1 dispositivos, cambiaría %2 y dejaría %3 como están.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1258,7 +1310,7 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n línea quizá quiera decir otra cosa.</numerusform>
             <numerusform>%n líneas quizá quieran decir otra cosa.</numerusform>
@@ -1267,6 +1319,20 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>%1 añadidas, %2 actualizadas, %3 sin cambios, %n línea con errores.</numerusform>
+            <numerusform>%1 añadidas, %2 actualizadas, %3 sin cambios, %n líneas con errores.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>La importación de esta lista añadiría %n dispositivo, cambiaría %1 y dejaría %2 como están.</numerusform>
+            <numerusform>La importación de esta lista añadiría %n dispositivos, cambiaría %1 y dejaría %2 como están.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1546,7 +1612,7 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>&amp;Aceptar como esta cámara...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Otro dispositivo que antes es desde ahora esta cámara</translation>
     </message>
     <message>
@@ -1644,10 +1710,6 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>Este nodo no tiene dirección. La de los dispositivos se indica en Nodo &gt; Editar.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>No se ha podido abrir la página web de %1.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1675,7 +1737,7 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>Permi&amp;tir contraseña sin cifrar...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>A las cámaras que no la admiten de otro modo se les envía la contraseña legible para todos</translation>
     </message>
     <message>
@@ -1707,10 +1769,6 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>Lo que se hizo con los nodos seleccionados</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Dispositivos: %1, otros nodos: %2; mostrados: %3, seleccionados: %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>&amp;Volver a...</translation>
     </message>
@@ -1729,10 +1787,6 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Muestra lo que se haría con varios nodos antes de guardarlo</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Solo se pueden editar juntos nodos de un mismo tipo.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1778,7 +1832,7 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>Res&amp;taurar...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Da a la base de datos de nodos el contenido de una copia de seguridad</translation>
     </message>
     <message>
@@ -1804,6 +1858,22 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - Base de datos de nodos</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Dispositivos: %1, otros nodos: %2; mostrados: %3, seleccionados: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>Se cambió «%1».</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Solo se pueden editar juntos nodos de un mismo tipo. «Tipo», encima de la lista, muestra los de uno.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>No se ha podido abrir la página web de %1. Elija un navegador en los ajustes de su escritorio.</translation>
     </message>
 </context>
 <context>
@@ -1854,6 +1924,10 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>Es lo que «Propiedades» muestra como dirección IP de fábrica de la cámara. «Nodo &gt; Rellenar» de la ventana principal se la pregunta a la cámara.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Escriba una ruta, o pulse «Más...» y elija una de las carpetas.</translation>
     </message>
 </context>
 <context>
@@ -1931,7 +2005,7 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>Propiedades:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Nodos de entonces</translation>
     </message>
     <message>
@@ -1939,7 +2013,7 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>Propiedades entonces y ahora</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>Lo que se ha leído de lo hecho desde entonces</translation>
     </message>
     <message>
@@ -1949,10 +2023,6 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Put Back Selected...</source>
         <translation>Revertir lo seleccionado...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Entonces %1 nodos, %2 distintos ahora; %3 mostrados</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -1977,6 +2047,13 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Put back: %1</source>
         <translation>Revertido: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Entonces %n nodo, %1 distintos ahora; %2 mostrados</numerusform>
+            <numerusform>Entonces %n nodos, %1 distintos ahora; %2 mostrados</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2081,6 +2158,10 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>Tags</source>
         <translation>Etiquetas</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Último cambio</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2158,7 +2239,7 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>Ubicación y etiquetas</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>¿Dónde está el dispositivo seleccionado? Escríbalo de fuera hacia dentro, con una barra en medio: Sitio/Edificio/Planta. Las etiquetas se separan con comas.</numerusform>
             <numerusform>¿Dónde están los %n dispositivos seleccionados? Escríbalo de fuera hacia dentro, con una barra en medio: Sitio/Edificio/Planta. Las etiquetas se separan con comas.</numerusform>
@@ -2261,7 +2342,7 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>Sitio/edificio/planta:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Etiquetas, separadas por comas:</translation>
     </message>
 </context>
@@ -2332,6 +2413,17 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>Qué se cambió</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Leyendo qué se cambió...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2384,6 +2476,76 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Eliminar también las &amp;carpetas de grabación</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>&amp;Búsquedas guardadas</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Búsquedas guardadas</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Las búsquedas que tienen nombre, y un nombre para esta</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>&amp;Guardar esta búsqueda...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Da un nombre a lo que se busca ahora</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>&amp;Renombrar o eliminar...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Da otros nombres a las búsquedas guardadas, y las elimina</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Guardar búsqueda</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Nombre (uno que ya existe recibe esta búsqueda):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Búsquedas guardadas</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Búsquedas guardadas</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Re&amp;nombrar</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Eliminar...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Ya hay una búsqueda con este nombre, o el nombre está vacío. Se ha dejado como estaba.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>¿Eliminar la búsqueda «%1»? Los nodos que encuentra se quedan.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Eliminar</translation>
     </message>
 </context>
 <context>
@@ -2472,16 +2634,27 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <translation>«%1» pertenece a otro sitio que «%2».</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>%1 filas y su historial están en «%2» y son iguales allí y aquí.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>El sitio difiere del archivo: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>El archivo o el sitio cambian continuamente, por lo que no se pudieron comparar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n fila con su historial está en «%1» y es igual allí y aquí.</numerusform>
+            <numerusform>%n filas con su historial están en «%1» y son iguales allí y aquí.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>«%1» tiene contraseñas de una versión anterior que aún no están cifradas, porque falta la clave de esta instalación. Recupérela primero.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>«%1» tiene contraseñas, que necesitan la clave del sitio. No se ha enviado nada.</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2712,10 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>¿Cerrar esta ventana y crear una copia nueva de lo que hay ahora en el servidor? Los cambios no enviados no están en ella; la copia actual, que los contiene, permanece en la carpeta «%1».</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Frase de contraseña...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2549,11 +2726,15 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
             <numerusform>%1, %n cambios no realizados</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, falta la frase de contraseña...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>En «%1» hay ahora otro sitio distinto de aquel del que esto es una copia. No se le ha enviado nada. Si el servidor se ha instalado de nuevo, pida a su administrador que restablezca el sitio.</translation>
     </message>
     <message>
@@ -2571,14 +2752,6 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>En esta copia del sitio «%1» se restauró una copia de seguridad, lo que no se puede comunicar a otros puestos. Ya no se comparte.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>La copia del sitio «%1» en este equipo no se puede leer ni escribir.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>El sitio «%1» no acepta lo que envía este puesto.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2645,6 +2818,83 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
         <source>Receiving: %1 of %2</source>
         <translation>Recibiendo: %1 de %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>El sitio «%1» presenta su pasado de otro modo que antes a este puesto: su historial se alteró en el servidor. Ya no se le envía ni se toma nada de él. Muestre esto a su administrador; la copia de este equipo tiene el historial tal como era.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>La copia del sitio «%1» en este equipo no se puede leer ni escribir. Compruebe que el disco funciona y tiene espacio, y vuelva a iniciar el programa.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>El servidor del sitio «%1» ha rechazado una petición de este equipo. Los cambios que aún no ha recibido se conservan aquí. Muestre a su administrador lo que ha respondido el servidor y vuelva a iniciar el programa cuando el problema esté resuelto.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Una nueva frase de contraseña para el sitio «%1»:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Otra vez:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>Las dos frases de contraseña no son iguales.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>La frase de contraseña del sitio «%1»:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>No se ha dado la frase de contraseña del sitio. Las contraseñas no se leen y no se pueden guardar. Escríbala en un terminal o defina la variable KO_SITE_PASSPHRASE.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>La clave no se puede conservar en este equipo, porque falta la clave de esta instalación. La próxima vez se le pedirá de nuevo la frase de contraseña.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>Esa no es la frase de contraseña del sitio.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Una frase de contraseña tiene al menos %n carácter.</numerusform>
+            <numerusform>Una frase de contraseña tiene al menos %n caracteres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>El sitio aún no tiene clave.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Otra persona acaba de cambiar la clave o su frase de contraseña. Pregunte cuál es la válida ahora.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Abrir la clave requiere más memoria de la que este equipo tiene o se le puede pedir.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Este sitio se creó antes de que sus puestos compartieran una clave. No se pueden guardar contraseñas hasta que su administrador lo actualice con koclient --share.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>Este equipo no tiene la clave de las contraseñas. Se muestran vacías y no se pueden guardar otras nuevas hasta que dé la frase de contraseña del sitio.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>El sitio aún no tiene una clave con la que sus puestos cifren las contraseñas. No se pueden guardar otras nuevas hasta que alguien la cree.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2655,6 +2905,57 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Conectando con «%1»...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Cambiar la frase de contraseña</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Frase de contraseña del sitio</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Las contraseñas de las cámaras de «%1» están cifradas con una clave que comparten sus puestos. Dé la frase de contraseña del sitio, una vez en este equipo. Sin ella, las contraseñas se muestran vacías y no se pueden guardar otras nuevas.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>El sitio «%1» aún no tiene una clave con la que sus puestos cifren las contraseñas de las cámaras. Piense una frase de contraseña de varias palabras y dígasela a todos los que deban verlas. El servidor nunca la recibe: si todos la olvidan, los puestos nuevos no pueden leer las contraseñas.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>Los puestos que tienen la clave de «%1» la conservan cuando solo cambia la frase de contraseña. Con una clave nueva, todas las contraseñas se cifran de nuevo y a cada puesto se le pide la nueva frase de contraseña: elija esto cuando se haya perdido un equipo.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Frase de contraseña:</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>Frase de contraseña ac&amp;tual:</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Nueva frase de contraseña:</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>&amp;Repetición:</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Crear también una cla&amp;ve nueva</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>Las dos frases de contraseña nuevas no son iguales.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Un momento...</translation>
     </message>
 </context>
 <context>
@@ -2690,6 +2991,17 @@ Sin la clave, las contraseñas guardadas se muestran vacías y no se pueden guar
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Hay cambios que no se han podido guardar. Se perderán si el programa se cierra ahora.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Base de datos de nodos</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Guardando cambios...</translation>
     </message>
 </context>
 <context>

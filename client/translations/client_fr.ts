@@ -77,11 +77,11 @@
         <translation>Base de données des nœuds</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>La base de données de nœuds « %1 » se trouve sur un lecteur réseau. Deux programmes qui l&apos;y utilisent en même temps peuvent l&apos;endommager. Déplacez-la sur un disque de cet ordinateur.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 ne concerne que les fenêtres, et aucune n&apos;est ouverte ici.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>La colonne « %1 » n&apos;est pas utilisée.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>%1 ajoutés, %2 mis à jour, %3 inchangés, %4 lignes avec erreurs</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 écrits</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>%1 sans nom ni adresse laissés de côté</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Utilise cette langue, par exemple de ou pt_BR, quel que soit le choix fait ailleurs.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Copie la base de données, qui peut être en cours d&apos;utilisation, dans un fichier et se termine.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Donne à la base de données, qui peut être en cours d&apos;utilisation, le contenu d&apos;une sauvegarde et se termine. Le contenu actuel est conservé comme sauvegarde.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>%1 ne peut pas être écrit.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Vérifie si quelqu&apos;un a modifié les journaux de la base de données, le signale et se termine.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>%1 détails retirés, jusqu&apos;à la modification numéro %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>Pas plus loin : l&apos;historique a été modifié. --verify-log indique quoi.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Retire de l&apos;historique ce qu&apos;il y avait avant et après chaque modification plus ancienne que ce nombre de jours, puis se termine. Qui a modifié quelque chose et quand reste.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history attend un nombre de jours.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>Ouvre cette base de données de nœuds : un fichier, créé s&apos;il n&apos;existe pas, ou une base partagée, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Transfère la base de données et son historique dans une base vide d&apos;un serveur, dont l&apos;adresse suit (postgresql://user@host/database), et se termine. Un nouvel appel reprend le transfert.</translation>
     </message>
     <message>
@@ -189,6 +185,13 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>Une sauvegarde ne peut pas être restaurée dans une base de données partagée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>%1 ajoutés, %2 mis à jour, %3 inchangés, %n ligne avec des erreurs</numerusform>
+            <numerusform>%1 ajoutés, %2 mis à jour, %3 inchangés, %n lignes avec des erreurs</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -434,6 +437,19 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Modifié entre-temps par %1 sur %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>Également en cours de modification par %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -446,7 +462,7 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>Ann&amp;uler</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Masquer cette ligne</translation>
     </message>
     <message>
@@ -642,7 +658,7 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>Restauration de la sauvegarde...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>La base de données a maintenant le contenu de « %1 ».</translation>
     </message>
     <message>
@@ -653,11 +669,11 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>Rien n&apos;en est lisible.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>%n nœud en est encore lisible.</numerusform>
             <numerusform>%n nœuds en sont encore lisibles.</numerusform>
@@ -733,6 +749,43 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>Déta&amp;ils</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Montre à côté de la liste ce qu&apos;est le nœud sélectionné</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Sélectionnez un nœud dans la liste pour voir ici ce que c&apos;est.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>%n nœud sélectionné</numerusform>
+            <numerusform>%n nœuds sélectionnés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>Ce qu&apos;a le premier :</numerusform>
+            <numerusform>Ce que les %n premiers ont en commun :</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>différent</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -799,10 +852,6 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <source>&amp;Give All the Same...</source>
         <translation>&amp;Donner les mêmes à tous...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Seuls les appareils IP peuvent être réglés ensemble. Sélectionnez les autres un par un.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -823,6 +872,17 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
             <numerusform>%n appareil : nom d&apos;utilisateur et mot de passe définis.</numerusform>
             <numerusform>%n appareils : nom d&apos;utilisateur et mot de passe définis.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n appareil)</numerusform>
+            <numerusform>%1 (%n appareils)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Seules les caméras IP peuvent être réglées ensemble. Sélectionnez les autres une par une.</translation>
     </message>
 </context>
 <context>
@@ -861,7 +921,7 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>Cette base de données ne contient encore rien.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Aucun nœud ne correspond.</translation>
     </message>
     <message>
@@ -892,11 +952,11 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>« %1 » a déjà cette adresse, ce port et ce canal.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>Faut-il enregistrer ainsi ?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>&amp;Enregistrer ainsi</translation>
     </message>
     <message>
@@ -945,7 +1005,7 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>Appareils interrogés</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>Réponses des appareils</translation>
     </message>
     <message numerus="yes">
@@ -960,11 +1020,11 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>Il n&apos;y a rien à remplir.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>Voici ce qu&apos;indiquent les appareils et qui n&apos;est pas encore enregistré. OK enregistre ce qui est coché.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n appareil n&apos;a rien indiqué :</numerusform>
             <numerusform>%n appareils n&apos;ont rien indiqué :</numerusform>
@@ -1230,10 +1290,6 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>L&apos;importation a été annulée. Ce qui a été ajouté jusque-là est conservé.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>%1 ajoutés, %2 mis à jour, %3 inchangés, %4 lignes avec erreurs.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Importer des caméras</translation>
     </message>
@@ -1246,10 +1302,6 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>L&apos;importation de cette liste ajouterait %1 appareils, en modifierait %2 et en laisserait %3 tels quels.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1258,7 +1310,7 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n ligne a peut-être un autre sens.</numerusform>
             <numerusform>%n lignes ont peut-être un autre sens.</numerusform>
@@ -1267,6 +1319,20 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>%1 ajoutés, %2 mis à jour, %3 inchangés, %n ligne avec des erreurs.</numerusform>
+            <numerusform>%1 ajoutés, %2 mis à jour, %3 inchangés, %n lignes avec des erreurs.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>L&apos;importation de cette liste ajouterait %n appareil, en modifierait %1 et en laisserait %2 tels quels.</numerusform>
+            <numerusform>L&apos;importation de cette liste ajouterait %n appareils, en modifierait %1 et en laisserait %2 tels quels.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1546,7 +1612,7 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>&amp;Accepter comme cette caméra...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Un autre appareil qu&apos;avant est désormais cette caméra</translation>
     </message>
     <message>
@@ -1644,10 +1710,6 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>Ce nœud n&apos;a pas d&apos;adresse. Celle des appareils se règle dans Nœud &gt; Modifier.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>La page web de %1 n&apos;a pas pu être ouverte.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1675,7 +1737,7 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>Aut&amp;oriser le mot de passe en clair...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>Les caméras qui ne l&apos;acceptent pas autrement reçoivent le mot de passe lisible par tous</translation>
     </message>
     <message>
@@ -1707,10 +1769,6 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>Ce qui a été fait aux nœuds sélectionnés</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Appareils : %1, autres nœuds : %2 ; affichés : %3, sélectionnés : %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>Re&amp;venir à...</translation>
     </message>
@@ -1729,10 +1787,6 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Montre ce qui serait fait à plusieurs nœuds avant de l&apos;enregistrer</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Seuls des nœuds d&apos;un même type peuvent être modifiés ensemble.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1778,7 +1832,7 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>Res&amp;taurer...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Donne à la base de données des nœuds le contenu d&apos;une sauvegarde</translation>
     </message>
     <message>
@@ -1804,6 +1858,22 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - Base de données des nœuds</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Appareils : %1, autres nœuds : %2 ; affichés : %3, sélectionnés : %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>« %1 » a été modifié.</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Seuls des nœuds d&apos;un même type peuvent être modifiés ensemble. « Type », au-dessus de la liste, montre ceux d&apos;un type.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>La page web de %1 n&apos;a pas pu être ouverte. Choisissez un navigateur dans les paramètres de votre bureau.</translation>
     </message>
 </context>
 <context>
@@ -1854,6 +1924,10 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>C&apos;est ce que les « Propriétés » montrent comme adresse IP d&apos;usine de la caméra. « Nœud &gt; Remplir » de la fenêtre principale la demande à la caméra.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Saisissez un chemin, ou appuyez sur « Plus... » et choisissez un des dossiers.</translation>
     </message>
 </context>
 <context>
@@ -1931,7 +2005,7 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>Propriétés :</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Nœuds d&apos;alors</translation>
     </message>
     <message>
@@ -1939,7 +2013,7 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>Propriétés alors et maintenant</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>Part lue de ce qui a été fait depuis</translation>
     </message>
     <message>
@@ -1949,10 +2023,6 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Put Back Selected...</source>
         <translation>Remettre en l&apos;état la sélection...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Alors %1 nœuds, %2 différents maintenant ; %3 affichés</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -1977,6 +2047,13 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Put back: %1</source>
         <translation>Remis en l&apos;état : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Alors %n nœud, %1 différents maintenant ; %2 affichés</numerusform>
+            <numerusform>Alors %n nœuds, %1 différents maintenant ; %2 affichés</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2081,6 +2158,10 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>Tags</source>
         <translation>Étiquettes</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Dernière modification</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2158,7 +2239,7 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>Emplacement et étiquettes</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>Où se trouve l&apos;appareil sélectionné (%n) ? Écrivez-le de l&apos;extérieur vers l&apos;intérieur, séparé par une barre oblique : Site/Bâtiment/Étage. Les étiquettes sont séparées par des virgules.</numerusform>
             <numerusform>Où se trouvent les %n appareils sélectionnés ? Écrivez-le de l&apos;extérieur vers l&apos;intérieur, séparé par une barre oblique : Site/Bâtiment/Étage. Les étiquettes sont séparées par des virgules.</numerusform>
@@ -2261,7 +2342,7 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>Site/bâtiment/étage :</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Étiquettes, séparées par des virgules :</translation>
     </message>
 </context>
@@ -2332,6 +2413,17 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>Ce qui a été modifié</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Lecture de ce qui a été modifié...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2384,6 +2476,76 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Supprimer aussi les &amp;dossiers d&apos;enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>&amp;Recherches enregistrées</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Recherches enregistrées</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Les recherches qui ont un nom, et un nom pour celle-ci</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>&amp;Enregistrer cette recherche...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Donne un nom à ce qui est recherché maintenant</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>&amp;Renommer ou supprimer...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Donne d&apos;autres noms aux recherches enregistrées, et les supprime</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Enregistrer la recherche</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Nom (un nom existant reçoit cette recherche) :</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Recherches enregistrées</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Recherches enregistrées</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Re&amp;nommer</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Supprimer...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Il y a déjà une recherche de ce nom, ou le nom est vide. Il est resté tel quel.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>Supprimer la recherche « %1 » ? Les nœuds qu&apos;elle trouve restent.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Supprimer</translation>
     </message>
 </context>
 <context>
@@ -2472,16 +2634,27 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <translation>« %1 » appartient à un autre site que « %2 ».</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>%1 lignes et leur historique sont dans « %2 », identiques à celles d&apos;ici.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>Le site diffère du fichier : %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>Le fichier ou le site change sans cesse ; ils n&apos;ont pas pu être comparés.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n ligne avec son historique est dans « %1 », identique à celle d&apos;ici.</numerusform>
+            <numerusform>%n lignes avec leur historique sont dans « %1 », identiques à celles d&apos;ici.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>« %1 » contient des mots de passe d&apos;une version plus ancienne qui ne sont pas encore chiffrés, parce que la clé de cette installation manque. Remettez-la d&apos;abord en place.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>« %1 » contient des mots de passe, qui demandent la clé du site. Rien n&apos;a été envoyé.</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2712,10 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>Fermer cette fenêtre et créer une nouvelle copie de ce qui est maintenant sur le serveur ? Les modifications non envoyées n&apos;y sont pas ; la copie actuelle, qui les contient, reste dans le dossier « %1 ».</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Phrase secrète...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2549,11 +2726,15 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
             <numerusform>%1, %n modifications non effectuées</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, phrase secrète requise...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>À « %1 » se trouve maintenant un autre site que celui dont ceci est une copie. Rien ne lui a été envoyé. Si le serveur a été réinstallé, demandez à son administrateur de rétablir le site.</translation>
     </message>
     <message>
@@ -2571,14 +2752,6 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>Une sauvegarde a été restaurée dans cette copie du site « %1 », ce qui ne peut pas être communiqué aux autres postes. Elle n&apos;est plus partagée.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>La copie du site « %1 » sur cet ordinateur ne peut être ni lue ni écrite.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>Le site « %1 » n&apos;accepte pas ce que ce poste envoie.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2645,6 +2818,83 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
         <source>Receiving: %1 of %2</source>
         <translation>Réception : %1 sur %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>Le site « %1 » présente son passé autrement qu&apos;il ne l&apos;avait présenté à ce poste : son historique a été modifié sur le serveur. Plus rien ne lui est envoyé ni n&apos;en est repris. Montrez ceci à son administrateur ; la copie sur cet ordinateur contient l&apos;historique tel qu&apos;il était.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>La copie du site « %1 » sur cet ordinateur ne peut être ni lue ni écrite. Vérifiez que le disque fonctionne et qu&apos;il reste de la place, puis redémarrez le programme.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>Le serveur du site « %1 » a refusé une requête de cet ordinateur. Les modifications qu&apos;il n&apos;a pas encore reçues sont conservées ici. Montrez à son administrateur ce que le serveur a répondu, et redémarrez le programme une fois le problème résolu.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Une nouvelle phrase secrète pour le site « %1 » :</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Encore une fois :</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>Les deux phrases secrètes ne sont pas identiques.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>La phrase secrète du site « %1 » :</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>La phrase secrète du site n&apos;est pas donnée. Les mots de passe ne sont pas lus et ne peuvent pas être enregistrés. Saisissez-la dans un terminal, ou définissez la variable KO_SITE_PASSPHRASE.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>La clé ne peut pas être conservée sur cet ordinateur, parce que la clé de cette installation manque. La phrase secrète vous sera redemandée la prochaine fois.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>Ce n&apos;est pas la phrase secrète du site.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Une phrase secrète a au moins %n caractère.</numerusform>
+            <numerusform>Une phrase secrète a au moins %n caractères.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>Le site n&apos;a pas encore de clé.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Quelqu&apos;un d&apos;autre vient de changer la clé ou sa phrase secrète. Demandez laquelle est valable maintenant.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Ouvrir la clé demande plus de mémoire que cet ordinateur n&apos;en a ou qu&apos;on ne peut lui en demander.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Ce site a été créé avant que ses postes ne partagent une clé. Les mots de passe ne peuvent pas être enregistrés tant que son administrateur ne l&apos;a pas mis à jour par koclient --share.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>Cet ordinateur n&apos;a pas la clé des mots de passe. Ils sont affichés vides et de nouveaux ne peuvent pas être enregistrés tant que vous n&apos;avez pas donné la phrase secrète du site.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>Le site n&apos;a pas encore de clé avec laquelle ses postes chiffrent les mots de passe. De nouveaux ne peuvent pas être enregistrés tant que personne ne la crée.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2655,6 +2905,57 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Connexion à « %1 »...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Changer la phrase secrète</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Phrase secrète du site</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Les mots de passe des caméras de « %1 » sont chiffrés avec une clé que ses postes partagent. Donnez la phrase secrète du site, une fois sur cet ordinateur. Sans elle, les mots de passe sont affichés vides et de nouveaux ne peuvent pas être enregistrés.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>Le site « %1 » n&apos;a pas encore de clé avec laquelle ses postes chiffrent les mots de passe des caméras. Trouvez une phrase secrète de plusieurs mots, et dites-la à tous ceux qui doivent les voir. Le serveur ne la reçoit jamais : si tous l&apos;oublient, de nouveaux postes ne peuvent pas lire les mots de passe.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>Les postes qui ont la clé de « %1 » la gardent quand seule la phrase secrète change. Avec une nouvelle clé, tous les mots de passe sont chiffrés à nouveau, et la nouvelle phrase secrète est demandée à chaque poste : choisissez cela quand un ordinateur a été perdu.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Phrase secrète :</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>Phrase secrète &amp;présente :</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Nouvelle phrase secrète :</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>&amp;Encore une fois :</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Créer aussi une nouvelle &amp;clé</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>Les deux nouvelles phrases secrètes ne sont pas identiques.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Un instant...</translation>
     </message>
 </context>
 <context>
@@ -2690,6 +2991,17 @@ Sans la clé, les mots de passe enregistrés sont affichés vides et de nouveaux
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Certaines modifications n&apos;ont pas pu être enregistrées. Elles sont perdues si le programme est fermé maintenant.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Base de données des nœuds</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Enregistrement des modifications...</translation>
     </message>
 </context>
 <context>

@@ -77,11 +77,11 @@
         <translation>Database dei nodi</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>Il database dei nodi &quot;%1&quot; si trova su un&apos;unità di rete. Due programmi che lo usano lì contemporaneamente possono danneggiarlo. Spostarlo su un disco di questo computer.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 vale per le finestre, e qui non ne viene aperta nessuna.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>La colonna &quot;%1&quot; non viene usata.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>%1 aggiunte, %2 aggiornate, %3 invariate, %4 righe con errori</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 scritte</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>%1 senza nome e indirizzo escluse</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Usa questa lingua, ad esempio de o pt_BR, qualunque sia quella scelta altrove.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Copia il database, che può essere in uso, in un file e termina.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Dà al database, che può essere in uso, il contenuto di un backup e termina. Il contenuto attuale viene conservato come backup.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>Impossibile scrivere %1.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Controlla se qualcuno ha modificato i registri del database, indica che cosa e termina.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>%1 dettagli tolti, fino alla modifica numero %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>Non oltre: la cronologia è stata modificata. --verify-log indica che cosa.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Toglie dalla cronologia ciò che c&apos;era prima e dopo ogni modifica più vecchia di tanti giorni e termina. Chi ha modificato qualcosa e quando rimane.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history richiede un numero di giorni.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>Apre questo database dei nodi: un file, che viene creato se non esiste, o uno condiviso, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Porta il database con la sua cronologia in uno vuoto su un server, il cui indirizzo segue (postgresql://user@host/database), e termina. Richiamato, prosegue.</translation>
     </message>
     <message>
@@ -189,6 +185,13 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>Non si può ripristinare un backup in un database condiviso.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>%1 aggiunte, %2 aggiornate, %3 invariate, %n riga con errori</numerusform>
+            <numerusform>%1 aggiunte, %2 aggiornate, %3 invariate, %n righe con errori</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -434,6 +437,19 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Modificato nel frattempo da %1 su %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 su %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>In questo momento anche in modifica da parte di %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -446,7 +462,7 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>Annu&amp;lla</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Nascondi questa riga</translation>
     </message>
     <message>
@@ -642,7 +658,7 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>Ripristino del backup...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>Il database ha ora il contenuto di &quot;%1&quot;.</translation>
     </message>
     <message>
@@ -653,11 +669,11 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>Non se ne può leggere nulla.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>Se ne può ancora leggere %n nodo.</numerusform>
             <numerusform>Se ne possono ancora leggere %n nodi.</numerusform>
@@ -733,6 +749,43 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Dettagli</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>D&amp;ettagli</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Mostra accanto all&apos;elenco che cos&apos;è il nodo selezionato</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Selezionare un nodo nell&apos;elenco per vedere qui che cos&apos;è.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>%n nodo selezionato</numerusform>
+            <numerusform>%n nodi selezionati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>Che cosa ha il primo:</numerusform>
+            <numerusform>Che cosa hanno in comune i primi %n:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>diverso</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -799,10 +852,6 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <source>&amp;Give All the Same...</source>
         <translation>&amp;Dai gli stessi a tutti...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Solo i dispositivi IP possono essere impostati insieme. Selezionare gli altri uno alla volta.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -823,6 +872,17 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
             <numerusform>%n dispositivo: nome utente e password impostati.</numerusform>
             <numerusform>%n dispositivi: nome utente e password impostati.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n dispositivo)</numerusform>
+            <numerusform>%1 (%n dispositivi)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Solo le telecamere IP possono essere impostate insieme. Selezionare le altre una alla volta.</translation>
     </message>
 </context>
 <context>
@@ -861,7 +921,7 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>In questo database non c&apos;è ancora nulla.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Nessun nodo corrisponde.</translation>
     </message>
     <message>
@@ -892,11 +952,11 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>&quot;%1&quot; ha già questo indirizzo, questa porta e questo canale.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>Salvare così?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>&amp;Salva così</translation>
     </message>
     <message>
@@ -945,7 +1005,7 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>Dispositivi interrogati</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>Risposte dei dispositivi</translation>
     </message>
     <message numerus="yes">
@@ -960,11 +1020,11 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>Non c&apos;è nulla da compilare.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>Questo è ciò che indicano i dispositivi e che non è ancora salvato. OK salva ciò che è selezionato.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n dispositivo non ha indicato nulla:</numerusform>
             <numerusform>%n dispositivi non hanno indicato nulla:</numerusform>
@@ -1230,10 +1290,6 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>L&apos;importazione è stata annullata. Ciò che era stato aggiunto rimane.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>%1 aggiunte, %2 aggiornate, %3 invariate, %4 righe con errori.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Importa telecamere</translation>
     </message>
@@ -1246,10 +1302,6 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>L&apos;importazione di questo elenco aggiungerebbe %1 dispositivi, ne modificherebbe %2 e ne lascerebbe %3 come sono.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1258,7 +1310,7 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n riga forse intende altro.</numerusform>
             <numerusform>%n righe forse intendono altro.</numerusform>
@@ -1267,6 +1319,20 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importa</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>%1 aggiunte, %2 aggiornate, %3 invariate, %n riga con errori.</numerusform>
+            <numerusform>%1 aggiunte, %2 aggiornate, %3 invariate, %n righe con errori.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>L&apos;importazione di questo elenco aggiungerebbe %n dispositivo, ne modificherebbe %1 e ne lascerebbe %2 come sono.</numerusform>
+            <numerusform>L&apos;importazione di questo elenco aggiungerebbe %n dispositivi, ne modificherebbe %1 e ne lascerebbe %2 come sono.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1546,7 +1612,7 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Acce&amp;tta come questa telecamera...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Un dispositivo diverso da prima è d&apos;ora in poi questa telecamera</translation>
     </message>
     <message>
@@ -1644,10 +1710,6 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>Questo nodo non ha un indirizzo. Quello dei dispositivi si imposta in Nodo &gt; Modifica.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>Impossibile aprire la pagina web di %1.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1675,7 +1737,7 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Consenti password &amp;in chiaro...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>Alle telecamere che non la accettano altrimenti la password è inviata leggibile da tutti</translation>
     </message>
     <message>
@@ -1707,10 +1769,6 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Che cosa è stato fatto ai nodi selezionati</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Dispositivi: %1, altri nodi: %2; mostrati: %3, selezionati: %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>&amp;Torna a...</translation>
     </message>
@@ -1729,10 +1787,6 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Mostra ciò che si farebbe a più nodi prima di salvarlo</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Si possono modificare insieme solo nodi dello stesso tipo.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1778,7 +1832,7 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Ripris&amp;tina...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Dà al database dei nodi il contenuto di un backup</translation>
     </message>
     <message>
@@ -1804,6 +1858,22 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - Database dei nodi</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Dispositivi: %1, altri nodi: %2; mostrati: %3, selezionati: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>&quot;%1&quot; è stato modificato.</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Si possono modificare insieme solo nodi dello stesso tipo. &quot;Tipo&quot;, sopra l&apos;elenco, mostra quelli di uno.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>Impossibile aprire la pagina web di %1. Scegliere un browser nelle impostazioni del desktop.</translation>
     </message>
 </context>
 <context>
@@ -1854,6 +1924,10 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>È ciò che &quot;Proprietà&quot; mostra come indirizzo IP di fabbrica della telecamera. &quot;Nodo &gt; Compila&quot; della finestra principale lo chiede alla telecamera.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Digitare un percorso, oppure premere &quot;Altro...&quot; e scegliere una delle cartelle.</translation>
     </message>
 </context>
 <context>
@@ -1931,7 +2005,7 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Proprietà:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Nodi di allora</translation>
     </message>
     <message>
@@ -1939,7 +2013,7 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Proprietà allora e ora</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>Quanto è stato letto di ciò che è stato fatto da allora</translation>
     </message>
     <message>
@@ -1949,10 +2023,6 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Put Back Selected...</source>
         <translation>Ripristina la selezione...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Allora %1 nodi, %2 ora diversi; %3 mostrati</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -1977,6 +2047,13 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Put back: %1</source>
         <translation>Ripristinato: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Allora %n nodo, %1 ora diversi; %2 mostrati</numerusform>
+            <numerusform>Allora %n nodi, %1 ora diversi; %2 mostrati</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2081,6 +2158,10 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>Tags</source>
         <translation>Etichette</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Ultima modifica</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2158,7 +2239,7 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Posizione ed etichette</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>Dov&apos;è il dispositivo selezionato? Scriverlo dall&apos;esterno all&apos;interno, separato da una barra: Sito/Edificio/Piano. Le etichette sono separate da virgole.</numerusform>
             <numerusform>Dove sono i %n dispositivi selezionati? Scriverlo dall&apos;esterno all&apos;interno, separato da una barra: Sito/Edificio/Piano. Le etichette sono separate da virgole.</numerusform>
@@ -2261,7 +2342,7 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>Sito/edificio/piano:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Etichette, separate da virgole:</translation>
     </message>
 </context>
@@ -2332,6 +2413,17 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>Che cosa è cambiato</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Lettura di ciò che è cambiato...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2384,6 +2476,76 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Rimuovi anche le &amp;cartelle di registrazione</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>Ricerche &amp;salvate</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Ricerche salvate</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Le ricerche che hanno un nome, e un nome per questa</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>&amp;Salva questa ricerca...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Dà un nome a ciò che si cerca ora</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>&amp;Rinomina o rimuovi...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Dà altri nomi alle ricerche salvate, e le rimuove</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Salva ricerca</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Nome (uno che esiste già riceve questa ricerca):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Ricerche salvate</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Ricerche salvate</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Ri&amp;nomina</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Rimuovi...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Esiste già una ricerca con questo nome, oppure il nome è vuoto. È rimasto com&apos;era.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>Rimuovere la ricerca &quot;%1&quot;? I nodi che trova restano.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
     </message>
 </context>
 <context>
@@ -2472,16 +2634,27 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <translation>&quot;%1&quot; appartiene a un sito diverso da &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>%1 righe e la loro cronologia sono in &quot;%2&quot;, uguali a quelle di qui.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>Il sito differisce dal file: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>Il file o il sito cambia di continuo, quindi non è stato possibile confrontarli.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n riga con la sua cronologia è in &quot;%1&quot;, uguale a quella di qui.</numerusform>
+            <numerusform>%n righe con la loro cronologia sono in &quot;%1&quot;, uguali a quelle di qui.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>&quot;%1&quot; contiene password di una versione precedente non ancora cifrate, perché manca la chiave di questa installazione. Ripristinarla prima.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>&quot;%1&quot; contiene password, che richiedono la chiave del sito. Non è stato inviato nulla.</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2712,10 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>Chiudere questa finestra e creare una nuova copia di ciò che ora è sul server? Le modifiche non inviate non vi sono; la copia attuale, che le contiene, resta nella cartella &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Passphrase...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2549,11 +2726,15 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
             <numerusform>%1, %n modifiche non eseguite</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, passphrase necessaria...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>In &quot;%1&quot; ora c&apos;è un sito diverso da quello di cui questa è una copia. Non gli è stato inviato nulla. Se il server è stato reinstallato, chiedere al suo amministratore di ripristinare il sito.</translation>
     </message>
     <message>
@@ -2571,14 +2752,6 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>In questa copia del sito &quot;%1&quot; è stato ripristinato un backup, cosa che non si può comunicare alle altre postazioni. Non è più condivisa.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>La copia del sito &quot;%1&quot; su questo computer non può essere letta o scritta.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>Il sito &quot;%1&quot; non accetta ciò che questa postazione invia.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2645,6 +2818,83 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
         <source>Receiving: %1 of %2</source>
         <translation>Ricezione: %1 di %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>Il sito &quot;%1&quot; presenta il suo passato diversamente da come lo aveva presentato a questa postazione: la sua cronologia è stata alterata sul server. Non gli viene più inviato nulla e nulla viene più ripreso da esso. Mostrare questo messaggio al suo amministratore; la copia su questo computer ha la cronologia com&apos;era.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>La copia del sito &quot;%1&quot; su questo computer non può essere letta o scritta. Verificare che il disco funzioni e abbia spazio, quindi riavviare il programma.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>Il server del sito &quot;%1&quot; ha rifiutato una richiesta di questo computer. Le modifiche che non ha ancora ricevuto sono conservate qui. Mostrare al suo amministratore la risposta del server e riavviare il programma quando il problema è risolto.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Una nuova passphrase per il sito &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Di nuovo:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>Le due passphrase non sono uguali.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>La passphrase del sito &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>La passphrase del sito non è stata indicata. Le password non vengono lette e non possono essere salvate. Digitarla in un terminale o impostare la variabile KO_SITE_PASSPHRASE.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>La chiave non può essere conservata su questo computer, perché manca la chiave di questa installazione. La prossima volta la passphrase verrà chiesta di nuovo.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>Questa non è la passphrase del sito.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Una passphrase ha almeno %n carattere.</numerusform>
+            <numerusform>Una passphrase ha almeno %n caratteri.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>Il sito non ha ancora una chiave.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Qualcun altro ha appena cambiato la chiave o la sua passphrase. Chiedere quale passphrase vale ora.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Per aprire la chiave serve più memoria di quanta questo computer ne abbia o gliene si possa chiedere.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Questo sito è stato creato prima che le sue postazioni condividessero una chiave. Le password non possono essere salvate finché il suo amministratore non lo aggiorna con koclient --share.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>Questo computer non ha la chiave delle password. Appaiono vuote e non se ne possono salvare di nuove finché non si indica la passphrase del sito.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>Il sito non ha ancora una chiave con cui le sue postazioni cifrano le password. Non se ne possono salvare di nuove finché qualcuno non la crea.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2655,6 +2905,57 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Connessione a &quot;%1&quot;...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Cambia passphrase</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Passphrase del sito</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Le password delle telecamere di &quot;%1&quot; sono cifrate con una chiave che le sue postazioni condividono. Indicare la passphrase del sito, una volta su questo computer. Senza di essa le password appaiono vuote e non se ne possono salvare di nuove.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>Il sito &quot;%1&quot; non ha ancora una chiave con cui le sue postazioni cifrano le password delle telecamere. Pensare a una passphrase di più parole e comunicarla a tutti coloro che devono vederle. Il server non la riceve mai: se tutti la dimenticano, le nuove postazioni non possono leggere le password.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>Le postazioni che hanno la chiave di &quot;%1&quot; la conservano quando cambia solo la passphrase. Con una nuova chiave tutte le password vengono cifrate di nuovo e a ogni postazione viene chiesta la nuova passphrase: sceglierlo quando un computer è andato perduto.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Passphrase:</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>&amp;Passphrase attuale:</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Nuova passphrase:</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>&amp;Ripetizione:</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Crea anche una nuova &amp;chiave</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>Le due nuove passphrase non sono uguali.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Un momento...</translation>
     </message>
 </context>
 <context>
@@ -2690,6 +2991,17 @@ Senza la chiave le password salvate appaiono vuote e non se ne possono salvare d
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Alcune modifiche non sono state salvate. Se il programma viene chiuso ora, vanno perse.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Database dei nodi</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Salvataggio delle modifiche...</translation>
     </message>
 </context>
 <context>

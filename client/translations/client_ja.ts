@@ -77,11 +77,11 @@
         <translation>ノードデータベース</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>ノードデータベース「%1」はネットワークドライブ上にあります。2つのプログラムが同時に使用すると破損するおそれがあります。このコンピューターのディスクに移動してください。</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1はウィンドウ用のオプションですが、ウィンドウは開かれません。</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>列「%1」は使用されません。</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>追加%1、更新%2、変更なし%3、エラーのある行%4</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1件を書き込みました</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>名前もアドレスもない%1件を除外しました</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>ほかの設定に関係なく、この言語 (deやpt_BRなど) を使用します。</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>データベース (使用中でも可) をファイルにコピーして終了します。</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>データベース (使用中でも可) をバックアップの内容に置き換えて終了します。現在の内容はバックアップとして残ります。</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>%1 に書き込めません。</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>データベースのログが書き換えられていないかを調べ、結果を表示して終了します。</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>詳細を%1件取り除きました(変更番号%2まで)</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>ここまでです: 履歴が書き換えられています。--verify-log で内容を確認できます。</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>指定した日数より古い変更について、変更前と変更後の値を履歴から取り除いて終了します。誰がいつ変更したかは残ります。</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history には日数を指定します。</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>このノードデータベースを開きます。ファイル (ない場合は作成) または共有データベース (postgresql://user@host/database) を指定します。</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>データベースを履歴とともに、続けて指定するアドレス (postgresql://user@host/database) のサーバー上の空のデータベースへ移して終了します。再度呼び出すと続きから行います。</translation>
     </message>
     <message>
@@ -189,6 +185,12 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>共有データベースにバックアップを復元することはできません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>追加%1、更新%2、変更なし%3、エラーのある行%n</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -430,6 +432,19 @@ Without an option that does something and ends, such as --import, it opens a win
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>この間に%1 (%2) が変更しました。</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>現在、%1 も編集中です。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>、</translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -442,7 +457,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>キャンセル(&amp;L)</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>この行を消す</translation>
     </message>
     <message>
@@ -637,7 +652,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>バックアップを復元しています...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>データベースは「%1」の内容になりました。</translation>
     </message>
     <message>
@@ -648,11 +663,11 @@ Without an option that does something and ends, such as --import, it opens a win
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>読み取れるものはありません。</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>%n個のノードはまだ読み取れます。</numerusform>
         </translation>
@@ -727,6 +742,41 @@ Without an option that does something and ends, such as --import, it opens a win
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>詳細(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>選択したノードの内容をリストの横に表示します</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>リストでノードを選択すると、ここに内容が表示されます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>%n個のノードを選択中</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>最初の%n個に共通するもの:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>異なる</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -791,10 +841,6 @@ Without an option that does something and ends, such as --import, it opens a win
         <source>&amp;Give All the Same...</source>
         <translation>すべて同じにする(&amp;G)...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>まとめて設定できるのはIPデバイスだけです。その他は1つずつ選択してください。</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -812,6 +858,16 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>
             <numerusform>%n台のデバイス: ユーザー名とパスワードを設定しました。</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (デバイス%n台)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>まとめて設定できるのはIPカメラだけです。その他は1つずつ選択してください。</translation>
     </message>
 </context>
 <context>
@@ -849,7 +905,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>このデータベースにはまだ何もありません。</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>該当するノードはありません。</translation>
     </message>
     <message>
@@ -880,11 +936,11 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>「%1」がすでにこのアドレス、ポート、チャンネルを使っています。</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>このまま保存しますか?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>このまま保存(&amp;S)</translation>
     </message>
     <message>
@@ -933,7 +989,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>問い合わせたデバイス</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>デバイスからの情報</translation>
     </message>
     <message numerus="yes">
@@ -947,11 +1003,11 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>入力できる項目はありません。</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>デバイスから得られた、まだ保存されていない情報です。OKを押すと、チェックした項目が保存されます。</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n台のデバイスから情報が得られませんでした:</numerusform>
         </translation>
@@ -1213,10 +1269,6 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>インポートはキャンセルされました。それまでに追加されたものは残ります。</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>追加%1、更新%2、変更なし%3、エラーのある行%4。</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>カメラのインポート</translation>
     </message>
@@ -1229,10 +1281,6 @@ Without an option that does something and ends, such as --import, it opens a win
         <comment>between the parts of a list</comment>
         <translation>、</translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>このリストをインポートすると、%1台のデバイスを追加、%2台を変更し、%3台はそのままになります。</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1240,7 +1288,7 @@ Without an option that does something and ends, such as --import, it opens a win
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n行は意図と異なる可能性があります。</numerusform>
         </translation>
@@ -1248,6 +1296,18 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>&amp;Import</source>
         <translation>インポート(&amp;I)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>追加%1、更新%2、変更なし%3、エラーのある行%n。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>このリストをインポートすると、%n台のデバイスを追加、%1台を変更し、%2台はそのままになります。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1526,7 +1586,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>このカメラとして承認(&amp;A)...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>以前と別のデバイスを、今後このカメラとして扱います</translation>
     </message>
     <message>
@@ -1623,10 +1683,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>このノードにはアドレスがありません。デバイスのアドレスは「ノード &gt; 編集」で設定します。</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>%1のWebページを開けませんでした。</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1652,7 +1708,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>平文パスワードを許可(&amp;L)...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>ほかの方法では受け付けないカメラに、誰でも読める形でパスワードを送信します</translation>
     </message>
     <message>
@@ -1684,10 +1740,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>選択したノードに行われた操作</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>デバイス%1、その他のノード%2、表示%3、選択%4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>過去の状態(&amp;B)...</translation>
     </message>
@@ -1706,10 +1758,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>複数のノードに行われる変更を、保存する前に表示します</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>まとめて編集できるのは同じ種類のノードだけです。</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1754,7 +1802,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>復元(&amp;T)...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>ノードデータベースをバックアップの内容に戻します</translation>
     </message>
     <message>
@@ -1780,6 +1828,22 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - ノードデータベース</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>デバイス%1、その他のノード%2、表示%3、選択%4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>「%1」を変更しました。</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>まとめて編集できるのは同じ種類のノードだけです。リストの上の「種類」で1つの種類だけを表示できます。</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>%1のWebページを開けませんでした。デスクトップの設定でブラウザーを選択してください。</translation>
     </message>
 </context>
 <context>
@@ -1830,6 +1894,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>「プロパティ」でカメラの工場出荷時のIPアドレスとして表示されるものです。メインウィンドウの「ノード &gt; 自動入力」でカメラに問い合わせます。</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>パスを入力するか、「詳細...」を押してフォルダーを選択してください。</translation>
     </message>
 </context>
 <context>
@@ -1907,7 +1975,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>プロパティ:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>当時のノード</translation>
     </message>
     <message>
@@ -1915,7 +1983,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>当時と現在のプロパティ</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>その後の操作の読み込み状況</translation>
     </message>
     <message>
@@ -1925,10 +1993,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Put Back Selected...</source>
         <translation>選択項目を元に戻す...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>当時のノード %1、現在と異なるもの %2、表示 %3</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -1952,6 +2016,12 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Put back: %1</source>
         <translation>元に戻しました: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>当時のノード %n、現在と異なるもの %1、表示 %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2055,6 +2125,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Tags</source>
         <translation>タグ</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>最終変更</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2130,7 +2204,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>場所とタグ</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>選択した%n台のデバイスはどこにありますか? 外側から内側へ、スラッシュで区切って書きます: サイト/建物/階。タグはコンマで区切ります。</numerusform>
         </translation>
@@ -2232,7 +2306,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>サイト/建物/階:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>タグ(コンマ区切り):</translation>
     </message>
 </context>
@@ -2303,6 +2377,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>変更された内容</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>変更された内容を読み込んでいます...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2353,6 +2438,76 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>録画フォルダーも削除(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>保存した検索(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>保存した検索</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>名前を付けた検索と、この検索への名前付け</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>この検索を保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>現在の検索に名前を付けます</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>名前の変更または削除(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>保存した検索の名前を変更し、削除します</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>検索を保存</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>名前(既存の名前はこの検索に置き換わります):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>保存した検索</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>保存した検索</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>名前の変更(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>削除(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>この名前の検索がすでにあるか、名前が空です。元のままにしました。</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>検索「%1」を削除しますか?見つかるノードは残ります。</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>削除(&amp;R)</translation>
     </message>
 </context>
 <context>
@@ -2438,16 +2593,26 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>「%1」は「%2」とは別のサイトのものです。</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>%1行とその履歴が「%2」にあり、こちらと同じ内容です。</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>サイトとファイルの内容が異なります: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>ファイルまたはサイトが変更され続けているため、比較できませんでした。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n行とその履歴が「%1」にあり、こちらと同じ内容です。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>「%1」には、このインストールのキーがないためまだ暗号化されていない、古いバージョンのパスワードがあります。先にキーを戻してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>「%1」にはサイトのキーが必要なパスワードがあります。何も送信されませんでした。</translation>
     </message>
 </context>
 <context>
@@ -2505,6 +2670,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>このウィンドウを閉じて、サーバーの現在の内容から新しいコピーを作成しますか。未送信の変更は含まれません。変更を含む現在のコピーはフォルダー「%1」に残ります。</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>パスフレーズ(&amp;P)...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2514,11 +2683,15 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
             <numerusform>%1、%n件の変更を反映できませんでした</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1、パスフレーズが必要です...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>「%1」には現在、このコピーの元とは別のサイトがあります。何も送信されていません。サーバーが新しく設定された場合は、管理者に元のサイトの復旧を依頼してください。</translation>
     </message>
     <message>
@@ -2536,14 +2709,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>サイト「%1」のこのコピーにはバックアップが復元されたため、他の端末へ伝えられません。共有は停止されました。</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>このコンピューター上のサイト「%1」のコピーを読み書きできません。</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>サイト「%1」はこの端末から送信された内容を受け付けません。</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2607,6 +2772,82 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Receiving: %1 of %2</source>
         <translation>受信中: %1/%2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>サイト「%1」の過去の内容が、以前この端末に伝えられたものと異なります。サーバー上で履歴が改変されています。以後、このサイトとの送受信は行われません。管理者にこの表示を見せてください。このコンピューターのコピーには元の履歴が残っています。</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>このコンピューター上のサイト「%1」のコピーを読み書きできません。ディスクが正常で空きがあることを確認し、プログラムを再起動してください。</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>サイト「%1」のサーバーがこのコンピューターからの要求を拒否しました。サーバーがまだ受け取っていない変更はここに保存されています。サーバーの応答を管理者に見せ、問題が解決したらプログラムを再起動してください。</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>サイト「%1」の新しいパスフレーズ:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>もう一度:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>2つのパスフレーズが一致しません。</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>サイト「%1」のパスフレーズ:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>サイトのパスフレーズが指定されていません。パスワードは読み取られず、保存もできません。端末で入力するか、変数KO_SITE_PASSPHRASEを設定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>このインストールのキーがないため、このコンピューターにキーを保管できません。次回もパスフレーズの入力が必要です。</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>それはサイトのパスフレーズではありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>パスフレーズは%n文字以上にしてください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>サイトにはまだキーがありません。</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>ちょうど今、ほかのユーザーがキーまたはパスフレーズを変更しました。現在有効なパスフレーズを確認してください。</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>キーを開くには、このコンピューターにある、または要求できる量を超えるメモリが必要です。</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>このサイトは、端末がキーを共有する前に作られました。管理者がkoclient --shareで更新するまで、パスワードは保存できません。</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>このコンピューターにはパスワードのキーがありません。サイトのパスフレーズを入力するまで、パスワードは空で表示され、新しいパスワードは保存できません。</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>サイトには、端末がパスワードを暗号化するためのキーがまだありません。だれかがキーを作るまで、新しいパスワードは保存できません。</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2617,6 +2858,57 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>「%1」に接続中...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>パスフレーズの変更</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>サイトのパスフレーズ</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>「%1」のカメラのパスワードは、端末が共有するキーで暗号化されています。このコンピューターで一度だけ、サイトのパスフレーズを入力してください。入力しないと、パスワードは空で表示され、新しいパスワードは保存できません。</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>サイト「%1」には、端末がカメラのパスワードを暗号化するためのキーがまだありません。複数の語からなるパスフレーズを考え、パスワードを見てよい人全員に伝えてください。サーバーには送られません。全員が忘れると、新しい端末はパスワードを読み取れません。</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>パスフレーズだけを変更した場合、「%1」のキーを持つ端末はそのまま使えます。新しいキーにすると、すべてのパスワードが改めて暗号化され、各端末で新しいパスフレーズの入力が必要になります。コンピューターを紛失したときに選んでください。</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>パスフレーズ(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>現在のパスフレーズ(&amp;P):</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>新しいパスフレーズ(&amp;N):</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>もう一度(&amp;A):</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>新しいキーも作る(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>2つの新しいパスフレーズが一致しません。</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>お待ちください...</translation>
     </message>
 </context>
 <context>
@@ -2652,6 +2944,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>保存できなかった変更があります。今プログラムを閉じると失われます。</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>ノードデータベース</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>変更を保存しています...</translation>
     </message>
 </context>
 <context>

@@ -77,11 +77,11 @@
         <translation>Knooppuntdatabase</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>De knooppuntdatabase &quot;%1&quot; staat op een netwerkstation. Twee programma&apos;s die hem daar tegelijk gebruiken, kunnen hem beschadigen. Verplaats hem naar een schijf van deze computer.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 is voor vensters, en hier wordt er geen geopend.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>De kolom &quot;%1&quot; wordt niet gebruikt.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>%1 toegevoegd, %2 bijgewerkt, %3 ongewijzigd, %4 regels met fouten</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 geschreven</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>%1 zonder naam en adres weggelaten</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Gebruikt deze taal, bijvoorbeeld de of pt_BR, ongeacht wat elders is gekozen.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Kopieert de database, die in gebruik mag zijn, naar een bestand en stopt.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Geeft de database, die in gebruik mag zijn, de inhoud van een reservekopie en stopt. De huidige inhoud wordt als reservekopie bewaard.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>%1 kan niet worden geschreven.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Kijkt of iemand de logboeken van de database heeft gewijzigd, noemt wat en stopt.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>%1 details verwijderd, tot en met wijziging nummer %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>Niet verder: de geschiedenis is gewijzigd. --verify-log noemt wat.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Haalt uit de geschiedenis wat er voor en na elke wijziging was die ouder is dan zoveel dagen, en stopt. Wie iets heeft gewijzigd en wanneer blijft.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history verwacht een aantal dagen.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>Opent deze knooppuntdatabase: een bestand, dat wordt gemaakt als het er niet is, of een gedeelde, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Brengt de database met zijn geschiedenis naar een lege op een server, waarvan het adres volgt (postgresql://user@host/database), en stopt. Opnieuw aangeroepen gaat het verder.</translation>
     </message>
     <message>
@@ -189,6 +185,13 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>In een gedeelde database kan geen back-up worden teruggezet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>%1 toegevoegd, %2 bijgewerkt, %3 ongewijzigd, %n regel met fouten</numerusform>
+            <numerusform>%1 toegevoegd, %2 bijgewerkt, %3 ongewijzigd, %n regels met fouten</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -434,6 +437,19 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Intussen gewijzigd door %1 op %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 op %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>Wordt nu ook bewerkt door %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -446,7 +462,7 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>Ann&amp;uleren</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Deze regel verbergen</translation>
     </message>
     <message>
@@ -642,7 +658,7 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>De reservekopie wordt teruggezet...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>De database heeft nu de inhoud van &quot;%1&quot;.</translation>
     </message>
     <message>
@@ -653,11 +669,11 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>Er kan niets van worden gelezen.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>Er kan nog %n knooppunt van worden gelezen.</numerusform>
             <numerusform>Er kunnen nog %n knooppunten van worden gelezen.</numerusform>
@@ -733,6 +749,43 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>D&amp;etails</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Toont naast de lijst wat het geselecteerde knooppunt is</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Selecteer een knooppunt in de lijst om hier te zien wat het is.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>%n knooppunt geselecteerd</numerusform>
+            <numerusform>%n knooppunten geselecteerd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>Wat het eerste heeft:</numerusform>
+            <numerusform>Wat de eerste %n gemeen hebben:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>verschillend</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -799,10 +852,6 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <source>&amp;Give All the Same...</source>
         <translation>Alle &amp;hetzelfde geven...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Alleen IP-apparaten kunnen samen worden ingesteld. Selecteer de andere één voor één.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -823,6 +872,17 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
             <numerusform>%n apparaat: gebruikersnaam en wachtwoord ingesteld.</numerusform>
             <numerusform>%n apparaten: gebruikersnaam en wachtwoord ingesteld.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n apparaat)</numerusform>
+            <numerusform>%1 (%n apparaten)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Alleen IP-camera&apos;s kunnen samen worden ingesteld. Selecteer de andere één voor één.</translation>
     </message>
 </context>
 <context>
@@ -861,7 +921,7 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>Er staat nog niets in deze database.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Geen knooppunt voldoet daaraan.</translation>
     </message>
     <message>
@@ -892,11 +952,11 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>&quot;%1&quot; heeft dit adres, deze poort en dit kanaal al.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>Zo opslaan?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>Zo &amp;opslaan</translation>
     </message>
     <message>
@@ -945,7 +1005,7 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>Gevraagde apparaten</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>Wat de apparaten meldden</translation>
     </message>
     <message numerus="yes">
@@ -960,11 +1020,11 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>Er is niets in te vullen.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>Dit melden de apparaten en is nog niet opgeslagen. OK slaat op wat is aangevinkt.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n apparaat meldde niets:</numerusform>
             <numerusform>%n apparaten meldden niets:</numerusform>
@@ -1230,10 +1290,6 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>Het importeren is geannuleerd. Wat tot dan toe is toegevoegd, blijft behouden.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>%1 toegevoegd, %2 bijgewerkt, %3 ongewijzigd, %4 regels met fouten.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Camera&apos;s importeren</translation>
     </message>
@@ -1246,10 +1302,6 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>Het importeren van deze lijst zou %1 apparaten toevoegen, %2 wijzigen en %3 laten zoals ze zijn.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1258,7 +1310,7 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n regel is misschien anders bedoeld.</numerusform>
             <numerusform>%n regels zijn misschien anders bedoeld.</numerusform>
@@ -1267,6 +1319,20 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importeren</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>%1 toegevoegd, %2 bijgewerkt, %3 ongewijzigd, %n regel met fouten.</numerusform>
+            <numerusform>%1 toegevoegd, %2 bijgewerkt, %3 ongewijzigd, %n regels met fouten.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>Het importeren van deze lijst zou %n apparaat toevoegen, %1 wijzigen en %2 laten zoals ze zijn.</numerusform>
+            <numerusform>Het importeren van deze lijst zou %n apparaten toevoegen, %1 wijzigen en %2 laten zoals ze zijn.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1546,7 +1612,7 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>&amp;Accepteren als deze camera...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Een ander apparaat dan voorheen is vanaf nu deze camera</translation>
     </message>
     <message>
@@ -1644,10 +1710,6 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>Dit knooppunt heeft geen adres. Apparaten krijgen het onder Knooppunt &gt; Bewerken.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>De webpagina van %1 kon niet worden geopend.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1675,7 +1737,7 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>O&amp;nversleuteld wachtwoord toestaan...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>Camera&apos;s die het niet anders accepteren krijgen het wachtwoord voor iedereen leesbaar toegestuurd</translation>
     </message>
     <message>
@@ -1707,10 +1769,6 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>Wat er met de geselecteerde knooppunten is gedaan</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Apparaten: %1, andere knooppunten: %2; getoond: %3, geselecteerd: %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>&amp;Terug naar...</translation>
     </message>
@@ -1729,10 +1787,6 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Toont wat er met meerdere knooppunten zou gebeuren voordat het wordt opgeslagen</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Alleen knooppunten van één type kunnen samen worden bewerkt.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1778,7 +1832,7 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>&amp;Terugzetten...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Geeft de knooppuntdatabase de inhoud van een reservekopie</translation>
     </message>
     <message>
@@ -1804,6 +1858,22 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - Knooppuntdatabase</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Apparaten: %1, andere knooppunten: %2; getoond: %3, geselecteerd: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>&quot;%1&quot; is gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Alleen knooppunten van één type kunnen samen worden bewerkt. &quot;Type&quot; boven de lijst toont die van één type.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>De webpagina van %1 kon niet worden geopend. Kies een browser in de instellingen van uw bureaublad.</translation>
     </message>
 </context>
 <context>
@@ -1854,6 +1924,10 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>Dit is wat &quot;Eigenschappen&quot; toont als fabrieks-IP-adres van de camera. &quot;Knooppunt &gt; Invullen&quot; van het hoofdvenster vraagt het aan de camera.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Typ een pad, of druk op &quot;Meer...&quot; en kies een van de mappen.</translation>
     </message>
 </context>
 <context>
@@ -1931,7 +2005,7 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>Eigenschappen:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Knooppunten van toen</translation>
     </message>
     <message>
@@ -1939,7 +2013,7 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>Eigenschappen toen en nu</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>Wat is gelezen van wat sindsdien is gedaan</translation>
     </message>
     <message>
@@ -1949,10 +2023,6 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Put Back Selected...</source>
         <translation>Selectie terugdraaien...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Toen %1 knooppunten, %2 nu anders; %3 getoond</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -1977,6 +2047,13 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Put back: %1</source>
         <translation>Teruggedraaid: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Toen %n knooppunt, %1 nu anders; %2 getoond</numerusform>
+            <numerusform>Toen %n knooppunten, %1 nu anders; %2 getoond</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2081,6 +2158,10 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>Tags</source>
         <translation>Tags</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Laatste wijziging</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2158,7 +2239,7 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>Locatie en tags</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>Waar is het geselecteerde apparaat? Schrijf het van buiten naar binnen, met een schuine streep ertussen: Locatie/Gebouw/Verdieping. Tags worden gescheiden door komma&apos;s.</numerusform>
             <numerusform>Waar zijn de %n geselecteerde apparaten? Schrijf het van buiten naar binnen, met een schuine streep ertussen: Locatie/Gebouw/Verdieping. Tags worden gescheiden door komma&apos;s.</numerusform>
@@ -2261,7 +2342,7 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>Locatie/gebouw/verdieping:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Tags, gescheiden door komma&apos;s:</translation>
     </message>
 </context>
@@ -2332,6 +2413,17 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>Wat er gewijzigd is</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Lezen wat er gewijzigd is...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2384,6 +2476,76 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Ook de opname&amp;mappen verwijderen</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>&amp;Opgeslagen zoekopdrachten</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Opgeslagen zoekopdrachten</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Zoekopdrachten met een naam, en een naam voor deze</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>Deze zoekopdracht &amp;opslaan...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Geeft waarnaar nu wordt gezocht een naam</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>&amp;Hernoemen of verwijderen...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Geeft opgeslagen zoekopdrachten andere namen, en verwijdert ze</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Zoekopdracht opslaan</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Naam (een bestaande krijgt deze zoekopdracht):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Opgeslagen zoekopdrachten</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Opgeslagen zoekopdrachten</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Her&amp;noemen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Verwijderen...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Er is al een zoekopdracht met deze naam, of de naam is leeg. Die is gelaten zoals hij was.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>De zoekopdracht &quot;%1&quot; verwijderen? De knooppunten die ze vindt blijven.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Verwijderen</translation>
     </message>
 </context>
 <context>
@@ -2472,16 +2634,27 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <translation>&quot;%1&quot; hoort bij een andere locatie dan &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>%1 rijen en hun geschiedenis staan op &quot;%2&quot;, en zijn daar gelijk aan hier.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>De locatie wijkt af van het bestand: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>Het bestand of de locatie verandert voortdurend, dus ze konden niet worden vergeleken.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n rij met haar geschiedenis staat op &quot;%1&quot;, en is daar gelijk aan hier.</numerusform>
+            <numerusform>%n rijen met hun geschiedenis staan op &quot;%1&quot;, en zijn daar gelijk aan hier.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>&quot;%1&quot; bevat wachtwoorden van een oudere versie die nog niet versleuteld zijn, omdat de sleutel van deze installatie ontbreekt. Breng die eerst terug.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>&quot;%1&quot; bevat wachtwoorden, waarvoor de sleutel van de locatie nodig is. Er is niets verzonden.</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2712,10 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>Dit venster sluiten en een nieuwe kopie maken van wat nu op de server staat? Niet verzonden wijzigingen zitten er niet in; de huidige kopie, die ze bevat, blijft in de map &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Wachtwoordzin...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2549,11 +2726,15 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
             <numerusform>%1, %n wijzigingen niet uitgevoerd</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, wachtwoordzin nodig...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>Op &quot;%1&quot; staat nu een andere locatie dan die waarvan dit een kopie is. Er is niets naartoe gestuurd. Als de server opnieuw is ingericht, vraag dan de beheerder de locatie terug te zetten.</translation>
     </message>
     <message>
@@ -2571,14 +2752,6 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>In deze kopie van de locatie &quot;%1&quot; is een back-up teruggezet, wat andere werkstations niet kan worden meegedeeld. Ze wordt niet meer gedeeld.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>De kopie van de locatie &quot;%1&quot; op deze computer kan niet worden gelezen of geschreven.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>De locatie &quot;%1&quot; neemt niet aan wat dit werkstation stuurt.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2645,6 +2818,83 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
         <source>Receiving: %1 of %2</source>
         <translation>Ontvangen: %1 van %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>De locatie &quot;%1&quot; geeft haar verleden anders weer dan ze eerder aan dit werkstation deed: haar geschiedenis is op de server gewijzigd. Er wordt niets meer naar verzonden of van overgenomen. Laat dit aan de beheerder zien; de kopie op deze computer heeft de geschiedenis zoals ze was.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>De kopie van de locatie &quot;%1&quot; op deze computer kan niet worden gelezen of geschreven. Controleer of de schijf werkt en ruimte heeft, en start het programma opnieuw.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>De server van de locatie &quot;%1&quot; heeft een verzoek van deze computer geweigerd. Wijzigingen die hij nog niet heeft ontvangen, blijven hier bewaard. Laat de beheerder zien wat de server meldde en start het programma opnieuw zodra het probleem is verholpen.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Een nieuwe wachtwoordzin voor de locatie &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Nogmaals:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>De twee wachtwoordzinnen zijn niet gelijk.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>De wachtwoordzin van de locatie &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>De wachtwoordzin van de locatie is niet opgegeven. Wachtwoorden worden niet gelezen en kunnen niet worden opgeslagen. Typ hem in een terminal, of stel de variabele KO_SITE_PASSPHRASE in.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>De sleutel kan op deze computer niet worden bewaard, omdat de sleutel van deze installatie ontbreekt. De volgende keer wordt u opnieuw om de wachtwoordzin gevraagd.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>Dat is niet de wachtwoordzin van de locatie.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Een wachtwoordzin heeft ten minste %n teken.</numerusform>
+            <numerusform>Een wachtwoordzin heeft ten minste %n tekens.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>De locatie heeft nog geen sleutel.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Iemand anders heeft de sleutel of de wachtwoordzin zojuist gewijzigd. Vraag welke wachtwoordzin nu geldt.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Het openen van de sleutel vraagt meer geheugen dan deze computer heeft of dan ervan gevraagd mag worden.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Deze locatie is gemaakt voordat haar werkstations een sleutel deelden. Wachtwoorden kunnen pas worden opgeslagen als de beheerder haar met koclient --share bijwerkt.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>Deze computer heeft de sleutel van de wachtwoorden niet. Ze worden leeg weergegeven en nieuwe kunnen niet worden opgeslagen, totdat u de wachtwoordzin van de locatie opgeeft.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>De locatie heeft nog geen sleutel waarmee haar werkstations wachtwoorden versleutelen. Nieuwe kunnen pas worden opgeslagen als iemand hem maakt.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2655,6 +2905,57 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Verbinding met &quot;%1&quot; wordt gemaakt...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Wachtwoordzin wijzigen</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Wachtwoordzin van de locatie</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>De wachtwoorden van de camera&apos;s op &quot;%1&quot; zijn versleuteld met een sleutel die de werkstations delen. Geef de wachtwoordzin van de locatie op, één keer op deze computer. Zonder die zin worden wachtwoorden leeg weergegeven en kunnen geen nieuwe worden opgeslagen.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>De locatie &quot;%1&quot; heeft nog geen sleutel waarmee haar werkstations de wachtwoorden van camera&apos;s versleutelen. Bedenk een wachtwoordzin van meerdere woorden, en vertel hem aan iedereen die ze mag zien. De server krijgt hem nooit: als iedereen hem vergeet, kunnen nieuwe werkstations de wachtwoorden niet lezen.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>Werkstations die de sleutel van &quot;%1&quot; hebben, houden die als alleen de wachtwoordzin wijzigt. Met een nieuwe sleutel worden alle wachtwoorden opnieuw versleuteld en wordt elk werkstation om de nieuwe wachtwoordzin gevraagd: kies dat als een computer verloren is gegaan.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Wachtwoordzin:</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>&amp;Huidige wachtwoordzin:</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Nieuwe wachtwoordzin:</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>He&amp;rhaling:</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Ook een nieuwe &amp;sleutel maken</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>De twee nieuwe wachtwoordzinnen zijn niet gelijk.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Een ogenblik...</translation>
     </message>
 </context>
 <context>
@@ -2690,6 +2991,17 @@ Zonder de sleutel worden opgeslagen wachtwoorden leeg weergegeven en kunnen geen
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Er zijn wijzigingen die niet konden worden opgeslagen. Ze gaan verloren als het programma nu wordt gesloten.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Knooppuntdatabase</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Wijzigingen worden opgeslagen...</translation>
     </message>
 </context>
 <context>

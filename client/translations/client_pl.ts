@@ -77,11 +77,11 @@
         <translation>Baza danych węzłów</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>Baza danych węzłów „%1” leży na dysku sieciowym. Dwa programy używające jej tam jednocześnie mogą ją uszkodzić. Przenieś ją na dysk tego komputera.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 dotyczy okien, a tutaj żadne nie jest otwierane.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>Kolumna „%1” nie jest używana.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>Dodano %1, zaktualizowano %2, bez zmian %3, wierszy z błędami: %4</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>Zapisano: %1</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>Pominięto bez nazwy i adresu: %1</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Używa tego języka, np. de lub pt_BR, niezależnie od innych ustawień.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Kopiuje bazę danych, która może być w użyciu, do pliku i kończy pracę.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Nadaje bazie danych, która może być w użyciu, zawartość kopii zapasowej i kończy pracę. Obecna zawartość jest zachowywana jako kopia zapasowa.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>Nie można zapisać %1.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Sprawdza, czy ktoś zmienił dzienniki bazy danych, wskazuje co i kończy pracę.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>Usunięto szczegółów: %1, do zmiany numer %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>Nie dalej: historię zmieniono. --verify-log wskazuje co.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Usuwa z historii to, co było przed każdą zmianą starszą niż podana liczba dni i po niej, i kończy pracę. Kto i kiedy coś zmienił, pozostaje.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history wymaga liczby dni.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>Otwiera tę bazę danych węzłów: plik, który zostanie utworzony, jeśli go nie ma, lub bazę współdzieloną, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Przenosi bazę danych z historią do pustej bazy na serwerze, której adres następuje (postgresql://user@host/database), i kończy pracę. Wywołane ponownie, kontynuuje.</translation>
     </message>
     <message>
@@ -189,6 +185,14 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>Nie można przywrócić kopii zapasowej do współdzielonej bazy danych.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>dodano %1, zaktualizowano %2, bez zmian %3, %n wiersz z błędami</numerusform>
+            <numerusform>dodano %1, zaktualizowano %2, bez zmian %3, %n wiersze z błędami</numerusform>
+            <numerusform>dodano %1, zaktualizowano %2, bez zmian %3, %n wierszy z błędami</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -438,6 +442,19 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Zmienione w międzyczasie przez %1 na %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 na %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>W tej chwili edytuje to także: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -450,7 +467,7 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>An&amp;uluj</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Ukryj ten wiersz</translation>
     </message>
     <message>
@@ -647,7 +664,7 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>Przywracanie kopii zapasowej...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>Baza danych ma teraz zawartość „%1”.</translation>
     </message>
     <message>
@@ -658,11 +675,11 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>Niczego z niej nie można odczytać.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>Można z niej jeszcze odczytać %n węzeł.</numerusform>
             <numerusform>Można z niej jeszcze odczytać %n węzły.</numerusform>
@@ -739,6 +756,45 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Szczegóły</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>&amp;Szczegóły</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Pokazuje obok listy, czym jest zaznaczony węzeł</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Zaznacz węzeł na liście, aby zobaczyć tutaj, czym jest.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>Zaznaczono %n węzeł</numerusform>
+            <numerusform>Zaznaczono %n węzły</numerusform>
+            <numerusform>Zaznaczono %n węzłów</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>Co ma pierwszy z nich:</numerusform>
+            <numerusform>Co mają wspólnego pierwsze %n z nich:</numerusform>
+            <numerusform>Co ma wspólnego pierwszych %n z nich:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>różne</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -807,10 +863,6 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <source>&amp;Give All the Same...</source>
         <translation>Nadaj wszystkim &amp;te same...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Tylko urządzenia IP można ustawiać razem. Pozostałe zaznaczaj pojedynczo.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -834,6 +886,18 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
             <numerusform>%n urządzenia: ustawiono nazwę użytkownika i hasło.</numerusform>
             <numerusform>%n urządzeń: ustawiono nazwę użytkownika i hasło.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n urządzenie)</numerusform>
+            <numerusform>%1 (%n urządzenia)</numerusform>
+            <numerusform>%1 (%n urządzeń)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Tylko kamery IP można ustawiać razem. Pozostałe zaznaczaj pojedynczo.</translation>
     </message>
 </context>
 <context>
@@ -873,7 +937,7 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>W tej bazie danych nie ma jeszcze niczego.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Żaden węzeł nie pasuje.</translation>
     </message>
     <message>
@@ -904,11 +968,11 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>„%1” ma już ten adres, port i kanał.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>Czy tak zapisać?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>&amp;Zapisz tak</translation>
     </message>
     <message>
@@ -957,7 +1021,7 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>Odpytane urządzenia</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>Co podały urządzenia</translation>
     </message>
     <message numerus="yes">
@@ -973,11 +1037,11 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>Nie ma czego uzupełniać.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>To podają urządzenia, a nie jest jeszcze zapisane. OK zapisuje to, co zaznaczono.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n urządzenie niczego nie podało:</numerusform>
             <numerusform>%n urządzenia niczego nie podały:</numerusform>
@@ -1247,10 +1311,6 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>Import anulowano. To, co dodano do tej chwili, pozostaje.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>Dodano %1, zaktualizowano %2, bez zmian %3, wierszy z błędami: %4.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Importuj kamery</translation>
     </message>
@@ -1263,10 +1323,6 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>Import tej listy doda urządzenia: %1, zmieni: %2, a pozostawi bez zmian: %3.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1276,7 +1332,7 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n wiersz może mieć inne znaczenie.</numerusform>
             <numerusform>%n wiersze mogą mieć inne znaczenie.</numerusform>
@@ -1286,6 +1342,22 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importuj</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>Dodano %1, zaktualizowano %2, bez zmian %3, %n wiersz z błędami.</numerusform>
+            <numerusform>Dodano %1, zaktualizowano %2, bez zmian %3, %n wiersze z błędami.</numerusform>
+            <numerusform>Dodano %1, zaktualizowano %2, bez zmian %3, %n wierszy z błędami.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>Import tej listy doda %n urządzenie, zmieni: %1, a pozostawi bez zmian: %2.</numerusform>
+            <numerusform>Import tej listy doda %n urządzenia, zmieni: %1, a pozostawi bez zmian: %2.</numerusform>
+            <numerusform>Import tej listy doda %n urządzeń, zmieni: %1, a pozostawi bez zmian: %2.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1566,7 +1638,7 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>Prz&amp;yjmij jako tę kamerę...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Inne urządzenie niż poprzednio jest odtąd tą kamerą</translation>
     </message>
     <message>
@@ -1665,10 +1737,6 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>Ten węzeł nie ma adresu. Adres urządzenia podaje się w Węzeł &gt; Edytuj.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>Nie udało się otworzyć strony WWW %1.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1698,7 +1766,7 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>Zezwól na &amp;jawne hasło...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>Kamerom, które nie przyjmują go inaczej, hasło jest wysyłane w postaci czytelnej dla wszystkich</translation>
     </message>
     <message>
@@ -1730,10 +1798,6 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>Co zrobiono z zaznaczonymi węzłami</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Urządzenia: %1, inne węzły: %2; pokazane: %3, zaznaczone: %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>Po&amp;wrót do...</translation>
     </message>
@@ -1752,10 +1816,6 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Pokazuje, co stanie się z wieloma węzłami, zanim zostanie to zapisane</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Razem można edytować tylko węzły jednego typu.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1802,7 +1862,7 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>P&amp;rzywróć...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Nadaje bazie danych węzłów zawartość kopii zapasowej</translation>
     </message>
     <message>
@@ -1828,6 +1888,22 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - Baza danych węzłów</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Urządzenia: %1, inne węzły: %2; pokazane: %3, zaznaczone: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>Zmieniono „%1”.</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Razem można edytować tylko węzły jednego typu. „Typ” nad listą pokazuje węzły jednego.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>Nie udało się otworzyć strony WWW %1. Wybierz przeglądarkę w ustawieniach pulpitu.</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +1954,10 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>To, co „Właściwości” pokazują jako fabryczny adres IP kamery. „Węzeł &gt; Uzupełnij” głównego okna pyta o niego kamerę.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Wpisz ścieżkę albo naciśnij „Więcej...” i wybierz jeden z folderów.</translation>
     </message>
 </context>
 <context>
@@ -1955,7 +2035,7 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>Właściwości:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Węzły z tamtej chwili</translation>
     </message>
     <message>
@@ -1963,7 +2043,7 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>Właściwości wtedy i teraz</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>Ile odczytano z tego, co zrobiono od tamtej pory</translation>
     </message>
     <message>
@@ -1973,10 +2053,6 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Put Back Selected...</source>
         <translation>Cofnij zaznaczone...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Wtedy węzłów: %1, teraz innych: %2, pokazano: %3</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -2002,6 +2078,14 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Put back: %1</source>
         <translation>Cofnięto: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Wtedy %n węzeł, teraz innych: %1, pokazano: %2</numerusform>
+            <numerusform>Wtedy %n węzły, teraz innych: %1, pokazano: %2</numerusform>
+            <numerusform>Wtedy %n węzłów, teraz innych: %1, pokazano: %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2107,6 +2191,10 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>Tags</source>
         <translation>Znaczniki</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Ostatnia zmiana</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2186,7 +2274,7 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>Lokalizacja i znaczniki</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>Gdzie jest zaznaczone urządzenie? Napisz od zewnątrz do środka, z ukośnikiem pomiędzy: Obiekt/Budynek/Piętro. Znaczniki oddziela się przecinkami.</numerusform>
             <numerusform>Gdzie są %n zaznaczone urządzenia? Napisz od zewnątrz do środka, z ukośnikiem pomiędzy: Obiekt/Budynek/Piętro. Znaczniki oddziela się przecinkami.</numerusform>
@@ -2290,7 +2378,7 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>Obiekt/budynek/piętro:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Znaczniki, oddzielone przecinkami:</translation>
     </message>
 </context>
@@ -2361,6 +2449,17 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>Co zmieniono</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Odczytywanie, co zmieniono...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2415,6 +2514,76 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Usuń też &amp;foldery nagrań</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>Zapisane &amp;wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Zapisane wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Wyszukiwania, które mają nazwę, i nazwa dla tego</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>&amp;Zapisz to wyszukiwanie...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Nadaje nazwę temu, co jest teraz wyszukiwane</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>Zmień &amp;nazwę lub usuń...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Zmienia nazwy zapisanych wyszukiwań i usuwa je</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Zapisz wyszukiwanie</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Nazwa (istniejąca otrzyma to wyszukiwanie):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Zapisane wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Zapisane wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Zmień &amp;nazwę</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Usuń...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Jest już wyszukiwanie o tej nazwie albo nazwa jest pusta. Pozostała bez zmian.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>Usunąć wyszukiwanie „%1”? Węzły, które znajduje, pozostaną.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Usuń</translation>
     </message>
 </context>
 <context>
@@ -2506,16 +2675,28 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <translation>„%1” należy do innego obiektu niż „%2”.</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>Wiersze (%1) i ich historia są w „%2” i są tam takie same jak tutaj.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>Obiekt różni się od pliku: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>Plik lub obiekt ciągle się zmienia, więc nie można było ich porównać.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n wiersz z historią jest w „%1” i jest tam taki sam jak tutaj.</numerusform>
+            <numerusform>%n wiersze z historią są w „%1” i są tam takie same jak tutaj.</numerusform>
+            <numerusform>%n wierszy z historią jest w „%1” i są tam takie same jak tutaj.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>„%1” zawiera hasła ze starszej wersji, które nie są jeszcze zaszyfrowane, ponieważ brakuje klucza tej instalacji. Najpierw go przywróć.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>„%1” zawiera hasła, które wymagają klucza obiektu. Niczego nie wysłano.</translation>
     </message>
 </context>
 <context>
@@ -2573,6 +2754,10 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>Zamknąć to okno i utworzyć nową kopię tego, co jest teraz na serwerze? Niewysłanych zmian w niej nie będzie; obecna kopia, która je zawiera, pozostanie w folderze „%1”.</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Fraza hasłowa...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2584,11 +2769,15 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
             <numerusform>%1, %n zmian niewykonanych</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, potrzebna fraza hasłowa...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>Pod adresem „%1” jest teraz inny obiekt niż ten, którego to jest kopia. Nic do niego nie wysłano. Jeśli serwer skonfigurowano od nowa, poproś jego administratora o przywrócenie obiektu.</translation>
     </message>
     <message>
@@ -2606,14 +2795,6 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>Do tej kopii obiektu „%1” przywrócono kopię zapasową, czego nie można przekazać innym stanowiskom. Nie jest już współdzielona.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>Kopii obiektu „%1” na tym komputerze nie można odczytać ani zapisać.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>Obiekt „%1” nie przyjmuje tego, co wysyła to stanowisko.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2683,6 +2864,84 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
         <source>Receiving: %1 of %2</source>
         <translation>Odbieranie: %1 z %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>Obiekt „%1” przedstawia swoją przeszłość inaczej niż wcześniej temu stanowisku: jego historię zmieniono na serwerze. Nic więcej nie jest do niego wysyłane ani z niego pobierane. Należy to pokazać jego administratorowi; kopia na tym komputerze ma historię taką, jaka była.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>Kopii obiektu „%1” na tym komputerze nie można odczytać ani zapisać. Sprawdź, czy dysk działa i ma wolne miejsce, i uruchom program ponownie.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>Serwer obiektu „%1” odrzucił żądanie z tego komputera. Zmiany, których jeszcze nie otrzymał, są zachowane tutaj. Pokaż administratorowi odpowiedź serwera i uruchom program ponownie, gdy problem zostanie usunięty.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Nowa fraza hasłowa dla obiektu „%1”:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Jeszcze raz:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>Te dwie frazy hasłowe nie są takie same.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>Fraza hasłowa obiektu „%1”:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>Nie podano frazy hasłowej obiektu. Hasła nie są odczytywane i nie można ich zapisać. Wpisz ją w terminalu albo ustaw zmienną KO_SITE_PASSPHRASE.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>Klucza nie można przechować na tym komputerze, ponieważ brakuje klucza tej instalacji. Następnym razem pojawi się ponownie pytanie o frazę hasłową.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>To nie jest fraza hasłowa tego obiektu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Fraza hasłowa ma co najmniej %n znak.</numerusform>
+            <numerusform>Fraza hasłowa ma co najmniej %n znaki.</numerusform>
+            <numerusform>Fraza hasłowa ma co najmniej %n znaków.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>Obiekt nie ma jeszcze klucza.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Ktoś inny właśnie zmienił klucz lub jego frazę hasłową. Zapytaj, która fraza hasłowa teraz obowiązuje.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Otwarcie klucza wymaga więcej pamięci, niż ten komputer ma lub niż można od niego żądać.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Ten obiekt utworzono, zanim jego stanowiska miały wspólny klucz. Haseł nie można zapisać, dopóki administrator nie zaktualizuje go przez koclient --share.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>Ten komputer nie ma klucza haseł. Są pokazywane jako puste, a nowych nie można zapisać, dopóki nie podasz frazy hasłowej obiektu.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>Obiekt nie ma jeszcze klucza, którym jego stanowiska szyfrują hasła. Nowych nie można zapisać, dopóki ktoś go nie utworzy.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2693,6 +2952,57 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Łączenie z „%1”...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Zmiana frazy hasłowej</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Fraza hasłowa obiektu</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Hasła kamer w „%1” są zaszyfrowane kluczem wspólnym dla jego stanowisk. Podaj frazę hasłową obiektu, raz na tym komputerze. Bez niej hasła są pokazywane jako puste, a nowych nie można zapisać.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>Obiekt „%1” nie ma jeszcze klucza, którym jego stanowiska szyfrują hasła kamer. Wymyśl frazę hasłową z kilku słów i przekaż ją wszystkim, którzy mają je widzieć. Serwer nigdy jej nie dostaje: jeśli wszyscy ją zapomną, nowe stanowiska nie odczytają haseł.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>Stanowiska, które mają klucz „%1”, zachowują go, gdy zmienia się tylko fraza hasłowa. Z nowym kluczem wszystkie hasła są szyfrowane na nowo, a każde stanowisko pyta o nową frazę hasłową: wybierz to, gdy utracono komputer.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Fraza hasłowa:</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>O&amp;becna fraza hasłowa:</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Nowa fraza hasłowa:</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>&amp;Powtórzenie:</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Utwórz też nowy &amp;klucz</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>Te dwie nowe frazy hasłowe nie są takie same.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Chwileczkę...</translation>
     </message>
 </context>
 <context>
@@ -2728,6 +3038,17 @@ Bez klucza zapisane hasła są pokazywane jako puste, a nowych nie można zapisa
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Są zmiany, których nie udało się zapisać. Przepadną, jeśli program zostanie teraz zamknięty.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Baza danych węzłów</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Zapisywanie zmian...</translation>
     </message>
 </context>
 <context>

@@ -77,11 +77,11 @@
         <translation>Banco de dados de nós</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>O banco de dados de nós &quot;%1&quot; está em uma unidade de rede. Dois programas que o usem ali ao mesmo tempo podem danificá-lo. Mova-o para um disco deste computador.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 é para janelas, e nenhuma é aberta aqui.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>A coluna &quot;%1&quot; não é usada.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>%1 adicionadas, %2 atualizadas, %3 inalteradas, %4 linhas com erros</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 gravadas</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>%1 sem nome e endereço omitidas</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Usa este idioma, como de ou pt_BR, não importa o que foi escolhido em outro lugar.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Copia o banco de dados, que pode estar em uso, para um arquivo e termina.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Dá ao banco de dados, que pode estar em uso, o conteúdo de um backup e termina. O conteúdo atual é mantido como backup.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>Não é possível gravar %1.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Verifica se alguém alterou os registros do banco de dados, diz o quê e termina.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>%1 detalhes retirados, até a alteração número %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>Não além disso: o histórico foi alterado. --verify-log diz o quê.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Retira do histórico o que havia antes e depois de cada alteração mais antiga que tantos dias e termina. Quem alterou algo, e quando, permanece.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history requer um número de dias.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>Abre este banco de dados de nós: um arquivo, criado se não existir, ou um compartilhado, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Leva o banco de dados com seu histórico para um vazio em um servidor, cujo endereço vem a seguir (postgresql://user@host/database), e termina. Chamado de novo, continua.</translation>
     </message>
     <message>
@@ -189,6 +185,13 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>Não é possível restaurar um backup em um banco de dados compartilhado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>%1 adicionadas, %2 atualizadas, %3 inalteradas, %n linha com erros</numerusform>
+            <numerusform>%1 adicionadas, %2 atualizadas, %3 inalteradas, %n linhas com erros</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -434,6 +437,19 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Alterado nesse meio-tempo por %1 em %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 em %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>Também em edição agora por %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -446,7 +462,7 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>Cance&amp;lar</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Ocultar esta linha</translation>
     </message>
     <message>
@@ -642,7 +658,7 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>Restaurando o backup...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>O banco de dados tem agora o conteúdo de &quot;%1&quot;.</translation>
     </message>
     <message>
@@ -653,11 +669,11 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>Nada dele pode ser lido.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>Ainda pode ser lido %n nó dele.</numerusform>
             <numerusform>Ainda podem ser lidos %n nós dele.</numerusform>
@@ -733,6 +749,43 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>D&amp;etalhes</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Mostra ao lado da lista o que é o nó selecionado</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Selecione um nó na lista para ver aqui o que ele é.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>%n nó selecionado</numerusform>
+            <numerusform>%n nós selecionados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>O que o primeiro tem:</numerusform>
+            <numerusform>O que os primeiros %n têm em comum:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>diferente</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -799,10 +852,6 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <source>&amp;Give All the Same...</source>
         <translation>&amp;Dar os mesmos a todos...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Somente dispositivos IP podem ser definidos em conjunto. Selecione os outros um de cada vez.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -823,6 +872,17 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
             <numerusform>%n dispositivo: nome de usuário e senha definidos.</numerusform>
             <numerusform>%n dispositivos: nome de usuário e senha definidos.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n dispositivo)</numerusform>
+            <numerusform>%1 (%n dispositivos)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Somente câmeras IP podem ser definidas em conjunto. Selecione as outras uma de cada vez.</translation>
     </message>
 </context>
 <context>
@@ -861,7 +921,7 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>Ainda não há nada neste banco de dados.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Nenhum nó corresponde.</translation>
     </message>
     <message>
@@ -892,11 +952,11 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>&quot;%1&quot; já tem este endereço, esta porta e este canal.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>Salvar assim?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>&amp;Salvar assim</translation>
     </message>
     <message>
@@ -945,7 +1005,7 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>Dispositivos consultados</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>O que os dispositivos informaram</translation>
     </message>
     <message numerus="yes">
@@ -960,11 +1020,11 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>Não há nada para preencher.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>Isto é o que os dispositivos informam e ainda não está armazenado. OK armazena o que está marcado.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n dispositivo não informou nada:</numerusform>
             <numerusform>%n dispositivos não informaram nada:</numerusform>
@@ -1230,10 +1290,6 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>A importação foi cancelada. O que foi adicionado até então permanece.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>%1 adicionadas, %2 atualizadas, %3 inalteradas, %4 linhas com erros.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Importar câmeras</translation>
     </message>
@@ -1246,10 +1302,6 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>A importação desta lista adicionaria %1 dispositivos, mudaria %2 e deixaria %3 como estão.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1258,7 +1310,7 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n linha talvez queira dizer outra coisa.</numerusform>
             <numerusform>%n linhas talvez queiram dizer outra coisa.</numerusform>
@@ -1267,6 +1319,20 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Importar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>%1 adicionadas, %2 atualizadas, %3 inalteradas, %n linha com erros.</numerusform>
+            <numerusform>%1 adicionadas, %2 atualizadas, %3 inalteradas, %n linhas com erros.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>A importação desta lista adicionaria %n dispositivo, mudaria %1 e deixaria %2 como estão.</numerusform>
+            <numerusform>A importação desta lista adicionaria %n dispositivos, mudaria %1 e deixaria %2 como estão.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1546,7 +1612,7 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>A&amp;ceitar como esta câmera...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Outro dispositivo passa a ser esta câmera a partir de agora</translation>
     </message>
     <message>
@@ -1644,10 +1710,6 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>Este nó não tem endereço. O dos dispositivos é definido em Nó &gt; Editar.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>A página web de %1 não pôde ser aberta.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1675,7 +1737,7 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>Permitir &amp;senha sem criptografia...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>As câmeras que não a aceitam de outro modo recebem a senha legível por todos</translation>
     </message>
     <message>
@@ -1707,10 +1769,6 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>O que foi feito com os nós selecionados</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Dispositivos: %1, outros nós: %2; mostrados: %3, selecionados: %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>&amp;Voltar para...</translation>
     </message>
@@ -1729,10 +1787,6 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Mostra o que seria feito com vários nós antes de gravar</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Somente nós de um mesmo tipo podem ser editados juntos.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1778,7 +1832,7 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>Res&amp;taurar...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Dá ao banco de dados de nós o conteúdo de um backup</translation>
     </message>
     <message>
@@ -1804,6 +1858,22 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - Banco de dados de nós</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Dispositivos: %1, outros nós: %2; mostrados: %3, selecionados: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>&quot;%1&quot; foi alterado.</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Somente nós de um mesmo tipo podem ser editados juntos. &quot;Tipo&quot;, acima da lista, mostra os de um.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>A página web de %1 não pôde ser aberta. Escolha um navegador nas configurações da sua área de trabalho.</translation>
     </message>
 </context>
 <context>
@@ -1854,6 +1924,10 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>É o que &quot;Propriedades&quot; mostra como endereço IP de fábrica da câmera. &quot;Nó &gt; Preencher&quot; da janela principal o pergunta à câmera.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Digite um caminho, ou pressione &quot;Mais...&quot; e escolha uma das pastas.</translation>
     </message>
 </context>
 <context>
@@ -1931,7 +2005,7 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>Propriedades:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Nós da época</translation>
     </message>
     <message>
@@ -1939,7 +2013,7 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>Propriedades na época e agora</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>O que já foi lido do que se fez desde então</translation>
     </message>
     <message>
@@ -1949,10 +2023,6 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Put Back Selected...</source>
         <translation>Reverter os selecionados...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Na época %1 nós, %2 agora diferentes; %3 mostrados</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -1977,6 +2047,13 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Put back: %1</source>
         <translation>Revertido: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Na época %n nó, %1 agora diferentes; %2 mostrados</numerusform>
+            <numerusform>Na época %n nós, %1 agora diferentes; %2 mostrados</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2081,6 +2158,10 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>Tags</source>
         <translation>Etiquetas</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Última alteração</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2158,7 +2239,7 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>Local e etiquetas</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>Onde está o dispositivo selecionado (%n)? Escreva de fora para dentro, com uma barra no meio: Local/Prédio/Andar. As etiquetas são separadas por vírgulas.</numerusform>
             <numerusform>Onde estão os %n dispositivos selecionados? Escreva de fora para dentro, com uma barra no meio: Local/Prédio/Andar. As etiquetas são separadas por vírgulas.</numerusform>
@@ -2261,7 +2342,7 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>Local/prédio/andar:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Etiquetas, separadas por vírgulas:</translation>
     </message>
 </context>
@@ -2332,6 +2413,17 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>O que foi alterado</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Lendo o que foi alterado...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2384,6 +2476,76 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Remover também as &amp;pastas de gravação</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>&amp;Pesquisas salvas</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Pesquisas salvas</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Pesquisas que têm nome, e um nome para esta</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>&amp;Salvar esta pesquisa...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Dá um nome ao que se procura agora</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>&amp;Renomear ou remover...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Dá outros nomes às pesquisas salvas, e as remove</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Salvar pesquisa</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Nome (um que já existe recebe esta pesquisa):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Pesquisas salvas</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Pesquisas salvas</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Re&amp;nomear</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Remover...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Já existe uma pesquisa com este nome, ou o nome está vazio. Ele ficou como estava.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>Remover a pesquisa &quot;%1&quot;? Os nós que ela encontra ficam.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Remover</translation>
     </message>
 </context>
 <context>
@@ -2472,16 +2634,27 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <translation>&quot;%1&quot; pertence a um local diferente de &quot;%2&quot;.</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>%1 linhas e seu histórico estão em &quot;%2&quot; e são iguais lá e aqui.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>O local difere do arquivo: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>O arquivo ou o local muda o tempo todo, por isso não puderam ser comparados.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n linha com seu histórico está em &quot;%1&quot; e é igual lá e aqui.</numerusform>
+            <numerusform>%n linhas com seu histórico estão em &quot;%1&quot; e são iguais lá e aqui.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>&quot;%1&quot; tem senhas de uma versão anterior que ainda não estão cifradas, porque falta a chave desta instalação. Recupere-a primeiro.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>&quot;%1&quot; tem senhas, que precisam da chave do local. Nada foi enviado.</translation>
     </message>
 </context>
 <context>
@@ -2539,6 +2712,10 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>Fechar esta janela e criar uma nova cópia do que está agora no servidor? As alterações não enviadas não estão nela; a cópia atual, que as contém, fica na pasta &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Frase secreta...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2549,11 +2726,15 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
             <numerusform>%1, %n alterações não feitas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, frase secreta necessária...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>Em &quot;%1&quot; há agora outro local, diferente daquele de que isto é uma cópia. Nada foi enviado a ele. Se o servidor foi reinstalado, peça ao administrador que restabeleça o local.</translation>
     </message>
     <message>
@@ -2571,14 +2752,6 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>Nesta cópia do local &quot;%1&quot; foi restaurado um backup, o que não pode ser comunicado a outras estações. Ela não é mais compartilhada.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>A cópia do local &quot;%1&quot; neste computador não pode ser lida nem gravada.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>O local &quot;%1&quot; não aceita o que esta estação envia.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2645,6 +2818,83 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
         <source>Receiving: %1 of %2</source>
         <translation>Recebendo: %1 de %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>O local &quot;%1&quot; apresenta seu passado de modo diferente do que apresentou antes a esta estação: seu histórico foi alterado no servidor. Nada mais é enviado a ele nem recebido dele. Mostre isto ao administrador; a cópia neste computador tem o histórico como era.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>A cópia do local &quot;%1&quot; neste computador não pode ser lida nem gravada. Verifique se o disco funciona e tem espaço e inicie o programa novamente.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>O servidor do local &quot;%1&quot; recusou uma solicitação deste computador. As alterações que ele ainda não recebeu são mantidas aqui. Mostre ao administrador o que o servidor respondeu e inicie o programa novamente quando o problema estiver resolvido.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Uma nova frase secreta para o local &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Outra vez:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>As duas frases secretas não são iguais.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>A frase secreta do local &quot;%1&quot;:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>A frase secreta do local não foi dada. As senhas não são lidas e não podem ser armazenadas. Digite-a em um terminal ou defina a variável KO_SITE_PASSPHRASE.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>A chave não pode ser guardada neste computador, porque falta a chave desta instalação. A frase secreta será pedida de novo da próxima vez.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>Essa não é a frase secreta do local.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Uma frase secreta tem pelo menos %n caractere.</numerusform>
+            <numerusform>Uma frase secreta tem pelo menos %n caracteres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>O local ainda não tem chave.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Outra pessoa acabou de alterar a chave ou a frase secreta. Pergunte qual frase secreta vale agora.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Abrir a chave exige mais memória do que este computador tem ou do que se pode pedir a ele.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Este local foi criado antes que suas estações compartilhassem uma chave. As senhas não podem ser armazenadas até que o administrador o atualize com koclient --share.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>Este computador não tem a chave das senhas. Elas aparecem vazias e novas não podem ser armazenadas até que você dê a frase secreta do local.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>O local ainda não tem uma chave com a qual suas estações cifram as senhas. Novas não podem ser armazenadas até que alguém a crie.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2655,6 +2905,57 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Conectando a &quot;%1&quot;...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Alterar frase secreta</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Frase secreta do local</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>As senhas das câmeras de &quot;%1&quot; são cifradas com uma chave que suas estações compartilham. Dê a frase secreta do local, uma vez neste computador. Sem ela, as senhas aparecem vazias e novas não podem ser armazenadas.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>O local &quot;%1&quot; ainda não tem uma chave com a qual suas estações cifram as senhas das câmeras. Pense em uma frase secreta de várias palavras e conte-a a todos que devem vê-las. O servidor nunca a recebe: se todos a esquecerem, novas estações não poderão ler as senhas.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>As estações que têm a chave de &quot;%1&quot; ficam com ela quando só a frase secreta muda. Com uma chave nova, todas as senhas são cifradas de novo e cada estação pede a nova frase secreta: escolha isso quando um computador foi perdido.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Frase secreta:</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>Frase secreta a&amp;tual:</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Nova frase secreta:</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>&amp;Repetição:</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Criar também uma nova cha&amp;ve</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>As duas novas frases secretas não são iguais.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Um momento...</translation>
     </message>
 </context>
 <context>
@@ -2690,6 +2991,17 @@ Sem a chave, as senhas armazenadas aparecem vazias e novas não podem ser armaze
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Há alterações que não puderam ser armazenadas. Elas se perdem se o programa for fechado agora.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>Banco de dados de nós</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Salvando alterações...</translation>
     </message>
 </context>
 <context>

@@ -77,11 +77,11 @@
         <translation>База данных узлов</translation>
     </message>
     <message>
-        <source>The node database &quot;%1&quot; lies on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
+        <source>The node database &quot;%1&quot; is on a network drive. Two programs that use it there at the same time may damage it. Move it to a disk of this computer.</source>
         <translation>База данных узлов «%1» находится на сетевом диске. Две программы, одновременно использующие её там, могут её повредить. Переместите её на диск этого компьютера.</translation>
     </message>
     <message>
-        <source>%1 is for windows, and none is opened here.</source>
+        <source>%1 only applies to windows, and none is opened here.</source>
         <translation>%1 относится к окнам, а здесь окна не открываются.</translation>
     </message>
     <message>
@@ -93,10 +93,6 @@
         <translation>Столбец «%1» не используется.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors</source>
-        <translation>добавлено %1, обновлено %2, без изменений %3, строк с ошибками %4</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>записано: %1</translation>
     </message>
@@ -105,7 +101,7 @@
         <translation>пропущено без имени и адреса: %1</translation>
     </message>
     <message>
-        <source>Speaks this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
+        <source>Uses this language, such as de or pt_BR, whatever is chosen elsewhere.</source>
         <translation>Использует этот язык, например de или pt_BR, независимо от других настроек.</translation>
     </message>
     <message>
@@ -125,7 +121,7 @@
         <translation>Копирует базу данных, которая может использоваться, в файл и завершает работу.</translation>
     </message>
     <message>
-        <source>Gives the database, which may be in use, the content of a backup and ends. The present content is kept as a backup.</source>
+        <source>Restores the database, which may be in use, from a backup and ends. The present content is kept as a backup.</source>
         <translation>Помещает в базу данных, которая может использоваться, содержимое резервной копии и завершает работу. Текущее содержимое сохраняется как резервная копия.</translation>
     </message>
     <message>
@@ -145,7 +141,7 @@
         <translation>Не удаётся записать %1.</translation>
     </message>
     <message>
-        <source>Looks whether anybody has altered the logs of the database, names what, and ends.</source>
+        <source>Checks whether anybody has altered the logs of the database, says what, and ends.</source>
         <translation>Проверяет, не изменил ли кто-нибудь журналы базы данных, называет что и завершает работу.</translation>
     </message>
     <message>
@@ -157,15 +153,15 @@
         <translation>Убрано подробностей: %1, до изменения номер %2</translation>
     </message>
     <message>
-        <source>Not any further: the history was altered. --verify-log names what.</source>
+        <source>Stopped: the history was altered. --verify-log says where.</source>
         <translation>Не далее: история изменена. --verify-log называет что.</translation>
     </message>
     <message>
-        <source>Takes what was before and after each change out of the history, where it is older than so many days, and ends. Who changed something, and when, stays.</source>
+        <source>Removes what was before and after each change from the history, where it is older than this many days, and ends. Who changed something, and when, is kept.</source>
         <translation>Убирает из истории то, что было до и после каждого изменения старше стольких дней, и завершает работу. Кто и когда что-то изменил, остаётся.</translation>
     </message>
     <message>
-        <source>--thin-history takes a number of days.</source>
+        <source>--thin-history needs a number of days.</source>
         <translation>--thin-history требует числа дней.</translation>
     </message>
     <message>
@@ -179,7 +175,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>Открывает эту базу данных узлов: файл, который создаётся, если его нет, или общую базу, postgresql://user@host/database.</translation>
     </message>
     <message>
-        <source>Brings the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it goes on.</source>
+        <source>Copies the database with its history to an empty one on a server, whose address follows (postgresql://user@host/database), and ends. Called again, it continues.</source>
         <translation>Переносит базу данных с историей в пустую базу на сервере, адрес которой указан далее (postgresql://user@host/database), и завершает работу. При повторном вызове продолжает.</translation>
     </message>
     <message>
@@ -189,6 +185,14 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>A backup cannot be restored into a shared database.</source>
         <translation>В общую базу данных нельзя восстановить резервную копию.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors</source>
+        <translation>
+            <numerusform>добавлено %1, обновлено %2, без изменений %3, %n строка с ошибками</numerusform>
+            <numerusform>добавлено %1, обновлено %2, без изменений %3, %n строки с ошибками</numerusform>
+            <numerusform>добавлено %1, обновлено %2, без изменений %3, %n строк с ошибками</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -438,6 +442,19 @@ Without an option that does something and ends, such as --import, it opens a win
         <source>Changed by %1 at %2 meanwhile.</source>
         <translation>Тем временем изменено: %1 на %2.</translation>
     </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 на %2</translation>
+    </message>
+    <message>
+        <source>Also being edited now by %1.</source>
+        <translation>Сейчас также редактирует: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between the parts of a list</comment>
+        <translation>, </translation>
+    </message>
 </context>
 <context>
     <name>CheckPanel</name>
@@ -450,7 +467,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>От&amp;мена</translation>
     </message>
     <message>
-        <source>Put this line away</source>
+        <source>Hide this message</source>
         <translation>Убрать эту строку</translation>
     </message>
     <message>
@@ -647,7 +664,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>Восстановление резервной копии...</translation>
     </message>
     <message>
-        <source>The database has the content of &quot;%1&quot; now.</source>
+        <source>The database was restored from &quot;%1&quot;.</source>
         <translation>Теперь в базе данных содержимое «%1».</translation>
     </message>
     <message>
@@ -658,11 +675,11 @@ Without an option that does something and ends, such as --import, it opens a win
 <context>
     <name>DatabaseRecovery</name>
     <message>
-        <source>Nothing of it can be read.</source>
+        <source>Nothing in it can be read.</source>
         <translation>Прочитать из неё ничего нельзя.</translation>
     </message>
     <message numerus="yes">
-        <source>%n node(s) of it can still be read.</source>
+        <source>%n node(s) in it can still be read.</source>
         <translation>
             <numerusform>Из неё ещё можно прочитать %n узел.</numerusform>
             <numerusform>Из неё ещё можно прочитать %n узла.</numerusform>
@@ -739,6 +756,45 @@ Without an option that does something and ends, such as --import, it opens a win
     </message>
 </context>
 <context>
+    <name>DetailsDock</name>
+    <message>
+        <source>Details</source>
+        <translation>Подробности</translation>
+    </message>
+    <message>
+        <source>D&amp;etails</source>
+        <translation>&amp;Подробности</translation>
+    </message>
+    <message>
+        <source>Shows beside the list what the selected node is</source>
+        <translation>Показывает рядом со списком, что это за выбранный узел</translation>
+    </message>
+    <message>
+        <source>Select a node in the list to see here what it is.</source>
+        <translation>Выберите узел в списке, чтобы увидеть здесь, что это.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) selected</source>
+        <translation>
+            <numerusform>Выбран %n узел</numerusform>
+            <numerusform>Выбрано %n узла</numerusform>
+            <numerusform>Выбрано %n узлов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>What the first %n of them share:</source>
+        <translation>
+            <numerusform>Что есть у первого %n из них:</numerusform>
+            <numerusform>Что общего у первых %n из них:</numerusform>
+            <numerusform>Что общего у первых %n из них:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>different</source>
+        <translation>различается</translation>
+    </message>
+</context>
+<context>
     <name>DeviceFilling</name>
     <message>
         <source>it has no address</source>
@@ -807,10 +863,6 @@ Without an option that does something and ends, such as --import, it opens a win
         <source>&amp;Give All the Same...</source>
         <translation>&amp;Задать всем одинаковые...</translation>
     </message>
-    <message>
-        <source>Only IP devices can be set together. Select one of the others at a time.</source>
-        <translation>Вместе можно настраивать только IP-устройства. Остальные выбирайте по одному.</translation>
-    </message>
     <message numerus="yes">
         <source>%n device(s): access to recordings set.</source>
         <translation>
@@ -834,6 +886,18 @@ Without an option that does something and ends, such as --import, it opens a win
             <numerusform>%n устройства: имя пользователя и пароль заданы.</numerusform>
             <numerusform>%n устройств: имя пользователя и пароль заданы.</numerusform>
         </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n device(s))</source>
+        <translation>
+            <numerusform>%1 (%n устройство)</numerusform>
+            <numerusform>%1 (%n устройства)</numerusform>
+            <numerusform>%1 (%n устройств)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Only IP cameras can be set together. Select one of the others at a time.</source>
+        <translation>Вместе можно настраивать только IP-камеры. Остальные выбирайте по одной.</translation>
     </message>
 </context>
 <context>
@@ -873,7 +937,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>В этой базе данных пока ничего нет.</translation>
     </message>
     <message>
-        <source>No node is like that.</source>
+        <source>No node matches the search.</source>
         <translation>Подходящих узлов нет.</translation>
     </message>
     <message>
@@ -904,11 +968,11 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>У «%1» уже такой адрес, порт и канал.</translation>
     </message>
     <message>
-        <source>Is it to be stored so?</source>
+        <source>Store it anyway?</source>
         <translation>Сохранить так?</translation>
     </message>
     <message>
-        <source>&amp;Store It So</source>
+        <source>&amp;Store Anyway</source>
         <translation>&amp;Сохранить так</translation>
     </message>
     <message>
@@ -957,7 +1021,7 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>Опрошенные устройства</translation>
     </message>
     <message>
-        <source>What the devices told</source>
+        <source>What the devices said</source>
         <translation>Ответы устройств</translation>
     </message>
     <message numerus="yes">
@@ -973,11 +1037,11 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>Заполнять нечего.</translation>
     </message>
     <message>
-        <source>This is what the devices tell and what is not stored yet. OK stores what is ticked.</source>
+        <source>This is what the devices say and what is not stored yet. OK stores what is ticked.</source>
         <translation>Это сообщают устройства, и это ещё не сохранено. ОК сохраняет отмеченное.</translation>
     </message>
     <message numerus="yes">
-        <source>%n device(s) told nothing:</source>
+        <source>%n device(s) said nothing:</source>
         <translation>
             <numerusform>%n устройство ничего не сообщило:</numerusform>
             <numerusform>%n устройства ничего не сообщили:</numerusform>
@@ -1247,10 +1311,6 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>Импорт отменён. Всё добавленное до этого остаётся.</translation>
     </message>
     <message>
-        <source>%1 added, %2 updated, %3 unchanged, %4 lines with errors.</source>
-        <translation>Добавлено %1, обновлено %2, без изменений %3, строк с ошибками %4.</translation>
-    </message>
-    <message>
         <source>Import Cameras</source>
         <translation>Импорт камер</translation>
     </message>
@@ -1263,10 +1323,6 @@ Without an option that does something and ends, such as --import, it opens a win
         <comment>between the parts of a list</comment>
         <translation>, </translation>
     </message>
-    <message>
-        <source>Importing this list would add %1 devices, change %2 and leave %3 as they are.</source>
-        <translation>При импорте этого списка будет добавлено устройств: %1, изменено: %2, оставлено без изменений: %3.</translation>
-    </message>
     <message numerus="yes">
         <source>%n line(s) with errors would be left out.</source>
         <translation>
@@ -1276,7 +1332,7 @@ Without an option that does something and ends, such as --import, it opens a win
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n line(s) may be meant otherwise.</source>
+        <source>%n line(s) may be meant differently.</source>
         <translation>
             <numerusform>%n строка, возможно, означает другое.</numerusform>
             <numerusform>%n строки, возможно, означают другое.</numerusform>
@@ -1286,6 +1342,22 @@ Without an option that does something and ends, such as --import, it opens a win
     <message>
         <source>&amp;Import</source>
         <translation>&amp;Импортировать</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 added, %2 updated, %3 unchanged, %n line(s) with errors.</source>
+        <translation>
+            <numerusform>Добавлено %1, обновлено %2, без изменений %3, %n строка с ошибками.</numerusform>
+            <numerusform>Добавлено %1, обновлено %2, без изменений %3, %n строки с ошибками.</numerusform>
+            <numerusform>Добавлено %1, обновлено %2, без изменений %3, %n строк с ошибками.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Importing this list would add %n device(s), change %1 and leave %2 as they are.</source>
+        <translation>
+            <numerusform>При импорте этого списка будет добавлено %n устройство, изменено: %1, оставлено без изменений: %2.</numerusform>
+            <numerusform>При импорте этого списка будет добавлено %n устройства, изменено: %1, оставлено без изменений: %2.</numerusform>
+            <numerusform>При импорте этого списка будет добавлено %n устройств, изменено: %1, оставлено без изменений: %2.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -1566,7 +1638,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>Принять &amp;как эту камеру...</translation>
     </message>
     <message>
-        <source>Another device than before is this camera from now on</source>
+        <source>Treats the device that answers now as this camera from now on</source>
         <translation>Другое устройство, чем прежде, отныне является этой камерой</translation>
     </message>
     <message>
@@ -1665,10 +1737,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>This node has no address. Devices get theirs in Node &gt; Edit.</source>
         <translation>У этого узла нет адреса. Адрес устройства задаётся в меню Узел &gt; Изменить.</translation>
     </message>
-    <message>
-        <source>The web page of %1 could not be opened.</source>
-        <translation>Не удалось открыть веб-страницу %1.</translation>
-    </message>
     <message numerus="yes">
         <source>%n row(s) copied.</source>
         <translation>
@@ -1698,7 +1766,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>Разрешить &amp;открытый пароль...</translation>
     </message>
     <message>
-        <source>Cameras that take it in no other way are sent the password for all to read</source>
+        <source>Sends the password unencrypted to cameras that accept it in no other way</source>
         <translation>Камерам, которые не принимают его иначе, пароль отправляется в виде, доступном всем</translation>
     </message>
     <message>
@@ -1730,10 +1798,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>Что сделано с выбранными узлами</translation>
     </message>
     <message>
-        <source>%1 devices, %2 other nodes; %3 shown, %4 selected</source>
-        <translation>Устройств: %1, других узлов: %2; показано: %3, выбрано: %4</translation>
-    </message>
-    <message>
         <source>&amp;Back to...</source>
         <translation>&amp;Назад к...</translation>
     </message>
@@ -1752,10 +1816,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Shows what would be done to several nodes before it is stored</source>
         <translation>Показывает, что будет сделано с несколькими узлами, до сохранения</translation>
-    </message>
-    <message>
-        <source>Only nodes of one type can be edited together.</source>
-        <translation>Вместе можно изменять только узлы одного типа.</translation>
     </message>
     <message numerus="yes">
         <source>%n node(s) edited.</source>
@@ -1802,7 +1862,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>&amp;Восстановить...</translation>
     </message>
     <message>
-        <source>Gives the node database the content of a backup</source>
+        <source>Restores the node database from a backup</source>
         <translation>Возвращает базе данных узлов содержимое резервной копии</translation>
     </message>
     <message>
@@ -1828,6 +1888,22 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>%1 - Node Database</source>
         <translation>%1 - База данных узлов</translation>
+    </message>
+    <message>
+        <source>Devices: %1, other nodes: %2; shown: %3, selected: %4</source>
+        <translation>Устройств: %1, других узлов: %2; показано: %3, выбрано: %4</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was changed.</source>
+        <translation>«%1»: изменено.</translation>
+    </message>
+    <message>
+        <source>Only nodes of one type can be edited together. &quot;Type&quot; above the list shows those of one.</source>
+        <translation>Вместе можно изменять только узлы одного типа. «Тип» над списком показывает узлы одного.</translation>
+    </message>
+    <message>
+        <source>The web page of %1 could not be opened. Choose a browser in the settings of your desktop.</source>
+        <translation>Не удалось открыть веб-страницу %1. Выберите браузер в настройках рабочего стола.</translation>
     </message>
 </context>
 <context>
@@ -1878,6 +1954,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>It is what &quot;Properties&quot; shows as the factory IP address of the camera. &quot;Node &gt; Fill In&quot; of the main window asks the camera for it.</source>
         <translation>Это то, что «Свойства» показывают как заводской IP-адрес камеры. «Узел &gt; Заполнить» главного окна спрашивает его у камеры.</translation>
+    </message>
+    <message>
+        <source>Type a path, or press &quot;More...&quot; and choose one of the folders.</source>
+        <translation>Введите путь или нажмите «Больше...» и выберите одну из папок.</translation>
     </message>
 </context>
 <context>
@@ -1955,7 +2035,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>Свойства:</translation>
     </message>
     <message>
-        <source>Nodes of then</source>
+        <source>Nodes at that time</source>
         <translation>Узлы того времени</translation>
     </message>
     <message>
@@ -1963,7 +2043,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>Свойства тогда и сейчас</translation>
     </message>
     <message>
-        <source>What was done since that is read</source>
+        <source>How much of the changes since then is read</source>
         <translation>Сколько прочитано из сделанного с тех пор</translation>
     </message>
     <message>
@@ -1973,10 +2053,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Put Back Selected...</source>
         <translation>Вернуть выбранное...</translation>
-    </message>
-    <message>
-        <source>%1 nodes then, %2 different now; %3 shown</source>
-        <translation>Узлов тогда: %1, сейчас иначе: %2, показано: %3</translation>
     </message>
     <message>
         <source>Reading what was done since...</source>
@@ -2002,6 +2078,14 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Put back: %1</source>
         <translation>Возвращено: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n node(s) then, %1 different now; %2 shown</source>
+        <translation>
+            <numerusform>Тогда %n узел, сейчас иначе: %1, показано: %2</numerusform>
+            <numerusform>Тогда %n узла, сейчас иначе: %1, показано: %2</numerusform>
+            <numerusform>Тогда %n узлов, сейчас иначе: %1, показано: %2</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2107,6 +2191,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Tags</source>
         <translation>Метки</translation>
     </message>
+    <message>
+        <source>Last Change</source>
+        <translation>Последнее изменение</translation>
+    </message>
 </context>
 <context>
     <name>NodeListView</name>
@@ -2186,7 +2274,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>Место и метки</translation>
     </message>
     <message numerus="yes">
-        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Tags are parted by commas.</source>
+        <source>Where are the %n selected device(s)? Write it from outside to inside, with a slash between: Site/Building/Floor. Separate tags with commas.</source>
         <translation>
             <numerusform>Где находится %n выбранное устройство? Напишите от внешнего к внутреннему через косую черту: Объект/Здание/Этаж. Метки разделяются запятыми.</numerusform>
             <numerusform>Где находятся %n выбранных устройства? Напишите от внешнего к внутреннему через косую черту: Объект/Здание/Этаж. Метки разделяются запятыми.</numerusform>
@@ -2290,7 +2378,7 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>Объект/здание/этаж:</translation>
     </message>
     <message>
-        <source>Tags, parted by commas:</source>
+        <source>Tags, separated by commas:</source>
         <translation>Метки, через запятую:</translation>
     </message>
 </context>
@@ -2361,6 +2449,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     </message>
 </context>
 <context>
+    <name>ReadAlterations</name>
+    <message>
+        <source>What Was Changed</source>
+        <translation>Что было изменено</translation>
+    </message>
+    <message>
+        <source>Reading what was changed...</source>
+        <translation>Чтение изменений...</translation>
+    </message>
+</context>
+<context>
     <name>ReadOnlyNotice</name>
     <message>
         <source>You may look at this shared database but not change it. Its administrator can give you the role ko_editor.</source>
@@ -2415,6 +2514,76 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Remove the recording &amp;folders too</source>
         <translation>Удалить и &amp;папки записей</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchMenu</name>
+    <message>
+        <source>Saved &amp;Searches</source>
+        <translation>Со&amp;хранённые поиски</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Сохранённые поиски</translation>
+    </message>
+    <message>
+        <source>Saved searches, and a name for this one</source>
+        <translation>Поиски с именем и имя для этого</translation>
+    </message>
+    <message>
+        <source>&amp;Save This Search...</source>
+        <translation>&amp;Сохранить этот поиск...</translation>
+    </message>
+    <message>
+        <source>Gives what is looked for now a name</source>
+        <translation>Даёт имя тому, что ищется сейчас</translation>
+    </message>
+    <message>
+        <source>&amp;Rename or Remove...</source>
+        <translation>&amp;Переименовать или удалить...</translation>
+    </message>
+    <message>
+        <source>Gives saved searches other names, and removes them</source>
+        <translation>Даёт сохранённым поискам другие имена и удаляет их</translation>
+    </message>
+    <message>
+        <source>Save Search</source>
+        <translation>Сохранить поиск</translation>
+    </message>
+    <message>
+        <source>Name (an existing one gets this search):</source>
+        <translation>Имя (существующее получит этот поиск):</translation>
+    </message>
+</context>
+<context>
+    <name>SavedSearchesDialog</name>
+    <message>
+        <source>Saved Searches</source>
+        <translation>Сохранённые поиски</translation>
+    </message>
+    <message>
+        <source>Saved searches</source>
+        <translation>Сохранённые поиски</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>Пере&amp;именовать</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>&amp;Удалить...</translation>
+    </message>
+    <message>
+        <source>There is already a search of this name, or the name is empty. The search keeps its old name.</source>
+        <translation>Поиск с таким именем уже есть, или имя пусто. Оно осталось прежним.</translation>
+    </message>
+    <message>
+        <source>Remove the search &quot;%1&quot;? The nodes that it finds stay.</source>
+        <translation>Удалить поиск «%1»? Узлы, которые он находит, останутся.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Удалить</translation>
     </message>
 </context>
 <context>
@@ -2506,16 +2675,28 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <translation>«%1» принадлежит другому объекту, а не «%2».</translation>
     </message>
     <message>
-        <source>%1 rows and their history are at &quot;%2&quot;, and the same there as here.</source>
-        <translation>Строки (%1) и их история находятся в «%2» и там такие же, как здесь.</translation>
-    </message>
-    <message>
         <source>The site differs from the file: %1</source>
         <translation>Объект отличается от файла: %1</translation>
     </message>
     <message>
         <source>The file or the site changes all the time, so they could not be compared.</source>
         <translation>Файл или объект всё время изменяется, поэтому их не удалось сравнить.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) with their history are at &quot;%1&quot;, and the same there as here.</source>
+        <translation>
+            <numerusform>%n строка с историей находится в «%1» и там такая же, как здесь.</numerusform>
+            <numerusform>%n строки с историей находятся в «%1» и там такие же, как здесь.</numerusform>
+            <numerusform>%n строк с историей находится в «%1» и там такие же, как здесь.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords of an older version that are not sealed yet, because the key of this installation is not there. Bring it back first.</source>
+        <translation>В «%1» есть пароли более старой версии, которые ещё не зашифрованы, потому что нет ключа этой установки. Сначала верните его.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has passwords, which take the key of the site. Nothing was sent.</source>
+        <translation>В «%1» есть пароли, для которых нужен ключ объекта. Ничего не отправлено.</translation>
     </message>
 </context>
 <context>
@@ -2573,6 +2754,10 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Close this window and make a new copy of what is at the server now? Changes that were not sent are not in it; the present copy, which has them, stays in the folder &quot;%1&quot;.</source>
         <translation>Закрыть это окно и создать новую копию того, что сейчас на сервере? Неотправленных изменений в ней не будет; нынешняя копия, в которой они есть, останется в папке «%1».</translation>
     </message>
+    <message>
+        <source>&amp;Passphrase...</source>
+        <translation>&amp;Парольная фраза...</translation>
+    </message>
 </context>
 <context>
     <name>SharingStatus</name>
@@ -2584,11 +2769,15 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
             <numerusform>%1, %n изменений не выполнено</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, passphrase needed...</source>
+        <translation>%1, нужна парольная фраза...</translation>
+    </message>
 </context>
 <context>
     <name>SharingWords</name>
     <message>
-        <source>At &quot;%1&quot; there is another site now than the one of which this is a copy. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
+        <source>There is now another site at &quot;%1&quot; than the one this is a copy of. Nothing was sent to it. If the server was set up anew, ask its administrator to bring the site back.</source>
         <translation>По адресу «%1» теперь находится другой объект, а не тот, копией которого это является. Туда ничего не отправлено. Если сервер настроен заново, попросите его администратора вернуть объект.</translation>
     </message>
     <message>
@@ -2606,14 +2795,6 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>A backup was restored into this copy of the site &quot;%1&quot;, which other desks cannot be told. It is not shared any more.</source>
         <translation>В эту копию объекта «%1» восстановлена резервная копия, о чём нельзя сообщить другим станциям. Она больше не общая.</translation>
-    </message>
-    <message>
-        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written.</source>
-        <translation>Копию объекта «%1» на этом компьютере нельзя прочитать или записать.</translation>
-    </message>
-    <message>
-        <source>The site &quot;%1&quot; does not take what this desk sends.</source>
-        <translation>Объект «%1» не принимает то, что отправляет эта станция.</translation>
     </message>
     <message>
         <source>Not shared any more...</source>
@@ -2683,6 +2864,84 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
         <source>Receiving: %1 of %2</source>
         <translation>Приём: %1 из %2</translation>
     </message>
+    <message>
+        <source>The site &quot;%1&quot; gives another account of its past than it gave before: its history was altered on the server. Nothing more is sent to it or taken from it. Show this to its administrator; the copy on this computer has the history as it was.</source>
+        <translation>Объект «%1» представляет своё прошлое иначе, чем прежде этой станции: его история изменена на сервере. На него больше ничего не отправляется и с него ничего не принимается. Покажите это его администратору; в копии на этом компьютере история такая, какой была.</translation>
+    </message>
+    <message>
+        <source>The copy of the site &quot;%1&quot; on this computer cannot be read or written. Check that its disk works and has room, and start the program again.</source>
+        <translation>Копию объекта «%1» на этом компьютере нельзя прочитать или записать. Проверьте, что диск исправен и на нём есть место, и запустите программу снова.</translation>
+    </message>
+    <message>
+        <source>The server of the site &quot;%1&quot; refused a request from this computer. Changes it has not received yet are kept here. Show its administrator what the server said, and start the program again when the problem is fixed.</source>
+        <translation>Сервер объекта «%1» отклонил запрос этого компьютера. Изменения, которые он ещё не получил, сохранены здесь. Покажите администратору ответ сервера и запустите программу снова, когда неполадка будет устранена.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyPrompt</name>
+    <message>
+        <source>A new passphrase for the site &quot;%1&quot;:</source>
+        <translation>Новая парольная фраза для объекта «%1»:</translation>
+    </message>
+    <message>
+        <source>Again:</source>
+        <translation>Ещё раз:</translation>
+    </message>
+    <message>
+        <source>The two passphrases are not the same.</source>
+        <translation>Две парольные фразы не совпадают.</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site &quot;%1&quot;:</source>
+        <translation>Парольная фраза объекта «%1»:</translation>
+    </message>
+    <message>
+        <source>The passphrase of the site is not given. Passwords are not read, and cannot be stored. Type it at a terminal, or set the variable KO_SITE_PASSPHRASE.</source>
+        <translation>Парольная фраза объекта не указана. Пароли не читаются, и их нельзя сохранить. Введите её в терминале или задайте переменную KO_SITE_PASSPHRASE.</translation>
+    </message>
+</context>
+<context>
+    <name>SiteKeyWords</name>
+    <message>
+        <source>The key cannot be kept on this computer, because the key of this installation is not there. You are asked for the passphrase again next time.</source>
+        <translation>Ключ нельзя сохранить на этом компьютере, потому что нет ключа этой установки. В следующий раз парольная фраза будет запрошена снова.</translation>
+    </message>
+    <message>
+        <source>That is not the passphrase of the site.</source>
+        <translation>Это не парольная фраза объекта.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A passphrase needs at least %n character(s).</source>
+        <translation>
+            <numerusform>Парольная фраза содержит не менее %n знака.</numerusform>
+            <numerusform>Парольная фраза содержит не менее %n знаков.</numerusform>
+            <numerusform>Парольная фраза содержит не менее %n знаков.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The site has no key yet.</source>
+        <translation>У объекта ещё нет ключа.</translation>
+    </message>
+    <message>
+        <source>Somebody else has just changed the key or its passphrase. Ask which passphrase is valid now.</source>
+        <translation>Кто-то другой только что изменил ключ или его парольную фразу. Узнайте, какая парольная фраза действует теперь.</translation>
+    </message>
+    <message>
+        <source>Opening the key takes more memory than this computer has or may be asked for.</source>
+        <translation>Для открытия ключа нужно больше памяти, чем есть у этого компьютера или чем можно от него требовать.</translation>
+    </message>
+    <message>
+        <source>This site was made before its desks shared a key. Passwords cannot be stored until its administrator brings it up to date by koclient --share.</source>
+        <translation>Этот объект создан до того, как у его станций появился общий ключ. Пароли нельзя сохранить, пока администратор не обновит его командой koclient --share.</translation>
+    </message>
+    <message>
+        <source>This computer does not have the key of the passwords. They are shown empty, and new ones cannot be stored, until you give the passphrase of the site.</source>
+        <translation>На этом компьютере нет ключа паролей. Они показываются пустыми, а новые нельзя сохранить, пока вы не укажете парольную фразу объекта.</translation>
+    </message>
+    <message>
+        <source>The site has no key yet with which its desks seal passwords. New ones cannot be stored until somebody makes it.</source>
+        <translation>У объекта ещё нет ключа, которым его станции шифруют пароли. Новые нельзя сохранить, пока кто-нибудь его не создаст.</translation>
+    </message>
 </context>
 <context>
     <name>SiteOpening</name>
@@ -2693,6 +2952,57 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>Connecting to &quot;%1&quot;...</source>
         <translation>Подключение к «%1»...</translation>
+    </message>
+</context>
+<context>
+    <name>SitePassphraseDialog</name>
+    <message>
+        <source>Change Passphrase</source>
+        <translation>Смена парольной фразы</translation>
+    </message>
+    <message>
+        <source>Passphrase of the Site</source>
+        <translation>Парольная фраза объекта</translation>
+    </message>
+    <message>
+        <source>The passwords of cameras at &quot;%1&quot; are sealed with a key that its desks share. Give the passphrase of the site, once on this computer. Without it, passwords are shown empty and new ones cannot be stored.</source>
+        <translation>Пароли камер в «%1» зашифрованы ключом, общим для его станций. Укажите парольную фразу объекта, один раз на этом компьютере. Без неё пароли показываются пустыми, а новые нельзя сохранить.</translation>
+    </message>
+    <message>
+        <source>The site &quot;%1&quot; has no key yet with which its desks seal the passwords of cameras. Think of a passphrase of several words, and tell it to everybody who may see them. The server never gets it: if all forget it, new desks cannot read the passwords.</source>
+        <translation>У объекта «%1» ещё нет ключа, которым его станции шифруют пароли камер. Придумайте парольную фразу из нескольких слов и сообщите её всем, кто должен их видеть. Сервер никогда её не получает: если все её забудут, новые станции не смогут прочитать пароли.</translation>
+    </message>
+    <message>
+        <source>Desks that have the key of &quot;%1&quot; keep it when only the passphrase changes. With a new key, all passwords are sealed anew, and each desk is asked for the new passphrase: choose that when a computer was lost.</source>
+        <translation>Станции, у которых есть ключ «%1», сохраняют его, когда меняется только парольная фраза. С новым ключом все пароли шифруются заново, и у каждой станции запрашивается новая парольная фраза: выберите это, если компьютер утрачен.</translation>
+    </message>
+    <message>
+        <source>&amp;Passphrase:</source>
+        <translation>&amp;Парольная фраза:</translation>
+    </message>
+    <message>
+        <source>&amp;Present passphrase:</source>
+        <translation>&amp;Прежняя парольная фраза:</translation>
+    </message>
+    <message>
+        <source>&amp;New passphrase:</source>
+        <translation>&amp;Новая парольная фраза:</translation>
+    </message>
+    <message>
+        <source>&amp;Again:</source>
+        <translation>По&amp;вторение:</translation>
+    </message>
+    <message>
+        <source>Make a new &amp;key, too</source>
+        <translation>Создать также новый &amp;ключ</translation>
+    </message>
+    <message>
+        <source>The two new passphrases are not the same.</source>
+        <translation>Две новые парольные фразы не совпадают.</translation>
+    </message>
+    <message>
+        <source>One moment...</source>
+        <translation>Минуту...</translation>
     </message>
 </context>
 <context>
@@ -2728,6 +3038,17 @@ Without the key, stored passwords are shown empty and new ones cannot be stored.
     <message>
         <source>There are changes that could not be stored. They are lost when the program is closed now.</source>
         <translation>Некоторые изменения не удалось сохранить. Они пропадут, если закрыть программу сейчас.</translation>
+    </message>
+</context>
+<context>
+    <name>StoreProgress</name>
+    <message>
+        <source>Node Database</source>
+        <translation>База данных узлов</translation>
+    </message>
+    <message>
+        <source>Storing changes...</source>
+        <translation>Сохранение изменений...</translation>
     </message>
 </context>
 <context>

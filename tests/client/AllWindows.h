@@ -15,7 +15,10 @@
 #include "NodeListModel.h"
 #include "NodeListView.h"
 #include "PutBackDialog.h"
+#include "SavedSearches.h"
+#include "SavedSearchesDialog.h"
 #include "SharingDialog.h"
+#include "SitePassphraseDialog.h"
 #include "SiteSharing.h"
 #include "database/StoredHistory.h"
 #include "dialogs/GenericNodeViewer.h"
@@ -170,6 +173,11 @@ private:
             QVERIFY(QTest::qWaitFor(isSaid, Patience));
             ko::SharingDialog shared(*m_host.db(), sharing, &window);
             show(&shared, QStringLiteral("sharing"), look);
+            using Kind = ko::SitePassphraseDialog::Kind;
+            for (const Kind kind : {Kind::Open, Kind::Make, Kind::Change}) {
+                ko::SitePassphraseDialog passphrase(kind, sharing.address(), QStringLiteral("9"), &window);
+                show(&passphrase, QStringLiteral("passphrase %1").arg(int(kind)), look);
+            }
         }
         const auto nodeOf = [this](const QString& id) { return m_host.db()->summary(id); };
         auto* report = new ko::CheckReportDialog({{m_camera, ko::CameraState()}}, nodeOf, 2, true, &window);
@@ -192,6 +200,9 @@ private:
         show(&many, QStringLiteral("recordings of many"), look);
         ko::RecordingTransponderCustomSettingsDialog preview(m_camera, &window);
         show(&preview, QStringLiteral("remote preview"), look);
+        ko::SavedSearches::save({QStringLiteral("7"), QStringLiteral("8"), ko::AllNodeTypes});
+        ko::SavedSearchesDialog searches(&window);
+        show(&searches, QStringLiteral("saved searches"), look);
         ko::ManualWindow manual;
         show(&manual, QStringLiteral("manual"), look);
     }

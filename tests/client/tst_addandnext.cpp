@@ -26,6 +26,7 @@ private slots:
     void nextIsLikeTheOneBefore();
     void refusedIsNotLeft();
     void goesWithOk();
+    void withoutAName();
 
 private:
     static void type(QDialog* dialog, const char* field, const QString& text)
@@ -101,6 +102,21 @@ void tst_AddAndNext::goesWithOk()
     }});
     trigger("actionAdd");
     QCOMPARE(answers.opened().size(), 1);
+}
+
+/// It is called by its type, as in titles.
+void tst_AddAndNext::withoutAName()
+{
+    const Answers answers({[](QDialog* dialog) {
+                               type(dialog, "addressLineEdit", "10.0.0.31");
+                               child<QLineEdit>(dialog, "nameLineEdit")->clear();
+                               confirm(dialog);
+                           },
+                           ModalAnswer::press("Store Anyway")});
+    trigger("actionAdd");
+    QCOMPARE(answers.opened(), QStringList({"AddNodeDialog", "entryQuestionBox"}));
+    QCOMPARE(m_window->statusBar()->currentMessage(),
+             QString("\"%1\" was added.").arg(m_host->db()->readableNodeTypeName(IPDeviceType)));
 }
 
 KO_TEST_MAIN(tst_AddAndNext)

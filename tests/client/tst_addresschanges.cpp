@@ -1,4 +1,5 @@
 #include "AddressChangesDialog.h"
+#include "Languages.h"
 #include "ScannerStatus.h"
 #include "audit/AuditLog.h"
 #include "discovery/Scanners.h"
@@ -190,6 +191,14 @@ void AddressChangesTest::scannersAreShown()
     state.reason = QStringLiteral("no network");
     scanner->set(state);
     QCOMPARE(status.text(), QStringLiteral("ARP: not available (no network)"));
+
+    // A state that lasts is said in the language that is chosen meanwhile.
+    state.reason = {"ArpScanner", "no IPv4 network is attached"};
+    scanner->set(state);
+    QCOMPARE(status.text(), QStringLiteral("ARP: not available (no IPv4 network is attached)"));
+    Languages::use(QStringLiteral("de"));
+    KO_TRY_COMPARE(status.text(), QStringLiteral("ARP: nicht verfügbar (kein IPv4-Netzwerk angeschlossen)"));
+    Languages::use(QStringLiteral("en"));
 }
 
 KO_TEST_MAIN(AddressChangesTest)

@@ -311,7 +311,7 @@ void tst_Application::badLinesAreNamed()
     QVERIFY2(result.complained.contains("line 3:"), qPrintable(result.complained));
     QVERIFY(!result.complained.contains("many")); // it could be a password in the wrong column
     QVERIFY(result.said.contains("2 added"));
-    QVERIFY(result.said.contains("1 lines with errors"));
+    QVERIFY(result.said.contains("1 line with errors"));
 }
 
 void tst_Application::foreignTextsDoNotSteerTheTerminal()

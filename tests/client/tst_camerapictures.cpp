@@ -164,7 +164,7 @@ void tst_CameraPictures::shownInTipAndProperties()
     KO_TRY_VERIFY(QToolTip::text().contains("data:image"));
     QCOMPARE(pictures().picture(ids.at(0)).image.size(), QSize(640, 360));
     rest(ids.at(1));
-    KO_TRY_VERIFY(QToolTip::text().contains("no picture"));
+    KO_TRY_VERIFY(QToolTip::text().contains("not a picture"));
 
     m_list->selectNode(ids.at(0));
     QSize shown;

@@ -2,6 +2,8 @@
 #include "support/Patience.h"
 #include "support/TestMain.h"
 
+#include "database/NodeEditors.h"
+#include "ko/OutsideText.h"
 #include "store/NodeStore.h"
 
 #include <QDialogButtonBox>
@@ -23,6 +25,8 @@ private slots:
 
     void othersAreNamed();
     void removalIsToldBeforeOk();
+    void editorsAtOtherDesksAreNamed();
+    void openOnlyAsLongAsItIs();
 
 private:
     void edit(const std::function<void(QDialog*, QLabel*)>& work);
@@ -93,6 +97,46 @@ void tst_ChangedMeanwhile::removalIsToldBeforeOk()
                  qPrintable(label->text()));
     });
     QVERIFY(idOf(QStringLiteral("Gate north")).isEmpty());
+}
+
+void tst_ChangedMeanwhile::editorsAtOtherDesksAreNamed()
+{
+    NodeEditors& editors = m_host->db()->editors();
+    const QString id = idOf(QStringLiteral("Gate north"));
+    const NodeEditor anna{id, QStringLiteral("anna"), QStringLiteral("gatehouse")};
+    const NodeEditor odd{id, QStringLiteral("<b>x\n"), QStringLiteral("%1")};
+    editors.setOthers({anna, {idOf(QStringLiteral("Gate south")), anna.user, anna.station}});
+    edit([&](QDialog*, QLabel* label) {
+        QCOMPARE(label->text(), QStringLiteral("Also being edited now by anna at gatehouse."));
+        QVERIFY(label->isVisible());
+        editors.setOthers({anna, anna, odd});
+        QCOMPARE(label->text(), QStringLiteral("Also being edited now by anna at gatehouse, %1 at %2.")
+                                    .arg(OutsideText::visible(odd.user), OutsideText::visible(odd.station)));
+        NodeValues values{QStringLiteral("Gate north"), {}};
+        storeAsAnna(values);
+        KO_TRY_VERIFY(
+            label->text().startsWith(QLatin1String("Changed by anna at gatehouse meanwhile. Also ")));
+        editors.setOthers({});
+        QCOMPARE(label->text(), QStringLiteral("Changed by anna at gatehouse meanwhile."));
+    });
+}
+
+void tst_ChangedMeanwhile::openOnlyAsLongAsItIs()
+{
+    const NodeEditors& editors = m_host->db()->editors();
+    QVERIFY(!editors.isAnyOpen());
+    edit([&](QDialog*, QLabel* label) {
+        QCOMPARE(editors.written(), QStringList(idOf(QStringLiteral("Gate north"))));
+        QVERIFY(!label->isVisible());
+    });
+    QVERIFY(!editors.isAnyOpen());
+    const ModalAnswer answer([&](QDialog* dialog) {
+        QVERIFY(editors.isAnyOpen() && editors.written().isEmpty());
+        dialog->reject();
+    });
+    trigger("actionProperties");
+    QVERIFY(answer.fired());
+    QVERIFY(!editors.isAnyOpen());
 }
 
 KO_TEST_MAIN(tst_ChangedMeanwhile)

@@ -253,7 +253,7 @@ void tst_ClientDialogs::importReport_data()
     QTest::addColumn<QString>("error");
     QTest::addColumn<bool>("cancelled");
     QTest::addColumn<QString>("summary");
-    const QString counts = QStringLiteral("2 added, 3 updated, 4 unchanged, 0 lines with errors.");
+    const QString counts = QStringLiteral("2 added, 3 updated, 4 unchanged, 0 line(s) with errors.");
     QTest::newRow("good") << QString() << false << counts;
     QTest::newRow("cancelled") << QString() << true
                                << QStringLiteral(
@@ -278,6 +278,7 @@ void tst_ClientDialogs::importReport()
     QTEST(label->text(), "summary");
     QCOMPARE(label->textFormat(), Qt::PlainText);
     QVERIFY(!dialog.findChild<QPlainTextEdit*>()); // nothing to tell
+    QVERIFY(dialog.sizeHint().width() > 2 * dialog.fontMetrics().horizontalAdvance(dialog.windowTitle()));
 }
 
 void tst_ClientDialogs::importReportNamesItsLines()
@@ -289,7 +290,7 @@ void tst_ClientDialogs::importReportNamesItsLines()
     QCOMPARE(child<QPlainTextEdit>(&dialog, "detailsTextEdit")->toPlainText(),
              QStringLiteral(
                  "Line 7: %1 is no address\nLine 9: <i>port</i>\nColumns that are not used: floor, <u>"));
-    QVERIFY(child<QLabel>(&dialog, "summaryLabel")->text().contains(QLatin1String("2 lines with errors")));
+    QVERIFY(child<QLabel>(&dialog, "summaryLabel")->text().contains(QLatin1String("2 line(s) with errors")));
 }
 
 void tst_ClientDialogs::removalIsNotTheDefault()

@@ -214,7 +214,7 @@ void tst_DatabaseRecovery::savedDataCanBeUsed()
     QVERIFY(m_told.contains(QLatin1String("There is no good backup.")));
     QVERIFY(!m_buttons.contains(QLatin1String("Restore the Backup")));
     QVERIFY(camerasIn(m_file) > 2500);
-    QVERIFY(m_told.contains(QStringLiteral(" node(s) of it can still be read.")));
+    QVERIFY(m_told.contains(QStringLiteral(" node(s) in it can still be read.")));
     QCOMPARE(files().filter(QStringLiteral(".recovery")), QStringList());
 }
 
@@ -246,7 +246,7 @@ void tst_DatabaseRecovery::nothingToOffer()
     QVERIFY(QFile::resize(m_file, 50)); // half a header
     QVERIFY(!HostNodeDB::open(m_file, &m_error));
     QVERIFY(!offerAndPress("Quit"));
-    QVERIFY(m_told.contains(QLatin1String("Nothing of it can be read.")));
+    QVERIFY(m_told.contains(QLatin1String("Nothing in it can be read.")));
     QCOMPARE(m_buttons.filter(QStringLiteral("Use")), QStringList());
 }
 

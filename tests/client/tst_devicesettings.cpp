@@ -235,7 +235,7 @@ void tst_DeviceSettings::manyShowProgress()
     db.flush();
     const qint64 logged = db.auditLog().count();
     const qint64 sets = db.history().changeSets(0, 100000).last().number;
-    // Somebody who takes his time with each, as long as many thousands take on a fast machine.
+    // Somebody who takes time with each, as long as many thousands take on a fast machine.
     connect(&db, &NodeDB::nodeUpdated, this, [] { QThread::usleep(1000); });
     QTimer watch;
     connect(&watch, &QTimer::timeout, this, [] {

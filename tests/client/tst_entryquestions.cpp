@@ -87,7 +87,7 @@ void tst_EntryQuestions::adding()
                            },
                            [&text](QDialog* box) {
                                text = qobject_cast<QMessageBox*>(box)->text();
-                               ModalAnswer::press("Store It So")(box);
+                               ModalAnswer::press("Store Anyway")(box);
                            }});
     trigger("actionAdd");
     QCOMPARE(answers.opened().mid(1), asked.isEmpty() ? QStringList() : QStringList(question));
@@ -128,13 +128,13 @@ void tst_EntryQuestions::editing()
                                confirm(dialog);
                                QVERIFY(!dialog->isVisible());
                            },
-                           ModalAnswer::press("Go On Editing"), ModalAnswer::press("Store It So")});
+                           ModalAnswer::press("Go On Editing"), ModalAnswer::press("Store Anyway")});
     trigger("actionEdit");
     QCOMPARE(answers.opened().mid(1), QStringList({question, question}));
     QCOMPARE(m_host->db()->summary(id).location, QString("10.0.0.2"));
 }
 
-/// Who has two cameras at one address and no name for them knows it.
+/// Whoever has two cameras at one address and no name for them knows it.
 void tst_EntryQuestions::whatWasSoIsNotAskedAbout()
 {
     const QString id = m_host->add(IPDeviceType, QString(), QStringLiteral("10.0.0.2"));

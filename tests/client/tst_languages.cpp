@@ -8,6 +8,7 @@
 #include "discovery/AddressChangeLogEntry.h"
 #include "exchange/ImportLogEntry.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -22,6 +23,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScopeGuard>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTabBar>
@@ -152,7 +154,7 @@ void speak(const QString& code)
     AllWindows::settle();
 }
 
-/// A syllable or a picture is no key.
+/// A syllable or a picture is not a key.
 bool canBeTyped(const QString& letter)
 {
     return letter.isEmpty() || letter.at(letter.size() - 1) < QChar(0x2e80);
@@ -231,7 +233,10 @@ QStringList cutOff(const QWidget* window)
     }
     const QList<QTabBar*> bars = window->findChildren<QTabBar*>();
     for (const QTabBar* bar : bars) {
-        if (bar->isVisible() && bar->width() < bar->sizeHint().width() && !bar->usesScrollButtons())
+        // Only where the screen has no room for them they may be scrolled.
+        const bool hasRoom = window->frameGeometry().width() < window->screen()->availableSize().width() - 16;
+        if (bar->isVisible() && bar->parentWidget()->width() < bar->sizeHint().width() &&
+            (hasRoom || !bar->usesScrollButtons()))
             names.append("tabs");
     }
     return names;
@@ -284,6 +289,7 @@ private slots:
     void plurals_data();
     void plurals();
     void libraryAlone();
+    void screenReadersGetPlainTexts();
     void commandLine();
 };
 
@@ -541,6 +547,26 @@ void tst_Languages::libraryAlone()
     QTranslator translator;
     QVERIFY(translator.load(QLocale("it_CH"), "nodeui", "_", ":/translations"));
     QCOMPARE(translator.translate("NodeViewModel", "Address"), QString("Indirizzo"));
+}
+
+/// What a screen reader says of a part is read out as it is, tags included.
+void tst_Languages::screenReadersGetPlainTexts()
+{
+    AllWindows windows;
+    static const QRegularExpression tag("<[/a-z]");
+    int described = 0;
+    windows.visit([&](const QString& name, QWidget* window) {
+        const QList<QWidget*> parts = window->findChildren<QWidget*>();
+        for (QWidget* part : parts) {
+            QAccessibleInterface* read = QAccessible::queryAccessibleInterface(part);
+            for (const auto kind : {QAccessible::Name, QAccessible::Description}) {
+                const QString text = read ? read->text(kind) : QString();
+                described += !text.isEmpty();
+                QVERIFY2(!text.contains(tag), qPrintable(name + ": " + part->objectName() + ": " + text));
+            }
+        }
+    });
+    QVERIFY(described > 100);
 }
 
 void tst_Languages::commandLine()

@@ -3,12 +3,14 @@
 #include "support/Patience.h"
 #include "support/TestMain.h"
 
+#include "CheckPanel.h"
 #include "audit/AuditLog.h"
 #include "dialogs/NodeOverviewDialog.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,7 +18,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QTreeView>
 
 using namespace ko;
@@ -28,7 +32,7 @@ class tst_MainWindow : public QObject, protected testsupport::WindowFixture
     Q_OBJECT
 
 private slots:
-    void init() { openWindow(); }
+    void init();
     void cleanup() { closeWindow(); }
 
     void listShowsTheNodes();
@@ -38,6 +42,8 @@ private slots:
     void headerSorts();
     void actionsFollowTheSelection();
     void everyCommandHasATip();
+    void toolBarWithoutAThemeOfIcons();
+    void toolBarFitsNarrowWindows();
     void noShortcutTwice();
     void contextMenuHasTheCommandsOfNodes();
     void doubleClickAndReturnEdit_data();
@@ -57,11 +63,18 @@ private slots:
     void everyDialogOpens();
     void stateIsKept();
     void roomForLongTexts();
+    void roomForMessages();
 
 private:
     QStringList shown() const;
     QStringList logged() const;
 };
+
+void tst_MainWindow::init()
+{
+    QSettings().clear();
+    openWindow();
+}
 
 QStringList tst_MainWindow::shown() const
 {
@@ -163,6 +176,63 @@ void tst_MainWindow::everyCommandHasATip()
         if (action->objectName() != QLatin1String("actionAbout"))
             QVERIFY2(!action->statusTip().isEmpty(), qPrintable(action->objectName()));
     }
+}
+
+void tst_MainWindow::toolBarWithoutAThemeOfIcons()
+{
+    QIcon::setThemeName(QStringLiteral("none"));
+    QIcon::setFallbackThemeName(QStringLiteral("none"));
+    closeWindow();
+    openWindow();
+    const QPalette before = QGuiApplication::palette();
+    int icons = 0;
+    const QList<QAction*> actions = child<QToolBar>(m_window.get(), "toolBar")->actions();
+    for (const QColor& text : {QColor(Qt::black), QColor(Qt::white)}) {
+        QPalette palette = before;
+        palette.setColor(QPalette::Active, QPalette::ButtonText, text);
+        QGuiApplication::setPalette(palette);
+        for (const QAction* action : actions) {
+            if (!action->objectName().startsWith(QLatin1String("action")))
+                continue;
+            ++icons;
+            const QImage image = action->icon().pixmap(32, 32).toImage();
+            QVERIFY2(!image.isNull(), qPrintable(action->objectName()));
+            int painted = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    painted += image.pixelColor(x, y) == text;
+            }
+            QVERIFY2(painted > 32 && painted < 512, qPrintable(action->objectName()));
+        }
+    }
+    QGuiApplication::setPalette(before);
+    QCOMPARE(icons, 8);
+}
+
+void tst_MainWindow::toolBarFitsNarrowWindows()
+{
+    const auto* bar = child<QToolBar>(m_window.get(), "toolBar");
+    const auto allShown = [bar] {
+        const QList<QAction*> actions = bar->actions();
+        return std::all_of(actions.begin(), actions.end(), [bar](QAction* action) {
+            return !action->isVisible() || bar->widgetForAction(action)->isVisible();
+        });
+    };
+    m_window->resize(1400, 500);
+    KO_TRY_COMPARE(bar->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    const int enough = bar->sizeHint().width();
+    m_window->resize(enough - 1, 500);
+    KO_TRY_COMPARE(bar->toolButtonStyle(), Qt::ToolButtonIconOnly);
+    KO_TRY_VERIFY(allShown());
+    m_window->resize(enough, 500);
+    KO_TRY_COMPARE(bar->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    KO_TRY_VERIFY(allShown());
+    QFont font = bar->font(); // texts grow as they do in another language
+    font.setPointSize(font.pointSize() + 1);
+    child<QToolBar>(m_window.get(), "toolBar")->setFont(font);
+    KO_TRY_COMPARE(bar->toolButtonStyle(), Qt::ToolButtonIconOnly);
+    m_window->resize(1400, 500);
+    KO_TRY_COMPARE(bar->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
 }
 
 void tst_MainWindow::noShortcutTwice()
@@ -447,11 +517,18 @@ void tst_MainWindow::stateIsKept()
 {
     m_window->resize(700, 400);
     m_view->header()->resizeSection(NodeListModel::NameColumn, 222);
+    auto* places = child<QDockWidget>(m_window.get(), "placeDock");
+    places->show();
+    m_window->resizeDocks({places}, {231}, Qt::Horizontal);
+    KO_TRY_COMPARE(places->width(), 231);
     m_window->close();
     m_window = std::make_unique<MainWindow>(*m_host->db());
     m_window->show();
     QCOMPARE(m_window->size(), QSize(700, 400));
     QCOMPARE(m_window->findChild<NodeListView*>()->header()->sectionSize(NodeListModel::NameColumn), 222);
+    QVERIFY(child<QDockWidget>(m_window.get(), "placeDock")->isVisible());
+    KO_TRY_COMPARE(child<QDockWidget>(m_window.get(), "placeDock")->width(), 231);
+    QVERIFY(!child<QDockWidget>(m_window.get(), "detailsDock")->isVisible());
 }
 
 void tst_MainWindow::roomForLongTexts()
@@ -460,6 +537,33 @@ void tst_MainWindow::roomForLongTexts()
     MainWindow window(*m_host->db());
     window.show();
     QCOMPARE(testsupport::cutOff(&window), QStringList());
+}
+
+/// What else the status bar has to say gives way to what was just done, and comes back.
+void tst_MainWindow::roomForMessages()
+{
+    QStatusBar* bar = m_window->statusBar();
+    auto* panel = child<CheckPanel>(m_window.get(), "checkPanel");
+    m_window->resize(700, 400);
+    const QString message(40, QLatin1Char('m'));
+    const int wanted = bar->fontMetrics().horizontalAdvance(message);
+    const auto room = [bar] {
+        int room = bar->width();
+        const QList<QWidget*> parts = bar->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget* part : parts) {
+            if (part->isVisible() && part->width() > 0)
+                room = std::min(room, part->x());
+        }
+        return room;
+    };
+    QVERIFY(wanted < bar->width());
+    panel->showProgress(3, 100);
+    QTRY_VERIFY(panel->width() >= panel->sizeHint().width());
+    bar->showMessage(message);
+    QTRY_VERIFY2(room() >= wanted, qPrintable(QString::number(room())));
+    bar->clearMessage();
+    QTRY_VERIFY(panel->width() >= panel->sizeHint().width());
+    QVERIFY(panel->isVisible());
 }
 
 KO_TEST_MAIN(tst_MainWindow)

@@ -120,7 +120,7 @@ void tst_Moment::open(int row)
     KO_TRY_VERIFY(nodes()->rowCount() > 0);
 }
 
-/// Of the event loop, in ms, until so many nodes of a moment are shown.
+/// Of the event loop, in ms, until this many nodes of a moment are shown.
 double tst_Moment::longestStop(int row, int nodeCount)
 {
     double longest = 0;
@@ -206,7 +206,7 @@ void tst_Moment::listAsItWas()
     QVERIFY(nodes()->index(0, 0).data(Qt::FontRole).value<QFont>().bold());
     QVERIFY(!nodes()->index(2, 0).data(Qt::FontRole).isValid());
     QCOMPARE(child<QLabel>(window(), "stateLabel")->text(),
-             QString("5 nodes then, 4 different now; 5 shown"));
+             QString("5 node(s) then, 4 different now; 5 shown"));
     QVERIFY(m_window->isEnabled()); // it goes on beside
 }
 
@@ -312,7 +312,7 @@ void tst_Moment::putBackAll()
     });
     QCOMPARE(state(), m_before);
     KO_TRY_COMPARE(child<QLabel>(window(), "stateLabel")->text(),
-                   QString("5 nodes then, 0 different now; 5 shown"));
+                   QString("5 node(s) then, 0 different now; 5 shown"));
     const QVector<ChangeSet> sets = m_host->db()->history().changeSets(0, 1000);
     QCOMPARE(sets.last().cause.purpose, Purpose::Undo);
     QVERIFY(!sets.last().audit.isEmpty());

@@ -1,9 +1,9 @@
+#include "model/SearchText.h"
 #include "support/OwnTimer.h"
 #include "support/TestMain.h"
 
 #include "NodeListModel.h"
 #include "NodeListView.h"
-#include "SearchText.h"
 #include "drivers/NodeTypes.h"
 
 #include <QAbstractItemModelTester>
@@ -129,7 +129,7 @@ void tst_NodeListModel::cellsAndHeaders()
         cells.append(model.index(0, column).data().toString());
     }
     QCOMPARE(headers, QStringList({"Name", "Type", "Address", "Recording", "State", "Model", "Version", "MAC",
-                                   "Port", "SSL", "User", "Channel", "Location", "Tags"}));
+                                   "Port", "SSL", "User", "Channel", "Location", "Tags", "Last Change"}));
     QCOMPARE(cells.mid(0, 5), QStringList({"Gate", "IP Camera", "10.0.0.1", "Via camera", "Not checked"}));
     QCOMPARE(cells.mid(5).join(QString()), QString()); // until they are filled
     QVERIFY(!model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
@@ -564,7 +564,7 @@ void tst_NodeListModel::statesAreShownSoughtAndSorted()
                     summary("v", "View", QString(), ViewType), summary("n", "No address")});
     CameraState wrong;
     wrong.state = DeviceReport::WrongPassword;
-    wrong.reason = "<b>refused</b>";
+    wrong.reason = QString("<b>refused</b>");
     wrong.time = QDateTime(QDate(2026, 11, 22), QTime(12, 0));
     CameraState answers = wrong;
     answers.state = DeviceReport::Answers;

@@ -142,7 +142,7 @@ void tst_NodeRemoval::manyShowProgress()
     m_window->applyChanges();
     m_view->selectAll();
     const int before = int(m_host->db()->summaries().size());
-    // Somebody who takes his time with each, as long as ten thousand take on a fast machine.
+    // Somebody who takes time with each, as long as ten thousand take on a fast machine.
     connect(m_host->db(), &NodeDB::nodeRemoved, m_window.get(), [] { QThread::usleep(500); });
     QTimer watch;
     connect(&watch, &QTimer::timeout, this, [this] {
@@ -169,7 +169,7 @@ void tst_NodeRemoval::devicesComeFirst()
     bool isCounted = false;
     const auto labels = m_window->statusBar()->findChildren<QLabel*>();
     for (const QLabel* label : labels)
-        isCounted = isCounted || label->text() == "3 devices, 3 other nodes; 6 shown, 0 selected";
+        isCounted = isCounted || label->text() == "Devices: 3, other nodes: 3; shown: 6, selected: 0";
     QVERIFY(isCounted);
 }
 

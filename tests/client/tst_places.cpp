@@ -58,7 +58,7 @@ private:
     QStringList entries() const;
     PlaceTree& openTree();
     void choose(const QString& place) { child<PlaceTree>(m_window.get(), "placeTreeView")->choose(place); }
-    void drop(const QMimeData& data, const QString& place);
+    bool drop(const QMimeData& data, const QString& place);
 };
 
 void tst_Places::init()
@@ -174,6 +174,7 @@ void tst_Places::closedTreeShowsAll()
     openTree();
     choose("Berlin/Mainz");
     QCOMPARE(shown(), QStringList("Yard"));
+    m_window->close();
     m_window = std::make_unique<MainWindow>(*m_host->db()); // it comes back with the next window
     m_window->show();
     m_view = m_window->findChild<NodeListView*>();
@@ -184,20 +185,25 @@ void tst_Places::closedTreeShowsAll()
     QVERIFY(!m_view->dragEnabled());
 }
 
-void tst_Places::drop(const QMimeData& data, const QString& place)
+/// Whether the place was marked while the pointer was on it.
+bool tst_Places::drop(const QMimeData& data, const QString& place)
 {
     PlaceTree& tree = *child<PlaceTree>(m_window.get(), "placeTreeView");
     tree.expandAll();
     const QModelIndexList found = tree.model()->match(tree.model()->index(0, 0), Qt::UserRole, place, 1,
                                                       Qt::MatchFlags(Qt::MatchExactly | Qt::MatchRecursive));
-    QCOMPARE(found.size(), 1);
+    if (found.size() != 1)
+        qFatal("%s is not in the tree", qPrintable(place));
+    const QImage before = tree.viewport()->grab().toImage();
     const QPoint at = tree.visualRect(found.first()).center();
     QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(tree.viewport(), &enter);
     QDragMoveEvent move(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(tree.viewport(), &move);
+    const bool isMarked = tree.viewport()->grab().toImage() != before;
     QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(tree.viewport(), &drop);
+    return isMarked;
 }
 
 /// Closing the window hides it, which is not what its user did.
@@ -213,6 +219,7 @@ void tst_Places::treeIsThereAgain()
         QCOMPARE(dock->isVisible(), isThere);
         if (isThere)
             dock->close(); // by its button
+        m_window->close();
         m_window.reset();
     }
 }
@@ -224,7 +231,7 @@ void tst_Places::droppedIsThere()
     select({"Gate north", "Yard", "Archive"}); // a folder is nowhere
     QMimeData data;
     data.setData("application/x-konodeui-nodes", QByteArray::number(QCoreApplication::applicationPid()));
-    drop(data, "Berlin/Main");
+    QVERIFY(drop(data, "Berlin/Main"));
     QCOMPARE(text("Gate north", "Location"), QString("Berlin/Main"));
     QCOMPARE(text("Yard", "Location"), QString("Berlin/Main"));
     QVERIFY(m_window->statusBar()->currentMessage().startsWith("2 device(s)"));
@@ -242,10 +249,10 @@ void tst_Places::othersDropNothing()
     select({"Gate north"});
     QMimeData data;
     data.setData("application/x-konodeui-nodes", "1");
-    drop(data, "Berlin/Main");
+    QVERIFY(!drop(data, "Berlin/Main"));
     data.setText("text");
     data.removeFormat("application/x-konodeui-nodes");
-    drop(data, "Berlin/Main");
+    QVERIFY(!drop(data, "Berlin/Main"));
     QCOMPARE(text("Gate north", "Location"), QString("Berlin/Main/Ground floor"));
 }
 

@@ -1,5 +1,8 @@
+#include "LastChangeColumn.h"
 #include "MainWindow.h"
+#include "NodeListModel.h"
 #include "NodeListView.h"
+#include "database/StoredHistory.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/Patience.h"
@@ -29,6 +32,7 @@ private slots:
     void hiddenOneIsFoundByItsName();
     void sortedColumnStays();
     void changesAreShown();
+    void lastChangeByWhom();
     void keptForTheNextStart();
     void manyNodes();
 
@@ -224,6 +228,34 @@ void tst_PropertyColumns::changesAreShown()
     KO_TRY_COMPARE(cell(more.first(), "Model"), QString("m0")); // which a search does not see
     m_host->db()->removeNode(more.first());
     KO_TRY_COMPARE(cell(more.first(), "Model"), QString("not there"));
+}
+
+/// Of the history, read when it is looked at, and followed from then on.
+void tst_PropertyColumns::lastChangeByWhom()
+{
+    const auto known = [this](const QString& id) {
+        const std::optional<ChangeSetRow> row = m_host->db()->history().row(m_host->db()->history().newest());
+        return cell(id, "Last Change").startsWith(LastChangeColumn::text({id, row->cause.time, QString()}));
+    };
+    QCOMPARE(cell(m_ids.at(0), "Last Change"), QString());
+    menu("Last Change")->trigger();
+    for (const QString& id : std::as_const(m_ids))
+        KO_TRY_VERIFY(cell(id, "Last Change").endsWith(", " + Cause::currentUser()));
+    // What another did, long ago as it were.
+    const QString old = LastChangeColumn::text({m_ids.at(1), 1000000000000, "anna"});
+    auto* model = m_window->findChild<NodeListModel*>();
+    model->setText(column("Last Change"), m_ids.at(1), old);
+    model->apply({m_host->db()->summary(m_ids.at(1))}, {});
+    QCOMPARE(cell(m_ids.at(1), "Last Change"), old);
+    m_list->sortByColumn(column("Last Change"), Qt::AscendingOrder);
+    QCOMPARE(found("").value(0), QString("Yard"));
+    QCOMPARE(found("lastchange:anna"), QStringList("Yard"));
+    found("");
+    m_host->change(m_ids.at(1), [](Node* node) { dynamic_cast<IPDeviceNode*>(node)->setModel("new"); });
+    KO_TRY_VERIFY(known(m_ids.at(1)));
+    menu("Last Change")->trigger();
+    m_list->sortByColumn(NodeListModel::NameColumn, Qt::AscendingOrder);
+    QCOMPARE(cell(m_ids.at(1), "Last Change"), QString());
 }
 
 void tst_PropertyColumns::keptForTheNextStart()

@@ -10,9 +10,12 @@
 #include "exchange/CameraSurvey.h"
 #include "utils/NodeDBUtils.h"
 
+#include <QAbstractItemView>
 #include <QAction>
+#include <QCompleter>
 #include <QFile>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 
 using namespace ko;
@@ -36,6 +39,8 @@ private slots:
     void oneWithTheDefaultPath();
     void oneWithASpecificPath_data();
     void oneWithASpecificPath();
+    void pathsThatThereAreAreOffered();
+    void folderOfAServerByItsName();
 
 private:
     void scan();
@@ -199,6 +204,61 @@ void tst_RecordingPaths::oneWithASpecificPath()
     QCOMPARE(usage(id), int(OwnFolder));
     QCOMPARE(text(folder(id), "Path"), QString("//server/gate"));
     playAgain(id);
+}
+
+void tst_RecordingPaths::pathsThatThereAreAreOffered()
+{
+    for (const char* path : {"//server/b10", "//server/b9", "elsewhere"}) {
+        const QString id = m_host->add(RecordingFolderType, path);
+        m_host->change(id, [path](Node* node) { node->setStringProperty("Path", path); });
+    }
+    const QString id = m_cameras.at(0);
+    access({id}, "RecordingFolderAssignmentDialog", [](QDialog* dialog) {
+        child<QRadioButton>(dialog, "cameraFileserverPathRadioButton")->click();
+        auto* path = child<QLineEdit>(dialog, "fileServerPathLineEdit");
+        dialog->activateWindow();
+        path->setFocus();
+        KO_TRY_VERIFY(path->hasFocus());
+        QTest::keyClick(path, Qt::Key_Down);
+        const QAbstractItemView* all = path->completer()->popup();
+        QVERIFY(all->isVisible());
+        QStringList offered;
+        for (int row = 0; row < all->model()->rowCount(); ++row)
+            offered.append(all->model()->index(row, 0).data().toString());
+        QVERIFY2(offered == QStringList({"//server/b9", "//server/b10"}), qPrintable(offered.join(' ')));
+        QTest::keyClicks(path->completer()->popup(), "B10");
+        QCOMPARE(all->model()->rowCount(), 1);
+        QTest::keyClick(path->completer()->popup(), Qt::Key_Down);
+        QTest::keyClick(path->completer()->popup(), Qt::Key_Return);
+        QCOMPARE(path->text(), QString("//server/b10"));
+        confirm(dialog);
+    });
+    QCOMPARE(text(folder(id), "Path"), QString("//server/b10"));
+}
+
+/// Which this computer does not see, as those who play the recordings may.
+void tst_RecordingPaths::folderOfAServerByItsName()
+{
+    const int before = int(m_host->db()->nodeIdList(RecordingFolderType).size());
+    const Answers answers({[](QDialog* dialog) {
+                               child<QRadioButton>(dialog, "cameraFileserverPathRadioButton")->click();
+                               child<QPushButton>(dialog, "moreButton")->click();
+                               child<QPushButton>(dialog, "addButton")->click();
+                               confirm(dialog);
+                           },
+                           [](QDialog* folders) {
+                               auto* name = child<QLineEdit>(folders, "fileNameEdit");
+                               QTest::keyClicks(name, "//server/share");
+                               QTest::keyClick(name, Qt::Key_Escape); // what the dialog would complete
+                               QTest::keyClick(name, Qt::Key_Return);
+                           },
+                           [](QDialog* none) { none->accept(); }, // nothing is chosen yet
+                           testsupport::cancel});
+    m_window->list().selectNodes({m_cameras.at(0)});
+    child<QAction>(m_window.get(), "actionRecording")->trigger();
+    const QStringList folders = m_host->db()->nodeIdList(RecordingFolderType);
+    QCOMPARE(folders.size(), before + 1);
+    QCOMPARE(text(folders.last(), "Path"), QString("//server/share"));
 }
 
 KO_TEST_MAIN(tst_RecordingPaths)

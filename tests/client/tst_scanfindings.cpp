@@ -97,7 +97,7 @@ void tst_ScanFindings::keptOrTakenOut()
     QVERIFY(isThere("Found 2") && isThere("Found 3") && isThere("Found 4"));
 }
 
-/// What the user has worked on is his.
+/// What the user has worked on is the user's.
 void tst_ScanFindings::onlyWhatIsStillAsItWas()
 {
     const Answers answers({[&](QDialog* overview) {

@@ -16,6 +16,7 @@
 #include "sharing/SiteAddress.h"
 #include "sharing/SiteConnection.h"
 #include "sharing/SiteCopy.h"
+#include "sharing/SitePresence.h"
 #include "sharing/SiteVerification.h"
 #include "store/LogThinning.h"
 #include "store/SqliteFile.h"
@@ -102,6 +103,7 @@ private slots:
     void addressesOfOneSiteShareACopy();
     void startsAndGoesOnWithoutTheServer();
     void viewerIsToldBeforeADialogOpens();
+    void editorsAtOtherDesksAreNamed();
     void otherSiteAtTheSameAddressGetsNothing();
     void whatCouldNotBeMadeIsKeptUntilDismissed();
     void copyThatIsGivenUpStays();
@@ -351,6 +353,38 @@ void tst_SharedSite::viewerIsToldBeforeADialogOpens()
     setText(*desk.db, id, "Model", QStringLiteral("new"));
     KO_TRY_COMPARE(sql(QStringLiteral("SELECT count(*) FROM ko.lines WHERE after::text LIKE '%\"new\"%'")),
                    QStringLiteral("1"));
+}
+
+void tst_SharedSite::editorsAtOtherDesksAreNamed()
+{
+    share(makeFile(3));
+    Desk here(m_url);
+    const QString id = here.db->nodeIdList(IPDeviceType).value(0);
+    SitePresence presence; // of another desk, whose copy would be the same file here
+    SiteConnection there;
+    QVERIFY(!there.open(m_url));
+    presence.setOpen({id}, true);
+    presence.connected();
+    QVERIFY(!presence.look(there));
+    here.window.findChild<NodeListView*>()->selectNode(id);
+    QString shown;
+    const ModalAnswer answer([&](QDialog* dialog) {
+        const QLabel* label = child<QLabel>(dialog, "changedMeanwhileLabel");
+        KO_TRY_VERIFY(label->isVisible());
+        shown = label->text();
+        presence.noticed();
+        const auto seen = presence.look(there);
+        QVERIFY(seen && seen->size() == 1 && seen->constFirst().node == id);
+        there.close();
+        KO_TRY_VERIFY(!label->isVisible());
+        dialog->reject();
+    });
+    child<QAction>(&here.window, "actionEdit")->trigger();
+    QVERIFY(answer.fired());
+    QCOMPARE(shown, QStringLiteral("Also being edited now by %1 at %2.")
+                        .arg(Cause::currentUser(), Cause::currentStation()));
+    KO_TRY_COMPARE(sql(QStringLiteral("SELECT count(*) FROM ko.editing WHERE ko.is_connected(session)")),
+                   QStringLiteral("0"));
 }
 
 void tst_SharedSite::otherSiteAtTheSameAddressGetsNothing()

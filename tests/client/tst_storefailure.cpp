@@ -75,6 +75,7 @@ void tst_StoreFailure::assign()
     RecordingFolderMassAssignmentDialog dialog(m_window.get(), m_cameras, Qt::Dialog);
     child<QRadioButton>(&dialog, "specificFileServerPathRadioButton")->setChecked(true);
     child<QLineEdit>(&dialog, "pathLineEdit")->setText(QStringLiteral("/mnt/recordings"));
+    const ChangeScope scope(*m_host->db(), Cause::now(Purpose::Recording)); // as the client does it
     dialog.accept();
 }
 

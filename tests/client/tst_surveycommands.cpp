@@ -124,14 +124,17 @@ void tst_SurveyCommands::importBlocksTheWindowAtOnce()
 {
     QString typed = QStringLiteral("?");
     bool visible = false;
+    QString title;
     const QString shown = during("actionImport", m_list, [&](QProgressDialog* progress) {
         visible = progress->isVisible();
+        title = progress->windowTitle();
         child<QLineEdit>(m_window.get(), "searchLineEdit")->setFocus();
         QTest::keyClick(m_window->windowHandle(), Qt::Key_X);
         typed = child<QLineEdit>(m_window.get(), "searchLineEdit")->text();
     });
     QCOMPARE(shown, QStringLiteral("ImportReportDialog"));
     QVERIFY(visible);
+    QCOMPARE(title, QStringLiteral("Import Cameras"));
     QCOMPARE(typed, QString());
     QCOMPARE(cameras(), Lines);
 }
@@ -170,8 +173,8 @@ void tst_SurveyCommands::asksAboutBadLines()
          [](QDialog* report) { report->reject(); }});
     child<QAction>(m_window.get(), "actionImport")->trigger();
     QCOMPARE(answers.opened().mid(1), QStringList({"ImportForecastDialog", "ImportReportDialog"}));
-    QCOMPARE(text, QString("Line 3: bad address: it holds more than a host; port, SSL and user have columns "
-                           "of their own\n\nLine 4: the new device would have no name"));
+    QCOMPARE(text, QString("Line 3: bad address: it contains more than a host; port, SSL and user have "
+                           "columns of their own\n\nLine 4: the new device would have no name"));
     QCOMPARE(cameras(), 2);
 }
 

@@ -39,7 +39,7 @@ typedef void (*Part)(HostNodeDB& db, const QString& camera, const QString& folde
 
 Q_DECLARE_METATYPE(Part)
 
-/// What the user did is undone and done again by him, with a look at it first.
+/// What the user did can be undone and done again, with a look at it first.
 class tst_Undo : public QObject, private testsupport::ConfirmedWays
 {
     Q_OBJECT
@@ -51,6 +51,7 @@ private slots:
     void everyWay_data() { addWays(); }
     void everyWay();
     void actionsSayWhat();
+    void noticeGoesWithALaterStep();
     void shortcuts();
     void cancelLeavesAll();
     void leftOutLine();
@@ -157,6 +158,37 @@ void tst_Undo::actionsSayWhat()
     run("actionUndo", confirm);
     QCOMPARE(action("actionRedo")->text(), QString("&Redo \"Properties of Yard && more\""));
     QCOMPARE(action("actionUndo")->text(), QString("&Undo \"Properties of Gate north\""));
+}
+
+/// What is said of one step, with its button, is taken away by the next: the button would undo that one.
+void tst_Undo::noticeGoesWithALaterStep()
+{
+    auto* undo = child<QPushButton>(m_window.get(), "undoButton");
+    setModelNow("Gate north", "one");
+    m_window->sayDone("the model");
+    settle();
+    QCOMPARE(said(), QString("the model"));
+    QVERIFY(undo->isVisible());
+    setModel("Yard", "two");
+    QCOMPARE(said(), QString());
+    QVERIFY(!undo->isVisible());
+    {
+        const Answers answers({[](QDialog* editor) {
+            child<QLineEdit>(editor, "nameLineEdit")->setText("Gate east");
+            confirm(editor);
+        }});
+        select({"Gate north"});
+        trigger("actionEdit");
+    }
+    settle();
+    QCOMPARE(said(), QString("\"Gate east\" was changed."));
+    QVERIFY(undo->isVisible());
+    {
+        const Answers answers({confirm});
+        trigger("actionEdit");
+    }
+    settle();
+    QCOMPARE(said(), QString("\"Gate east\" was changed.")); // which is still the last step
 }
 
 void tst_Undo::shortcuts()
@@ -396,11 +428,13 @@ void tst_Undo::manyLines()
         testsupport::addCamera(db, QString("Camera %1").arg(i),
                                QString("10.7.%1.%2").arg(i / 250).arg(i % 250));
     settle();
+    QTRY_VERIFY(!db.hasUnstoredChanges());
     run("actionUndo", [](QDialog* dialog) {
         QCOMPARE(child<QTableView>(dialog, "linesTableView")->model()->rowCount(), 2000);
         QVERIFY(dialog->findChildren<QWidget*>().size() < 40);
         confirm(dialog);
     });
+    QTRY_VERIFY(!db.hasUnstoredChanges());
     QCOMPARE(int(db.nodeIdList(IPDeviceType).size()), 2);
 }
 
@@ -465,7 +499,7 @@ void tst_Undo::whatLeavesNothingIsNoStep()
     const QString known = action("actionUndo")->text();
     const QString before = state();
     {
-        const ChangeScope scope(db, Cause::now(Purpose::Edit));
+        const ChangeScope scope(db, Cause::now(Purpose::Edit), ScopeStoring::Meanwhile);
         first(db, camera, folder);
         settle();
         QVERIFY(action("actionUndo")->text() != known);

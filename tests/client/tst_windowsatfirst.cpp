@@ -1,3 +1,4 @@
+#include "client/AllWindows.h"
 #include "support/HostFixture.h"
 #include "support/ModalAnswer.h"
 #include "support/TestMain.h"
@@ -28,6 +29,7 @@ private slots:
     void dialog_data();
     void dialog();
     void sizeOfALargerScreen();
+    void everyWindow();
 
 private:
     void open(const QString& action, const std::function<void(QDialog*)>& look);
@@ -100,6 +102,23 @@ void tst_WindowsAtFirst::sizeOfALargerScreen()
 {
     QSettings().setValue("auditLog/size", QSize(5000, 4000));
     open("actionAuditLog", [](QDialog* dialog) { QVERIFY(fits(dialog)); });
+}
+
+void tst_WindowsAtFirst::everyWindow()
+{
+    testsupport::AllWindows all;
+    QStringList wrong;
+    int windows = 0;
+    all.visit([&](const QString& name, QWidget* window) {
+        ++windows;
+        if (window->windowTitle().isEmpty())
+            wrong.append(name + ": has no title");
+        const auto* button = qobject_cast<const QAbstractButton*>(window->focusWidget());
+        if (button && button->text().endsWith("..."))
+            wrong.append(name + ": begins on " + button->text());
+    });
+    QVERIFY(windows > 40);
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
 }
 
 KO_TEST_MAIN(tst_WindowsAtFirst)

@@ -21,7 +21,7 @@
 
 namespace testsupport {
 
-/// A user at his desk: the client's window over a database of its own, and what hands do with it.
+/// A user at a desk: the client's window over a database of its own, and what hands do with it.
 class Desk
 {
 public:

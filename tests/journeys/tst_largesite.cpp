@@ -44,7 +44,7 @@ private:
         m_longest = qMax(m_longest, m_turn.restart());
         const QWidgetList all = QApplication::topLevelWidgets();
         for (const QWidget* each : all)
-            m_sawProgress |= each->isVisible() && each->objectName() == QLatin1String("longWork");
+            m_sawProgress |= each->isVisible() && qobject_cast<const QProgressDialog*>(each);
     }
 
     const char* const m_job;
@@ -112,6 +112,14 @@ void tst_LargeSite::aDay()
     }
     m_desk->settle();
     QCOMPARE(m_desk->host.db()->nodeIdList(IPDeviceType).size(), 0);
+    {
+        const Watch watch("undo");
+        const Answers answers({Desk::press("OK")});
+        Desk::key(Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(watch.saysHowFar());
+    }
+    m_desk->settle();
+    QCOMPARE(m_desk->host.db()->nodeIdList(IPDeviceType).size(), cameras);
     m_desk.reset();
 }
 

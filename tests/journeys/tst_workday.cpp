@@ -102,7 +102,8 @@ void tst_WorkDay::surveyOfFourHundred()
     m_desk->choose("actionImport");
     QCOMPARE(answers.opened().mid(1), QStringList({"ImportForecastDialog", "ImportReportDialog"}));
     QCOMPARE(details.count("bad address"), 10);
-    QVERIFY2(summary.contains("400 added") && summary.contains("10 lines with errors"), qPrintable(summary));
+    QVERIFY2(summary.contains("400 added") && summary.contains("10 line(s) with errors"),
+             qPrintable(summary));
     m_desk->settle();
     QCOMPARE(m_desk->shown().first(), QString("Camera 1")); // and no folder
     QCOMPARE(m_desk->shown().at(399), QString("Camera 400"));

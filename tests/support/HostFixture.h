@@ -31,7 +31,7 @@ public:
         open();
     }
 
-    /// Adds a node and answers its id.
+    /// Adds a node and returns its id.
     QString add(ko::ENodeType type, const QString& name, const QString& address = QString())
     {
         const kom::smart<ko::NodeHint> hint = ko::NodeTypes::driver(type)->createNodeHint(type);

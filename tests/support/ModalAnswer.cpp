@@ -35,7 +35,7 @@ void ModalAnswer::look()
     QDialog* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (!dialog || inAction().contains(dialog) || !dialog->isVisible() || m_fired ||
         qobject_cast<QProgressDialog*>(dialog))
-        return; // progress is no question
+        return; // progress is not a question
     m_timer.stop();
     m_fired = true;
     inAction().append(dialog);

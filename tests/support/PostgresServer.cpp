@@ -201,6 +201,17 @@ bool PostgresServer::createDatabase(const QString& name)
                                                 QStringLiteral("postgres"), name});
 }
 
+QByteArray PostgresServer::dump(const QString& database)
+{
+    QByteArray text;
+    return execute(QStringLiteral("pg_dump"),
+                   {QStringLiteral("-h"), m_folder->path(), QStringLiteral("-U"), QStringLiteral("postgres"),
+                    database},
+                   &text)
+               ? text
+               : QByteArray();
+}
+
 QString PostgresServer::run(const QString& database, const QString& sql)
 {
     QByteArray output;

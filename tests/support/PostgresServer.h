@@ -37,6 +37,9 @@ public:
     /// Runs statements as the superuser "postgres"; rows as lines, columns separated by "|".
     QString run(const QString& database, const QString& sql);
 
+    /// All of a database as an administrator's backup has it; empty if that failed.
+    QByteArray dump(const QString& database);
+
     /// How libpq reaches a database of it.
     QString address(const QString& database, const QString& user = QStringLiteral("postgres")) const;
 
