@@ -25,31 +25,6 @@ using namespace ko;
 
 namespace {
 
-enum class What { Time, LongestStop };
-
-const double longestStop = 50; // ms
-
-/// Lets the event loop turn until it is so.
-template <class Condition>
-void turnUntil(Condition isSo)
-{
-    while (!isSo())
-        QCoreApplication::processEvents();
-    settle();
-}
-
-/// Runs \a work, which ends in the event loop, and returns its time or the longest stop in it.
-template <class Work>
-double measured(What what, Work work)
-{
-    if (what == What::Time)
-        return milliseconds(work);
-    settle();
-    Stops stops;
-    work();
-    return stops.longest();
-}
-
 /// A sorted view of plain rows.
 class PlainSorted
 {

@@ -1,6 +1,6 @@
 #include "RawInserter.h"
 #include "Site.h"
-#include "Stopwatch.h"
+#include "Stops.h"
 #include "Workload.h"
 
 #include "ChangedMeanwhile.h"
@@ -272,8 +272,9 @@ QString propertiesWith(const QString& key, const QString& value)
 class ManyCameras : public Contest
 {
 public:
-    explicit ManyCameras(int size)
-        : m_copy(size)
+    ManyCameras(int size, What what)
+        : m_what(what)
+        , m_copy(size)
         , m_rawCopy(size)
         , m_db(bench::open(m_copy.file()))
         , m_raw(m_rawCopy.file())
@@ -292,6 +293,24 @@ protected:
         m_db->endUpdateNode(node);
     }
 
+    /// What the user waits for after OK, until all is on the disk.
+    double confirmed(QDialog& dialog)
+    {
+        return measured(m_what, [&] {
+            dialog.accept();
+            turnUntil([&] { return !m_db->hasUnstoredChanges(); });
+        });
+    }
+
+    /// \a work changes the same without us.
+    template <class Work>
+    double withoutUs(Work work) const
+    {
+        const double time = milliseconds(work);
+        return m_what == What::Time ? time : longestStop;
+    }
+
+    const What m_what;
     SiteCopy m_copy;
     SiteCopy m_rawCopy;
     const std::unique_ptr<HostNodeDB> m_db;
@@ -312,16 +331,13 @@ public:
         const QString user = QStringLiteral("user %1").arg(++m_round);
         dialog.findChild<QLineEdit*>(QStringLiteral("userNameLineEdit"))->setText(user);
         dialog.findChild<QLineEdit*>(QStringLiteral("passWordLineEdit"))->setText(user);
-        return milliseconds([&] {
-            dialog.accept();
-            m_db->flush();
-        });
+        return confirmed(dialog);
     }
 
     double baseline() override
     {
         const QString user = QStringLiteral("user %1").arg(++m_round);
-        return milliseconds([&] {
+        return withoutUs([&] {
             RawSqlite::Statement set(m_raw, setProperties);
             RawSqlite::Statement change(m_raw, "INSERT INTO changes (kind, id) VALUES ('N', ?)");
             const QString properties = propertiesWith(QStringLiteral("User"), user);
@@ -349,17 +365,14 @@ public:
             ->setChecked(true);
         dialog.findChild<QLineEdit*>(QStringLiteral("pathLineEdit"))
             ->setText(QStringLiteral("/mnt/%1").arg(++m_round));
-        return milliseconds([&] {
-            dialog.accept();
-            m_db->flush();
-        });
+        return confirmed(dialog);
     }
 
     double baseline() override
     {
         const bool first = m_first;
         m_first = false;
-        return milliseconds([&] {
+        return withoutUs([&] {
             RawInserter inserter(m_raw);
             RawSqlite::Statement relate(m_raw, "INSERT INTO relations (source, destination, type) VALUES"
                                                " ((SELECT n FROM nodes WHERE id = ?),"
@@ -411,18 +424,30 @@ QVector<Workload> dialogWorkloads()
          QStringLiteral("raw SQLite, the same rows in one transaction"),
          2.0,
          {1000, 10000},
-         make<Authenticating>(),
+         make<Authenticating>(What::Time),
          false,
          7.5,
          storedTwice},
+        {QStringLiteral("user and password for all cameras: longest stop of the event loop"),
+         QStringLiteral("50 ms"),
+         1.0,
+         {10000},
+         make<Authenticating>(What::LongestStop),
+         false},
         {QStringLiteral("recording folders for all cameras moved, to disk"),
          QStringLiteral("raw SQLite, the same rows in one transaction"),
          2.0,
          {1000, 10000},
-         make<MassAssigning>(),
+         make<MassAssigning>(What::Time),
          false,
          3.6,
          storedTwice},
+        {QStringLiteral("recording folders for all cameras moved: longest stop of the event loop"),
+         QStringLiteral("50 ms"),
+         1.0,
+         {10000},
+         make<MassAssigning>(What::LongestStop),
+         false},
         {QStringLiteral("dialog of a camera, the first since the start, to its first picture"),
          QStringLiteral("the same pages without a database"), 1.5, allSizes,
          [](int size) { return std::make_unique<Editing>(size, Editing::When::First); }, false},

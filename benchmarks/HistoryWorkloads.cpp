@@ -29,7 +29,7 @@ namespace {
 const int rowsSeen = 100;
 const int allRows = 1000000;
 
-/// A site with a history of so many change sets of one change each, made once.
+/// A site with a history of this many change sets of one change each, made once.
 QString historyFile(int sets)
 {
     static std::map<int, std::unique_ptr<SiteCopy>> files;

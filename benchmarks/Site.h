@@ -15,7 +15,7 @@ QVector<ko::NodeSummary> summaries(int count);
 /// Adds a camera as any caller of the database does.
 void addCamera(ko::HostNodeDB& db, const ko::NodeSummary& camera);
 
-/// A database file of so many cameras, made once for all workloads and then only read.
+/// A database file of this many cameras, made once for all workloads and then only read.
 QString siteFile(int count);
 
 /// A copy of such a file that may be written, gone with the object.
@@ -41,7 +41,7 @@ public:
     void append(const ko::NodeSummary& node);
     /// The same for many, as one range.
     void append(const QVector<ko::NodeSummary>& nodes);
-    /// Gives so many of the first rows these names, as one range.
+    /// Gives this many of the first rows these names, as one range.
     void rename(int count, const QString& name);
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;

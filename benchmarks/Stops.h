@@ -1,6 +1,9 @@
 #ifndef KO_BENCHMARKS_STOPS_H
 #define KO_BENCHMARKS_STOPS_H
 
+#include "Stopwatch.h"
+
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QVector>
@@ -43,6 +46,31 @@ private:
     QElapsedTimer m_sinceTurn;
     QTimer m_everyTurn;
 };
+
+enum class What { Time, LongestStop };
+
+const double longestStop = 50; // ms
+
+/// Lets the event loop turn until it is so.
+template <class Condition>
+void turnUntil(Condition isSo)
+{
+    while (!isSo())
+        QCoreApplication::processEvents();
+    settle();
+}
+
+/// Runs \a work, which ends in the event loop, and returns its time or the longest stop in it.
+template <class Work>
+double measured(What what, Work work)
+{
+    if (what == What::Time)
+        return milliseconds(work);
+    settle();
+    Stops stops;
+    work();
+    return stops.longest();
+}
 
 } // namespace bench
 

@@ -9,7 +9,7 @@
 
 namespace bench {
 
-/// One workload at one size, and what it is measured against. Each call is one run and answers its
+/// One workload at one size, and what it is measured against. Each call is one run and returns its
 /// milliseconds; what it prepares and clears away does not count.
 class Contest
 {

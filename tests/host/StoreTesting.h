@@ -29,7 +29,7 @@ inline std::unique_ptr<ko::HostNodeDB> openDatabase(const QString& file)
     return db;
 }
 
-/// Adds a node as the add dialog does and answers its id.
+/// Adds a node as the add dialog does and returns its id.
 inline QString addNode(ko::HostNodeDB& db, ko::ENodeType type, const QString& name, const QString& place,
                        void* context = nullptr)
 {

@@ -183,6 +183,7 @@ public:
         ko::RecordingFolderMassAssignmentDialog dialog(nullptr, db.nodeIdList(ko::IPDeviceType), Qt::Dialog);
         child<QRadioButton>(&dialog, "specificFileServerPathRadioButton")->setChecked(true);
         child<QLineEdit>(&dialog, "pathLineEdit")->setText(QString::fromLatin1("/mnt/%1").arg(number));
+        const ko::ChangeScope scope(db, ko::Cause::now(ko::Purpose::Recording)); // as the client does it
         dialog.accept();
         return true;
     }

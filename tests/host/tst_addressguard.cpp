@@ -206,7 +206,7 @@ void tst_AddressGuard::noAddressIsRefused()
     QVERIFY(!canBeStored(*dialog));
     QTest::keyClick(address, Qt::Key_Return);
     QVERIFY(dialog->isVisible());
-    QVERIFY(words->isVisible() && words->text().contains("blanks"));
+    QVERIFY(words->isVisible() && words->text().contains("spaces"));
     QCOMPARE(m_host->db()->nodeIdList(IPDeviceType).size(), isNew ? 0 : 1);
     type(address, "gate-north");
     QVERIFY(!words->isVisible());

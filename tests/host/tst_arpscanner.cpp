@@ -433,7 +433,7 @@ void ArpScannerTest::hostsAreFound()
     QVERIFY(startSite({QStringLiteral("10.99.0.2:554"), QStringLiteral("10.99.0.3:8554"),
                        QStringLiteral("10.99.0.4:22"), QStringLiteral("10.99.0.14:80")}));
     m_scanner->start(0xFFFFFFFF, -1);
-    KO_TRY_COMPARE(m_scanner->state().where, QStringLiteral("here0, 10.99.0.0/28"));
+    KO_TRY_COMPARE(m_scanner->state().where.text(), QStringLiteral("here0, 10.99.0.0/28"));
     QCOMPARE(m_scanner->state().total, 14);
     KO_TRY_COMPARE(int(m_scanner->state().phase), int(ScannerState::Done));
     QCOMPARE(m_scanner->state().done, 14);
@@ -512,7 +512,7 @@ void ArpScannerTest::largeNetworkIsCutAndSaid()
     LogLines log;
     m_scanner->start(0xFFFFFFFF, -1);
     KO_TRY_COMPARE(int(m_found.size()), 2);
-    QCOMPARE(m_scanner->state().where, QStringLiteral("here0, 10.99.0.0/22 of 10.99.0.0/16"));
+    QCOMPARE(m_scanner->state().where.text(), QStringLiteral("here0, 10.99.0.0/22 of 10.99.0.0/16"));
     QCOMPARE(m_scanner->state().total, 1023);
     QVERIFY(m_scanner->state().done > 0 && m_scanner->state().done < 1023);
     QCOMPARE(int(log.lines.filter(QStringLiteral("10.99.0.0/22 of 10.99.0.0/16")).size()), 1);

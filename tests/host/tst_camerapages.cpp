@@ -37,6 +37,7 @@ private slots:
 
     void macOfANewDevice_data();
     void macOfANewDevice();
+    void urlsOfANewCamera();
     void noMacIsRefused();
     void refusedUntilAllIsGood();
     void anotherTypeRefusesNothing();
@@ -81,6 +82,23 @@ void tst_CameraPages::macOfANewDevice()
     QCOMPARE(node->macAddress().toString(true), QString("00:00:5E:12:34:AB"));
     QVERIFY(db().flush());
     QCOMPARE(db().node(dialog.nodeId())->stringProperty("FactoryIP", QString()), QString("00005E1234AB"));
+}
+
+void tst_CameraPages::urlsOfANewCamera()
+{
+    const QList<ENodeType> types = {UrlCameraType};
+    AddNodeDialog dialog(this, nullptr, &types, false, 0);
+    dialog.show();
+    QTest::keyClicks(child<QLineEdit>(&dialog, "nameLineEdit"), "Yard");
+    QTest::keyClicks(child<QLineEdit>(&dialog, "lineEditLiveSteam"), "http://10.0.0.8/live");
+    QTest::keyClicks(child<QLineEdit>(&dialog, "lineEditZoomIn"), "http://10.0.0.8/tele");
+    button(dialog, QDialogButtonBox::Ok)->click();
+    const kom::smart<const Node> node = db().node(dialog.nodeId());
+    QVERIFY(!node.null());
+    QCOMPARE(node->stringProperty("UrlPTZStream", QString()), QString("http://10.0.0.8/live"));
+    QCOMPARE(node->stringProperty("UrlPTZZommIn", QString()), QString("http://10.0.0.8/tele"));
+    QCOMPARE(node->stringProperty("UrlPTZUp", "none"), QString());
+    QCOMPARE(node->name(), QString("Yard"));
 }
 
 void tst_CameraPages::noMacIsRefused()

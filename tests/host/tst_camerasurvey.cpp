@@ -322,7 +322,8 @@ void tst_CameraSurvey::refusedFilesChangeNothing_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("error");
     const QByteArray good = header() + "Gate,10.0.0.1,,,,,,,,\n";
-    const QString binary = "This is no text file (line %1 holds binary data). Save the file as UTF-8 text.";
+    const QString binary =
+        "This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.";
     QTest::newRow("empty") << QByteArray() << "The file is empty.";
     QTest::newRow("only line breaks") << QByteArray("\n\r\n\n") << "The file is empty.";
     QTest::newRow("no address column")
@@ -371,7 +372,7 @@ void tst_CameraSurvey::refusedPlaces_data()
                             << "%1 is not a regular file.";
     QTest::newRow("name that a dialog could not read")
         << QString("in%1.csv").arg(QChar(QChar::ReplacementCharacter))
-        << "The file \"%1\" cannot be used: its name is no text in the encoding of this system. Rename it.";
+        << "The file \"%1\" cannot be used: its name is not text in the encoding of this system. Rename it.";
     QTest::newRow("pipe") << "pipe"
                           << "%1 is not a regular file.";
 }
@@ -407,7 +408,7 @@ void tst_CameraSurvey::tooManyBadLines()
     for (int i = 0; i < 3 * MaximumBadLines; ++i)
         bytes += "some,line,of,another,table\n";
     const ImportResult result = import(bytes);
-    QCOMPARE(result.error, QString("10000 lines are bad; this is no list of cameras."));
+    QCOMPARE(result.error, QString("10000 lines are bad; this is not a list of cameras."));
     QCOMPARE(result.badLines.size(), int(MaximumBadLines));
     QCOMPARE(db->calls, QStringList());
 }
@@ -416,10 +417,10 @@ void tst_CameraSurvey::badLinesAreNamed_data()
 {
     QTest::addColumn<QByteArray>("line");
     QTest::addColumn<QString>("reason");
-    const QString port = "bad port: it is no number from 0 to 65535";
+    const QString port = "bad port: it is not a number from 0 to 65535";
     const QString ssl = "bad SSL: it is not one of yes, no, true, false, 1, 0";
-    const QString channel = "bad channel: it is no number from 1 to 4";
-    const QString mac = "bad MAC: it is no MAC address (twelve hexadecimal digits)";
+    const QString channel = "bad channel: it is not a number from 1 to 4";
+    const QString mac = "bad MAC: it is not a MAC address (twelve hexadecimal digits)";
     QTest::newRow("port too large") << QByteArray("x,10.0.0.9,65536,,,,,,,") << port;
     QTest::newRow("port negative") << QByteArray("x,10.0.0.9,-1,,,,,,,") << port;
     QTest::newRow("port with a sign") << QByteArray("x,10.0.0.9,+80,,,,,,,") << port;
@@ -441,16 +442,16 @@ void tst_CameraSurvey::badLinesAreNamed_data()
     QTest::newRow("too many cells") << QByteArray("x,10.0.0.9,,,,,,,,,more")
                                     << "there are more cells than columns";
     QTest::newRow("control character in a name")
-        << QByteArray("x\x1b[2J,10.0.0.9,,,,,,,,") << "bad name: it holds control characters";
+        << QByteArray("x\x1b[2J,10.0.0.9,,,,,,,,") << "bad name: it contains control characters";
     QTest::newRow("tab in a user") << QByteArray("x,10.0.0.9,,,ro\tot,,,,,")
-                                   << "bad user: it holds control characters";
+                                   << "bad user: it contains control characters";
     QTest::newRow("C1 control character")
-        << QByteArray("x,10.0.0.9,,,,,,M\xc2\x9b,,") << "bad model: it holds control characters";
+        << QByteArray("x,10.0.0.9,,,,,,M\xc2\x9b,,") << "bad model: it contains control characters";
     QTest::newRow("line break in an address")
-        << QByteArray("x,\"10.0.\n0.9\",,,,,,,,") << "bad address: it holds a line break";
-    const QString host = "bad address: it is no host name and no IP address";
+        << QByteArray("x,\"10.0.\n0.9\",,,,,,,,") << "bad address: it contains a line break";
+    const QString host = "bad address: it is neither a host name nor an IP address";
     const QString more =
-        "bad address: it holds more than a host; port, SSL and user have columns of their own";
+        "bad address: it contains more than a host; port, SSL and user have columns of their own";
     QTest::newRow("blank in an address") << QByteArray("x,10.0.0. 9,,,,,,,,") << host;
     QTest::newRow("five numbers") << QByteArray("x,10.0.0.0.9,,,,,,,,") << host;
     QTest::newRow("number too large") << QByteArray("x,10.0.0.256,,,,,,,,") << host;
@@ -460,14 +461,13 @@ void tst_CameraSurvey::badLinesAreNamed_data()
     QTest::newRow("address with a port") << QByteArray("x,10.0.0.9:8080,,,,,,,,") << more;
     QTest::newRow("IPv6 address with a port") << QByteArray("x,[fe80::1]:8080,,,,,,,,") << more;
     QTest::newRow("line break in a password")
-        << QByteArray("x,10.0.0.9,,,,\"a\nb\",,,,") << "bad password: it holds a line break";
+        << QByteArray("x,10.0.0.9,,,,\"a\nb\",,,,") << "bad password: it contains a line break";
     QTest::newRow("long name") << QByteArray(1025, 'n') + ",10.0.0.9,,,,,,,,"
                                << "bad name: it is longer than 1024 characters";
     QTest::newRow("long path") << "x,10.0.0.9,,,,,,,," + QByteArray(1025, 'n')
                                << "bad recording path: it is longer than 1024 characters";
-    QTest::newRow("path that shows another one")
-        << QByteArray("x,10.0.0.9,,,,,,,,/a/\xe2\x80\xae/b")
-        << "bad recording path: it holds characters that cannot be seen";
+    QTest::newRow("path that shows another one") << QByteArray("x,10.0.0.9,,,,,,,,/a/\xe2\x80\xae/b")
+                                                 << "bad recording path: it contains invisible characters";
     QTest::newRow("name of nothing that is seen")
         << QByteArray("\xe2\x80\x8b,\xef\xbb\xbf,80,,root,,,,,") << "there is neither a name nor an address";
     QTest::newRow("text behind a quote")
@@ -518,8 +518,8 @@ void tst_CameraSurvey::goodLinesAroundBadOnesAreTaken()
 {
     const ImportResult result = import(header() + "A,10.0.0.1,x,,,,,,,\nB,10.0.0.2,,,,,,,,\n"
                                                   "C,10.0.0.3,,,,,9,,,\nD,10.0.0.4\nE,10.0.0.5,,,,,,,,,,,\n");
-    QCOMPARE(badLines(result), QString("2: bad port: it is no number from 0 to 65535\n"
-                                       "4: bad channel: it is no number from 1 to 4"));
+    QCOMPARE(badLines(result), QString("2: bad port: it is not a number from 0 to 65535\n4: bad channel: it "
+                                       "is not a number from 1 to 4"));
     QCOMPARE(db->changes(), QStringList({"newNodeHint(B)", "newNodeHint(D)", "newNodeHint(E)",
                                          "log(NImp,survey.csv,3,0,2)"}));
 }
@@ -693,12 +693,11 @@ void tst_CameraSurvey::typeColumn()
         import("address,type,channel\n10.0.0.1,ip  DEVICE,\n10.0.0.2,URL camera,\n"
                "10.0.0.3,Channel device,\n10.0.0.4,5,2\n10.0.0.5,2,1\n10.0.0.6,recorder,\n"
                "10.0.0.7,77,\n10.0.0.8,0,\n10.0.0.9,3,2\n");
-    QCOMPARE(badLines(result),
-             QString("6: a device of this type has no channels\n"
-                     "7: bad type: it is not one of IP device, URL camera, channel device, and no number\n"
-                     "8: devices of this type cannot be added here\n"
-                     "9: devices of this type cannot be added here\n"
-                     "10: a device of this type has no channels"));
+    QCOMPARE(
+        badLines(result),
+        QString("6: a device of this type has no channels\n7: bad type: it is neither a number nor one of IP "
+                "device, URL camera, channel device\n8: devices of this type cannot be added here\n9: "
+                "devices of this type cannot be added here\n10: a device of this type has no channels"));
     QList<QString> types;
     for (int i = 1; i <= 4; ++i)
         types.append(valuesOf(QString("new%1").arg(i)).at(0));

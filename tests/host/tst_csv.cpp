@@ -259,7 +259,8 @@ void tst_Csv::refusals_data()
     QTest::addColumn<QString>("error");
     QTest::addColumn<int>("records");
     const QString notUtf8 = "Line %1 is not UTF-8 text. Save the file as UTF-8 and try again.";
-    const QString binary = "This is no text file (line %1 holds binary data). Save the file as UTF-8 text.";
+    const QString binary =
+        "This is not a text file (line %1 contains binary data). Save the file as UTF-8 text.";
     QTest::newRow("Latin-1") << QByteArray("a,b\n1,2\nT\xfcr,3\n") << notUtf8.arg(3) << 2;
     QTest::newRow("Latin-1 in a quoted cell")
         << QByteArray("a,b\n\"x\ny\nT\xfcr\",3\n") << notUtf8.arg(4) << 1;
@@ -374,8 +375,8 @@ void tst_Csv::endlessFileIsRefusedEarly_data()
     QTest::addColumn<QString>("error");
     QTest::newRow("text") << int('x') << "Line 1 is longer than 1 MiB.";
     QTest::newRow("quotes") << int('"') << "Line 1 is longer than 1 MiB.";
-    QTest::newRow("zeros") << 0
-                           << "This is no text file (line 1 holds binary data). Save the file as UTF-8 text.";
+    QTest::newRow("zeros")
+        << 0 << "This is not a text file (line 1 contains binary data). Save the file as UTF-8 text.";
 }
 
 void tst_Csv::endlessFileIsRefusedEarly()

@@ -154,9 +154,9 @@ void DeclaredPropertyTest::badCellIsRefused()
     QStringList reasons;
     for (const CameraSurvey::BadLine& bad : result.badLines)
         reasons.append(bad.reason);
-    QCOMPARE(reasons, QStringList({"bad mount height: it is no number",
+    QCOMPARE(reasons, QStringList({"bad mount height: it is not a number",
                                    "bad outdoors: it is not one of yes, no, true, false, 1, 0",
-                                   "bad tilt: it is no number"}));
+                                   "bad tilt: it is not a number"}));
 }
 
 QString DeclaredPropertyTest::file(const QByteArray& content)

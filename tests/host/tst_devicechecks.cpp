@@ -246,11 +246,11 @@ void DeviceChecksTest::everyKindOfDevice()
     QElapsedTimer clock;
     clock.start();
     const DeviceReport report = checked(site.target(1));
-    QVERIFY2(int(report.state) == state, qPrintable(QString::number(report.state) + report.reason));
+    QVERIFY2(int(report.state) == state, qPrintable(QString::number(report.state) + report.reason.text()));
     QVERIFY(clock.elapsed() < 12000);
     QVERIFY(report.time.isValid());
     QCOMPARE(report.isOpen, kind == "open");
-    QVERIFY2(!report.reason.contains("kosim-pass"), qPrintable(report.reason));
+    QVERIFY2(!report.reason.text().contains("kosim-pass"), qPrintable(report.reason.text()));
     if (state != DeviceReport::Answers) {
         QVERIFY(!report.reason.isEmpty());
         return;
@@ -450,7 +450,7 @@ void DeviceChecksTest::certificateIsRemembered()
     const auto answer = withClock([](const QByteArray&) { return http(200, information()); });
     Device device(answer, 0);
     const DeviceReport first = checked(device.target());
-    QVERIFY2(first.state == DeviceReport::Answers, qPrintable(first.reason));
+    QVERIFY2(first.state == DeviceReport::Answers, qPrintable(first.reason.text()));
     QCOMPARE(first.seen.certificate,
              QSslCertificate(certificates[0]).digest(QCryptographicHash::Sha256).toHex());
     DeviceTarget target = device.target();
@@ -460,7 +460,7 @@ void DeviceChecksTest::certificateIsRemembered()
     Device other(answer, 1);
     target.port = other.serverPort();
     const DeviceReport changed = checked(target);
-    QVERIFY2(changed.state == DeviceReport::OtherDevice, qPrintable(changed.reason));
+    QVERIFY2(changed.state == DeviceReport::OtherDevice, qPrintable(changed.reason.text()));
     QVERIFY(changed.seen.certificate != first.seen.certificate);
     QTest::qWait(200);
     QVERIFY(other.requests.isEmpty()); // not even a question

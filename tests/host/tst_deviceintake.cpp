@@ -308,7 +308,7 @@ void DeviceIntakeTest::farAddressesAreNotTakenOver()
     Scanners::of(db()).intake().beginScan();
     announce();
     QCOMPARE(int(log.lines.size()), 2);
-    // What a user enters is his own matter.
+    // What a user enters is the user's own matter.
     m_host->add(IPDeviceType, "Mine", "127.0.0.1");
     QCOMPARE(ids().size(), 2);
 }

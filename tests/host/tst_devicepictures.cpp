@@ -158,7 +158,7 @@ void tst_DevicePictures::everyKindOfCamera_data()
         QTest::newRow(kind) << QString();
     QTest::newRow("picture-dot") << QString();
     for (const char* kind : {"picture-huge", "picture-scans", "picture-noise", "picture-page"})
-        QTest::newRow(kind) << QString("no picture");
+        QTest::newRow(kind) << QString("not a picture");
     QTest::newRow("picture-realm") << QString("another realm");
 }
 

@@ -43,7 +43,7 @@ void tst_FileName::namesThatAreNoTextAreRefused()
 {
     const QTemporaryDir folder;
     const QString name = folder.filePath("a") + QChar(QChar::ReplacementCharacter);
-    QVERIFY(FileName::refusal(name).contains(name)); // what a dialog makes of a name that is no text
+    QVERIFY(FileName::refusal(name).contains(name)); // what a dialog makes of a name that is not text
     QFile file(name);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(FileName::refusal(name), QString()); // it is really called so

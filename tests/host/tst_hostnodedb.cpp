@@ -591,7 +591,7 @@ void TestHostNodeDB::proxyIsStored()
     QCOMPARE(stored.proxyPassword(), QString::fromUtf8("p@ss:\xC3\xA4"));
     QVERIFY(stored.saveProxyPassword());
     QCOMPARE(stored.exceptionsAssembled(QLatin1Char(';')), QLatin1String("*.example.org;10.*;with,comma"));
-    QVERIFY(!m_db->hasUnstoredChanges()); // reading is no change
+    QVERIFY(!m_db->hasUnstoredChanges()); // reading is not a change
 }
 
 void TestHostNodeDB::unsavedProxyPasswordIsNotStored()

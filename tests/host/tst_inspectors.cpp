@@ -169,7 +169,7 @@ void tst_Inspectors::tabsAndPages_data()
                                 << QStringList({text("general"), text("ptz"), text("device"),
                                                 text("layoutOptions"), text("recordings"), text("proxy")});
     QTest::newRow("folder") << 0 << QStringList(text("general"));
-    QTest::newRow("view") << 1 << QStringList(text("general"));
+    QTest::newRow("view") << 1 << QStringList({text("general"), text("nodes")});
 }
 
 void tst_Inspectors::tabsAndPages()
@@ -354,7 +354,7 @@ void tst_Inspectors::nameFollowsAddressUntilTyped()
     QTest::keyClicks(address, text(".1.1"));
     QCOMPARE(name->text(), text("10.0x"));
     name->selectAll();
-    QTest::keyClick(name, Qt::Key_Delete); // an emptied name is no name
+    QTest::keyClick(name, Qt::Key_Delete); // an emptied name is not a name
     QTest::keyClicks(address, text("2"));
     QCOMPARE(name->text(), text("10.0.1.12"));
     inspector->ok();

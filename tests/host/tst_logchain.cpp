@@ -366,7 +366,7 @@ void tst_LogChain::attackIsSeenAfterMoreWasWritten()
     }
 }
 
-/// Who can write the file makes the links himself, but with another key or none.
+/// Whoever can write the file can make the links, but with another key or none.
 void tst_LogChain::rewrittenWithoutTheKey()
 {
     for (const char* key : {"other key", ""}) {

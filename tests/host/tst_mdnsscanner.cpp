@@ -229,7 +229,7 @@ void MdnsScannerTest::daemonComesAndGoes()
         found.clear();
     }
     KO_TRY_COMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
-    QCOMPARE(scanner.state().reason, QStringLiteral("the Avahi daemon is not running"));
+    QCOMPARE(scanner.state().reason.text(), QStringLiteral("the Avahi daemon is not running"));
     end(m_bus); // the bus itself goes
     QTest::qWait(2500);
     QCOMPARE(int(scanner.state().phase), int(ScannerState::Unavailable));
@@ -306,7 +306,7 @@ void MdnsScannerTest::daemonThatHangsHoldsNobodyUp()
             [&found](const QVector<DiscoveredDevice>& some) { found += some; });
     scanner->start(0xFFFFFFFF, -1);
     KO_TRY_COMPARE(int(scanner->state().phase), int(ScannerState::Unavailable));
-    QCOMPARE(scanner->state().reason, QStringLiteral("the Avahi daemon does not answer"));
+    QCOMPARE(scanner->state().reason.text(), QStringLiteral("the Avahi daemon does not answer"));
     stopped.goOn();
     KO_TRY_VERIFY(!found.isEmpty());
     KO_TRY_COMPARE(int(scanner->state().phase), int(ScannerState::Running));

@@ -58,7 +58,7 @@ void tst_NodeTypes::typesAreNamedAndHaveIcons_data()
     QTest::newRow("camera") << 2 << "IP Camera" << true << true;
     QTest::newRow("url camera") << 3 << "URL Camera" << true << true;
     QTest::newRow("channel device") << 5 << "Multi-Channel Device" << true << true;
-    QTest::newRow("recorder") << 11 << "Internal Recorder" << false << false;
+    QTest::newRow("recorder") << 11 << "Internal Recorder" << false << true;
     QTest::newRow("transponder") << 12 << "Remote Preview Server" << false << false;
 }
 

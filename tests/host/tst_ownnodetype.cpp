@@ -158,7 +158,7 @@ void tst_OwnNodeType::deviceHasAnAddress()
     QCOMPARE(m_host->db()->summary(id).location, QString("10.0.0.9"));
 }
 
-/// A folder may hold anything; what is no library is passed over.
+/// A folder may hold anything; what is not a library is passed over.
 void tst_OwnNodeType::pluginsThatAreNone()
 {
     QTemporaryDir folder;

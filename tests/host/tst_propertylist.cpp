@@ -226,7 +226,7 @@ void TestPropertyList::foreignCodingGivesNothing()
         QVERIFY2(!PropertyCoding::listFromText(json), json);
     for (const char* json : {"{}", "{\"a\":1}", "{\"a\":[9,1]}", "{\"a\":[]}", "{\"a\":[-1,\"x\"]}"})
         QCOMPARE(PropertyCoding::listFromText(json)->count(), 0);
-    // An escaped byte that is no text.
+    // An escaped byte that is not text.
     const auto bytes = PropertyCoding::listFromText("{\"a\":[0,\"\\\xd2,\"]}");
     QVERIFY(bytes->value(QLatin1String("a")).toString().isValidUtf16());
     const auto set = PropertyCoding::listFromText("{\"s\":[4,{\"a\":1,\"b\":[9,1],\"c\":[]}]}");

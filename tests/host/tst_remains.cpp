@@ -14,7 +14,7 @@
 using namespace ko;
 using namespace testsupport;
 
-/// What lies beside a database: traces that tell it is no new one, what killed programs left, links to it,
+/// What lies beside a database: traces that tell it is not a new one, what killed programs left, links to it,
 /// and files that others may read.
 class TestRemains : public QObject
 {

@@ -76,9 +76,16 @@ private:
         else if (command == QLatin1String("touch"))
             touchAll(a);
         else if (command == QLatin1String("flood"))
-            for (int i = 0; i < a.toInt(); ++i)
-                addCamera(*m_db, QString::number(i), QString::fromLatin1("flood-%1").arg(i));
+            flood(a.toInt());
         return QString();
+    }
+
+    /// This many cameras, on the disk.
+    void flood(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            addCamera(*m_db, QString::number(i), QString::fromLatin1("flood-%1").arg(i));
+        m_db->flush();
     }
 
     /// Every camera gets this model, and the first five the last one for a relation.

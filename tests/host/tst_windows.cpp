@@ -1,3 +1,4 @@
+#include "support/Contrast.h"
 #include "support/DialogCheck.h"
 #include "support/HostFixture.h"
 #include "support/TestMain.h"
@@ -20,9 +21,10 @@
 #include <QTabWidget>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace ko;
+using testsupport::contrast;
+using testsupport::darkPalette;
 
 namespace {
 
@@ -31,35 +33,6 @@ const double VisibleContrast = 3;    // and pictures
 
 /// Each of these is a process of its own: the scale of the screen is read once, at the start.
 const char ScaleVariable[] = "QT_SCALE_FACTOR";
-
-QPalette darkPalette()
-{
-    const QColor window(45, 45, 45);
-    QPalette palette(window, window);
-    palette.setColor(QPalette::Base, QColor(30, 30, 30));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, Qt::white);
-        palette.setColor(QPalette::Disabled, role, QColor(160, 160, 160));
-    }
-    return palette;
-}
-
-/// Relative luminance as WCAG 2 defines it, 0 to 1.
-double luminance(const QColor& color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b)
-{
-    const double first = luminance(a);
-    const double second = luminance(b);
-    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
-}
 
 /// The share of a picture's solid pixels that stand out against a background.
 double visibleShare(const QImage& picture, const QColor& background)

@@ -5,8 +5,8 @@
 
 namespace kosim {
 
-/// What a camera says on its RTSP port to one who has not told the password: 401 for each method, with the
-/// request's CSeq; 400 when it is no RTSP. A request is everything up to and with its empty line.
+/// What a camera says on its RTSP port to somebody who did not give the password: 401 for each method, with
+/// the request's CSeq; 400 when it is no RTSP. A request is everything up to and with its empty line.
 QByteArray rtspAnswer(const QByteArray& request, const QByteArray& realm, const QByteArray& nonce);
 
 /// The header line that asks for HTTP digest.

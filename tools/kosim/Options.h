@@ -28,7 +28,7 @@ struct Options
     int discoveryPort = 3702;
     Account account;
     QVector<Behaviour> behaviours = {Behaviour::Digest}; ///< of the cameras, in turn
-    int hostileEvery = 0; ///< each so many is a hostile one instead; 0 for none
+    int hostileEvery = 0;                                ///< one in this many is hostile; 0 for none
     bool oneServer = false;
     Tls tls;
     int storm = 0; ///< announcements without a camera

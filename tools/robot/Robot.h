@@ -23,7 +23,8 @@ public:
     /// False, with the reason said, when something was not as it must be.
     bool run(const QString& survey);
 
-    /// The walk of the demonstration: both scans, until so many cameras are found, which are then taken over.
+    /// The walk of the demonstration: both scans, until this many cameras are found, which are then taken
+    /// over.
     bool runScans(int cameras);
 
     /// In a later process: whether what the walk did was stored and logged.
