@@ -41,7 +41,7 @@ std::unique_ptr<EditNodeDialog> openedByClient(HostNodeDB& db, const QString& id
 {
     auto dialog = std::make_unique<EditNodeDialog>(id, nullptr, false, NodeCommands::EditFlags, &layouts);
     NodeHistoryPage::addTo(*dialog, db, id);
-    ChangedMeanwhile::addTo(*dialog, db, id);
+    ChangedMeanwhile::addTo(*dialog, db, id, NodeEditors::Access::Write);
     paint(*dialog);
     return dialog;
 }
