@@ -32,7 +32,7 @@ Sealer sealerOf(const QString& passphrase, const QByteArray& salt, const KeyEnve
                       quint64(clear.size()), reinterpret_cast<const unsigned char*>(salt.constData()),
                       cost.operations, size_t(cost.memory), crypto_pwhash_ALG_ARGON2ID13);
     sodium_memzero(clear.data(), size_t(clear.size()));
-    const Sealer sealer = result == 0 ? Sealer({key}) : Sealer();
+    Sealer sealer = result == 0 ? Sealer({key}) : Sealer();
     sodium_memzero(key.data(), size_t(key.size()));
     return sealer;
 }

@@ -77,7 +77,7 @@ SharingFailure SitePresence::tell(SiteConnection& connection, const Open& open)
 SharingFailure SitePresence::ask(SiteConnection& connection, QVector<NodeEditor>* others)
 {
     QByteArray text;
-    if (const SharingFailure failure = connection.value("SELECT ko.editors()", {}, &text))
+    if (SharingFailure failure = connection.value("SELECT ko.editors()", {}, &text))
         return failure;
     const QJsonArray rows = QJsonDocument::fromJson(text).array();
     for (const QJsonValue& value : rows) {

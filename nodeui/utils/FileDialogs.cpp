@@ -107,7 +107,7 @@ protected:
         if (m_onServer.isEmpty() || QFileInfo(m_onServer).isDir())
             QFileDialog::accept();
         else
-            QDialog::accept();
+            done(QDialog::Accepted); // without the looks that the toolkit takes
     }
 
 private:
