@@ -45,8 +45,8 @@ public:
     SharingFailure agree(const QVector<KnownParcel>& known, KnownParcel* newest);
     SharingFailure submit(const QVector<SharedParcel>& parcels, qint64* number);
     SharingFailure fetch(qint64 position, int most, QVector<SharedParcel>* parcels);
-    /// All parcels, or all rows of a table, in their order, by COPY. What \a take does not want any more ends
-    /// it, with the connection.
+    /// All parcels, or all rows of a table, in their order, by COPY, read by a thread while \a take is at
+    /// work in this one. What that does not want any more ends it, with the connection.
     SharingFailure copyParcels(const std::function<bool(const SharedParcel&)>& take);
     SharingFailure copyRows(SharedTable table, const std::function<bool(const SharedRow&)>& take);
     /// At most \a most rows of a table after a place.
@@ -75,7 +75,8 @@ private:
     struct Answer;
 
     typedef std::function<SharingFailure(const std::vector<QByteArray>& columns)> TakeColumns;
-    SharingFailure copy(const char* sql, const TakeColumns& take);
+    SharingFailure copyPieces(const char* sql, int rows, const TakeColumns& take);
+    SharingFailure copy(const QByteArray& sql, const TakeColumns& take);
     Answer run(const char* sql, const std::vector<std::string>& values = {});
     SharingFailure execute(const QByteArray& script);
     SharingFailure finishConnecting(int timeout);

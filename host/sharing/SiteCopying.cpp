@@ -1,4 +1,5 @@
 #include "sharing/ParcelCoding.h"
+#include "sharing/ReadAhead.h"
 #include "sharing/SiteConnection.h"
 
 #include <QCryptographicHash>
@@ -12,6 +13,11 @@ namespace ko {
 namespace {
 
 const int headerSize = 19; // signature, flags and length of an extension, which there is none of
+
+const int parcelsOfAPiece = 50;
+const int rowsOfAPiece = 5000;
+const size_t parcelsAhead = 20; // of up to 200 lines each
+const size_t rowsAhead = 2000;
 
 /// The columns of a row in the binary form of COPY; none at its end.
 std::vector<QByteArray> columnsOf(const char* row, int size)
@@ -32,11 +38,43 @@ std::vector<QByteArray> columnsOf(const char* row, int size)
     return columns;
 }
 
+qint64 numberOf(const QByteArray& column)
+{
+    return column.size() == sizeof(qint64) ? qFromBigEndian<qint64>(column.constData()) : 0;
+}
+
+SharingFailure unwanted()
+{
+    return {SharingFailure::Away, QString()};
+}
+
 } // namespace
 
-SharingFailure SiteConnection::copy(const char* sql, const TakeColumns& take)
+/// The server makes the whole answer before it sends any of it: it makes the next piece while the desk stores
+/// this one.
+SharingFailure SiteConnection::copyPieces(const char* sql, int rows, const TakeColumns& take)
 {
-    bool isAlive = PQsendQuery(m_connection, sql) == 1 && send(QueryTimeout);
+    qint64 last = 0;
+    SharingFailure failure;
+    for (int count = rows; !failure && count == rows;) {
+        count = 0;
+        failure = copy(QByteArray("COPY (") + sql + '(' + QByteArray::number(last) + ", " +
+                           QByteArray::number(rows) + ")) TO STDOUT (FORMAT binary)",
+                       [&](const std::vector<QByteArray>& columns) -> SharingFailure {
+                           const qint64 number = numberOf(columns.at(0));
+                           if (columns.size() < 2 || number <= last)
+                               return {SharingFailure::Refused, QStringLiteral("rows out of their order")};
+                           last = number;
+                           ++count;
+                           return take(columns);
+                       });
+    }
+    return failure;
+}
+
+SharingFailure SiteConnection::copy(const QByteArray& sql, const TakeColumns& take)
+{
+    bool isAlive = PQsendQuery(m_connection, sql.constData()) == 1 && send(QueryTimeout);
     while (isAlive && PQisBusy(m_connection) == 1)
         isAlive = waitForSocket(POLLIN, QueryTimeout) && PQconsumeInput(m_connection) == 1;
     Result result(isAlive ? PQgetResult(m_connection) : nullptr, &PQclear);
@@ -72,29 +110,35 @@ SharingFailure SiteConnection::copy(const char* sql, const TakeColumns& take)
 
 SharingFailure SiteConnection::copyParcels(const std::function<bool(const SharedParcel&)>& take)
 {
-    return copy("COPY (SELECT parcel, link FROM ko.parcels_after(0, 2147483647)) TO STDOUT (FORMAT binary)",
-                [&take](const std::vector<QByteArray>& columns) -> SharingFailure {
-                    QString error;
-                    std::optional<SharedParcel> parcel = ParcelCoding::decode(columns.at(0), &error);
-                    if (!parcel || columns.size() != 2)
-                        return {SharingFailure::Refused, error};
-                    parcel->digest = QCryptographicHash::hash(columns.at(0), QCryptographicHash::Sha256);
-                    parcel->link = QByteArray::fromHex(columns.at(1));
-                    return take(*parcel) ? SharingFailure() : SharingFailure{SharingFailure::Away, QString()};
-                });
+    const auto read = [this](const std::function<bool(SharedParcel)>& put) {
+        return copyPieces("SELECT number, parcel, link FROM ko.parcels_after", parcelsOfAPiece,
+                          [&put](const std::vector<QByteArray>& columns) -> SharingFailure {
+                              QString error;
+                              std::optional<SharedParcel> parcel =
+                                  ParcelCoding::decode(columns.at(1), &error);
+                              if (!parcel || columns.size() != 3)
+                                  return {SharingFailure::Refused, error};
+                              parcel->digest =
+                                  QCryptographicHash::hash(columns.at(1), QCryptographicHash::Sha256);
+                              parcel->link = QByteArray::fromHex(columns.at(2));
+                              return put(std::move(*parcel)) ? SharingFailure() : unwanted();
+                          });
+    };
+    return ReadAhead<SharedParcel>(parcelsAhead).run(read, take);
 }
 
 SharingFailure SiteConnection::copyRows(SharedTable table, const std::function<bool(const SharedRow&)>& take)
 {
-    const char* sql =
-        table == SharedTable::Nodes
-            ? "COPY (SELECT item FROM ko.nodes_after(0, 2147483647)) TO STDOUT (FORMAT binary)"
-        : table == SharedTable::Relations
-            ? "COPY (SELECT item FROM ko.relations_after(0, 2147483647)) TO STDOUT (FORMAT binary)"
-            : "COPY (SELECT item FROM ko.rest_after(0, 2147483647)) TO STDOUT (FORMAT binary)";
-    return copy(sql, [&take](const std::vector<QByteArray>& columns) -> SharingFailure {
-        return take({0, columns.at(0)}) ? SharingFailure() : SharingFailure{SharingFailure::Away, QString()};
-    });
+    const auto read = [this, table](const std::function<bool(SharedRow)>& put) {
+        return copyPieces(
+            table == SharedTable::Nodes       ? "SELECT place, item FROM ko.nodes_after"
+            : table == SharedTable::Relations ? "SELECT place, item FROM ko.relations_after"
+                                              : "SELECT place, item FROM ko.rest_after",
+            rowsOfAPiece, [&put](const std::vector<QByteArray>& columns) {
+                return put({numberOf(columns.at(0)), columns.at(1)}) ? SharingFailure() : unwanted();
+            });
+    };
+    return ReadAhead<SharedRow>(rowsAhead).run(read, take);
 }
 
 } // namespace ko

@@ -4,6 +4,7 @@
 #include <QLocale>
 
 #include <cmath>
+#include <simdjson.h>
 
 namespace ko {
 
@@ -42,6 +43,20 @@ void appendNumber(QString* json, qint64 number)
 QString compact(const QJsonDocument& document)
 {
     return QString::fromUtf8(document.toJson(QJsonDocument::Compact));
+}
+
+QByteArray withoutBlanks(std::string_view utf8)
+{
+    QByteArray text(int(utf8.size()), Qt::Uninitialized);
+    size_t size = 0;
+    const bool isJson = simdjson::minify(utf8.data(), utf8.size(), text.data(), size) == simdjson::SUCCESS;
+    text.resize(isJson ? int(size) : 0);
+    return text;
+}
+
+QString text(std::string_view utf8)
+{
+    return utf8.empty() ? QString::fromLatin1("") : QString::fromUtf8(utf8.data(), int(utf8.size()));
 }
 
 QString list(const QStringList& texts)

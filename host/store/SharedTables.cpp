@@ -8,7 +8,53 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <simdjson.h>
+
 namespace ko {
+
+namespace {
+
+namespace json = simdjson::ondemand;
+
+/// [place, identifier, type, name, properties]; none if it is anything else.
+std::optional<std::pair<qint64, NodeData>> nodeOf(const QByteArray& row)
+{
+    thread_local json::parser parser; // keeps its memory
+    const simdjson::padded_string text(row.constData(), size_t(row.size()));
+    std::pair<qint64, NodeData> node;
+    NodeData& data = node.second;
+    int column = 0;
+    try {
+        json::document document = parser.iterate(text);
+        for (json::value value : document.get_array()) {
+            switch (column++) {
+            case 0:
+                node.first = value.get_int64();
+                break;
+            case 1:
+                data.id = JsonText::text(value.get_string());
+                break;
+            case 2:
+                data.type = ENodeType(int(value.get_int64()));
+                break;
+            case 3:
+                data.name = JsonText::text(value.get_string());
+                break;
+            case 4:
+                json::object properties = value.get_object();
+                const QByteArray compact = JsonText::withoutBlanks(properties.raw_json());
+                if (std::optional<PropertyList> list = PropertyCoding::listFromText(compact.toStdString()))
+                    data.properties = std::move(*list);
+                break;
+            }
+        }
+    } catch (const simdjson::simdjson_error&) {
+        return std::nullopt;
+    }
+    return column == 5 ? std::make_optional(node) : std::nullopt;
+}
+
+} // namespace
 
 SharedTables::SharedTables(SqliteStore& store, NodeTables& tables, const SharedLog::Describe& describe)
     : m_store(store)
@@ -37,22 +83,23 @@ bool SharedTables::apply(const SharedLine& line)
 
 void SharedTables::insert(SharedTable table, const SharedRow& row)
 {
-    const QJsonArray item = QJsonDocument::fromJson(row.json).array();
-    const qint64 place = qint64(item.at(0).toDouble());
     if (table == SharedTable::Nodes) {
-        insertNode(place,
-                   NodeData{item.at(1).toString(), ENodeType(item.at(2).toInt()), item.at(3).toString(),
-                            PropertyCoding::listFromJson(item.at(4).toObject())});
-    } else if (table == SharedTable::Relations) {
-        m_tables.addRelation(
-            {item.at(1).toString(), item.at(2).toString(), ENodeRelationType(item.at(3).toInt())}, place);
-    } else {
-        const QJsonObject settings = item.at(0).toObject();
-        for (auto it = settings.begin(); it != settings.end(); ++it)
-            m_tables.setSetting(it.key(), it.value().toString());
-        m_tables.setEnvironments(
-            ChangeCoding::environments(JsonText::compact(QJsonDocument(item.at(1).toArray()))));
+        if (const auto node = nodeOf(row.json))
+            insertNode(node->first, node->second);
+        return;
     }
+    const QJsonArray item = QJsonDocument::fromJson(row.json).array();
+    if (table == SharedTable::Relations) {
+        m_tables.addRelation(
+            {item.at(1).toString(), item.at(2).toString(), ENodeRelationType(item.at(3).toInt())},
+            qint64(item.at(0).toDouble()));
+        return;
+    }
+    const QJsonObject settings = item.at(0).toObject();
+    for (auto it = settings.begin(); it != settings.end(); ++it)
+        m_tables.setSetting(it.key(), it.value().toString());
+    m_tables.setEnvironments(
+        ChangeCoding::environments(JsonText::compact(QJsonDocument(item.at(1).toArray()))));
 }
 
 void SharedTables::insertNode(qint64 place, const NodeData& data)

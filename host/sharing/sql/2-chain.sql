@@ -3,29 +3,33 @@
 
 CREATE TABLE ko.links (
     number bigint PRIMARY KEY REFERENCES ko.parcels,
-    link bytea NOT NULL -- SHA-256 over the link before, if any, and the SHA-256 of ko.parcel_text(), in UTF-8
+    link bytea NOT NULL -- SHA-256 over the link before, if any, and the SHA-256 of its text, in UTF-8
 );
 
--- What desks get and what the chain is over, to the byte.
-CREATE FUNCTION ko.parcel_text(parcel bigint) RETURNS text LANGUAGE sql STABLE
-SET search_path = pg_catalog, pg_temp AS $$
-    SELECT jsonb_build_object('version', 1, 'number', p.number, 'id', p.id,
-        'set', jsonb_build_object('id', s.id, 'user', s."user", 'station', s.station, 'time', s."time",
-            'purpose', s.purpose, 'subject', s.subject, 'submitted_by', s.submitted_by),
-        'lines', (
-            SELECT jsonb_agg(jsonb_build_object('line', l.line, 'kind', l.kind, 'id', l.id, 'before', l.before,
-                'after', l.after, 'done', l.done) ORDER BY l.position)
-            FROM ko.lines l WHERE l.number = p.number))::text
-    FROM ko.parcels p JOIN ko.change_sets s ON s.id = p.set_id
-    WHERE p.number = parcel
+-- What desks get and what the chain is over, to the byte, of the parcels after a number and up to another one: the text
+-- of a jsonb object. Put together of texts, since to build that object takes three times as long.
+CREATE FUNCTION ko.parcel_texts(since bigint, last bigint) RETURNS TABLE (number bigint, parcel text)
+LANGUAGE sql STABLE SET search_path = pg_catalog, pg_temp AS $$
+    SELECT p.number, format('{"id": "%s", "set": {"id": %s, "time": %s, "user": %s, "purpose": %s, "station": %s, '
+            '"subject": %s, "submitted_by": %s}, "lines": %s, "number": %s, "version": 1}',
+        p.id, to_json(s.id), s."time", to_json(s."user"), to_json(s.purpose), to_json(s.station), to_json(s.subject),
+        to_json(s.submitted_by), coalesce('[' || listed.lines || ']', 'null'), p.number)
+    FROM ko.parcels p JOIN ko.change_sets s ON s.id = p.set_id LEFT JOIN (
+        SELECT l.number, string_agg(format('{"id": %s, "done": %s, "kind": "%s", "line": %s, "after": %s, "before": %s}',
+            to_json(l.id), l.done::text, l.kind, coalesce(l.line::text, 'null'), coalesce(l.after::text, 'null'),
+            coalesce(l.before::text, 'null')), ', ' ORDER BY l.position) AS lines
+        FROM ko.lines l WHERE l.number > since AND l.number <= last GROUP BY l.number
+    ) listed ON listed.number = p.number
+    WHERE p.number > since AND p.number <= last ORDER BY p.number
 $$;
 
 -- Adds the link of the newest parcel.
-CREATE FUNCTION ko.add_link(parcel bigint) RETURNS void LANGUAGE sql
+CREATE FUNCTION ko.add_link(newest bigint) RETURNS void LANGUAGE sql
 SET search_path = pg_catalog, pg_temp AS $$
     INSERT INTO ko.links (number, link)
-    SELECT parcel, sha256(coalesce((SELECT l.link FROM ko.links l WHERE l.number = parcel - 1), '')
-        || sha256(convert_to(ko.parcel_text(parcel), 'UTF8')))
+    SELECT newest, sha256(coalesce((SELECT l.link FROM ko.links l WHERE l.number = newest - 1), '')
+        || sha256(convert_to(t.parcel, 'UTF8')))
+    FROM ko.parcel_texts(newest - 1, newest) t
 $$;
 
 -- As before, and adds the link.
@@ -74,8 +78,10 @@ $$;
 DROP FUNCTION ko.parcels_after(bigint, integer);
 CREATE FUNCTION ko.parcels_after(after bigint, most integer) RETURNS TABLE (number bigint, parcel text, link text)
 LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, pg_temp AS $$
-    SELECT k.number, ko.parcel_text(k.number), encode(k.link, 'hex')
-    FROM ko.links k WHERE k.number > after ORDER BY k.number LIMIT most
+    WITH piece AS (SELECT k.number, k.link FROM ko.links k WHERE k.number > after ORDER BY k.number LIMIT most)
+    SELECT piece.number, t.parcel, encode(piece.link, 'hex')
+    FROM piece JOIN ko.parcel_texts(after, (SELECT max(piece.number) FROM piece)) t ON t.number = piece.number
+    ORDER BY piece.number
 $$;
 
 -- The newest of these parcels that the site still has, with its link; 0 if none.
@@ -89,6 +95,20 @@ LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, pg_temp AS $$
             LEFT JOIN ko.links k ON k.number = p.number
         ORDER BY p.number DESC LIMIT 1
     ) newest ON true
+$$;
+
+-- As before, in less than half the time: each property is looked at once, in the order in which they lie.
+CREATE OR REPLACE FUNCTION ko.nodes_after(after bigint, most integer) RETURNS TABLE (place bigint, item text)
+LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, pg_temp AS $$
+    WITH piece AS (
+        SELECT n.place, n.id, n.type, n.name FROM ko.nodes n WHERE n.place > after ORDER BY n.place LIMIT most
+    ), lists AS (
+        SELECT p.node, json_object_agg(p.key, p.value)::text AS list FROM ko.properties p
+        WHERE p.node > after AND p.node <= (SELECT max(piece.place) FROM piece) GROUP BY p.node
+    )
+    SELECT piece.place, format('[%s, %s, %s, %s, %s]', piece.place, to_json(piece.id), piece.type, to_json(piece.name),
+        coalesce(lists.list, '{}'))
+    FROM piece LEFT JOIN lists ON lists.node = piece.place ORDER BY piece.place
 $$;
 
 -- A site of version 1 gets its chain now.
