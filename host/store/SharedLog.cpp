@@ -3,9 +3,8 @@
 #include "secrets/Keyring.h"
 #include "store/ChangeCoding.h"
 #include "store/LogChain.h"
-#include "store/SharedParcels.h"
+#include "store/ReceivedParcels.h"
 #include "store/SharedPasswords.h"
-#include "store/SharedTables.h"
 #include "store/StoredSecrets.h"
 #include "store/WaitingRows.h"
 
@@ -16,6 +15,7 @@ namespace ko {
 namespace {
 
 const int mostLinesOfAParcel = 200;
+const int linesAtOnce = 100; // in one transaction, for which a user who stores something waits
 
 // What a large transaction writes and has no room in memory goes to SQLite's log, where each row looks for
 // its pages again, in a time that grows with the log.
@@ -57,23 +57,20 @@ public:
     Private(std::unique_ptr<SqliteStore> opened, const Describe& describing)
         : connection(std::move(opened))
         , tables(*connection)
-        , log(*connection)
         , parcels(*connection)
+        , received(*connection, tables, parcels)
         , waiting(*connection)
         , describe(describing)
     {
     }
 
-    bool take(const SharedParcel& parcel, SharedTables* shared);
-    void noteUndone(const SharedLine& line);
-    qint64 rowOf(qint64 changeSet, qint64 line);
-    void note(const ChangeLog::Row& row);
-    void setNumber(qint64 row, qint64 changeSet, qint64 line, qint64 number);
-
+    typedef QVector<SharedParcel>::const_iterator Parcels;
+    Receipt receiveSome(Parcels* next, Parcels end, const Cursor& sent);
+    qint64 position() { return connection->value("SELECT position FROM shared_site").toLongLong(); }
     const std::unique_ptr<SqliteStore> connection;
     NodeTables tables;
-    ChangeLog log;
     SharedParcels parcels;
+    ReceivedParcels received;
     WaitingRows waiting;
     const Describe describe;
 };
@@ -117,7 +114,7 @@ void SharedLog::setSite(const QString& site)
 
 qint64 SharedLog::position()
 {
-    return d->connection->value("SELECT position FROM shared_site").toLongLong();
+    return d->position();
 }
 
 qint64 SharedLog::dataVersion()
@@ -216,31 +213,43 @@ QVector<SharedParcel> SharedLog::waiting(Cursor* cursor, int lines)
 
 SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels, const Cursor& sent)
 {
-    Transaction transaction(*d->connection, Transaction::Write);
-    if (d->waiting.areAfter(sent))
+    Receipt receipt = Receipt::Taken;
+    for (auto next = parcels.begin(); next != parcels.end() && receipt == Receipt::Taken;) {
+        receipt = d->receiveSome(&next, parcels.end(), sent);
+        SqliteFile::letOthersIn();
+    }
+    return receipt;
+}
+
+SharedLog::Receipt SharedLog::Private::receiveSome(Parcels* next, Parcels end, const Cursor& sent)
+{
+    Transaction transaction(*connection, Transaction::Write);
+    if (waiting.areAfter(sent))
         return Receipt::SomethingWaits;
     const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
-    LogChain chain(*d->connection, key->sealer);
+    LogChain chain(*connection, key->sealer);
     chain.begin();
-    SharedTables shared(*d->connection, d->tables, d->describe);
+    SharedTables shared(*connection, tables, describe);
     qint64 position = this->position();
-    for (const SharedParcel& parcel : parcels) {
+    for (int lines = 0; *next != end && lines < linesAtOnce; ++*next) {
+        const SharedParcel& parcel = **next;
         if (parcel.number <= position)
             continue;
         if (parcel.number != position + 1)
             return Receipt::Gap;
-        if (!d->take(parcel, &shared))
+        if (!received.take(parcel, shared))
             return Receipt::Rewritten;
         position = parcel.number;
+        lines += int(parcel.lines.size());
     }
     QSet<QString> noted;
     for (const ChangeLog::Row& row : shared.touched()) {
         const int known = int(noted.size());
         noted.insert(QLatin1Char(row.kind) + row.id);
         if (noted.size() > known)
-            d->note(row);
+            received.note(row);
     }
-    d->connection->run("UPDATE shared_site SET position = ?", {position});
+    connection->run("UPDATE shared_site SET position = ?", {position});
     chain.end();
     transaction.commit();
     return Receipt::Taken;
@@ -259,7 +268,7 @@ SharedLog::Receipt SharedLog::takeCopy(const std::function<bool(const VisitParce
     qint64 position = 0;
     bool isFollowing = true;
     const bool hasHistory = history([&](const SharedParcel& parcel) {
-        isFollowing = parcel.number == ++position && d->take(parcel, nullptr);
+        isFollowing = parcel.number == ++position && d->received.write(parcel);
         return isFollowing;
     });
     if (!isFollowing)
@@ -277,84 +286,6 @@ SharedLog::Receipt SharedLog::takeCopy(const std::function<bool(const VisitParce
     d->connection->execute(lessSafe);
     d->connection->execute("PRAGMA shrink_memory");
     return Receipt::Taken;
-}
-
-/// Without \a shared it is only written down. False, with nothing done, if its link is wrong.
-bool SharedLog::Private::take(const SharedParcel& parcel, SharedTables* shared)
-{
-    if (!parcels.add(parcel))
-        return false;
-    qint64 changeSet = log.find(parcel.cause);
-    bool isNew = true; // else it is in the history of this desk as it was done here
-    for (const SharedLine& line : parcel.lines)
-        isNew = isNew && (line.line == 0 || changeSet == 0 || rowOf(changeSet, line.line) == 0);
-    for (const SharedLine& line : parcel.lines) {
-        const qint64 known = line.line != 0 && changeSet != 0 ? rowOf(changeSet, line.line) : 0;
-        if (known != 0)
-            setNumber(known, changeSet, line.line, parcel.number);
-        if (!line.isDone && known != 0 && known == line.line)
-            noteUndone(line);
-        if (!line.isDone)
-            continue;
-        const bool isChanged = shared != nullptr && shared->apply(line);
-        const ChangeLog::Row row = {ChangeLog::Kind(line.kind), line.id};
-        if (known == 0 && (isNew || line.line != 0)) {
-            if (changeSet == 0)
-                changeSet = log.numberOf(parcel.cause);
-            const qint64 added = log.add(changeSet, row, line.before, line.after);
-            setNumber(added, changeSet, line.line, parcel.number);
-        } else if (isChanged) {
-            note(row);
-        }
-    }
-    return true;
-}
-
-/// What the site did not do because it is so already is as the user wanted it. Of this desk alone: a line has
-/// the number that it had where it was made.
-void SharedLog::Private::noteUndone(const SharedLine& line)
-{
-    QStringList wanted;
-    if (line.kind == ChangeLog::NodeKind && !line.before.isNull() && !line.after.isNull())
-        wanted.append(line.id);
-    if (line.kind == ChangeLog::RelationKind && line.before.isNull())
-        wanted << line.id
-               << ChangeCoding::relationChange(line.id, line.before, line.after).relation.destination;
-    for (const QString& node : std::as_const(wanted)) {
-        if (tables.node(node).place == 0) {
-            connection->run("INSERT OR IGNORE INTO shared_undone (seq, node) VALUES (?, ?)",
-                            {line.line, node});
-            return;
-        }
-    }
-}
-
-/// Where in the table of changes a line is; 0: it is not. What was done at this desk has its own number as
-/// line.
-qint64 SharedLog::Private::rowOf(qint64 changeSet, qint64 line)
-{
-    const QVariant received = connection->value(
-        "SELECT seq FROM shared_lines WHERE change_set = ? AND line = ?", {changeSet, line});
-    if (received.isValid())
-        return received.toLongLong();
-    return connection
-        ->value("SELECT seq FROM changes c WHERE seq = ? AND change_set = ?"
-                " AND NOT EXISTS (SELECT 1 FROM shared_lines s WHERE s.seq = c.seq)",
-                {line, changeSet})
-        .toLongLong();
-}
-
-void SharedLog::Private::setNumber(qint64 row, qint64 changeSet, qint64 line, qint64 number)
-{
-    connection->run("INSERT INTO shared_lines (seq, change_set, line, number) VALUES (?, ?, ?, ?)"
-                    " ON CONFLICT (seq) DO UPDATE SET number = excluded.number",
-                    {row, changeSet, line == 0 ? SqlValue() : SqlValue(line), number});
-}
-
-/// Tells the other programs on this file to look again; of no change set, because nobody did it here.
-void SharedLog::Private::note(const ChangeLog::Row& row)
-{
-    connection->run("INSERT INTO changes (kind, id) VALUES (?, ?)", {QString(QLatin1Char(row.kind)), row.id});
 }
 
 QVector<KnownParcel> SharedLog::known(int count, qint64 before)

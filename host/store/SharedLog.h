@@ -77,9 +77,9 @@ public:
     };
 
     /// Writes what the site did after position(), in its order; what is here already is left out. All that
-    /// waited when this is called lies before \a sent, or nothing is done: the site must know it first. Nor
-    /// is anything done when a parcel is missing between position() and the first of \a parcels, or a link is
-    /// wrong.
+    /// waits lies before \a sent, or nothing is done: the site must know it first. Nor is anything done when
+    /// a parcel is missing between position() and the first of \a parcels, or a link is wrong. Writes them in
+    /// several transactions, between which others come to write: any of these may be found by a later one.
     Receipt receive(const QVector<SharedParcel>& parcels, const Cursor& sent);
 
     /// Fills a file that isEmpty() with everything that the site has, in one transaction: first \a history,

@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <atomic>
+
 #include <sqlite3.h>
 
 namespace ko {
@@ -16,6 +18,20 @@ const int pause = 20; // milliseconds, while another process writes
 
 /// Bytes. The longest texts of nodes have some thousands of characters.
 const int longestValue = 16 * 1024 * 1024;
+
+/// Connections of this program that wait for another one.
+std::atomic<int> waiting{0};
+
+/// SQLite's own would look more and more seldom, and not be there when the lock is free for a moment.
+int waitForOther(void*, int attempts)
+{
+    if (attempts >= SqliteFile::BusyTimeout)
+        return 0;
+    ++waiting;
+    sqlite3_sleep(1);
+    --waiting;
+    return 1;
+}
 
 } // namespace
 
@@ -54,8 +70,14 @@ SqliteFile::SqliteFile(const QString& file, Mode mode)
         sqlite3_close(m_handle);
         throw StoreFailure{StoreError::make(kindOf(result), file, QLatin1String("open"))};
     }
-    sqlite3_busy_timeout(m_handle, BusyTimeout);
+    sqlite3_busy_handler(m_handle, waitForOther, nullptr);
     harden(m_handle);
+}
+
+void SqliteFile::letOthersIn()
+{
+    for (int i = 0; i < BusyTimeout && waiting > 0; ++i)
+        sqlite3_sleep(1);
 }
 
 SqliteFile::~SqliteFile()

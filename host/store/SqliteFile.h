@@ -50,6 +50,10 @@ public:
     /// Throws what the last call of  handle, open on  file, failed with.
     [[noreturn]] static void fail(sqlite3* handle, const QString& file);
 
+    /// Waits as long as other connections of this program do. Whoever writes in many transactions, one after
+    /// the other, calls it between two of them.
+    static void letOthersIn();
+
     /// What every connection of this program is told before it reads: triggers and views of the file do not
     /// run, nothing in it may change the schema, and no value is longer than a node needs.
     static void harden(sqlite3* handle);

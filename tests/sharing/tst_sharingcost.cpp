@@ -8,6 +8,8 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
+
 using namespace ko;
 using namespace testsupport;
 
@@ -45,6 +47,7 @@ private slots:
     void initTestCase();
     void firstCopyAndCatchingUp();
     void serversWork();
+    void editsWhileCatchingUp();
 
 private:
     QString sql(const QString& statement) { return m_server.run(m_database, statement); }
@@ -235,6 +238,65 @@ void tst_SharingCost::serversWork()
     qInfo("%d change sets: %.3f ms each, plain statements %.3f ms, %lld bytes each", edits, time / edits,
           plain / edits, static_cast<long long>(grown / edits));
     QVERIFY(time > 0 && grown > 0);
+}
+
+/// A user stores while what others did meanwhile comes in, single edits and long lists.
+void tst_SharingCost::editsWhileCatchingUp()
+{
+    makeSite(QStringLiteral("busy"));
+    QFile::remove(m_file);
+    const int nodes = 4000;
+    const auto list = [&](const QString& set, bool isNew) {
+        QVector<SharedParcel> parcels;
+        for (int node = 0; node < nodes; ++node) {
+            if (node % linesOfAParcel == 0) {
+                parcels.append(parcelOf(node / linesOfAParcel));
+                parcels.last().cause.id = set;
+            }
+            const QString side = QStringLiteral("{\"name\":\"%1 %2\"%3,\"properties\":%4}")
+                                     .arg(set)
+                                     .arg(node)
+                                     .arg(isNew ? QStringLiteral(",\"type\":2,\"place\":0") : QString(),
+                                          isNew ? m_properties : QStringLiteral("{}"));
+            const QString before = isNew ? QString() : QStringLiteral("{\"name\":\"\",\"properties\":{}}");
+            parcels.last().lines.append({node + 1, 'N', nameOf(node), before, side, false});
+        }
+        return parcels;
+    };
+    submit(list(QStringLiteral("import"), true));
+    QVERIFY(share() > 0);
+    const int edits = soakOr(10000, 1000);
+    QVector<SharedParcel> parcels;
+    for (int i = 0; i < edits; ++i) {
+        parcels.append(parcelOf(1000000 + i));
+        parcels.last().lines.append(
+            {i + 1, 'N', nameOf(i * 7919 % nodes), QStringLiteral("{\"name\":\"\",\"properties\":{}}"),
+             QStringLiteral("{\"name\":\"\",\"properties\":{\"Model\":[0,\"model %1\"]}}").arg(i), false});
+    }
+    submit(parcels);
+    submit(list(QStringLiteral("renamed"), false));
+    submit(list(QStringLiteral("once more"), false));
+
+    const auto db = openDatabase(m_file);
+    const QString id = db->nodeIdList(IPDeviceType).at(0);
+    SharingWorker worker(m_file, m_server.address(m_database), describe);
+    const qint64 last = sql(QStringLiteral("SELECT number FROM ko.site")).toLongLong();
+    SharingState state;
+    connect(&worker, &SharingWorker::stateChanged, this, [&state](const SharingState& now) { state = now; });
+    QVector<double> times;
+    QElapsedTimer clock;
+    while (state.position < last) {
+        QVERIFY2(state.kind != SharingState::Refused, qPrintable(state.text));
+        QTest::qWait(150);
+        clock.start();
+        setText(*db, id, "Description", QString::number(times.size()));
+        QVERIFY(db->flush());
+        times.append(double(clock.nsecsElapsed()) / 1e6);
+    }
+    std::sort(times.begin(), times.end());
+    qInfo("%d edits while others' come in: median %.1f ms, longest %.1f ms", int(times.size()),
+          times.at(times.size() / 2), times.constLast());
+    QVERIFY(times.size() > 3);
 }
 
 KO_TEST_MAIN(tst_SharingCost)
