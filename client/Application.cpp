@@ -145,6 +145,8 @@ int Application::run()
     if (!parse())
         return m_exitCode;
     keepFilesPrivate();
+    if (needsWindow() && !SiteAddress::isSite(m_database))
+        StoreFile::readAhead(m_database.isEmpty() ? defaultDatabase() : m_database);
     const std::unique_ptr<QCoreApplication> application(needsWindow() ? new QApplication(m_argc, m_argv)
                                                                       : new QCoreApplication(m_argc, m_argv));
     Languages::use(m_language);

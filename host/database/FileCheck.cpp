@@ -2,28 +2,44 @@
 
 #include "store/NodeStore.h"
 
-#include <QObject>
+#include <QTimer>
 
 #include <chrono>
 #include <utility>
 
 namespace ko {
 
+namespace {
+
+const int delay = 1000; // ms
+
+} // namespace
+
 void FileCheck::start(const QString& file, QObject* context, std::function<void(const StoreError&)> ended)
 {
-    m_found = std::async(std::launch::async, [this, file, context, ended = std::move(ended)] {
-        StoreError error = NodeStore::findDamage(file);
-        const auto end = [this, ended, error] {
-            wait(); // not yet ended when this was queued
-            ended(error);
-        };
-        QMetaObject::invokeMethod(context, end, Qt::QueuedConnection);
-        return error;
-    });
+    m_beginning = [this, file, context, ended = std::move(ended)]() -> std::shared_future<StoreError> {
+        return std::async(std::launch::async, [this, file, context, ended] {
+            StoreError error = NodeStore::findDamage(file);
+            const auto end = [this, ended, error] {
+                wait(); // not yet ended when this was queued
+                ended(error);
+            };
+            QMetaObject::invokeMethod(context, end, Qt::QueuedConnection);
+            return error;
+        });
+    };
+    QTimer::singleShot(delay, context, [this] { begin(); });
 }
 
-bool FileCheck::isRunning() const
+void FileCheck::begin()
 {
+    if (const auto beginning = std::exchange(m_beginning, nullptr))
+        m_found = beginning();
+}
+
+bool FileCheck::isRunning()
+{
+    begin();
     return m_found.valid() && m_found.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
 }
 
@@ -33,8 +49,9 @@ void FileCheck::wait() const
         m_found.wait();
 }
 
-void FileCheck::pass(NodeStore& store) const
+void FileCheck::pass(NodeStore& store)
 {
+    begin();
     if (!m_found.valid())
         return;
     if (m_found.get())

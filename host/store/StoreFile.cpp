@@ -216,6 +216,16 @@ void moveAside(const QString& file)
         QFile::rename(file + QLatin1String(end), aside + QLatin1String(end));
 }
 
+void readAhead(const QString& file)
+{
+    const off_t most = 256 * 1024 * 1024; // of a larger one, much is history
+    const int descriptor = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::posix_fadvise(descriptor, 0, most, POSIX_FADV_WILLNEED);
+    ::close(descriptor);
+}
+
 bool isDiskFull(const QString& file)
 {
     // The smallest thing a store asks for is a 32 KB index of its write-ahead log.

@@ -46,6 +46,11 @@ void checkHeader(const QString& file, int version);
 /// itself may be missing; an empty one goes.
 void moveAside(const QString& file);
 
+/// Has the system bring \a file into its memory, and does not wait for that: a start reads rows that lie
+/// scattered in it, for which a disk takes many times as long as for all of it at once. Only before this
+/// process opens the file as a database: to close it takes SQLite's locks away.
+KO_HOST_EXPORT void readAhead(const QString& file);
+
 /// Whether the disk under \a file is as good as full.
 bool isDiskFull(const QString& file);
 
