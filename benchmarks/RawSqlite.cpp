@@ -26,10 +26,19 @@ void RawSqlite::run(const char* sql)
     check(sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr));
 }
 
-RawSqlite::Statement::Statement(RawSqlite& database, const char* sql)
+qint64 RawSqlite::number(const char* sql)
+{
+    Statement statement(*this, sql);
+    const qint64 number = statement.next() ? statement.number(0) : 0;
+    while (statement.next()) {
+    }
+    return number;
+}
+
+RawSqlite::Statement::Statement(RawSqlite& database, const QByteArray& sql)
     : m_database(database)
 {
-    database.check(sqlite3_prepare_v2(database.m_handle, sql, -1, &m_statement, nullptr));
+    database.check(sqlite3_prepare_v2(database.m_handle, sql.constData(), -1, &m_statement, nullptr));
 }
 
 RawSqlite::Statement::~Statement()
@@ -47,6 +56,13 @@ RawSqlite::Statement& RawSqlite::Statement::bind(int parameter, const QString& t
 RawSqlite::Statement& RawSqlite::Statement::bind(int parameter, qint64 number)
 {
     m_database.check(sqlite3_bind_int64(m_statement, parameter, number));
+    return *this;
+}
+
+RawSqlite::Statement& RawSqlite::Statement::bindAll(const Statement& row)
+{
+    for (int i = 0; i < row.columns(); ++i)
+        m_database.check(sqlite3_bind_value(m_statement, i + 1, sqlite3_column_value(row.m_statement, i)));
     return *this;
 }
 

@@ -15,18 +15,23 @@ public:
     ~RawSqlite();
 
     void run(const char* sql);
+    /// The first column of the first row.
+    qint64 number(const char* sql);
 
     /// A prepared statement that is used again and again.
     class Statement
     {
     public:
-        Statement(RawSqlite& database, const char* sql);
+        Statement(RawSqlite& database, const QByteArray& sql);
         ~Statement();
 
         Statement& bind(int parameter, const QString& text);
         Statement& bind(int parameter, qint64 number);
+        /// What \a row has in its columns.
+        Statement& bindAll(const Statement& row);
         void execute();
         bool next();
+        int columns() const { return sqlite3_column_count(m_statement); }
         QString text(int column) const;
         qint64 number(int column) const { return sqlite3_column_int64(m_statement, column); }
 

@@ -51,6 +51,7 @@ QVector<Workload> dialogWorkloads();
 QVector<Workload> scanWorkloads();
 QVector<Workload> startWorkloads();
 QVector<Workload> historyWorkloads();
+QVector<Workload> sharingWorkloads();
 
 } // namespace bench
 

@@ -240,7 +240,8 @@ int main(int argc, char** argv)
 
     Report report(options);
     const QVector<Workload> all = storeWorkloads() + listWorkloads() + changeWorkloads() + backupWorkloads() +
-                                  dialogWorkloads() + scanWorkloads() + startWorkloads() + historyWorkloads();
+                                  dialogWorkloads() + scanWorkloads() + startWorkloads() +
+                                  historyWorkloads() + sharingWorkloads();
     for (const Workload& workload : all) {
         if (workload.name.contains(options.filter, Qt::CaseInsensitive))
             report.run(workload);

@@ -9,11 +9,8 @@ if(KO_QT EQUAL 6)
     list(APPEND KO_QT_PUBLIC_COMPONENTS Core5Compat)
 endif()
 set(KO_QT_COMPONENTS ${KO_QT_PUBLIC_COMPONENTS} DBus)
-if(KO_TESTS)
-    list(APPEND KO_QT_COMPONENTS Test)
-endif()
 if(KO_TESTS OR KO_BENCH)
-    list(APPEND KO_QT_COMPONENTS Sql) # they look into databases past the host
+    list(APPEND KO_QT_COMPONENTS Test Sql) # they look into databases past the host
 endif()
 find_package(Qt${KO_QT} REQUIRED COMPONENTS ${KO_QT_COMPONENTS})
 
