@@ -17,6 +17,7 @@ namespace {
 
 const int linesOfAParcel = 200;
 const int parcelsAtOnce = 5;
+const int mostEdits = 20;
 
 SharedParcel parcelOf(int number)
 {
@@ -37,8 +38,8 @@ QString nameOf(int node)
 
 } // namespace
 
-/// What sharing costs beside what the server and SQLite cost. The figures are told, nobody is held to them; a
-/// soak takes the full sizes.
+/// What sharing costs beside what the server and SQLite cost. The figures are told; a soak takes the full
+/// sizes, and there is a bound then to what a user waits for.
 class tst_SharingCost : public QObject
 {
     Q_OBJECT
@@ -288,6 +289,8 @@ void tst_SharingCost::editsWhileCatchingUp()
     while (state.position < last) {
         QVERIFY2(state.kind != SharingState::Refused, qPrintable(state.text));
         QTest::qWait(150);
+        if (times.size() >= mostEdits)
+            continue; // a slow desk would have something to send all the time
         clock.start();
         setText(*db, id, "Description", QString::number(times.size()));
         QVERIFY(db->flush());
@@ -297,6 +300,9 @@ void tst_SharingCost::editsWhileCatchingUp()
     qInfo("%d edits while others' come in: median %.1f ms, longest %.1f ms", int(times.size()),
           times.at(times.size() / 2), times.constLast());
     QVERIFY(times.size() > 3);
+    // Beside other tests, the time is that of these; a soak has the machine to itself.
+    if (qEnvironmentVariableIsSet("KO_SOAK"))
+        QVERIFY2(times.constLast() < 100, qPrintable(QString::number(times.constLast())));
 }
 
 KO_TEST_MAIN(tst_SharingCost)
