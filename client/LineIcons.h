@@ -11,7 +11,7 @@ namespace ko {
 /// of our own, drawn in the colour of the palette's text and sharp at any size; a null icon if there is none
 /// of this name either.
 ///
-/// \a name is one of the names of the freedesktop icon naming specification, such as "list-add".
+/// \a name is one of those by which desktops agree to call their icons, such as "list-add".
 QIcon themeIcon(const QString& name);
 
 } // namespace ko
