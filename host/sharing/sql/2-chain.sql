@@ -32,45 +32,13 @@ SET search_path = pg_catalog, pg_temp AS $$
     FROM ko.parcel_texts(newest - 1, newest) t
 $$;
 
--- As before, and adds the link.
-CREATE OR REPLACE FUNCTION ko.submit(parcels jsonb) RETURNS bigint LANGUAGE plpgsql SECURITY DEFINER
+-- What ko.submit() calls for each parcel: its lines are done as before, and then it gets its link.
+ALTER FUNCTION ko.apply(bigint) RENAME TO apply_lines;
+CREATE FUNCTION ko.apply(parcel bigint) RETURNS void LANGUAGE plpgsql
 SET search_path = pg_catalog, pg_temp AS $$
-DECLARE
-    parcel jsonb;
-    cause jsonb;
-    last bigint;
-    next bigint;
 BEGIN
-    -- Others wait here, so numbers become visible in their order.
-    SELECT number INTO STRICT last FROM ko.site FOR UPDATE;
-    FOR parcel IN SELECT value FROM jsonb_array_elements(parcels) LOOP
-        IF (parcel->>'version')::integer IS DISTINCT FROM 1 THEN
-            RAISE EXCEPTION 'a parcel of version %', parcel->>'version' USING ERRCODE = 'feature_not_supported';
-        END IF;
-        cause := parcel->'set';
-        IF NOT EXISTS (
-            SELECT FROM jsonb_array_elements(parcel->'lines') given WHERE NOT EXISTS (
-                SELECT FROM ko.lines l WHERE l.set_id = cause->>'id' AND l.line = (given->>'line')::bigint)) THEN
-            CONTINUE;
-        END IF;
-        next := last + 1;
-        INSERT INTO ko.change_sets (id, "user", station, "time", purpose, subject, submitted_by)
-        VALUES (cause->>'id', cause->>'user', cause->>'station', (cause->>'time')::bigint, cause->>'purpose',
-            cause->>'subject', session_user)
-        ON CONFLICT (id) DO NOTHING;
-        INSERT INTO ko.parcels (number, set_id) VALUES (next, cause->>'id');
-        INSERT INTO ko.lines (number, position, set_id, line, kind, id, before, after)
-        SELECT next, place, cause->>'id', (given->>'line')::bigint, (given->>'kind')::"char", given->>'id',
-            nullif(given->'before', 'null'), nullif(given->'after', 'null')
-        FROM jsonb_array_elements(parcel->'lines') WITH ORDINALITY listed (given, place)
-        ON CONFLICT (set_id, line) DO NOTHING;
-        UPDATE ko.site SET number = next;
-        PERFORM ko.apply(next);
-        PERFORM ko.add_link(next);
-        last := next;
-    END LOOP;
-    PERFORM pg_notify('ko', last::text);
-    RETURN last;
+    PERFORM ko.apply_lines(parcel);
+    PERFORM ko.add_link(parcel);
 END
 $$;
 
