@@ -61,13 +61,9 @@ void tst_MonkeyAtASite::everythingCanBeUndone()
 {
     PostgresServer server;
     QVERIFY2(server.start(), qPrintable(server.error()));
-    QVERIFY2(server.createDatabase(QStringLiteral("site")), qPrintable(server.error()));
+    const QString failure = makeSite(server, QStringLiteral("site"));
+    QVERIFY2(failure.isEmpty(), qPrintable(failure));
     const QString url = server.url(QStringLiteral("site"));
-    {
-        SiteConnection connection;
-        QVERIFY(!connection.open(url));
-        QVERIFY(!connection.prepareSite());
-    }
     const ModalAnswer answer(makeKey);
     SharedDesk desk(url);
     HostNodeDB& db = *desk.db;

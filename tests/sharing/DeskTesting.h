@@ -6,9 +6,11 @@
 #include "database/StoredHistory.h"
 #include "drivers/NodeTypes.h"
 #include "ko/Environments.h"
+#include "sharing/SiteConnection.h"
 #include "store/ChangeCoding.h"
 #include "store/NodeStore.h"
 #include "store/SharedLog.h"
+#include "support/PostgresServer.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -22,6 +24,18 @@ inline void describe(const ko::NodeData& data, ko::NodeSummary* summary, QString
 {
     *summary = ko::NodeTypes::summaryOf(data);
     *lookupKey = ko::NodeTypes::lookupKey(data);
+}
+
+/// Makes a site in a new database of the server. Says what failed, or nothing.
+inline QString makeSite(PostgresServer& server, const QString& database)
+{
+    if (!server.createDatabase(database))
+        return server.error();
+    ko::SiteConnection connection;
+    ko::SharingFailure failure = connection.open(server.address(database));
+    if (!failure)
+        failure = connection.prepareSite();
+    return failure ? QString::fromLatin1("no site: %1").arg(failure.message) : QString();
 }
 
 inline QByteArray bytes(const QJsonObject& object)

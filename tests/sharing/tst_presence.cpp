@@ -81,11 +81,8 @@ void tst_Presence::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_database = QStringLiteral("site%1").arg(++m_count);
-    QVERIFY2(m_server.createDatabase(m_database), qPrintable(m_server.error()));
-    SiteConnection connection;
-    QVERIFY(!connection.open(m_server.address(m_database)));
-    const SharingFailure failure = connection.prepareSite();
-    QVERIFY2(!failure, qPrintable(failure.message));
+    const QString failure = makeSite(m_server, m_database);
+    QVERIFY2(failure.isEmpty(), qPrintable(failure));
 }
 
 void tst_Presence::cleanup()

@@ -69,10 +69,8 @@ void TestSiteKey::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_database = QStringLiteral("key%1").arg(++m_count);
-    QVERIFY2(m_server.createDatabase(m_database), qPrintable(m_server.error()));
-    SiteConnection connection;
-    QVERIFY(!connection.open(m_server.address(m_database)));
-    QVERIFY(!connection.prepareSite());
+    const QString failure = makeSite(m_server, m_database);
+    QVERIFY2(failure.isEmpty(), qPrintable(failure));
     useDesk("first");
 }
 
