@@ -11,6 +11,7 @@ const int longestPause = 30000;
 const int listenPause = 30000; // ms; a notice that got lost is made good by asking
 const int linesAtOnce = 500;
 const int knownAtOnce = 1000;
+const int mostSent = 10; // requests, one after the other, for which what others did waits
 
 } // namespace
 
@@ -83,6 +84,7 @@ void SharingSession::greeted(quint64 serial, const SiteGreeting& greeting)
             m_log.setSite(greeting.site);
         m_last = greeting.number;
         m_sent = SharedLog::Cursor();
+        m_sentInARow = 0;
         m_mustFetch = true;
         m_mustReview = true;
         m_state.rights = greeting.mayWrite ? SharingState::MayWrite : SharingState::MayRead;
@@ -152,6 +154,7 @@ void SharingSession::submitted(quint64 serial, qint64 number)
         m_last = std::max(m_last, number);
         m_mustFetch = true;
         m_failures = 0;
+        ++m_sentInARow;
         advance();
     });
 }
@@ -160,16 +163,15 @@ void SharingSession::fetched(quint64 serial, const QVector<SharedParcel>& parcel
 {
     act(serial, [&] {
         m_failures = 0;
-        const SharedLog::Receipt receipt = m_log.receive(parcels, m_sent);
+        m_sentInARow = 0;
+        const SharedLog::Receipt receipt = m_log.receive(parcels);
         if (receipt == SharedLog::Receipt::Gap)
             return pause(); // the next connection finds out why
         if (receipt == SharedLog::Receipt::Rewritten)
             return refuse(SharingState::Rewritten);
-        if (receipt == SharedLog::Receipt::Taken) {
-            m_mustFetch = parcels.size() >= MostParcels;
-            m_state.position = m_log.position();
-            m_last = std::max(m_last, m_state.position);
-        }
+        m_mustFetch = parcels.size() >= MostParcels;
+        m_state.position = m_log.position();
+        m_last = std::max(m_last, m_state.position);
         advance();
     });
 }
@@ -215,13 +217,15 @@ void SharingSession::advance()
         m_request.position = m_reviewed;
         return;
     }
-    if (submit())
-        return;
     const bool isBehind = m_mustFetch || position < m_last;
+    const bool mustTakeTurns = isBehind && m_sentInARow >= mostSent; // who never stops gets others' work, too
+    if (!mustTakeTurns && submit())
+        return;
     want(isBehind ? Step::Fetch : Step::Listen);
     m_request.position = position;
     m_request.pause = isBehind ? 0 : listenPause;
-    m_state.waiting = 0;
+    if (!mustTakeTurns)
+        m_state.waiting = 0;
     show(isBehind ? SharingState::CatchingUp : SharingState::UpToDate);
 }
 

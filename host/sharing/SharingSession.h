@@ -9,8 +9,8 @@ namespace ko {
 /// What a desk says to its site and when, without a thread, a clock or a connection: whoever has these does
 /// what request() wants and tells what came of it, which makes the next request.
 ///
-/// The desk's changes are sent first; what others did is taken when nothing waits any more, in the site's
-/// order and with the desk's own among it, so nothing is merged here.
+/// The desk's changes are sent first, but not for ever if there are always new ones; then what others did is
+/// taken, in the site's order and with the desk's own among it, so nothing is merged here.
 class KO_HOST_EXPORT SharingSession
 {
 public:
@@ -84,6 +84,7 @@ private:
     bool m_mustFetch = false;
     bool m_mustReview = false;
     qint64 m_reviewed = 0; ///< of the parcels that are here, the last that was looked at again
+    int m_sentInARow = 0;  ///< requests, since others' changes were taken
     int m_failures = 0;    ///< one after the other
     quint32 m_random;
 };

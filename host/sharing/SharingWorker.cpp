@@ -152,7 +152,7 @@ void SharingWorker::copy(SharedLog& log, SharingSession& session)
 {
     const quint64 serial = session.request().serial;
     SharingFailure failure = m_connection.beginMoment();
-    SharedLog::Receipt receipt = SharedLog::Receipt::SomethingWaits;
+    SharedLog::Receipt receipt = SharedLog::Receipt::Incomplete;
     try {
         if (!failure)
             receipt = log.takeCopy(
@@ -180,7 +180,7 @@ void SharingWorker::copy(SharedLog& log, SharingSession& session)
     } catch (const StoreFailure& stored) {
         failure = {SharingFailure::Away, stored.error.detail};
     }
-    if (failure && receipt == SharedLog::Receipt::SomethingWaits)
+    if (failure && receipt == SharedLog::Receipt::Incomplete)
         return session.failed(serial, failure);
     session.copied(serial, receipt);
     handOver(this, [this] { emit received(); });

@@ -65,7 +65,7 @@ public:
     }
 
     typedef QVector<SharedParcel>::const_iterator Parcels;
-    Receipt receiveSome(Parcels* next, Parcels end, const Cursor& sent);
+    Receipt receiveSome(Parcels* next, Parcels end);
     qint64 position() { return connection->value("SELECT position FROM shared_site").toLongLong(); }
     const std::unique_ptr<SqliteStore> connection;
     NodeTables tables;
@@ -211,21 +211,19 @@ QVector<SharedParcel> SharedLog::waiting(Cursor* cursor, int lines)
     return parcels;
 }
 
-SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels, const Cursor& sent)
+SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels)
 {
     Receipt receipt = Receipt::Taken;
     for (auto next = parcels.begin(); next != parcels.end() && receipt == Receipt::Taken;) {
-        receipt = d->receiveSome(&next, parcels.end(), sent);
+        receipt = d->receiveSome(&next, parcels.end());
         SqliteFile::letOthersIn();
     }
     return receipt;
 }
 
-SharedLog::Receipt SharedLog::Private::receiveSome(Parcels* next, Parcels end, const Cursor& sent)
+SharedLog::Receipt SharedLog::Private::receiveSome(Parcels* next, Parcels end)
 {
     Transaction transaction(*connection, Transaction::Write);
-    if (waiting.areAfter(sent))
-        return Receipt::SomethingWaits;
     const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
     LogChain chain(*connection, key->sealer);
     chain.begin();
@@ -278,7 +276,7 @@ SharedLog::Receipt SharedLog::takeCopy(const std::function<bool(const VisitParce
         return true;
     };
     if (!hasHistory || !state(take))
-        return Receipt::SomethingWaits;
+        return Receipt::Incomplete;
     d->connection->run("UPDATE shared_site SET position = ?", {position});
     chain.end();
     transaction.commit();

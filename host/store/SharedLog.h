@@ -71,20 +71,21 @@ public:
 
     enum class Receipt {
         Taken,
-        SomethingWaits,
+        Incomplete, ///< of a copy, whose end did not come
         Gap,
         Rewritten ///< the links of the site's chain do not follow from what is here
     };
 
-    /// Writes what the site did after position(), in its order; what is here already is left out. All that
-    /// waits lies before \a sent, or nothing is done: the site must know it first. Nor is anything done when
-    /// a parcel is missing between position() and the first of \a parcels, or a link is wrong. Writes them in
-    /// several transactions, between which others come to write: any of these may be found by a later one.
-    Receipt receive(const QVector<SharedParcel>& parcels, const Cursor& sent);
+    /// Writes what the site did after position(), in its order; what is here already is left out. What waits
+    /// goes on waiting: what it was about may be as others left it until it comes back from the site. Nothing
+    /// is done when a parcel is missing between position() and the first of \a parcels, or a link is wrong.
+    /// Writes them in several transactions, between which others come to write: any of these may be found by
+    /// a later one.
+    Receipt receive(const QVector<SharedParcel>& parcels);
 
     /// Fills a file that isEmpty() with everything that the site has, in one transaction: first \a history,
     /// whose parcels begin with the first one, then \a state, the rows of all tables. Nothing is done when
-    /// one of them returns false (SomethingWaits), or a link is wrong.
+    /// one of them returns false (Incomplete), or a link is wrong.
     typedef std::function<bool(const SharedParcel&)> VisitParcel;
     Receipt takeCopy(const std::function<bool(const VisitParcel&)>& history,
                      const std::function<bool(const VisitRow&)>& state);

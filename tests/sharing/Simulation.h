@@ -88,6 +88,29 @@ public:
         }
     }
 
+    /// After settle(): somebody who stores something before each step that the desk does. It gets what others
+    /// did all the same.
+    void keepBusy()
+    {
+        Desk& busy = m_desks.front();
+        Desk& other = m_desks.back();
+        edit(other);
+        for (int turn = 0; turn < 20; ++turn) {
+            send(other);
+            while (!m_network.empty())
+                arrive(0);
+        }
+        const qint64 last = m_site.parcels.size();
+        for (int turn = 0; turn < 200 && busy.log->position() < last; ++turn) {
+            edit(busy);
+            send(busy);
+            edit(busy);
+            while (!m_network.empty())
+                arrive(0);
+        }
+        expect(busy.log->position() >= last, "a busy desk does not get what others did");
+    }
+
     /// After settle(): the site tells of its past otherwise. Each desk finds it out, whatever it was doing,
     /// and keeps what waits.
     void rewritePast()

@@ -15,6 +15,7 @@ private slots:
     void seedsThatOnceFailed_data();
     void seedsThatOnceFailed();
     void rewrittenPastIsFoundOut();
+    void busyDeskGetsWhatOthersDid();
     void manySeeds();
 
 private:
@@ -74,6 +75,21 @@ void TestSimulation::rewrittenPastIsFoundOut()
         simulation.settle();
         QVERIFY2(simulation.failure().isEmpty(), qPrintable(simulation.failure()));
         simulation.rewritePast();
+        QVERIFY2(simulation.failure().isEmpty(),
+                 qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(simulation.failure())));
+    }
+}
+
+void TestSimulation::busyDeskGetsWhatOthersDid()
+{
+    for (unsigned seed = 1; seed <= 10; ++seed) {
+        const QTemporaryDir folder(placeOfRuns() + QStringLiteral("/ko-simulation-"));
+        Simulation simulation(folder.path(), seed, 2);
+        for (int i = 0; i < stepsOfARun && simulation.failure().isEmpty(); ++i)
+            simulation.step();
+        simulation.settle();
+        simulation.keepBusy();
+        simulation.settle();
         QVERIFY2(simulation.failure().isEmpty(),
                  qPrintable(QStringLiteral("seed %1: %2").arg(seed).arg(simulation.failure())));
     }
