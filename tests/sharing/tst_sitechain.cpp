@@ -6,6 +6,8 @@
 #include "support/PostgresServer.h"
 #include "support/TestMain.h"
 
+#include <thread>
+
 using namespace ko;
 using namespace testsupport;
 
@@ -19,6 +21,7 @@ private slots:
     void init();
 
     void siteOfVersionOneGetsAChain();
+    void whatIsSentMeanwhileGetsItsLink();
     void deskOfBeforeTheChainGoesOn();
     void rewrittenPastIsFoundOut_data();
     void rewrittenPastIsFoundOut();
@@ -28,6 +31,7 @@ private:
     QString address() const { return m_server.address(m_database); }
     QString sql(const QString& statement) { return m_server.run(m_database, statement); }
     void prepare();
+    void prepareVersionOne();
     void send(int count);
     SharingState share(const QString& file);
 
@@ -82,13 +86,18 @@ SharingState tst_SiteChain::share(const QString& file)
     return state;
 }
 
-void tst_SiteChain::siteOfVersionOneGetsAChain()
+void tst_SiteChain::prepareVersionOne()
 {
     for (const char* name : {"1-tables", "1-functions"}) {
         QFile script(QStringLiteral(":/sharing/%1.sql").arg(QLatin1String(name)));
         QVERIFY(script.open(QIODevice::ReadOnly));
         sql(QString::fromUtf8(script.readAll()));
     }
+}
+
+void tst_SiteChain::siteOfVersionOneGetsAChain()
+{
+    prepareVersionOne();
     send(30);
     const QString parcels = sql(QStringLiteral("SELECT count(*) FROM ko.parcels"));
     prepare();
@@ -96,6 +105,36 @@ void tst_SiteChain::siteOfVersionOneGetsAChain()
     QCOMPARE(sql(QStringLiteral("SELECT version FROM ko.site")), QString::number(SharingSession::Version));
     QCOMPARE(sql(QStringLiteral("SELECT count(*) FROM ko.links")), parcels);
     send(5);
+    const SharingState state = share(m_folder->filePath(QStringLiteral("desk.kodb")));
+    QVERIFY2(state.kind == SharingState::UpToDate, qPrintable(state.text));
+}
+
+/// One desk is in the middle of it when the site becomes one of version 2, another begins then.
+void tst_SiteChain::whatIsSentMeanwhileGetsItsLink()
+{
+    prepareVersionOne();
+    SiteConnection first;
+    SiteConnection second;
+    qint64 number = 0;
+    QVERIFY(!first.open(address()) && !second.open(address()));
+    QVERIFY(!second.submit({m_parcels->next()}, &number)); // knows the functions of before
+    QByteArray nothing;
+    QVERIFY(!first.value("BEGIN", {}, &nothing) && !first.submit({m_parcels->next()}, &number));
+    const auto waiting = [this] {
+        return sql(QStringLiteral("SELECT count(*) FROM pg_stat_activity WHERE datname = current_database()"
+                                  " AND wait_event_type = 'Lock'"));
+    };
+    std::thread upgrade([this] { prepare(); });
+    [&] { KO_TRY_COMPARE(waiting(), QStringLiteral("1")); }();
+    SharingFailure sent;
+    std::thread sending([&, parcel = m_parcels->next()] { sent = second.submit({parcel}, &number); });
+    [&] { KO_TRY_COMPARE(waiting(), QStringLiteral("2")); }();
+    const SharingFailure ended = first.value("COMMIT", {}, &nothing);
+    upgrade.join();
+    sending.join();
+    QVERIFY(!ended && !sent);
+    QCOMPARE(number, 3);
+    QCOMPARE(sql(QStringLiteral("SELECT count(*) FROM ko.links")), QStringLiteral("3"));
     const SharingState state = share(m_folder->filePath(QStringLiteral("desk.kodb")));
     QVERIFY2(state.kind == SharingState::UpToDate, qPrintable(state.text));
 }

@@ -1,6 +1,9 @@
 -- The chain over all that was done to the site, version 2. Each link is a hash over the one before and what the parcel
 -- says now, so whoever knows a link of long ago sees whether anything before it was altered since.
 
+-- A desk may be sending: what it sends is either there before the links are made, or gets its own.
+DO $$ BEGIN PERFORM FROM ko.site FOR UPDATE; END $$;
+
 CREATE TABLE ko.links (
     number bigint PRIMARY KEY REFERENCES ko.parcels,
     link bytea NOT NULL -- SHA-256 over the link before, if any, and the SHA-256 of its text, in UTF-8
