@@ -42,11 +42,14 @@ bool SiteSharing::needsPassphrase() const
     return !m_key.site.isEmpty() && !m_key.isHere && record.hasTables && (record.hasKey() || record.mayMake);
 }
 
-/// The next connection finds it.
+/// Passwords may be being sealed with it already, which goes on; a site that is away is looked for at once.
 void SiteSharing::takeNewKey()
 {
     m_db.takeNewKeys();
-    tryAgain();
+    if (m_state.kind == SharingState::UpToDate || m_state.kind == SharingState::CatchingUp)
+        m_worker->takeNewKey();
+    else
+        tryAgain();
 }
 
 void SiteSharing::takeKey(const SiteKeyOutcome& seen)

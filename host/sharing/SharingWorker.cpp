@@ -40,6 +40,12 @@ void SharingWorker::wake()
     m_connection.wake();
 }
 
+void SharingWorker::takeNewKey()
+{
+    m_isKeyNew = true;
+    wake();
+}
+
 void SharingWorker::setOpen(const QStringList& written, bool isAnyOpen)
 {
     m_presence.setOpen(written, isAnyOpen);
@@ -117,6 +123,7 @@ void SharingWorker::connectToSite(SharingSession& session, quint64 serial)
 /// When it fails, so does what comes next, and the next connection looks again.
 void SharingWorker::lookAtKey(SharedLog& log)
 {
+    m_isKeyNew = false;
     SiteKeyTask look;
     look.site = log.site();
     const SiteKeyOutcome outcome = ko::perform(look, m_connection);
@@ -246,7 +253,8 @@ void SharingWorker::listen(SharedLog& log, SharingSession& session)
         qint64 number = 0;
         if (const SharingFailure failure = m_connection.wait(lookInterval, &number))
             return session.failed(request.serial, failure);
-        if (m_connection.take(SiteConnection::Notice::Key))
+        const bool isSet = m_connection.take(SiteConnection::Notice::Key);
+        if (isSet || m_isKeyNew)
             lookAtKey(log);
         if (m_connection.take(SiteConnection::Notice::Editing))
             m_presence.noticed();

@@ -29,6 +29,9 @@ public:
     /// Something was stored in the file: looks at once, which it does five times a second without that.
     void wake();
 
+    /// A key may have come to this desk: tells by keySeen() what there is of it now.
+    void takeNewKey();
+
     /// See SitePresence.
     void setOpen(const QStringList& written, bool isAnyOpen);
 
@@ -67,6 +70,7 @@ private:
     bool m_mustLookAgain = false; ///< afterwards: others may have sealed with a former key meanwhile
     QString m_resealingKey;       ///< its name
     std::unique_ptr<PasswordResealing> m_resealing;
+    std::atomic<bool> m_isKeyNew{false};
     std::atomic<bool> m_stop{false};
     std::thread m_thread; ///< destroyed first
 };
