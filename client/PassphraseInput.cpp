@@ -28,6 +28,7 @@ public:
     {
         termios silent = m_before;
         silent.c_lflag &= ~tcflag_t(ECHO | ISIG);
+        silent.c_cc[VEOL] = endOfText; // else it waits for the end of the line
         m_isSilent = m_isSilent && ::tcsetattr(m_file, TCSAFLUSH, &silent) == 0;
     }
     ~SilentTerminal()

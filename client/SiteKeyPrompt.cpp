@@ -41,13 +41,16 @@ SiteKeyOutcome run(const QString& address, const SiteKeyTask& task)
 /// Asked twice, since nobody sees what is typed.
 std::optional<QString> newPassphrase(const QString& site)
 {
-    const std::optional<QString> first =
-        PassphraseInput::fromTerminal(Texts::tr("A new passphrase for the site \"%1\":").arg(site));
-    std::optional<QString> second = first ? PassphraseInput::fromTerminal(Texts::tr("Again:")) : std::nullopt;
-    if (!second || *first == *second)
-        return second;
-    Terminal::say(stderr, Texts::tr("The two passphrases are not the same."));
-    return QString();
+    for (int i = 0; i < mostTries; ++i) {
+        const std::optional<QString> first =
+            PassphraseInput::fromTerminal(Texts::tr("A new passphrase for the site \"%1\":").arg(site));
+        std::optional<QString> second =
+            first ? PassphraseInput::fromTerminal(Texts::tr("Again:")) : std::nullopt;
+        if (!second || *first == *second)
+            return second;
+        Terminal::say(stderr, Texts::tr("The two passphrases are not the same."));
+    }
+    return std::nullopt;
 }
 
 std::optional<QString> passphrase(const SiteKeyTask& task, const QString& address)

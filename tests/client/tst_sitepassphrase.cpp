@@ -1,6 +1,7 @@
 #include "support/ModalAnswer.h"
 #include "support/Patience.h"
 #include "support/PostgresServer.h"
+#include "support/TerminalSession.h"
 #include "support/TestMain.h"
 
 #include "../host/StoreTesting.h"
@@ -47,11 +48,17 @@ struct Outcome
     QString errors;
 };
 
-void start(QProcess* process, const QString& home, const QStringList& arguments, const QString& passphrase)
+QProcessEnvironment environmentOf(const QString& home)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"})
         environment.insert(QLatin1String(name), home + QLatin1Char('/') + QLatin1String(name));
+    return environment;
+}
+
+void start(QProcess* process, const QString& home, const QStringList& arguments, const QString& passphrase)
+{
+    QProcessEnvironment environment = environmentOf(home);
     if (!passphrase.isEmpty())
         environment.insert(QStringLiteral("KO_SITE_PASSPHRASE"), passphrase);
     process->setProcessEnvironment(environment);
@@ -124,6 +131,7 @@ private slots:
     void desksReadEachOthersPasswords();
     void withoutThePassphraseNothingIsSent();
     void wrongOrNoPassphrase();
+    void typedAtTheTerminal();
     void viewerReadsThem();
     void nobodyElseFindsThem();
     void deskIsAskedOnce();
@@ -311,6 +319,45 @@ void tst_SitePassphrase::wrongOrNoPassphrase()
     QVERIFY2(import.errors.contains(QLatin1String("Nothing was imported")), qPrintable(import.errors));
     QCOMPARE(sql(QStringLiteral("SELECT count(*) FROM ko.nodes WHERE name LIKE 'Camera%'")),
              QStringLiteral("3"));
+}
+
+void tst_SitePassphrase::typedAtTheTerminal()
+{
+    const QString program = QStringLiteral(KO_KOCLIENT);
+    const QByteArray typed = phrase.toUtf8() + '\n';
+    const QString file = makeFile("sharer", 3);
+    TerminalSession sharer(program, {QStringLiteral("--share"), file, m_url}, environmentOf(home("sharer")));
+    QVERIFY(sharer.waitFor("A new passphrase for the site") && !sharer.isEchoing());
+    sharer.type(typed);
+    QVERIFY(sharer.waitFor("Again:"));
+    sharer.type(newPhrase.toUtf8() + '\n');
+    QVERIFY(sharer.waitFor("The two passphrases are not the same.") &&
+            sharer.waitFor("A new passphrase for the site"));
+    sharer.type(typed);
+    QVERIFY(sharer.waitFor("Again:"));
+    sharer.type(typed);
+    QCOMPARE(sharer.exitCode(), 0);
+    QVERIFY2(!sharer.shown().contains("horses") && !sharer.shown().contains("elephants") &&
+                 !sharer.shown().contains("at least"),
+             sharer.shown().constData());
+
+    const QString list = path("list.csv");
+    const QStringList exporting = {QStringLiteral("--db"), m_url, QStringLiteral("--export"), list};
+    TerminalSession left(program, exporting, environmentOf(home("other")));
+    QVERIFY(left.waitFor("The passphrase of the site") && !left.isEchoing());
+    left.type("seven\x03"); // Ctrl+C
+    QVERIFY(left.waitFor("is not given") && left.isEchoing());
+    QCOMPARE(left.exitCode(), 2);
+    QVERIFY(!QFile::exists(list));
+
+    TerminalSession other(program, exporting, environmentOf(home("other")));
+    QVERIFY(other.waitFor("The passphrase of the site"));
+    other.type(newPhrase.toUtf8() + '\n');
+    QVERIFY(other.waitFor("That is not the passphrase") && other.waitFor("The passphrase of the site"));
+    other.type(typed);
+    QCOMPARE(other.exitCode(), 0);
+    QVERIFY2(!other.shown().contains("horses"), other.shown().constData());
+    QCOMPARE(exported("other", m_url, QString()).size(), 3);
 }
 
 void tst_SitePassphrase::viewerReadsThem()
@@ -547,9 +594,7 @@ void tst_SitePassphrase::killedWhileItSealsAnew()
     double patience = 200; // ms; longer by less than the sealing takes, on a fast machine and on a slow one
     for (; patience < 60000 && sealedWithPresentKey() < count; patience *= 1.15) {
         QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const char* name : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"})
-            environment.insert(QLatin1String(name), home("other") + QLatin1Char('/') + QLatin1String(name));
+        QProcessEnvironment environment = environmentOf(home("other"));
         environment.insert(QStringLiteral("KO_SITE_PASSPHRASE"), newPhrase);
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(KO_KOCLIENT), {QStringLiteral("--db"), m_url});
