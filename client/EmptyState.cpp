@@ -34,6 +34,11 @@ EmptyState::EmptyState(QWidget* area)
     });
 }
 
+QString EmptyState::readingText()
+{
+    return tr("Reading the nodes...");
+}
+
 void EmptyState::addWay(QAction* action, const char* text)
 {
     QPushButton* button = new QPushButton(action->icon(), tr(text), this);
@@ -47,8 +52,9 @@ void EmptyState::setCounts(int nodes, int shown)
 {
     m_nodes = nodes;
     m_shown = shown;
-    m_text->setText(nodes == 0 ? tr("There is nothing in this database yet.")
-                               : tr("No node matches the search."));
+    m_text->setText(nodes < 0    ? readingText()
+                    : nodes == 0 ? tr("There is nothing in this database yet.")
+                                 : tr("No node matches the search."));
     for (const Way& way : std::as_const(m_ways))
         way.button->setVisible(nodes == 0);
     m_showAll->setVisible(nodes > 0);

@@ -26,6 +26,8 @@ public:
 
     /// Hides itself when there are rows to show.
     void setCounts(int nodes, int shown);
+    /// What stands there as long as it is not known how many \a nodes there are, which is told by -1.
+    static QString readingText();
 
 signals:
     /// The user wants to see all nodes again.

@@ -8,6 +8,7 @@
 #include "EnvironmentMenu.h"
 #include "EnvironmentNotice.h"
 #include "FittingToolBar.h"
+#include "ListLoading.h"
 #include "LogNotice.h"
 #include "NodeCommands.h"
 #include "NodeListModel.h"
@@ -15,6 +16,7 @@
 #include "PlaceDock.h"
 #include "PropertyColumns.h"
 #include "ReadOnlyNotice.h"
+#include "RecordingText.h"
 #include "SavedSearchMenu.h"
 #include "ScannerStatus.h"
 #include "StatusRoom.h"
@@ -46,33 +48,10 @@
 
 namespace ko {
 
-namespace {
-
-/// What the list shows as the recording of \a node. No member, because the view still asks while it goes
-/// down with its window.
-QString recordingText(const HostNodeDB& db, const NodeSummary& node)
-{
-    switch (node.recordingUsage) {
-    case -1:
-        return QString();
-    case 0:
-        return node.type == RecordingFolderType ? QString() : MainWindow::tr("Via camera");
-    case 1:
-    case 3: // the forms 3 and 4 are of older databases
-        return MainWindow::tr("Default file server path");
-    default: {
-        const QStringList folders = db.relatedNodes(node.id, RecordingFolderRelation);
-        return folders.isEmpty() ? QString() : db.summary(folders.first()).location;
-    }
-    }
-}
-
-} // namespace
-
 MainWindow::MainWindow(HostNodeDB& db, QWidget* parent)
     : QMainWindow(parent)
     , m_db(db)
-    , m_model(new NodeListModel([&db](const NodeSummary& node) { return recordingText(db, node); }, this))
+    , m_model(new NodeListModel([&db](const NodeSummary& node) { return RecordingText::of(node, db); }, this))
     , m_view(new NodeListView(this))
     , m_properties(new PropertyColumns(db, *m_model, *m_view, this))
     , m_search(new QLineEdit(this))
@@ -148,7 +127,11 @@ void MainWindow::retranslate()
 void MainWindow::createList()
 {
     m_view->setNodeModel(m_model);
-    m_model->setNodes(m_db.summaries());
+    m_loading = new ListLoading(m_db, *m_model, this);
+    connect(m_loading, &ListLoading::done, this, [this] {
+        m_properties->update();
+        applyChanges();
+    });
     setCentralWidget(m_view);
     connect(m_view, &NodeListView::nodeActivated, this, [this](const QString& id) {
         ReadOnlyNotice::watch(m_db, this, [&] { NodeCommands::open(*this, id); });
@@ -256,6 +239,8 @@ void MainWindow::nodeRemoved(const NodeID& id)
 
 void MainWindow::applyChanges()
 {
+    if (!m_loading->isDone())
+        return;
     QVector<NodeSummary> changed;
     changed.reserve(int(m_changed.size()));
     for (const QString& id : std::as_const(m_changed)) {
@@ -281,6 +266,10 @@ void MainWindow::updateCommands()
 
 void MainWindow::updateStatus()
 {
+    if (!m_loading->isDone()) {
+        m_counts->setText(EmptyState::readingText());
+        return m_empty->setCounts(-1, m_model->rowCount());
+    }
     const int selected = m_view->selectedCount();
     const QLocale locale;
     m_counts->setText(tr("Devices: %1, other nodes: %2; shown: %3, selected: %4")
@@ -393,6 +382,7 @@ void MainWindow::saveState() const
     settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
     settings.setValue(QStringLiteral("window/docks"), QMainWindow::saveState());
     m_view->saveColumns(settings);
+    m_loading->rememberFirst();
 }
 
 } // namespace ko

@@ -22,6 +22,7 @@ class DetailsDock;
 class EmptyState;
 class EnvironmentNotice;
 class HostNodeDB;
+class ListLoading;
 class NodeListModel;
 class NodeListView;
 class PlaceDock;
@@ -121,6 +122,7 @@ private:
     UndoCommands* const m_undoing;
     UndoNotice* const m_undoNotice;
     PlaceDock* const m_places;
+    ListLoading* m_loading = nullptr;
     DetailsDock* m_details = nullptr; ///< needs the list
     QString m_next;
     QString m_name;          ///< empty: that of the file

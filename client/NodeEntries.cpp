@@ -31,18 +31,36 @@ NodeEntries::NodeEntries(CellText text, int columns)
 {
 }
 
-void NodeEntries::clear()
+NodeEntries::Content NodeEntries::contentOf(const QVector<NodeSummary>& nodes)
 {
-    m_entries.clear();
-    m_free.clear();
-    m_slotOf.clear();
-    m_devices = 0;
+    Content content;
+    content.entries.reserve(size_t(nodes.size()));
+    content.slotOf.reserve(nodes.size());
+    content.byName.reserve(nodes.size());
+    for (const NodeSummary& node : nodes) {
+        const Slot slot = Slot(content.entries.size());
+        content.slotOf.insert(node.id, slot);
+        content.byName.append(slot);
+        content.devices += int(isDevice(node));
+        const QString key = nameKeyOf(node);
+        content.entries.push_back({node, key, key, false, QString()});
+    }
+    sortStably(content.entries, content.byName, &Entry::nameKey);
+    return content;
 }
 
-void NodeEntries::reserve(int nodes)
+NodeEntries::Slots NodeEntries::setContent(Content content)
 {
-    m_entries.reserve(size_t(nodes));
-    m_slotOf.reserve(nodes);
+    m_entries = std::move(content.entries);
+    m_free.clear();
+    m_slotOf = std::move(content.slotOf);
+    m_devices = content.devices;
+    m_prepared = 0;
+    if (m_column != nameColumn) {
+        for (Entry& entry : m_entries)
+            entry.columnKey = columnKey(entry);
+    }
+    return inOrder(std::move(content.byName));
 }
 
 NodeEntries::Slot NodeEntries::put(const NodeSummary& node)
@@ -111,9 +129,15 @@ NodeEntries::Slots NodeEntries::sorted() const
     for (const Slot slot : m_slotOf)
         rows.append(slot);
     std::sort(rows.begin(), rows.end());
-    sortStably(rows, &Entry::nameKey);
+    sortStably(m_entries, rows, &Entry::nameKey);
+    return inOrder(std::move(rows));
+}
+
+/// Of rows that are sorted by name.
+NodeEntries::Slots NodeEntries::inOrder(Slots rows) const
+{
     if (m_column != nameColumn)
-        sortStably(rows, &Entry::columnKey);
+        sortStably(m_entries, rows, &Entry::columnKey);
     if (m_order == Qt::DescendingOrder)
         std::reverse(rows.begin(), rows.end());
     return rows;
@@ -121,14 +145,14 @@ NodeEntries::Slots NodeEntries::sorted() const
 
 /// By numbers made of the first characters in which the keys differ: few need the whole key, and a hundred
 /// thousand nodes take a third of the time.
-void NodeEntries::sortStably(Slots& rows, QString Entry::*key) const
+void NodeEntries::sortStably(const Entries& entries, Slots& rows, QString Entry::*key)
 {
     struct Row
     {
         quint64 start;
         Slot slot;
     };
-    const auto keyOf = [this, key](Slot slot) -> const QString& { return entry(slot).*key; };
+    const auto keyOf = [&entries, key](Slot slot) -> const QString& { return entries[size_t(slot)].*key; };
     int same = rows.isEmpty() ? 0 : int(keyOf(rows.first()).size());
     for (const Slot slot : std::as_const(rows))
         same = SearchText::sameStart(keyOf(rows.first()), keyOf(slot), same);

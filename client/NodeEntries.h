@@ -22,8 +22,12 @@ public:
 
     NodeEntries(CellText text, int columns);
 
-    void clear();
-    void reserve(int nodes);
+    /// What takes longest of a long list, made beforehand.
+    class Content;
+    /// In any thread. No two nodes have the same identifier.
+    static Content contentOf(const QVector<NodeSummary>& nodes);
+    /// In place of all that is there. Returns all nodes, sorted.
+    Slots setContent(Content content);
     int count() const { return int(m_slotOf.size()); }
     int deviceCount() const { return m_devices; }
     int slotCount() const { return int(m_entries.size()); } ///< all slots are below it
@@ -82,7 +86,9 @@ private:
         mutable QString lines; ///< all columns, folded, one to a line; null until it is needed
     };
 
-    void sortStably(Slots& rows, QString Entry::*key) const;
+    typedef std::vector<Entry> Entries;
+    static void sortStably(const Entries& entries, Slots& rows, QString Entry::*key);
+    Slots inOrder(Slots rows) const;
     const Entry& entry(Slot slot) const { return m_entries[size_t(slot)]; }
     QString columnKey(const Entry& entry) const;
     const QString& lines(const Entry& entry) const;
@@ -90,13 +96,22 @@ private:
 
     const CellText m_text;
     const int m_columns;
-    std::vector<Entry> m_entries;
+    Entries m_entries;
     Slots m_free;
     QHash<QString, Slot> m_slotOf;
     int m_devices = 0;
     int m_column = 0;
     Qt::SortOrder m_order = Qt::AscendingOrder;
     mutable size_t m_prepared = 0; ///< all before it
+};
+
+class NodeEntries::Content
+{
+    friend class NodeEntries;
+    Entries entries;
+    QHash<QString, Slot> slotOf;
+    int devices = 0;
+    Slots byName;
 };
 
 } // namespace ko

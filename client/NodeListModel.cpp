@@ -57,14 +57,10 @@ void NodeListModel::refilter(bool narrower)
     endResetModel();
 }
 
-void NodeListModel::setNodes(const QVector<NodeSummary>& nodes)
+void NodeListModel::setContent(NodeEntries::Content content)
 {
     beginResetModel();
-    m_entries.clear();
-    m_entries.reserve(int(nodes.size()));
-    for (const NodeSummary& node : nodes)
-        m_entries.put(node);
-    m_sorted = m_entries.sorted();
+    m_sorted = m_entries.setContent(std::move(content));
     m_shown = filtered(m_sorted);
     m_preparing.start(0, this);
     endResetModel();
@@ -292,6 +288,14 @@ void NodeListModel::setTypeFilter(ENodeType type)
     const bool narrower = m_type == AllNodeTypes;
     m_type = type;
     refilter(narrower);
+}
+
+QStringList NodeListModel::firstIds(int count) const
+{
+    QStringList ids;
+    for (int i = 0; i < std::min(count, int(m_sorted.size())); ++i)
+        ids.append(m_entries.node(m_sorted.at(i)).id);
+    return ids;
 }
 
 int NodeListModel::rowOf(const QString& id) const

@@ -36,7 +36,9 @@ public:
 
     explicit NodeListModel(RecordingText recordingText, QObject* parent = nullptr);
 
-    void setNodes(const QVector<NodeSummary>& nodes);
+    void setNodes(const QVector<NodeSummary>& nodes) { setContent(NodeEntries::contentOf(nodes)); }
+    /// The same in a fraction of the time.
+    void setContent(NodeEntries::Content content);
 
     /// Takes in nodes that are new or changed and forgets others, together. Many at once cost far less
     /// than one after the other. No node stands in both. One that shows what it did is left alone.
@@ -80,6 +82,9 @@ public:
     int deviceCount() const { return m_entries.deviceCount(); }
     QString idAt(int row) const { return node(row).id; }
     const NodeSummary& node(int row) const { return m_entries.node(m_shown.at(row)); }
+
+    /// Of the nodes that come first, whether they are shown or not.
+    QStringList firstIds(int count) const;
 
     /// Row of a node; -1 if it is not shown or not there.
     int rowOf(const QString& id) const;

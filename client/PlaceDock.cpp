@@ -62,12 +62,20 @@ void PlaceDock::setActive(bool isActive)
         return;
     m_isActive = isActive;
     m_window.list().setDragEnabled(isActive);
-    if (isActive) {
-        m_index.read();
-        m_tree->fill(m_index);
-    } else {
+    if (!isActive)
         showAll();
-    }
+    else if (m_window.database().isLoaded())
+        read();
+    else // the first picture does not wait for it
+        connect(&m_window.database(), &HostNodeDB::loaded, this, &PlaceDock::read);
+}
+
+void PlaceDock::read()
+{
+    if (!m_isActive)
+        return;
+    m_index.read();
+    m_tree->fill(m_index);
 }
 
 void PlaceDock::take(const QVector<NodeSummary>& changed, const QStringList& removed)

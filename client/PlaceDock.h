@@ -36,6 +36,7 @@ protected:
 
 private:
     void setActive(bool isActive);
+    void read();
     void filter();
 
     MainWindow& m_window;

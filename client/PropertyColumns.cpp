@@ -44,6 +44,8 @@ bool PropertyColumns::isWanted(int column) const
 
 void PropertyColumns::update()
 {
+    if (!m_db.isLoaded())
+        return; // the first picture does not wait for a column
     m_lastChange.setWanted(isWanted(m_lastChange.column()));
     for (int column = NodeListModel::FirstPropertyColumn; column < m_model.columnCount(); ++column) {
         if (column == m_lastChange.column())

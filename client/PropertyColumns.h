@@ -34,8 +34,10 @@ public:
     /// Before the model takes in the nodes.
     void take(const QVector<NodeSummary>& changed);
 
-private:
+    /// Reads the columns that are looked at and are not here.
     void update();
+
+private:
     bool isWanted(int column) const;
     QVector<int> filled() const;
     void read(int column);

@@ -933,6 +933,10 @@ Bez volby, která něco udělá a skončí, jako --import, otevře okno a přij�
         <translation>Zobrazit všechny uzly</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>Načítají se uzly...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>V této databázi zatím nic není.</translation>
     </message>

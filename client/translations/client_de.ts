@@ -917,6 +917,10 @@ Ohne eine Option, die etwas tut und endet, wie --import, wird ein Fenster geöff
         <translation>Alle Knoten anzeigen</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>Die Knoten werden gelesen...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>In dieser Datenbank ist noch nichts vorhanden.</translation>
     </message>

@@ -917,6 +917,10 @@ Sin una opción que haga algo y termine, como --import, abre una ventana y acept
         <translation>Mostrar todos los nodos</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>Leyendo los nodos...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>Aún no hay nada en esta base de datos.</translation>
     </message>

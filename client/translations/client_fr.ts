@@ -917,6 +917,10 @@ Sans option qui fait quelque chose puis se termine, comme --import, ouvre une fe
         <translation>Afficher tous les nœuds</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>Lecture des nœuds...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>Cette base de données ne contient encore rien.</translation>
     </message>

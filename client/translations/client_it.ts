@@ -917,6 +917,10 @@ Senza un&apos;opzione che fa qualcosa e termina, come --import, apre una finestr
         <translation>Mostra tutti i nodi</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>Lettura dei nodi...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>In questo database non c&apos;è ancora nulla.</translation>
     </message>

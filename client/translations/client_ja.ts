@@ -901,6 +901,10 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>すべてのノードを表示</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>ノードを読み込んでいます...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>このデータベースにはまだ何もありません。</translation>
     </message>

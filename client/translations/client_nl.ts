@@ -917,6 +917,10 @@ Zonder een optie die iets doet en stopt, zoals --import, wordt een venster geope
         <translation>Alle knooppunten tonen</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>De knooppunten worden gelezen...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>Er staat nog niets in deze database.</translation>
     </message>

@@ -933,6 +933,10 @@ Bez opcji, która coś robi i kończy pracę, jak --import, otwiera okno i przyj
         <translation>Pokaż wszystkie węzły</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>Wczytywanie węzłów...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>W tej bazie danych nie ma jeszcze niczego.</translation>
     </message>

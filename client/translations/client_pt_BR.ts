@@ -917,6 +917,10 @@ Sem uma opção que faça algo e termine, como --import, abre uma janela e aceit
         <translation>Mostrar todos os nós</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>Lendo os nós...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>Ainda não há nada neste banco de dados.</translation>
     </message>

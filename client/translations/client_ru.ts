@@ -933,6 +933,10 @@ Without an option that does something and ends, such as --import, it opens a win
         <translation>Показать все узлы</translation>
     </message>
     <message>
+        <source>Reading the nodes...</source>
+        <translation>Чтение узлов...</translation>
+    </message>
+    <message>
         <source>There is nothing in this database yet.</source>
         <translation>В этой базе данных пока ничего нет.</translation>
     </message>

@@ -121,6 +121,7 @@ std::shared_ptr<StoreWriting> ChangeQueue::begin(const std::function<void()>& wo
     *error = StoreError();
     try {
         m_check.pass(m_store);
+        m_memory.requireNodes();
         return m_store.begin(m_memory.revision, wanted(),
                              [&](const Delta& delta) { return merge(delta, work, notices); });
     } catch (const StoreFailure& failure) {
@@ -391,7 +392,7 @@ bool ChangeQueue::take(int changes)
 NodeStore::Wanted ChangeQueue::wanted() const
 {
     return [this](const NodeID& id) {
-        const NodeRecord* record = m_memory.cache.find(id);
+        const NodeRecord* record = m_memory.cache().find(id);
         return record && record->contents;
     };
 }

@@ -28,20 +28,35 @@ bool HostNodeDB::getBrief(const QString& id, NodeBrief* brief) const
     return d->memory.getBrief(id, brief);
 }
 
+bool HostNodeDB::isLoaded() const
+{
+    return d->memory.isLoaded();
+}
+
 QVector<NodeSummary> HostNodeDB::summaries() const
 {
-    return d->memory.cache.summaries();
+    return summariesLater()();
+}
+
+std::function<QVector<NodeSummary>()> HostNodeDB::summariesLater() const
+{
+    return [packed = d->memory.cache().summaries()] {
+        QVector<NodeSummary> result;
+        result.reserve(int(packed.size()));
+        for (const PackedSummary& summary : packed)
+            result.append(summary.unpacked());
+        return result;
+    };
 }
 
 NodeSummary HostNodeDB::summary(const QString& id) const
 {
-    const NodeRecord* record = d->memory.cache.find(id);
-    return record ? record->summary.unpacked() : NodeSummary();
+    return d->queue.reading([&] { return d->memory.summary(id); });
 }
 
 QStringList HostNodeDB::nodeIdList(ENodeType type) const
 {
-    return d->memory.cache.ids(type);
+    return d->memory.cache().ids(type);
 }
 
 QStringList HostNodeDB::nodesWithMac(const QString& mac) const
@@ -131,12 +146,12 @@ void HostNodeDB::removeNodeRelation(const QString& from, const QString& to, ENod
 
 QStringList HostNodeDB::relatedNodes(const QString& id, ENodeRelationType type) const
 {
-    return d->memory.relations.destinations(id, type);
+    return d->queue.reading([&] { return d->memory.relatedNodes(id, type); });
 }
 
 bool HostNodeDB::isDestinationOfNodeRelation(const QString& id, ENodeRelationType type) const
 {
-    return d->memory.relations.isDestination(id, type);
+    return d->memory.relations().isDestination(id, type);
 }
 
 // Scanners

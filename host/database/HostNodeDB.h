@@ -45,7 +45,8 @@ public:
     /// When the file is looked through for damage.
     enum class Check {
         First, ///< before it is opened: a damaged file is left as it is
-        Behind ///< while it is in use already, for a window that must not wait; see checked()
+        Behind ///< while it is in use already, for a window that must not wait; see checked(). The nodes are
+               ///< read meanwhile, too; see isLoaded()
     };
 
     /// Opens \a file, creating or migrating it as needed; null and \a error when that cannot be done,
@@ -101,8 +102,14 @@ public:
     Scanning* scanning() const;
     void setScanning(std::unique_ptr<Scanning> scanning);
 
+    /// Whether all nodes are in memory. Until then whatever needs them waits for that, but summary() and
+    /// relatedNodes(), which look at the file.
+    bool isLoaded() const;
+
     /// Summaries of all nodes, oldest first, without touching the disk.
     QVector<NodeSummary> summaries() const;
+    /// The same, made when what is returned is called, in whichever thread.
+    std::function<QVector<NodeSummary>()> summariesLater() const;
 
     /// The summary of one node; its id is empty when there is no such node.
     NodeSummary summary(const QString& id) const;
@@ -195,6 +202,8 @@ signals:
     /// Something could not be read: what is affected looks as if it were not there. Nothing is
     /// overwritten. Emitted from the event loop, once for each different error.
     void storeDamaged(const ko::StoreError& error);
+    /// isLoaded() for sure, once, from the event loop.
+    void loaded();
     /// A check in the background has ended: without an error, or the file must not be used any more.
     /// Nothing is written before it has ended, and nothing after an error.
     void checked(const ko::StoreError& error);

@@ -4,8 +4,6 @@
 #include "recording/VolumeProbe.h"
 #include "secrets/Vault.h"
 
-#include <QElapsedTimer>
-
 namespace ko {
 
 std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* error, Check check)
@@ -25,7 +23,7 @@ std::unique_ptr<HostNodeDB> HostNodeDB::open(const QString& file, StoreError* er
 }
 
 HostNodeDB::HostNodeDB(std::unique_ptr<NodeStore> opened, Check check)
-    : d(new Private(*this, std::move(opened)))
+    : d(new Private(*this, std::move(opened), check))
 {
     d->start(check);
     VolumeProbe::install();
@@ -49,10 +47,14 @@ int HostNodeDB::permilleStored() const
     return d->queue.permilleStored();
 }
 
-HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened)
+HostNodeDB::Private::Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened, Check when)
     : q(database)
     , store(std::move(opened))
-    , memory(*store)
+    , memory(*store, when == Check::Behind ? std::launch::async : std::launch::deferred,
+             [this] {
+                 QMetaObject::invokeMethod(
+                     &q, [this] { nodesRead(); }, Qt::QueuedConnection);
+             })
     , queue(*store, memory)
     , settings(memory, [this] { queue.schedule(); })
     , logs(*store, memory, queue)
@@ -70,9 +72,13 @@ void HostNodeDB::Private::start(Check when)
     QObject::connect(&queue, &ChangeQueue::recovered, &q, &HostNodeDB::storeRecovered);
     QObject::connect(&queue, &ChangeQueue::storing, &q, &HostNodeDB::storing);
     QObject::connect(&queue, &ChangeQueue::damaged, &q, &HostNodeDB::storeDamaged);
-    QObject::connect(&queue, &ChangeQueue::checked, &q, &HostNodeDB::checked);
-    if (when == Check::Behind)
+    QObject::connect(&queue, &ChangeQueue::checked, &q, [this](const StoreError& error) { tell(error); });
+    if (when == Check::Behind) {
         queue.checkInBackground();
+    } else {
+        memory.cache();
+        memory.requireNodes();
+    }
     storeDefaults();
     store->vault()->setClearAllowed(store->isSealingPending());
     store->vault()->setListener([this](StoreError::Kind kind) {
@@ -83,19 +89,25 @@ void HostNodeDB::Private::start(Check when)
     });
     settings.reload();
     queue.start();
-    QObject::connect(&m_idle, &QTimer::timeout, &q, [this] { prepareSome(); });
-    m_idle.start(0);
 }
 
-void HostNodeDB::Private::prepareSome()
+void HostNodeDB::Private::nodesRead()
 {
-    QElapsedTimer clock;
-    clock.start();
-    bool isMore = true;
-    while (isMore && !clock.hasExpired(2))
-        isMore = memory.cache.prepareSome();
-    if (!isMore)
-        m_idle.stop();
+    try {
+        memory.cache(); // the thread has not quite ended
+        memory.requireNodes();
+        emit q.loaded();
+    } catch (const StoreFailure& failure) {
+        tell(failure.error);
+    }
+}
+
+/// What is damaged may be found twice.
+void HostNodeDB::Private::tell(const StoreError& checked)
+{
+    if (!m_isRefused)
+        emit q.checked(checked);
+    m_isRefused = m_isRefused || checked;
 }
 
 /// Of a new database; another process may be making them at the same time. A copy of a site gets what the
@@ -120,7 +132,7 @@ void HostNodeDB::Private::announce(const Notices& notices)
         emit q.settingsChanged();
     }
     for (const auto& notice : notices.nodes()) {
-        const bool exists = memory.cache.find(notice.second);
+        const bool exists = memory.cache().find(notice.second);
         if (notice.first == Notices::Removed && !exists)
             emit q.nodeRemoved(notice.second);
         else if (notice.first == Notices::Inserted && exists)

@@ -9,8 +9,6 @@
 #include "database/StoredHistory.h"
 #include "database/StoredLogs.h"
 
-#include <QTimer>
-
 #include <set>
 
 namespace ko {
@@ -19,7 +17,7 @@ namespace ko {
 class HostNodeDB::Private
 {
 public:
-    Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened);
+    Private(HostNodeDB& database, std::unique_ptr<NodeStore> opened, Check when);
 
     void start(Check when);
     void announce(const Notices& notices);
@@ -41,11 +39,12 @@ public:
     std::unique_ptr<Scanning> scanning; ///< destroyed first
 
 private:
+    void nodesRead();
+    void tell(const StoreError& checked);
     void storeDefaults();
-    void prepareSome();
 
-    QTimer m_idle; ///< prepares between other things what else the first window would wait for
     Cause m_draft;
+    bool m_isRefused = false;                ///< the file must not be used any more
     std::set<std::string> m_missingScanners; ///< known to be missing, said once each
 };
 

@@ -23,47 +23,33 @@ NodeData NodeRecord::data() const
 
 NodeRecord* NodeCache::find(const NodeID& id) const
 {
-    prepareAll();
+    prepare();
     return m_byId.find(id);
 }
 
-bool NodeCache::prepareSome() const
+void NodeCache::prepare() const
 {
-    if (m_ready == Ready::Nothing) {
-        m_byId.reserve(m_nodes.size());
-        m_next = m_nodes.begin();
-        m_ready = Ready::Some;
-    }
-    for (int i = 0; i < 500 && m_ready == Ready::Some; ++i) {
-        if (m_next == m_nodes.end()) {
-            m_ready = Ready::All;
-            break;
-        }
-        const PackedSummary& summary = m_next->second.summary;
+    if (m_isReady)
+        return;
+    m_isReady = true;
+    m_byId.reserve(m_nodes.size());
+    for (const auto& node : m_nodes) {
+        const PackedSummary& summary = node.second.summary;
         m_ids[summary.type()].append(summary.id());
-        m_byId.insert(const_cast<NodeRecord*>(&(m_next++)->second));
-    }
-    return m_ready != Ready::All;
-}
-
-void NodeCache::prepareAll() const
-{
-    while (prepareSome()) {
+        m_byId.insert(const_cast<NodeRecord*>(&node.second));
     }
 }
 
 /// Before a node comes, goes or changes its place.
 void NodeCache::changed()
 {
-    if (m_ready == Ready::Some)
-        prepareAll();
     m_ids.clear();
     m_allIds.clear();
 }
 
 const QStringList& NodeCache::ids(ENodeType type) const
 {
-    prepareAll();
+    prepare();
     const bool isMissing = type == AllNodeTypes ? m_allIds.isEmpty() : m_ids.isEmpty();
     for (auto node = m_nodes.cbegin(); isMissing && node != m_nodes.cend(); ++node) {
         const PackedSummary& summary = node->second.summary;
@@ -72,12 +58,12 @@ const QStringList& NodeCache::ids(ENodeType type) const
     return type == AllNodeTypes ? m_allIds : m_ids[type];
 }
 
-QVector<NodeSummary> NodeCache::summaries() const
+QVector<PackedSummary> NodeCache::summaries() const
 {
-    QVector<NodeSummary> result;
+    QVector<PackedSummary> result;
     result.reserve(count());
     for (const auto& node : m_nodes)
-        result.append(node.second.summary.unpacked());
+        result.append(node.second.summary);
     return result;
 }
 
@@ -88,7 +74,7 @@ NodeRecord& NodeCache::insert(qint64 order, const PackedSummary& summary)
     NodeRecord& record = m_nodes.emplace_hint(m_nodes.end(), order, NodeRecord())->second;
     record.order = order;
     record.summary = summary;
-    if (m_ready == Ready::All)
+    if (m_isReady)
         m_byId.insert(&record);
     return record;
 }
@@ -113,7 +99,7 @@ NodeCache::Map::iterator NodeCache::placeOf(const NodeRecord& record)
 
 void NodeCache::remove(NodeRecord& record)
 {
-    prepareAll();
+    prepare();
     changed();
     setLookupKey(record, QString());
     m_byId.remove(&record);

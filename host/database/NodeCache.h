@@ -57,13 +57,12 @@ public:
 
     NodeRecord* find(const NodeID& id) const;
 
-    /// Gets some more nodes ready for find() and ids(), which else do that for all when they are first
-    /// called. False when none is left.
-    bool prepareSome() const;
+    /// Gets the nodes ready for find() and ids(), which else do that when they are first called.
+    void prepare() const;
 
     /// The identifiers of the nodes of a type, or of all; kept until a node comes, goes or changes its place.
     const QStringList& ids(ENodeType type) const;
-    QVector<NodeSummary> summaries() const;
+    QVector<PackedSummary> summaries() const;
 
     /// Adds a node of the store that is not here yet.
     NodeRecord& insertStored(qint64 order, const PackedSummary& summary);
@@ -89,16 +88,12 @@ private:
     Map::iterator placeOf(const NodeRecord& record);
 
     Map m_nodes;
-    void prepareAll() const;
     void changed();
-
-    enum class Ready { Nothing, Some, All };
 
     mutable NodeIndex m_byId;
     mutable QHash<int, QStringList> m_ids; ///< by type; empty after a change
     mutable QStringList m_allIds;          ///< likewise
-    mutable Ready m_ready = Ready::Nothing;
-    mutable Map::const_iterator m_next; ///< to be made ready
+    mutable bool m_isReady = false;
     QMultiHash<QString, NodeRecord*> m_byLookupKey;
     qint64 m_nextUnstored = FirstUnstored;
     bool m_lookupReady = false;

@@ -60,7 +60,7 @@ kom::smart<const Node> NodeEditing::node(const NodeID& id)
 /// The record of the node with its properties; null if there is none or it cannot be read.
 NodeRecord* NodeEditing::read(const NodeID& id)
 {
-    NodeRecord* record = m_memory.cache.find(id);
+    NodeRecord* record = m_memory.cache().find(id);
     return record && m_queue.reading([&] { return m_memory.read(*record); }) ? record : nullptr;
 }
 
@@ -101,10 +101,10 @@ void NodeEditing::written(const NodeID& id, ENodeType type)
 /// A camera that is reached through the remote preview server has a node with its settings for that.
 void NodeEditing::makeRemotePreview(const NodeID& camera)
 {
-    const NodeRecord* record = m_memory.cache.find(camera);
+    const NodeRecord* record = m_memory.cache().find(camera);
     if (!record || record->summary.type() != IPDeviceType ||
         !record->data().properties.value(PropertyKeys::UseRecordingTransponder).toBool() ||
-        !m_memory.relations.destinations(camera, RecordingTransponderRelation).isEmpty())
+        !m_memory.relations().destinations(camera, RecordingTransponderRelation).isEmpty())
         return;
     const NodeID preview =
         add(NodeTypes::remotePreviewOf(record->data(), m_settings.text(HostSettings::TransponderAddress)));
@@ -129,18 +129,18 @@ NodeID NodeEditing::add(NodeData data)
 
 void NodeEditing::remove(const NodeID& id)
 {
-    NodeRecord* record = m_memory.isReadOnly ? nullptr : m_memory.cache.find(id);
+    NodeRecord* record = m_memory.isReadOnly ? nullptr : m_memory.cache().find(id);
     if (!record)
         return;
     const NodeID removed = record->summary.id(); // the caller's may be a part of what goes
-    const QStringList previews = m_memory.relations.destinations(removed, RecordingTransponderRelation);
+    const QStringList previews = m_memory.relations().destinations(removed, RecordingTransponderRelation);
     m_memory.remove(*record);
     m_queue.schedule();
     Notices notices;
     notices.removed(removed);
     m_announce(notices);
     for (const QString& preview : previews) {
-        if (!m_memory.relations.isDestination(preview, RecordingTransponderRelation))
+        if (!m_memory.relations().isDestination(preview, RecordingTransponderRelation))
             remove(preview);
     }
 }
@@ -148,7 +148,7 @@ void NodeEditing::remove(const NodeID& id)
 void NodeEditing::change(const RelationChange& change)
 {
     const Relation& relation = change.relation;
-    const bool exist = m_memory.cache.find(relation.source) && m_memory.cache.find(relation.destination);
+    const bool exist = m_memory.cache().find(relation.source) && m_memory.cache().find(relation.destination);
     if (m_memory.isReadOnly || (change.isAdded && !exist) || !m_memory.change(change))
         return;
     m_queue.schedule();
@@ -166,7 +166,7 @@ bool NodeEditing::apply(const ChangeSet& set)
         m_memory.readAhead(ids); // what fails fails before anything is done
         const Notices notices = applyAll(set);
         for (const NodeChange& change : set.nodes) {
-            const NodeRecord* record = m_memory.cache.find(change.id);
+            const NodeRecord* record = m_memory.cache().find(change.id);
             if (record && record->contents)
                 written(change.id, record->summary.type()); // others may have its extension meanwhile
         }
@@ -205,7 +205,7 @@ Notices NodeEditing::applyAll(const ChangeSet& set)
         apply(change, &notices);
     for (const RelationChange& change : set.relations) {
         const Relation& relation = change.relation;
-        if (!m_memory.cache.find(relation.source) || !m_memory.cache.find(relation.destination) ||
+        if (!m_memory.cache().find(relation.source) || !m_memory.cache().find(relation.destination) ||
             !m_memory.change(change))
             continue;
         notices.updated(relation.source);
@@ -222,7 +222,7 @@ Notices NodeEditing::applyAll(const ChangeSet& set)
 
 void NodeEditing::apply(const NodeChange& change, Notices* notices)
 {
-    NodeRecord* record = m_memory.cache.find(change.id);
+    NodeRecord* record = m_memory.cache().find(change.id);
     if (change.isAdded() == (record != nullptr) || (record && !m_memory.read(*record)))
         return;
     NodeData data;

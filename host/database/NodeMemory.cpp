@@ -20,21 +20,63 @@ NodeChange changeOf(const NodeData& data)
 
 } // namespace
 
-NodeMemory::NodeMemory(NodeStore& store)
+NodeMemory::NodeMemory(NodeStore& store, std::launch when, const std::function<void()>& loaded)
     : m_store(store)
 {
-    const NodeStore::Contents contents = store.load(
-        [this](qint64 place, const PackedSummary& summary) { cache.insertStored(place, summary); });
-    for (const Relation& relation : contents.relations)
-        relations.add(relation);
+    NodeStore::Contents contents = store.load(); // first: what is newer comes again
     revision = contents.revision;
-    settings = contents.settings;
-    environments = contents.environments;
+    settings = std::move(contents.settings);
+    environments = std::move(contents.environments);
+    m_loading = std::make_unique<NodeLoading>(store.fileName(), when, loaded);
+}
+
+bool NodeMemory::isLoaded() const
+{
+    if (m_loading && m_loading->isEnded())
+        finishLoading();
+    return !m_loading;
+}
+
+void NodeMemory::finishLoading() const
+{
+    const std::unique_ptr<NodeLoading> loading = std::move(m_loading);
+    try {
+        m_nodes = loading->take();
+    } catch (const StoreFailure& failure) {
+        m_loadingFailure = failure.error;
+    }
+}
+
+void NodeMemory::requireNodes() const
+{
+    if (m_loadingFailure)
+        throw StoreFailure{m_loadingFailure};
+}
+
+NodeSummary NodeMemory::summary(const NodeID& id) const
+{
+    if (!isLoaded())
+        return m_store.node(id).summary.unpacked();
+    const NodeRecord* record = cache().find(id);
+    return record ? record->summary.unpacked() : NodeSummary();
+}
+
+QStringList NodeMemory::relatedNodes(const NodeID& id, ENodeRelationType type) const
+{
+    if (isLoaded())
+        return relations().destinations(id, type);
+    QStringList nodes;
+    const QVector<Relation> stored = m_store.relationsFrom(id);
+    for (const Relation& relation : stored) {
+        if (relation.type == type)
+            nodes.append(relation.destination);
+    }
+    return nodes;
 }
 
 bool NodeMemory::getBrief(const NodeID& id, NodeBrief* brief) const
 {
-    const NodeRecord* record = cache.find(id);
+    const NodeRecord* record = cache().find(id);
     if (!record)
         return false;
     const NodeSummary summary = record->summary.unpacked();
@@ -59,13 +101,13 @@ bool NodeMemory::read(NodeRecord& record)
 void NodeMemory::readAhead(const QStringList& ids)
 {
     const auto isMissing = [this](const NodeID& id) {
-        const NodeRecord* record = cache.find(id);
+        const NodeRecord* record = cache().find(id);
         return record && !record->contents;
     };
     QStringList missing;
     std::copy_if(ids.begin(), ids.end(), std::back_inserter(missing), isMissing);
     m_store.properties(missing, [this](const NodeID& id, const PropertyList& properties) {
-        NodeRecord* record = cache.find(id);
+        NodeRecord* record = cache().find(id);
         NodeData data = record->data();
         data.properties = properties;
         setData(*record, data);
@@ -77,26 +119,26 @@ QString NodeMemory::nodeWithLookupKey(const QString& key)
     if (key.isEmpty())
         return QString();
     readLookupKeys();
-    const NodeRecord* record = cache.findLookupKey(key);
+    const NodeRecord* record = cache().findLookupKey(key);
     return record ? record->summary.id() : QString();
 }
 
 /// Once.
 void NodeMemory::readLookupKeys()
 {
-    if (cache.lookupReady())
+    if (cache().lookupReady())
         return;
     m_store.lookupKeys([this](const NodeID& id, const QString& key) {
-        if (NodeRecord* record = cache.find(id))
-            cache.setLookupKey(*record, NodeTypes::lookupKeyToday(key));
+        if (NodeRecord* record = cache().find(id))
+            cache().setLookupKey(*record, NodeTypes::lookupKeyToday(key));
     });
     const QStringList changed = pending.nodes();
     for (const NodeID& id : changed) {
-        NodeRecord* record = cache.find(id);
+        NodeRecord* record = cache().find(id);
         if (record && record->contents) // else only a relation of it waits
-            cache.setLookupKey(*record, NodeTypes::lookupKey(record->data()));
+            cache().setLookupKey(*record, NodeTypes::lookupKey(record->data()));
     }
-    cache.setLookupReady();
+    cache().setLookupReady();
 }
 
 QStringList NodeMemory::nodesWithMac(const QString& mac)
@@ -104,7 +146,7 @@ QStringList NodeMemory::nodesWithMac(const QString& mac)
     QStringList ids = m_store.nodesWithMac(mac);
     const QStringList waiting = pending.nodes();
     for (const NodeID& id : waiting) {
-        const NodeRecord* record = cache.find(id);
+        const NodeRecord* record = cache().find(id);
         if (record && !record->contents)
             continue; // only a relation of it waits
         ids.removeAll(id);
@@ -119,7 +161,7 @@ void NodeMemory::column(const QString& key, const std::function<void(const NodeI
     const QStringList nodes = pending.nodes();
     QSet<NodeID> waiting;
     for (const NodeID& id : nodes) {
-        const NodeRecord* record = cache.find(id);
+        const NodeRecord* record = cache().find(id);
         if (record && !record->contents)
             continue; // only a relation of it waits
         waiting.insert(id);
@@ -142,7 +184,7 @@ Notices NodeMemory::take(const Delta& delta)
         takeNode(row, !delta.everything, &notices);
     if (delta.everything) {
         removeMissing(delta, &notices);
-        cache.clearLookup(); // its keys were not read
+        cache().clearLookup(); // its keys were not read
     }
     takeRelations(delta, &notices);
     if (delta.hasSettings)
@@ -153,7 +195,7 @@ Notices NodeMemory::take(const Delta& delta)
 
 void NodeMemory::takeNode(const NodeRow& row, bool always, Notices* notices)
 {
-    NodeRecord* record = cache.find(row.id);
+    NodeRecord* record = cache().find(row.id);
     if (!row.place) {
         if (record && !pending.adds(row.id)) {
             forget(*record);
@@ -164,9 +206,9 @@ void NodeMemory::takeNode(const NodeRow& row, bool always, Notices* notices)
     if (pending.removes(row.id))
         return;
     if (!record) {
-        NodeRecord& added = cache.insertStored(row.place, row.summary);
-        if (cache.lookupReady())
-            cache.setLookupKey(added, row.lookupKey);
+        NodeRecord& added = cache().insertStored(row.place, row.summary);
+        if (cache().lookupReady())
+            cache().setLookupKey(added, row.lookupKey);
         notices->inserted(row.id);
     } else if (takeRow(*record, row) || always) {
         notices->updated(row.id);
@@ -177,11 +219,11 @@ bool NodeMemory::takeRow(NodeRecord& record, const NodeRow& row)
 {
     const PackedSummary before = record.summary;
     if (record.order != row.place)
-        cache.setStored(record, row.place);
+        cache().setStored(record, row.place);
     if (!row.properties) {
         record.summary = row.summary;
-        if (cache.lookupReady())
-            cache.setLookupKey(record, row.lookupKey);
+        if (cache().lookupReady())
+            cache().setLookupKey(record, row.lookupKey);
         return record.summary != before;
     }
     const PropertyList properties = record.data().properties;
@@ -203,7 +245,7 @@ void NodeMemory::removeMissing(const Delta& delta, Notices* notices)
     for (const NodeRow& row : delta.nodes)
         stored.insert(row.id);
     QVector<NodeRecord*> missing;
-    for (auto& entry : cache) {
+    for (auto& entry : cache()) {
         const NodeID id = entry.second.summary.id();
         if (!stored.contains(id) && !pending.adds(id))
             missing.append(&entry.second);
@@ -218,12 +260,12 @@ void NodeMemory::takeRelations(const Delta& delta, Notices* notices)
 {
     QStringList sources = delta.relations.keys();
     if (delta.everything)
-        sources += relations.sources();
+        sources += relations().sources();
     sources.removeDuplicates();
     for (const NodeID& source : std::as_const(sources)) {
         QVector<Relation> rows = delta.relations.value(source);
         pending.applyTo(rows, source);
-        const QStringList changed = relations.replaceFrom(source, rows);
+        const QStringList changed = relations().replaceFrom(source, rows);
         if (changed.isEmpty())
             continue;
         notices->updated(source);
@@ -246,9 +288,9 @@ void NodeMemory::takeSettings(const Delta& delta, Notices* notices)
 void NodeMemory::forget(NodeRecord& record)
 {
     const NodeID id = record.summary.id();
-    relations.removeNode(id);
+    relations().removeNode(id);
     pending.drop(id);
-    cache.remove(record);
+    cache().remove(record);
 }
 
 void NodeMemory::stored(const NodeStore::Commit& commit, Notices* notices)
@@ -256,16 +298,16 @@ void NodeMemory::stored(const NodeStore::Commit& commit, Notices* notices)
     pending.endStoring();
     revision = commit.revision;
     for (auto it = commit.places.begin(); it != commit.places.end(); ++it) {
-        if (NodeRecord* record = cache.find(it.key()))
-            cache.setStored(*record, it.value());
+        if (NodeRecord* record = cache().find(it.key()))
+            cache().setStored(*record, it.value());
     }
     for (auto it = commit.reordered.begin(); it != commit.reordered.end(); ++it) {
         QVector<Relation> rows = it.value();
         pending.applyTo(rows, it.key());
-        relations.replaceFrom(it.key(), rows);
+        relations().replaceFrom(it.key(), rows);
     }
     for (const NodeID& id : commit.missingNodes) {
-        if (NodeRecord* record = cache.find(id)) {
+        if (NodeRecord* record = cache().find(id)) {
             forget(*record);
             notices->removed(id);
         }
@@ -279,7 +321,7 @@ void NodeMemory::add(const NodeData& data, qint64 place)
     NodeChange change = changeOf(data);
     change.place = place;
     change.after = NodeValues{data.name, data.properties};
-    NodeRecord& record = cache.append(change.summary);
+    NodeRecord& record = cache().append(change.summary);
     setData(record, data);
     record.contents->context = data.context; // nobody has the node yet
     pending.nodeAdded(change);
@@ -307,13 +349,13 @@ void NodeMemory::remove(NodeRecord& record)
 {
     const NodeID id = record.summary.id();
     pending.nodeRemoved(id, record.summary.type());
-    relations.removeNode(id);
-    cache.remove(record);
+    relations().removeNode(id);
+    cache().remove(record);
 }
 
 bool NodeMemory::change(const RelationChange& change)
 {
-    if (!(change.isAdded ? relations.add(change.relation) : relations.remove(change.relation)))
+    if (!(change.isAdded ? relations().add(change.relation) : relations().remove(change.relation)))
         return false;
     pending.relationChanged(change);
     return true;
@@ -347,8 +389,8 @@ void NodeMemory::setData(NodeRecord& record, const NodeData& data)
         record.contents = std::make_unique<NodeRecord::Contents>();
     record.contents->properties = data.properties;
     record.contents->node.reset(); // what was handed out does not change
-    if (cache.lookupReady())
-        cache.setLookupKey(record, NodeTypes::lookupKey(data));
+    if (cache().lookupReady())
+        cache().setLookupKey(record, NodeTypes::lookupKey(data));
 }
 
 } // namespace ko

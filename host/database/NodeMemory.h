@@ -1,10 +1,9 @@
 #ifndef KO_NODEMEMORY_H
 #define KO_NODEMEMORY_H
 
-#include "database/NodeCache.h"
+#include "database/NodeLoading.h"
 #include "database/Notices.h"
 #include "database/PendingChanges.h"
-#include "database/RelationIndex.h"
 #include "ko/NodeDB.h"
 #include "model/Delta.h"
 #include "store/NodeStore.h"
@@ -16,16 +15,28 @@ namespace ko {
 class NodeMemory
 {
 public:
-    NodeCache cache;
-    RelationIndex relations;
     Settings settings;
     Environments::List environments;
     PendingChanges pending;
     qint64 revision = 0;     ///< of the store, which is in here
     bool isReadOnly = false; ///< the user may not change anything; what others change still comes
 
-    /// Reads everything but properties. Throws StoreFailure. \a store outlives the memory.
-    explicit NodeMemory(NodeStore& store);
+    /// Reads everything but properties; for the nodes see NodeLoading. Throws StoreFailure. \a store outlives
+    /// the memory.
+    NodeMemory(NodeStore& store, std::launch when, const std::function<void()>& loaded);
+
+    /// All nodes and relations. Wait until they are here; empty if that failed.
+    NodeCache& cache() const { return nodes().cache; }
+    RelationIndex& relations() const { return nodes().relations; }
+
+    /// Whether nobody has to wait any more.
+    bool isLoaded() const;
+    /// Throws StoreFailure once it is known that the nodes could not be read.
+    void requireNodes() const;
+
+    /// See HostNodeDB. They do not wait: what is not here yet is read from the store. Throw StoreFailure.
+    NodeSummary summary(const NodeID& id) const;
+    QStringList relatedNodes(const NodeID& id, ENodeRelationType type) const;
 
     /// Of the passwords in the store.
     const std::shared_ptr<Vault>& vault() const { return m_store.vault(); }
@@ -72,6 +83,13 @@ public:
     void setEnvironments(const Environments::List& list);
 
 private:
+    NodeLoading::Nodes& nodes() const
+    {
+        if (m_loading)
+            finishLoading();
+        return m_nodes;
+    }
+    void finishLoading() const;
     void readLookupKeys();
     void setData(NodeRecord& record, const NodeData& data);
     void takeNode(const NodeRow& row, bool always, Notices* notices);
@@ -82,6 +100,9 @@ private:
     void forget(NodeRecord& record);
 
     NodeStore& m_store;
+    mutable NodeLoading::Nodes m_nodes;
+    mutable std::unique_ptr<NodeLoading> m_loading; ///< as long as they are on their way
+    mutable StoreError m_loadingFailure;
 };
 
 } // namespace ko

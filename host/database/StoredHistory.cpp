@@ -80,7 +80,7 @@ std::optional<PresentState> StoredHistory::present(const PresentState::Wanted& w
     PresentState state;
     const bool isRead = m_queue.reading([&] {
         for (const NodeID& id : wanted.values) {
-            NodeRecord* record = m_memory.cache.find(id);
+            NodeRecord* record = m_memory.cache().find(id);
             if (record && m_memory.read(*record))
                 state.nodes.insert(id, record->data());
         }
@@ -89,13 +89,13 @@ std::optional<PresentState> StoredHistory::present(const PresentState::Wanted& w
     if (!isRead)
         return std::nullopt;
     for (const NodeID& id : wanted.ends) {
-        if (m_memory.cache.find(id))
+        if (m_memory.cache().find(id))
             state.ends.insert(id);
     }
     for (const NodeID& id : wanted.sources)
-        state.relations += m_memory.relations.relationsFrom(id);
+        state.relations += m_memory.relations().relationsFrom(id);
     for (const NodeID& id : wanted.related)
-        state.relations += m_memory.relations.relationsOf(id);
+        state.relations += m_memory.relations().relationsOf(id);
     state.settings = m_memory.settings;
     state.environments = m_memory.environments;
     return state;

@@ -63,7 +63,7 @@ void WrittenDevices::complete(Notices* notices)
         return;
     readWaiting(QSet<NodeID>(written.cbegin(), written.cend()));
     for (const NodeID& id : written) {
-        NodeRecord* record = m_memory.cache.find(id);
+        NodeRecord* record = m_memory.cache().find(id);
         if (!record || !record->contents || m_settled.contains(id))
             continue; // removed since, or seen to
         m_settled.insert(id);
@@ -89,7 +89,7 @@ void WrittenDevices::readWaiting(const QSet<NodeID>& written)
 {
     const QStringList ids = m_memory.pending.nodes();
     for (const NodeID& id : ids) {
-        const NodeRecord* record = m_memory.cache.find(id);
+        const NodeRecord* record = m_memory.cache().find(id);
         if (record && !record->contents)
             continue; // only a relation of it waits
         m_waiting.insert(id);

@@ -154,20 +154,30 @@ bool NodeStore::isSealingPending()
     return StoredSecrets::isPending(*d->view().connection);
 }
 
-NodeStore::Contents NodeStore::load(const std::function<void(qint64, const PackedSummary&)>& visit)
+NodeStore::Contents NodeStore::load()
 {
-    Contents contents;
-    {
-        const Transaction transaction(*d->own.connection, Transaction::Read);
-        d->dataVersion = d->own.connection->dataVersion();
-        contents.revision = d->own.log.revision();
-        d->own.tables.forEachNode(visit);
-        contents.relations = d->own.tables.relations();
-        contents.settings = d->own.tables.settings();
-        contents.environments = d->own.tables.environments();
-    }
-    d->own.connection->execute("PRAGMA shrink_memory"); // nobody reads all those pages again
-    return contents;
+    const Transaction transaction(*d->own.connection, Transaction::Read);
+    d->dataVersion = d->own.connection->dataVersion();
+    return {d->own.log.revision(), d->own.tables.settings(), d->own.tables.environments()};
+}
+
+QVector<Relation> NodeStore::readNodes(const QString& file,
+                                       const std::function<void(qint64, const PackedSummary&)>& visit)
+{
+    View view(SqliteStore::openBeside(file));
+    const Transaction transaction(*view.connection, Transaction::Read);
+    view.tables.forEachNode(visit);
+    return view.tables.relations();
+}
+
+NodeRow NodeStore::node(const NodeID& id)
+{
+    return d->view().tables.node(id);
+}
+
+QVector<Relation> NodeStore::relationsFrom(const NodeID& id)
+{
+    return d->view().tables.relationsFrom(id);
 }
 
 std::optional<Delta> NodeStore::news(qint64 revision, const Wanted& wanted, int count)

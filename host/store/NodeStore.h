@@ -51,16 +51,23 @@ public:
 
     // Reading
 
-    /// Everything but properties, as it is now: the nodes go to \a visit, oldest first, and are not in what
-    /// is returned; the relations are in their order.
+    /// What is little, as it is now.
     struct Contents
     {
         qint64 revision;
-        QVector<Relation> relations;
         Settings settings;
         Environments::List environments;
     };
-    Contents load(const std::function<void(qint64 place, const PackedSummary&)>& visit);
+    Contents load();
+
+    /// All nodes of \a file, which is in use, oldest first, and its relations in their order, as they are at
+    /// one moment. From any thread. What is newer than a Contents comes again as news().
+    static QVector<Relation> readNodes(const QString& file,
+                                       const std::function<void(qint64 place, const PackedSummary&)>& visit);
+
+    /// Of one node; its place is 0 if there is none.
+    NodeRow node(const NodeID& id);
+    QVector<Relation> relationsFrom(const NodeID& id);
 
     /// Tells of which nodes the properties are wanted, too.
     typedef std::function<bool(const NodeID&)> Wanted;

@@ -61,7 +61,7 @@ void tst_ChangedMeanwhile::storeAsAnna(const std::optional<NodeValues>& after)
     change.before = NodeValues{QStringLiteral("Gate north"), after ? PropertyList() : *store->properties(id)};
     change.after = after;
     set.nodes.append(change);
-    const qint64 revision = store->load([](qint64, const PackedSummary&) {}).revision;
+    const qint64 revision = store->load().revision;
     store->commit(
         revision, [](const NodeID&) { return false; },
         [&set](const Delta&) {

@@ -52,7 +52,7 @@ inline QByteArray deskState(const QString& file)
     if (!store)
         return error.detail.toUtf8();
     QJsonArray nodes;
-    const ko::NodeStore::Contents contents = store->load([](qint64, const ko::PackedSummary&) {});
+    const ko::NodeStore::Contents contents = store->load();
     PlainSql(file).forEach("SELECT n, id, type, name FROM nodes ORDER BY n", [&nodes](const QSqlQuery& row) {
         nodes.append(QJsonArray{row.value(0).toDouble(), row.value(1).toString(), row.value(2).toInt(),
                                 row.value(3).toString()});
