@@ -131,6 +131,7 @@ void MainWindow::createList()
     connect(m_loading, &ListLoading::done, this, [this] {
         m_properties->update();
         applyChanges();
+        m_view->ensureCurrent(); // as one that gets the focus with rows has
     });
     setCentralWidget(m_view);
     connect(m_view, &NodeListView::nodeActivated, this, [this](const QString& id) {

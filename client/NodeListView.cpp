@@ -113,6 +113,12 @@ void NodeListView::chooseColumns()
     QMenu::exec(header()->actions(), header()->mapToGlobal(QPoint(0, header()->height())), nullptr, header());
 }
 
+void NodeListView::ensureCurrent()
+{
+    if (!currentIndex().isValid() && window()->focusWidget() == this && m_model->rowCount() > 0)
+        selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
+}
+
 void NodeListView::enter()
 {
     if (!currentIndex().isValid() && m_model->rowCount() > 0)

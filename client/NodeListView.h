@@ -41,6 +41,9 @@ public:
     /// Does nothing if the columns are no longer those that were saved.
     void restoreColumns(const QSettings& settings);
 
+    /// A list that has the focus has a current row, also if its rows came later.
+    void ensureCurrent();
+
     /// For the search field: the focus goes to the current row, or to the first one.
     void enter();
 

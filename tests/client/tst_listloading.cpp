@@ -104,6 +104,7 @@ void tst_ListLoading::saysThatItReads()
         }
         closeAfterwards(opened);
         QVERIFY(!empty->isVisibleTo(&opened.window));
+        QCOMPARE(opened.window.list().currentIndex().row(), 0);
     }
     QVERIFY(wasMeanwhile);
 }
