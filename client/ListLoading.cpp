@@ -7,7 +7,7 @@
 #include <QEvent>
 #include <QSettings>
 
-#include <algorithm>
+#include <utility>
 
 namespace ko {
 
@@ -82,8 +82,9 @@ void ListLoading::prepare()
 {
     if (m_content.valid() || m_isDone)
         return;
-    m_content = std::async(std::launch::async, [this, summaries = m_db.summariesLater()] {
-        NodeEntries::Content content = NodeEntries::contentOf(summaries());
+    m_content = std::async(std::launch::async, [this, taken = m_db.takeLoadedSummaries()]() mutable {
+        // Here it goes, too, which takes a while.
+        NodeEntries::Content content = NodeEntries::contentOf(std::exchange(taken, nullptr)());
         QMetaObject::invokeMethod(this, &ListLoading::finish, Qt::QueuedConnection);
         return content;
     });

@@ -39,6 +39,8 @@ void NodeListModel::timerEvent(QTimerEvent* event)
 
 NodeListModel::Slots NodeListModel::filtered(const Slots& candidates) const
 {
+    if (m_type == AllNodeTypes && !m_filter && m_search.isEmpty())
+        return candidates;
     Slots passed;
     passed.reserve(candidates.size());
     std::copy_if(candidates.begin(), candidates.end(), std::back_inserter(passed),
@@ -223,12 +225,6 @@ void NodeListModel::setText(int column, const QString& id, const QString& text)
 {
     m_columns.setText(column, id, text);
     m_entries.forgetTexts(id);
-}
-
-QString NodeListModel::knownId(const QString& id) const
-{
-    const Slot slot = m_entries.slotOf(id);
-    return slot < 0 ? id : m_entries.node(slot).id;
 }
 
 CameraState NodeListModel::stateOf(const QString& id) const

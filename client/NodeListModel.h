@@ -54,7 +54,11 @@ public:
     void retranslate();
 
     /// The same identifier, in the memory that it has here already if the node is there.
-    QString knownId(const QString& id) const;
+    QString knownId(const QString& id) const
+    {
+        const Slot slot = m_entries.slotOf(id);
+        return slot < 0 ? id : m_entries.node(slot).id;
+    }
 
     /// The column of a property gets its texts, and from then on those of nodes that change by setText().
     void fill(int column, const ListColumns::Texts& texts);

@@ -35,12 +35,12 @@ bool HostNodeDB::isLoaded() const
 
 QVector<NodeSummary> HostNodeDB::summaries() const
 {
-    return summariesLater()();
+    return d->memory.cache().summaries();
 }
 
-std::function<QVector<NodeSummary>()> HostNodeDB::summariesLater() const
+std::function<QVector<NodeSummary>()> HostNodeDB::takeLoadedSummaries()
 {
-    return [packed = d->memory.cache().summaries()] {
+    return [packed = d->memory.takeLoaded()] {
         QVector<NodeSummary> result;
         result.reserve(int(packed.size()));
         for (const PackedSummary& summary : packed)

@@ -108,8 +108,9 @@ public:
 
     /// Summaries of all nodes, oldest first, without touching the disk.
     QVector<NodeSummary> summaries() const;
-    /// The same, made when what is returned is called, in whichever thread.
-    std::function<QVector<NodeSummary>()> summariesLater() const;
+    /// Of the nodes as they were read, made when what is returned is called, in whichever thread. What was
+    /// changed since was announced. Only until the end of loaded(), and once.
+    std::function<QVector<NodeSummary>()> takeLoadedSummaries();
 
     /// The summary of one node; its id is empty when there is no such node.
     NodeSummary summary(const QString& id) const;

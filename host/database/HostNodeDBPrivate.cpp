@@ -76,7 +76,7 @@ void HostNodeDB::Private::start(Check when)
     if (when == Check::Behind) {
         queue.checkInBackground();
     } else {
-        memory.cache();
+        memory.takeLoaded();
         memory.requireNodes();
     }
     storeDefaults();
@@ -97,6 +97,7 @@ void HostNodeDB::Private::nodesRead()
         memory.cache(); // the thread has not quite ended
         memory.requireNodes();
         emit q.loaded();
+        memory.takeLoaded(); // nobody wanted it
     } catch (const StoreFailure& failure) {
         tell(failure.error);
     }

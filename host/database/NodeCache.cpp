@@ -58,12 +58,12 @@ const QStringList& NodeCache::ids(ENodeType type) const
     return type == AllNodeTypes ? m_allIds : m_ids[type];
 }
 
-QVector<PackedSummary> NodeCache::summaries() const
+QVector<NodeSummary> NodeCache::summaries() const
 {
-    QVector<PackedSummary> result;
+    QVector<NodeSummary> result;
     result.reserve(count());
     for (const auto& node : m_nodes)
-        result.append(node.second.summary);
+        result.append(node.second.summary.unpacked());
     return result;
 }
 

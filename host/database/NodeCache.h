@@ -62,7 +62,7 @@ public:
 
     /// The identifiers of the nodes of a type, or of all; kept until a node comes, goes or changes its place.
     const QStringList& ids(ENodeType type) const;
-    QVector<PackedSummary> summaries() const;
+    QVector<NodeSummary> summaries() const;
 
     /// Adds a node of the store that is not here yet.
     NodeRecord& insertStored(qint64 order, const PackedSummary& summary);

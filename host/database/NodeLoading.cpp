@@ -36,6 +36,7 @@ NodeLoading::Nodes NodeLoading::read(const QString& file) const
             if (m_isGivenUp)
                 throw StoreFailure{StoreError::make(StoreError::CannotOpen, file, QLatin1String("given up"))};
             nodes.cache.insertStored(place, summary);
+            nodes.read.append(summary);
         });
     for (const Relation& relation : relations)
         nodes.relations.add(relation);

@@ -18,6 +18,7 @@ public:
     {
         NodeCache cache; ///< ready for everything
         RelationIndex relations;
+        QVector<PackedSummary> read; ///< to be looked at by another thread: oldest first
     };
 
     /// In a thread that begins at once, or in take(); \a ended is called there.

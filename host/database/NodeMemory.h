@@ -8,6 +8,8 @@
 #include "model/Delta.h"
 #include "store/NodeStore.h"
 
+#include <utility>
+
 namespace ko {
 
 /// The database as this process sees it: what was read from the store, with what waits to be written
@@ -31,6 +33,9 @@ public:
 
     /// Whether nobody has to wait any more.
     bool isLoaded() const;
+    /// The nodes as they were read; waits. Once.
+    QVector<PackedSummary> takeLoaded() { return std::exchange(nodes().read, {}); }
+
     /// Throws StoreFailure once it is known that the nodes could not be read.
     void requireNodes() const;
 
