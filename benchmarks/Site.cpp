@@ -4,6 +4,7 @@
 #include "interfaces/INodeDriverComponent.h"
 #include "ko/NodeHintIPDevice.h"
 
+#include <QEventLoop>
 #include <QFile>
 
 namespace bench {
@@ -45,6 +46,9 @@ std::unique_ptr<HostNodeDB> open(const QString& file)
     std::unique_ptr<HostNodeDB> db = HostNodeDB::open(file, &error, HostNodeDB::Check::Behind);
     if (!db)
         qFatal("%s", qPrintable(error.message));
+    QEventLoop loop; // else the first look at the nodes would wait for the thread that reads them
+    QObject::connect(db.get(), &HostNodeDB::loaded, &loop, &QEventLoop::quit);
+    loop.exec();
     return db;
 }
 
