@@ -38,7 +38,7 @@ using Value = simdjson::simdjson_result<json::value>;
 template <class T>
 T got(simdjson::simdjson_result<T> result, const char* where)
 {
-    T value;
+    T value{};
     require(std::move(result).get(value) == simdjson::SUCCESS, where);
     return value;
 }
