@@ -163,15 +163,18 @@ void SharingSession::fetched(quint64 serial, const QVector<SharedParcel>& parcel
 {
     act(serial, [&] {
         m_failures = 0;
-        m_sentInARow = 0;
-        const SharedLog::Receipt receipt = m_log.receive(parcels);
+        const SharedLog::Receipt receipt =
+            m_log.receive(parcels, isStarving() ? std::nullopt : std::make_optional(m_sent));
         if (receipt == SharedLog::Receipt::Gap)
             return pause(); // the next connection finds out why
         if (receipt == SharedLog::Receipt::Rewritten)
             return refuse(SharingState::Rewritten);
-        m_mustFetch = parcels.size() >= MostParcels;
-        m_state.position = m_log.position();
-        m_last = std::max(m_last, m_state.position);
+        if (receipt == SharedLog::Receipt::Taken) {
+            m_sentInARow = 0;
+            m_mustFetch = parcels.size() >= MostParcels;
+            m_state.position = m_log.position();
+            m_last = std::max(m_last, m_state.position);
+        }
         advance();
     });
 }
@@ -189,6 +192,12 @@ void SharingSession::reviewed(quint64 serial, const QVector<SharedParcel>& parce
         m_mustReview = false;
         advance();
     });
+}
+
+/// Whoever always stores something gets others' work, too.
+bool SharingSession::isStarving() const
+{
+    return m_sentInARow >= mostSent;
 }
 
 bool SharingSession::submit()
@@ -218,13 +227,13 @@ void SharingSession::advance()
         return;
     }
     const bool isBehind = m_mustFetch || position < m_last;
-    const bool mustTakeTurns = isBehind && m_sentInARow >= mostSent; // who never stops gets others' work, too
-    if (!mustTakeTurns && submit())
+    const bool fetchesFirst = isBehind && isStarving();
+    if (!fetchesFirst && submit())
         return;
     want(isBehind ? Step::Fetch : Step::Listen);
     m_request.position = position;
     m_request.pause = isBehind ? 0 : listenPause;
-    if (!mustTakeTurns)
+    if (!fetchesFirst)
         m_state.waiting = 0;
     show(isBehind ? SharingState::CatchingUp : SharingState::UpToDate);
 }

@@ -71,6 +71,7 @@ private:
     void pause();
     void advance();
     bool submit();
+    bool isStarving() const;
     void goBack(qint64 number);
     void show(SharingState::Kind kind, SharingState::Reason reason = SharingState::NoReason,
               const QString& text = QString());

@@ -65,7 +65,7 @@ public:
     }
 
     typedef QVector<SharedParcel>::const_iterator Parcels;
-    Receipt receiveSome(Parcels* next, Parcels end);
+    Receipt receiveSome(Parcels* next, Parcels end, const std::optional<Cursor>& sent);
     qint64 position() { return connection->value("SELECT position FROM shared_site").toLongLong(); }
     const std::unique_ptr<SqliteStore> connection;
     NodeTables tables;
@@ -211,19 +211,22 @@ QVector<SharedParcel> SharedLog::waiting(Cursor* cursor, int lines)
     return parcels;
 }
 
-SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels)
+SharedLog::Receipt SharedLog::receive(const QVector<SharedParcel>& parcels, const std::optional<Cursor>& sent)
 {
     Receipt receipt = Receipt::Taken;
     for (auto next = parcels.begin(); next != parcels.end() && receipt == Receipt::Taken;) {
-        receipt = d->receiveSome(&next, parcels.end());
+        receipt = d->receiveSome(&next, parcels.end(), sent);
         SqliteFile::letOthersIn();
     }
     return receipt;
 }
 
-SharedLog::Receipt SharedLog::Private::receiveSome(Parcels* next, Parcels end)
+SharedLog::Receipt SharedLog::Private::receiveSome(Parcels* next, Parcels end,
+                                                   const std::optional<Cursor>& sent)
 {
     Transaction transaction(*connection, Transaction::Write);
+    if (sent && waiting.areAfter(*sent))
+        return Receipt::SomethingWaits;
     const std::shared_ptr<const InstallationKey> key = Keyring::ofInstallation().key();
     LogChain chain(*connection, key->sealer);
     chain.begin();

@@ -71,17 +71,18 @@ public:
 
     enum class Receipt {
         Taken,
+        SomethingWaits,
         Incomplete, ///< of a copy, whose end did not come
         Gap,
         Rewritten ///< the links of the site's chain do not follow from what is here
     };
 
-    /// Writes what the site did after position(), in its order; what is here already is left out. What waits
-    /// goes on waiting: what it was about may be as others left it until it comes back from the site. Nothing
-    /// is done when a parcel is missing between position() and the first of \a parcels, or a link is wrong.
-    /// Writes them in several transactions, between which others come to write: any of these may be found by
-    /// a later one.
-    Receipt receive(const QVector<SharedParcel>& parcels);
+    /// Writes what the site did after position(), in its order; what is here already is left out. Nothing is
+    /// done when a parcel is missing between position() and the first of \a parcels, when a link is wrong, or
+    /// when something waits after \a sent. Without that, what waits is not in the way, but what it was about
+    /// is as it was before until it comes back from the site. Writes them in several transactions, between
+    /// which others come to write: any of these may be found by a later one.
+    Receipt receive(const QVector<SharedParcel>& parcels, const std::optional<Cursor>& sent);
 
     /// Fills a file that isEmpty() with everything that the site has, in one transaction: first \a history,
     /// whose parcels begin with the first one, then \a state, the rows of all tables. Nothing is done when

@@ -111,6 +111,27 @@ public:
         expect(busy.log->position() >= last, "a busy desk does not get what others did");
     }
 
+    /// After settle(): what was stored last stays when something earlier of the same desk comes back.
+    void keepLast()
+    {
+        Desk& desk = m_desks.front();
+        const QString id = addCamera(*desk.db, QStringLiteral("First"), QStringLiteral("10.7.7.7"));
+        QCoreApplication::processEvents();
+        desk.session->storedHere();
+        while (desk.session->request().step != ko::SharingSession::Step::Fetch) {
+            send(desk);
+            while (!m_network.empty())
+                arrive(0);
+        }
+        send(desk);
+        arrive(0); // at the site; the answer is on its way
+        setText(*desk.db, id, "Name", QStringLiteral("Last"));
+        QCoreApplication::processEvents();
+        arrive(0);
+        desk.db->syncForeignChanges();
+        expect(desk.db->summary(id).name == QLatin1String("Last"), "what was stored last goes back");
+    }
+
     /// After settle(): the site tells of its past otherwise. Each desk finds it out, whatever it was doing,
     /// and keeps what waits.
     void rewritePast()

@@ -88,6 +88,7 @@ void TestSimulation::busyDeskGetsWhatOthersDid()
         for (int i = 0; i < stepsOfARun && simulation.failure().isEmpty(); ++i)
             simulation.step();
         simulation.settle();
+        simulation.keepLast();
         simulation.keepBusy();
         simulation.settle();
         QVERIFY2(simulation.failure().isEmpty(),
